@@ -1,0 +1,42 @@
+# Targets of this project: one interface target that carries the compiler settings, one static library per room,
+# one executable per test room.
+
+add_library(cronovia_settings INTERFACE)
+target_compile_features(cronovia_settings INTERFACE cxx_std_20)
+target_include_directories(cronovia_settings INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_definitions(
+  cronovia_settings
+  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+            CRONOVIA_VERSION="${PROJECT_VERSION}")
+target_compile_options(
+  cronovia_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wold-style-cast
+                              -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+if(CRONOVIA_SANITIZE)
+  target_compile_options(cronovia_settings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                     -fno-omit-frame-pointer)
+  target_link_options(cronovia_settings INTERFACE -fsanitize=address,undefined)
+endif()
+if(CRONOVIA_COVERAGE)
+  target_compile_options(cronovia_settings INTERFACE --coverage)
+  target_link_options(cronovia_settings INTERFACE --coverage)
+endif()
+
+# cronovia_room(<name> SOURCES <file>... [LINKS <target>...]): the static library cronovia_<name>. What a room links is
+# what it may call: an arrow against the direction does not link.
+function(cronovia_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(cronovia_${name} STATIC ${ROOM_SOURCES})
+  target_link_libraries(cronovia_${name} PUBLIC cronovia_settings ${ROOM_LINKS})
+endfunction()
+
+# cronovia_test(<name> SOURCES <file>... LINKS <target>...): the test executable <name>_test, its cases known to ctest.
+function(cronovia_test name)
+  cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name}_test ${TEST_SOURCES})
+  target_include_directories(${name}_test PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+  target_compile_definitions(
+    ${name}_test PRIVATE CRONOVIA_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data"
+                         CRONOVIA_EXAMPLES="${CMAKE_SOURCE_DIR}/examples")
+  target_link_libraries(${name}_test PRIVATE ${TEST_LINKS} GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(${name}_test DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

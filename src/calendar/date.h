@@ -1,0 +1,70 @@
+// Calendar dates as texts and as day numbers.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <compare>
+#include <optional>
+
+namespace cronovia {
+
+/// A day of the calendar.
+struct Gma {
+    int giorno = 0;
+    int mese = 0;
+    int anno = 0;
+
+    friend bool operator==(const Gma&, const Gma&) = default;
+};
+
+/// Number of a day: grows by one each day, 730135 is 1 January 2000. A true calendar from 1901 to 2099.
+class NumeroGiorno {
+  public:
+    constexpr NumeroGiorno() = default;
+    constexpr explicit NumeroGiorno(int numero) : numero_(numero) {}
+
+    [[nodiscard]] constexpr int Numero() const { return numero_; }
+
+    constexpr NumeroGiorno& operator+=(int giorni) {
+        numero_ += giorni;
+        return *this;
+    }
+    friend constexpr NumeroGiorno operator+(NumeroGiorno g, int giorni) { return g += giorni; }
+    friend constexpr NumeroGiorno operator-(NumeroGiorno g, int giorni) { return g += -giorni; }
+    friend constexpr int operator-(NumeroGiorno a, NumeroGiorno b) { return a.numero_ - b.numero_; }
+    friend constexpr auto operator<=>(NumeroGiorno, NumeroGiorno) = default;
+
+  private:
+    int numero_ = 0;
+};
+
+/// Splits and joins a text ddmmyyyy.
+Gma Data2Gma(QStringView data);
+QString Gma2Data(const Gma& gma);
+
+/// Day number of a date, after the formula d + [30.57 m] + [365.25 y - 395.25], less 1 after February and less another
+/// one after the February of a common year; [] is the floor. `Giul2Data` is its inverse.
+NumeroGiorno Data2Giul(const Gma& gma);
+NumeroGiorno Data2Giul(QStringView data);
+Gma Giul2Data(NumeroGiorno giorno);
+
+/// The day as ddmmyyyy.
+QString Giu2Datas(NumeroGiorno giorno);
+
+QString Data2Data(QStringView data);           ///< ddmmyyyy as dd/mm/yyyy
+QString DataClear(QStringView data);           ///< dd/mm/yyyy as ddmmyyyy
+QString DataChan(QStringView data);            ///< ddmmyyyy as yyyymmdd, which sorts
+QString TestoData(NumeroGiorno giorno);        ///< the day as dd/mm/yyyy
+QString TestoGiornoMese(NumeroGiorno giorno);  ///< the day as dd/mm
+
+/// Days in a month, after the Gregorian rule; 28 for a month that does not exist.
+int GiorniMese(int anno, int mese);
+
+/// "Sab", "Dom", "Lun", "Mar", "Mer", "Gio" or "Ven"; the empty text when the date has not eight characters.
+QString GiornoSettimana(QStringView data);
+QString GiornoSettimana(NumeroGiorno giorno);
+
+/// The day of a text ddmmyyyy, or nothing when it is no day of the years 1901 to 2099.
+std::optional<NumeroGiorno> LeggiData(QStringView data);
+
+}  // namespace cronovia

@@ -1,0 +1,62 @@
+#include "calendar/durata.h"
+
+#include <cmath>
+
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+namespace {
+
+int MinutiInCentesimi(int minuti) { return static_cast<int>(std::floor(minuti * 100.0 / 60.0 + 0.5)); }
+
+}  // namespace
+
+Durata LeggiDurata(QStringView testo) {
+    const QString pieno = AntStr(testo, 8, u'0');
+    const QStringView parti(pieno);
+    return {ValoreNumerico(parti.mid(0, 2)), ValoreNumerico(parti.mid(3, 2)), ValoreNumerico(parti.mid(6, 2))};
+}
+
+QString Testo(const Durata& durata) {
+    if (durata.Nulla()) return {};
+    return Zero(durata.giorni, 2) + u':' + Zero(durata.ore, 2) + u':' + Zero(durata.minuti, 2);
+}
+
+QString TestoOre(const Durata& durata) { return Testo(durata).mid(3); }
+
+Centesimi InCentesimi(const Durata& durata, Centesimi giorno) {
+    return Centesimi(durata.ore * 100.0 + durata.giorni * double{giorno.Valore()} + MinutiInCentesimi(durata.minuti));
+}
+
+Durata InDurata(Centesimi centesimi, Centesimi giorno) {
+    const double unita = giorno > 0_cent ? giorno.Valore() : kGiornoOrologio.Valore();
+    const double valore = centesimi.Valore();
+    const double giorni = std::floor(valore / unita);
+    const double ore = std::floor((valore - giorni * unita) / 100.0);
+    const double minuti = std::floor((valore - (giorni * unita + ore * 100.0)) * 60.0 / 100.0 + 0.5);
+    Durata durata{static_cast<int>(giorni), static_cast<int>(ore), static_cast<int>(minuti)};
+    if (durata.minuti == 60) {
+        durata.minuti = 0;
+        durata.ore += 1;
+        if (durata.ore * 100.0 >= unita) durata = {durata.giorni + 1, 0, 0};
+    }
+    return durata;
+}
+
+Centesimi ghmStringa2Centesimi(QStringView testo, Centesimi giorno) { return InCentesimi(LeggiDurata(testo), giorno); }
+
+QString ghmCentesimi2Stringa(Centesimi centesimi, Centesimi giorno) { return Testo(InDurata(centesimi, giorno)); }
+
+QString ghmStringa2Stringa2Punti(QStringView compatto) {
+    const QString cifre = AntStr(compatto, 6, u'0');
+    return cifre.left(2) + u':' + cifre.mid(2, 2) + u':' + cifre.right(2);
+}
+
+QString TestoOrologio(Centesimi ora) { return TestoOre(InDurata(ora, kGiornoOrologio)); }
+
+Centesimi ArrotondaAlMinuto(Centesimi centesimi, Centesimi giorno) {
+    return InCentesimi(InDurata(centesimi, giorno), giorno);
+}
+
+}  // namespace cronovia

@@ -1,0 +1,38 @@
+// Small text and number helpers that all rooms share.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <cstdint>
+
+namespace cronovia {
+
+/// The last `lunghezza` digits of `valore`, filled on the left with zeros: 7 with 2 is "07", 123 with 2 is "23".
+QString Zero(int valore, int lunghezza);
+
+/// Pads on the right: the first `lunghezza` characters of the text followed by fill characters.
+QString AggStr(QStringView testo, int lunghezza, QChar riempimento);
+
+/// Pads on the left: the last `lunghezza` characters of fill characters followed by the text.
+QString AntStr(QStringView testo, int lunghezza, QChar riempimento);
+
+/// Title case: a letter that follows one of A-Z becomes small, every other one capital ("SANT'ANNA" is "Sant'Anna").
+QString PrimoMaiuscolo(QStringView testo);
+
+/// The text as a name pattern: each ' " = \ > < becomes the one-character wildcard "?".
+QString LikeTesto(QStringView testo);
+
+/// The number that the digits of the text form, all other characters dropped: "1.250" is 1250, no digit is 0.
+/// More digits than fit give the largest number.
+int ValoreSenzaPunti(QStringView testo);
+
+/// The whole number with which the text begins (blanks passed over, a sign allowed); 0 when it begins with none.
+int ValoreNumerico(QStringView testo);
+
+/// "1.234.567": thousands separated by ".".
+QString Raggruppa(std::int64_t numero);
+
+/// The same, but the empty text for 0.
+QString RaggruppaNonZero(std::int64_t numero);
+
+}  // namespace cronovia

@@ -1,0 +1,63 @@
+// The city guide: what is worth a visit and where a camper can stand, per locality.
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <cstdint>
+#include <memory>
+#include <unordered_set>
+#include <vector>
+
+#include "calendar/durata.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// A type of guide entry: 01-04 are the levels of interest of visits, 05-09 logistic points.
+struct TipoGuida {
+    QString codice;  ///< two digits
+    QString descrizione;
+    bool tempoObbligatorio = false;  ///< entries of this type need a visit time
+};
+
+/// The types in the order of their codes. An archive without types gets the nine standard ones.
+std::vector<TipoGuida> CaricaTipiGuida(Archive& archive);
+
+/// Numeric code of the type with that description, the highest of several; -1 when there is none.
+int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, QStringView descrizione);
+
+/// Description of a type by its code; empty when there is none.
+QString DescrizioneTipoGuida(const std::vector<TipoGuida>& tipi, QStringView codice);
+
+/// One entry of the guide.
+struct VoceGuida {
+    std::int64_t id = 0;
+    QString localita;
+    QString codice;  ///< of its type
+    QString tipo;    ///< description of its type
+    QString descrizione;
+    Durata tempo;  ///< time of the visit
+};
+
+using VociGuida = std::vector<VoceGuida>;
+
+/// Reads the guide on behalf of one computation: each locality is looked up once, and the visit time of each entry is
+/// handed out once, to the first stage that asks for it.
+class LettoreGuida {
+  public:
+    explicit LettoreGuida(Archive& archive);
+
+    /// The entries of all localities that the name, taken as a pattern, matches; by type code, then description.
+    std::shared_ptr<const VociGuida> Voci(const QString& localita);
+
+    /// Sum of the visit times of the locality's entries that were not handed out yet.
+    Centesimi PrendiTempoVisite(const QString& localita);
+
+  private:
+    Archive& archive_;
+    std::vector<TipoGuida> tipi_;
+    QHash<QString, std::shared_ptr<const VociGuida>> letture_;
+    std::unordered_set<std::int64_t> contate_;
+};
+
+}  // namespace cronovia

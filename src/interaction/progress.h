@@ -1,0 +1,23 @@
+// What a long procedure tells while it runs.
+#pragma once
+
+#include <QString>
+
+namespace cronovia {
+
+/// The face of a long procedure: its title, how far it is, and whether the person wants it to stop. The base class
+/// shows nothing and never stops.
+class Progress {
+  public:
+    Progress() = default;
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    virtual ~Progress() = default;
+
+    virtual void Title(const QString& /*title*/) {}
+    /// `count` of `total` items are done; both 0 when the procedure has ended.
+    virtual void Advance(double /*count*/, double /*total*/) {}
+    virtual bool StopRequested() { return false; }
+};
+
+}  // namespace cronovia

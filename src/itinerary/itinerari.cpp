@@ -1,0 +1,106 @@
+#include "itinerary/itinerari.h"
+
+#include <algorithm>
+
+#include "calendar/testo.h"
+#include "guide/guida_citta.h"
+#include "interaction/failure.h"
+#include "trips/orario.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kMassimoKmPerRecord = 999;
+constexpr int kMassimoRecord = 9999;
+
+Condizione DellaMeta(const QString& codiceMeta) { return {itinerari::CodiceMeta, NamePattern::Exactly(codiceMeta)}; }
+
+int Larghezza(itinerari::Posto posto) { return Definizione(Tabella::Itinerari).campi[posto].larghezza; }
+
+int RecordNecessari(std::span<const Tappa> tappe) {
+    int record = 0;
+    for (const Tappa& tappa : tappe) {
+        record += std::max(1, (tappa.km + kMassimoKmPerRecord - 1) / kMassimoKmPerRecord);
+    }
+    return record;
+}
+
+// Empty values are stored as one blank, as every installation does.
+QString ConBlank(const QString& testo, itinerari::Posto posto) { return (testo + u' ').left(Larghezza(posto)); }
+
+// The rows of one stage; `sequenza` counts on.
+void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& tappa, const QString& soggiornoGuida,
+                    int& sequenza) {
+    std::vector<QString> valori(itinerari::kCampi);
+    valori[itinerari::CodiceMeta] = codiceMeta;
+    valori[itinerari::Localita] = tappa.localita.left(Larghezza(itinerari::Localita) - 1);
+    valori[itinerari::NomeStrada] = ConBlank(tappa.numStrada, itinerari::NomeStrada);
+    valori[itinerari::TipoStrada] = ConBlank(LetteraTipoStrada(tappa.tipo), itinerari::TipoStrada);
+    valori[itinerari::TempoSosta] = ConBlank(Testo(tappa.sosta), itinerari::TempoSosta);
+    valori[itinerari::SostaGuidaCitta] = soggiornoGuida;
+    valori[itinerari::FineGiorno] = tappa.fineGiorno ? u"1"_s : u"0"_s;
+    int resto = std::max(0, tappa.km);
+    do {
+        const int parte = std::min(resto, kMassimoKmPerRecord);
+        valori[itinerari::Sequenza] = Zero(++sequenza, 4);
+        valori[itinerari::Chilometri] = QString::number(parte);
+        archive.Insert(Tabella::Itinerari, valori);
+        valori[itinerari::SostaGuidaCitta] = u" "_s;
+        resto -= parte;
+    } while (resto > 0);
+}
+
+}  // namespace
+
+std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta) {
+    return archive.Select({Tabella::Itinerari, {DellaMeta(codiceMeta)}}, {itinerari::Sequenza});
+}
+
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
+                                         const ParametriViaggio& parametri) {
+    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    LettoreGuida guida(archive);
+    std::vector<Tappa> tappe;
+    for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
+        Tappa tappa;
+        tappa.localita = record[itinerari::Localita].trimmed();
+        if (tappa.localita.isEmpty()) continue;
+        tappa.numStrada = record[itinerari::NomeStrada].trimmed();
+        tappa.km = std::max(0, ValoreNumerico(record[itinerari::Chilometri]));
+        tappa.tipo = LeggiTipoStrada(record[itinerari::TipoStrada]);
+        tappa.sosta = LeggiDurata(record[itinerari::TempoSosta].trimmed());
+        tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
+        tappa.guida = InDurata(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
+        tappe.push_back(std::move(tappa));
+    }
+    return tappe;
+}
+
+EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
+                                             const ParametriViaggio& parametri, Progress& progress) {
+    if (RecordNecessari(tappe) > kMassimoRecord) {
+        throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
+    }
+    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    Transaction transaction(archive);
+    archive.CancellaTabella(Tabella::Itinerari, DellaMeta(codiceMeta), progress);
+    progress.Title(u"Memorizza tappe itinerario"_s);
+    LettoreGuida guida(archive);
+    EsitoMemorizzazione esito;
+    double fatte = 0;
+    for (const Tappa& tappa : tappe) {
+        progress.Advance(++fatte, static_cast<double>(tappe.size()));
+        if (tappa.localita.trimmed().isEmpty()) continue;
+        if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
+        const QString visite = ghmCentesimi2Stringa(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
+        MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
+    }
+    transaction.Commit();
+    progress.Advance(0, 0);
+    return esito;
+}
+
+}  // namespace cronovia

@@ -1,0 +1,31 @@
+// The stages of a trip in the archive.
+#pragma once
+
+#include <QString>
+#include <span>
+#include <vector>
+
+#include "interaction/progress.h"
+#include "itinerary/tappa.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// The rows of a trip's itinerary in travel order, as they are stored.
+std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta);
+
+/// The stages of a trip in travel order. The guide's visit times stand at the first stage of their locality.
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
+                                         const ParametriViaggio& parametri);
+
+/// What saving an itinerary did.
+struct EsitoMemorizzazione {
+    int record = 0;          ///< rows written; a stage longer than 999 km takes several
+    int nomiAccorciati = 0;  ///< localities longer than 29 characters, stored with their first 29
+};
+
+/// Replaces the stored itinerary of a trip, whole or not at all. Refused when it takes more than 9,999 rows.
+EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
+                                             const ParametriViaggio& parametri, Progress& progress);
+
+}  // namespace cronovia

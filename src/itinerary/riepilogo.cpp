@@ -1,0 +1,72 @@
+#include "itinerary/riepilogo.h"
+
+#include <algorithm>
+
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+namespace {
+
+int GiorniMinimi(const Totali& totali, Centesimi guidaGiorno) {
+    if (totali.km[kTuttiITipi] == 0) return 0;
+    const Durata tempo = InDurata(totali.tempo[kTuttiITipi], guidaGiorno);
+    return tempo.giorni + (tempo.ore > 0 || tempo.minuti > 0 ? 1 : 0);
+}
+
+}  // namespace
+
+void Totali::Aggiunge(TipoStrada tipo, int kmTratto, Centesimi tempoTratto) {
+    for (const std::size_t posto : {Indice(tipo), kTuttiITipi}) {
+        km[posto] += kmTratto;
+        tempo[posto] += tempoTratto;
+    }
+}
+
+TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno) {
+    TestiTotali testi;
+    for (std::size_t i = 0; i < totali.km.size(); ++i) {
+        testi.km[i] = RaggruppaNonZero(totali.km[i]);
+        testi.tempo[i] = ghmCentesimi2Stringa(totali.tempo[i], guidaGiorno);
+    }
+    testi.traghetti = QString::number(totali.traghetti);
+    return testi;
+}
+
+RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const ParametriViaggio& parametri,
+                                             int giorniAdeguamento) {
+    const ParametriConvertiti convertiti = ControllaVariabiliConvertite(parametri);
+    RiepilogoItinerario riepilogo;
+    riepilogo.guidaGiorno = convertiti.guidaGiorno;
+    riepilogo.tappe.reserve(tappe.size());
+    for (const Tappa& tappa : tappe) {
+        if (tappa.Traghetto()) ++riepilogo.totali.traghetti;
+        TempiTappa tempi;
+        const int media = parametri.mediaKm[Indice(tappa.TipoEffettivo())];
+        if (tappa.km != 0 && media > 0) tempi.tempo = TempoDiGuida(tappa.km, media);
+        riepilogo.totali.Aggiunge(tappa.TipoEffettivo(), tappa.km, tempi.tempo.value_or(0_cent));
+        tempi.kmProgressivi = riepilogo.totali.km[kTuttiITipi];
+        riepilogo.tappe.push_back(tempi);
+    }
+    riepilogo.giorniMinimi = GiorniMinimi(riepilogo.totali, riepilogo.guidaGiorno);
+    riepilogo.giorniAdeguamento = giorniAdeguamento == 0 ? 0 : std::max(giorniAdeguamento, riepilogo.giorniMinimi);
+    return riepilogo;
+}
+
+std::vector<int> GiorniProposti(const RiepilogoItinerario& riepilogo) {
+    std::vector<int> giorni = {0};
+    if (riepilogo.totali.km[kTuttiITipi] == 0) return giorni;
+    for (int n = riepilogo.giorniMinimi; n <= riepilogo.giorniMinimi + 30; ++n) giorni.push_back(n);
+    for (int n = 30; n <= 100; n += 5) giorni.push_back(n);
+    for (int n = 110; n <= 200; n += 10) giorni.push_back(n);
+    return giorni;
+}
+
+std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const ParametriViaggio& parametri) {
+    for (const Tappa& tappa : tappe) {
+        if (tappa.km > 0 && parametri.mediaKm[Indice(tappa.TipoEffettivo())] <= 0) return tappa.TipoEffettivo();
+    }
+    return std::nullopt;
+}
+
+}  // namespace cronovia

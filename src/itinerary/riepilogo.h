@@ -1,0 +1,57 @@
+// Progressive distances, leg times and totals of an itinerary.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "itinerary/tappa.h"
+#include "trips/orario.h"
+
+namespace cronovia {
+
+/// Totals by road type; the last element is all types together.
+struct Totali {
+    std::array<std::int64_t, kTipiStrada + 1> km{};
+    std::array<Centesimi, kTipiStrada + 1> tempo{};
+    int traghetti = 0;
+
+    void Aggiunge(TipoStrada tipo, int kmTratto, Centesimi tempoTratto);
+};
+inline constexpr std::size_t kTuttiITipi = kTipiStrada;
+
+/// The totals as their boxes show them; empty where there is nothing. Times are "gg:hh:mm" with days of driving.
+struct TestiTotali {
+    std::array<QString, kTipiStrada + 1> km;
+    std::array<QString, kTipiStrada + 1> tempo;
+    QString traghetti;
+};
+TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno);
+
+/// What one leg adds up to.
+struct TempiTappa {
+    std::int64_t kmProgressivi = 0;
+    std::optional<Centesimi> tempo;  ///< nothing without kilometres or without a speed for its road
+};
+
+struct RiepilogoItinerario {
+    std::vector<TempiTappa> tappe;  ///< as many as the stages
+    Totali totali;
+    Centesimi guidaGiorno;      ///< day length of the driving totals
+    int giorniMinimi = 0;       ///< days that driving alone needs; 0 without kilometres
+    int giorniAdeguamento = 0;  ///< the days wanted, raised to the least ones
+};
+
+RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const ParametriViaggio& parametri,
+                                             int giorniAdeguamento);
+
+/// The trip lengths on offer: 0 for "as many as needed", then from the least days on in widening steps.
+std::vector<int> GiorniProposti(const RiepilogoItinerario& riepilogo);
+
+/// The first road type that a stage uses although its average speed is 0; nothing when all is well.
+std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const ParametriViaggio& parametri);
+
+}  // namespace cronovia

@@ -1,0 +1,23 @@
+#include "itinerary/tappa.h"
+
+#include <cmath>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera) {
+    const qsizetype posto = lettera.size() == 1 ? QStringView(u"ASPL").indexOf(lettera.front()) : -1;
+    if (posto < 0) return std::nullopt;
+    return static_cast<TipoStrada>(posto);
+}
+
+QString LetteraTipoStrada(std::optional<TipoStrada> tipo) { return tipo ? NomeTipoStrada(*tipo).left(1) : QString(); }
+
+QString TestoSosta(const Durata& sosta, bool fineGiorno) { return (fineGiorno ? u"*"_s : QString()) + Testo(sosta); }
+
+Centesimi TempoDiGuida(int km, int mediaKm) {
+    return Centesimi(std::floor(static_cast<double>(km) / mediaKm * 100.0 + 0.5));
+}
+
+}  // namespace cronovia

@@ -1,0 +1,42 @@
+// A stage of an itinerary.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "calendar/durata.h"
+#include "trips/meta.h"
+
+namespace cronovia {
+
+/// One stage: the locality reached, the road to it, the stop there. The first stage is the departure place.
+struct Tappa {
+    QString localita;
+    QString numStrada;               ///< road numbers; a text with "TRAGH" is a ferry leg
+    int km = 0;                      ///< from the previous stage
+    std::optional<TipoStrada> tipo;  ///< nothing when blank; counts as a local road then
+    Durata sosta;                    ///< planned stop; its days are visiting days
+    bool fineGiorno = false;         ///< the day ends here
+    Durata guida;                    ///< visit times of the guide at this stage; days as in `sosta`
+
+    [[nodiscard]] bool Traghetto() const { return numStrada.contains(QLatin1String("TRAGH")); }
+    [[nodiscard]] TipoStrada TipoEffettivo() const { return tipo.value_or(TipoStrada::Locale); }
+    /// Nothing is planned here, neither a stop nor the day's end.
+    [[nodiscard]] bool SenzaSosta() const { return sosta.Nulla() && !fineGiorno; }
+
+    friend bool operator==(const Tappa&, const Tappa&) = default;
+};
+
+/// The type of a letter "A", "S", "P" or "L"; nothing for any other text.
+std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera);
+
+/// The type's letter; empty for no type.
+QString LetteraTipoStrada(std::optional<TipoStrada> tipo);
+
+/// The planned stop as the itinerary shows it: "gg:hh:mm", with a leading "*" when the day ends.
+QString TestoSosta(const Durata& sosta, bool fineGiorno);
+
+/// Driving time in whole hundredths, km at km/h, rounded half up. The speed must not be 0.
+Centesimi TempoDiGuida(int km, int mediaKm);
+
+}  // namespace cronovia

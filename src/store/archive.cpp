@@ -1,0 +1,232 @@
+#include "store/archive.h"
+
+#include <SQLiteCpp/Exception.h>
+
+#include <algorithm>
+
+#include "store/connection.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::string Name(const QString& name) { return "\"" + name.toStdString() + "\""; }
+
+std::string ColumnNames(const DefinizioneTabella& table) {
+    std::string names;
+    for (const Campo& campo : table.campi) names += (names.empty() ? "" : ", ") + Name(campo.nome);
+    return names;
+}
+
+std::string SelectSql(const DefinizioneTabella& table) {
+    return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.nome);
+}
+
+Record ReadRecord(const SQLite::Statement& statement, std::size_t fields) {
+    Record record;
+    record.id = statement.getColumn(0).getInt64();
+    record.valori.reserve(fields);
+    for (std::size_t i = 0; i < fields; ++i) record.valori.push_back(ColumnText(statement, static_cast<int>(i) + 1));
+    return record;
+}
+
+bool Fulfils(const Record& record, const std::vector<Condizione>& condizioni) {
+    return std::all_of(condizioni.begin(), condizioni.end(),
+                       [&](const Condizione& c) { return c.modello.Matches(record[c.posto]); });
+}
+
+void CheckWidths(const DefinizioneTabella& table, std::span<const QString> valori) {
+    for (std::size_t i = 0; i < table.campi.size(); ++i) {
+        const Campo& campo = table.campi[i];
+        if (campo.larghezza == 0 || valori[i].size() <= campo.larghezza) continue;
+        throw Failure(u"Il valore «%1» è troppo lungo per il campo %2 di %3: al massimo %4 caratteri."_s.arg(
+            valori[i], campo.nome, table.nome, QString::number(campo.larghezza)));
+    }
+}
+
+void BindValues(SQLite::Statement& statement, const DefinizioneTabella& table, std::span<const QString> valori) {
+    for (std::size_t i = 0; i < table.campi.size(); ++i) {
+        const int index = static_cast<int>(i) + 1;
+        if (table.campi[i].larghezza == 0) {
+            statement.bind(index, valori[i] == "1"_L1 ? 1 : 0);
+        } else {
+            BindText(statement, index, valori[i]);
+        }
+    }
+}
+
+// Base letters without case or accents: what decides first in an alphabetical list.
+QString AlphabetKey(QStringView text) {
+    const QString decomposed = text.toString().normalized(QString::NormalizationForm_KD);
+    QString key;
+    key.reserve(decomposed.size());
+    for (const QChar c : decomposed) {
+        if (!c.isMark()) key += c.toCaseFolded();
+    }
+    return key;
+}
+
+}  // namespace
+
+bool PrimaNellAlfabeto(QStringView a, QStringView b) {
+    const int keys = AlphabetKey(a).compare(AlphabetKey(b));
+    return keys != 0 ? keys < 0 : a.compare(b) < 0;
+}
+
+Archive::Archive(std::unique_ptr<Connection> connection) : connection_(std::move(connection)) {}
+Archive::Archive(Archive&&) noexcept = default;
+Archive& Archive::operator=(Archive&&) noexcept = default;
+Archive::~Archive() = default;
+
+void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& visit) {
+    const DefinizioneTabella& table = Definizione(ricerca.tabella);
+    const auto run = [&](SQLite::Statement& statement) {
+        bool goOn = true;
+        while (goOn && statement.executeStep()) {
+            Record record = ReadRecord(statement, table.campi.size());
+            if (Fulfils(record, ricerca.condizioni)) goOn = visit(std::move(record));
+        }
+        statement.reset();
+        return goOn;
+    };
+    const auto ranges =
+        ricerca.condizioni.empty() ? std::vector<NamePattern::Range>() : ricerca.condizioni.front().modello.Ranges();
+    Guarded(connection_->Path(), [&] {
+        if (ranges.empty()) {
+            SQLite::Statement statement(connection_->Database(), SelectSql(table) + " ORDER BY rowid");
+            run(statement);
+            return;
+        }
+        const auto posto = static_cast<std::size_t>(ricerca.condizioni.front().posto);
+        const std::string field = Name(table.campi.at(posto).nome);
+        for (const NamePattern::Range& range : ranges) {
+            const std::string test = range.single ? " = ?1" : " >= ?1 AND " + field + " < ?2";
+            SQLite::Statement& statement = connection_->Prepared(SelectSql(table) + " WHERE " + field + test);
+            BindText(statement, 1, range.from);
+            if (!range.single) BindText(statement, 2, range.to);
+            if (!run(statement)) return;
+        }
+    });
+}
+
+void Archive::ForEach(Tabella tabella, const std::function<void(const Record&)>& visit) {
+    Scan({tabella, {}}, [&](Record&& record) {
+        visit(record);
+        return true;
+    });
+}
+
+std::vector<Record> Archive::Select(const Ricerca& ricerca, std::initializer_list<int> ordine) {
+    std::vector<Record> records;
+    Scan(ricerca, [&](Record&& record) {
+        records.push_back(std::move(record));
+        return true;
+    });
+    std::sort(records.begin(), records.end(), [&](const Record& a, const Record& b) {
+        for (const int posto : ordine) {
+            if (a[posto] != b[posto]) return PrimaNellAlfabeto(a[posto], b[posto]);
+        }
+        return a.id < b.id;
+    });
+    return records;
+}
+
+std::optional<Record> Archive::SelectFirst(const Ricerca& ricerca) {
+    std::optional<Record> first;
+    Scan(ricerca, [&](Record&& record) {
+        if (!first || record.id < first->id) first = std::move(record);
+        return true;
+    });
+    return first;
+}
+
+bool Archive::Exists(const Ricerca& ricerca) {
+    bool found = false;
+    Scan(ricerca, [&](Record&&) {
+        found = true;
+        return false;
+    });
+    return found;
+}
+
+std::int64_t Archive::Count(Tabella tabella) {
+    return Guarded(connection_->Path(), [&] {
+        SQLite::Statement& statement = connection_->Prepared("SELECT COUNT(*) FROM " + Name(Definizione(tabella).nome));
+        statement.executeStep();
+        const std::int64_t count = statement.getColumn(0).getInt64();
+        statement.reset();
+        return count;
+    });
+}
+
+void Archive::Insert(Tabella tabella, std::span<const QString> valori) {
+    const DefinizioneTabella& table = Definizione(tabella);
+    CheckWidths(table, valori);
+    Guarded(connection_->Path(), [&] {
+        std::string marks;
+        for (std::size_t i = 0; i < table.campi.size(); ++i) marks += marks.empty() ? "?" : ", ?";
+        SQLite::Statement& statement = connection_->Prepared("INSERT INTO " + Name(table.nome) + " (" +
+                                                             ColumnNames(table) + ") VALUES (" + marks + ")");
+        BindValues(statement, table, valori);
+        statement.exec();
+        statement.reset();
+    });
+}
+
+void Archive::Update(Tabella tabella, const Record& record) {
+    const DefinizioneTabella& table = Definizione(tabella);
+    CheckWidths(table, record.valori);
+    Guarded(connection_->Path(), [&] {
+        std::string changes;
+        for (const Campo& campo : table.campi) changes += (changes.empty() ? "" : ", ") + Name(campo.nome) + " = ?";
+        SQLite::Statement& statement =
+            connection_->Prepared("UPDATE " + Name(table.nome) + " SET " + changes + " WHERE rowid = ?");
+        BindValues(statement, table, record.valori);
+        statement.bind(static_cast<int>(table.campi.size()) + 1, record.id);
+        statement.exec();
+        statement.reset();
+    });
+}
+
+void Archive::Delete(Tabella tabella, std::int64_t id) {
+    Guarded(connection_->Path(), [&] {
+        SQLite::Statement& statement =
+            connection_->Prepared("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid = ?");
+        statement.bind(1, id);
+        statement.exec();
+        statement.reset();
+    });
+}
+
+int Archive::CancellaTabella(Tabella tabella, const std::optional<Condizione>& condizione, Progress& progress) {
+    progress.Title(u"Cancellazione tabella "_s + Definizione(tabella).nome);
+    std::vector<std::int64_t> ids;
+    const auto conditions = condizione ? std::vector<Condizione>{*condizione} : std::vector<Condizione>();
+    Scan({tabella, conditions}, [&](Record&& record) {
+        ids.push_back(record.id);
+        return true;
+    });
+    double done = 0;
+    for (const std::int64_t id : ids) {
+        progress.Advance(++done, static_cast<double>(ids.size()));
+        Delete(tabella, id);
+    }
+    return static_cast<int>(ids.size());
+}
+
+Transaction::Transaction(Archive& archive) : connection_(*archive.connection_) {
+    Guarded(connection_.Path(), [&] { connection_.Database().exec("BEGIN IMMEDIATE"); });
+}
+
+Transaction::~Transaction() {
+    if (open_) connection_.Database().tryExec("ROLLBACK");
+}
+
+void Transaction::Commit() {
+    Guarded(connection_.Path(), [&] { connection_.Database().exec("COMMIT"); });
+    open_ = false;
+}
+
+}  // namespace cronovia

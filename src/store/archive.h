@@ -1,0 +1,105 @@
+// The archive: one database file with all trips, itineraries and the city guide.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "interaction/progress.h"
+#include "store/name_pattern.h"
+#include "store/schema.h"
+
+namespace cronovia {
+
+/// One row of a table: all its fields as texts, in the table's order. A yes/no field is "1" or "0".
+struct Record {
+    std::int64_t id = 0;
+    std::vector<QString> valori;
+
+    [[nodiscard]] const QString& operator[](int posto) const { return valori[static_cast<std::size_t>(posto)]; }
+    [[nodiscard]] QString& operator[](int posto) { return valori[static_cast<std::size_t>(posto)]; }
+};
+
+/// One condition on a field, by its position in the table.
+struct Condizione {
+    int posto = 0;
+    NamePattern modello;
+};
+
+/// Which rows of a table: those that fulfil every condition. The first condition leads the search, through an index
+/// when its field has one and its pattern a literal beginning.
+struct Ricerca {
+    Tabella tabella = Tabella::MeteVandro;
+    std::vector<Condizione> condizioni;
+};
+
+/// Compares texts for lists that people read: letters before case, base letters before accents.
+bool PrimaNellAlfabeto(QStringView a, QStringView b);
+
+/// The open database file. Every failure is a `Failure` with its message. Only `Transaction` makes several changes one.
+class Archive {
+  public:
+    /// Opens the archive of a data folder, which is made when it does not exist, as is the file. Missing tables, fields
+    /// and indexes are added and changed widths followed, after a copy of the file was laid beside it; a file that
+    /// cannot be used is refused and left as it was.
+    static Archive Open(const QString& cartella);
+
+    /// Path of the database file in a data folder.
+    static QString FilePath(const QString& cartella);
+
+    Archive(Archive&&) noexcept;
+    Archive& operator=(Archive&&) noexcept;
+    ~Archive();
+
+    /// The rows in the alphabetical order of the fields in `ordine`, the first one leading; rows alike in them, and all
+    /// rows without such fields, in the order in which they were added.
+    std::vector<Record> Select(const Ricerca& ricerca, std::initializer_list<int> ordine = {});
+    /// Of the rows found, the one that was added first.
+    std::optional<Record> SelectFirst(const Ricerca& ricerca);
+    bool Exists(const Ricerca& ricerca);
+
+    /// Hands over row after row of a table, in the order in which they were added, without holding more than one.
+    void ForEach(Tabella tabella, const std::function<void(const Record&)>& visit);
+
+    std::int64_t Count(Tabella tabella);
+
+    /// Adds a row, changes the row with that id. A value wider than its field is refused.
+    void Insert(Tabella tabella, std::span<const QString> valori);
+    void Update(Tabella tabella, const Record& record);
+    void Delete(Tabella tabella, std::int64_t id);
+
+    /// Deletes the rows whose field matches the pattern, all rows without a condition; returns how many.
+    int CancellaTabella(Tabella tabella, const std::optional<Condizione>& condizione, Progress& progress);
+
+  private:
+    friend class Transaction;
+    class Connection;
+
+    explicit Archive(std::unique_ptr<Connection> connection);
+    void Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& visit);
+
+    std::unique_ptr<Connection> connection_;
+};
+
+/// Everything written between construction and `Commit` happens whole or not at all.
+class Transaction {
+  public:
+    explicit Transaction(Archive& archive);
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    ~Transaction();
+
+    void Commit();
+
+  private:
+    Archive::Connection& connection_;
+    bool open_ = true;
+};
+
+}  // namespace cronovia

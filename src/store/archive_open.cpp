@@ -1,0 +1,31 @@
+// Opening the archive of a data folder.
+#include <SQLiteCpp/Exception.h>
+
+#include <QDir>
+#include <memory>
+
+#include "store/archive.h"
+#include "store/connection.h"
+#include "store/schema_check.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+QString Archive::FilePath(const QString& cartella) { return QDir(cartella).filePath(u"VandroCronovia.mdb"_s); }
+
+Archive Archive::Open(const QString& cartella) {
+    const QString path = FilePath(cartella);
+    const QString opening = u"Errore apertura database "_s + QDir::toNativeSeparators(path);
+    if (!QDir().mkpath(cartella)) throw Failure(opening + u": la cartella non si può creare."_s);
+    RefuseForeignFile(path);
+    try {
+        auto connection = std::make_unique<Connection>(path);
+        DataBaseTabelleAggiorna(connection->Database(), path);
+        return Archive(std::move(connection));
+    } catch (const SQLite::Exception& error) {
+        throw Failure(opening + u": "_s + DatabaseReason(error) + u"."_s);
+    }
+}
+
+}  // namespace cronovia

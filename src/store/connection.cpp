@@ -1,0 +1,64 @@
+#include "store/connection.h"
+
+#include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
+
+#include <QDir>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kBusyTimeoutMs = 3000;
+
+QString KnownReason(int code) {
+    switch (code & 0xFF) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return u"l'archivio è in uso da un altro programma; riprova tra poco"_s;
+        case SQLITE_FULL:
+            return u"il disco è pieno"_s;
+        case SQLITE_READONLY:
+            return u"il file o la sua cartella sono in sola lettura"_s;
+        case SQLITE_PERM:
+        case SQLITE_AUTH:
+        case SQLITE_CANTOPEN:
+            return u"il file non si può aprire: controlla i permessi e la cartella"_s;
+        case SQLITE_NOTADB:
+            return u"il file non è un archivio di Cronovia"_s;
+        case SQLITE_CORRUPT:
+            return u"il file è danneggiato"_s;
+        case SQLITE_IOERR:
+            return u"errore di lettura o di scrittura sul disco"_s;
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+QString DatabaseReason(const SQLite::Exception& error) {
+    const QString reason = KnownReason(error.getErrorCode());
+    return reason.isEmpty() ? QString::fromUtf8(error.what()) : reason;
+}
+
+Failure DatabaseFailure(const SQLite::Exception& error, const QString& path) {
+    return Failure(u"Archivio %1: %2."_s.arg(QDir::toNativeSeparators(path), DatabaseReason(error)));
+}
+
+Archive::Connection::Connection(const QString& path)
+    : path_(path), database_(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, kBusyTimeoutMs) {
+    database_.exec("PRAGMA cache_size = -32000");
+}
+
+SQLite::Statement& Archive::Connection::Prepared(const std::string& sql) {
+    auto found = statements_.find(sql);
+    if (found == statements_.end()) found = statements_.emplace(sql, SQLite::Statement(database_, sql)).first;
+    SQLite::Statement& statement = found->second;
+    statement.tryReset();
+    return statement;
+}
+
+}  // namespace cronovia

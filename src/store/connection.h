@@ -1,0 +1,60 @@
+// The one place that speaks to SQLite: statements are prepared once, errors become messages for the person.
+#pragma once
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <QString>
+#include <QStringView>
+#include <string>
+#include <unordered_map>
+
+#include "interaction/failure.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// What went wrong, as the end of an Italian sentence.
+QString DatabaseReason(const SQLite::Exception& error);
+
+/// The message for an error of the database, naming the file.
+Failure DatabaseFailure(const SQLite::Exception& error, const QString& path);
+
+/// Runs `action` and turns the database's errors into failures.
+template <typename Action>
+auto Guarded(const QString& path, Action&& action) {
+    try {
+        return action();
+    } catch (const SQLite::Exception& error) {
+        throw DatabaseFailure(error, path);
+    }
+}
+
+inline QString ColumnText(const SQLite::Statement& statement, int column) {
+    const SQLite::Column value = statement.getColumn(column);
+    const char* text = value.getText("");
+    return QString::fromUtf8(text, value.getBytes());
+}
+
+inline void BindText(SQLite::Statement& statement, int index, QStringView text) {
+    const QByteArray utf8 = text.toUtf8();
+    statement.bind(index, std::string(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+}
+
+class Archive::Connection {
+  public:
+    explicit Connection(const QString& path);
+
+    [[nodiscard]] const QString& Path() const { return path_; }
+    SQLite::Database& Database() { return database_; }
+
+    /// A statement ready to be bound; it stays prepared for the next time.
+    SQLite::Statement& Prepared(const std::string& sql);
+
+  private:
+    QString path_;
+    SQLite::Database database_;
+    std::unordered_map<std::string, SQLite::Statement> statements_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,157 @@
+#include "store/name_pattern.h"
+
+#include <QChar>
+#include <QList>
+#include <algorithm>
+#include <unordered_map>
+
+namespace cronovia {
+
+namespace {
+
+constexpr std::size_t kMaxRanges = 16;
+
+// Folds the case of one character. A character outside ASCII never becomes an ASCII one (the kelvin sign is no K), so
+// that the ASCII letters of an index key tell all there is to know about its case.
+char32_t Fold(char32_t c) {
+    if (c < 0x80) return c >= U'A' && c <= U'Z' ? c + 32 : c;
+    const char32_t folded = QChar::toCaseFolded(c);
+    return folded < 0x80 ? c : folded;
+}
+
+// All characters of the basic plane, outside ASCII, that fold to `folded`; at least the character itself.
+std::u32string Variants(char32_t folded) {
+    static const std::unordered_map<char32_t, std::u32string> variants = [] {
+        std::unordered_map<char32_t, std::u32string> map;
+        for (char32_t c = 0x80; c < 0x10000; ++c) {
+            const char32_t f = Fold(c);
+            if (f != c) map[f] += c;
+        }
+        return map;
+    }();
+    std::u32string all(1, folded);
+    if (const auto found = variants.find(folded); found != variants.end()) all += found->second;
+    return all;
+}
+
+QString Text(const std::u32string& characters) {
+    return QString::fromUcs4(characters.data(), static_cast<qsizetype>(characters.size()));
+}
+
+}  // namespace
+
+NamePattern::NamePattern(QStringView pattern) {
+    const QList<uint> characters = pattern.toUcs4();
+    for (qsizetype i = 0; i < characters.size(); ++i) {
+        Element element;
+        const char32_t c = characters.at(i);
+        const qsizetype end = c == U'[' ? characters.indexOf(U']', i + 1) : -1;
+        if (c == U'?') {
+            element.kind = Kind::AnyOne;
+        } else if (c == U'*') {
+            element.kind = Kind::AnyRun;
+        } else if (c == U'#') {
+            element.kind = Kind::Digit;
+        } else if (end > i) {
+            element.kind = Kind::Set;
+            qsizetype k = i + 1;
+            element.negated = characters.at(k) == U'!' && k + 1 < end;
+            if (element.negated) ++k;
+            for (; k < end; ++k) {
+                const bool interval = k + 2 < end && characters.at(k + 1) == U'-';
+                const char32_t first = Fold(characters.at(k));
+                const char32_t last = interval ? Fold(characters.at(k + 2)) : first;
+                element.intervals.emplace_back(first, last);
+                if (interval) k += 2;
+            }
+            i = end;
+            if (element.intervals.empty()) continue;  // "[]" stands for nothing at all
+        } else {
+            element.folded = Fold(c);
+        }
+        elements_.push_back(std::move(element));
+    }
+}
+
+NamePattern NamePattern::Exactly(QStringView text) {
+    NamePattern pattern;
+    for (const uint c : text.toUcs4()) {
+        Element element;
+        element.folded = Fold(c);
+        pattern.elements_.push_back(std::move(element));
+    }
+    return pattern;
+}
+
+bool NamePattern::Accepts(const Element& element, char32_t folded) {
+    switch (element.kind) {
+        case Kind::Literal:
+            return element.folded == folded;
+        case Kind::AnyOne:
+            return true;
+        case Kind::Digit:
+            return folded >= U'0' && folded <= U'9';
+        case Kind::Set: {
+            const bool within = std::any_of(element.intervals.begin(), element.intervals.end(), [&](const auto& pair) {
+                return pair.first <= folded && folded <= pair.second;
+            });
+            return within != element.negated;
+        }
+        case Kind::AnyRun:
+            break;
+    }
+    return false;
+}
+
+bool NamePattern::Matches(QStringView text) const {
+    const QList<uint> characters = text.toUcs4();
+    const auto length = characters.size();
+    const auto count = static_cast<qsizetype>(elements_.size());
+    qsizetype position = 0;
+    qsizetype element = 0;
+    qsizetype lastRun = -1;  // the last "*" passed, to which a mismatch goes back
+    qsizetype runEnd = 0;    // where the text after that "*" was last tried
+    while (position < length) {
+        const bool run = element < count && elements_[element].kind == Kind::AnyRun;
+        if (run) {
+            lastRun = element++;
+            runEnd = position;
+        } else if (element < count && Accepts(elements_[element], Fold(characters.at(position)))) {
+            ++element;
+            ++position;
+        } else if (lastRun >= 0) {
+            element = lastRun + 1;
+            position = ++runEnd;
+        } else {
+            return false;
+        }
+    }
+    while (element < count && elements_[element].kind == Kind::AnyRun) ++element;
+    return element == count;
+}
+
+std::vector<NamePattern::Range> NamePattern::Ranges() const {
+    std::vector<std::u32string> prefixes(1);
+    std::size_t used = 0;
+    for (; used < elements_.size() && elements_[used].kind == Kind::Literal; ++used) {
+        const char32_t c = elements_[used].folded;
+        const std::u32string variants = c < 0x80 ? std::u32string(1, c) : Variants(c);
+        if (prefixes.size() * variants.size() > kMaxRanges) break;
+        std::vector<std::u32string> longer;
+        longer.reserve(prefixes.size() * variants.size());
+        for (const std::u32string& prefix : prefixes) {
+            for (const char32_t variant : variants) longer.push_back(prefix + variant);
+        }
+        prefixes = std::move(longer);
+    }
+    const bool whole = used == elements_.size();
+    if (used == 0 && !whole) return {};
+    std::vector<Range> ranges;
+    ranges.reserve(prefixes.size());
+    for (const std::u32string& prefix : prefixes) {
+        ranges.push_back({Text(prefix), whole ? QString() : Text(prefix + char32_t{0x10FFFF}), whole});
+    }
+    return ranges;
+}
+
+}  // namespace cronovia

@@ -1,0 +1,257 @@
+#include "store/schema_check.h"
+
+#include <SQLiteCpp/Backup.h>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "interaction/failure.h"
+#include "store/schema.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kApplicationId = 0x56437276;  // "VCrv"
+constexpr int kSchemaVersion = 1;
+
+struct Column {
+    QString name;
+    QString type;
+};
+
+std::string Name(const QString& name) { return "\"" + name.toStdString() + "\""; }
+
+QString TypeOf(const Campo& campo) { return campo.larghezza == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(campo.larghezza); }
+
+std::string ColumnSql(const QString& name, const QString& type) {
+    const bool text = type.startsWith("TEXT"_L1);
+    return Name(name) + " " + type.toStdString() + (text ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0");
+}
+
+int IntegerOf(SQLite::Database& database, const char* sql) { return database.execAndGet(sql).getInt(); }
+
+std::vector<Column> ColumnsOf(SQLite::Database& database, const QString& table) {
+    std::vector<Column> columns;
+    SQLite::Statement statement(database, "SELECT name, type FROM pragma_table_info(?)");
+    statement.bind(1, table.toStdString());
+    while (statement.executeStep()) {
+        columns.push_back({QString::fromStdString(statement.getColumn(0).getString()),
+                           QString::fromStdString(statement.getColumn(1).getString())});
+    }
+    return columns;
+}
+
+std::string IndexName(const DefinizioneTabella& table, const QString& campo) {
+    return table.nome.toStdString() + "_" + campo.toStdString();
+}
+
+bool HasIndex(SQLite::Database& database, const DefinizioneTabella& table, const QString& campo) {
+    SQLite::Statement statement(database, "SELECT 1 FROM sqlite_master WHERE type = 'index' AND name = ?");
+    statement.bind(1, IndexName(table, campo));
+    return statement.executeStep();
+}
+
+// What one table lacks.
+struct TableState {
+    std::vector<Column> columns;  // none: the table does not exist
+    bool rebuild = false;         // a field is missing or has another width
+    bool complete = false;
+};
+
+TableState StateOf(SQLite::Database& database, const DefinizioneTabella& table) {
+    TableState state;
+    state.columns = ColumnsOf(database, table.nome);
+    if (state.columns.empty()) return state;
+    state.rebuild = std::any_of(table.campi.begin(), table.campi.end(), [&](const Campo& campo) {
+        const auto found = std::find_if(state.columns.begin(), state.columns.end(),
+                                        [&](const Column& column) { return column.name == campo.nome; });
+        return found == state.columns.end() || (campo.larghezza > 0 && found->type != TypeOf(campo));
+    });
+    state.complete = !state.rebuild && std::all_of(table.indici.begin(), table.indici.end(), [&](const QString& campo) {
+        return HasIndex(database, table, campo);
+    });
+    return state;
+}
+
+const Column* FindColumn(const std::vector<Column>& columns, const QString& name) {
+    const auto found = std::find_if(columns.begin(), columns.end(), [&](const Column& column) {
+        return column.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == columns.end() ? nullptr : &*found;
+}
+
+void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabella& table,
+                              const std::vector<Column>& columns, const QString& path) {
+    for (const Campo& campo : table.campi) {
+        if (campo.larghezza == 0 || FindColumn(columns, campo.nome) == nullptr) continue;
+        SQLite::Statement statement(database, "SELECT COUNT(*), MAX(length(" + Name(campo.nome) + ")) FROM " +
+                                                  Name(table.nome) + " WHERE length(" + Name(campo.nome) + ") > ?");
+        statement.bind(1, campo.larghezza);
+        statement.executeStep();
+        const int count = statement.getColumn(0).getInt();
+        if (count == 0) continue;
+        throw Failure(
+            u"Errore apertura database %1: nella tabella %2 il campo %3 dev'essere di %4 caratteri, ma %5 "
+            "valori sono più lunghi (fino a %6). Il file non è stato modificato."_s.arg(
+                QDir::toNativeSeparators(path), table.nome, campo.nome, QString::number(campo.larghezza),
+                QString::number(count), QString::number(statement.getColumn(1).getInt())));
+    }
+}
+
+void DatabaseTabellaCrea(SQLite::Database& database, const QString& name, const std::vector<Column>& columns) {
+    std::string list;
+    for (const Column& column : columns) list += (list.empty() ? "" : ", ") + ColumnSql(column.name, column.type);
+    database.exec("CREATE TABLE " + Name(name) + " (" + list + ")");
+}
+
+std::vector<Column> DeclaredColumns(const DefinizioneTabella& table) {
+    std::vector<Column> columns;
+    columns.reserve(table.campi.size());
+    for (const Campo& campo : table.campi) columns.push_back({campo.nome, TypeOf(campo)});
+    return columns;
+}
+
+// A table with today's fields in today's order and the rows of the old one; fields that are not ours stay behind ours.
+void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, const std::vector<Column>& existing) {
+    std::vector<Column> columns = DeclaredColumns(table);
+    std::string names;
+    std::string values;
+    for (const Column& column : columns) {
+        if (FindColumn(existing, column.name) == nullptr) continue;
+        const std::string name = Name(column.name);
+        names += (names.empty() ? "" : ", ") + name;
+        values += (values.empty() ? "" : ", ") + ("COALESCE(" + name + ", '')");
+    }
+    for (const Column& column : existing) {
+        if (FindColumn(columns, column.name) != nullptr) continue;
+        columns.push_back({column.name, column.type});
+        names += ", " + Name(column.name);
+        values += ", " + Name(column.name);
+    }
+    const QString temporary = table.nome + u"_nuova"_s;
+    DatabaseTabellaCrea(database, temporary, columns);
+    if (!names.empty()) {
+        database.exec("INSERT INTO " + Name(temporary) + " (rowid, " + names + ") SELECT rowid, " + values + " FROM " +
+                      Name(table.nome) + " ORDER BY rowid");
+    }
+    database.exec("DROP TABLE " + Name(table.nome));
+    database.exec("ALTER TABLE " + Name(temporary) + " RENAME TO " + Name(table.nome));
+}
+
+void DataBaseVerificaIndici(SQLite::Database& database, const DefinizioneTabella& table) {
+    for (const QString& campo : table.indici) {
+        database.exec("CREATE INDEX IF NOT EXISTS \"" + IndexName(table, campo) + "\" ON " + Name(table.nome) + " (" +
+                      Name(campo) + " COLLATE NOCASE)");
+    }
+}
+
+// Lays a copy beside the file, under the first free number.
+void KeepCopy(SQLite::Database& database, const QString& path) {
+    const QFileInfo file(path);
+    QString copy;
+    for (int number = 1; copy.isEmpty() || QFile::exists(copy); ++number) {
+        copy = file.dir().filePath(
+            u"%1-copia%2.%3"_s.arg(file.completeBaseName(), QString::number(number), file.suffix()));
+    }
+    const QString unfinished = copy + u".parziale"_s;
+    QFile::remove(unfinished);
+    {
+        SQLite::Database target(unfinished.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        SQLite::Backup backup(target, database);
+        backup.executeStep();
+    }
+    if (!QFile::rename(unfinished, copy)) {
+        QFile::remove(unfinished);
+        throw Failure(u"Errore apertura database %1: non riesco a scriverne la copia %2."_s.arg(
+            QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
+    }
+}
+
+bool AnyTable(SQLite::Database& database) {
+    return IntegerOf(database, "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table'") > 0;
+}
+
+bool UpToDate(SQLite::Database& database) {
+    const std::vector<Tabella>& tables = TutteLeTabelle();
+    return std::all_of(tables.begin(), tables.end(),
+                       [&](Tabella table) { return StateOf(database, Definizione(table)).complete; });
+}
+
+void CheckEveryTable(SQLite::Database& database, const QString& path) {
+    for (const Tabella tabella : TutteLeTabelle()) {
+        const DefinizioneTabella& table = Definizione(tabella);
+        const TableState state = StateOf(database, table);
+        if (state.rebuild) RefuseValuesThatDoNotFit(database, table, state.columns, path);
+    }
+}
+
+void RefuseForeignDatabase(SQLite::Database& database, const QString& path) {
+    if (IntegerOf(database, "PRAGMA user_version") > kSchemaVersion) {
+        throw Failure(u"Errore apertura database %1: l'archivio è di una versione più recente di Cronovia."_s.arg(
+            QDir::toNativeSeparators(path)));
+    }
+    const std::vector<Tabella>& tables = TutteLeTabelle();
+    const bool ours = IntegerOf(database, "PRAGMA application_id") == kApplicationId || !AnyTable(database) ||
+                      std::any_of(tables.begin(), tables.end(),
+                                  [&](Tabella t) { return !ColumnsOf(database, Definizione(t).nome).empty(); });
+    if (!ours) {
+        throw Failure(u"Errore apertura database %1: il file è un archivio di un altro programma."_s.arg(
+            QDir::toNativeSeparators(path)));
+    }
+}
+
+}  // namespace
+
+void RefuseForeignFile(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.exists()) return;
+    const QString opening = u"Errore apertura database "_s + QDir::toNativeSeparators(path) + u": "_s;
+    if (info.isDir()) throw Failure(opening + u"al suo posto c'è una cartella."_s);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throw Failure(opening + u"manca il permesso di leggere il file."_s);
+    const QByteArray start = file.read(20);
+    if (start.startsWith(QByteArray("\x00\x01\x00\x00Standard Jet DB", 19))) {
+        throw Failure(opening +
+                      u"è un archivio Jet dell'edizione precedente, che Cronovia non può usare; il file è "
+                      "rimasto com'era."_s);
+    }
+    if (!start.isEmpty() && !start.startsWith(QByteArray("SQLite format 3\0", 16))) {
+        throw Failure(opening + u"il file non è un archivio di Cronovia; è rimasto com'era."_s);
+    }
+}
+
+void DataBaseTabelleAggiorna(SQLite::Database& database, const QString& path) {
+    RefuseForeignDatabase(database, path);
+    if (UpToDate(database)) return;
+    CheckEveryTable(database, path);
+    if (AnyTable(database)) KeepCopy(database, path);
+    database.exec("BEGIN IMMEDIATE");
+    try {
+        for (const Tabella tabella : TutteLeTabelle()) {
+            const DefinizioneTabella& table = Definizione(tabella);
+            const TableState state = StateOf(database, table);
+            if (state.columns.empty()) DatabaseTabellaCrea(database, table.nome, DeclaredColumns(table));
+            if (state.rebuild) RebuildTable(database, table, state.columns);
+            DataBaseVerificaIndici(database, table);
+        }
+        database.exec("PRAGMA application_id = " + std::to_string(kApplicationId));
+        database.exec("PRAGMA user_version = " + std::to_string(kSchemaVersion));
+        database.exec("COMMIT");
+    } catch (...) {
+        database.tryExec("ROLLBACK");
+        throw;
+    }
+}
+
+}  // namespace cronovia

@@ -1,0 +1,20 @@
+// Brings a database file to today's tables.
+#pragma once
+
+#include <QString>
+
+namespace SQLite {
+class Database;
+}
+
+namespace cronovia {
+
+/// Refuses a path that holds something other than an archive: another kind of file, a database of another program, one
+/// of the Jet engine, or a newer schema. The file is only read.
+void RefuseForeignFile(const QString& path);
+
+/// Creates missing tables and indexes, adds missing fields and follows changed widths, all in one transaction. Before
+/// an existing table set is changed, a copy of the file is laid beside it. Refused when a value does not fit its field.
+void DataBaseTabelleAggiorna(SQLite::Database& database, const QString& path);
+
+}  // namespace cronovia

@@ -1,0 +1,81 @@
+// A trip and the travel parameters that drive its schedule.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <optional>
+
+#include "calendar/centesimi.h"
+#include "calendar/date.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// The four kinds of road, in the order of every per-type array. Their letters are "A", "S", "P" and "L".
+enum class TipoStrada { Autostrada, SuperStrada, Principale, Locale };
+inline constexpr int kTipiStrada = 4;
+
+constexpr std::size_t Indice(TipoStrada tipo) { return static_cast<std::size_t>(tipo); }
+
+/// "Autostrada", "SuperStrada", "Principale" or "Locale"; the first letter is the type's letter.
+QString NomeTipoStrada(TipoStrada tipo);
+
+/// Which stops the calculation counts; the values are the stored digits.
+enum class CalcoloSoste {
+    SosteItinerario = 1,  ///< those of the itinerary
+    SosteGuida,           ///< the visit times of the guide
+    SostaMaggiore,        ///< the longer of the two
+    SostaMinore,          ///< the shorter of the two
+    NessunaSosta,
+};
+
+/// Travel parameters; the initial values are the standard defaults. Times of day and durations are whole hundredths of
+/// an hour.
+struct ParametriViaggio {
+    std::array<int, kTipiStrada> mediaKm{75, 65, 50, 30};  ///< km/h by `TipoStrada`; 0 when unknown
+    Centesimi oraColazione = 900_cent;                     ///< start of the day after breakfast
+    Centesimi oraPranzo = 1250_cent;
+    Centesimi durataPranzo = 250_cent;
+    Centesimi oraCena = 2000_cent;
+    Centesimi durataCena = 175_cent;
+    Centesimi oraNotte = 2250_cent;  ///< end of the day's driving
+    Centesimi inizioVisita = 900_cent;
+    Centesimi fineVisita = 1800_cent;
+    Centesimi oreTraghetti = 600_cent;  ///< average time of a ferry
+    int riposoMinuti = 15;              ///< length of a short rest, in minutes
+    int riposoOre = 3;                  ///< a short rest after so many hours of driving
+    int riposoGiorno = 1;               ///< length of a rest, in whole days
+    int riposoDopoGiorni = 5;           ///< a rest of whole days after so many days
+    CalcoloSoste calcoloSoste = CalcoloSoste::SostaMaggiore;
+
+    friend bool operator==(const ParametriViaggio&, const ParametriViaggio&) = default;
+};
+
+/// A trip ("mèta").
+struct Meta {
+    QString codice;  ///< six digits; empty for a trip not saved yet
+    QString localita;
+    QString nazione;
+    std::optional<NumeroGiorno> dataInizio;  ///< nothing when the stored text is no date
+    Centesimi oraInizio;
+    int giorniAdeguamento = 0;  ///< days that the trip shall last; 0 = as many as it needs
+    ParametriViaggio parametri;
+};
+
+/// The most days that a trip can be asked to last.
+inline constexpr int kMassimoGiorniAdeguamento = 997;
+
+/// A time of day or a duration from its stored form "hhmm", and back.
+Centesimi LeggiOrario(QStringView hhmm);
+QString TestoOrario(Centesimi orario);
+
+/// The trip of a row of `MeteVandro` and the row of a trip; the id of the row stays with the caller. Parameters that
+/// the row does not tell are 0, an unknown `CalcoloSoste` is the longer stop.
+Meta MetaDaRecord(const Record& record);
+std::vector<QString> ValoriDellaMeta(const Meta& meta);
+
+/// The parameters of a row of `Parametri`, and the row of parameters.
+ParametriViaggio ParametriDaRecord(const Record& record);
+std::vector<QString> ValoriDeiParametri(const ParametriViaggio& parametri);
+
+}  // namespace cronovia
