@@ -25,12 +25,10 @@ QString AntStr(QStringView testo, int lunghezza, QChar riempimento) {
 
 QString PrimoMaiuscolo(QStringView testo) {
     const QString maiuscolo = testo.trimmed().toString().toUpper();
-    const QString minuscolo = maiuscolo.toLower();
-    if (minuscolo.size() != maiuscolo.size()) return maiuscolo;  // a letter whose two cases differ in length
     QString risultato = maiuscolo;
     for (qsizetype i = 1; i < maiuscolo.size(); ++i) {
         const QChar precedente = maiuscolo.at(i - 1);
-        if (precedente >= u'A' && precedente <= u'Z') risultato[i] = minuscolo.at(i);
+        if (precedente >= u'A' && precedente <= u'Z') risultato[i] = maiuscolo.at(i).toLower();
     }
     return risultato;
 }

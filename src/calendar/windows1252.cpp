@@ -80,6 +80,7 @@ TestoCodificato InWindows1252(QStringView originale, QStringView vietati) {
             ++codificato.sostituiti;
             const bool coppia = c.isHighSurrogate() && i + 1 < testo.size() && testo.at(i + 1).isLowSurrogate();
             if (coppia) ++i;
+            if (c.isMark()) continue;  // its letter is there already
         }
         codificato.byte.append(byte ? *byte : LetteraDiBase(c.unicode()));
     }

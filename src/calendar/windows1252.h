@@ -18,7 +18,7 @@ struct TestoCodificato {
 };
 
 /// A character that the code page lacks travels as its base letter (Č as C), or as "?" when it has none; so do those
-/// in `vietati`, which the file's format needs for itself.
+/// in `vietati`, which the file's format needs for itself. An accent that no letter of Unicode carries is left out.
 TestoCodificato InWindows1252(QStringView testo, QStringView vietati = {});
 
 }  // namespace cronovia

@@ -1,0 +1,60 @@
+// What tests of several rooms share: a data folder of their own, whole files, readable messages.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+#include <ostream>
+#include <utility>
+
+#include "interaction/failure.h"
+
+// GoogleTest would print a text as a list of numbers.
+inline void PrintTo(const QString& testo, std::ostream* uscita) { *uscita << '"' << testo.toStdString() << '"'; }
+
+namespace cronovia::prova {
+
+/// A data folder, with blanks and accents in its path, that does not exist yet and goes with the object.
+class CartellaDiProva {
+  public:
+    [[nodiscard]] QString Percorso() const { return radice_.filePath(QStringLiteral("I miei viaggi — città è")); }
+    [[nodiscard]] QString Archivio() const { return Percorso() + QStringLiteral("/VandroCronovia.mdb"); }
+    /// Names in the folder, sorted.
+    [[nodiscard]] QStringList Contenuto() const {
+        return QDir(Percorso()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    void Crea() const { ASSERT_TRUE(QDir().mkpath(Percorso())); }
+
+  private:
+    QTemporaryDir radice_;
+};
+
+inline QByteArray LeggiFile(const QString& percorso) {
+    QFile file(percorso);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << percorso.toStdString();
+    return file.readAll();
+}
+
+inline void ScriviFile(const QString& percorso, const QByteArray& byte) {
+    QFile file(percorso);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << percorso.toStdString();
+    ASSERT_EQ(file.write(byte), byte.size());
+}
+
+/// The message with which an action fails; a test failure and "" when it does not fail.
+template <typename Azione>
+QString MessaggioDi(Azione&& azione) {
+    try {
+        std::forward<Azione>(azione)();
+    } catch (const Failure& failure) {
+        return failure.Message();
+    }
+    ADD_FAILURE() << "the action was not refused";
+    return {};
+}
+
+}  // namespace cronovia::prova
