@@ -1,0 +1,19 @@
+// The quick return: up to when one can drive on, or turn back, and still be home in time.
+#pragma once
+
+#include <span>
+
+#include "interaction/progress.h"
+#include "schedule/riga_cronovia.h"
+#include "trips/orario.h"
+
+namespace cronovia {
+
+/// Marks the rows of a finished schedule. First from its end (`data`, `ora`: the clock there) upwards: each driving row
+/// gets the latest moment at which, driving on without stops, the trip still ends when the schedule ends. Then, with
+/// the clock that reached the top, downwards: rows from which turning back at once still reaches home in time get that
+/// latest moment instead, until the first row whose mark's day, with the row's own hour, is not before the clock.
+void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const ParametriViaggio& parametri,
+                  Progress& progress);
+
+}  // namespace cronovia

@@ -1,0 +1,79 @@
+// The computed schedule: a timed row for every driving piece, stop and guide entry.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "calendar/date.h"
+#include "itinerary/riepilogo.h"
+#include "schedule/tabella_calcolo.h"
+
+namespace cronovia {
+
+enum class GenereRiga : std::uint8_t {
+    Tappa,   ///< a stage without driving or stop: only its name
+    Tratto,  ///< a driving piece
+    Sosta,   ///< a stop, a visit or a ferry
+    Guida,   ///< an entry of the city guide
+};
+
+/// What happens at the end of a driving piece, in the order in which it happens.
+struct Eventi {
+    bool pranzo : 1 = false;
+    bool cena : 1 = false;
+    bool notte : 1 = false;
+    bool riposo : 1 = false;
+    bool notteTardiva : 1 = false;  ///< the night begins only after all this, because it ended past the night hour
+};
+
+enum class Motivo : std::uint8_t { Nessuno, Visita, VisitaFineGiorno, TraghettoVisita };
+
+/// The latest moment of being here and still reaching the end in time.
+struct LimiteRitorno {
+    bool prosecuzione = true;  ///< driving on; else turning back
+    NumeroGiorno data;
+    Centesimi ora;
+};
+
+struct RigaCronovia {
+    GenereRiga genere = GenereRiga::Tratto;
+    bool verso = false;       ///< the leg goes on after this piece
+    bool riposoDopo = false;  ///< whole rest days follow
+    bool fineGiorno = false;  ///< the stop lasts until the day's end
+    Eventi eventi;
+    Motivo motivo = Motivo::Nessuno;
+    int tappa = 0;  ///< position of the stage in the calculation table
+    int voce = 0;   ///< position of the entry in the stage's guide entries
+    int km = 0;     ///< of this piece
+    std::int64_t kmProgressivi = 0;
+    Centesimi tempo;    ///< driving time of this piece
+    NumeroGiorno data;  ///< day on which the piece, or the stop, ends
+    Centesimi ora;      ///< and its hour
+    Durata sosta;       ///< the stop before this pass scaled it
+    std::optional<LimiteRitorno> limite;
+};
+
+/// End of the trip as of the last driving piece.
+struct FineViaggio {
+    NumeroGiorno data;  ///< the day on which the journey would go on
+    Centesimi ora;      ///< end of the last piece
+    int giorni = 0;     ///< from the start date, which is day 1
+};
+
+/// The schedule of a trip, with all that its texts need.
+struct Cronovia {
+    TabellaCalcolo tabella;
+    std::vector<RigaCronovia> righe;
+    std::optional<FineViaggio> fine;  ///< nothing without any driving
+    Totali totali;
+    Centesimi guidaGiorno;  ///< day length of the driving totals
+    int riposoMinuti = 0;
+};
+
+/// Day, month, year, hour, minutes, weekday and number of days of the trip's end; empty without any driving.
+std::array<QString, 7> TestiFine(const Cronovia& cronovia);
+
+}  // namespace cronovia

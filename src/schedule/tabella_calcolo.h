@@ -1,0 +1,34 @@
+// The table that a calculation works on: the stages with the stops that the trip's policy retains.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "guide/guida_citta.h"
+#include "interaction/progress.h"
+#include "itinerary/tappa.h"
+#include "trips/orario.h"
+
+namespace cronovia {
+
+/// One stage as the simulation sees it. Days of stops are visiting days.
+struct RigaCalcolo {
+    Tappa tappa;             ///< `tappa.guida` is the guide time found for this calculation
+    Durata sostaItinerario;  ///< what the policy retains of the itinerary's stop
+    Durata sostaGuida;       ///< what it retains of the guide's visit times
+    Durata sosta;            ///< both together
+    bool fineGiorno = false;
+    std::shared_ptr<const VociGuida> voci;  ///< guide entries to list at this stage; never null
+};
+
+struct TabellaCalcolo {
+    std::vector<RigaCalcolo> righe;
+    Centesimi totaleSoste;  ///< sum of all retained stops
+};
+
+/// Joins the stages with the guide and applies the stop policy. A locality gets its guide time at its first stage only.
+TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, const ParametriConvertiti& convertiti,
+                                                LettoreGuida& guida, Progress& progress);
+
+}  // namespace cronovia
