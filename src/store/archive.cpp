@@ -100,7 +100,8 @@ void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& 
             return;
         }
         const auto posto = static_cast<std::size_t>(ricerca.condizioni.front().posto);
-        const std::string field = Name(table.campi.at(posto).nome);
+        // The ranges are those of this order, whatever order a table made elsewhere gives its field.
+        const std::string field = Name(table.campi.at(posto).nome) + " COLLATE NOCASE";
         for (const NamePattern::Range& range : ranges) {
             const std::string test = range.single ? " = ?1" : " >= ?1 AND " + field + " < ?2";
             SQLite::Statement& statement = connection_->Prepared(SelectSql(table) + " WHERE " + field + test);

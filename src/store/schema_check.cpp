@@ -2,7 +2,9 @@
 
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
+#include <sqlite3.h>
 
 #include <QByteArray>
 #include <QDir>
@@ -28,15 +30,17 @@ constexpr int kSchemaVersion = 1;
 struct Column {
     QString name;
     QString type;
+    bool ours = true;  // else a field that somebody else added
 };
 
 std::string Name(const QString& name) { return "\"" + name.toStdString() + "\""; }
 
 QString TypeOf(const Campo& campo) { return campo.larghezza == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(campo.larghezza); }
 
-std::string ColumnSql(const QString& name, const QString& type) {
-    const bool text = type.startsWith("TEXT"_L1);
-    return Name(name) + " " + type.toStdString() + (text ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0");
+std::string ColumnSql(const Column& column) {
+    const std::string plain = Name(column.name) + " " + column.type.toStdString();
+    if (!column.ours) return plain;
+    return plain + (column.type.startsWith("TEXT"_L1) ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0");
 }
 
 int IntegerOf(SQLite::Database& database, const char* sql) { return database.execAndGet(sql).getInt(); }
@@ -111,7 +115,7 @@ void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabel
 
 void DatabaseTabellaCrea(SQLite::Database& database, const QString& name, const std::vector<Column>& columns) {
     std::string list;
-    for (const Column& column : columns) list += (list.empty() ? "" : ", ") + ColumnSql(column.name, column.type);
+    for (const Column& column : columns) list += (list.empty() ? "" : ", ") + ColumnSql(column);
     database.exec("CREATE TABLE " + Name(name) + " (" + list + ")");
 }
 
@@ -135,7 +139,7 @@ void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, c
     }
     for (const Column& column : existing) {
         if (FindColumn(columns, column.name) != nullptr) continue;
-        columns.push_back({column.name, column.type});
+        columns.push_back({column.name, column.type, false});
         names += ", " + Name(column.name);
         values += ", " + Name(column.name);
     }
@@ -156,6 +160,14 @@ void DataBaseVerificaIndici(SQLite::Database& database, const DefinizioneTabella
     }
 }
 
+// A copy is whole or the attempt has failed: another program may hold the file.
+void CopyDatabase(SQLite::Database& database, const QString& path) {
+    SQLite::Database target(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    SQLite::Backup backup(target, database);
+    const int result = backup.executeStep();
+    if (result != SQLITE_DONE) throw SQLite::Exception("backup", result);
+}
+
 // Lays a copy beside the file, under the first free number.
 void KeepCopy(SQLite::Database& database, const QString& path) {
     const QFileInfo file(path);
@@ -166,10 +178,11 @@ void KeepCopy(SQLite::Database& database, const QString& path) {
     }
     const QString unfinished = copy + u".parziale"_s;
     QFile::remove(unfinished);
-    {
-        SQLite::Database target(unfinished.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-        SQLite::Backup backup(target, database);
-        backup.executeStep();
+    try {
+        CopyDatabase(database, unfinished);
+    } catch (const SQLite::Exception&) {
+        QFile::remove(unfinished);
+        throw;
     }
     if (!QFile::rename(unfinished, copy)) {
         QFile::remove(unfinished);

@@ -1,0 +1,275 @@
+// Opening a data folder: what is made, what is mended, what is refused and left alone.
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <gtest/gtest.h>
+
+#include <QStringList>
+#include <array>
+
+#include "store/archive.h"
+#include "support/prova.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void Esegui(const QString& percorso, const char* sql) {
+    SQLite::Database database(percorso.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    database.exec(sql);
+}
+
+// The first column of a query, through a connection of its own.
+QStringList Elenco(const QString& percorso, const char* sql) {
+    const SQLite::Database database(percorso.toStdString());
+    SQLite::Statement statement(database, sql);
+    QStringList elenco;
+    while (statement.executeStep()) elenco += QString::fromStdString(statement.getColumn(0).getString());
+    return elenco;
+}
+
+QStringList Campi(const QString& percorso, const char* tabella) {
+    return Elenco(percorso,
+                  (std::string("SELECT name || ' ' || type FROM pragma_table_info('") + tabella + "')").c_str());
+}
+
+constexpr auto* kIndici =
+    "SELECT m.name || ' ' || i.name FROM sqlite_master m, pragma_index_list(m.name) l, pragma_index_info(l.name) i "
+    "WHERE m.type = 'table' ORDER BY m.rowid, i.cid";
+
+const QStringList kAttesi = {u"MeteVandro CodiceMeta"_s, u"MeteVandro Localita"_s,      u"Itinerari CodiceMeta"_s,
+                             u"Itinerari Sequenza"_s,    u"Itinerari Localita"_s,       u"GuidaCitta Localita"_s,
+                             u"TipoGuida CodiceGuida"_s, u"MetaCorrente MetaCorrente"_s};
+
+class ArchiveOpen : public ::testing::Test {
+  protected:
+    // An archive with one trip and two guide entries, closed again.
+    void CreaArchivio() {
+        Archive archive = Archive::Open(cartella_.Percorso());
+        std::vector<QString> meta(mete::kCampi);
+        meta[mete::CodiceMeta] = u"000007"_s;
+        archive.Insert(Tabella::MeteVandro, meta);
+        for (const QString& localita : {u"Alba"_s, u"L'Aquila"_s}) {
+            archive.Insert(Tabella::GuidaCitta,
+                           std::array<QString, 5>{localita, u"01"_s, u"Fontana"_s, u"01:30"_s, u"0"_s});
+        }
+    }
+    void Apri() { Archive::Open(cartella_.Percorso()); }
+    QString Copia() { return cartella_.Percorso() + u"/VandroCronovia-copia1.mdb"_s; }
+    void AttendiDati(const QString& flagVisto = u"0"_s) {
+        Archive archive = Archive::Open(cartella_.Percorso());
+        EXPECT_EQ(archive.SelectFirst({Tabella::MeteVandro, {}}).value()[mete::CodiceMeta], u"000007"_s);
+        const std::vector<Record> guida = archive.Select({Tabella::GuidaCitta, {}});
+        ASSERT_EQ(guida.size(), 2U);
+        EXPECT_EQ(guida[1].valori, (std::vector<QString>{u"L'Aquila"_s, u"01"_s, u"Fontana"_s, u"01:30"_s, flagVisto}));
+    }
+    // Opening must fail with a message that holds `parola` and leave the folder as it was.
+    void AttendiRifiuto(const QString& parola) {
+        const QByteArray prima = prova::LeggiFile(cartella_.Archivio());
+        const QStringList contenuto = cartella_.Contenuto();
+        const QString messaggio = prova::MessaggioDi([this] { Apri(); });
+        EXPECT_TRUE(messaggio.startsWith(u"Errore apertura database "_s)) << messaggio.toStdString();
+        EXPECT_TRUE(messaggio.contains(parola)) << messaggio.toStdString();
+        EXPECT_EQ(cartella_.Contenuto(), contenuto);
+        EXPECT_EQ(prova::LeggiFile(cartella_.Archivio()), prima);
+    }
+
+    prova::CartellaDiProva cartella_;
+};
+
+TEST_F(ArchiveOpen, AFreshFolderGetsAllTablesAndIndexes) {
+    Apri();
+    const QString file = cartella_.Archivio();
+    EXPECT_EQ(cartella_.Contenuto(), QStringList{u"VandroCronovia.mdb"_s});
+    EXPECT_EQ(Elenco(file, "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid"),
+              (QStringList{u"MeteVandro"_s, u"Itinerari"_s, u"GuidaCitta"_s, u"TipoGuida"_s, u"MetaCorrente"_s,
+                           u"Parametri"_s}));
+    EXPECT_EQ(Elenco(file, kIndici), kAttesi);
+    const QString parametri =
+        u"MediaAutostrada TEXT(3),MediaSuperStrada TEXT(3),MediaPrincipale TEXT(3),MediaLocale TEXT(3),"
+        "OraColazione TEXT(4),OraPranzo TEXT(4),DurataPranzo TEXT(4),OraCena TEXT(4),DurataCena TEXT(4),"
+        "OraNotte TEXT(4),RiposoMinuti TEXT(2),RiposoOre TEXT(2),RiposoGiorno TEXT(2),RiposoDopoGiorni TEXT(2),"
+        "InizioVisita TEXT(4),FineVisita TEXT(4),OreTraghetti TEXT(4),"_s;
+    EXPECT_EQ(Campi(file, "MeteVandro").join(u','),
+              u"CodiceMeta TEXT(6),Localita TEXT(30),Nazione TEXT(19),DataInizio TEXT(8),OraInizio TEXT(4),"_s +
+                  parametri + u"GiorniAdeguamento TEXT(4),CalcoloSoste TEXT(1)"_s);
+    EXPECT_EQ(Campi(file, "Itinerari").join(u','),
+              u"CodiceMeta TEXT(6),Sequenza TEXT(4),Localita TEXT(30),Chilometri TEXT(4),NomeStrada TEXT(64),"
+              "TipoStrada TEXT(1),TempoSosta TEXT(8),SostaGuidaCitta TEXT(8),FineGiorno TEXT(1)"_s);
+    EXPECT_EQ(Campi(file, "GuidaCitta").join(u','),
+              u"Localita TEXT(30),CodiceGuida TEXT(2),Descrizione TEXT(96),TempoSosta TEXT(5),FlagVisto TEXT(1)"_s);
+    EXPECT_EQ(Campi(file, "TipoGuida").join(u','),
+              u"CodiceGuida TEXT(2),Descrizione TEXT(32),TempoObbligatorio BOOLEAN"_s);
+    EXPECT_EQ(Campi(file, "MetaCorrente").join(u','), u"MetaCorrente TEXT(6)"_s);
+    EXPECT_EQ(Campi(file, "Parametri").join(u','), parametri + u"CalcoloSoste TEXT(1)"_s);
+}
+
+TEST_F(ArchiveOpen, AnArchiveInOrderIsNotWritten) {
+    CreaArchivio();
+    const QByteArray prima = prova::LeggiFile(cartella_.Archivio());
+    AttendiDati();
+    EXPECT_EQ(prova::LeggiFile(cartella_.Archivio()), prima);
+    EXPECT_EQ(cartella_.Contenuto(), QStringList{u"VandroCronovia.mdb"_s});
+}
+
+TEST_F(ArchiveOpen, AnEmptyFileBecomesAnArchive) {
+    cartella_.Crea();
+    prova::ScriviFile(cartella_.Archivio(), {});
+    Apri();
+    EXPECT_EQ(Elenco(cartella_.Archivio(), kIndici), kAttesi);
+    EXPECT_EQ(cartella_.Contenuto(), QStringList{u"VandroCronovia.mdb"_s});
+}
+
+struct Guasto {
+    const char* sql;
+    QString flagVisto = u"0"_s;  // that the guide entries have afterwards
+    QStringList campiInPiu = {};
+};
+
+void PrintTo(const Guasto& guasto, std::ostream* uscita) { *uscita << guasto.sql; }
+
+class GuastoTest : public ArchiveOpen, public ::testing::WithParamInterface<Guasto> {};
+
+TEST_P(GuastoTest, IsMendedAndACopyKept) {
+    CreaArchivio();
+    const QString file = cartella_.Archivio();
+    const QStringList campi = Campi(file, "GuidaCitta");
+    Esegui(file, GetParam().sql);
+    constexpr auto* kSchema = "SELECT sql FROM sqlite_master ORDER BY name";
+    const QStringList schema = Elenco(file, kSchema);
+
+    AttendiDati(GetParam().flagVisto);
+    QStringList indici = Elenco(file, kIndici);
+    QStringList indiciAttesi = kAttesi;
+    indici.sort();
+    indiciAttesi.sort();
+    EXPECT_EQ(indici, indiciAttesi);
+    EXPECT_EQ(Campi(file, "GuidaCitta"), campi + GetParam().campiInPiu);
+    EXPECT_EQ(cartella_.Contenuto(), (QStringList{u"VandroCronovia-copia1.mdb"_s, u"VandroCronovia.mdb"_s}));
+    EXPECT_EQ(Elenco(Copia(), kSchema), schema);
+    EXPECT_EQ(Elenco(Copia(), "SELECT Localita FROM GuidaCitta"), (QStringList{u"Alba"_s, u"L'Aquila"_s}));
+
+    const QByteArray dopo = prova::LeggiFile(file);
+    Apri();
+    EXPECT_EQ(prova::LeggiFile(file), dopo);  // mended once and for all
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Archive, GuastoTest,
+    ::testing::Values(
+        Guasto{"DROP TABLE Parametri"}, Guasto{"DROP TABLE Itinerari; DROP TABLE TipoGuida"},
+        Guasto{"DROP INDEX GuidaCitta_Localita"}, Guasto{"ALTER TABLE GuidaCitta DROP COLUMN FlagVisto", u""_s},
+        Guasto{"DROP TABLE MetaCorrente; ALTER TABLE TipoGuida DROP COLUMN TempoObbligatorio"},
+        Guasto{"ALTER TABLE GuidaCitta RENAME COLUMN Descrizione TO DESCRIZIONE"},
+        // other widths, of which every value fits
+        Guasto{"CREATE TABLE g (Localita TEXT(20), CodiceGuida TEXT(8), Descrizione TEXT(200), TempoSosta VARCHAR, "
+               "FlagVisto TEXT(1)); INSERT INTO g SELECT * FROM GuidaCitta; DROP TABLE GuidaCitta; "
+               "ALTER TABLE g RENAME TO GuidaCitta"},
+        // another order and fields of somebody else
+        Guasto{"CREATE TABLE g (Voto TEXT, FlagVisto TEXT(1), TempoSosta TEXT(5), Stelle INTEGER, Descrizione TEXT(99),"
+               " CodiceGuida TEXT(2), Localita TEXT(30)); INSERT INTO g SELECT NULL, FlagVisto, TempoSosta, rowid, "
+               "Descrizione, CodiceGuida, Localita FROM GuidaCitta; DROP TABLE GuidaCitta; "
+               "ALTER TABLE g RENAME TO GuidaCitta",
+               u"0"_s,
+               {u"Voto TEXT"_s, u"Stelle INTEGER"_s}}));
+
+TEST_F(ArchiveOpen, FieldsOfSomebodyElseKeepTheirValues) {
+    CreaArchivio();
+    Esegui(cartella_.Archivio(),
+           "ALTER TABLE GuidaCitta ADD COLUMN Voto TEXT; ALTER TABLE GuidaCitta ADD COLUMN Foto BLOB; "
+           "UPDATE GuidaCitta SET Voto = 'ottimo', Foto = x'00ff' WHERE Localita = 'Alba'; "
+           "ALTER TABLE GuidaCitta DROP COLUMN FlagVisto");
+    AttendiDati(u""_s);
+    EXPECT_EQ(Elenco(cartella_.Archivio(), "SELECT quote(Voto) || quote(Foto) FROM GuidaCitta"),
+              (QStringList{u"'ottimo'X'00FF'"_s, u"NULLNULL"_s}));
+}
+
+TEST_F(ArchiveOpen, AnOlderCopyIsNeverOverwritten) {
+    CreaArchivio();
+    prova::ScriviFile(Copia(), "di prima");
+    Esegui(cartella_.Archivio(), "DROP TABLE Parametri");
+    AttendiDati();
+    EXPECT_EQ(prova::LeggiFile(Copia()), QByteArray("di prima"));
+    EXPECT_TRUE(cartella_.Contenuto().contains(u"VandroCronovia-copia2.mdb"_s));
+}
+
+TEST_F(ArchiveOpen, AValueThatDoesNotFitIsRefused) {
+    CreaArchivio();
+    Esegui(cartella_.Archivio(),
+           "CREATE TABLE g (Localita TEXT(40)); INSERT INTO g VALUES ('Roma'), ('1234567890123456789012345678901'); "
+           "DROP TABLE GuidaCitta; ALTER TABLE g RENAME TO GuidaCitta; DROP TABLE Itinerari");
+    AttendiRifiuto(u"nella tabella GuidaCitta il campo Localita"_s);
+}
+
+TEST_F(ArchiveOpen, NothingIsMendedWithoutACopy) {
+    CreaArchivio();
+    Esegui(cartella_.Archivio(), "DROP TABLE Parametri");
+    ASSERT_TRUE(QDir().mkpath(Copia() + u".parziale"_s));  // in the way of the copy
+    AttendiRifiuto(u"controlla i permessi e la cartella"_s);
+}
+
+TEST_F(ArchiveOpen, OtherFilesUnderTheNameAreRefused) {
+    cartella_.Crea();
+    const QString file = cartella_.Archivio();
+    struct Caso {
+        QByteArray byte;
+        QString parola;
+    };
+    const std::array<Caso, 5> casi = {
+        {{QByteArray("\x00\x01\x00\x00Standard Jet DB\x00\x01", 21) + QByteArray(4075, '\xa7'), u"archivio Jet"_s},
+         {QByteArray("\x00\x01\x00\x00Standard ACE DB\x00\x02", 21), u"non è un archivio di Cronovia"_s},
+         {"caro diario", u"non è un archivio di Cronovia"_s},
+         {QByteArray(1, '\0'), u"non è un archivio di Cronovia"_s},
+         {QByteArray("SQLite format 3\0", 16) + QByteArray(4080, 'x'), u"non è un archivio di Cronovia"_s}}};
+    for (const Caso& caso : casi) {
+        SCOPED_TRACE(caso.byte.left(24).toStdString());
+        prova::ScriviFile(file, caso.byte);
+        AttendiRifiuto(caso.parola);
+    }
+}
+
+TEST_F(ArchiveOpen, OtherDatabasesUnderTheNameAreRefused) {
+    cartella_.Crea();
+    Esegui(cartella_.Archivio(), "CREATE TABLE clienti (nome TEXT); INSERT INTO clienti VALUES ('Rossi')");
+    AttendiRifiuto(u"altro programma"_s);
+}
+
+TEST_F(ArchiveOpen, ANewerSchemaIsRefused) {
+    CreaArchivio();
+    Esegui(cartella_.Archivio(), "DROP TABLE Parametri; PRAGMA user_version = 99");
+    AttendiRifiuto(u"versione più recente"_s);
+}
+
+TEST_F(ArchiveOpen, ADamagedArchiveIsRefused) {
+    CreaArchivio();
+    const QByteArray byte = prova::LeggiFile(cartella_.Archivio());
+    prova::ScriviFile(cartella_.Archivio(), byte.left(byte.size() / 2));
+    AttendiRifiuto(u"danneggiato"_s);
+}
+
+TEST_F(ArchiveOpen, FoldersAndFilesInTheWayAreRefused) {
+    ASSERT_TRUE(QDir().mkpath(cartella_.Archivio()));
+    EXPECT_TRUE(prova::MessaggioDi([this] { Apri(); }).contains(u"al suo posto c'è una cartella"_s));
+    EXPECT_TRUE(QDir(cartella_.Archivio()).isEmpty());
+    const QString file = cartella_.Percorso() + u"/appunti.txt"_s;
+    prova::ScriviFile(file, "x");
+    EXPECT_TRUE(prova::MessaggioDi([&] { Archive::Open(file); }).contains(u"la cartella non si può creare"_s));
+}
+
+TEST_F(ArchiveOpen, AnArchiveLockedByAnotherProgramIsRefused) {
+    CreaArchivio();
+    SQLite::Database altro(cartella_.Archivio().toStdString(), SQLite::OPEN_READWRITE);
+    altro.exec("BEGIN EXCLUSIVE");
+    AttendiRifiuto(u"in uso da un altro programma"_s);
+    altro.exec("ROLLBACK; BEGIN IMMEDIATE");
+    Archive archive = Archive::Open(cartella_.Percorso());  // reading goes on beside a writer
+    EXPECT_EQ(archive.Count(Tabella::GuidaCitta), 2);
+    const QString messaggio = prova::MessaggioDi([&] { archive.Delete(Tabella::GuidaCitta, 1); });
+    EXPECT_TRUE(messaggio.contains(u"in uso da un altro programma"_s)) << messaggio.toStdString();
+    altro.exec("ROLLBACK");
+    archive.Delete(Tabella::GuidaCitta, 1);
+    EXPECT_EQ(archive.Count(Tabella::GuidaCitta), 1);
+}
+
+}  // namespace
+}  // namespace cronovia

@@ -1,0 +1,167 @@
+// Searching with patterns: complete in every case, and through the index where there is one to use.
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <array>
+#include <random>
+#include <set>
+
+#include "store/archive.h"
+#include "support/prova.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void AggiungiVoce(Archive& archive, const QString& localita, const QString& descrizione) {
+    archive.Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, descrizione, u"01:00"_s, u"0"_s});
+}
+
+// Names and patterns out of few letters that are hard to compare: both cases, accents, letters with three forms,
+// letters whose other case is an ASCII one, characters beyond the basic plane, wildcards.
+class Generatore {
+  public:
+    QString Nome() {
+        QString nome;
+        for (int n = Numero(8); n > 0; --n) nome += Pezzo();
+        return nome;
+    }
+
+    // A pattern that often matches: a name with some characters changed for wildcards or for their other case.
+    QString Modello(const QString& nome) {
+        QString modello;
+        for (const QChar c : nome) {
+            const int scelta = Numero(12);
+            if (scelta == 0) {
+                modello += u'?';
+            } else if (scelta == 1) {
+                modello += u'*';
+            } else if (scelta == 2) {
+                modello += u"[!x]"_s;
+            } else if (scelta < 8) {
+                modello += c.isUpper() ? c.toLower() : c.toUpper();
+            } else {
+                modello += c;
+            }
+        }
+        return Numero(3) == 0 ? modello + u'*' : modello;
+    }
+
+    int Numero(int limite) { return static_cast<int>(casuale_() % static_cast<unsigned>(limite)); }
+
+  private:
+    QString Pezzo() {
+        static const std::array<QString, 34> pezzi = {
+            u"a"_s, u"A"_s, u"b"_s,      u"B"_s, u"k"_s, u"K"_s,      u"\u212A"_s, u"s"_s, u"S"_s,
+            u"ſ"_s, u"à"_s, u"À"_s,      u"å"_s, u"Å"_s, u"\u212B"_s, u"σ"_s,      u"ς"_s, u"Σ"_s,
+            u"ß"_s, u"ẞ"_s, u"i"_s,      u"I"_s, u"İ"_s, u"ı"_s,      u"µ"_s,      u"μ"_s, u"ǆ"_s,
+            u"ǅ"_s, u"😀"_s, u"\uFFFD"_s, u"'"_s, u"["_s, u"7"_s,      u" "_s};
+        return pezzi.at(static_cast<std::size_t>(Numero(pezzi.size())));
+    }
+
+    std::mt19937 casuale_{20040805};
+};
+
+std::set<std::int64_t> Id(const std::vector<Record>& records) {
+    std::set<std::int64_t> id;
+    for (const Record& record : records) id.insert(record.id);
+    return id;
+}
+
+TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
+    const prova::CartellaDiProva cartella;
+    Archive archive = Archive::Open(cartella.Percorso());
+    Generatore generatore;
+    std::vector<QString> nomi = {u""_s, u"SANT'ANNA"_s};
+    while (nomi.size() < 300) nomi.push_back(generatore.Nome());
+    Transaction transaction(archive);
+    for (const QString& nome : nomi) AggiungiVoce(archive, nome, nome);
+    transaction.Commit();
+    std::vector<Record> tutti = archive.Select({Tabella::GuidaCitta, {}});
+    ASSERT_EQ(tutti.size(), nomi.size());
+
+    std::size_t trovati = 0;
+    for (int prova = 0; prova < 1500; ++prova) {
+        const QString testo = generatore.Modello(nomi.at(static_cast<std::size_t>(generatore.Numero(300))));
+        const NamePattern modello = prova % 5 == 0 ? NamePattern::Exactly(testo) : NamePattern(testo);
+        std::set<std::int64_t> attesi;
+        for (const Record& record : tutti) {
+            if (modello.Matches(record[guida::Localita])) attesi.insert(record.id);
+        }
+        const std::vector<Record> risultato = archive.Select({Tabella::GuidaCitta, {{guida::Localita, modello}}});
+        ASSERT_EQ(Id(risultato), attesi) << testo.toStdString();
+        ASSERT_EQ(risultato.size(), attesi.size()) << "a row came twice: " << testo.toStdString();
+        trovati += attesi.size();
+    }
+    EXPECT_GT(trovati, 2000U);  // the patterns are worth the name
+}
+
+TEST(Search, AFileMadeElsewhereIsSearchedWithoutRegardToCaseToo) {
+    const prova::CartellaDiProva cartella;
+    cartella.Crea();
+    sqlite3* altro = nullptr;
+    ASSERT_EQ(sqlite3_open(cartella.Archivio().toUtf8().constData(), &altro), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(altro,
+                           "CREATE TABLE GuidaCitta (Localita TEXT(30), CodiceGuida TEXT(2), Descrizione TEXT(96), "
+                           "TempoSosta TEXT(5), FlagVisto TEXT(1));"
+                           "INSERT INTO GuidaCitta VALUES ('Roma', '01', 'Pantheon', '01:00', '0')",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(altro);
+    Archive archive = Archive::Open(cartella.Percorso());
+    EXPECT_TRUE(archive.Exists({Tabella::GuidaCitta, {{guida::Localita, NamePattern(u"ROMA")}}}));
+    EXPECT_TRUE(archive.Exists({Tabella::GuidaCitta, {{guida::Localita, NamePattern(u"rOM*")}}}));
+}
+
+// Counts, over all connections of the process, the rows that statements step through without an index.
+class ContaRigheSenzaIndice {
+  public:
+    ContaRigheSenzaIndice() {
+        righe = 0;
+        sqlite3_auto_extension(reinterpret_cast<void (*)()>(&Ascolta));
+    }
+    ContaRigheSenzaIndice(const ContaRigheSenzaIndice&) = delete;
+    ContaRigheSenzaIndice& operator=(const ContaRigheSenzaIndice&) = delete;
+    ~ContaRigheSenzaIndice() { sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(&Ascolta)); }
+
+    static int Preleva() { return std::exchange(righe, 0); }
+
+  private:
+    static int Ascolta(sqlite3* database, char** /*errore*/, const sqlite3_api_routines* /*api*/) {
+        return sqlite3_trace_v2(database, SQLITE_TRACE_PROFILE, &Conta, nullptr);
+    }
+    static int Conta(unsigned /*evento*/, void* /*contesto*/, void* statement, void* /*durata*/) {
+        righe += sqlite3_stmt_status(static_cast<sqlite3_stmt*>(statement), SQLITE_STMTSTATUS_FULLSCAN_STEP, 1);
+        return 0;
+    }
+    static inline int righe = 0;
+};
+
+TEST(Search, ALiteralBeginningUsesTheIndex) {
+    const prova::CartellaDiProva cartella;
+    const ContaRigheSenzaIndice conta;
+    Archive archive = Archive::Open(cartella.Percorso());
+    Transaction transaction(archive);
+    for (int i = 0; i < 1000; ++i) {
+        AggiungiVoce(archive, u"%1 %2"_s.arg(i % 2 == 0 ? u"Örebro"_s : u"Roma"_s).arg(i), u"Duomo"_s);
+    }
+    transaction.Commit();
+    const auto cerca = [&](int posto, const QString& modello) {
+        ContaRigheSenzaIndice::Preleva();
+        const std::size_t trovati = archive.Select({Tabella::GuidaCitta, {{posto, NamePattern(modello)}}}).size();
+        return std::pair(trovati, ContaRigheSenzaIndice::Preleva());
+    };
+    using Esito = std::pair<std::size_t, int>;
+    EXPECT_EQ(cerca(guida::Localita, u"ROMA 7"_s), Esito(1, 0));
+    EXPECT_EQ(cerca(guida::Localita, u"roma 9?"_s), Esito(5, 0));
+    EXPECT_EQ(cerca(guida::Localita, u"öREBRO 1[0-3]*"_s), Esito(2 + 20, 0));
+    EXPECT_EQ(cerca(guida::Localita, u"Ö*8"_s), Esito(100, 0));
+    EXPECT_EQ(cerca(guida::Localita, u"assente"_s), Esito(0, 0));
+    // The witness does see a search that reads everything.
+    EXPECT_GE(cerca(guida::Localita, u"?OMA 7"_s).second, 999);
+    EXPECT_GE(cerca(guida::Descrizione, u"Duomo"_s).second, 999);
+}
+
+}  // namespace
+}  // namespace cronovia
