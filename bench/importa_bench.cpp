@@ -1,0 +1,147 @@
+// Import of a large exchange file beside what the sqlite3 shell needs for the same rows.
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <vector>
+
+#include "calendar/testo.h"
+#include "exchange/importa_mete.h"
+#include "exchange/lettore_iei.h"
+
+using namespace cronovia;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTappePerMeta = 20;
+
+std::vector<QByteArray> ValoriMeta(int meta) {
+    return {Zero(meta, 6).toLatin1(),
+            "Mèta " + QByteArray::number(meta),
+            "Italia",
+            "01062025",
+            "0900",
+            "75",
+            "65",
+            "50",
+            "30",
+            "0900",
+            "1250",
+            "0250",
+            "2000",
+            "0175",
+            "2250",
+            "15",
+            "03",
+            "01",
+            "05",
+            "0900",
+            "1800",
+            "0600",
+            "0000",
+            "3"};
+}
+
+std::vector<QByteArray> ValoriTappa(int meta, int tappa) {
+    return {Zero(meta, 6).toLatin1(),
+            Zero(tappa, 4).toLatin1(),
+            "Localita " + QByteArray::number((meta * 7 + tappa * 13) % 9000),
+            QByteArray::number(10 + tappa * 7),
+            "A" + QByteArray::number(1 + tappa) + " - SS" + QByteArray::number(meta % 700),
+            "A",
+            "00:01:30",
+            " ",
+            "0"};
+}
+
+// Calls `riga` with the values of every row of the section, after the names of the fields.
+template <typename Visita>
+void PerOgniRiga(Tabella tabella, int mete, Visita riga) {
+    for (int meta = 1; meta <= mete; ++meta) {
+        if (tabella == Tabella::MeteVandro) riga(ValoriMeta(meta));
+        for (int tappa = 1; tabella == Tabella::Itinerari && tappa <= kTappePerMeta; ++tappa) {
+            riga(ValoriTappa(meta, tappa));
+        }
+    }
+}
+
+void ScriviRiga(QFile& file, const std::vector<QByteArray>& valori, char separatore, const char* fine) {
+    QByteArray riga;
+    for (const QByteArray& valore : valori) riga += valore + separatore;
+    if (*fine == '\n') riga.chop(1);
+    file.write(riga + fine);
+}
+
+void ScriviFileDiScambio(const QString& path, int mete) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) std::abort();
+    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari}) {
+        const char separatore = SeparatoreSezione(tabella);
+        std::vector<QByteArray> nomi;
+        for (const Campo& campo : Definizione(tabella).campi) nomi.push_back(campo.nome.toLatin1());
+        ScriviRiga(file, nomi, separatore, "\r\n");
+        PerOgniRiga(tabella, mete, [&](const auto& valori) { ScriviRiga(file, valori, separatore, "\r\n"); });
+    }
+}
+
+void ScriviCsv(const QString& path, Tabella tabella, int mete) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) std::abort();
+    PerOgniRiga(tabella, mete, [&](const auto& valori) { ScriviRiga(file, valori, ',', "\n"); });
+}
+
+double MemoriaDiPuntaMB() {
+    rusage uso{};
+    getrusage(RUSAGE_SELF, &uso);
+    return static_cast<double>(uso.ru_maxrss) / 1024;
+}
+
+void Importa(benchmark::State& state) {
+    const QTemporaryDir cartella;
+    const QString path = cartella.filePath(u"mete.iei"_s);
+    const auto mete = static_cast<int>(state.range(0));
+    ScriviFileDiScambio(path, mete);
+    int giro = 0;
+    Progress progress;
+    for (auto _ : state) {
+        state.PauseTiming();
+        Archive archive = Archive::Open(cartella.filePath(QString::number(++giro)));
+        state.ResumeTiming();
+        const EsitoImport esito = ImportaMete({archive, path, {}}, progress);
+        if (esito.tappeInserite != qint64{mete} * kTappePerMeta) state.SkipWithError("rows are missing");
+    }
+    state.SetItemsProcessed(state.iterations() * mete * (kTappePerMeta + 1));
+    state.counters["peak_MB"] = MemoriaDiPuntaMB();
+}
+
+// The same rows as CSV into the same tables and indexes.
+void SqliteShell(benchmark::State& state) {
+    if (QStandardPaths::findExecutable(u"sqlite3"_s).isEmpty()) return state.SkipWithError("no sqlite3 shell");
+    const QTemporaryDir cartella;
+    const auto mete = static_cast<int>(state.range(0));
+    ScriviCsv(cartella.filePath(u"mete.csv"_s), Tabella::MeteVandro, mete);
+    ScriviCsv(cartella.filePath(u"tappe.csv"_s), Tabella::Itinerari, mete);
+    int giro = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        const QString archivio = cartella.filePath(QString::number(++giro));
+        { const Archive nuovo = Archive::Open(archivio); }
+        state.ResumeTiming();
+        const int codice =
+            QProcess::execute(u"sqlite3"_s, {Archive::FilePath(archivio),
+                                             u".import --csv %1 MeteVandro"_s.arg(cartella.filePath(u"mete.csv"_s)),
+                                             u".import --csv %1 Itinerari"_s.arg(cartella.filePath(u"tappe.csv"_s))});
+        if (codice != 0) state.SkipWithError("the shell failed");
+    }
+    state.SetItemsProcessed(state.iterations() * mete * (kTappePerMeta + 1));
+}
+
+BENCHMARK(Importa)->Arg(2'000)->Arg(20'000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(SqliteShell)->Arg(2'000)->Arg(20'000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+}  // namespace

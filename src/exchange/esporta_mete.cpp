@@ -1,0 +1,175 @@
+#include "exchange/esporta_mete.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSet>
+
+#include "calendar/testo.h"
+#include "calendar/windows1252.h"
+#include "exchange/lettore_iei.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Characters that mean something to the reader of the file or that it drops. A Tab travels well.
+QString CaratteriVietati() {
+    QString vietati = u"ÿþý\""_s;
+    for (char16_t c = 0; c < u' '; ++c) {
+        if (c != u'\t') vietati += QChar(c);
+    }
+    return vietati;
+}
+
+QStringView SenzaBlank(QStringView testo) {
+    while (testo.startsWith(u' ')) testo = testo.sliced(1);
+    while (testo.endsWith(u' ')) testo.chop(1);
+    return testo;
+}
+
+class ScrittoreIei {
+  public:
+    explicit ScrittoreIei(const QString& path) : file_(path) {
+        if (!file_.open(QIODevice::WriteOnly)) {
+            throw Failure(u"Il file %1 non si può scrivere: controlla la cartella e i permessi."_s.arg(Nome()));
+        }
+    }
+
+    void Intestazione(Tabella tabella) {
+        for (const Campo& campo : Definizione(tabella).campi) Valore(tabella, campo.nome);
+        FineRiga();
+    }
+
+    void Riga(Tabella tabella, const Record& record) {
+        for (const QString& valore : record.valori) Valore(tabella, valore);
+        FineRiga();
+    }
+
+    /// Lays the file in its place; returns how many characters travel as another one.
+    qint64 Chiudi() {
+        if (!file_.commit()) NonScritto();
+        return sostituiti_;
+    }
+
+  private:
+    void Valore(Tabella tabella, QStringView valore) {
+        const TestoCodificato testo = InWindows1252(SenzaBlank(valore), vietati_);
+        sostituiti_ += testo.sostituiti;
+        riga_ += testo.byte;
+        riga_ += SeparatoreSezione(tabella);
+    }
+
+    void FineRiga() {
+        riga_ += "\r\n";
+        if (file_.write(riga_) != riga_.size()) NonScritto();
+        riga_.clear();
+    }
+
+    [[noreturn]] void NonScritto() const {
+        throw Failure(u"Il file %1 non è stato scritto: il disco è pieno o non si può scrivere."_s.arg(Nome()));
+    }
+
+    [[nodiscard]] QString Nome() const { return QDir::toNativeSeparators(file_.fileName()); }
+
+    QSaveFile file_;
+    QByteArray riga_;
+    QString vietati_ = CaratteriVietati();
+    qint64 sostituiti_ = 0;
+};
+
+Ricerca PerCodice(Tabella tabella, const QString& codice) { return {tabella, {{0, NamePattern::Exactly(codice)}}}; }
+
+bool UnArchivio(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(16) == QByteArray("SQLite format 3\0", 16);
+}
+
+void RifiutaFileEsistente(const QString& path, bool sovrascrivi) {
+    const QFileInfo info(path);
+    if (!info.exists()) return;
+    const QString nome = QDir::toNativeSeparators(path);
+    if (info.isDir()) throw Failure(u"%1 è una cartella, non un file."_s.arg(nome));
+    if (!sovrascrivi) throw Failure(u"Il file %1 esiste già: non è stato ricoperto."_s.arg(nome));
+    if (UnArchivio(path)) throw Failure(u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(nome));
+}
+
+std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
+    std::vector<QString> codici;
+    QSet<QString> presi;
+    const auto aggiungi = [&](const QString& codice) {
+        if (!presi.contains(codice)) codici.push_back(codice);
+        presi.insert(codice);
+    };
+    for (const QString& codice : richiesta.codici) {
+        if (!richiesta.archive.Exists(PerCodice(Tabella::MeteVandro, codice))) {
+            throw Failure(u"Non c'è nessuna mèta con il codice %1: niente è stato esportato."_s.arg(codice));
+        }
+        aggiungi(codice);
+    }
+    if (!codici.empty()) return codici;
+    for (const Record& record : richiesta.archive.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+        aggiungi(record[mete::CodiceMeta]);
+    }
+    if (codici.empty()) throw Failure(u"Non ci sono mète da esportare: niente è stato esportato."_s);
+    return codici;
+}
+
+// One of the two sections that go trip after trip; returns its records.
+qint64 ScriviSezione(Archive& archive, Tabella tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
+                     Progress& progress) {
+    scrittore.Intestazione(tabella);
+    qint64 scritti = 0;
+    double fatte = 0;
+    for (const QString& codice : codici) {
+        progress.Advance(++fatte, static_cast<double>(codici.size()));
+        for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
+            scrittore.Riga(tabella, record);
+            ++scritti;
+            if (tabella == Tabella::MeteVandro) break;
+        }
+    }
+    return scritti;
+}
+
+qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress) {
+    const auto totale = static_cast<double>(archive.Count(Tabella::GuidaCitta));
+    qint64 scritti = 0;
+    archive.ForEach(Tabella::GuidaCitta, [&](const Record& record) {
+        if (scritti == 0) scrittore.Intestazione(Tabella::GuidaCitta);
+        scrittore.Riga(Tabella::GuidaCitta, record);
+        progress.Advance(static_cast<double>(++scritti), totale);
+    });
+    return scritti;
+}
+
+}  // namespace
+
+EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
+    const std::vector<QString> codici = CodiciDaEsportare(richiesta);
+    RifiutaFileEsistente(richiesta.path, richiesta.sovrascrivi);
+    ScrittoreIei scrittore(richiesta.path);
+    EsitoExport esito{richiesta.path};
+    progress.Title(u"Esportazione mète"_s);
+    esito.mete = ScriviSezione(richiesta.archive, Tabella::MeteVandro, codici, scrittore, progress);
+    progress.Title(u"Esportazione itinerari"_s);
+    esito.tappe = ScriviSezione(richiesta.archive, Tabella::Itinerari, codici, scrittore, progress);
+    progress.Title(u"Esportazione guida città"_s);
+    esito.voci = ScriviGuida(richiesta.archive, scrittore, progress);
+    esito.caratteriSostituiti = scrittore.Chiudi();
+    progress.Advance(0, 0);
+    return esito;
+}
+
+QString TestoEsito(const EsitoExport& esito) {
+    const QString testo = u"Le mète esportate si trovano sul file "_s + esito.path;
+    if (esito.caratteriSostituiti == 0) return testo;
+    return testo + u"\r\nCaratteri che il file non può contenere, sostituiti con un altro: "_s +
+           Raggruppa(esito.caratteriSostituiti);
+}
+
+}  // namespace cronovia

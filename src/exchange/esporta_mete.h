@@ -1,0 +1,34 @@
+// Export: trips with their stages, and the whole city guide, as an exchange file.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "interaction/progress.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+struct RichiestaExport {
+    Archive& archive;
+    QString path;
+    std::vector<QString> codici;  ///< of the trips, in the file's order; none for all, in the order of their names
+    bool sovrascrivi = false;     ///< an existing file may be replaced
+};
+
+struct EsitoExport {
+    QString path;
+    qint64 mete = 0;
+    qint64 tappe = 0;
+    qint64 voci = 0;                 ///< of the city guide
+    qint64 caratteriSostituiti = 0;  ///< that the file cannot hold and that travel as another letter
+};
+
+/// Writes the file, whole or not at all. A `Failure` when the file exists and may not be replaced, when it cannot be
+/// written, when a code is unknown, or when there is no trip.
+EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress);
+
+/// The text of the closing box.
+QString TestoEsito(const EsitoExport& esito);
+
+}  // namespace cronovia

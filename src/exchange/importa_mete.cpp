@@ -1,0 +1,165 @@
+#include "exchange/importa_mete.h"
+
+#include <QFile>
+#include <QHash>
+#include <array>
+
+#include "calendar/testo.h"
+#include "exchange/elenco_mete.h"
+#include "exchange/mappa_codici.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
+
+QString Adattato(const QString& valore, const Campo& campo) { return valore.left(campo.larghezza); }
+
+// Whether a row has that text in the field, besides what `ricerca` asks for already. The text counts as a pattern, and
+// as it stands, for a "#" or a "[" in it does not match itself. Other installations store one blank behind the text,
+// or in its place.
+bool Esiste(Archive& archive, Ricerca ricerca, int posto, const QString& testo) {
+    const bool segni = testo.contains(u'#') || testo.contains(u'[');
+    std::vector<NamePattern> modelli;
+    for (const QString& forma : {testo, testo + u' '}) {
+        modelli.emplace_back(LikeTesto(forma));
+        if (segni) modelli.push_back(NamePattern::Exactly(forma));
+    }
+    ricerca.condizioni.push_back({posto, modelli.front()});
+    return std::any_of(modelli.begin(), modelli.end(), [&](const NamePattern& modello) {
+        ricerca.condizioni.back().modello = modello;
+        return archive.Exists(ricerca);
+    });
+}
+
+class Importatore {
+  public:
+    Importatore(Archive& archive, MappaCodici& codici) : archive_(archive), codici_(codici) {}
+
+    void Importa(RigaIei& riga) {
+        switch (riga.tabella) {
+            case Tabella::MeteVandro:
+                return ImportaMeta(riga);
+            case Tabella::Itinerari:
+                return ImportaTappa(riga);
+            default:
+                return ImportaVoce(riga);
+        }
+    }
+
+    EsitoImport& Esito() { return esito_; }
+
+  private:
+    void ImportaMeta(RigaIei& riga);
+    void ImportaTappa(RigaIei& riga);
+    void ImportaVoce(RigaIei& riga);
+    bool HaTappe(const QString& localita);
+    void Inserisci(RigaIei& riga, const QString& codiceMeta);
+
+    Archive& archive_;
+    MappaCodici& codici_;
+    QHash<QString, bool> conTappe_;  // localities looked up since the last stage was added
+    EsitoImport esito_;
+};
+
+void Importatore::ImportaMeta(RigaIei& riga) {
+    MetaDaImportare* meta = codici_.Trova(riga.valori[mete::CodiceMeta]);
+    if (!MetaImportabile(riga) || meta == nullptr) {
+        ++esito_.meteIncomplete;
+        return;
+    }
+    if (meta->stato == StatoMeta::NonScelta) return;
+    if (meta->stato != StatoMeta::InAttesa) {
+        ++esito_.codiciRipetuti;
+        return;
+    }
+    const Campo& campo = Definizione(Tabella::MeteVandro).campi[mete::Localita];
+    const QString localita = Adattato(riga.valori[mete::Localita], campo);
+    if (Esiste(archive_, {Tabella::MeteVandro, {}}, mete::Localita, localita)) {
+        meta->stato = StatoMeta::Scartata;
+        ++esito_.meteScartate;
+        return;
+    }
+    meta->stato = StatoMeta::Inserita;
+    ++esito_.meteInserite;
+    Inserisci(riga, meta->codice);
+}
+
+void Importatore::ImportaTappa(RigaIei& riga) {
+    const MetaDaImportare* meta = codici_.Trova(riga.valori[itinerari::CodiceMeta]);
+    if (meta == nullptr || meta->stato == StatoMeta::InAttesa) {
+        ++esito_.tappeSenzaMeta;
+    } else if (meta->stato == StatoMeta::Inserita) {
+        ++esito_.tappeInserite;
+        Inserisci(riga, meta->codice);
+        conTappe_.clear();
+    }
+}
+
+void Importatore::ImportaVoce(RigaIei& riga) {
+    const std::vector<Campo>& campi = Definizione(Tabella::GuidaCitta).campi;
+    const QString localita = Adattato(riga.valori[guida::Localita], campi[guida::Localita]);
+    if (!HaTappe(localita)) return;
+    const QString memorizzata = localita.isEmpty() ? u" "_s : localita;
+    const Ricerca stessaLocalita{Tabella::GuidaCitta, {{guida::Localita, NamePattern::Exactly(memorizzata)}}};
+    const QString descrizione = Adattato(riga.valori[guida::Descrizione], campi[guida::Descrizione]);
+    if (Esiste(archive_, stessaLocalita, guida::Descrizione, descrizione)) {
+        ++esito_.vociScartate;
+        return;
+    }
+    ++esito_.vociInserite;
+    Inserisci(riga, {});
+}
+
+bool Importatore::HaTappe(const QString& localita) {
+    if (const auto nota = conTappe_.constFind(localita); nota != conTappe_.constEnd()) return *nota;
+    if (conTappe_.size() >= kMassimoLocalitaRicordate) conTappe_.clear();
+    const bool esiste = Esiste(archive_, {Tabella::Itinerari, {}}, itinerari::Localita, localita);
+    conTappe_.insert(localita, esiste);
+    return esiste;
+}
+
+// The code, which only trips and stages have, is the first field of their tables.
+void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta) {
+    const std::vector<Campo>& campi = Definizione(riga.tabella).campi;
+    if (!codiceMeta.isEmpty()) riga.valori.front() = codiceMeta;
+    for (std::size_t i = 0; i < campi.size(); ++i) {
+        QString& valore = riga.valori[i];
+        if (valore.isEmpty()) valore = u" "_s;
+        if (valore.size() <= campi[i].larghezza) continue;
+        valore.truncate(campi[i].larghezza);
+        ++esito_.accorciati[{riga.tabella, static_cast<int>(i)}];
+    }
+    archive_.Insert(riga.tabella, riga.valori);
+}
+
+}  // namespace
+
+EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
+    const std::unique_ptr<QFile> file = ApriInLettura(richiesta.path);
+    return ImportaMete(richiesta, *file, progress);
+}
+
+EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
+    MappaCodici codici;
+    ScorriMete(device, richiesta.path, progress,
+               [&](const RigaIei& riga) { codici.Aggiungi(riga.valori[mete::CodiceMeta]); });
+    Transaction transaction(richiesta.archive);
+    codici.Scegli(richiesta.codici, richiesta.archive);
+
+    progress.Title(u"Importazione mète"_s);
+    device.seek(0);
+    LettoreIei lettore(device, {std::nullopt, u"Importazione "_s, {}}, progress);
+    Importatore importatore(richiesta.archive, codici);
+    RigaIei riga;
+    while (lettore.Leggi(riga)) importatore.Importa(riga);
+    transaction.Commit();
+    progress.Advance(0, 0);
+    importatore.Esito().lettura = lettore.Scarti();
+    return std::move(importatore.Esito());
+}
+
+}  // namespace cronovia

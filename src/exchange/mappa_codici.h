@@ -1,0 +1,44 @@
+// Which trips of an exchange file an import takes, and under which codes.
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <vector>
+
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// What became of a trip of the file.
+enum class StatoMeta {
+    NonScelta,  ///< the import does not take it
+    InAttesa,   ///< its record was not met yet
+    Inserita,
+    Scartata,  ///< its destination was stored already
+};
+
+struct MetaDaImportare {
+    QString codice;  ///< in the archive
+    StatoMeta stato = StatoMeta::NonScelta;
+};
+
+/// The trips of a file by their codes in it.
+class MappaCodici {
+  public:
+    /// Notes a trip of the file; of several with the same code the first one.
+    void Aggiungi(const QString& codiceNelFile);
+
+    /// Chooses the trips to import, all of them when `scelti` is empty, and gives each its code: its own when it has
+    /// six digits and is free, else the next free one above the highest in the archive. A `Failure` when a chosen code
+    /// is not in the file, or when no code is free.
+    void Scegli(const std::vector<QString>& scelti, Archive& archive);
+
+    /// Nothing when the file has no trip with that code.
+    MetaDaImportare* Trova(const QString& codiceNelFile);
+
+  private:
+    QHash<QString, MetaDaImportare> mete_;
+    std::vector<QString> inOrdine_;
+};
+
+}  // namespace cronovia
