@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::string Name(const QString& name) { return "\"" + name.toStdString() + "\""; }
+std::string Name(const QString& name) { return (u'"' + name + u'"').toStdString(); }
 
 std::string ColumnNames(const DefinizioneTabella& table) {
     std::string names;

@@ -33,7 +33,7 @@ struct Column {
     bool ours = true;  // else a field that somebody else added
 };
 
-std::string Name(const QString& name) { return "\"" + name.toStdString() + "\""; }
+std::string Name(const QString& name) { return (u'"' + name + u'"').toStdString(); }
 
 QString TypeOf(const Campo& campo) { return campo.larghezza == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(campo.larghezza); }
 
