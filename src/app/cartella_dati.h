@@ -1,0 +1,21 @@
+// Where the data of this installation lives.
+#pragma once
+
+#include <QString>
+
+namespace cronovia {
+
+struct LuoghiPossibili {
+    QString richiesta;  ///< named by the person; empty when none was
+    QString programma;  ///< folder of the program
+    QString utente;     ///< data folder of the user
+};
+
+/// The folder that was asked for; else that of the program, when it already holds the archive or can be written, so
+/// that the program and its data can be carried along; else that of the user.
+QString CartellaDati(const LuoghiPossibili& luoghi);
+
+/// The possible places as this platform has them.
+LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta);
+
+}  // namespace cronovia

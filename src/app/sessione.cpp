@@ -1,0 +1,67 @@
+#include "app/sessione.h"
+
+#include <algorithm>
+
+#include "calendar/durata.h"
+#include "calendar/testo.h"
+#include "guide/guida_citta.h"
+#include "interaction/failure.h"
+#include "itinerary/itinerari.h"
+#include "trips/mete.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+Sessione::Sessione(const QString& cartella) : archive_(Archive::Open(cartella)) {
+    CaricaTipiGuida(archive_);
+    CaricaDefaultMeta(archive_);
+}
+
+MetaAperta Sessione::ApriMeta(const QString& codice) {
+    const QString completo = CodiceCompleto(codice);
+    std::optional<Meta> meta = CaricaDatiAnagraficiMeta(archive_, completo);
+    if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
+    MetaAperta aperta;
+    aperta.meta = std::move(*meta);
+    aperta.tappe = CaricaTappeItinerario(archive_, completo, aperta.meta.parametri);
+    aperta.riepilogo = CalcolaKmTempiItinerario(aperta.tappe, aperta.meta.parametri, aperta.meta.giorniAdeguamento);
+    aperta.meta.giorniAdeguamento = aperta.riepilogo.giorniAdeguamento;
+    return aperta;
+}
+
+EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress) {
+    Meta meta = aperta.meta;
+    meta.giorniAdeguamento = opzioni.giorni.value_or(meta.giorniAdeguamento);
+    meta.parametri.calcoloSoste = opzioni.soste.value_or(meta.parametri.calcoloSoste);
+    LettoreGuida guida(archive_);
+    return CalcolaCronovia(meta, aperta.tappe, guida, progress);
+}
+
+QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio) {
+    const auto larghezza = Definizione(Tabella::MeteVandro).campi[mete::Nazione].larghezza;
+    if (nazione.trimmed().size() > larghezza) {
+        throw Failure(u"Il nome della nazione è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
+    }
+    Meta meta;
+    meta.localita = localita.toUpper();
+    meta.nazione = nazione.toUpper();
+    const QDate data = inizio.date();
+    meta.dataInizio = Data2Giul({data.day(), data.month(), data.year()});
+    meta.oraInizio = InCentesimi({0, inizio.time().hour(), inizio.time().minute()}, kGiornoOrologio);
+    meta.parametri = CaricaDefaultMeta(archive_);
+    return InserisciMeta(archive_, meta);
+}
+
+QString CodiceCompleto(const QString& codice) {
+    const QString testo = codice.trimmed();
+    const bool cifre = std::all_of(testo.begin(), testo.end(), [](QChar c) { return c.isDigit(); });
+    return cifre && testo.size() < 6 ? AntStr(testo, 6, u'0') : testo;
+}
+
+QDateTime InizioProposto(const QDateTime& adesso) {
+    const QTime ora = adesso.time();
+    return {adesso.date(), QTime(ora.hour(), ora.minute() / 15 * 15)};
+}
+
+}  // namespace cronovia

@@ -1,0 +1,56 @@
+// What both faces of the program work on: the open archive and the trip that is open in it.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "interaction/progress.h"
+#include "itinerary/riepilogo.h"
+#include "itinerary/tappa.h"
+#include "schedule/calcola_cronovia.h"
+#include "store/archive.h"
+#include "trips/meta.h"
+
+namespace cronovia {
+
+/// A trip with its itinerary, as it is stored.
+struct MetaAperta {
+    Meta meta;  ///< `giorniAdeguamento` raised to the least days
+    std::vector<Tappa> tappe;
+    RiepilogoItinerario riepilogo;
+};
+
+/// What a single calculation does differently from the stored trip.
+struct OpzioniCalcolo {
+    std::optional<int> giorni;  ///< days wanted, 0 = as many as needed
+    std::optional<CalcoloSoste> soste;
+};
+
+class Sessione {
+  public:
+    /// Opens the archive of a data folder; a new one gets the guide types and the standard parameters.
+    explicit Sessione(const QString& cartella);
+
+    Archive& Archivio() { return archive_; }
+
+    /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.
+    MetaAperta ApriMeta(const QString& codice);
+
+    EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress);
+
+    /// Saves a new trip with the personal defaults, which starts at `inizio`; returns its code.
+    QString NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio);
+
+  private:
+    Archive archive_;
+};
+
+/// A trip's code as it is stored: digits are filled up to six.
+QString CodiceCompleto(const QString& codice);
+
+/// The start that a new trip is offered: now, the minutes rounded down to a quarter of an hour.
+QDateTime InizioProposto(const QDateTime& adesso);
+
+}  // namespace cronovia

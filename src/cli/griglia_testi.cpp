@@ -1,0 +1,38 @@
+#include "cli/griglia_testi.h"
+
+#include "calendar/date.h"
+#include "calendar/durata.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+TabellaTesti TestiDellaGriglia(const RigaGriglia& intestazioni, const std::vector<RigaGriglia>& righe) {
+    TabellaTesti tabella;
+    tabella.intestazioni = QStringList(intestazioni.begin(), intestazioni.end());
+    tabella.righe.reserve(righe.size());
+    for (const RigaGriglia& riga : righe) tabella.righe.emplace_back(riga.begin(), riga.end());
+    return tabella;
+}
+
+QString TitoloMeta(const Meta& meta) {
+    QString titolo = meta.localita;
+    if (!meta.nazione.isEmpty()) titolo += u" (%1)"_s.arg(meta.nazione);
+    if (!meta.dataInizio) return titolo;
+    const QString ora = TestoOrario(meta.oraInizio);
+    return titolo + u", partenza %1 %2 ore %3:%4"_s.arg(GiornoSettimana(*meta.dataInizio), TestoData(*meta.dataInizio),
+                                                        ora.left(2), ora.right(2));
+}
+
+QString RigaTotali(const TestiTotali& totali) {
+    if (totali.km.back().isEmpty()) return u"Totale: 0 km, traghetti: %1."_s.arg(totali.traghetti);
+    QStringList parti;
+    for (std::size_t i = 0; i < kTipiStrada; ++i) {
+        if (totali.km[i].isEmpty()) continue;
+        parti += u"%1 %2"_s.arg(NomeTipoStrada(static_cast<TipoStrada>(i)), totali.km[i]);
+    }
+    return u"Totale: %1 km (%2); guida %3 (gg:hh:mm); traghetti: %4."_s.arg(totali.km.back(), parti.join(u", "_s),
+                                                                            totali.tempo.back(), totali.traghetti);
+}
+
+}  // namespace cronovia

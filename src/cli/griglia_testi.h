@@ -1,0 +1,22 @@
+// Rows of the main grid and totals as the command line writes them.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "cli/uscita.h"
+#include "schedule/colonne.h"
+#include "trips/meta.h"
+
+namespace cronovia {
+
+/// All columns of the grid, in its order.
+TabellaTesti TestiDellaGriglia(const RigaGriglia& intestazioni, const std::vector<RigaGriglia>& righe);
+
+/// "CAPO NORD (NORVEGIA), partenza Sab 05/06/2027 ore 08:30".
+QString TitoloMeta(const Meta& meta);
+
+/// Kilometres, driving time and ferries in one line.
+QString RigaTotali(const TestiTotali& totali);
+
+}  // namespace cronovia

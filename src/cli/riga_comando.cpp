@@ -1,0 +1,143 @@
+#include "cli/riga_comando.h"
+
+#include <QCommandLineParser>
+#include <algorithm>
+
+#include "app/cartella_dati.h"
+#include "cli/verbi.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kFatto = 0;
+constexpr int kRifiutato = 1;
+constexpr int kUsoErrato = 2;
+
+const Verbo* TrovaVerbo(const QString& nome) {
+    const auto& verbi = Verbi();
+    const auto trovato = std::find_if(verbi.begin(), verbi.end(), [&](const Verbo& v) { return v.nome == nome; });
+    return trovato == verbi.end() ? nullptr : &*trovato;
+}
+
+void ScriviAiuto(QTextStream& uscita) {
+    uscita << u"Cronovia, l'orario dei viaggi in camper.\n\n"
+              "Uso: cronovia [--cartella DIR] VERBO [argomenti]\n\n"_s;
+    TabellaTesti verbi{{QString(), QString()}, {}, {}};
+    for (const Verbo& verbo : Verbi()) {
+        verbi.righe.push_back({u"  "_s + verbo.nome + u' ' + verbo.argomenti, verbo.descrizione});
+    }
+    const std::vector<int> larghezze = LarghezzeColonne(verbi);
+    for (const QStringList& riga : verbi.righe) uscita << RigaAllineata(riga, larghezze, {}) << '\n';
+    uscita << u"\n  --cartella DIR           Cartella dei dati; altrimenti quella del programma o dell'utente.\n"
+              "  --formato F              Formato dei risultati: testo, tsv o json.\n"
+              "  --help                   Questo aiuto; dopo un verbo, l'aiuto del verbo.\n"
+              "  --version                La versione.\n"_s;
+}
+
+void ScriviAiutoDelVerbo(const Verbo& verbo, QTextStream& uscita) {
+    uscita << u"Uso: cronovia [--cartella DIR] %1 %2"_s.arg(verbo.nome, verbo.argomenti).trimmed();
+    for (const Opzione& opzione : verbo.opzioni) {
+        uscita << u" [--"_s << opzione.nome << (opzione.valore.isEmpty() ? QString() : u' ' + opzione.valore) << ']';
+    }
+    if (verbo.conFormato) uscita << u" [--formato testo|tsv|json]"_s;
+    uscita << u"\n\n"_s << verbo.descrizione << '\n';
+    for (const Opzione& opzione : verbo.opzioni) {
+        uscita << u"  --%1 %2\n      %3\n"_s.arg(opzione.nome, opzione.valore, opzione.descrizione);
+    }
+}
+
+Formato LeggiFormato(const QString& nome) {
+    if (nome == "testo"_L1) return Formato::Testo;
+    if (nome == "tsv"_L1) return Formato::Tsv;
+    if (nome == "json"_L1) return Formato::Json;
+    throw WrongUsage(u"Il formato «%1» non esiste: testo, tsv o json."_s.arg(nome));
+}
+
+void AggiungiOpzioniComuni(QCommandLineParser& parser) {
+    parser.addOption({u"cartella"_s, {}, u"DIR"_s});
+    parser.addOption({{u"h"_s, u"help"_s}, {}});
+}
+
+void Analizza(QCommandLineParser& parser, const QStringList& riga) {
+    if (parser.parse(riga)) return;
+    const QStringList sconosciute = parser.unknownOptionNames();
+    if (!sconosciute.isEmpty()) throw WrongUsage(u"Opzione sconosciuta: «%1»."_s.arg(sconosciute.first()));
+    throw WrongUsage(u"A un'opzione manca il suo valore, o ne ha uno che non vuole."_s);
+}
+
+Richiesta LeggiRichiesta(const Verbo& verbo, const QCommandLineParser& parser) {
+    Richiesta richiesta;
+    richiesta.argomenti = parser.positionalArguments();
+    const auto numero = static_cast<int>(richiesta.argomenti.size());
+    if (numero < verbo.minimoArgomenti) {
+        throw WrongUsage(u"Al verbo «%1» mancano degli argomenti: %2."_s.arg(verbo.nome, verbo.argomenti));
+    }
+    if (verbo.massimoArgomenti >= 0 && numero > verbo.massimoArgomenti) {
+        throw WrongUsage(u"Il verbo «%1» non vuole l'argomento «%2»."_s.arg(
+            verbo.nome, richiesta.argomenti.at(verbo.massimoArgomenti)));
+    }
+    for (const Opzione& opzione : verbo.opzioni) {
+        if (parser.isSet(opzione.nome)) richiesta.opzioni.insert(opzione.nome, parser.value(opzione.nome));
+    }
+    if (verbo.conFormato) richiesta.formato = LeggiFormato(parser.value(u"formato"_s));
+    return richiesta;
+}
+
+int EseguiVerbo(const Verbo& verbo, const QString& cartella, const QStringList& riga, QTextStream& uscita) {
+    QCommandLineParser parser;
+    AggiungiOpzioniComuni(parser);
+    if (verbo.conFormato) parser.addOption({u"formato"_s, {}, u"F"_s, u"testo"_s});
+    for (const Opzione& opzione : verbo.opzioni) parser.addOption({opzione.nome, {}, opzione.valore});
+    Analizza(parser, riga);
+    if (parser.isSet(u"help"_s)) {
+        ScriviAiutoDelVerbo(verbo, uscita);
+        return kFatto;
+    }
+    const Richiesta richiesta = LeggiRichiesta(verbo, parser);
+    const QString dove = parser.isSet(u"cartella"_s) ? parser.value(u"cartella"_s) : cartella;
+    Sessione sessione(CartellaDati(LuoghiDellaPiattaforma(dove)));
+    verbo.esegui(sessione, richiesta, uscita);
+    return kFatto;
+}
+
+int Esegui(const QStringList& riga, QTextStream& uscita) {
+    QCommandLineParser parser;
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    AggiungiOpzioniComuni(parser);
+    parser.addOption({{u"v"_s, u"version"_s}, {}});
+    Analizza(parser, riga);
+    QStringList resto = parser.positionalArguments();
+    if (parser.isSet(u"version"_s)) {
+        uscita << u"cronovia %1\n"_s.arg(QLatin1StringView(CRONOVIA_VERSION));
+        return kFatto;
+    }
+    if (parser.isSet(u"help"_s) && resto.isEmpty()) {
+        ScriviAiuto(uscita);
+        return kFatto;
+    }
+    if (resto.isEmpty()) throw WrongUsage(u"Manca il verbo."_s);
+    const Verbo* verbo = TrovaVerbo(resto.first());
+    if (verbo == nullptr) throw WrongUsage(u"Il verbo «%1» non esiste."_s.arg(resto.first()));
+    if (parser.isSet(u"help"_s)) resto += u"--help"_s;
+    return EseguiVerbo(*verbo, parser.value(u"cartella"_s), resto, uscita);
+}
+
+}  // namespace
+
+int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori) {
+    try {
+        return Esegui(riga, uscita);
+    } catch (const WrongUsage& errore) {
+        errori << errore.Message() << u" L'aiuto: cronovia --help\n"_s;
+        return kUsoErrato;
+    } catch (const Failure& errore) {
+        errori << errore.Message() << '\n';
+        return kRifiutato;
+    }
+}
+
+}  // namespace cronovia

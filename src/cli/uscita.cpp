@@ -1,0 +1,57 @@
+#include "cli/uscita.h"
+
+#include <algorithm>
+
+namespace cronovia {
+
+namespace {
+
+void RigaTsv(QStringList testi, QTextStream& uscita) {
+    for (QString& testo : testi) {
+        for (QChar& c : testo) {
+            if (c == u'\t' || c == u'\n' || c == u'\r') c = u' ';
+        }
+    }
+    uscita << testi.join(u'\t') << '\n';
+}
+
+}  // namespace
+
+std::vector<int> LarghezzeColonne(const TabellaTesti& tabella) {
+    std::vector<int> larghezze(static_cast<std::size_t>(tabella.intestazioni.size()), 0);
+    for (const QStringList& riga : tabella.righe) {
+        for (std::size_t i = 0; i < larghezze.size(); ++i) {
+            larghezze[i] = std::max(larghezze[i], static_cast<int>(riga.at(static_cast<qsizetype>(i)).size()));
+        }
+    }
+    for (std::size_t i = 0; i < larghezze.size(); ++i) {
+        const auto intestazione = static_cast<int>(tabella.intestazioni.at(static_cast<qsizetype>(i)).size());
+        if (larghezze[i] > 0) larghezze[i] = std::max(larghezze[i], intestazione);
+    }
+    return larghezze;
+}
+
+QString RigaAllineata(const QStringList& testi, const std::vector<int>& larghezze, const QList<int>& aDestra) {
+    QString riga;
+    for (int i = 0; i < testi.size(); ++i) {
+        const int larghezza = larghezze[static_cast<std::size_t>(i)];
+        if (larghezza == 0) continue;
+        if (!riga.isEmpty()) riga += QStringView(u"  ");
+        riga += aDestra.contains(i) ? testi.at(i).rightJustified(larghezza) : testi.at(i).leftJustified(larghezza);
+    }
+    while (riga.endsWith(u' ')) riga.chop(1);
+    return riga;
+}
+
+void ScriviAllineata(const TabellaTesti& tabella, QTextStream& uscita) {
+    const std::vector<int> larghezze = LarghezzeColonne(tabella);
+    uscita << RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra) << '\n';
+    for (const QStringList& riga : tabella.righe) uscita << RigaAllineata(riga, larghezze, tabella.aDestra) << '\n';
+}
+
+void ScriviTsv(const TabellaTesti& tabella, QTextStream& uscita) {
+    RigaTsv(tabella.intestazioni, uscita);
+    for (const QStringList& riga : tabella.righe) RigaTsv(riga, uscita);
+}
+
+}  // namespace cronovia

@@ -1,0 +1,31 @@
+// How the command line puts its results: aligned for people, TSV and JSON for programs.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTextStream>
+#include <vector>
+
+namespace cronovia {
+
+enum class Formato { Testo, Tsv, Json };
+
+/// Rows of texts under headers.
+struct TabellaTesti {
+    QStringList intestazioni;
+    std::vector<QStringList> righe;
+    QList<int> aDestra;  ///< columns whose texts stand at the right
+};
+
+/// Width of each column: that of its longest text, headers included.
+std::vector<int> LarghezzeColonne(const TabellaTesti& tabella);
+
+/// One row, its texts in columns two blanks apart; columns of width 0 are left out, no blank stands at the end.
+QString RigaAllineata(const QStringList& testi, const std::vector<int>& larghezze, const QList<int>& aDestra);
+
+void ScriviAllineata(const TabellaTesti& tabella, QTextStream& uscita);
+
+/// Tab-separated lines, the headers first. Tabs and line breaks within a text become blanks.
+void ScriviTsv(const TabellaTesti& tabella, QTextStream& uscita);
+
+}  // namespace cronovia

@@ -1,0 +1,75 @@
+#include "cli/verbi.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+std::optional<int> Richiesta::Intero(const QString& nome, int minimo, int massimo) const {
+    if (!opzioni.contains(nome)) return std::nullopt;
+    bool numero = false;
+    const int valore = opzioni.value(nome).toInt(&numero);
+    if (!numero || valore < minimo || valore > massimo) {
+        throw WrongUsage(u"L'opzione --%1 vuole un numero da %2 a %3, non «%4»."_s.arg(
+            nome, QString::number(minimo), QString::number(massimo), opzioni.value(nome)));
+    }
+    return valore;
+}
+
+const std::vector<Verbo>& Verbi() {
+    static const std::vector<Verbo> verbi = {
+        {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, &EseguiElenca},
+        {u"nuova"_s,
+         u"LOCALITA NAZIONE"_s,
+         u"Crea una mèta con i parametri di viaggio personali e ne scrive il codice."_s,
+         {{u"inizio"_s, u"gg/mm/aaaa hh:mm"_s, u"Data e ora di partenza; altrimenti adesso."_s}},
+         2,
+         2,
+         false,
+         &EseguiNuova},
+        {u"importa"_s,
+         u"FILE.iei [CODICE…]"_s,
+         u"Importa dal file di scambio tutte le mète, o solo quelle con i codici indicati."_s,
+         {},
+         1,
+         -1,
+         false,
+         &EseguiImporta},
+        {u"esporta"_s,
+         u"FILE.iei [CODICE…]"_s,
+         u"Esporta sul file di scambio tutte le mète, o solo quelle con i codici indicati."_s,
+         {{u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}},
+         1,
+         -1,
+         false,
+         &EseguiEsporta},
+        {u"itinerario"_s,
+         u"CODICE"_s,
+         u"Mostra le tappe di una mèta con i tempi della guida."_s,
+         {},
+         1,
+         1,
+         true,
+         &EseguiItinerario},
+        {u"calcola"_s,
+         u"CODICE"_s,
+         u"Calcola la cronovia: giorno per giorno, l'ora di ogni tratto, pasto, notte, riposo, traghetto e visita."_s,
+         {{u"giorni"_s, u"N"_s, u"Adegua le soste perché il viaggio duri N giorni (0 = quanti ne servono)."_s},
+          {u"soste"_s, u"1..5"_s,
+           u"Soste da contare: 1 itinerario, 2 guida, 3 la maggiore, 4 la minore, 5 nessuna."_s}},
+         1,
+         1,
+         true,
+         &EseguiCalcola},
+        {u"guida"_s,
+         u"[LOCALITA]"_s,
+         u"Mostra la guida delle città, tutta o di una località (anche con i caratteri jolly * e ?)."_s,
+         {},
+         0,
+         1,
+         true,
+         &EseguiGuida},
+    };
+    return verbi;
+}
+
+}  // namespace cronovia

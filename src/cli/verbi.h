@@ -1,0 +1,67 @@
+// The verbs of the command line.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QTextStream>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+#include "app/sessione.h"
+#include "cli/uscita.h"
+
+namespace cronovia {
+
+/// A command line that cannot be understood; carries one Italian sentence.
+class WrongUsage : public std::runtime_error {
+  public:
+    explicit WrongUsage(const QString& message) : std::runtime_error(message.toStdString()), message_(message) {}
+
+    [[nodiscard]] const QString& Message() const { return message_; }
+
+  private:
+    QString message_;
+};
+
+/// An option of a verb; without `valore` it is a mere switch.
+struct Opzione {
+    QString nome;
+    QString valore;
+    QString descrizione;
+};
+
+/// What a verb was called with.
+struct Richiesta {
+    QStringList argomenti;
+    QMap<QString, QString> opzioni;  ///< the options given; a switch with an empty value
+    Formato formato = Formato::Testo;
+
+    /// The whole number of an option within its limits; nothing when it was not given, `WrongUsage` when it is none.
+    [[nodiscard]] std::optional<int> Intero(const QString& nome, int minimo, int massimo) const;
+};
+
+struct Verbo {
+    QString nome;
+    QString argomenti;  ///< as the help shows them
+    QString descrizione;
+    std::vector<Opzione> opzioni;
+    int minimoArgomenti = 0;
+    int massimoArgomenti = 0;  ///< -1: any number
+    bool conFormato = false;   ///< answers in the format wanted
+    void (*esegui)(Sessione&, const Richiesta&, QTextStream& uscita) = nullptr;
+};
+
+/// All verbs, in the order of the help.
+const std::vector<Verbo>& Verbi();
+
+void EseguiElenca(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiNuova(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiImporta(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiEsporta(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiItinerario(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiCalcola(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiGuida(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+
+}  // namespace cronovia

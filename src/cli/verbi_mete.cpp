@@ -1,0 +1,66 @@
+// elenca, nuova.
+#include <QDateTime>
+#include <QRegularExpression>
+
+#include "calendar/date.h"
+#include "calendar/durata.h"
+#include "calendar/testo.h"
+#include "cli/json.h"
+#include "cli/record_testi.h"
+#include "cli/verbi.h"
+#include "trips/meta.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TabellaTesti TabellaDelleMete(const std::vector<Record>& record) {
+    TabellaTesti tabella{{u"Codice"_s, u"Mèta"_s, u"Nazione"_s, u"Partenza"_s, u"Giorni"_s}, {}, {4}};
+    for (const Record& riga : record) {
+        const Meta meta = MetaDaRecord(riga);
+        const QString data =
+            meta.dataInizio ? GiornoSettimana(*meta.dataInizio) + u' ' + TestoData(*meta.dataInizio) : QString();
+        const QString ora = TestoOrario(meta.oraInizio);
+        tabella.righe.push_back({meta.codice, meta.localita, meta.nazione,
+                                 data + u' ' + ora.left(2) + u':' + ora.right(2),
+                                 RaggruppaNonZero(meta.giorniAdeguamento)});
+    }
+    return tabella;
+}
+
+QDateTime LeggiInizio(const QString& testo) {
+    static const QRegularExpression forma(u"^(\\d{1,2})/(\\d{1,2})/(\\d{4}) +(\\d{1,2}):(\\d{2})$"_s);
+    const QRegularExpressionMatch parti = forma.match(testo.trimmed());
+    const auto numero = [&](int posto) { return parti.captured(posto).toInt(); };
+    const QTime ora(numero(4), numero(5));
+    const bool data = LeggiData(Gma2Data({numero(1), numero(2), numero(3)})).has_value();
+    if (!parti.hasMatch() || !data || !ora.isValid()) {
+        throw WrongUsage(u"L'inizio «%1» non è una data con ora: scrivila come \"05/06/2027 08:30\"."_s.arg(testo));
+    }
+    return {QDate(numero(3), numero(2), numero(1)), ora};
+}
+
+}  // namespace
+
+void EseguiElenca(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+    const std::vector<Record> record = sessione.Archivio().Select({Tabella::MeteVandro, {}}, {mete::CodiceMeta});
+    if (richiesta.formato == Formato::Json) {
+        ScriviJson(JsonDeiRecord(Tabella::MeteVandro, record), uscita);
+    } else if (richiesta.formato == Formato::Tsv) {
+        ScriviTsv(TestiDeiRecord(Tabella::MeteVandro, record), uscita);
+    } else if (record.empty()) {
+        uscita << u"Nessuna mèta nel database!\n"_s;
+    } else {
+        ScriviAllineata(TabellaDelleMete(record), uscita);
+    }
+}
+
+void EseguiNuova(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+    const QDateTime inizio = richiesta.opzioni.contains(u"inizio"_s) ? LeggiInizio(richiesta.opzioni.value(u"inizio"_s))
+                                                                     : InizioProposto(QDateTime::currentDateTime());
+    uscita << sessione.NuovaMeta(richiesta.argomenti.at(0), richiesta.argomenti.at(1), inizio) << '\n';
+}
+
+}  // namespace cronovia

@@ -1,0 +1,114 @@
+// calcola.
+#include <array>
+
+#include "calendar/date.h"
+#include "cli/griglia_testi.h"
+#include "cli/json.h"
+#include "cli/verbi.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<RigaGriglia> RigheDellaCronovia(const Cronovia& cronovia) {
+    std::vector<RigaGriglia> righe;
+    righe.reserve(cronovia.righe.size());
+    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) righe.push_back(ColonneCronovia(cronovia, i));
+    return righe;
+}
+
+// The columns under a day's heading: the hour first, the day itself left to the heading. Guide entries, whose texts are
+// long, are no columns.
+TabellaTesti ColonneDelGiorno(const std::vector<RigaGriglia>& righe, const Cronovia& cronovia) {
+    const std::array<Colonna, 9> colonne = {Colonna::Ora,   Colonna::Tappa,         Colonna::NumeroStrada,
+                                            Colonna::Km,    Colonna::KmProgressivi, Colonna::Tempo,
+                                            Colonna::Sosta, Colonna::Note,          Colonna::LimiteRitorno};
+    const auto scegli = [&](const RigaGriglia& testi) {
+        QStringList scelti;
+        for (const Colonna colonna : colonne) scelti += testi[colonna];
+        return scelti;
+    };
+    TabellaTesti tabella{scegli(IntestazioniCronovia()), {}, {0, 3, 4, 6}};
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        const bool guida = cronovia.righe[i].genere == GenereRiga::Guida;
+        tabella.righe.push_back(scegli(guida ? RigaGriglia() : righe[i]));
+    }
+    return tabella;
+}
+
+QString RigaDellaGuida(const RigaGriglia& riga, int rientro) {
+    const QString& tempo = riga[Colonna::Sosta];
+    return QString(rientro, u' ') + riga[Colonna::Tappa] + u" ("_s + riga[Colonna::Note] +
+           (tempo.isEmpty() ? QString() : u", "_s + tempo) + u')';
+}
+
+bool ConData(const RigaCronovia& riga) { return riga.genere == GenereRiga::Tratto || riga.genere == GenereRiga::Sosta; }
+
+void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, const std::vector<RigaGriglia>& righe,
+                  QTextStream& uscita) {
+    const TabellaTesti tabella = ColonneDelGiorno(righe, cronovia);
+    const std::vector<int> larghezze = LarghezzeColonne(tabella);
+    const NumeroGiorno partenza = *meta.dataInizio;
+    NumeroGiorno giorno = partenza - 1;
+    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) {
+        const RigaCronovia& riga = cronovia.righe[i];
+        const NumeroGiorno suo = ConData(riga) ? riga.data : std::max(giorno, partenza);
+        if (suo != giorno) {
+            uscita << u"\nGiorno %1, %2 %3\n"_s.arg(QString::number(suo - partenza + 1), GiornoSettimana(suo),
+                                                    TestoData(suo));
+            if (giorno < partenza) uscita << RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra) << '\n';
+            giorno = suo;
+        }
+        const bool guida = riga.genere == GenereRiga::Guida;
+        uscita << (guida ? RigaDellaGuida(righe[i], larghezze.front() + 3)
+                         : RigaAllineata(tabella.righe[i], larghezze, tabella.aDestra))
+               << '\n';
+    }
+}
+
+void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std::vector<RigaGriglia>& righe,
+                 const TestiTotali& totali, QTextStream& uscita) {
+    uscita << TitoloMeta(aperta.meta) << '\n';
+    if (righe.empty()) uscita << u"\nL'itinerario non ha ancora tappe.\n"_s;
+    ScriviGiorni(aperta.meta, *esito.cronovia, righe, uscita);
+    const auto fine = TestiFine(*esito.cronovia);
+    uscita << '\n' << RigaTotali(totali) << '\n';
+    if (esito.cronovia->fine) {
+        uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(fine[5], fine[0], fine[1], fine[2],
+                                                                                  fine[3], fine[4], fine[6]);
+        uscita << u"Limite ritorno: > ultimo momento per proseguire senza soste, < per tornare indietro.\n"_s;
+    }
+    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+}
+
+}  // namespace
+
+void EseguiCalcola(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+    OpzioniCalcolo opzioni;
+    opzioni.giorni = richiesta.Intero(u"giorni"_s, 0, kMassimoGiorniAdeguamento);
+    if (const auto soste = richiesta.Intero(u"soste"_s, 1, 5)) opzioni.soste = static_cast<CalcoloSoste>(*soste);
+    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    Progress progress;
+    const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);
+    const Cronovia& cronovia = *esito.cronovia;
+    const std::vector<RigaGriglia> righe = RigheDellaCronovia(cronovia);
+    const TestiTotali totali = Testi(cronovia.totali, cronovia.guidaGiorno);
+    if (richiesta.formato == Formato::Testo) {
+        ScriviTesto(aperta, esito, righe, totali, uscita);
+    } else if (richiesta.formato == Formato::Tsv) {
+        ScriviTsv(TestiDellaGriglia(IntestazioniCronovia(), righe), uscita);
+    } else {
+        QJsonArray jsonRighe;
+        for (const RigaGriglia& riga : righe) jsonRighe.append(JsonDeiTesti(riga));
+        ScriviJson(QJsonObject{{u"righe"_s, jsonRighe},
+                               {u"fine"_s, JsonDeiTesti(TestiFine(cronovia))},
+                               {u"totali"_s, JsonDeiTotali(totali)},
+                               {u"tentativi"_s, esito.tentativi},
+                               {u"messaggio"_s, esito.messaggio}},
+                   uscita);
+    }
+}
+
+}  // namespace cronovia

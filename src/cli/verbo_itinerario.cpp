@@ -1,0 +1,58 @@
+// itinerario.
+#include "cli/griglia_testi.h"
+#include "cli/json.h"
+#include "cli/verbi.h"
+#include "itinerary/itinerari.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<RigaGriglia> RigheDellItinerario(const MetaAperta& aperta) {
+    std::vector<RigaGriglia> righe;
+    for (std::size_t i = 0; i < aperta.tappe.size(); ++i) {
+        righe.push_back(ColonneTappa(static_cast<int>(i) + 1, aperta.tappe[i], aperta.riepilogo.tappe[i]));
+    }
+    return righe;
+}
+
+void ScriviTesto(const MetaAperta& aperta, TabellaTesti tabella, const TestiTotali& totali, QTextStream& uscita) {
+    uscita << TitoloMeta(aperta.meta) << "\n\n";
+    if (tabella.righe.empty()) {
+        uscita << u"L'itinerario non ha ancora tappe.\n"_s;
+        return;
+    }
+    for (const Colonna colonna : {Colonna::Numero, Colonna::Km, Colonna::KmProgressivi, Colonna::Sosta}) {
+        tabella.aDestra += static_cast<int>(colonna);
+    }
+    ScriviAllineata(tabella, uscita);
+    uscita << '\n' << RigaTotali(totali) << '\n';
+    uscita << u"Giorni di sola guida: %1.\n"_s.arg(aperta.riepilogo.giorniMinimi);
+}
+
+}  // namespace
+
+void EseguiItinerario(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    const std::vector<RigaGriglia> righe = RigheDellItinerario(aperta);
+    const TestiTotali totali = Testi(aperta.riepilogo.totali, aperta.riepilogo.guidaGiorno);
+    const TabellaTesti tabella = TestiDellaGriglia(IntestazioniItinerario(), righe);
+    if (richiesta.formato == Formato::Testo) {
+        ScriviTesto(aperta, tabella, totali, uscita);
+    } else if (richiesta.formato == Formato::Tsv) {
+        ScriviTsv(tabella, uscita);
+    } else {
+        QJsonArray jsonRighe;
+        for (const RigaGriglia& riga : righe) jsonRighe.append(JsonDeiTesti(riga));
+        const std::vector<Record> tappe = RecordDellItinerario(sessione.Archivio(), aperta.meta.codice);
+        ScriviJson(QJsonObject{{u"righe"_s, jsonRighe},
+                               {u"totali"_s, JsonDeiTotali(totali)},
+                               {u"giorni_minimi"_s, aperta.riepilogo.giorniMinimi},
+                               {u"tappe"_s, JsonDeiRecord(Tabella::Itinerari, tappe)}},
+                   uscita);
+    }
+}
+
+}  // namespace cronovia
