@@ -1,6 +1,7 @@
 #include "itinerary/itinerari.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "calendar/testo.h"
 #include "guide/guida_citta.h"
@@ -20,10 +21,12 @@ Condizione DellaMeta(const QString& codiceMeta) { return {itinerari::CodiceMeta,
 
 int Larghezza(itinerari::Posto posto) { return Definizione(Tabella::Itinerari).campi[posto].larghezza; }
 
-int RecordNecessari(std::span<const Tappa> tappe) {
-    int record = 0;
+bool Vuota(const Tappa& tappa) { return tappa.localita.trimmed().isEmpty(); }
+
+std::int64_t RecordNecessari(std::span<const Tappa> tappe) {
+    std::int64_t record = 0;
     for (const Tappa& tappa : tappe) {
-        record += std::max(1, (tappa.km + kMassimoKmPerRecord - 1) / kMassimoKmPerRecord);
+        if (!Vuota(tappa)) record += tappa.km > 0 ? (tappa.km - 1) / kMassimoKmPerRecord + 1 : 1;
     }
     return record;
 }
@@ -85,15 +88,15 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
         throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
     }
     const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    LettoreGuida guida(archive);  // first of all: it may have to lay down the guide's types, a change of its own
     Transaction transaction(archive);
     archive.CancellaTabella(Tabella::Itinerari, DellaMeta(codiceMeta), progress);
     progress.Title(u"Memorizza tappe itinerario"_s);
-    LettoreGuida guida(archive);
     EsitoMemorizzazione esito;
     double fatte = 0;
     for (const Tappa& tappa : tappe) {
         progress.Advance(++fatte, static_cast<double>(tappe.size()));
-        if (tappa.localita.trimmed().isEmpty()) continue;
+        if (Vuota(tappa)) continue;
         if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
         const QString visite = ghmCentesimi2Stringa(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
         MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
