@@ -13,24 +13,13 @@ namespace {
 using namespace Qt::StringLiterals;
 
 TEST(Date, KnownDaysHaveTheirNumberAndWeekday) {
-    struct Caso {
-        QString data;
-        int numero;
-        QString giorno;
-    };
-    const std::array<Caso, 8> casi = {{{u"01011998"_s, 729405, u"Gio"_s},
-                                       {u"31121999"_s, 730134, u"Ven"_s},
-                                       {u"01012000"_s, 730135, u"Sab"_s},
-                                       {u"29022000"_s, 730194, u"Mar"_s},
-                                       {u"01032000"_s, 730195, u"Mer"_s},
-                                       {u"28022001"_s, 730559, u"Mer"_s},
-                                       {u"01032001"_s, 730560, u"Gio"_s},
-                                       {u"05082004"_s, 731813, u"Gio"_s}}};
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.data.toStdString());
-        EXPECT_EQ(Data2Giul(caso.data).Numero(), caso.numero);
-        EXPECT_EQ(Giu2Datas(NumeroGiorno(caso.numero)), caso.data);
-        EXPECT_EQ(GiornoSettimana(caso.data), caso.giorno);
+    for (const QString& caso :
+         {u"01011998 729405 Gio"_s, u"31121999 730134 Ven"_s, u"01012000 730135 Sab"_s, u"29022000 730194 Mar"_s,
+          u"01032000 730195 Mer"_s, u"28022001 730559 Mer"_s, u"01032001 730560 Gio"_s, u"05082004 731813 Gio"_s}) {
+        const QStringList parti = caso.split(u' ');
+        EXPECT_EQ(QString::number(Data2Giul(parti[0]).Numero()), parti[1]);
+        EXPECT_EQ(Giu2Datas(NumeroGiorno(parti[1].toInt())), parti[0]);
+        EXPECT_EQ(GiornoSettimana(parti[0]), parti[2]);
     }
 }
 
@@ -40,19 +29,17 @@ TEST(Date, EveryDayFrom1901To2099IsConsecutiveAndComesBack) {
     NumeroGiorno atteso = Data2Giul(Gma{1, 1, 1901});
     for (QDate data(1901, 1, 1); data.year() < 2100; data = data.addDays(1), atteso += 1) {
         const Gma gma{data.day(), data.month(), data.year()};
-        ASSERT_EQ(Data2Giul(gma), atteso) << data.toString(Qt::ISODate).toStdString();
-        ASSERT_EQ(Giul2Data(atteso), gma) << data.toString(Qt::ISODate).toStdString();
-        ASSERT_EQ(GiornoSettimana(atteso), nomi.at(data.dayOfWeek() - 1)) << data.toString(Qt::ISODate).toStdString();
+        SCOPED_TRACE(Gma2Data(gma).toStdString());
+        ASSERT_EQ(Data2Giul(gma), atteso);
+        ASSERT_EQ(Giul2Data(atteso), gma);
+        ASSERT_EQ(GiornoSettimana(atteso), nomi.at(data.dayOfWeek() - 1));
         ASSERT_EQ(GiorniMese(gma.anno, gma.mese), data.daysInMonth());
         ASSERT_EQ(LeggiData(data.toString(u"ddMMyyyy"_s)), atteso);
     }
 }
 
-TEST(Date, MonthLengthsFollowTheGregorianRuleOnCenturies) {
+TEST(Date, MonthLengthsOutsideTheCalendar) {
     EXPECT_EQ(GiorniMese(1900, 2), 28);
-    EXPECT_EQ(GiorniMese(2000, 2), 29);
-    EXPECT_EQ(GiorniMese(2003, 2), 28);
-    EXPECT_EQ(GiorniMese(2004, 2), 29);
     EXPECT_EQ(GiorniMese(2100, 2), 28);
     EXPECT_EQ(GiorniMese(2003, 13), 28);
     EXPECT_EQ(GiorniMese(2004, 0), 28);
@@ -63,17 +50,16 @@ TEST(Date, FormsTurnIntoEachOther) {
     EXPECT_EQ(DataClear(u"05/08/2004"), u"05082004"_s);
     EXPECT_EQ(DataChan(u"05082004"), u"20040805"_s);
     EXPECT_EQ(Data2Gma(u"05082004"), (Gma{5, 8, 2004}));
-    EXPECT_EQ(Gma2Data({5, 8, 2004}), u"05082004"_s);
     EXPECT_EQ(TestoData(NumeroGiorno(731813)), u"05/08/2004"_s);
     EXPECT_EQ(TestoGiornoMese(NumeroGiorno(731813)), u"05/08"_s);
 }
 
 TEST(Date, TextsThatAreNoDayAreRefused) {
     EXPECT_EQ(GiornoSettimana(u"1012000"), u""_s);
-    for (const auto* testo :
-         {u"", u"1012000", u"010120000", u"29022003", u"31042004", u"00012004", u"01132004", u"01002004", u"31121900",
-          u"01012100", u"01/01/20", u" 1012004", u"-1012004", u"abcdefgh"}) {
-        EXPECT_FALSE(LeggiData(testo).has_value()) << QString::fromUtf16(testo).toStdString();
+    for (const QString& testo :
+         {u""_s, u"1012000"_s, u"010120000"_s, u"29022003"_s, u"31042004"_s, u"00012004"_s, u"01132004"_s,
+          u"01002004"_s, u"31121900"_s, u"01012100"_s, u"01/01/20"_s, u" 1012004"_s, u"-1012004"_s, u"abcdefgh"_s}) {
+        EXPECT_FALSE(LeggiData(testo).has_value()) << testo.toStdString();
     }
 }
 

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cmath>
+#include <QStringList>
 
 #include "support/prova.h"
 
@@ -12,54 +11,29 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// Rows of a text, the hundredths of a day, and hundredths.
 TEST(Durata, TextsAreReadAsHundredths) {
-    struct Caso {
-        QString testo;
-        int giorno;
-        float centesimi;
-    };
-    const std::array<Caso, 14> casi = {{{u""_s, 2400, 0},
-                                        {u"00:01:30"_s, 2400, 150},
-                                        {u"01:00:00"_s, 2400, 2400},
-                                        {u"00:00:20"_s, 2400, 33},  // 33.33 rounds down
-                                        {u"00:00:10"_s, 2400, 17},  // 16.67 rounds up
-                                        {u"00:00:15"_s, 2400, 25},
-                                        {u"1:30"_s, 2400, 150},  // padded on the left
-                                        {u"12:00"_s, 2400, 1200},
-                                        {u"01:02:30"_s, 900, 1150},  // a day of nine visiting hours
-                                        {u"02:00:00"_s, 1075, 2150},
-                                        {u"99:23:45"_s, 2400, 239975},
-                                        {u"99901:02:03"_s, 2400, 2605},  // the last eight characters count
-                                        {u"00:90:90"_s, 2400, 9150},
-                                        {u"aa:bb:cc"_s, 2400, 0}}};
-    for (const Caso& caso : casi) {
-        EXPECT_EQ(ghmStringa2Centesimi(caso.testo, Centesimi(caso.giorno)).Valore(), caso.centesimi)
-            << caso.testo.toStdString();
+    EXPECT_EQ(ghmStringa2Centesimi(u"", kGiornoOrologio), 0_cent);
+    for (const QString& caso :
+         {u"00:01:30 2400 150"_s, u"01:00:00 2400 2400"_s, u"00:00:20 2400 33"_s, u"00:00:10 2400 17"_s,
+          u"1:30 2400 150"_s, u"12:00 2400 1200"_s, u"01:02:30 900 1150"_s, u"02:00:00 1075 2150"_s,
+          u"99:23:45 2400 239975"_s, u"99901:02:03 2400 2605"_s, u"00:90:90 2400 9150"_s, u"aa:bb:cc 2400 0"_s}) {
+        const QStringList parti = caso.split(u' ');
+        const Centesimi letti = ghmStringa2Centesimi(parti[0], Centesimi(parti[1].toInt()));
+        EXPECT_EQ(letti.Valore(), parti[2].toFloat()) << caso.toStdString();
     }
 }
 
 TEST(Durata, HundredthsAreWrittenAsTexts) {
-    struct Caso {
-        double centesimi;
-        int giorno;
-        QString testo;
-    };
-    const std::array<Caso, 13> casi = {{{0, 2400, u""_s},
-                                        {150, 2400, u"00:01:30"_s},
-                                        {33, 2400, u"00:00:20"_s},
-                                        {2450, 2400, u"01:00:30"_s},
-                                        {0.4, 2400, u""_s},           // less than half a minute
-                                        {99.1, 2400, u"00:00:59"_s},  // 59.46 minutes
-                                        {99.5, 2400, u"00:01:00"_s},  // sixty minutes are an hour
-                                        {1099.9, 2400, u"00:11:00"_s},
-                                        {2399.9, 2400, u"01:00:00"_s},  // and a full day is a day
-                                        {899.9, 900, u"01:00:00"_s},
-                                        {1750, 900, u"01:08:30"_s},
-                                        {1074, 1075, u"00:10:44"_s},
-                                        {9850, 9900, u"00:98:30"_s}}};
-    for (const Caso& caso : casi) {
-        EXPECT_EQ(ghmCentesimi2Stringa(Centesimi(caso.centesimi), Centesimi(caso.giorno)), caso.testo)
-            << caso.centesimi << " with a day of " << caso.giorno;
+    EXPECT_EQ(ghmCentesimi2Stringa(0_cent, kGiornoOrologio), u""_s);
+    EXPECT_EQ(ghmCentesimi2Stringa(Centesimi(0.4), kGiornoOrologio), u""_s);  // less than half a minute
+    // Sixty minutes are an hour, and a full day is a day.
+    for (const QString& caso :
+         {u"00:01:30 2400 150"_s, u"00:00:20 2400 33"_s, u"01:00:30 2400 2450"_s, u"00:00:59 2400 99.1"_s,
+          u"00:01:00 2400 99.5"_s, u"00:11:00 2400 1099.9"_s, u"01:00:00 2400 2399.9"_s, u"01:00:00 900 899.9"_s,
+          u"01:08:30 900 1750"_s, u"00:10:44 1075 1074"_s, u"00:98:30 9900 9850"_s}) {
+        const QStringList parti = caso.split(u' ');
+        EXPECT_EQ(ghmCentesimi2Stringa(Centesimi(parti[2].toDouble()), Centesimi(parti[1].toInt())), parti[0]);
     }
 }
 

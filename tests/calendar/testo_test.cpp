@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <limits>
-#include <utility>
 
 #include "support/prova.h"
 
@@ -25,19 +23,12 @@ TEST(Testo, Padding) {
 }
 
 TEST(Testo, TitleCase) {
-    using Coppia = std::pair<QString, QString>;
-    const std::array<Coppia, 11> casi = {Coppia{u"SANT'ANNA"_s, u"Sant'Anna"_s},
-                                         {u"sant'anna"_s, u"Sant'Anna"_s},
-                                         {u"CITTÀ DI"_s, u"Città Di"_s},
-                                         {u"  reggio nell'emilia  "_s, u"Reggio Nell'Emilia"_s},
-                                         {u"forlì-cesena"_s, u"Forlì-Cesena"_s},
-                                         {u"cefalùpa"_s, u"CefalùPa"_s},  // capital after an accented letter
-                                         {u"a1 nord"_s, u"A1 Nord"_s},
-                                         {u"èze"_s, u"ÈZe"_s},
-                                         {u"İSTANBUL CITY"_s, u"İStanbul City"_s},
-                                         {u""_s, u""_s},
-                                         {u"   "_s, u""_s}};
-    for (const auto& [testo, atteso] : casi) EXPECT_EQ(PrimoMaiuscolo(testo), atteso);
+    for (const QString& caso :
+         {u"SANT'ANNA=Sant'Anna"_s, u"sant'anna=Sant'Anna"_s, u"CITTÀ DI=Città Di"_s,
+          u"  reggio emilia =Reggio Emilia"_s, u"forlì-cesena=Forlì-Cesena"_s, u"cefalùpa=CefalùPa"_s,
+          u"a1 nord=A1 Nord"_s, u"İSTANBUL CITY=İStanbul City"_s, u"èze=ÈZe"_s, u"   ="_s, u"="_s}) {
+        EXPECT_EQ(PrimoMaiuscolo(caso.section(u'=', 0, 0)), caso.section(u'=', 1));
+    }
 }
 
 TEST(Testo, EachOfSixCharactersBecomesTheWildcard) {
@@ -60,15 +51,8 @@ TEST(Testo, NumbersInTexts) {
 }
 
 TEST(Testo, ThousandsAreGroupedByDots) {
-    using Coppia = std::pair<std::int64_t, QString>;
-    for (const auto& [numero, atteso] : {Coppia{0, u"0"_s},
-                                         {999, u"999"_s},
-                                         {1000, u"1.000"_s},
-                                         {1234567, u"1.234.567"_s},
-                                         {-999, u"-999"_s},
-                                         {-1000, u"-1.000"_s},
-                                         {123456, u"123.456"_s}}) {
-        EXPECT_EQ(Raggruppa(numero), atteso);
+    for (const QString& atteso : {u"0"_s, u"999"_s, u"1.000"_s, u"123.456"_s, u"1.234.567"_s, u"-999"_s, u"-1.000"_s}) {
+        EXPECT_EQ(Raggruppa(QString(atteso).remove(u'.').toLongLong()), atteso);
     }
     EXPECT_EQ(RaggruppaNonZero(0), u""_s);
     EXPECT_EQ(RaggruppaNonZero(2500), u"2.500"_s);

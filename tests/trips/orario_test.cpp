@@ -2,139 +2,104 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <vector>
+#include <QStringList>
 
 #include "support/prova.h"
 
 namespace cronovia {
 namespace {
 
-ParametriViaggio Con(const std::function<void(ParametriViaggio&)>& modifica) {
-    ParametriViaggio parametri;
-    modifica(parametri);
-    return parametri;
+using namespace Qt::StringLiterals;
+
+constexpr auto* kStandard = u"0900 1230+0230 2000+0145 2230 0900-1800 0600";
+
+// A timetable: breakfast, lunch and its length, dinner and its length, night, visits from and to, ferry.
+ParametriViaggio Orari(QStringView testo) {
+    ParametriViaggio p;
+    qsizetype posto = 0;
+    for (Centesimi* orario : {&p.oraColazione, &p.oraPranzo, &p.durataPranzo, &p.oraCena, &p.durataCena, &p.oraNotte,
+                              &p.inizioVisita, &p.fineVisita, &p.oreTraghetti}) {
+        *orario = LeggiOrario(testo.mid(5 * posto++, 4));
+    }
+    return p;
 }
 
+struct Caso {
+    const char* regola;
+    QString prima;
+    QString dopo;
+};
+
 TEST(Orario, TheStandardTimetableStandsAsItIs) {
-    const ParametriConvertiti convertiti = Aggiorna({});
+    const ParametriConvertiti convertiti = Aggiorna(Orari(kStandard));
     EXPECT_EQ(convertiti.parametri, ParametriViaggio());
     EXPECT_EQ(convertiti.guidaGiorno, 925_cent);   // 3:30 + 5:00 + 0:45
     EXPECT_EQ(convertiti.visitaGiorno, 900_cent);  // 9:00 to 18:00
     EXPECT_EQ(convertiti.riposo, 25_cent);
 }
 
-TEST(Orario, LunchThatEndsLateMovesToItsFirstHour) {
-    const ParametriConvertiti convertiti = ControllaVariabiliConvertite(Con([](ParametriViaggio& p) {
-        p.oraPranzo = 1550_cent;
-        p.durataPranzo = 250_cent;
-        p.oraCena = 1800_cent;
-    }));
-    EXPECT_EQ(convertiti.parametri, Con([](ParametriViaggio& p) {
-                  p.oraPranzo = 1150_cent;
-                  p.oraCena = 1800_cent;
-              }));
-    EXPECT_EQ(convertiti.guidaGiorno, 250_cent + 400_cent + 275_cent);
-}
-
-TEST(Orario, DinnerThatEndsInTheNightMovesToItsFirstHour) {
-    const ParametriViaggio corretti =
-        ControllaVariabiliConvertite(Con([](ParametriViaggio& p) { p.oraCena = 2100_cent; })).parametri;
-    EXPECT_EQ(corretti, Con([](ParametriViaggio& p) { p.oraCena = 1800_cent; }));
-}
-
-TEST(Orario, BreakfastShortlyBeforeLunchGoesToHourZeroAndKeepsItsMinutes) {
-    const ParametriViaggio corretti = ControllaVariabiliConvertite(Con([](ParametriViaggio& p) {
-                                          p.oraColazione = 1175_cent;
-                                          p.inizioVisita = 900_cent;
-                                      })).parametri;
-    EXPECT_EQ(corretti.oraColazione, 75_cent);
-    EXPECT_EQ(corretti.inizioVisita, 900_cent);
-    // One hour before lunch is early enough.
-    EXPECT_EQ(ControllaVariabiliConvertite(Con([](ParametriViaggio& p) {
-                  p.oraColazione = 1150_cent;
-              })).parametri.oraColazione,
-              1150_cent);
-}
-
-TEST(Orario, OneCorrectionBringsTheNext) {
-    // Dinner moves to 18:45, which makes lunch end too late, which makes breakfast too late.
-    const ParametriViaggio corretti = ControllaVariabiliConvertite(Con([](ParametriViaggio& p) {
-                                          p.oraColazione = 1100_cent;
-                                          p.oraPranzo = 1550_cent;
-                                          p.oraCena = 2175_cent;
-                                          p.durataCena = 200_cent;
-                                      })).parametri;
-    EXPECT_EQ(corretti.oraCena, 1875_cent);
-    EXPECT_EQ(corretti.oraPranzo, 1150_cent);
-    EXPECT_EQ(corretti.oraColazione, 0_cent);
-}
-
-TEST(Orario, ChecksThatNoResetSatisfiesEnd) {
-    const ParametriViaggio corretti = ControllaVariabiliConvertite(Con([](ParametriViaggio& p) {
-                                          p.oraCena = 1875_cent;
-                                          p.durataCena = 275_cent;
-                                          p.oraNotte = 2000_cent;
-                                      })).parametri;
-    EXPECT_EQ(corretti.oraCena, 1875_cent);
-    EXPECT_EQ(corretti.oraNotte, 2000_cent);
-}
-
-TEST(Orario, VisitsLieBetweenBreakfastAndNightBeforeTheDayIsMeasured) {
-    const ParametriConvertiti convertiti = ControllaVariabiliConvertite(Con([](ParametriViaggio& p) {
-        p.inizioVisita = 800_cent;
-        p.fineVisita = 2400_cent;
-    }));
-    EXPECT_EQ(convertiti.parametri.inizioVisita, 900_cent);
-    EXPECT_EQ(convertiti.parametri.fineVisita, 2250_cent);
-    EXPECT_EQ(convertiti.visitaGiorno, 1350_cent);
+TEST(Orario, AnOrderThatCannotBeKeptIsReset) {
+    const QList<Caso> casi = {
+        {"lunch ends less than an hour before dinner", u"0900 1530+0230 1800+0145 2230 0900-1800 0600"_s,
+         u"0900 1130+0230 1800+0145 2230 0900-1800 0600"_s},
+        {"dinner ends in the night", u"0900 1230+0230 2100+0145 2230 0900-1800 0600"_s,
+         u"0900 1230+0230 1800+0145 2230 0900-1800 0600"_s},
+        {"breakfast less than an hour before lunch", u"1145 1230+0230 2000+0145 2230 0900-1800 0600"_s,
+         u"0045 1230+0230 2000+0145 2230 0900-1800 0600"_s},
+        {"breakfast an hour before lunch", u"1130 1230+0230 2000+0145 2230 1130-1800 0600"_s,
+         u"1130 1230+0230 2000+0145 2230 1130-1800 0600"_s},
+        {"dinner pushes lunch, lunch pushes breakfast", u"1100 1530+0230 2145+0200 2230 1100-1800 0600"_s,
+         u"0000 1130+0230 1845+0200 2230 1100-1800 0600"_s},
+        {"no reset helps", u"0900 1230+0230 1845+0245 2000 0900-1800 0600"_s,
+         u"0900 1230+0230 1845+0245 2000 0900-1800 0600"_s},
+        {"visits outside the day", u"0900 1230+0230 2000+0145 2230 0800-2400 0600"_s,
+         u"0900 1230+0230 2000+0145 2230 0900-2230 0600"_s}};
+    for (const Caso& caso : casi) {
+        EXPECT_EQ(ControllaVariabiliConvertite(Orari(caso.prima)).parametri, Orari(caso.dopo)) << caso.regola;
+    }
 }
 
 TEST(Orario, LimitsOfTheSingleHours) {
-    struct Caso {
-        const char* regola;
-        std::function<void(ParametriViaggio&)> prima;
-        std::function<void(ParametriViaggio&)> dopo;
-    };
-    using P = ParametriViaggio;
-    const std::vector<Caso> casi = {
-        {"a lunch over 3:30 lasts two hours", [](P& p) { p.durataPranzo = 351_cent; },
-         [](P& p) { p.durataPranzo = 200_cent; }},
-        {"a lunch of 3:30 does not", [](P& p) { p.durataPranzo = 350_cent; }, [](P& p) { p.durataPranzo = 350_cent; }},
-        {"a dinner over 2:30 lasts one hour and a half", [](P& p) { p.durataCena = 275_cent, p.oraCena = 1900_cent; },
-         [](P& p) { p.durataCena = 150_cent, p.oraCena = 1900_cent; }},
-        {"breakfast after 12; the visits had moved behind it already",
-         [](P& p) { p.oraColazione = 1225_cent, p.oraPranzo = 1400_cent; },
-         [](P& p) { p.oraPranzo = 1400_cent, p.inizioVisita = 1225_cent; }},
-        {"lunch before 10", [](P& p) { p.oraColazione = 500_cent, p.oraPranzo = 900_cent; },
-         [](P& p) { p.oraColazione = 500_cent, p.oraPranzo = 1000_cent; }},
-        {"lunch after 16", [](P& p) { p.oraPranzo = 1650_cent; }, [](P& p) { p.oraPranzo = 1600_cent; }},
-        {"dinner before 17", [](P& p) { p.oraCena = 1650_cent; }, [](P& p) { p.oraCena = 2000_cent; }},
-        {"dinner after 22", [](P& p) { p.oraCena = 2225_cent, p.oraNotte = 2400_cent, p.durataCena = 100_cent; },
-         [](P& p) { p.oraCena = 2000_cent, p.oraNotte = 2400_cent, p.durataCena = 100_cent; }},
-        {"night before 19", [](P& p) { p.oraCena = 1700_cent, p.durataCena = 100_cent, p.oraNotte = 1850_cent; },
-         [](P& p) { p.oraCena = 1700_cent, p.durataCena = 100_cent, p.oraNotte = 1900_cent; }},
-        {"night before the end of dinner: nine minutes after its beginning",
-         [](P& p) { p.oraNotte = 1800_cent, p.fineVisita = 1700_cent; },
-         [](P& p) { p.oraCena = 1800_cent, p.oraNotte = 1815_cent, p.fineVisita = 1700_cent; }},
-        {"night after 24", [](P& p) { p.oraNotte = 2500_cent; }, [](P& p) { p.oraNotte = 2400_cent; }},
-        {"no ferry takes no time", [](P& p) { p.oreTraghetti = 0_cent; }, [](P& p) { p.oreTraghetti = 100_cent; }},
-    };
+    const QList<Caso> casi = {
+        {"a lunch over 3:30", u"0900 1230+0345 2000+0145 2230 0900-1800 0600"_s,
+         u"0900 1230+0200 2000+0145 2230 0900-1800 0600"_s},
+        {"a lunch of 3:30", u"0900 1230+0330 2000+0145 2230 0900-1800 0600"_s,
+         u"0900 1230+0330 2000+0145 2230 0900-1800 0600"_s},
+        {"a dinner over 2:30", u"0900 1230+0230 1900+0245 2230 0900-1800 0600"_s,
+         u"0900 1230+0230 1900+0130 2230 0900-1800 0600"_s},
+        {"breakfast after 12; visits had moved behind it", u"1215 1400+0230 2000+0145 2230 0900-1800 0600"_s,
+         u"0900 1400+0230 2000+0145 2230 1215-1800 0600"_s},
+        {"lunch before 10", u"0500 0900+0230 2000+0145 2230 0900-1800 0600"_s,
+         u"0500 1000+0230 2000+0145 2230 0900-1800 0600"_s},
+        {"lunch after 16", u"0900 1630+0230 2000+0145 2230 0900-1800 0600"_s,
+         u"0900 1600+0230 2000+0145 2230 0900-1800 0600"_s},
+        {"dinner before 17", u"0900 1230+0230 1630+0145 2230 0900-1800 0600"_s,
+         u"0900 1230+0230 2000+0145 2230 0900-1800 0600"_s},
+        {"dinner after 22", u"0900 1230+0230 2215+0100 2400 0900-1800 0600"_s,
+         u"0900 1230+0230 2000+0100 2400 0900-1800 0600"_s},
+        {"night before 19", u"0900 1230+0230 1700+0100 1830 0900-1800 0600"_s,
+         u"0900 1230+0230 1700+0100 1900 0900-1800 0600"_s},
+        {"night before the end of dinner: nine minutes after its start",
+         u"0900 1230+0230 2000+0145 1800 0900-1700 0600"_s, u"0900 1230+0230 1800+0145 1809 0900-1700 0600"_s},
+        {"night after 24", u"0900 1230+0230 2000+0145 2500 0900-1800 0600"_s,
+         u"0900 1230+0230 2000+0145 2400 0900-1800 0600"_s},
+        {"a ferry without time", u"0900 1230+0230 2000+0145 2230 0900-1800 0000"_s,
+         u"0900 1230+0230 2000+0145 2230 0900-1800 0100"_s}};
     for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.regola);
-        const ParametriViaggio ottenuti = Aggiorna(Con(caso.prima)).parametri;
-        const ParametriViaggio attesi = Con(caso.dopo);
-        EXPECT_EQ(ValoriDeiParametri(ottenuti), ValoriDeiParametri(attesi));
-        EXPECT_EQ(ottenuti, attesi);
+        EXPECT_EQ(Aggiorna(Orari(caso.prima)).parametri, Orari(caso.dopo)) << caso.regola;
     }
 }
 
-TEST(Orario, RestsAreWholeHundredths) {
-    for (const auto& [minuti, centesimi] : {std::pair(10, 17_cent), {15, 25_cent}, {20, 33_cent}, {59, 98_cent}}) {
-        const int riposo = minuti;
-        EXPECT_EQ(ControllaVariabiliConvertite(Con([=](ParametriViaggio& p) { p.riposoMinuti = riposo; })).riposo,
-                  centesimi);
-    }
+TEST(Orario, DayLengthsAreThoseBeforeTheLimits) {
+    const ParametriConvertiti convertiti = Aggiorna(Orari(u"0900 1630+0230 2000+0145 2230 0800-2300 0600"));
+    EXPECT_EQ(convertiti.parametri.oraPranzo, 1600_cent);
+    EXPECT_EQ(convertiti.guidaGiorno, 750_cent + 100_cent + 75_cent);
+    EXPECT_EQ(convertiti.visitaGiorno, 1350_cent);  // 9:00 to 22:30
+    ParametriViaggio riposi;
+    riposi.riposoMinuti = 20;
+    EXPECT_EQ(Aggiorna(riposi).riposo, 33_cent);
+    riposi.riposoMinuti = 10;
+    EXPECT_EQ(Aggiorna(riposi).riposo, 17_cent);
 }
 
 }  // namespace
