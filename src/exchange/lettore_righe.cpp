@@ -37,7 +37,7 @@ bool LettoreRighe::Avanza() {
             return true;
         }
         cercati = fine_ - inizio_;
-        if (cercati > kMassimo) {
+        if (cercati > kMassimo + 1) {  // the CR is no part of the line
             troppoLunga_ = true;
             letti_ += cercati;
             inizio_ = fine_;
@@ -51,7 +51,7 @@ bool LettoreRighe::Avanza() {
     }
 }
 
-// Appends what the device gives to the bytes not taken yet, which are at most `kMassimo`.
+// Appends what the device gives to the bytes not taken yet, which leave room in the buffer.
 bool LettoreRighe::Riempi() {
     char* dati = buffer_.data();
     std::copy(dati + inizio_, dati + fine_, dati);
@@ -64,9 +64,10 @@ bool LettoreRighe::Riempi() {
 }
 
 void LettoreRighe::Consegna(qsizetype fine, qsizetype seguente) {
-    const QByteArrayView riga(buffer_.constData() + inizio_, fine);
-    troppoLunga_ = troppoLunga_ || fine > kMassimo;
-    if (!troppoLunga_) riga_ = riga.endsWith('\r') ? riga.chopped(1) : riga;
+    QByteArrayView riga(buffer_.constData() + inizio_, fine);
+    if (riga.endsWith('\r')) riga.chop(1);
+    troppoLunga_ = troppoLunga_ || riga.size() > kMassimo;
+    if (!troppoLunga_) riga_ = riga;
     inizio_ += seguente;
     letti_ += seguente;
 }

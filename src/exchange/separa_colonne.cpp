@@ -38,8 +38,8 @@ int ContaValori(QByteArrayView resto, char separatore) {
 Colonne SeparaColonne(QByteArrayView riga) {
     Colonne colonne;
     const std::optional<char> separatore = Separatore(riga);
-    colonne.riga.reserve(riga.size());
-    std::copy_if(riga.begin(), riga.end(), std::back_inserter(colonne.riga), [](char c) { return !DaTogliere(c); });
+    colonne.riga = riga.toByteArray();
+    colonne.riga.removeIf(DaTogliere);
     colonne.tolti = static_cast<int>(riga.size() - colonne.riga.size());
 
     QByteArrayView resto = colonne.riga;

@@ -24,6 +24,22 @@ std::string SelectSql(const DefinizioneTabella& table) {
     return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.nome);
 }
 
+std::string MakeInsertSql(const DefinizioneTabella& table) {
+    std::string marks;
+    for (std::size_t i = 0; i < table.campi.size(); ++i) marks += marks.empty() ? "?" : ", ?";
+    return "INSERT INTO " + Name(table.nome) + " (" + ColumnNames(table) + ") VALUES (" + marks + ")";
+}
+
+// Put together once: an import adds rows by the hundred thousand.
+const std::string& InsertSql(Tabella tabella) {
+    static const std::vector<std::string> texts = [] {
+        std::vector<std::string> all;
+        for (const Tabella t : TutteLeTabelle()) all.push_back(MakeInsertSql(Definizione(t)));
+        return all;
+    }();
+    return texts.at(static_cast<std::size_t>(tabella) - 1);
+}
+
 Record ReadRecord(const SQLite::Statement& statement, std::size_t fields) {
     Record record;
     record.id = statement.getColumn(0).getInt64();
@@ -166,10 +182,7 @@ void Archive::Insert(Tabella tabella, std::span<const QString> valori) {
     const DefinizioneTabella& table = Definizione(tabella);
     CheckWidths(table, valori);
     Guarded(connection_->Path(), [&] {
-        std::string marks;
-        for (std::size_t i = 0; i < table.campi.size(); ++i) marks += marks.empty() ? "?" : ", ?";
-        SQLite::Statement& statement = connection_->Prepared("INSERT INTO " + Name(table.nome) + " (" +
-                                                             ColumnNames(table) + ") VALUES (" + marks + ")");
+        SQLite::Statement& statement = connection_->Prepared(InsertSql(tabella));
         BindValues(statement, table, valori);
         statement.exec();
         statement.reset();

@@ -1,0 +1,54 @@
+// Exchange files and archives of the tests, written short.
+#pragma once
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "exchange/importa_mete.h"
+#include "store/archive.h"
+#include "support/prova.h"
+
+namespace cronovia::prova {
+
+/// A section from lines ended by "\n" whose values stand between "|".
+inline QByteArray Sezione(char separatore, QByteArray testo) {
+    return testo.replace("\n", "|\r\n").replace('|', separatore);
+}
+inline QByteArray Mete(const QByteArray& righe) { return Sezione('\xFF', "CodiceMeta|Localita|Nazione\n" + righe); }
+inline QByteArray Tappe(const QByteArray& righe) { return Sezione('\xFE', "CodiceMeta|Sequenza|Localita\n" + righe); }
+inline QByteArray Guida(const QByteArray& righe) {
+    return Sezione('\xFD', "Localita|CodiceGuida|Descrizione\n" + righe);
+}
+
+/// The first `campi` fields of every row, joined by "|", in the order in which the rows were added.
+inline QStringList Righe(Archive& archive, Tabella tabella, int campi = 3) {
+    QStringList righe;
+    archive.ForEach(tabella, [&](const Record& record) {
+        righe += QStringList(record.valori.begin(), record.valori.begin() + campi).join(u'|');
+    });
+    return righe;
+}
+
+/// Every field of the three tables that travel.
+inline QStringList Tutto(Archive& archive) {
+    return Righe(archive, Tabella::MeteVandro, mete::kCampi) + Righe(archive, Tabella::Itinerari, itinerari::kCampi) +
+           Righe(archive, Tabella::GuidaCitta, guida::kCampi);
+}
+
+/// Adds a row whose remaining fields are one blank each.
+inline void Inserisci(Archive& archive, Tabella tabella, std::vector<QString> valori) {
+    valori.resize(Definizione(tabella).campi.size(), QStringLiteral(" "));
+    archive.Insert(tabella, valori);
+}
+
+inline EsitoImport Importa(Archive& archive, QByteArray file, const std::vector<QString>& codici = {}) {
+    QBuffer buffer(&file);
+    EXPECT_TRUE(buffer.open(QIODevice::ReadOnly));
+    Progress progress;
+    return ImportaMete({archive, QStringLiteral("prova.iei"), codici}, buffer, progress);
+}
+
+}  // namespace cronovia::prova
