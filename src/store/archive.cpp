@@ -20,25 +20,29 @@ std::string ColumnNames(const DefinizioneTabella& table) {
     return names;
 }
 
-std::string SelectSql(const DefinizioneTabella& table) {
-    return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.nome);
-}
-
 std::string MakeInsertSql(const DefinizioneTabella& table) {
     std::string marks;
     for (std::size_t i = 0; i < table.campi.size(); ++i) marks += marks.empty() ? "?" : ", ?";
     return "INSERT INTO " + Name(table.nome) + " (" + ColumnNames(table) + ") VALUES (" + marks + ")";
 }
 
-// Put together once: an import adds rows by the hundred thousand.
-const std::string& InsertSql(Tabella tabella) {
+std::string MakeSelectSql(const DefinizioneTabella& table) {
+    return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.nome);
+}
+
+// The text of a statement for each table, put together once: an import asks and adds by the hundred thousand.
+template <auto Make>
+const std::string& SqlFor(Tabella tabella) {
     static const std::vector<std::string> texts = [] {
         std::vector<std::string> all;
-        for (const Tabella t : TutteLeTabelle()) all.push_back(MakeInsertSql(Definizione(t)));
+        for (const Tabella t : TutteLeTabelle()) all.push_back(Make(Definizione(t)));
         return all;
     }();
     return texts.at(static_cast<std::size_t>(tabella) - 1);
 }
+
+const std::string& SelectSql(Tabella tabella) { return SqlFor<MakeSelectSql>(tabella); }
+const std::string& InsertSql(Tabella tabella) { return SqlFor<MakeInsertSql>(tabella); }
 
 Record ReadRecord(const SQLite::Statement& statement, std::size_t fields) {
     Record record;
@@ -111,7 +115,7 @@ void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& 
         ricerca.condizioni.empty() ? std::vector<NamePattern::Range>() : ricerca.condizioni.front().modello.Ranges();
     Guarded(connection_->Path(), [&] {
         if (ranges.empty()) {
-            SQLite::Statement statement(connection_->Database(), SelectSql(table) + " ORDER BY rowid");
+            SQLite::Statement statement(connection_->Database(), SelectSql(ricerca.tabella) + " ORDER BY rowid");
             run(statement);
             return;
         }
@@ -120,7 +124,7 @@ void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& 
         const std::string field = Name(table.campi.at(posto).nome) + " COLLATE NOCASE";
         for (const NamePattern::Range& range : ranges) {
             const std::string test = range.single ? " = ?1" : " >= ?1 AND " + field + " < ?2";
-            SQLite::Statement& statement = connection_->Prepared(SelectSql(table) + " WHERE " + field + test);
+            SQLite::Statement& statement = connection_->Prepared(SelectSql(ricerca.tabella) + " WHERE " + field + test);
             BindText(statement, 1, range.from);
             if (!range.single) BindText(statement, 2, range.to);
             if (!run(statement)) return;
