@@ -1,0 +1,72 @@
+// Exchange files made of anything: the list of their trips, and the import into an archive. What must hold for each:
+// nothing crashes, every listed trip is taken or known already, and a second import finds them all.
+#include <QBuffer>
+#include <QDir>
+#include <QTemporaryDir>
+#include <cstdlib>
+
+#include "exchange/elenco_mete.h"
+#include "exchange/importa_mete.h"
+#include "exchange/separa_colonne.h"
+#include "interaction/failure.h"
+
+namespace {
+
+using namespace cronovia;
+using namespace Qt::StringLiterals;
+
+void Pretendi(bool vero) {
+    if (!vero) std::abort();
+}
+
+EsitoImport Importa(Archive& archive, QByteArray& file) {
+    QBuffer buffer(&file);
+    Pretendi(buffer.open(QIODevice::ReadOnly));
+    Progress progress;
+    const EsitoImport esito = ImportaMete({archive, u"prova.iei"_s, {}}, buffer, progress);
+    Pretendi(TestoEsito(esito).startsWith("Sono stati inseriti:"_L1));
+    return esito;
+}
+
+void SvuotaArchivio(Archive& archive) {
+    Transaction transaction(archive);
+    Progress progress;
+    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
+        archive.CancellaTabella(tabella, std::nullopt, progress);
+    }
+    transaction.Commit();
+}
+
+qint64 ContaMete(QByteArray& file) {
+    QBuffer buffer(&file);
+    Pretendi(buffer.open(QIODevice::ReadOnly));
+    Progress progress;
+    qint64 mete = 0;
+    ScorriMete(buffer, u"prova.iei"_s, progress, [&](const RigaIei&) { ++mete; });
+    return mete;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
+    // In memory where the system has such a folder; what an archive costs on disk would be all that is measured.
+    static const QString memoria = QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath();
+    static const QTemporaryDir cartella(memoria + u"/cronovia-fuzz-XXXXXX"_s);
+    static Archive archive = Archive::Open(cartella.path());
+    QByteArray file(reinterpret_cast<const char*>(dati), static_cast<qsizetype>(quanti));
+    Pretendi(SeparaColonne(file).valori.size() <= Colonne::kMassimo);
+    try {
+        const qint64 mete = ContaMete(file);
+        const EsitoImport prima = Importa(archive, file);
+        Pretendi(prima.meteInserite + prima.meteScartate + prima.codiciRipetuti == mete);
+        Pretendi(archive.Count(Tabella::MeteVandro) == prima.meteInserite);
+        Pretendi(archive.Count(Tabella::Itinerari) == prima.tappeInserite);
+        Pretendi(archive.Count(Tabella::GuidaCitta) == prima.vociInserite);
+        const EsitoImport dopo = Importa(archive, file);
+        Pretendi(dopo.meteInserite == 0 && dopo.tappeInserite == 0);
+        SvuotaArchivio(archive);
+    } catch (const Failure&) {
+        Pretendi(archive.Count(Tabella::MeteVandro) == 0);
+    }
+    return 0;
+}
