@@ -38,15 +38,19 @@ void ScriviAiuto(QTextStream& uscita) {
               "  --version                La versione.\n"_s;
 }
 
+QString ConValore(const Opzione& opzione) {
+    return u"--"_s + opzione.nome + (opzione.valore.isEmpty() ? QString() : u' ' + opzione.valore);
+}
+
 void ScriviAiutoDelVerbo(const Verbo& verbo, QTextStream& uscita) {
     uscita << u"Uso: cronovia [--cartella DIR] %1 %2"_s.arg(verbo.nome, verbo.argomenti).trimmed();
     for (const Opzione& opzione : verbo.opzioni) {
-        uscita << u" [--"_s << opzione.nome << (opzione.valore.isEmpty() ? QString() : u' ' + opzione.valore) << ']';
+        uscita << u" [%1]"_s.arg(ConValore(opzione));
     }
     if (verbo.conFormato) uscita << u" [--formato testo|tsv|json]"_s;
     uscita << u"\n\n"_s << verbo.descrizione << '\n';
     for (const Opzione& opzione : verbo.opzioni) {
-        uscita << u"  --%1 %2\n      %3\n"_s.arg(opzione.nome, opzione.valore, opzione.descrizione);
+        uscita << u"  %1\n      %2\n"_s.arg(ConValore(opzione), opzione.descrizione);
     }
 }
 
@@ -99,8 +103,7 @@ int EseguiVerbo(const Verbo& verbo, const QString& cartella, const QStringList& 
     }
     const Richiesta richiesta = LeggiRichiesta(verbo, parser);
     const QString dove = parser.isSet(u"cartella"_s) ? parser.value(u"cartella"_s) : cartella;
-    Sessione sessione(CartellaDati(LuoghiDellaPiattaforma(dove)));
-    verbo.esegui(sessione, richiesta, uscita);
+    verbo.esegui([&] { return Sessione(CartellaDati(LuoghiDellaPiattaforma(dove))); }, richiesta, uscita);
     return kFatto;
 }
 
@@ -130,7 +133,10 @@ int Esegui(const QStringList& riga, QTextStream& uscita) {
 
 int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori) {
     try {
-        return Esegui(riga, uscita);
+        const int codice = Esegui(riga, uscita);
+        uscita.flush();
+        if (uscita.status() != QTextStream::Ok) throw Failure(u"Il risultato non si può scrivere."_s);
+        return codice;
     } catch (const WrongUsage& errore) {
         errori << errore.Message() << u" L'aiuto: cronovia --help\n"_s;
         return kUsoErrato;

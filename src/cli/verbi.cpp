@@ -21,7 +21,7 @@ const std::vector<Verbo>& Verbi() {
         {u"nuova"_s,
          u"LOCALITA NAZIONE"_s,
          u"Crea una mèta con i parametri di viaggio personali e ne scrive il codice."_s,
-         {{u"inizio"_s, u"gg/mm/aaaa hh:mm"_s, u"Data e ora di partenza; altrimenti adesso."_s}},
+         {{u"inizio"_s, u"\"gg/mm/aaaa hh:mm\""_s, u"Data e ora di partenza; altrimenti adesso."_s}},
          2,
          2,
          false,

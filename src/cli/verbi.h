@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <vector>
@@ -42,6 +43,9 @@ struct Richiesta {
     [[nodiscard]] std::optional<int> Intero(const QString& nome, int minimo, int massimo) const;
 };
 
+/// Opens the archive. A verb calls it once its options are read: a line that cannot be understood makes no archive.
+using ApriSessione = std::function<Sessione()>;
+
 struct Verbo {
     QString nome;
     QString argomenti;  ///< as the help shows them
@@ -50,18 +54,18 @@ struct Verbo {
     int minimoArgomenti = 0;
     int massimoArgomenti = 0;  ///< -1: any number
     bool conFormato = false;   ///< answers in the format wanted
-    void (*esegui)(Sessione&, const Richiesta&, QTextStream& uscita) = nullptr;
+    void (*esegui)(const ApriSessione&, const Richiesta&, QTextStream& uscita) = nullptr;
 };
 
 /// All verbs, in the order of the help.
 const std::vector<Verbo>& Verbi();
 
-void EseguiElenca(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
-void EseguiNuova(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
-void EseguiImporta(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
-void EseguiEsporta(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
-void EseguiItinerario(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
-void EseguiCalcola(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
-void EseguiGuida(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiNuova(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 
 }  // namespace cronovia

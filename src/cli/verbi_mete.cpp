@@ -44,7 +44,8 @@ QDateTime LeggiInizio(const QString& testo) {
 
 }  // namespace
 
-void EseguiElenca(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    Sessione sessione = apri();
     const std::vector<Record> record = sessione.Archivio().Select({Tabella::MeteVandro, {}}, {mete::CodiceMeta});
     if (richiesta.formato == Formato::Json) {
         ScriviJson(JsonDeiRecord(Tabella::MeteVandro, record), uscita);
@@ -57,10 +58,10 @@ void EseguiElenca(Sessione& sessione, const Richiesta& richiesta, QTextStream& u
     }
 }
 
-void EseguiNuova(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiNuova(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const QDateTime inizio = richiesta.opzioni.contains(u"inizio"_s) ? LeggiInizio(richiesta.opzioni.value(u"inizio"_s))
                                                                      : InizioProposto(QDateTime::currentDateTime());
-    uscita << sessione.NuovaMeta(richiesta.argomenti.at(0), richiesta.argomenti.at(1), inizio) << '\n';
+    uscita << apri().NuovaMeta(richiesta.argomenti.at(0), richiesta.argomenti.at(1), inizio) << '\n';
 }
 
 }  // namespace cronovia

@@ -20,14 +20,16 @@ QString Righe(QString testo) { return testo.replace(u"\r\n"_s, u"\n"_s).trimmed(
 
 }  // namespace
 
-void EseguiImporta(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    Sessione sessione = apri();
     Progress progress;
     const EsitoImport esito =
         ImportaMete({sessione.Archivio(), richiesta.argomenti.first(), CodiciRichiesti(richiesta)}, progress);
     uscita << Righe(TestoEsito(esito));
 }
 
-void EseguiEsporta(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    Sessione sessione = apri();
     Progress progress;
     const EsitoExport esito = EsportaMete({sessione.Archivio(), richiesta.argomenti.first(), CodiciRichiesti(richiesta),
                                            richiesta.opzioni.contains(u"sovrascrivi"_s)},

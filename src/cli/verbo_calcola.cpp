@@ -1,4 +1,5 @@
 // calcola.
+#include <algorithm>
 #include <array>
 
 #include "calendar/date.h"
@@ -38,9 +39,10 @@ TabellaTesti ColonneDelGiorno(const std::vector<RigaGriglia>& righe, const Crono
     return tabella;
 }
 
+// The hour of a guide entry is at most the mark of a rest that follows.
 QString RigaDellaGuida(const RigaGriglia& riga, int rientro) {
     const QString& tempo = riga[Colonna::Sosta];
-    return QString(rientro, u' ') + riga[Colonna::Tappa] + u" ("_s + riga[Colonna::Note] +
+    return riga[Colonna::Ora].trimmed().leftJustified(rientro) + riga[Colonna::Tappa] + u" ("_s + riga[Colonna::Note] +
            (tempo.isEmpty() ? QString() : u", "_s + tempo) + u')';
 }
 
@@ -78,6 +80,10 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
     if (esito.cronovia->fine) {
         uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(fine[5], fine[0], fine[1], fine[2],
                                                                                   fine[3], fine[4], fine[6]);
+        const auto& tutte = esito.cronovia->righe;
+        if (std::any_of(tutte.begin(), tutte.end(), [](const RigaCronovia& riga) { return riga.riposoDopo; })) {
+            uscita << u"Ore: * seguono uno o più giorni di riposo.\n"_s;
+        }
         uscita << u"Limite ritorno: > ultimo momento per proseguire senza soste, < per tornare indietro.\n"_s;
     }
     if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
@@ -85,10 +91,11 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
 
 }  // namespace
 
-void EseguiCalcola(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     OpzioniCalcolo opzioni;
     opzioni.giorni = richiesta.Intero(u"giorni"_s, 0, kMassimoGiorniAdeguamento);
     if (const auto soste = richiesta.Intero(u"soste"_s, 1, 5)) opzioni.soste = static_cast<CalcoloSoste>(*soste);
+    Sessione sessione = apri();
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     Progress progress;
     const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);

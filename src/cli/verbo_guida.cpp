@@ -27,11 +27,12 @@ TabellaTesti TabellaDellaGuida(const std::vector<Record>& record, const std::vec
 
 }  // namespace
 
-void EseguiGuida(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Ricerca ricerca{Tabella::GuidaCitta, {}};
     if (!richiesta.argomenti.isEmpty()) {
         ricerca.condizioni.push_back({guida::Localita, NamePattern(LikeTesto(richiesta.argomenti.first()))});
     }
+    Sessione sessione = apri();
     const std::vector<Record> record =
         sessione.Archivio().Select(ricerca, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
     if (richiesta.formato == Formato::Json) {

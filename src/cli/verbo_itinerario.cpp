@@ -34,7 +34,8 @@ void ScriviTesto(const MetaAperta& aperta, TabellaTesti tabella, const TestiTota
 
 }  // namespace
 
-void EseguiItinerario(Sessione& sessione, const Richiesta& richiesta, QTextStream& uscita) {
+void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    Sessione sessione = apri();
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     const std::vector<RigaGriglia> righe = RigheDellItinerario(aperta);
     const TestiTotali totali = Testi(aperta.riepilogo.totali, aperta.riepilogo.guidaGiorno);
