@@ -1,0 +1,34 @@
+#include "app/cartella_dati.h"
+
+#include <gtest/gtest.h>
+
+#include "store/archive.h"
+#include "support/prova.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(CartellaDati, AskedForElsePortableElseTheUsers) {
+    const QTemporaryDir cartella;
+    const QString programma = cartella.path();
+    const auto scelta = [&](const QString& richiesta, const QString& del) {
+        return CartellaDati({richiesta, del, u"utente"_s});
+    };
+    EXPECT_EQ(scelta(u"richiesta"_s, programma), u"richiesta"_s);
+    EXPECT_EQ(scelta({}, programma), programma);
+    EXPECT_EQ(scelta({}, programma + u"/manca"_s), u"utente"_s);
+
+    // Permissions do not bind a superuser.
+    QFile::setPermissions(programma, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    EXPECT_EQ(scelta({}, programma), QFileInfo(programma).isWritable() ? programma : u"utente"_s);
+    QFile::setPermissions(programma, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    prova::ScriviFile(Archive::FilePath(programma), {});
+    QFile::setPermissions(programma, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    EXPECT_EQ(scelta({}, programma), programma);
+    QFile::setPermissions(programma, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+}  // namespace
+}  // namespace cronovia

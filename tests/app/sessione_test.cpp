@@ -1,0 +1,106 @@
+#include "app/sessione.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "exchange/importa_mete.h"
+#include "support/prova.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class SessioneTest : public testing::Test {
+  protected:
+    void ImportaProvenza() {
+        ImportaMete({sessione_.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), {}}, progress_);
+    }
+    void CambiaMeta(int posto, const QString& valore) {
+        Record record = *sessione_.Archivio().SelectFirst({Tabella::MeteVandro, {}});
+        record[posto] = valore;
+        sessione_.Archivio().Update(Tabella::MeteVandro, record);
+    }
+    int Giorni(const MetaAperta& aperta, const OpzioniCalcolo& opzioni = {}) {
+        return sessione_.Calcola(aperta, opzioni, progress_).cronovia->fine->giorni;
+    }
+
+    prova::CartellaDiProva cartella_;
+    Progress progress_;
+    Sessione sessione_{cartella_.Percorso()};
+};
+
+TEST_F(SessioneTest, ANewArchiveGetsGuideTypesAndStandardParameters) {
+    Archive& archive = sessione_.Archivio();
+    const std::vector<Record> tipi = archive.Select({Tabella::TipoGuida, {}}, {tipoguida::CodiceGuida});
+    ASSERT_EQ(tipi.size(), 9U);
+    EXPECT_EQ(tipi.front()[tipoguida::CodiceGuida], u"01"_s);
+    EXPECT_EQ(tipi.back()[tipoguida::CodiceGuida], u"09"_s);
+    const auto parametri = archive.SelectFirst({Tabella::Parametri, {}});
+    ASSERT_TRUE(parametri.has_value());
+    EXPECT_EQ(ParametriDaRecord(*parametri), ParametriViaggio());
+}
+
+TEST_F(SessioneTest, OpenedAgainItKeepsWhatIsThere) {
+    ParametriViaggio miei;
+    miei.mediaKm = {90, 80, 60, 45};
+    Record record = *sessione_.Archivio().SelectFirst({Tabella::Parametri, {}});
+    record.valori = ValoriDeiParametri(miei);
+    sessione_.Archivio().Update(Tabella::Parametri, record);
+    Sessione dopo(cartella_.Percorso());
+    EXPECT_EQ(dopo.Archivio().Count(Tabella::TipoGuida), 9);
+    EXPECT_EQ(dopo.Archivio().Count(Tabella::Parametri), 1);
+    const QString codice = dopo.NuovaMeta(u"corsica"_s, u"francia"_s, QDate(2027, 6, 5).startOfDay());
+    EXPECT_EQ(dopo.ApriMeta(codice).meta.parametri, miei);
+}
+
+TEST_F(SessioneTest, ATripIsOpenedWithItsItinerary) {
+    ImportaProvenza();
+    for (const auto& codice : {u"000003"_s, u"3"_s, u" 03 "_s}) {
+        const MetaAperta aperta = sessione_.ApriMeta(codice);
+        EXPECT_EQ(aperta.meta.codice, u"000003"_s);
+        EXPECT_EQ(aperta.meta.localita, u"PROVENZA"_s);
+        ASSERT_EQ(aperta.tappe.size(), 28U);
+        EXPECT_EQ(aperta.tappe[13].guida, (Durata{0, 5, 45}));
+        EXPECT_EQ(aperta.riepilogo.totali.km[kTuttiITipi], 1317);
+    }
+    for (const auto& codice : {u"000004"_s, u""_s, u"000003 3"_s, u"00000*"_s}) {
+        EXPECT_TRUE(prova::MessaggioDi([&] { sessione_.ApriMeta(codice); }).startsWith(u"Non esiste nessuna mèta"_s));
+    }
+}
+
+TEST_F(SessioneTest, TheDaysWantedAreAtLeastThoseOfDriving) {
+    ImportaProvenza();
+    const std::vector<std::pair<QString, int>> casi = {{u"000"_s, 0}, {u"001"_s, 2}, {u"002"_s, 2}, {u"010"_s, 10}};
+    for (const auto& [memorizzati, attesi] : casi) {
+        CambiaMeta(mete::GiorniAdeguamento, memorizzati);
+        const MetaAperta aperta = sessione_.ApriMeta(u"3"_s);
+        EXPECT_EQ(aperta.meta.giorniAdeguamento, attesi) << memorizzati.toStdString();
+        EXPECT_EQ(aperta.riepilogo.giorniMinimi, 2);
+    }
+}
+
+TEST_F(SessioneTest, OptionsHoldForOneCalculation) {
+    ImportaProvenza();
+    CambiaMeta(mete::GiorniAdeguamento, u"010"_s);
+    const MetaAperta aperta = sessione_.ApriMeta(u"3"_s);
+    const QByteArray prima = prova::LeggiFile(cartella_.Archivio());
+    EXPECT_EQ(Giorni(aperta), 10);
+    EXPECT_EQ(Giorni(aperta, {12, std::nullopt}), 12);
+    EXPECT_EQ(Giorni(aperta, {0, std::nullopt}), 8);
+    EXPECT_EQ(Giorni(aperta, {0, CalcoloSoste::NessunaSosta}), 3);
+    EXPECT_EQ(Giorni(aperta), 10);
+    EXPECT_TRUE(prova::LeggiFile(cartella_.Archivio()) == prima);
+}
+
+TEST(Sessione, TheStartOnOfferIsTheQuarterBefore) {
+    const std::vector<std::pair<QTime, QTime>> casi = {
+        {{10, 52, 31}, {10, 45}}, {{10, 45}, {10, 45}}, {{0, 14, 59}, {0, 0}}, {{23, 59, 59}, {23, 45}}};
+    const QDate giorno(2027, 6, 5);
+    for (const auto& [adesso, proposto] : casi)
+        EXPECT_EQ(InizioProposto({giorno, adesso}), QDateTime(giorno, proposto));
+}
+
+}  // namespace
+}  // namespace cronovia
