@@ -94,23 +94,6 @@ TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
     EXPECT_GT(trovati, 2000U);  // the patterns are worth the name
 }
 
-TEST(Search, AFileMadeElsewhereIsSearchedWithoutRegardToCaseToo) {
-    const prova::CartellaDiProva cartella;
-    cartella.Crea();
-    sqlite3* altro = nullptr;
-    ASSERT_EQ(sqlite3_open(cartella.Archivio().toUtf8().constData(), &altro), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(altro,
-                           "CREATE TABLE GuidaCitta (Localita TEXT(30), CodiceGuida TEXT(2), Descrizione TEXT(96), "
-                           "TempoSosta TEXT(5), FlagVisto TEXT(1));"
-                           "INSERT INTO GuidaCitta VALUES ('Roma', '01', 'Pantheon', '01:00', '0')",
-                           nullptr, nullptr, nullptr),
-              SQLITE_OK);
-    sqlite3_close(altro);
-    Archive archive = Archive::Open(cartella.Percorso());
-    EXPECT_TRUE(archive.Exists({Tabella::GuidaCitta, {{guida::Localita, NamePattern(u"ROMA")}}}));
-    EXPECT_TRUE(archive.Exists({Tabella::GuidaCitta, {{guida::Localita, NamePattern(u"rOM*")}}}));
-}
-
 // Counts, over all connections of the process, the rows that statements step through without an index.
 class ContaRigheSenzaIndice {
   public:
