@@ -166,10 +166,12 @@ EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
 }
 
 QString TestoEsito(const EsitoExport& esito) {
-    const QString testo = u"Le mète esportate si trovano sul file "_s + esito.path;
-    if (esito.caratteriSostituiti == 0) return testo;
-    return testo + u"\r\nCaratteri che il file non può contenere, sostituiti con un altro: "_s +
-           Raggruppa(esito.caratteriSostituiti);
+    QString testo = u"Le mète esportate si trovano sul file "_s + esito.path;
+    if (esito.caratteriSostituiti > 0) {
+        testo += u"\r\nCaratteri che il file non può contenere, sostituiti con un altro: "_s +
+                 Raggruppa(esito.caratteriSostituiti);
+    }
+    return testo;
 }
 
 }  // namespace cronovia
