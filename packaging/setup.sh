@@ -8,7 +8,7 @@ packages_for() {
         build) echo g++ cmake ninja-build qt6-base-dev libsqlitecpp-dev libsqlite3-dev ;;
         test) echo libgtest-dev libgmock-dev ;;
         check) echo clang-format clang-tidy ;;
-        bench) echo libbenchmark-dev ;;
+        bench) echo libbenchmark-dev sqlite3 ;;
         fuzz) echo clang libclang-rt-14-dev ;;
         *) fail "setup.sh: there is no task \"$1\"" ;;
     esac
