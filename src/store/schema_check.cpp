@@ -38,9 +38,9 @@ std::string Name(const QString& name) { return (u'"' + name + u'"').toStdString(
 QString TypeOf(const Campo& campo) { return campo.larghezza == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(campo.larghezza); }
 
 std::string ColumnSql(const Column& column) {
-    const std::string plain = Name(column.name) + " " + column.type.toStdString();
-    if (!column.ours) return plain;
-    return plain + (column.type.startsWith("TEXT"_L1) ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0");
+    std::string sql = Name(column.name) + " " + column.type.toStdString();
+    if (column.ours) sql += column.type.startsWith("TEXT"_L1) ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0";
+    return sql;
 }
 
 int IntegerOf(SQLite::Database& database, const char* sql) { return database.execAndGet(sql).getInt(); }
