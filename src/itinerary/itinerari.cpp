@@ -64,8 +64,6 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
 
 std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
                                          const ParametriViaggio& parametri) {
-    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
-    LettoreGuida guida(archive);
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
         Tappa tappa;
@@ -76,10 +74,19 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
         tappa.tipo = LeggiTipoStrada(record[itinerari::TipoStrada]);
         tappa.sosta = LeggiDurata(record[itinerari::TempoSosta].trimmed());
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
-        tappa.guida = InDurata(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
         tappe.push_back(std::move(tappa));
     }
+    RicalcolaVisite(archive, tappe, parametri);
     return tappe;
+}
+
+void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriViaggio& parametri) {
+    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    LettoreGuida guida(archive);
+    for (Tappa& tappa : tappe) {
+        tappa.guida =
+            tappa.localita.isEmpty() ? Durata() : InDurata(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
+    }
 }
 
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,

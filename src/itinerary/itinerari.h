@@ -18,6 +18,9 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
 std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
                                          const ParametriViaggio& parametri);
 
+/// Puts the guide's visit times anew, after stages changed.
+void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriViaggio& parametri);
+
 /// What saving an itinerary did.
 struct EsitoMemorizzazione {
     int record = 0;          ///< rows written; a stage longer than 999 km takes several

@@ -26,6 +26,33 @@ void ScriviRigaUnica(Archive& archive, Tabella tabella, std::vector<QString> val
     }
 }
 
+void RifiutaIncompleta(const Meta& meta) {
+    if (meta.localita.trimmed().isEmpty()) throw Failure(u"Campo Località: obbligatorio!"_s);
+    if (meta.nazione.trimmed().isEmpty()) throw Failure(u"Campo Nazione: obbligatorio!"_s);
+}
+
+std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
+    return archive.SelectFirst(
+        {Tabella::MeteVandro, {{mete::Localita, NamePattern(LikeTesto(meta.localita.trimmed()))}}});
+}
+
+// Within a transaction of the caller. A code that another window took meanwhile is left to it.
+void Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvataggio) {
+    Meta meta = nuova;
+    meta.localita = meta.localita.trimmed();
+    if (meta.localita.contains("AUTOSTRADA"_L1, Qt::CaseInsensitive)) meta.localita = meta.localita.toLower();
+    meta.codice = salvataggio.codice;
+    std::optional<Record> record = archive.SelectFirst(PerCodice(meta.codice));
+    if (record && salvataggio.nuova) meta.codice = NuovoCodiceMeta(CodiciDelleMete(archive));
+    if (record && !salvataggio.nuova) {
+        record->valori = ValoriDellaMeta(meta);
+        archive.Update(Tabella::MeteVandro, *record);
+    } else {
+        archive.Insert(Tabella::MeteVandro, ValoriDellaMeta(meta));
+    }
+    SalvaIlCodiceMetaCorrente(archive, meta.codice);
+}
+
 }  // namespace
 
 std::optional<Meta> CaricaDatiAnagraficiMeta(Archive& archive, QStringView codice) {
@@ -55,24 +82,49 @@ std::vector<QString> CodiciDelleMete(Archive& archive) {
     return codici;
 }
 
-QString InserisciMeta(Archive& archive, const Meta& nuova) {
-    Meta meta = nuova;
-    meta.localita = meta.localita.trimmed();
-    if (meta.localita.isEmpty()) throw Failure(u"Campo Località: obbligatorio!"_s);
-    if (meta.nazione.trimmed().isEmpty()) throw Failure(u"Campo Nazione: obbligatorio!"_s);
-    if (meta.localita.contains("AUTOSTRADA"_L1, Qt::CaseInsensitive)) meta.localita = meta.localita.toLower();
+Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta) {
+    RifiutaIncompleta(meta);
+    if (ValoreNumerico(meta.codice) != 0) return {false, meta.codice};
+    if (const auto gia = StessaLocalita(archive, meta)) return {false, (*gia)[mete::CodiceMeta]};
+    return {true, NuovoCodiceMeta(CodiciDelleMete(archive))};
+}
 
+void SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio) {
     Transaction transaction(archive);
-    const Ricerca stessaLocalita{Tabella::MeteVandro, {{mete::Localita, NamePattern(LikeTesto(meta.localita))}}};
-    if (const std::optional<Record> gia = archive.SelectFirst(stessaLocalita)) {
+    Scrivi(archive, meta, salvataggio);
+    transaction.Commit();
+}
+
+QString InserisciMeta(Archive& archive, const Meta& nuova) {
+    RifiutaIncompleta(nuova);
+    Transaction transaction(archive);
+    if (const auto gia = StessaLocalita(archive, nuova)) {
         throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*gia)[mete::Localita].trimmed(),
                                                                        (*gia)[mete::CodiceMeta]));
     }
-    meta.codice = NuovoCodiceMeta(CodiciDelleMete(archive));
-    archive.Insert(Tabella::MeteVandro, ValoriDellaMeta(meta));
-    SalvaIlCodiceMetaCorrente(archive, meta.codice);
+    const QString codice = NuovoCodiceMeta(CodiciDelleMete(archive));
+    Scrivi(archive, nuova, {true, codice});
     transaction.Commit();
-    return meta.codice;
+    return codice;
+}
+
+std::vector<MetaInElenco> ElencoMete(Archive& archive) {
+    std::vector<MetaInElenco> elenco;
+    for (const Record& record : archive.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+        elenco.push_back({record[mete::CodiceMeta], record[mete::Localita].trimmed()});
+    }
+    std::stable_partition(elenco.begin(), elenco.end(),
+                          [](const MetaInElenco& meta) { return !meta.localita.contains("autostrada"_L1); });
+    return elenco;
+}
+
+void CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
+    Transaction transaction(archive);
+    const NamePattern questa = NamePattern::Exactly(codice);
+    archive.CancellaTabella(Tabella::Itinerari, Condizione{itinerari::CodiceMeta, questa}, progress);
+    archive.CancellaTabella(Tabella::MeteVandro, Condizione{mete::CodiceMeta, questa}, progress);
+    transaction.Commit();
+    progress.Advance(0, 0);
 }
 
 ParametriViaggio CaricaDefaultMeta(Archive& archive, bool ripristina) {

@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "interaction/progress.h"
 #include "store/archive.h"
 #include "trips/meta.h"
 
@@ -20,9 +21,33 @@ QString NuovoCodiceMeta(std::span<const QString> codici);
 /// All codes in use, in rising order.
 std::vector<QString> CodiciDelleMete(Archive& archive);
 
-/// Saves a new trip and makes it the current one; returns its code. A destination that names a motorway is stored in
-/// small letters. Refused without destination or country, and when a trip has that destination already.
+/// What saving a trip will do.
+struct Salvataggio {
+    bool nuova = false;  ///< a new trip; else the stored one with `codice` is changed
+    QString codice;
+};
+
+/// A trip with a code is changed. One without is new, unless a trip with its destination is stored: then that one is
+/// changed. Refused without destination or country.
+Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta);
+
+/// Carries it out and makes the trip the current one. A destination that names a motorway is stored in small letters.
+void SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio);
+
+/// Saves a new trip, makes it the current one and returns its code. Refused when a trip has that destination already.
 QString InserisciMeta(Archive& archive, const Meta& nuova);
+
+/// A trip in the list to choose from.
+struct MetaInElenco {
+    QString codice;
+    QString localita;
+};
+
+/// All trips by their destinations; those that name a motorway come last.
+std::vector<MetaInElenco> ElencoMete(Archive& archive);
+
+/// Deletes a trip with its itinerary, whole or not at all.
+void CancellaMeta(Archive& archive, const QString& codice, Progress& progress);
 
 /// The personal defaults; an archive that has none gets the standard ones stored. `ripristina` puts the standard ones
 /// in the place of the stored ones first.

@@ -1,0 +1,42 @@
+// What a procedure may ask of the person.
+#pragma once
+
+#include <QString>
+
+namespace cronovia {
+
+enum class Icon { None, Information, Exclamation };
+
+/// A box with text and an OK button. Without a title, the face puts the program's name.
+struct Message {
+    QString text;
+    QString title;
+    Icon icon = Icon::None;
+};
+
+enum class Answer { Yes, No, Cancel };
+
+/// A box with Yes and No, and with Cancel when that is offered.
+struct Question {
+    QString text;
+    QString title;
+    bool cancellable = false;
+};
+
+/// The face of the program towards one command: the window shows boxes, the command line prints, tests script answers.
+class Interaction {
+  public:
+    Interaction() = default;
+    Interaction(const Interaction&) = delete;
+    Interaction& operator=(const Interaction&) = delete;
+    virtual ~Interaction() = default;
+
+    virtual void Show(const Message& message) = 0;
+    virtual Answer Ask(const Question& question) = 0;
+};
+
+/// The confirmation that commands share: "Confermi ...?" with the name of the operation of that code ("I", "M", "A",
+/// ...) as its title; an unknown code is its own name. True on Yes.
+bool BoxConferma(Interaction& interaction, const QString& codiceOperazione);
+
+}  // namespace cronovia

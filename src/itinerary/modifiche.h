@@ -1,0 +1,53 @@
+// The verbs that change an itinerary on screen. Rows are counted from 1; a row without locality is free.
+#pragma once
+
+#include <QString>
+#include <span>
+#include <vector>
+
+#include "interaction/interaction.h"
+#include "itinerary/riepilogo.h"
+#include "itinerary/tappa.h"
+
+namespace cronovia {
+
+using RigheItinerario = std::vector<Tappa>;
+
+/// Number of the last row that holds a stage; 0 for an empty itinerary.
+int NumeroTappe(std::span<const Tappa> righe);
+
+/// What the entry fields hold.
+struct CampiTappa {
+    QString localita;
+    QString numStrada;
+    int km = 0;
+    std::optional<TipoStrada> tipo;
+    Durata sosta;
+    bool fineGiorno = false;
+};
+
+/// The fields as a row shows them: a free row proposes the road of the row above; a row without type counts as local.
+CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga);
+
+/// Progressive kilometres of the row above, 0 where it has none.
+std::int64_t KmPrecedenti(std::span<const Tappa> righe, const RiepilogoItinerario& riepilogo, int riga);
+
+/// From row 3 on, kilometres beyond `precedenti` are progressive ones, when those exceed 100: the difference counts.
+int KmDellaTappa(int km, std::int64_t precedenti, int riga);
+
+/// Why the fields cannot become row `riga`, in the order in which the person reads it; empty when they can.
+std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga);
+
+/// Writes a stage into a row, beyond the last row too.
+RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa& campi);
+
+/// Opens free rows before a row.
+RigheItinerario InserisciRigheItinerario(RigheItinerario righe, int riga, int numero);
+
+/// Takes a row away.
+RigheItinerario CancellaRiga(RigheItinerario righe, int riga);
+
+/// Takes all stops away, with the ends of days.
+RigheItinerario AzzeraSoste(RigheItinerario righe);
+
+}  // namespace cronovia
