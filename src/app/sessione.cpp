@@ -13,6 +13,19 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+Meta ConInizio(const QDateTime& inizio, const ParametriViaggio& parametri) {
+    Meta meta;
+    const QDate data = inizio.date();
+    meta.dataInizio = Data2Giul({data.day(), data.month(), data.year()});
+    meta.oraInizio = InCentesimi({0, inizio.time().hour(), inizio.time().minute()}, kGiornoOrologio);
+    meta.parametri = parametri;
+    return meta;
+}
+
+}  // namespace
+
 Sessione::Sessione(const QString& cartella) : archive_(Archive::Open(cartella)) {
     CaricaTipiGuida(archive_);
     CaricaDefaultMeta(archive_);
@@ -38,18 +51,18 @@ EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& o
     return CalcolaCronovia(meta, aperta.tappe, guida, progress);
 }
 
+Meta Sessione::MetaProposta(const QDateTime& adesso) {
+    return ConInizio(InizioProposto(adesso), CaricaDefaultMeta(archive_));
+}
+
 QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio) {
     const auto larghezza = Definizione(Tabella::MeteVandro).campi[mete::Nazione].larghezza;
     if (nazione.trimmed().size() > larghezza) {
         throw Failure(u"Il nome della nazione è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
     }
-    Meta meta;
+    Meta meta = ConInizio(inizio, CaricaDefaultMeta(archive_));
     meta.localita = localita.toUpper();
     meta.nazione = nazione.toUpper();
-    const QDate data = inizio.date();
-    meta.dataInizio = Data2Giul({data.day(), data.month(), data.year()});
-    meta.oraInizio = InCentesimi({0, inizio.time().hour(), inizio.time().minute()}, kGiornoOrologio);
-    meta.parametri = CaricaDefaultMeta(archive_);
     return InserisciMeta(archive_, meta);
 }
 

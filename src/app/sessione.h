@@ -40,6 +40,9 @@ class Sessione {
 
     EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress);
 
+    /// A trip to be filled in: the personal defaults, starting now.
+    Meta MetaProposta(const QDateTime& adesso);
+
     /// Saves a new trip with the personal defaults, which starts at `inizio`; returns its code.
     QString NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio);
 

@@ -1,0 +1,232 @@
+#include "app/scrivania.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "guide/guida_citta.h"
+#include "interaction/failure.h"
+#include "itinerary/itinerari.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+Scrivania::Scrivania(const QString& cartella, Volti volti) : volti_(std::move(volti)), sessione_(cartella) {
+    CaricaMetaCorrente();
+}
+
+StatoComandi Scrivania::Comandi() const {
+    const int tappe = NumeroTappe(righe_);
+    StatoComandi stato =
+        AbilitaPulsantiComando(modoComandi_, modoItinerario_, {inserimento_, cronovia_.has_value(), tappe});
+    if (inserimento_) {
+        stato.altriPacchetti = tappe < (appenaInserita_ ? 1 : 2);
+        for (const ComandoItinerario comando :
+             {ComandoItinerario::Ricalcola, ComandoItinerario::Ritorno, ComandoItinerario::Cancella}) {
+            const auto posto = static_cast<std::size_t>(comando);
+            stato.itinerario[posto] = stato.itinerario[posto] && tappe >= 2;
+        }
+    }
+    return stato;
+}
+
+std::optional<bool> Scrivania::KmProgressivi() const {
+    if (!inserimento_ || rigaCorrente_ <= 2) return std::nullopt;
+    return KmPrecedenti(righe_, riepilogo_, rigaCorrente_) > 100;
+}
+
+// Tells what went wrong.
+void Scrivania::Prova(const std::function<void()>& comando) {
+    try {
+        comando();
+    } catch (const Failure& failure) {
+        volti_.interazione.Show({failure.Message(), {}, Icon::Exclamation});
+    }
+}
+
+void Scrivania::SvuotaItinerario() {
+    righe_.clear();
+    cronovia_.reset();
+    rigaCorrente_ = 1;
+    modificato_ = false;
+    cronologia_.Azzera();
+    RicalcolaTempi();
+}
+
+// The trip that is current in the archive, with its itinerary; an empty desk when there is none.
+void Scrivania::CaricaMetaCorrente() {
+    codiceMetaCorrente_ = RicercaMetaCorrente(sessione_.Archivio());
+    elencoMete_.reset();
+    SvuotaItinerario();
+    if (codiceMetaCorrente_.isEmpty()) {
+        meta_ = sessione_.MetaProposta(volti_.adesso());
+        RicalcolaTempi();
+        ApplicaModo(u"NuImEs"_s);
+        return;
+    }
+    MetaAperta aperta = sessione_.ApriMeta(codiceMetaCorrente_);
+    meta_ = std::move(aperta.meta);
+    righe_ = std::move(aperta.tappe);
+    riepilogo_ = std::move(aperta.riepilogo);
+    ApplicaModo(u"All"_s);
+}
+
+void Scrivania::RicalcolaTempi() {
+    riepilogo_ = CalcolaKmTempiItinerario(righe_, meta_.parametri, meta_.giorniAdeguamento);
+    meta_.giorniAdeguamento = riepilogo_.giorniAdeguamento;
+}
+
+void Scrivania::ControllaOrari() { meta_.parametri = ControllaVariabiliConvertite(meta_.parametri).parametri; }
+
+void Scrivania::AggiornaOrari() { meta_.parametri = Aggiorna(meta_.parametri).parametri; }
+
+void Scrivania::Nuovo() {
+    Prova([&] {
+        Meta proposta = sessione_.MetaProposta(volti_.adesso());
+        elencoMete_.reset();
+        meta_ = std::move(proposta);
+        SvuotaItinerario();
+        ApplicaModo(codiceMetaCorrente_.isEmpty() ? u"NuSaEs"_s : u"NuSaEsRi"_s);
+    });
+}
+
+void Scrivania::Ricerca() {
+    Prova([&] {
+        std::vector<MetaInElenco> elenco = ElencoMete(sessione_.Archivio());
+        if (elenco.empty()) {
+            ApplicaModo(u"NuImEs"_s);
+            volti_.interazione.Show({u"Nessuna mèta nel database!"_s, u"Database vuoto"_s, Icon::Exclamation});
+            return;
+        }
+        ApplicaModo(u"NuEs"_s);
+        elencoMete_ = std::move(elenco);
+    });
+}
+
+void Scrivania::ScegliMeta(const QString& codice) {
+    Prova([&] {
+        sessione_.ApriMeta(codice);  // refused here when another window deleted it
+        SalvaIlCodiceMetaCorrente(sessione_.Archivio(), codice);
+        CaricaMetaCorrente();
+    });
+}
+
+void Scrivania::ChiudiElencoMete() {
+    elencoMete_.reset();
+    Prova([&] { CaricaMetaCorrente(); });
+}
+
+void Scrivania::Salva() {
+    Prova([&] {
+        AggiornaOrari();
+        const Salvataggio salvataggio = DecidiSalvataggio(sessione_.Archivio(), meta_);
+        if (!BoxConferma(volti_.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
+        SalvaMeta(sessione_.Archivio(), meta_, salvataggio);
+        CaricaMetaCorrente();
+        AggiornaOrari();
+    });
+}
+
+void Scrivania::CancMeta() {
+    Prova([&] {
+        CaricaMetaCorrente();
+        volti_.mostra();
+        if (!BoxConferma(volti_.interazione, u"A"_s)) return;
+        ApplicaModo(u"zz"_s);
+        CancellaMeta(sessione_.Archivio(), codiceMetaCorrente_, volti_.avanzamento);
+        CaricaMetaCorrente();
+    });
+}
+
+void Scrivania::CancItin() {
+    Prova([&] {
+        if (!BoxConferma(volti_.interazione, u"AI"_s)) return;
+        const Question sicuro{
+            u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più "
+            "recuperabile!"_s,
+            u"Annullamento itinerario"_s};
+        if (volti_.interazione.Ask(sicuro) != Answer::Yes) return;
+        MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, {}, meta_.parametri, volti_.avanzamento);
+        CaricaMetaCorrente();
+    });
+}
+
+void Scrivania::Default(const QString& verbo, const std::function<void()>& azione) {
+    Prova([&] {
+        const QString titolo = u"Dati di default"_s;
+        if (volti_.interazione.Ask({u"Vuoi %1 i dati di default?"_s.arg(verbo), titolo}) != Answer::Yes) return;
+        azione();
+        RicalcolaTempi();
+        volti_.mostra();
+        volti_.interazione.Show({u"Operazione eseguita!"_s, titolo, Icon::Information});
+    });
+}
+
+void Scrivania::SalvaDefault() {
+    Default(u"salvare"_s, [&] { MemorizzaVariabiliMeta(sessione_.Archivio(), meta_.parametri); });
+}
+
+void Scrivania::CaricaDefault() {
+    Default(u"caricare"_s, [&] { meta_.parametri = CaricaDefaultMeta(sessione_.Archivio()); });
+}
+
+void Scrivania::RipristinaDefault() {
+    Default(u"ripristinare"_s, [&] { meta_.parametri = CaricaDefaultMeta(sessione_.Archivio(), true); });
+}
+
+void Scrivania::NonDisponibile(const QString& funzione) {
+    volti_.interazione.Show({u"La funzione «%1» non è ancora disponibile."_s.arg(funzione), {}, Icon::Information});
+}
+
+void Scrivania::Calcola() {
+    if (!cronovia_) {
+        EseguiCalcolo();
+        return;
+    }
+    Ricomponi();
+    ApplicaModo(u"all"_s);
+}
+
+// The itinerary is on screen again, in the state from which it was computed.
+void Scrivania::Ricomponi() {
+    cronovia_.reset();
+    RicalcolaTempi();
+    inserimento_ = std::exchange(daInserimento_, false);
+    modoItinerario_ = inserimento_ ? u"all"_s : u"zz"_s;
+}
+
+void Scrivania::EseguiCalcolo() {
+    const QString modoPrima = std::exchange(modoComandi_, u"Es"_s);
+    calcoloInCorso_ = true;
+    volti_.mostra();
+    EsitoCalcolo esito;
+    Prova([&] {
+        AggiornaOrari();
+        esito = sessione_.Calcola({meta_, righe_, riepilogo_}, {}, volti_.avanzamento);
+    });
+    calcoloInCorso_ = false;
+    volti_.avanzamento.Advance(0, 0);
+    if (!esito.cronovia) {
+        Ricomponi();
+        ApplicaModo(modoPrima);
+        return;
+    }
+    cronovia_ = std::move(esito.cronovia);
+    ApplicaModo(u"CaSt"_s);
+    if (esito.messaggio.isEmpty()) return;
+    volti_.mostra();
+    volti_.interazione.Show({esito.messaggio, u"Calcolo cronovia"_s, Icon::Information});
+}
+
+bool Scrivania::PossoChiudere() {
+    if (calcoloInCorso_) return false;
+    if (!modificato_) return true;
+    const Answer risposta =
+        volti_.interazione.Ask({u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
+                                "Vuoi salvare le eventuali modifiche?"_s,
+                                u"Fine inserimento"_s, true});
+    if (risposta == Answer::Cancel) return false;
+    return risposta == Answer::No || MemorizzaTappe();
+}
+
+}  // namespace cronovia

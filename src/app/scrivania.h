@@ -1,0 +1,124 @@
+// The desk: all that the main window works on and every command of it, without a widget.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "app/cronologia.h"
+#include "app/modi_comandi.h"
+#include "app/sessione.h"
+#include "interaction/interaction.h"
+#include "trips/mete.h"
+
+namespace cronovia {
+
+/// A command changes the state, asks and tells through the interaction, and ends; the face then shows the state anew.
+/// What goes wrong is told, and the state stays as it was.
+class Scrivania {
+  public:
+    struct Volti {
+        Interaction& interazione;
+        Progress& avanzamento;
+        std::function<QDateTime()> adesso;
+        std::function<void()> mostra;  ///< shows the state in the middle of a command
+    };
+
+    /// Opens the archive of a data folder and the trip that was current last. A `Failure` when it cannot be opened.
+    Scrivania(const QString& cartella, Volti volti);
+
+    // The state.
+    [[nodiscard]] const Meta& MetaInCorso() const { return meta_; }
+    [[nodiscard]] const QString& CodiceMetaCorrente() const { return codiceMetaCorrente_; }
+    [[nodiscard]] const RigheItinerario& Righe() const { return righe_; }
+    [[nodiscard]] int RigaCorrente() const { return rigaCorrente_; }
+    [[nodiscard]] const RiepilogoItinerario& Riepilogo() const { return riepilogo_; }
+    [[nodiscard]] const std::optional<Cronovia>& CronoviaMostrata() const { return cronovia_; }
+    [[nodiscard]] bool InserimentoVisibile() const { return inserimento_; }
+    [[nodiscard]] bool ElencoTappeVisibile() const { return elencoTappe_; }
+    [[nodiscard]] const std::optional<std::vector<MetaInElenco>>& ElencoMeteMostrato() const { return elencoMete_; }
+    [[nodiscard]] bool Modificato() const { return modificato_; }
+    [[nodiscard]] bool CalcoloInCorso() const { return calcoloInCorso_; }
+    [[nodiscard]] const Cronologia& Modifiche() const { return cronologia_; }
+    [[nodiscard]] StatoComandi Comandi() const;
+    /// The entry fields of the current row, and whether progressive kilometres may be typed there; nothing: not shown.
+    [[nodiscard]] CampiTappa CampiCorrenti() const { return CampiDellaRiga(righe_, rigaCorrente_); }
+    [[nodiscard]] std::optional<bool> KmProgressivi() const;
+
+    // The trip's fields.
+    void ImpostaMeta(const Meta& meta) { meta_ = meta; }
+    /// After an hour of the timetable, and after a start date, was changed.
+    void ControllaOrari();
+    void AggiornaOrari();
+
+    // Commands of the trip screen.
+    void Nuovo();
+    void Ricerca();
+    void ScegliMeta(const QString& codice);
+    void ChiudiElencoMete();
+    void Salva();
+    void CancMeta();
+    void CancItin();
+    void SalvaDefault();
+    void CaricaDefault();
+    void RipristinaDefault();
+    /// Computes the schedule, or unlocks the one on screen.
+    void Calcola();
+    void NonDisponibile(const QString& funzione);
+
+    // Commands of the entry screen.
+    void Itinerario();
+    void SelezionaRiga(int riga);
+    /// What the kilometres field holds after the attempt; the row was written when it returns true.
+    bool Inserisce(CampiTappa& campi);
+    void Aggiunge();
+    void Cancella();
+    void AzzeraSoste();
+    void Cerca();
+    void ScegliTappa(int riga);
+    void Memorizza();
+    void Fine();
+    void Ricalcola();
+    void Annulla();
+    void Ripeti();
+
+    /// Asks before unsaved changes are lost; false when the person wants to stay.
+    bool PossoChiudere();
+
+  private:
+    void Prova(const std::function<void()>& comando);
+    void CaricaMetaCorrente();
+    void SvuotaItinerario();
+    void ApplicaModo(const QString& modo) { modoComandi_ = modo; }
+    void Ricomponi();
+    void RicalcolaTempi();
+    void Modifica(const QString& nome, RigheItinerario nuove, int riga);
+    void Mostra(const StatoItinerario& stato);
+    bool MemorizzaTappe();
+    void EsciDallInserimento();
+    void EseguiCalcolo();
+    void Default(const QString& verbo, const std::function<void()>& azione);
+
+    Volti volti_;
+    Sessione sessione_;
+    QString codiceMetaCorrente_;
+    Meta meta_;
+    RigheItinerario righe_;
+    RiepilogoItinerario riepilogo_;
+    int rigaCorrente_ = 1;
+    std::optional<Cronovia> cronovia_;
+    std::optional<std::vector<MetaInElenco>> elencoMete_;
+    Cronologia cronologia_;
+    QString modoComandi_ = QStringLiteral("ZZ");
+    QString modoItinerario_ = QStringLiteral("ZZ");
+    bool inserimento_ = false;
+    bool elencoTappe_ = false;
+    bool modificato_ = false;
+    bool appenaInserita_ = false;
+    bool daInserimento_ = false;  // the schedule was computed from the entry screen, to which unlocking leads back
+    bool calcoloInCorso_ = false;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,158 @@
+// The commands of the entry screen.
+#include <algorithm>
+#include <utility>
+
+#include "app/scrivania.h"
+#include "guide/guida_citta.h"
+#include "interaction/failure.h"
+#include "itinerary/itinerari.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+void Scrivania::Itinerario() {
+    cronovia_.reset();
+    inserimento_ = true;
+    ApplicaModo(u"zz"_s);
+    modoItinerario_ = u"all"_s;
+    SelezionaRiga(rigaCorrente_);
+}
+
+void Scrivania::SelezionaRiga(int riga) {
+    const int tappe = NumeroTappe(righe_);
+    rigaCorrente_ = std::max(1, riga > tappe ? tappe + 1 : riga);
+    appenaInserita_ = false;
+}
+
+// Takes over a changed itinerary: rows behind the last stage go, times and visits are computed afresh.
+void Scrivania::Mostra(const StatoItinerario& stato) {
+    righe_ = stato.righe;
+    righe_.resize(static_cast<std::size_t>(NumeroTappe(righe_)));
+    RicalcolaVisite(sessione_.Archivio(), righe_, meta_.parametri);
+    RicalcolaTempi();
+    modificato_ = true;
+    SelezionaRiga(stato.rigaCorrente);
+}
+
+void Scrivania::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
+    Prova([&] {
+        StatoItinerario prima{righe_, rigaCorrente_};
+        Mostra({std::move(nuove), riga});
+        cronologia_.Ricorda(nome, std::move(prima));
+    });
+}
+
+bool Scrivania::Inserisce(CampiTappa& campi) {
+    campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe_, riepilogo_, rigaCorrente_), rigaCorrente_);
+    const std::vector<Message> rifiuti = ControllaTappa(campi, rigaCorrente_);
+    for (const Message& rifiuto : rifiuti) volti_.interazione.Show(rifiuto);
+    if (!rifiuti.empty()) return false;
+    const bool nuova = rigaCorrente_ > static_cast<int>(righe_.size()) ||
+                       righe_[static_cast<std::size_t>(rigaCorrente_ - 1)].localita.isEmpty();
+    Modifica(nuova ? u"inserimento di %1"_s.arg(campi.localita) : u"modifica di %1"_s.arg(campi.localita),
+             InserisceTappa(righe_, rigaCorrente_, campi), rigaCorrente_ + 1);
+    appenaInserita_ = true;
+    return true;
+}
+
+void Scrivania::Aggiunge() {
+    Modifica(u"apertura di una riga"_s, InserisciRigheItinerario(righe_, rigaCorrente_, 1), rigaCorrente_);
+}
+
+void Scrivania::Cancella() {
+    Modifica(u"cancellazione di una riga"_s, CancellaRiga(righe_, rigaCorrente_), rigaCorrente_);
+}
+
+void Scrivania::AzzeraSoste() {
+    const Question domanda{
+        u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
+        "I tempi traghetto e riposi non sono influenzati e la\n"
+        "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
+        u"Azzera soste itinerario"_s};
+    if (volti_.interazione.Ask(domanda) != Answer::Yes) return;
+    Modifica(u"azzeramento delle soste"_s, cronovia::AzzeraSoste(righe_), rigaCorrente_);
+}
+
+void Scrivania::Cerca() {
+    elencoTappe_ = true;
+    modoItinerario_ = u"Fi"_s;
+}
+
+void Scrivania::ScegliTappa(int riga) {
+    elencoTappe_ = false;
+    modoItinerario_ = u"all"_s;
+    SelezionaRiga(riga);
+}
+
+bool Scrivania::MemorizzaTappe() {
+    bool memorizzate = false;
+    Prova([&] {
+        const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, righe_,
+                                                                   meta_.parametri, volti_.avanzamento);
+        memorizzate = true;
+        modificato_ = false;
+        if (esito.nomiAccorciati == 0) return;
+        volti_.interazione.Show({u"Località più lunghe di 29 caratteri, accorciate: %1."_s.arg(esito.nomiAccorciati),
+                                 {},
+                                 Icon::Exclamation});
+    });
+    return memorizzate;
+}
+
+void Scrivania::Memorizza() {
+    const QString titolo = u"Salvataggio itinerario"_s;
+    const Answer risposta = volti_.interazione.Ask({u"Vuoi salvare l'itinerario?"_s, titolo, true});
+    if (risposta == Answer::Cancel) return;
+    if (risposta == Answer::No &&
+        volti_.interazione.Ask({u"Vuoi recuperare l'itinerario originale?"_s, titolo}) != Answer::Yes) {
+        return;
+    }
+    if (risposta == Answer::Yes && !MemorizzaTappe()) return;
+    const int riga = risposta == Answer::Yes ? rigaCorrente_ : 1;
+    Prova([&] {
+        CaricaMetaCorrente();
+        ApplicaModo(u"ZZ"_s);
+        modoItinerario_ = u"all"_s;
+        SelezionaRiga(riga);
+    });
+}
+
+void Scrivania::Fine() {
+    if (elencoTappe_) {
+        elencoTappe_ = false;
+        modoItinerario_ = u"all"_s;
+        return;
+    }
+    const Answer risposta =
+        volti_.interazione.Ask({u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
+                                "Vuoi salvare le eventuali modifiche?"_s,
+                                u"Fine inserimento"_s, true});
+    if (risposta == Answer::Cancel) return;
+    if (risposta == Answer::Yes && !MemorizzaTappe()) return;
+    EsciDallInserimento();
+}
+
+void Scrivania::EsciDallInserimento() {
+    Prova([&] {
+        CaricaMetaCorrente();
+        inserimento_ = false;
+        modoItinerario_ = u"zz"_s;
+    });
+}
+
+void Scrivania::Ricalcola() {
+    inserimento_ = false;
+    daInserimento_ = true;
+    EseguiCalcolo();
+}
+
+void Scrivania::Annulla() {
+    if (const auto stato = cronologia_.Annulla({righe_, rigaCorrente_})) Prova([&] { Mostra(*stato); });
+}
+
+void Scrivania::Ripeti() {
+    if (const auto stato = cronologia_.Ripeti({righe_, rigaCorrente_})) Prova([&] { Mostra(*stato); });
+}
+
+}  // namespace cronovia
