@@ -25,7 +25,8 @@ const Verbo* TrovaVerbo(const QString& nome) {
 
 void ScriviAiuto(QTextStream& uscita) {
     uscita << u"Cronovia, l'orario dei viaggi in camper.\n\n"
-              "Uso: cronovia [--cartella DIR] VERBO [argomenti]\n\n"_s;
+              "Uso: cronovia [--cartella DIR]                     apre la finestra\n"
+              "     cronovia [--cartella DIR] VERBO [argomenti]   lavora da riga di comando\n\n"_s;
     TabellaTesti verbi{{QString(), QString()}, {}, {}};
     for (const Verbo& verbo : Verbi()) {
         verbi.righe.push_back({u"  "_s + verbo.nome + u' ' + verbo.argomenti, verbo.descrizione});
@@ -130,6 +131,13 @@ int Esegui(const QStringList& riga, QTextStream& uscita) {
 }
 
 }  // namespace
+
+std::optional<QString> CartellaDellaFinestra(const QStringList& riga) {
+    QCommandLineParser parser;
+    AggiungiOpzioniComuni(parser);
+    const bool soloCartella = parser.parse(riga) && parser.positionalArguments().isEmpty() && !parser.isSet(u"help"_s);
+    return soloCartella ? std::optional(parser.value(u"cartella"_s)) : std::nullopt;
+}
 
 int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori) {
     try {

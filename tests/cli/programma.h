@@ -26,6 +26,9 @@ class Programma {
         QProcess processo;
         QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
         ambiente.insert(QStringLiteral("LC_ALL"), locale);
+        for (const char* schermo : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            ambiente.remove(QString::fromLatin1(schermo));
+        }
         processo.setProcessEnvironment(ambiente);
         processo.start(QStringLiteral(CRONOVIA_PROGRAM), argomenti);
         if (!processo.waitForFinished(60'000) || processo.exitStatus() != QProcess::NormalExit) return {};

@@ -20,6 +20,14 @@ TEST(Uso, HelpAndVersionNeedNoFolder) {
     EXPECT_EQ(uscita({u"--help"_s, u"calcola"_s}), uscita({u"calcola"_s, u"--help"_s}));
 }
 
+TEST(Uso, TheWindowNeedsADisplay) {
+    const Programma programma;
+    const Risposta risposta = programma.Esegui({});
+    EXPECT_EQ(risposta.codice, 1);
+    EXPECT_EQ(risposta.errori,
+              u"La finestra non si può aprire: non c'è uno schermo. I verbi si usano anche senza: cronovia --help\n"_s);
+}
+
 TEST(Uso, WrongLinesAreRefusedBeforeAnythingIsMade) {
     struct Caso {
         QStringList argomenti;
@@ -39,7 +47,6 @@ TEST(Uso, WrongLinesAreRefusedBeforeAnythingIsMade) {
                     u"L'inizio «%1» non è una data con ora: scrivila come \"05/06/2027 08:30\"."_s.arg(valore)};
     };
     const std::vector<Caso> casi = {
-        {{}, u"Manca il verbo."_s},
         {{u"parti"_s}, u"Il verbo «parti» non esiste."_s},
         {{u"Elenca"_s}, u"Il verbo «Elenca» non esiste."_s},
         {{u"--boh"_s}, u"Opzione sconosciuta: «boh»."_s},

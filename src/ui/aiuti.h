@@ -1,0 +1,13 @@
+// The instructions behind the "[?]" buttons.
+#pragma once
+
+#include <QString>
+
+namespace cronovia {
+
+QString AiutoPeriodo();
+QString AiutoVelocita();
+QString AiutoTempi();
+QString AiutoInserimento();
+
+}  // namespace cronovia

@@ -1,0 +1,53 @@
+#include "ui/avvio.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTranslator>
+#include <cstdio>
+#include <cstdlib>
+
+#include "app/cartella_dati.h"
+#include "interaction/failure.h"
+#include "ui/form_mete.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Qt ends a program that finds no display; before it does, the person gets a sentence.
+void SenzaSchermo(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
+    if (type != QtFatalMsg) return;
+    std::fputs("La finestra non si può aprire: non c'è uno schermo. I verbi si usano anche senza: cronovia --help\n",
+               stderr);
+    std::_Exit(1);
+}
+
+}  // namespace
+
+int ApriFinestra(int argc, char* argv[], const QString& cartella) {
+    qInstallMessageHandler(SenzaSchermo);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
+    QCoreApplication::setApplicationName(u"Cronovia"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(CRONOVIA_VERSION));
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    QTranslator italiano;
+    if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&italiano);
+    }
+    try {
+        FormMete form(CartellaDati(LuoghiDellaPiattaforma(cartella)), &QDateTime::currentDateTime);
+        form.show();
+        return QApplication::exec();
+    } catch (const Failure& failure) {
+        std::fputs(qPrintable(failure.Message() + u'\n'), stderr);
+        QMessageBox::critical(nullptr, u"Cronovia"_s, failure.Message());
+        return 1;
+    }
+}
+
+}  // namespace cronovia

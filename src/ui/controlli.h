@@ -1,0 +1,49 @@
+// The kinds of controls that the frames are made of.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QString>
+#include <QStringList>
+
+class QLayout;
+
+namespace cronovia {
+
+/// A name for a control of an array: "cmbOra" and 3 are "cmbOra_3".
+QString NomeDiSerie(const QString& nome, int indice);
+
+/// Numbers from `da` to `a` as texts of so many digits.
+QStringList Numeri(int da, int a, int cifre, int passo = 1);
+
+/// The quarters of an hour: 00, 15, 30, 45.
+QStringList Quarti();
+
+/// A list to choose from; nothing can be typed.
+QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione);
+
+/// Shows a text in a list, as a further item when it has none of that text.
+void MostraVoce(QComboBox& elenco, const QString& testo);
+
+QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString& istruzione);
+
+/// A box that shows a result and takes no focus.
+QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione);
+
+QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione);
+
+/// A label that leads to its control by its mnemonic and names it.
+QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);
+
+/// The "[?]" button of a frame, which shows these instructions.
+QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QString& istruzioni);
+
+/// Little room between the controls of a frame, so that all frames fit beside each other in a small window.
+void StringiRiquadro(QLayout& layout);
+
+/// Wide enough for so many characters of the control's font.
+void LarghezzaPer(QWidget& controllo, int caratteri, int bordo);
+
+}  // namespace cronovia

@@ -1,0 +1,409 @@
+#include "ui/form_mete.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kRigheMinimeGriglia = 17;
+constexpr int kColonneLocalita = 31;
+
+QListWidget* NuovaLista(const QString& nome, const QString& descrizione) {
+    auto* lista = new QListWidget;
+    lista->setObjectName(nome);
+    lista->setAccessibleName(descrizione);
+    lista->setFrameShape(QFrame::StyledPanel);
+    lista->hide();
+    return lista;
+}
+
+}  // namespace
+
+FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
+    : aspetto_(QDir(cartella).filePath(u"Cronovia.ini"_s), QSettings::IniFormat),
+      avanzamento_(new Avanzamento),
+      interazione_(*this),
+      periodo_(new FrmMetePeriodo(adesso().date().year())),
+      velocita_(new FrmMeteVelocita),
+      tempi_(new FrmMeteTempi),
+      bottoni_(new FrmBottoni),
+      inserimento_(new FrmInputBox),
+      griglia_(new VistaGriglia),
+      cmbRicerca_(NuovaLista(u"cmbRicerca"_s, u"Mète memorizzate"_s)),
+      cmbRicercaTappa_(NuovaLista(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
+      annulla_(new QAction(this)),
+      ripeti_(new QAction(this)),
+      scrivania_(cartella, {interazione_, *avanzamento_, std::move(adesso), [this] { Mostra(); }}) {
+    setObjectName(u"formMete"_s);
+    setWindowTitle(u"Cronovia"_s);
+    Disponi();
+    CreaAzioni();
+    Collega();
+    RipristinaAspetto();
+    Mostra();
+}
+
+void FormMete::Disponi() {
+    auto* centro = new QWidget;
+    auto* layout = new QVBoxLayout(centro);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
+    layout->addWidget(CreaMete());
+    layout->addWidget(avanzamento_);
+    layout->addWidget(CreaGriglia(), 1);
+    layout->addWidget(bottoni_);
+    setCentralWidget(centro);
+}
+
+QWidget* FormMete::CreaMete() {
+    auto* riga = new QWidget;
+    auto* layout = new QHBoxLayout(riga);
+    layout->setContentsMargins({});
+    layout->setSpacing(3);
+    layout->addWidget(periodo_, 1);
+    layout->addWidget(velocita_);
+    layout->addWidget(tempi_);
+    return riga;
+}
+
+// The grid takes the room that is left; the lists lie over it, the entry frame beside it.
+QWidget* FormMete::CreaGriglia() {
+    auto* area = new QWidget;
+    auto* layout = new QGridLayout(area);
+    layout->setContentsMargins({});
+    layout->addWidget(griglia_, 0, 0);
+    layout->addWidget(cmbRicerca_, 0, 0, Qt::AlignLeft);
+    layout->addWidget(cmbRicercaTappa_, 0, 0, Qt::AlignLeft);
+    auto* scorrimento = new QScrollArea;
+    scorrimento->setWidget(inserimento_);
+    scorrimento->setWidgetResizable(true);
+    scorrimento->setFrameShape(QFrame::NoFrame);
+    scorrimento->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scorrimento->setMinimumWidth(inserimento_->minimumSizeHint().width() + 20);
+    scorrimento->setObjectName(u"areaInserimento"_s);
+    layout->addWidget(scorrimento, 0, 1);
+    layout->setColumnStretch(0, 1);
+    griglia_->setModel(&modello_);
+    cmbRicercaTappa_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    for (QListWidget* lista : {cmbRicerca_, cmbRicercaTappa_}) {
+        lista->setMinimumSize(340, 240);
+        lista->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    }
+    return area;
+}
+
+void FormMete::CreaAzioni() {
+    annulla_->setObjectName(u"annulla"_s);
+    annulla_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    ripeti_->setObjectName(u"ripeti"_s);
+    ripeti_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    connect(annulla_, &QAction::triggered, this, [this] { Esegui([this] { scrivania_.Annulla(); }); });
+    connect(ripeti_, &QAction::triggered, this, [this] { Esegui([this] { scrivania_.Ripeti(); }); });
+    addActions({annulla_, ripeti_});
+    inserimento_->addActions({annulla_, ripeti_});
+    griglia_->addActions({annulla_, ripeti_});
+    griglia_->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void FormMete::Collega() {
+    connect(periodo_, &FrmMetePeriodo::Cambiata, this, &FormMete::Raccogli);
+    connect(velocita_, &FrmMeteVelocita::Cambiata, this, &FormMete::Raccogli);
+    connect(periodo_, &FrmMetePeriodo::InizioCambiato, this,
+            [this] { Esegui([this] { scrivania_.AggiornaOrari(); }); });
+    connect(tempi_, &FrmMeteTempi::Cambiata, this, [this] { Esegui([this] { scrivania_.ControllaOrari(); }); });
+    connect(tempi_, &FrmMeteTempi::Default, this, [this](int comando) {
+        Esegui([this, comando] {
+            if (comando == 0) scrivania_.SalvaDefault();
+            if (comando == 1) scrivania_.CaricaDefault();
+            if (comando == 2) scrivania_.RipristinaDefault();
+        });
+    });
+    connect(bottoni_, &FrmBottoni::Premuto, this, [this](Comando comando) { EseguiComando(comando); });
+    connect(inserimento_, &FrmInputBox::Premuto, this, [this](ComandoItinerario c) { EseguiComando(c); });
+    connect(inserimento_, &FrmInputBox::AltriPacchetti, this,
+            [this] { Esegui([this] { scrivania_.NonDisponibile(u"Altri Pacch."_s); }); });
+    connect(griglia_, &VistaGriglia::Spostamento, this, [this](int righe) {
+        Esegui([this, righe] { scrivania_.SelezionaRiga(scrivania_.RigaCorrente() + righe); });
+        griglia_->setFocus();
+    });
+    connect(griglia_, &VistaGriglia::RigaScelta, this, [this](int riga) {
+        if (!scrivania_.InserimentoVisibile()) return;
+        Esegui([this, riga] { scrivania_.SelezionaRiga(riga + 1); });
+        inserimento_->FuocoSullaTappa();
+    });
+    connect(cmbRicerca_, &QListWidget::itemActivated, this, [this](QListWidgetItem* voce) {
+        Esegui([this, voce] { scrivania_.ScegliMeta(voce->data(Qt::UserRole).toString()); });
+    });
+    connect(cmbRicerca_, &QListWidget::itemClicked, cmbRicerca_, &QListWidget::itemActivated);
+    connect(cmbRicercaTappa_, &QListWidget::itemActivated, this, [this](QListWidgetItem* voce) {
+        Esegui([this, voce] { scrivania_.ScegliTappa(voce->data(Qt::UserRole).toInt()); });
+        inserimento_->FuocoSullaTappa();
+    });
+    connect(cmbRicercaTappa_, &QListWidget::itemClicked, cmbRicercaTappa_, &QListWidget::itemActivated);
+}
+
+// What the fields hold, taken over while the person types.
+void FormMete::Raccogli() {
+    if (mostrando_) return;
+    Meta meta = scrivania_.MetaInCorso();
+    periodo_->Leggi(meta);
+    velocita_->Leggi(meta.parametri);
+    tempi_->Leggi(meta.parametri);
+    scrivania_.ImpostaMeta(meta);
+}
+
+void FormMete::Esegui(const std::function<void()>& comando) {
+    if (mostrando_) return;
+    Raccogli();
+    comando();
+    Mostra();
+}
+
+void FormMete::EseguiComando(Comando comando) {
+    switch (comando) {
+        case Comando::Nuovo:
+            Esegui([this] { scrivania_.Nuovo(); });
+            periodo_->FuocoSullaLocalita();
+            return;
+        case Comando::Ricerca:
+            Esegui([this] { scrivania_.Ricerca(); });
+            cmbRicerca_->setFocus();
+            return;
+        case Comando::Salva:
+            return Esegui([this] { scrivania_.Salva(); });
+        case Comando::CancMeta:
+            return Esegui([this] { scrivania_.CancMeta(); });
+        case Comando::Calcola:
+            avanzamento_->NuovaOperazione();
+            return Esegui([this] { scrivania_.Calcola(); });
+        case Comando::Itinerario:
+            Esegui([this] { scrivania_.Itinerario(); });
+            inserimento_->FuocoSullaTappa();
+            return;
+        case Comando::CancItin:
+            return Esegui([this] { scrivania_.CancItin(); });
+        case Comando::Esce:
+            return Esci();
+        case Comando::Stampa:
+        case Comando::GuidaCitta:
+        case Comando::Import:
+        case Comando::Export:
+            return Esegui(
+                [this, comando] { scrivania_.NonDisponibile(bottoni_->Pulsante(comando).text().remove(u'&')); });
+    }
+}
+
+void FormMete::EseguiComando(ComandoItinerario comando) {
+    switch (comando) {
+        case ComandoItinerario::Inserisce:
+            return Inserisci();
+        case ComandoItinerario::Aggiunge:
+            Esegui([this] { scrivania_.Aggiunge(); });
+            break;
+        case ComandoItinerario::Cancella:
+            Esegui([this] { scrivania_.Cancella(); });
+            break;
+        case ComandoItinerario::AzzeraSoste:
+            return Esegui([this] { scrivania_.AzzeraSoste(); });
+        case ComandoItinerario::Cerca:
+            Esegui([this] { scrivania_.Cerca(); });
+            cmbRicercaTappa_->setFocus();
+            return;
+        case ComandoItinerario::Memorizza:
+            return Esegui([this] { scrivania_.Memorizza(); });
+        case ComandoItinerario::Fine:
+            return Esegui([this] { scrivania_.Fine(); });
+        case ComandoItinerario::Ricalcola:
+            avanzamento_->NuovaOperazione();
+            return Esegui([this] { scrivania_.Ricalcola(); });
+        case ComandoItinerario::Ritorno:
+        case ComandoItinerario::Duplica:
+        case ComandoItinerario::Trasferisce:
+            return Esegui(
+                [this, comando] { scrivania_.NonDisponibile(inserimento_->Pulsante(comando).text().remove(u'&')); });
+    }
+    inserimento_->FuocoSullaTappa();
+}
+
+// After a refusal the fields keep what was typed, but for the kilometres that became a difference.
+void FormMete::Inserisci() {
+    Raccogli();
+    CampiTappa campi = inserimento_->Campi();
+    const bool inserita = scrivania_.Inserisce(campi);
+    if (inserita) {
+        Mostra();
+    } else {
+        inserimento_->MostraKm(campi.km);
+    }
+    inserimento_->FuocoSullaTappa();
+}
+
+void FormMete::Esci() {
+    const QString titolo = u"Fine Lavoro"_s;
+    if (scrivania_.CalcoloInCorso()) {
+        if (interazione_.Ask({u"Vuoi interrompere l'elaborazione?"_s, titolo}) == Answer::Yes)
+            avanzamento_->ChiediStop();
+        return;
+    }
+    if (interazione_.Ask({u"Vuoi chiudere la procedura?"_s, titolo}) == Answer::Yes) close();
+}
+
+void FormMete::closeEvent(QCloseEvent* event) {
+    if (scrivania_.CalcoloInCorso()) {
+        Esci();
+        event->ignore();
+        return;
+    }
+    if (!scrivania_.PossoChiudere()) {
+        Mostra();
+        event->ignore();
+        return;
+    }
+    RicordaAspetto();
+    event->accept();
+}
+
+// Enter means the default button, Escape what leads back.
+void FormMete::keyPressEvent(QKeyEvent* event) {
+    const StatoComandi stato = scrivania_.Comandi();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto* conFuoco = qobject_cast<QPushButton*>(focusWidget());
+        QPushButton* normale = scrivania_.InserimentoVisibile() ? &inserimento_->Pulsante(ComandoItinerario::Fine)
+                                                                : &bottoni_->Pulsante(Comando::Esce);
+        (conFuoco != nullptr ? conFuoco : normale)->click();
+    } else if (event->key() == Qt::Key_Escape && scrivania_.ElencoMeteMostrato()) {
+        Esegui([this] { scrivania_.ChiudiElencoMete(); });
+    } else if (event->key() == Qt::Key_Escape && scrivania_.ElencoTappeVisibile()) {
+        Esegui([this] { scrivania_.Fine(); });
+    } else if (event->key() == Qt::Key_Escape && stato.escEsce) {
+        bottoni_->Pulsante(Comando::Esce).click();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+void FormMete::Mostra() {
+    mostrando_ = true;
+    const Meta& meta = scrivania_.MetaInCorso();
+    const StatoComandi stato = scrivania_.Comandi();
+    const auto& cronovia = scrivania_.CronoviaMostrata();
+    const RiepilogoItinerario& riepilogo = scrivania_.Riepilogo();
+    periodo_->Mostra(meta, riepilogo);
+    periodo_->MostraFine(cronovia ? TestiFine(*cronovia) : std::array<QString, 7>());
+    velocita_->Mostra(meta.parametri);
+    velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->guidaGiorno)
+                                     : Testi(riepilogo.totali, riepilogo.guidaGiorno));
+    tempi_->Mostra(meta.parametri);
+    const bool campiLiberi = !cronovia && !scrivania_.CalcoloInCorso() && !scrivania_.ElencoMeteMostrato();
+    for (QWidget* riquadro :
+         {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
+        riquadro->setEnabled(campiLiberi);
+    }
+    MostraGriglia();
+    MostraElenchi();
+    MostraInserimento(stato);
+    bottoni_->Applica(stato, cronovia.has_value());
+    MostraAzioni();
+    mostrando_ = false;
+}
+
+void FormMete::MostraGriglia() {
+    const auto& cronovia = scrivania_.CronoviaMostrata();
+    if (cronovia && !cronoviaInGriglia_) {
+        modello_.MostraCronovia(*cronovia);
+        DistendiGuida();
+    } else if (!cronovia) {
+        griglia_->clearSpans();
+        modello_.MostraItinerario(scrivania_.Righe(), scrivania_.Riepilogo(), kRigheMinimeGriglia);
+    }
+    cronoviaInGriglia_ = cronovia.has_value();
+    griglia_->ImpostaSelezione(!cronovia);
+    if (!cronovia) griglia_->SelezionaRiga(scrivania_.RigaCorrente() - 1);
+}
+
+// Guide entries have long texts and no road: theirs runs over the columns of the road.
+void FormMete::DistendiGuida() {
+    constexpr int kPrima = static_cast<int>(Colonna::Tappa);
+    constexpr int kColonneDistese = static_cast<int>(Colonna::Sosta) - kPrima;
+    griglia_->clearSpans();
+    for (int riga = 0; riga < modello_.rowCount(); ++riga) {
+        if (modello_.SegnoDellaRiga(riga) == Segno::Guida) griglia_->setSpan(riga, kPrima, 1, kColonneDistese);
+    }
+}
+
+void FormMete::MostraElenchi() {
+    const auto& mete = scrivania_.ElencoMeteMostrato();
+    if (mete && !cmbRicerca_->isVisible()) {
+        cmbRicerca_->clear();
+        for (const MetaInElenco& meta : *mete) {
+            auto* voce = new QListWidgetItem(meta.localita, cmbRicerca_);
+            voce->setData(Qt::UserRole, meta.codice);
+            if (meta.codice == scrivania_.CodiceMetaCorrente()) cmbRicerca_->setCurrentItem(voce);
+        }
+    }
+    cmbRicerca_->setVisible(mete.has_value());
+    const bool tappe = scrivania_.ElencoTappeVisibile();
+    if (tappe && !cmbRicercaTappa_->isVisible()) {
+        cmbRicercaTappa_->clear();
+        for (std::size_t i = 0; i < scrivania_.Righe().size(); ++i) {
+            const QString& localita = scrivania_.Righe()[i].localita;
+            if (localita.isEmpty()) continue;
+            const auto riga = static_cast<int>(i) + 1;
+            auto* voce =
+                new QListWidgetItem(AggStr(localita, kColonneLocalita, u' ') + Zero(riga, 4), cmbRicercaTappa_);
+            voce->setData(Qt::UserRole, riga);
+            if (riga == scrivania_.RigaCorrente()) cmbRicercaTappa_->setCurrentItem(voce);
+        }
+    }
+    cmbRicercaTappa_->setVisible(tappe);
+    griglia_->setEnabled(!tappe && !mete && !scrivania_.CalcoloInCorso());
+}
+
+void FormMete::MostraInserimento(const StatoComandi& stato) {
+    const bool visibile = scrivania_.InserimentoVisibile();
+    findChild<QWidget*>(u"areaInserimento"_s)->setVisible(visibile);
+    inserimento_->Applica(stato);
+    if (!visibile) return;
+    inserimento_->Mostra(scrivania_.RigaCorrente(), scrivania_.CampiCorrenti());
+    inserimento_->MostraKmProgressivi(scrivania_.KmProgressivi());
+}
+
+void FormMete::MostraAzioni() {
+    const Cronologia& modifiche = scrivania_.Modifiche();
+    const bool possibile = scrivania_.InserimentoVisibile() && !scrivania_.ElencoTappeVisibile();
+    const auto mostra = [&](QAction& azione, const QString& verbo, const std::optional<QString>& nome) {
+        azione.setEnabled(possibile && nome.has_value());
+        azione.setText(nome ? verbo + u' ' + *nome : verbo);
+    };
+    mostra(*annulla_, u"Annulla"_s, modifiche.DaAnnullare());
+    mostra(*ripeti_, u"Ripeti"_s, modifiche.DaRipetere());
+}
+
+void FormMete::RipristinaAspetto() {
+    resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
+    restoreGeometry(aspetto_.value(u"finestra"_s).toByteArray());
+    griglia_->RipristinaLarghezze(aspetto_.value(u"colonne"_s).toByteArray());
+}
+
+void FormMete::RicordaAspetto() {
+    aspetto_.setValue(u"finestra"_s, saveGeometry());
+    aspetto_.setValue(u"colonne"_s, griglia_->Larghezze());
+}
+
+}  // namespace cronovia

@@ -1,0 +1,78 @@
+// The main window: places the frames and passes their wishes on to the desk.
+#pragma once
+
+#include <QListWidget>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QSettings>
+#include <functional>
+
+#include "app/scrivania.h"
+#include "ui/avanzamento.h"
+#include "ui/frm_bottoni.h"
+#include "ui/frm_input_box.h"
+#include "ui/frm_mete_periodo.h"
+#include "ui/frm_mete_tempi.h"
+#include "ui/frm_mete_velocita.h"
+#include "ui/interazione_finestra.h"
+#include "ui/modello_griglia.h"
+#include "ui/vista_griglia.h"
+
+class QAction;
+class QGridLayout;
+
+namespace cronovia {
+
+class FormMete : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    /// Opens the archive of a data folder; a `Failure` when that cannot be done.
+    FormMete(const QString& cartella, std::function<QDateTime()> adesso);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void Disponi();
+    QWidget* CreaMete();
+    QWidget* CreaGriglia();
+    void CreaAzioni();
+    void Collega();
+    void Raccogli();
+    /// Runs a command on what the fields hold, then shows the state anew.
+    void Esegui(const std::function<void()>& comando);
+    void Mostra();
+    void MostraGriglia();
+    void DistendiGuida();
+    void MostraElenchi();
+    void MostraInserimento(const StatoComandi& stato);
+    void MostraAzioni();
+    void EseguiComando(Comando comando);
+    void EseguiComando(ComandoItinerario comando);
+    void Inserisci();
+    void Esci();
+    void RipristinaAspetto();
+    void RicordaAspetto();
+
+    QSettings aspetto_;
+    Avanzamento* avanzamento_;
+    InterazioneFinestra interazione_;
+    FrmMetePeriodo* periodo_;
+    FrmMeteVelocita* velocita_;
+    FrmMeteTempi* tempi_;
+    FrmBottoni* bottoni_;
+    FrmInputBox* inserimento_;
+    VistaGriglia* griglia_;
+    ModelloGriglia modello_;
+    QListWidget* cmbRicerca_;
+    QListWidget* cmbRicercaTappa_;
+    QAction* annulla_;
+    QAction* ripeti_;
+    Scrivania scrivania_;
+    bool mostrando_ = false;
+    bool cronoviaInGriglia_ = false;
+};
+
+}  // namespace cronovia

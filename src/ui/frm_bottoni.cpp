@@ -1,0 +1,66 @@
+#include "ui/frm_bottoni.h"
+
+#include <QHBoxLayout>
+
+#include "ui/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct TestiPulsante {
+    const char16_t* nome;
+    const char16_t* scritta;
+    const char16_t* istruzione;
+};
+
+constexpr std::array<TestiPulsante, kComandi> kTesti = {{
+    {u"cmdNuovo", u"&Nuovo", u"Inserisce una nuova mèta"},
+    {u"cmdRicerca", u"Ricerca mè&ta", u"Cerca una mèta tra quelle memorizzate"},
+    {u"cmdSalva", u"Sal&va", u"Salva i dati della mèta"},
+    {u"cmdCancMeta", u"Canc.&mèta", u"Cancella la mèta con il suo itinerario"},
+    {u"cmdCalcola", u"&Calcola", u"Calcola la cronovia del viaggio"},
+    {u"cmdStampa", u"&Stampa", u"Stampa la cronovia"},
+    {u"cmdItinerario", u"&Itinerario", u"Inserisce o modifica le tappe dell'itinerario"},
+    {u"cmdGuidaCitta", u"&Guida città", u"Inserisce o modifica la guida delle città"},
+    {u"cmdCancItin", u"C&anc.Itin.", u"Cancella tutto l'itinerario della mèta"},
+    {u"cmdEsce", u"&Esce", u"Esce dal form"},
+    {u"cmdImport", u"Im&port", u"Importa mète da un file di scambio"},
+    {u"cmdExport", u"E&xport", u"Esporta mète su un file di scambio"},
+}};
+
+// The order on screen: the trip, its itinerary, the schedule, files, the end.
+constexpr std::array<Comando, kComandi> kDisposizione = {
+    Comando::Nuovo,      Comando::Ricerca, Comando::Salva,  Comando::CancMeta, Comando::Itinerario, Comando::CancItin,
+    Comando::GuidaCitta, Comando::Calcola, Comando::Stampa, Comando::Import,   Comando::Export,     Comando::Esce};
+
+}  // namespace
+
+FrmBottoni::FrmBottoni(QWidget* parent) : QFrame(parent) {
+    setObjectName(u"frmBottoni"_s);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(3);
+    for (const Comando comando : kDisposizione) {
+        const TestiPulsante& testi = kTesti[static_cast<std::size_t>(comando)];
+        QPushButton* pulsante = NuovoPulsante(QString::fromUtf16(testi.nome), QString::fromUtf16(testi.scritta),
+                                              QString::fromUtf16(testi.istruzione));
+        // All alike, and together no wider than a small window.
+        pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
+        pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
+        pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
+        layout->addWidget(pulsante);
+    }
+}
+
+void FrmBottoni::Applica(const StatoComandi& stato, bool daSbloccare) {
+    for (std::size_t i = 0; i < kComandi; ++i) pulsanti_[i]->setEnabled(stato.comandi[i]);
+    Pulsante(Comando::Calcola).setText(daSbloccare ? u"&Sblocca"_s : u"&Calcola"_s);
+    Pulsante(Comando::Esce).setText(stato.stop ? u"&Stop"_s : u"&Esce"_s);
+    Pulsante(Comando::Esce).setToolTip(stato.escEsce ? u"Esce dal form (Esc attivo)"_s : u"Esce dal form"_s);
+}
+
+}  // namespace cronovia

@@ -1,0 +1,49 @@
+// Destination, start and end of the trip.
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <array>
+
+#include "itinerary/riepilogo.h"
+#include "trips/meta.h"
+
+class QGridLayout;
+
+namespace cronovia {
+
+class FrmMetePeriodo : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    explicit FrmMetePeriodo(int annoCorrente, QWidget* parent = nullptr);
+
+    void Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo);
+    void MostraFine(const std::array<QString, 7>& fine);
+    void Leggi(Meta& meta) const;
+    void FuocoSullaLocalita();
+
+  Q_SIGNALS:
+    void Cambiata();
+    void InizioCambiato();
+
+  private:
+    void CreaMeta(QGridLayout& layout);
+    void CreaInizio(QGridLayout& griglia, int annoCorrente);
+    void CreaFine(QGridLayout& griglia);
+    void CreaCalcolo(QGridLayout& griglia);
+    void ImpostaGiorniMeseInizio();
+    void MettiGiornoSett();
+
+    QLineEdit* txtCodice_;
+    QLineEdit* txtLocalita_;
+    QLineEdit* txtNazione_;
+    std::array<QComboBox*, 5> cmbInizio_{};
+    QLineEdit* txtInizioGSett_;
+    std::array<QLineEdit*, 7> txtFine_{};
+    QComboBox* cmbGiorni_;
+    QComboBox* cmbSoste_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,45 @@
+// The day's timetable, the rests, and the personal defaults.
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <array>
+
+#include "trips/meta.h"
+
+class QGridLayout;
+
+namespace cronovia {
+
+class FrmMeteTempi : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    static constexpr std::size_t kOrari = 9;
+
+    explicit FrmMeteTempi(QWidget* parent = nullptr);
+
+    void Mostra(const ParametriViaggio& parametri);
+    void Leggi(ParametriViaggio& parametri) const;
+
+  Q_SIGNALS:
+    void Cambiata();
+    /// One of the personal-default commands: 0 save, 1 load, 2 reset.
+    void Default(int comando);
+
+  private:
+    void AggiungiOrario(QGridLayout& layout, std::size_t orario, int riga, int colonna, const QString& etichetta);
+    void CreaRiposi(QGridLayout& layout);
+    QComboBox* CreaRiposo(const QString& nome, const QStringList& voci, const QString& istruzione);
+    void CreaDefault(QGridLayout& layout);
+
+    std::array<QComboBox*, kOrari> cmbOra_{};
+    std::array<QComboBox*, kOrari> cmbMin_{};
+    QComboBox* cmbRipM_;
+    QComboBox* cmbRipH_;
+    QComboBox* cmbRipG_;
+    QComboBox* cmbRipGG_;
+};
+
+}  // namespace cronovia

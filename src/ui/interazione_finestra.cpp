@@ -1,0 +1,50 @@
+#include "ui/interazione_finestra.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+
+namespace cronovia {
+
+namespace {
+
+QString Titolo(const QString& titolo) { return titolo.isEmpty() ? QCoreApplication::applicationName() : titolo; }
+
+QMessageBox::Icon Icona(Icon icon) {
+    switch (icon) {
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+void InterazioneFinestra::Show(const Message& message) {
+    QMessageBox box(Icona(message.icon), Titolo(message.title), message.text, QMessageBox::Ok, &finestra_);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+Answer InterazioneFinestra::Ask(const Question& question) {
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    if (question.cancellable) buttons |= QMessageBox::Cancel;
+    QMessageBox box(QMessageBox::Question, Titolo(question.title), question.text, buttons, &finestra_);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    // Closing the box by its frame leaves everything as it is.
+    box.setEscapeButton(question.cancellable ? QMessageBox::Cancel : QMessageBox::No);
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::No;
+    }
+}
+
+}  // namespace cronovia

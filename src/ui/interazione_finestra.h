@@ -1,0 +1,21 @@
+// Questions and messages as boxes over the window.
+#pragma once
+
+#include <QWidget>
+
+#include "interaction/interaction.h"
+
+namespace cronovia {
+
+class InterazioneFinestra : public Interaction {
+  public:
+    explicit InterazioneFinestra(QWidget& finestra) : finestra_(finestra) {}
+
+    void Show(const Message& message) override;
+    Answer Ask(const Question& question) override;
+
+  private:
+    QWidget& finestra_;
+};
+
+}  // namespace cronovia

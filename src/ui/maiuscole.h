@@ -1,0 +1,10 @@
+// Boxes in which every typed letter becomes a capital.
+#pragma once
+
+class QLineEdit;
+
+namespace cronovia {
+
+void ScriviMaiuscolo(QLineEdit& casella);
+
+}  // namespace cronovia

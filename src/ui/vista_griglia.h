@@ -1,0 +1,38 @@
+// The main grid.
+#pragma once
+
+#include <QTableView>
+
+namespace cronovia {
+
+class VistaGriglia : public QTableView {
+    Q_OBJECT
+
+  public:
+    explicit VistaGriglia(QWidget* parent = nullptr);
+
+    /// While stages are entered the arrow and page keys move the current stage; else they move through the rows.
+    void ImpostaSelezione(bool diTappe) { diTappe_ = diTappe; }
+    void SelezionaRiga(int riga);
+
+    [[nodiscard]] QByteArray Larghezze() const;
+    void RipristinaLarghezze(const QByteArray& larghezze);
+
+  Q_SIGNALS:
+    /// The person wants to be so many rows further down.
+    void Spostamento(int righe);
+    void RigaScelta(int riga);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void AdattaLarghezze();
+
+    bool diTappe_ = false;
+    bool larghezzeProprie_ = false;  // the person chose them
+    bool inAdattamento_ = false;
+};
+
+}  // namespace cronovia
