@@ -46,8 +46,6 @@ QString RigaDellaGuida(const RigaGriglia& riga, int rientro) {
            (tempo.isEmpty() ? QString() : u", "_s + tempo) + u')';
 }
 
-bool ConData(const RigaCronovia& riga) { return riga.genere == GenereRiga::Tratto || riga.genere == GenereRiga::Sosta; }
-
 void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, const std::vector<RigaGriglia>& righe,
                   QTextStream& uscita) {
     const TabellaTesti tabella = ColonneDelGiorno(righe, cronovia);
@@ -56,7 +54,7 @@ void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, const std::vector<
     NumeroGiorno giorno = partenza - 1;
     for (std::size_t i = 0; i < cronovia.righe.size(); ++i) {
         const RigaCronovia& riga = cronovia.righe[i];
-        const NumeroGiorno suo = ConData(riga) ? riga.data : std::max(giorno, partenza);
+        const NumeroGiorno suo = ConMomento(riga.genere) ? riga.data : std::max(giorno, partenza);
         if (suo != giorno) {
             uscita << u"\nGiorno %1, %2 %3\n"_s.arg(QString::number(suo - partenza + 1), GiornoSettimana(suo),
                                                     TestoData(suo));

@@ -20,6 +20,9 @@ enum class GenereRiga : std::uint8_t {
     Guida,   ///< an entry of the city guide
 };
 
+/// Whether rows of this kind have a day and an hour.
+constexpr bool ConMomento(GenereRiga genere) { return genere == GenereRiga::Tratto || genere == GenereRiga::Sosta; }
+
 /// What happens at the end of a driving piece, in the order in which it happens.
 struct Eventi {
     bool pranzo : 1 = false;

@@ -161,7 +161,7 @@ class Simulazione {
     // A dinner or several rests ended well past the night hour: the night is taken there, before driving on.
     void NotteTardiva() {
         const auto ultima = std::find_if(passata_.righe.rbegin(), passata_.righe.rend(),
-                                         [](const RigaCronovia& riga) { return riga.genere != GenereRiga::Guida; });
+                                         [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
         if (ultima != passata_.righe.rend()) ultima->eventi.notteTardiva = true;
         Notte();
     }
@@ -175,7 +175,7 @@ class Simulazione {
         const float volte = std::floor((orologio_.ora - orologio_.inizioGuida).Valore() / OreDiGuida().Valore());
         orologio_.ora += convertiti_.riposo * volte;
         orologio_.inizioGuida += OreDiGuida() * volte;
-        return true;
+        return volte > 0;
     }
 
     bool Sosta(int indice) {

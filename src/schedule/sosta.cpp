@@ -1,11 +1,21 @@
 #include "schedule/sosta.h"
 
+#include <algorithm>
+
 namespace cronovia {
 
 namespace {
 
 // This close to the end of the visiting hours, the day's visits are over.
 constexpr Centesimi kFineVisiteVicina = 2_cent;
+
+// No stop is scaled beyond this: a stop behind the last piece of road does not count for the trip's days, so that the
+// passes would stretch it again and again.
+constexpr float kMassimoGiorni = 999;
+
+Centesimi Scalata(const RichiestaSosta& richiesta, Centesimi giorno) {
+    return std::min(InCentesimi(richiesta.sosta, giorno) * richiesta.fattore, giorno * kMassimoGiorni);
+}
 
 void DistribuisciSuiGiorni(Centesimi resto, const ParametriViaggio& p, Orologio& orologio) {
     while (resto > 0_cent) {
@@ -43,7 +53,7 @@ void Orologio::NuovoGiorno(Centesimi ripresa) {
 EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const ParametriConvertiti& convertiti,
                           const Orologio& inizio) {
     const ParametriViaggio& p = convertiti.parametri;
-    const Centesimi scalata = InCentesimi(richiesta.sosta, convertiti.visitaGiorno) * richiesta.fattore;
+    const Centesimi scalata = Scalata(richiesta, convertiti.visitaGiorno);
     EsitoSosta esito{inizio, Motivo::Nessuno, richiesta.sosta};
     if (scalata == 0_cent && !richiesta.traghetto) return esito;
 

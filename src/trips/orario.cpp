@@ -45,11 +45,10 @@ void LimitaOrari(ParametriViaggio& p) {
     LimitaVisite(p);
 }
 
-// The value that an hour has once it went back to its lists of hours and minutes.
+// The value that an hour has once it went back to its lists of hours and minutes, where 24 is the last hour.
 Centesimi NelleListe(Centesimi orario) {
-    if (orario == kGiornoOrologio) return orario;
     Durata durata = InDurata(orario, kGiornoOrologio);
-    durata.giorni = 0;
+    if (durata.giorni != 1 || durata.ore != 0) durata.giorni = 0;
     return InCentesimi(durata, kGiornoOrologio);
 }
 

@@ -133,6 +133,15 @@ TEST_F(CalcolaCronoviaTest, AnEmptyItineraryHasAnEmptySchedule) {
     EXPECT_TRUE(esito.cronovia->righe.empty());
 }
 
+TEST_F(CalcolaCronoviaTest, EndsAlthoughAStopBehindTheLastPieceIsStretchedAgainAndAgain) {
+    Aggiungi(0);
+    Aggiungi(140, {0, 4, 0});
+    meta_.giorniAdeguamento = 997;
+    const EsitoCalcolo esito = Calcola();
+    EXPECT_EQ(esito.tentativi, 11);
+    EXPECT_LE(esito.cronovia->righe.back().data - *meta_.dataInizio, 1000);
+}
+
 TEST_F(CalcolaCronoviaTest, StopsOfAHundredDaysCountInFull) {
     Aggiungi(100, {150, 0, 0});
     Aggiungi(100);

@@ -82,6 +82,34 @@ TEST(Simulazione, TakesTheNightThatADinnerRanPast) {
     EXPECT_EQ(RigheBrevi(viaggio), QStringList({u"Sab 01 18:45 verso: A 175 Cena Notte"_s, u"Dom 02 09:15 A 125"_s}));
 }
 
+TEST(Simulazione, MarksALateNightAtTheLastRowWithAnHour) {
+    Viaggio viaggio;
+    viaggio.oraInizio = 1700_cent;
+    viaggio.parametri.oraCena = 1875_cent;
+    viaggio.parametri.durataCena = 275_cent;
+    viaggio.parametri.oraNotte = 2000_cent;
+    viaggio.Tappa("A", 175).Tappa("B", 0).Tappa("C", 100);
+    EXPECT_EQ(RigheBrevi(viaggio), QStringList({u"Sab 01 18:45 A 175 Cena Notte"_s, u"B"_s, u"Dom 02 09:00 C 100"_s}));
+}
+
+TEST(Simulazione, NotesNoRestThatIsNotTaken) {
+    // Fractions of scaled stops bring the clock within a hair of the hour at which a rest is due.
+    for (int i = 0; i < 2000; ++i) {
+        Viaggio viaggio;
+        viaggio.parametri.riposoOre = 1;
+        viaggio.parametri.riposoMinuti = 15;
+        viaggio.parametri.durataCena = 50_cent;
+        viaggio.Tappa("A", 55, {0, 2, 45}).Tappa("B", 637);
+        const Passata passata = viaggio.Simula(0.5F + static_cast<float>(i) / 1000.0F);
+        for (std::size_t r = 1; r < passata.righe.size(); ++r) {
+            const RigaCronovia& prima = passata.righe[r - 1];
+            const RigaCronovia& dopo = passata.righe[r];
+            if (!prima.eventi.riposo || dopo.data != prima.data || dopo.genere != GenereRiga::Tratto) continue;
+            ASSERT_GT((dopo.ora - prima.ora - dopo.tempo).Valore(), 20.0F) << "factor " << i;
+        }
+    }
+}
+
 TEST(Simulazione, TakesWholeRestDaysAndMarksTheRowBefore) {
     Viaggio viaggio;
     viaggio.parametri.riposoGiorno = 1;

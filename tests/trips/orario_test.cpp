@@ -84,7 +84,9 @@ TEST(Orario, LimitsOfTheSingleHours) {
         {"night after 24", u"0900 1230+0230 2000+0145 2500 0900-1800 0600"_s,
          u"0900 1230+0230 2000+0145 2400 0900-1800 0600"_s},
         {"a ferry without time", u"0900 1230+0230 2000+0145 2230 0900-1800 0000"_s,
-         u"0900 1230+0230 2000+0145 2230 0900-1800 0100"_s}};
+         u"0900 1230+0230 2000+0145 2230 0900-1800 0100"_s},
+        {"the longest ferry of the lists", u"0900 1230+0230 2000+0145 2230 0900-1800 2445"_s,
+         u"0900 1230+0230 2000+0145 2230 0900-1800 2445"_s}};
     for (const Caso& caso : casi) {
         EXPECT_EQ(Aggiorna(Orari(caso.prima)).parametri, Orari(caso.dopo)) << caso.regola;
     }
