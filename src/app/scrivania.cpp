@@ -35,40 +35,36 @@ std::optional<bool> Scrivania::KmProgressivi() const {
     return KmPrecedenti(righe_, riepilogo_, rigaCorrente_) > 100;
 }
 
-// Tells what went wrong.
-void Scrivania::Prova(const std::function<void()>& comando) {
+// Tells what went wrong; false then.
+bool Scrivania::Prova(const std::function<void()>& comando) {
     try {
         comando();
+        return true;
     } catch (const Failure& failure) {
         volti_.interazione.Show({failure.Message(), {}, Icon::Exclamation});
+        return false;
     }
 }
 
-void Scrivania::SvuotaItinerario() {
-    righe_.clear();
+void Scrivania::MettiSulTavolo(MetaAperta aperta) {
+    meta_ = std::move(aperta.meta);
+    righe_ = std::move(aperta.tappe);
     cronovia_.reset();
+    elencoMete_.reset();
     rigaCorrente_ = 1;
     modificato_ = false;
     cronologia_.Azzera();
     RicalcolaTempi();
 }
 
-// The trip that is current in the archive, with its itinerary; an empty desk when there is none.
+// The trip that is current in the archive, with its itinerary; an empty desk when there is none. All is read before
+// anything is replaced: what is on screen may exist nowhere else.
 void Scrivania::CaricaMetaCorrente() {
-    codiceMetaCorrente_ = RicercaMetaCorrente(sessione_.Archivio());
-    elencoMete_.reset();
-    SvuotaItinerario();
-    if (codiceMetaCorrente_.isEmpty()) {
-        meta_ = sessione_.MetaProposta(volti_.adesso());
-        RicalcolaTempi();
-        ApplicaModo(u"NuImEs"_s);
-        return;
-    }
-    MetaAperta aperta = sessione_.ApriMeta(codiceMetaCorrente_);
-    meta_ = std::move(aperta.meta);
-    righe_ = std::move(aperta.tappe);
-    riepilogo_ = std::move(aperta.riepilogo);
-    ApplicaModo(u"All"_s);
+    const QString codice = RicercaMetaCorrente(sessione_.Archivio());
+    MettiSulTavolo(codice.isEmpty() ? MetaAperta{sessione_.MetaProposta(volti_.adesso()), {}, {}}
+                                    : sessione_.ApriMeta(codice));
+    codiceMetaCorrente_ = codice;
+    ApplicaModo(codice.isEmpty() ? u"NuImEs"_s : u"All"_s);
 }
 
 void Scrivania::RicalcolaTempi() {
@@ -82,10 +78,7 @@ void Scrivania::AggiornaOrari() { meta_.parametri = Aggiorna(meta_.parametri).pa
 
 void Scrivania::Nuovo() {
     Prova([&] {
-        Meta proposta = sessione_.MetaProposta(volti_.adesso());
-        elencoMete_.reset();
-        meta_ = std::move(proposta);
-        SvuotaItinerario();
+        MettiSulTavolo({sessione_.MetaProposta(volti_.adesso()), {}, {}});
         ApplicaModo(codiceMetaCorrente_.isEmpty() ? u"NuSaEs"_s : u"NuSaEsRi"_s);
     });
 }
@@ -112,7 +105,6 @@ void Scrivania::ScegliMeta(const QString& codice) {
 }
 
 void Scrivania::ChiudiElencoMete() {
-    elencoMete_.reset();
     Prova([&] { CaricaMetaCorrente(); });
 }
 
@@ -131,10 +123,14 @@ void Scrivania::CancMeta() {
     Prova([&] {
         CaricaMetaCorrente();
         volti_.mostra();
-        if (!BoxConferma(volti_.interazione, u"A"_s)) return;
+        if (codiceMetaCorrente_.isEmpty() || !BoxConferma(volti_.interazione, u"A"_s)) return;
         ApplicaModo(u"zz"_s);
-        CancellaMeta(sessione_.Archivio(), codiceMetaCorrente_, volti_.avanzamento);
-        CaricaMetaCorrente();
+        volti_.mostra();
+        const bool cancellata = Prova([&] {
+            CancellaMeta(sessione_.Archivio(), codiceMetaCorrente_, volti_.avanzamento);
+            CaricaMetaCorrente();
+        });
+        if (!cancellata) ApplicaModo(u"All"_s);
     });
 }
 

@@ -88,14 +88,14 @@ class Scrivania {
     bool PossoChiudere();
 
   private:
-    void Prova(const std::function<void()>& comando);
+    bool Prova(const std::function<void()>& comando);
     void CaricaMetaCorrente();
-    void SvuotaItinerario();
+    void MettiSulTavolo(MetaAperta aperta);
     void ApplicaModo(const QString& modo) { modoComandi_ = modo; }
     void Ricomponi();
     void RicalcolaTempi();
-    void Modifica(const QString& nome, RigheItinerario nuove, int riga);
-    void Mostra(const StatoItinerario& stato);
+    bool Modifica(const QString& nome, RigheItinerario nuove, int riga);
+    void Mostra(StatoItinerario stato);
     bool MemorizzaTappe();
     void EsciDallInserimento();
     void EseguiCalcolo();

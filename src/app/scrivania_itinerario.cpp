@@ -25,18 +25,23 @@ void Scrivania::SelezionaRiga(int riga) {
     appenaInserita_ = false;
 }
 
-// Takes over a changed itinerary: rows behind the last stage go, times and visits are computed afresh.
-void Scrivania::Mostra(const StatoItinerario& stato) {
-    righe_ = stato.righe;
-    righe_.resize(static_cast<std::size_t>(NumeroTappe(righe_)));
-    RicalcolaVisite(sessione_.Archivio(), righe_, meta_.parametri);
+// Takes over a changed itinerary: times and visits are computed afresh.
+void Scrivania::Mostra(StatoItinerario stato) {
+    RicalcolaVisite(sessione_.Archivio(), stato.righe, meta_.parametri);
+    righe_ = std::move(stato.righe);
     RicalcolaTempi();
     modificato_ = true;
     SelezionaRiga(stato.rigaCorrente);
 }
 
-void Scrivania::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
-    Prova([&] {
+// Rows behind the last stage are free anyway and go. What changes nothing needs no undo.
+bool Scrivania::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
+    nuove.resize(static_cast<std::size_t>(NumeroTappe(nuove)));
+    if (nuove == righe_) {
+        SelezionaRiga(riga);
+        return true;
+    }
+    return Prova([&] {
         StatoItinerario prima{righe_, rigaCorrente_};
         Mostra({std::move(nuove), riga});
         cronologia_.Ricorda(nome, std::move(prima));
@@ -50,8 +55,10 @@ bool Scrivania::Inserisce(CampiTappa& campi) {
     if (!rifiuti.empty()) return false;
     const bool nuova = rigaCorrente_ > static_cast<int>(righe_.size()) ||
                        righe_[static_cast<std::size_t>(rigaCorrente_ - 1)].localita.isEmpty();
-    Modifica(nuova ? u"inserimento di %1"_s.arg(campi.localita) : u"modifica di %1"_s.arg(campi.localita),
-             InserisceTappa(righe_, rigaCorrente_, campi), rigaCorrente_ + 1);
+    const QString nome = nuova ? u"inserimento di %1"_s : u"modifica di %1"_s;
+    if (!Modifica(nome.arg(campi.localita), InserisceTappa(righe_, rigaCorrente_, campi), rigaCorrente_ + 1)) {
+        return false;
+    }
     appenaInserita_ = true;
     return true;
 }
@@ -88,6 +95,8 @@ void Scrivania::ScegliTappa(int riga) {
 bool Scrivania::MemorizzaTappe() {
     bool memorizzate = false;
     Prova([&] {
+        // Another window may have deleted the trip: stages without one would turn up in the next trip with its code.
+        sessione_.ApriMeta(codiceMetaCorrente_);
         const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, righe_,
                                                                    meta_.parametri, volti_.avanzamento);
         memorizzate = true;
@@ -148,11 +157,13 @@ void Scrivania::Ricalcola() {
 }
 
 void Scrivania::Annulla() {
-    if (const auto stato = cronologia_.Annulla({righe_, rigaCorrente_})) Prova([&] { Mostra(*stato); });
+    const auto stato = cronologia_.Annulla({righe_, rigaCorrente_});
+    if (stato && !Prova([&] { Mostra(*stato); })) cronologia_.Ripeti(*stato);
 }
 
 void Scrivania::Ripeti() {
-    if (const auto stato = cronologia_.Ripeti({righe_, rigaCorrente_})) Prova([&] { Mostra(*stato); });
+    const auto stato = cronologia_.Ripeti({righe_, rigaCorrente_});
+    if (stato && !Prova([&] { Mostra(*stato); })) cronologia_.Annulla(*stato);
 }
 
 }  // namespace cronovia

@@ -143,9 +143,9 @@ void FormMete::Collega() {
         griglia_->setFocus();
     });
     connect(griglia_, &VistaGriglia::RigaScelta, this, [this](int riga) {
-        if (!scrivania_.InserimentoVisibile()) return;
+        if (scrivania_.CronoviaMostrata()) return;
         Esegui([this, riga] { scrivania_.SelezionaRiga(riga + 1); });
-        inserimento_->FuocoSullaTappa();
+        if (scrivania_.InserimentoVisibile()) inserimento_->FuocoSullaTappa();
     });
     connect(cmbRicerca_, &QListWidget::itemActivated, this, [this](QListWidgetItem* voce) {
         Esegui([this, voce] { scrivania_.ScegliMeta(voce->data(Qt::UserRole).toString()); });
@@ -168,10 +168,13 @@ void FormMete::Raccogli() {
     scrivania_.ImpostaMeta(meta);
 }
 
+// A long command lets the window live; what the person asks for meanwhile is not begun.
 void FormMete::Esegui(const std::function<void()>& comando) {
-    if (mostrando_) return;
+    if (mostrando_ || inCorso_) return;
+    inCorso_ = true;
     Raccogli();
     comando();
+    inCorso_ = false;
     Mostra();
 }
 
@@ -243,6 +246,7 @@ void FormMete::EseguiComando(ComandoItinerario comando) {
 
 // After a refusal the fields keep what was typed, but for the kilometres that became a difference.
 void FormMete::Inserisci() {
+    if (inCorso_) return;
     Raccogli();
     CampiTappa campi = inserimento_->Campi();
     const bool inserita = scrivania_.Inserisce(campi);
@@ -270,8 +274,9 @@ void FormMete::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    if (!scrivania_.PossoChiudere()) {
-        Mostra();
+    bool chiudo = false;
+    Esegui([&] { chiudo = scrivania_.PossoChiudere(); });
+    if (!chiudo) {
         event->ignore();
         return;
     }

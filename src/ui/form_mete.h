@@ -72,6 +72,7 @@ class FormMete : public QMainWindow {
     QAction* ripeti_;
     Scrivania scrivania_;
     bool mostrando_ = false;
+    bool inCorso_ = false;  // a command has begun and not ended
     bool cronoviaInGriglia_ = false;
 };
 
