@@ -1,0 +1,500 @@
+#include "app/scrivania.h"
+
+#include <SQLiteCpp/Database.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "support/copione.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr bool kAnnullabile = true;
+const QString kSalvataggio = u"Salvataggio itinerario"_s;
+const QString kVuoiSalvare = u"Vuoi salvare l'itinerario?"_s;
+const QString kVuoiRecuperare = u"Vuoi recuperare l'itinerario originale?"_s;
+const QString kFine = u"Fine inserimento"_s;
+const QString kUscire = u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\nVuoi salvare le eventuali modifiche?"_s;
+
+struct AvanzamentoDiProva : Progress {
+    bool StopRequested() override { return stop; }
+    bool stop = false;
+};
+
+QString Nomi(const RigheItinerario& righe) {
+    QStringList nomi;
+    for (const Tappa& tappa : righe) nomi += tappa.localita.isEmpty() ? u"-"_s : tappa.localita;
+    return nomi.join(u' ');
+}
+
+class ScrivaniaTest : public testing::Test {
+  protected:
+    std::unique_ptr<Scrivania> NuovaScrivania() {
+        return std::make_unique<Scrivania>(cartella_.Percorso(),
+                                           Scrivania::Volti{copione_, avanzamento_,
+                                                            [] {
+                                                                return QDateTime({2027, 6, 5}, {10, 52});
+                                                            },
+                                                            [] {}});
+    }
+    void NuovaMeta(const QString& localita) {
+        scrivania_->Nuovo();
+        Destinazione(localita, u"ITALIA"_s);
+        copione_.Domanda(u"Confermi inserimento meta?"_s, u"Inserimento meta"_s, Answer::Yes);
+        scrivania_->Salva();
+    }
+    void Destinazione(const QString& localita, const QString& nazione) {
+        Meta meta = scrivania_->MetaInCorso();
+        meta.localita = localita;
+        meta.nazione = nazione;
+        scrivania_->ImpostaMeta(meta);
+    }
+    bool Inserisce(const QString& localita, int km, Durata sosta = {}) {
+        CampiTappa campi{localita, {}, km, TipoStrada::Autostrada, sosta, false};
+        return scrivania_->Inserisce(campi);
+    }
+    /// A trip with these stages on its entry screen, not saved.
+    void MetaConTappe(const QString& localita, const QStringList& tappe) {
+        NuovaMeta(localita);
+        scrivania_->Itinerario();
+        for (const QString& tappa : tappe) ASSERT_TRUE(Inserisce(tappa, 100));
+    }
+    void Memorizza() {
+        copione_.Domanda(kVuoiSalvare, kSalvataggio, Answer::Yes, kAnnullabile);
+        scrivania_->Memorizza();
+    }
+    void Esce(Answer risposta) {
+        copione_.Domanda(kUscire, kFine, risposta, kAnnullabile);
+        scrivania_->Fine();
+    }
+    /// The stages in the archive, as another window would find them.
+    QString Memorizzate(const QString& codice = u"1"_s) {
+        return Nomi(Sessione(cartella_.Percorso()).ApriMeta(codice).tappe);
+    }
+    QString InUso() const {
+        return u"Archivio %1: l'archivio è in uso da un altro programma; riprova tra poco."_s.arg(
+            QDir::toNativeSeparators(cartella_.Archivio()));
+    }
+    SQLite::Database AltroProgramma(const char* sql) {
+        SQLite::Database altro(cartella_.Archivio().toStdString(), SQLite::OPEN_READWRITE);
+        altro.exec(sql);
+        return altro;
+    }
+    [[nodiscard]] QString Righe() const { return Nomi(scrivania_->Righe()); }
+    [[nodiscard]] QString Modo() const { return scrivania_->Comandi().modoComandi; }
+    [[nodiscard]] QString ModoItinerario() const { return scrivania_->Comandi().modoItinerario; }
+
+    prova::CartellaDiProva cartella_;
+    prova::Copione copione_;
+    AvanzamentoDiProva avanzamento_;
+    std::unique_ptr<Scrivania> scrivania_ = NuovaScrivania();
+    const QString tutti_ = u"NuRiSaCmCaStItGcCiEsImEx"_s;
+};
+
+TEST_F(ScrivaniaTest, ANewTripIsSavedOnYesOnly) {
+    EXPECT_EQ(Modo(), u"NuImEs"_s);
+    EXPECT_EQ(scrivania_->MetaInCorso().oraInizio, 1075_cent);
+    scrivania_->Nuovo();
+    EXPECT_EQ(Modo(), u"NuSaEs"_s);
+    copione_.Messaggio(u"Campo Località: obbligatorio!"_s);
+    scrivania_->Salva();
+    Destinazione(u"LUCCA"_s, u" "_s);
+    copione_.Messaggio(u"Campo Nazione: obbligatorio!"_s);
+    scrivania_->Salva();
+    Destinazione(u"LUCCA"_s, u"ITALIA"_s);
+    copione_.Domanda(u"Confermi inserimento meta?"_s, u"Inserimento meta"_s, Answer::No);
+    scrivania_->Salva();
+    EXPECT_EQ(NuovaScrivania()->CodiceMetaCorrente(), u""_s);
+    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"LUCCA"_s);
+
+    copione_.Domanda(u"Confermi inserimento meta?"_s, u"Inserimento meta"_s, Answer::Yes);
+    scrivania_->Salva();
+    EXPECT_EQ(scrivania_->MetaInCorso().codice, u"000001"_s);
+    EXPECT_EQ(Modo(), tutti_);
+    scrivania_->Nuovo();
+    EXPECT_EQ(Modo(), u"NuSaEsRi"_s);
+    EXPECT_EQ(scrivania_->MetaInCorso().codice, u""_s);
+    Destinazione(u"Lucca"_s, u"FRANCIA"_s);
+    copione_.Domanda(u"Confermi modifica dati mèta?"_s, u"Modifica dati mèta"_s, Answer::Yes);
+    scrivania_->Salva();
+    EXPECT_EQ(scrivania_->MetaInCorso().codice, u"000001"_s);
+    EXPECT_EQ(NuovaScrivania()->MetaInCorso().nazione.trimmed(), u"FRANCIA"_s);
+}
+
+TEST_F(ScrivaniaTest, TheListOfTripsAndTheTripChosenFromIt) {
+    copione_.Messaggio(u"Nessuna mèta nel database!"_s, u"Database vuoto"_s);
+    scrivania_->Ricerca();
+    EXPECT_FALSE(scrivania_->ElencoMeteMostrato().has_value());
+    EXPECT_EQ(Modo(), u"NuImEs"_s);
+
+    for (const auto& nome : {u"AOSTA AUTOSTRADA"_s, u"ZARA"_s, u"BARI"_s}) NuovaMeta(nome);
+    scrivania_->Ricerca();
+    EXPECT_EQ(Modo(), u"NuEs"_s);
+    QStringList nomi;
+    for (const MetaInElenco& meta : *scrivania_->ElencoMeteMostrato()) nomi += meta.localita;
+    EXPECT_EQ(nomi.join(u','), u"BARI,ZARA,aosta autostrada"_s);
+    scrivania_->ScegliMeta(u"000002"_s);
+    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"ZARA"_s);
+    EXPECT_EQ(Modo(), tutti_);
+    EXPECT_EQ(NuovaScrivania()->CodiceMetaCorrente(), u"000002"_s);
+
+    scrivania_->Ricerca();
+    scrivania_->ChiudiElencoMete();
+    EXPECT_FALSE(scrivania_->ElencoMeteMostrato().has_value());
+    EXPECT_EQ(scrivania_->CodiceMetaCorrente(), u"000002"_s);
+    EXPECT_EQ(Modo(), tutti_);
+}
+
+TEST_F(ScrivaniaTest, DeletingATripFallsBackToTheHighestCode) {
+    for (const auto& nome : {u"UNO"_s, u"DUE"_s, u"TRE"_s}) {
+        MetaConTappe(nome, {nome, u"X"_s});
+        Esce(Answer::Yes);
+    }
+    scrivania_->ScegliMeta(u"000002"_s);
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::No);
+    scrivania_->CancMeta();
+    EXPECT_EQ(scrivania_->CodiceMetaCorrente(), u"000002"_s);
+    EXPECT_EQ(Righe(), u"DUE X"_s);
+    for (const auto& [resta, modo] : {std::pair{u"000003"_s, tutti_}, {u"000001"_s, tutti_}, {u""_s, u"NuImEs"_s}}) {
+        copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+        scrivania_->CancMeta();
+        EXPECT_EQ(scrivania_->CodiceMetaCorrente(), resta);
+        EXPECT_EQ(Modo(), modo);
+    }
+    EXPECT_EQ(Righe(), u""_s);
+    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Tabella::Itinerari), 0);
+}
+
+TEST_F(ScrivaniaTest, AnItineraryIsDeletedAfterTwoQuestions) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Memorizza();
+    Esce(Answer::No);
+    const QString sicuro =
+        u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più recuperabile!"_s;
+    const QString titolo = u"Annullamento itinerario"_s;
+    const QString confermi = u"Confermi annullamento itinerario?"_s;
+    copione_.Domanda(confermi, titolo, Answer::No);
+    scrivania_->CancItin();
+    copione_.Domanda(confermi, titolo, Answer::Yes).Domanda(sicuro, titolo, Answer::No);
+    scrivania_->CancItin();
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+    copione_.Domanda(confermi, titolo, Answer::Yes).Domanda(sicuro, titolo, Answer::Yes);
+    scrivania_->CancItin();
+    EXPECT_EQ(Righe(), u""_s);
+    EXPECT_EQ(Memorizzate(), u""_s);
+    EXPECT_EQ(Modo(), tutti_);
+}
+
+TEST_F(ScrivaniaTest, ARefusedStageLeavesEverythingAsItWas) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    const auto rifiutata = [&](CampiTappa campi) {
+        EXPECT_FALSE(scrivania_->Inserisce(campi));
+        EXPECT_EQ(Righe(), u"A B"_s);
+        EXPECT_EQ(scrivania_->RigaCorrente(), 3);
+        EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), u"inserimento di B"_s);
+        return campi.km;
+    };
+    const std::optional<TipoStrada> locale = TipoStrada::Locale;
+    copione_.Messaggio(u"Chilometri (o sosta): dato obbligatorio!"_s, u"Dato obbligatorio"_s);
+    rifiutata({u"C"_s, {}, 0, locale, {}, false});
+    copione_.Messaggio(u"Tipo strada obbligatorio!"_s, u"Dato obbligatorio"_s);
+    rifiutata({u"C"_s, {}, 10, {}, {}, false});
+    copione_.Messaggio(u"Impossibile:\nIndica un valore compreso tra 1 e 999"_s)
+        .Messaggio(u"Impossibile:\nIndica il nome della località!"_s);
+    // 200 km so far: 1,300 progressive ones are 1,100, too many still; the field keeps the difference.
+    EXPECT_EQ(rifiutata({u""_s, {}, 1300, locale, {}, false}), 1100);
+    EXPECT_TRUE(Inserisce(u"C"_s, 650));
+    EXPECT_EQ(scrivania_->Righe()[2].km, 450);
+    EXPECT_EQ(scrivania_->Riepilogo().totali.km[kTuttiITipi], 650);
+}
+
+TEST_F(ScrivaniaTest, TheFieldOfProgressiveKilometresShowsFromRowThreeOn) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s, u"C"_s});
+    const std::vector<std::pair<int, std::optional<bool>>> casi = {
+        {1, std::nullopt}, {2, std::nullopt}, {3, true}, {4, true}, {9, true}};
+    for (const auto& [riga, mostrato] : casi) {
+        scrivania_->SelezionaRiga(riga);
+        EXPECT_EQ(scrivania_->KmProgressivi(), mostrato) << riga;
+    }
+    EXPECT_EQ(scrivania_->RigaCorrente(), 4);  // the first free row
+    scrivania_->SelezionaRiga(-17);
+    EXPECT_EQ(scrivania_->RigaCorrente(), 1);
+}
+
+TEST_F(ScrivaniaTest, EveryVerbIsUndoneAndDoneAgainByName) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    ASSERT_TRUE(Inserisce(u"C"_s, 0, {0, 1, 0}));
+    const QString titolo = u"Azzera soste itinerario"_s;
+    const QString azzera =
+        u"Vuoi azzerare le soste indicate nell'itinerario?\n\nI tempi traghetto e riposi non sono "
+        "influenzati e la\ncancellazione sarà effettiva dopo il salvataggio dell'itinerario."
+        "\n\nProcedo?"_s;
+    struct Passo {
+        QString nome;
+        std::function<void()> verbo;
+        QString righe;
+        RigheItinerario dopo;
+    };
+    std::vector<Passo> passi = {
+        {u"azzeramento delle soste"_s, [&] { scrivania_->AzzeraSoste(); }, u"A B C"_s, {}},
+        {u"modifica di BB"_s, [&] { scrivania_->SelezionaRiga(2), Inserisce(u"BB"_s, 7); }, u"A BB C"_s, {}},
+        {u"apertura di una riga"_s, [&] { scrivania_->Aggiunge(); }, u"A BB - C"_s, {}},
+        {u"inserimento di N"_s, [&] { Inserisce(u"N"_s, 8); }, u"A BB N C"_s, {}},
+        {u"cancellazione di una riga"_s, [&] { scrivania_->Cancella(); }, u"A BB N"_s, {}},
+    };
+    copione_.Domanda(azzera, titolo, Answer::No);
+    scrivania_->AzzeraSoste();
+    const RigheItinerario prima = scrivania_->Righe();
+    EXPECT_EQ(prima[2].sosta.ore, 1);
+    copione_.Domanda(azzera, titolo, Answer::Yes);
+    for (Passo& passo : passi) {
+        passo.verbo();
+        EXPECT_EQ(Righe(), passo.righe);
+        EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), passo.nome);
+        passo.dopo = scrivania_->Righe();
+    }
+    for (std::size_t i = passi.size(); i > 0; --i) {
+        scrivania_->Annulla();
+        EXPECT_TRUE(scrivania_->Righe() == (i > 1 ? passi[i - 2].dopo : prima)) << passi[i - 1].nome.toStdString();
+        EXPECT_EQ(scrivania_->Modifiche().DaRipetere(), passi[i - 1].nome);
+    }
+    for (const Passo& passo : passi) {
+        scrivania_->Ripeti();
+        EXPECT_TRUE(scrivania_->Righe() == passo.dopo) << passo.nome.toStdString();
+    }
+    EXPECT_EQ(scrivania_->Riepilogo().totali.km[kTuttiITipi], 115);
+    Memorizza();
+    EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), std::nullopt);
+}
+
+TEST_F(ScrivaniaTest, WhatChangesNothingNeedsNoUndo) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Memorizza();
+    scrivania_->SelezionaRiga(3);
+    scrivania_->Aggiunge();
+    scrivania_->Cancella();
+    scrivania_->SelezionaRiga(1);
+    EXPECT_TRUE(Inserisce(u"A"_s, 100));
+    EXPECT_EQ(scrivania_->RigaCorrente(), 2);
+    EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), std::nullopt);
+    EXPECT_TRUE(scrivania_->PossoChiudere());
+}
+
+TEST_F(ScrivaniaTest, SaveOrReset) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    copione_.Domanda(kVuoiSalvare, kSalvataggio, Answer::Cancel, kAnnullabile);
+    scrivania_->Memorizza();
+    EXPECT_EQ(Memorizzate(), u""_s);
+    Memorizza();
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+    EXPECT_EQ(scrivania_->RigaCorrente(), 3);
+    EXPECT_TRUE(scrivania_->InserimentoVisibile());
+    EXPECT_EQ(ModoItinerario(), u"InAgCaRcRtCeFiMeDuAzTr"_s);
+
+    ASSERT_TRUE(Inserisce(u"C"_s, 5));
+    copione_.Domanda(kVuoiSalvare, kSalvataggio, Answer::No, kAnnullabile);
+    copione_.Domanda(kVuoiRecuperare, kSalvataggio, Answer::No);
+    scrivania_->Memorizza();
+    EXPECT_EQ(Righe(), u"A B C"_s);
+    copione_.Domanda(kVuoiSalvare, kSalvataggio, Answer::No, kAnnullabile);
+    copione_.Domanda(kVuoiRecuperare, kSalvataggio, Answer::Yes);
+    scrivania_->Memorizza();
+    EXPECT_EQ(Righe(), u"A B"_s);
+    EXPECT_EQ(scrivania_->RigaCorrente(), 1);
+    EXPECT_TRUE(scrivania_->InserimentoVisibile());
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+}
+
+TEST_F(ScrivaniaTest, LeavingTheEntryScreen) {
+    MetaConTappe(u"UNO"_s, {u"A"_s});
+    EXPECT_EQ(Modo(), u"F"_s);
+    scrivania_->Cerca();
+    EXPECT_EQ(ModoItinerario(), u"Fi"_s);
+    scrivania_->Fine();  // only closes the list
+    EXPECT_FALSE(scrivania_->ElencoTappeVisibile());
+    EXPECT_TRUE(scrivania_->InserimentoVisibile());
+    Esce(Answer::Cancel);
+    EXPECT_TRUE(scrivania_->InserimentoVisibile());
+    Esce(Answer::Yes);
+    EXPECT_FALSE(scrivania_->InserimentoVisibile());
+    EXPECT_EQ(Memorizzate(), u"A"_s);
+    EXPECT_EQ(Modo(), tutti_);
+    EXPECT_EQ(ModoItinerario(), u"zz"_s);
+    scrivania_->Itinerario();
+    Inserisce(u"Z"_s, 1);
+    Esce(Answer::No);
+    EXPECT_EQ(Righe(), u"A"_s);
+    EXPECT_EQ(Memorizzate(), u"A"_s);
+}
+
+TEST_F(ScrivaniaTest, RecalculatingAndUnlockingKeepsUnsavedEdits) {
+    MetaConTappe(u"UNO"_s, {u"A"_s});
+    const auto ricalcola = [&] { return scrivania_->Comandi().Abilitato(ComandoItinerario::Ricalcola); };
+    EXPECT_FALSE(ricalcola());
+    ASSERT_TRUE(Inserisce(u"B"_s, 100));
+    EXPECT_TRUE(ricalcola());
+    scrivania_->Ricalcola();
+    ASSERT_TRUE(scrivania_->CronoviaMostrata().has_value());
+    EXPECT_EQ(Modo(), u"CaSt"_s);
+    EXPECT_FALSE(scrivania_->InserimentoVisibile());
+    copione_.Domanda(kUscire, kFine, Answer::Cancel, kAnnullabile);
+    EXPECT_FALSE(scrivania_->PossoChiudere());
+    scrivania_->Calcola();
+    EXPECT_FALSE(scrivania_->CronoviaMostrata().has_value());
+    EXPECT_TRUE(scrivania_->InserimentoVisibile());
+    EXPECT_EQ(Righe(), u"A B"_s);
+    scrivania_->Annulla();
+    EXPECT_EQ(Righe(), u"A"_s);
+    Esce(Answer::No);
+    // From the trip screen, unlocking leads back there.
+    scrivania_->Calcola();
+    scrivania_->Calcola();
+    EXPECT_FALSE(scrivania_->InserimentoVisibile());
+    EXPECT_EQ(Modo(), tutti_);
+}
+
+TEST_F(ScrivaniaTest, DaysWantedStopAndWhatCannotBeComputed) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Memorizza();
+    Esce(Answer::No);
+    Meta meta = scrivania_->MetaInCorso();
+    meta.giorniAdeguamento = 5;  // there is no stop to stretch
+    scrivania_->ImpostaMeta(meta);
+    copione_.Messaggio(u"Elaborazione impossibile! (tentativi effettuati n. 11)"_s, u"Calcolo cronovia"_s);
+    scrivania_->Calcola();
+    EXPECT_TRUE(scrivania_->CronoviaMostrata().has_value());
+    scrivania_->Calcola();
+    avanzamento_.stop = true;
+    scrivania_->Calcola();
+    EXPECT_FALSE(scrivania_->CronoviaMostrata().has_value());
+    EXPECT_FALSE(scrivania_->CalcoloInCorso());
+    EXPECT_EQ(Modo(), tutti_);
+    avanzamento_.stop = false;
+    meta.giorniAdeguamento = 1;
+    meta.parametri.mediaKm[0] = 0;
+    scrivania_->ImpostaMeta(meta);
+    copione_.Messaggio(u"Calcolo impossibile: la velocità media per le strade di tipo «Autostrada» è 0."_s);
+    scrivania_->Calcola();
+    EXPECT_EQ(Modo(), tutti_);
+    meta.parametri.mediaKm[0] = 75;
+    scrivania_->ImpostaMeta(meta);
+    copione_.Messaggio(u"Elaborazione conclusa in 1 tentativi!"_s, u"Calcolo cronovia"_s);
+    scrivania_->Calcola();
+}
+
+TEST_F(ScrivaniaTest, PersonalDefaults) {
+    const auto rispondi = [&](const QString& verbo, Answer risposta) {
+        copione_.Domanda(u"Vuoi %1 i dati di default?"_s.arg(verbo), u"Dati di default"_s, risposta);
+        if (risposta == Answer::Yes) copione_.Messaggio(u"Operazione eseguita!"_s, u"Dati di default"_s);
+    };
+    const auto medie = [&](int autostrada) {
+        Meta meta = scrivania_->MetaInCorso();
+        meta.parametri.mediaKm[0] = autostrada;
+        scrivania_->ImpostaMeta(meta);
+    };
+    const auto proposta = [&] { return NuovaScrivania()->MetaInCorso().parametri.mediaKm[0]; };
+    medie(90);
+    rispondi(u"salvare"_s, Answer::No);
+    scrivania_->SalvaDefault();
+    EXPECT_EQ(proposta(), 75);
+    rispondi(u"salvare"_s, Answer::Yes);
+    scrivania_->SalvaDefault();
+    EXPECT_EQ(proposta(), 90);
+    medie(110);
+    rispondi(u"caricare"_s, Answer::Yes);
+    scrivania_->CaricaDefault();
+    EXPECT_EQ(scrivania_->MetaInCorso().parametri.mediaKm[0], 90);
+    rispondi(u"ripristinare"_s, Answer::Yes);
+    scrivania_->RipristinaDefault();
+    EXPECT_EQ(scrivania_->MetaInCorso().parametri, ParametriViaggio());
+    EXPECT_EQ(proposta(), 75);
+}
+
+TEST_F(ScrivaniaTest, ClosingAsksWhenThereAreUnsavedChanges) {
+    MetaConTappe(u"UNO"_s, {u"A"_s});
+    const std::vector<std::pair<Answer, bool>> casi = {
+        {Answer::Cancel, false}, {Answer::No, true}, {Answer::Yes, true}};
+    for (const auto& [risposta, chiude] : casi) {
+        EXPECT_EQ(Memorizzate(), u""_s);
+        copione_.Domanda(kUscire, kFine, risposta, kAnnullabile);
+        EXPECT_EQ(scrivania_->PossoChiudere(), chiude);
+    }
+    EXPECT_EQ(Memorizzate(), u"A"_s);
+    EXPECT_TRUE(scrivania_->PossoChiudere());
+}
+
+TEST_F(ScrivaniaTest, WhatCannotBeSavedStaysOnScreen) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Memorizza();
+    ASSERT_TRUE(Inserisce(u"C"_s, 5));
+    {
+        const SQLite::Database altro = AltroProgramma("BEGIN EXCLUSIVE");
+        copione_.Domanda(kVuoiSalvare, kSalvataggio, Answer::Yes, kAnnullabile).Messaggio(InUso());
+        scrivania_->Memorizza();
+        copione_.Domanda(kVuoiSalvare, kSalvataggio, Answer::No, kAnnullabile);
+        copione_.Domanda(kVuoiRecuperare, kSalvataggio, Answer::Yes).Messaggio(InUso());
+        scrivania_->Memorizza();
+        copione_.Messaggio(InUso());
+        EXPECT_FALSE(Inserisce(u"D"_s, 5));
+        copione_.Messaggio(InUso());
+        scrivania_->Annulla();
+    }
+    EXPECT_EQ(Righe(), u"A B C"_s);
+    EXPECT_EQ(scrivania_->Riepilogo().tappe.size(), 3U);
+    EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), u"inserimento di C"_s);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+    // A disk that is full in the midst of it.
+    const SQLite::Database altro = AltroProgramma(
+        "CREATE TRIGGER pieno BEFORE INSERT ON Itinerari WHEN NEW.Sequenza = '0003' "
+        "BEGIN SELECT RAISE(ABORT, 'pieno'); END");
+    copione_.Domanda(kUscire, kFine, Answer::Yes, kAnnullabile)
+        .Messaggio(u"Archivio %1: pieno."_s.arg(QDir::toNativeSeparators(cartella_.Archivio())));
+    EXPECT_FALSE(scrivania_->PossoChiudere());
+    EXPECT_EQ(Righe(), u"A B C"_s);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+}
+
+TEST_F(ScrivaniaTest, ATripThatCannotBeDeletedStaysUsable) {
+    NuovaMeta(u"UNO"_s);
+    const SQLite::Database altro =
+        AltroProgramma("CREATE TRIGGER fermo BEFORE DELETE ON MeteVandro BEGIN SELECT RAISE(ABORT, 'fermo'); END");
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes)
+        .Messaggio(u"Archivio %1: fermo."_s.arg(QDir::toNativeSeparators(cartella_.Archivio())));
+    scrivania_->CancMeta();
+    EXPECT_EQ(scrivania_->CodiceMetaCorrente(), u"000001"_s);
+    EXPECT_EQ(Modo(), tutti_);
+}
+
+TEST_F(ScrivaniaTest, TwoDesksOnOneFolder) {
+    NuovaMeta(u"UNO"_s);
+    MetaConTappe(u"DUE"_s, {u"A"_s});
+    const auto altra = NuovaScrivania();
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+    altra->CancMeta();
+    EXPECT_EQ(altra->CodiceMetaCorrente(), u"000001"_s);
+
+    // The stages of a trip that is gone are not left behind for the next trip that gets its code.
+    copione_.Domanda(kUscire, kFine, Answer::Yes, kAnnullabile);
+    copione_.Messaggio(u"Non esiste nessuna mèta con il codice 000002."_s);
+    scrivania_->Fine();
+    EXPECT_EQ(Righe(), u"A"_s);
+    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Tabella::Itinerari), 0);
+    Esce(Answer::No);
+    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"UNO"_s);
+    copione_.Messaggio(u"Non esiste nessuna mèta con il codice 000002."_s);
+    scrivania_->ScegliMeta(u"000002"_s);
+    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"UNO"_s);
+}
+
+TEST_F(ScrivaniaTest, AVanishedCurrentTripGivesWayToTheHighestCode) {
+    for (const auto& nome : {u"UNO"_s, u"DUE"_s, u"TRE"_s}) NuovaMeta(nome);
+    Sessione sessione(cartella_.Percorso());
+    SalvaIlCodiceMetaCorrente(sessione.Archivio(), u"000009"_s);
+    EXPECT_EQ(NuovaScrivania()->MetaInCorso().localita, u"TRE"_s);
+}
+
+}  // namespace
+}  // namespace cronovia
