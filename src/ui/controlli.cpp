@@ -26,7 +26,7 @@ QString NomeDiSerie(const QString& nome, int indice) { return nome + u'_' + QStr
 
 QStringList Numeri(int da, int a, int cifre, int passo) {
     QStringList numeri;
-    for (int n = da; n <= a; n += passo) numeri += Zero(n, cifre);
+    for (int n = da; n <= a; n += passo) numeri += cifre == 0 ? QString::number(n) : Zero(n, cifre);
     return numeri;
 }
 

@@ -15,7 +15,7 @@ namespace cronovia {
 /// A name for a control of an array: "cmbOra" and 3 are "cmbOra_3".
 QString NomeDiSerie(const QString& nome, int indice);
 
-/// Numbers from `da` to `a` as texts of so many digits.
+/// Numbers from `da` to `a` as texts of so many digits, as many as they have when that is 0.
 QStringList Numeri(int da, int a, int cifre, int passo = 1);
 
 /// The quarters of an hour: 00, 15, 30, 45.

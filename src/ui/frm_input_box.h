@@ -34,6 +34,9 @@ class FrmInputBox : public QGroupBox {
     void Premuto(ComandoItinerario comando);
     void AltriPacchetti();
 
+  protected:
+    bool eventFilter(QObject* oggetto, QEvent* event) override;
+
   private:
     QWidget* CreaCampi();
     QWidget* CreaComandi();

@@ -41,7 +41,7 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
             continue;
         }
         cmbMediaKm_[posto] =
-            NuovoElenco(NomeDiSerie(u"cmbMediaKm"_s, i), Numeri(kMedie[posto].da, kMedie[posto].a, 1, 5),
+            NuovoElenco(NomeDiSerie(u"cmbMediaKm"_s, i), Numeri(kMedie[posto].da, kMedie[posto].a, 0, 5),
                         u"Velocità media in km/h: %1"_s.arg(tipo));
         QComboBox& media = *cmbMediaKm_[posto];
         media.setEditable(true);
