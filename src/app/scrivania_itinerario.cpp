@@ -102,9 +102,10 @@ bool Scrivania::MemorizzaTappe() {
         memorizzate = true;
         modificato_ = false;
         if (esito.nomiAccorciati == 0) return;
-        volti_.interazione.Show({u"Località più lunghe di 29 caratteri, accorciate: %1."_s.arg(esito.nomiAccorciati),
-                                 {},
-                                 Icon::Exclamation});
+        volti_.interazione.Show(
+            {u"Nomi accorciati (località a 29 caratteri, strade a 64): %1."_s.arg(esito.nomiAccorciati),
+             {},
+             Icon::Exclamation});
     });
     return memorizzate;
 }

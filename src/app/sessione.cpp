@@ -61,7 +61,7 @@ QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, con
         throw Failure(u"Il nome della nazione è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
     }
     Meta meta = ConInizio(inizio, CaricaDefaultMeta(archive_));
-    meta.localita = localita.toUpper();
+    meta.localita = localita.normalized(QString::NormalizationForm_C).toUpper();
     meta.nazione = nazione.toUpper();
     return InserisciMeta(archive_, meta);
 }

@@ -27,7 +27,8 @@ char LetteraSenzaScomposizione(char16_t c) {
         char16_t da;
         char a;
     };
-    static constexpr std::array<Coppia, 18> kCoppie = {{{u'Ł', 'L'},
+    static constexpr std::array<Coppia, 19> kCoppie = {{{u'ẞ', '\xDF'},
+                                                        {u'Ł', 'L'},
                                                         {u'ł', 'l'},
                                                         {u'Đ', 'D'},
                                                         {u'đ', 'd'},
@@ -54,8 +55,8 @@ char LetteraSenzaScomposizione(char16_t c) {
 char LetteraDiBase(char16_t c) {
     const QString scomposto = QString(QChar(c)).normalized(QString::NormalizationForm_KD);
     const char16_t base = scomposto.at(0).unicode();
-    if (base != c && base >= 0x20 && base < 0x7F) return static_cast<char>(base);
-    return LetteraSenzaScomposizione(c);
+    const std::optional<char> byte = base == c ? std::nullopt : Byte(base);
+    return byte ? *byte : LetteraSenzaScomposizione(c);
 }
 
 }  // namespace

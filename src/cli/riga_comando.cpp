@@ -113,6 +113,7 @@ int Esegui(const QStringList& riga, QTextStream& uscita) {
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     AggiungiOpzioniComuni(parser);
     parser.addOption({{u"v"_s, u"version"_s}, {}});
+    parser.addOption({u"formato"_s, {}, u"F"_s});
     Analizza(parser, riga);
     QStringList resto = parser.positionalArguments();
     if (parser.isSet(u"version"_s)) {
@@ -127,6 +128,7 @@ int Esegui(const QStringList& riga, QTextStream& uscita) {
     const Verbo* verbo = TrovaVerbo(resto.first());
     if (verbo == nullptr) throw WrongUsage(u"Il verbo «%1» non esiste."_s.arg(resto.first()));
     if (parser.isSet(u"help"_s)) resto += u"--help"_s;
+    if (parser.isSet(u"formato"_s)) resto.insert(1, u"--formato="_s + parser.value(u"formato"_s));
     return EseguiVerbo(*verbo, parser.value(u"cartella"_s), resto, uscita);
 }
 

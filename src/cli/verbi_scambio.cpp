@@ -9,10 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The codes behind the file's name.
 std::vector<QString> CodiciRichiesti(const Richiesta& richiesta) {
-    std::vector<QString> codici;
-    for (const QString& codice : richiesta.argomenti.sliced(1)) codici.push_back(CodiceCompleto(codice));
-    return codici;
+    const QStringList codici = richiesta.argomenti.sliced(1);
+    return {codici.begin(), codici.end()};
 }
 
 // The text of a box as lines of a terminal.
@@ -30,10 +30,12 @@ void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 
 void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
+    std::vector<QString> codici = CodiciRichiesti(richiesta);
+    for (QString& codice : codici) codice = CodiceCompleto(codice);
     Progress progress;
-    const EsitoExport esito = EsportaMete({sessione.Archivio(), richiesta.argomenti.first(), CodiciRichiesti(richiesta),
-                                           richiesta.opzioni.contains(u"sovrascrivi"_s)},
-                                          progress);
+    const EsitoExport esito = EsportaMete(
+        {sessione.Archivio(), richiesta.argomenti.first(), codici, richiesta.opzioni.contains(u"sovrascrivi"_s)},
+        progress);
     uscita << Righe(TestoEsito(esito));
 }
 

@@ -11,6 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Names are stored with composed letters; some systems type them decomposed.
+QString Composto(const QString& nome) { return nome.normalized(QString::NormalizationForm_C); }
+
 TabellaTesti TabellaDellaGuida(const std::vector<Record>& record, const std::vector<TipoGuida>& tipi) {
     TabellaTesti tabella{{u"Località"_s, u"Tipo"_s, u"Tempo"_s, u"Descrizione"_s}, {}, {}};
     QString precedente;
@@ -30,7 +33,7 @@ TabellaTesti TabellaDellaGuida(const std::vector<Record>& record, const std::vec
 void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Ricerca ricerca{Tabella::GuidaCitta, {}};
     if (!richiesta.argomenti.isEmpty()) {
-        ricerca.condizioni.push_back({guida::Localita, NamePattern(LikeTesto(richiesta.argomenti.first()))});
+        ricerca.condizioni.push_back({guida::Localita, NamePattern::ForName(Composto(richiesta.argomenti.first()))});
     }
     Sessione sessione = apri();
     const std::vector<Record> record =

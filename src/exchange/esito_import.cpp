@@ -31,13 +31,16 @@ QString Differenze(const EsitoImport& esito) {
     for (const auto& [campo, quanti] : esito.accorciati) {
         const DefinizioneTabella& tabella = Definizione(campo.first);
         const Campo& nome = tabella.campi.at(static_cast<std::size_t>(campo.second));
-        conta(u"valori accorciati a %1 caratteri nel campo %2 di %3"_s.arg(QString::number(nome.larghezza), nome.nome,
-                                                                           tabella.nome),
+        conta(u"valori accorciati alla larghezza %1 del campo %2 di %3"_s.arg(QString::number(nome.larghezza),
+                                                                              nome.nome, tabella.nome),
               quanti);
     }
-    conta(u"mète non inserite perché il loro codice è ripetuto nel file"_s, esito.codiciRipetuti);
-    conta(u"mète non inserite perché senza località o senza codice"_s, esito.meteIncomplete);
-    conta(u"tratti stradali non inseriti perché la loro mèta manca nel file"_s, esito.tappeSenzaMeta);
+    conta(
+        u"mète non inserite perché il loro codice è ripetuto nel file (i loro tratti stanno con quelli della prima)"_s,
+        esito.codiciRipetuti);
+    conta(u"mète non inserite perché senza località o senza un codice valido"_s, esito.meteIncomplete);
+    conta(u"tratti stradali non inseriti perché la loro mèta non è nel file o non è stata inserita"_s,
+          esito.tappeSenzaMeta);
     conta(u"righe non lette perché prima della prima sezione"_s, esito.lettura.righePrimaDelleSezioni);
     conta(u"righe non lette perché senza intestazione"_s, esito.lettura.righeNonCapite);
     conta(u"righe non lette perché troppo lunghe"_s, esito.lettura.righeTroppoLunghe);

@@ -94,6 +94,7 @@ void RifiutaFileEsistente(const QString& path, bool sovrascrivi) {
     if (!info.exists()) return;
     const QString nome = QDir::toNativeSeparators(path);
     if (info.isDir()) throw Failure(u"%1 è una cartella, non un file."_s.arg(nome));
+    if (!info.isFile()) throw Failure(u"%1 non è un file che si possa scrivere."_s.arg(nome));
     if (!sovrascrivi) throw Failure(u"Il file %1 esiste già: non è stato ricoperto."_s.arg(nome));
     if (UnArchivio(path)) throw Failure(u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(nome));
 }

@@ -25,7 +25,7 @@ struct EsitoExport {
 };
 
 /// Writes the file, whole or not at all. A `Failure` when the file exists and may not be replaced, when it cannot be
-/// written, when a code is unknown, or when there is no trip.
+/// written, when a code is unknown, or when there is no trip. An archive is never replaced.
 EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress);
 
 /// The text of the closing box.

@@ -18,16 +18,10 @@ constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
 
 QString Adattato(const QString& valore, const Campo& campo) { return valore.left(campo.larghezza); }
 
-// Whether a row has that text in the field, besides what `ricerca` asks for already. The text counts as a pattern, and
-// as it stands, for a "#" or a "[" in it does not match itself. Other installations store one blank behind the text,
-// or in its place.
+// Whether a row has that name in the field, besides what `ricerca` asks for already. Other installations store one
+// blank behind the name, or in its place.
 bool Esiste(Archive& archive, Ricerca ricerca, int posto, const QString& testo) {
-    const bool segni = testo.contains(u'#') || testo.contains(u'[');
-    std::vector<NamePattern> modelli;
-    for (const QString& forma : {testo, testo + u' '}) {
-        modelli.emplace_back(LikeTesto(forma));
-        if (segni) modelli.push_back(NamePattern::Exactly(forma));
-    }
+    const std::array modelli = {NamePattern::ForName(testo), NamePattern::ForName(testo + u' ')};
     ricerca.condizioni.push_back({posto, modelli.front()});
     return std::any_of(modelli.begin(), modelli.end(), [&](const NamePattern& modello) {
         ricerca.condizioni.back().modello = modello;

@@ -16,7 +16,7 @@ namespace cronovia {
 struct RichiestaImport {
     Archive& archive;
     QString path;
-    std::vector<QString> codici;  ///< of the trips to import, as the file has them; none for all of the file
+    std::vector<QString> codici;  ///< of the trips to import, leading zeros left out or not; none for all of the file
 };
 
 /// What an import did, and what it could not take as it stood.
@@ -29,15 +29,15 @@ struct EsitoImport {
 
     std::map<std::pair<Tabella, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
     qint64 codiciRipetuti = 0;                             ///< trips with the code of one before them
-    qint64 meteIncomplete = 0;                             ///< trips without destination or code
-    qint64 tappeSenzaMeta = 0;                             ///< stages of no trip of the file
+    qint64 meteIncomplete = 0;  ///< trips without destination, or without a code of at most 20 characters
+    qint64 tappeSenzaMeta = 0;  ///< stages of no trip of the file
     ScartiLettura lettura;
 };
 
 /// Adds what the archive has not yet, whole or not at all. A trip whose destination is stored, by the rules of name
 /// matching, is left out with its stages; so is a guide entry whose locality and description are stored, and one at
 /// whose locality no stage ends. Empty values and fields that the file lacks are stored as one blank, values too wide
-/// for their field with the characters that fit. Codes that are taken are replaced.
+/// for their field with the characters that fit. Codes that are taken, or that have not six digits, are replaced.
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress);
 
 /// The same from a device that can be read twice; the path is only its name in messages.

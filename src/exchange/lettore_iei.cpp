@@ -11,10 +11,13 @@ namespace {
 
 constexpr std::array<Tabella, 3> kSezioni = {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta};
 
+// Some editors put it at the start of whatever they save.
+constexpr QByteArrayView kSegnoUtf8 = "\xEF\xBB\xBF";
+
 std::size_t Numero(Tabella tabella) { return static_cast<std::size_t>(tabella) - 1; }
 
 // Empty when no column is named as a field. Of two columns of the same name the first one counts.
-std::vector<int> CaricaRiferimentiVettoreCampi(Tabella tabella, const Colonne& colonne) {
+std::vector<int> CaricaRiferimentiVettoreCampiTabelleDatabase(Tabella tabella, const Colonne& colonne) {
     const std::vector<Campo>& campi = Definizione(tabella).campi;
     std::vector<int> mappa;
     bool qualcuno = false;
@@ -41,7 +44,8 @@ bool LettoreIei::Leggi(RigaIei& riga) {
     while (righe_.Avanza()) {
         progress_.Advance(static_cast<double>(righe_.Letti()), lunghezza_);
         if (righe_.TroppoLunga()) ++scarti_.righeTroppoLunghe;
-        const QByteArrayView testo = righe_.Riga();
+        QByteArrayView testo = righe_.Riga();
+        if (std::exchange(prima_, false) && testo.startsWith(kSegnoUtf8)) testo = testo.sliced(kSegnoUtf8.size());
         if (testo.isEmpty()) continue;
         const bool inizioSezione = CambiaSezione(testo);
         if (!sezione_) {
@@ -75,7 +79,7 @@ bool LettoreIei::Prendi(QByteArrayView testo, bool inizioSezione, RigaIei& riga)
     if (colonne.valori.empty()) return false;
     MappaColonne& mappa = mappe_.at(Numero(*sezione_));
     if (inizioSezione || mappa.empty()) {
-        MappaColonne nuova = CaricaRiferimentiVettoreCampi(*sezione_, colonne);
+        MappaColonne nuova = CaricaRiferimentiVettoreCampiTabelleDatabase(*sezione_, colonne);
         if (!nuova.empty()) {
             mappa = std::move(nuova);
             return false;

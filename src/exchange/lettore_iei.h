@@ -65,6 +65,7 @@ class LettoreIei {
     Lettura lettura_;
     Progress& progress_;
     double lunghezza_;
+    bool prima_ = true;  // no line was read yet
     std::optional<Tabella> sezione_;
     std::array<MappaColonne, 3> mappe_;
     ScartiLettura scarti_;

@@ -63,8 +63,9 @@ void MappaCodici::Aggiungi(const QString& codiceNelFile) {
 }
 
 void MappaCodici::Scegli(const std::vector<QString>& scelti, Archive& archive) {
-    const std::vector<QString>& codici = scelti.empty() ? inOrdine_ : scelti;
-    for (const QString& codice : codici) {
+    std::vector<QString> codici = scelti.empty() ? inOrdine_ : scelti;
+    for (QString& codice : codici) {
+        if (!mete_.contains(codice) && codice.size() < kCifre) codice = AntStr(codice, kCifre, u'0');
         if (!mete_.contains(codice)) throw Failure(u"Nel file non c'è la mèta con il codice %1."_s.arg(codice));
     }
     CodiciOccupati occupati(archive);

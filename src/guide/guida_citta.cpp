@@ -59,7 +59,7 @@ std::shared_ptr<const VociGuida> LettoreGuida::Voci(const QString& localita) {
     std::shared_ptr<const VociGuida>& letta = letture_[localita];
     if (letta) return letta;
     auto voci = std::make_shared<VociGuida>();
-    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, NamePattern(LikeTesto(localita))}}};
+    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}};
     for (const Record& record : archive_.Select(ricerca, {guida::CodiceGuida, guida::Descrizione})) {
         const QString& tempo = record[guida::TempoSosta];
         voci->push_back({record.id,

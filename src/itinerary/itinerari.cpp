@@ -105,6 +105,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
         progress.Advance(++fatte, static_cast<double>(tappe.size()));
         if (Vuota(tappa)) continue;
         if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
+        if (tappa.numStrada.size() > Larghezza(itinerari::NomeStrada)) ++esito.nomiAccorciati;
         const QString visite = ghmCentesimi2Stringa(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
         MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
     }

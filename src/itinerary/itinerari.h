@@ -24,7 +24,7 @@ void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriVi
 /// What saving an itinerary did.
 struct EsitoMemorizzazione {
     int record = 0;          ///< rows written; a stage longer than 999 km takes several
-    int nomiAccorciati = 0;  ///< localities longer than 29 characters, stored with their first 29
+    int nomiAccorciati = 0;  ///< localities stored with their first 29 characters, roads with their first 64
 };
 
 /// Replaces the stored itinerary of a trip, whole or not at all. Refused when it takes more than 9,999 rows.

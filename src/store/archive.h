@@ -69,7 +69,8 @@ class Archive {
 
     std::int64_t Count(Tabella tabella);
 
-    /// Adds a row, changes the row with that id. A value wider than its field is refused.
+    /// Adds a row, changes the row with that id; `valori` has a value for every field. One wider than its field is
+    /// refused.
     void Insert(Tabella tabella, std::span<const QString> valori);
     void Update(Tabella tabella, const Record& record);
     void Delete(Tabella tabella, std::int64_t id);

@@ -41,7 +41,7 @@ QString KnownReason(int code) {
 
 QString DatabaseReason(const SQLite::Exception& error) {
     const QString reason = KnownReason(error.getErrorCode());
-    return reason.isEmpty() ? QString::fromUtf8(error.what()) : reason;
+    return reason.isEmpty() ? u"errore del database («%1»)"_s.arg(QString::fromUtf8(error.what())) : reason;
 }
 
 Failure DatabaseFailure(const SQLite::Exception& error, const QString& path) {

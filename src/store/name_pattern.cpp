@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "calendar/testo.h"
+
 namespace cronovia {
 
 namespace {
@@ -19,11 +21,11 @@ char32_t Fold(char32_t c) {
     return folded < 0x80 ? c : folded;
 }
 
-// All characters of the basic plane, outside ASCII, that fold to `folded`; at least the character itself.
+// All characters of the planes with letters, outside ASCII, that fold to `folded`; at least the character itself.
 std::u32string Variants(char32_t folded) {
     static const std::unordered_map<char32_t, std::u32string> variants = [] {
         std::unordered_map<char32_t, std::u32string> map;
-        for (char32_t c = 0x80; c < 0x10000; ++c) {
+        for (char32_t c = 0x80; c < 0x20000; ++c) {
             const char32_t f = Fold(c);
             if (f != c) map[f] += c;
         }
@@ -83,6 +85,12 @@ NamePattern NamePattern::Exactly(QStringView text) {
     return pattern;
 }
 
+NamePattern NamePattern::ForName(QStringView name) {
+    NamePattern pattern(LikeTesto(name));
+    if (name.contains(u'#') || name.contains(u'[')) pattern.itself_ = Exactly(name).elements_;
+    return pattern;
+}
+
 bool NamePattern::Accepts(const Element& element, char32_t folded) {
     switch (element.kind) {
         case Kind::Literal:
@@ -104,19 +112,23 @@ bool NamePattern::Accepts(const Element& element, char32_t folded) {
 }
 
 bool NamePattern::Matches(QStringView text) const {
+    return Matches(elements_, text) || (!itself_.empty() && Matches(itself_, text));
+}
+
+bool NamePattern::Matches(const std::vector<Element>& elements, QStringView text) {
     const QList<uint> characters = text.toUcs4();
     const auto length = characters.size();
-    const auto count = static_cast<qsizetype>(elements_.size());
+    const auto count = static_cast<qsizetype>(elements.size());
     qsizetype position = 0;
     qsizetype element = 0;
     qsizetype lastRun = -1;  // the last "*" passed, to which a mismatch goes back
     qsizetype runEnd = 0;    // where the text after that "*" was last tried
     while (position < length) {
-        const bool run = element < count && elements_[element].kind == Kind::AnyRun;
+        const bool run = element < count && elements[element].kind == Kind::AnyRun;
         if (run) {
             lastRun = element++;
             runEnd = position;
-        } else if (element < count && Accepts(elements_[element], Fold(characters.at(position)))) {
+        } else if (element < count && Accepts(elements[element], Fold(characters.at(position)))) {
             ++element;
             ++position;
         } else if (lastRun >= 0) {
@@ -126,7 +138,7 @@ bool NamePattern::Matches(QStringView text) const {
             return false;
         }
     }
-    while (element < count && elements_[element].kind == Kind::AnyRun) ++element;
+    while (element < count && elements[element].kind == Kind::AnyRun) ++element;
     return element == count;
 }
 

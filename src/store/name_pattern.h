@@ -19,6 +19,10 @@ class NamePattern {
     /// The pattern that only this text matches, whatever wildcards it holds.
     static NamePattern Exactly(QStringView text);
 
+    /// The way a name looks for itself: as the pattern of `LikeTesto`, but the name itself always matches, even when it
+    /// holds a "#" or a "[".
+    static NamePattern ForName(QStringView name);
+
     [[nodiscard]] bool Matches(QStringView text) const;
 
     /// Stretch of the order in which ASCII letters of both cases are the same and all else goes by its UTF-8 bytes:
@@ -44,8 +48,10 @@ class NamePattern {
 
     NamePattern() = default;
     static bool Accepts(const Element& element, char32_t folded);
+    static bool Matches(const std::vector<Element>& elements, QStringView text);
 
     std::vector<Element> elements_;
+    std::vector<Element> itself_;  // what matches besides; within the ranges of the pattern
 };
 
 }  // namespace cronovia

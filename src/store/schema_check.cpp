@@ -60,9 +60,15 @@ std::string IndexName(const DefinizioneTabella& table, const QString& campo) {
     return table.nome.toStdString() + "_" + campo.toStdString();
 }
 
+// An index by that name alone is not enough: it must be on the field, and know no difference of case.
 bool HasIndex(SQLite::Database& database, const DefinizioneTabella& table, const QString& campo) {
-    SQLite::Statement statement(database, "SELECT 1 FROM sqlite_master WHERE type = 'index' AND name = ?");
-    statement.bind(1, IndexName(table, campo));
+    SQLite::Statement statement(
+        database,
+        "SELECT 1 FROM pragma_index_list(?1) AS list, pragma_index_xinfo(list.name) AS field "
+        "WHERE list.name = ?2 AND field.seqno = 0 AND field.name = ?3 AND field.coll = 'NOCASE'");
+    statement.bind(1, table.nome.toStdString());
+    statement.bind(2, IndexName(table, campo));
+    statement.bind(3, campo.toStdString());
     return statement.executeStep();
 }
 
@@ -106,8 +112,8 @@ void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabel
         const int count = statement.getColumn(0).getInt();
         if (count == 0) continue;
         throw Failure(
-            u"Errore apertura database %1: nella tabella %2 il campo %3 dev'essere di %4 caratteri, ma %5 "
-            "valori sono più lunghi (fino a %6). Il file non è stato modificato."_s.arg(
+            u"Errore apertura database %1: nella tabella %2 il campo %3 dev'essere di %4 caratteri, ma non bastano "
+            "(valori più lunghi: %5, fino a %6 caratteri). Il file non è stato modificato."_s.arg(
                 QDir::toNativeSeparators(path), table.nome, campo.nome, QString::number(campo.larghezza),
                 QString::number(count), QString::number(statement.getColumn(1).getInt())));
     }
@@ -155,8 +161,10 @@ void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, c
 
 void DataBaseVerificaIndici(SQLite::Database& database, const DefinizioneTabella& table) {
     for (const QString& campo : table.indici) {
-        database.exec("CREATE INDEX IF NOT EXISTS \"" + IndexName(table, campo) + "\" ON " + Name(table.nome) + " (" +
-                      Name(campo) + " COLLATE NOCASE)");
+        if (HasIndex(database, table, campo)) continue;
+        const std::string name = "\"" + IndexName(table, campo) + "\"";
+        database.exec("DROP INDEX IF EXISTS " + name);
+        database.exec("CREATE INDEX " + name + " ON " + Name(table.nome) + " (" + Name(campo) + " COLLATE NOCASE)");
     }
 }
 
@@ -186,7 +194,7 @@ void KeepCopy(SQLite::Database& database, const QString& path) {
     }
     if (!QFile::rename(unfinished, copy)) {
         QFile::remove(unfinished);
-        throw Failure(u"Errore apertura database %1: non riesco a scriverne la copia %2."_s.arg(
+        throw Failure(u"Errore apertura database %1: la sua copia %2 non si può scrivere."_s.arg(
             QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
     }
 }

@@ -70,7 +70,7 @@ Centesimi LeggiOrario(QStringView hhmm);
 QString TestoOrario(Centesimi orario);
 
 /// The trip of a row of `MeteVandro` and the row of a trip; the id of the row stays with the caller. Parameters that
-/// the row does not tell are 0, an unknown `CalcoloSoste` is the longer stop.
+/// the row does not tell are 0, an unknown `CalcoloSoste` is the longer stop. `giorniAdeguamento` is 0 to 997.
 Meta MetaDaRecord(const Record& record);
 std::vector<QString> ValoriDellaMeta(const Meta& meta);
 

@@ -28,12 +28,16 @@ void ScriviRigaUnica(Archive& archive, Tabella tabella, std::vector<QString> val
 
 void RifiutaIncompleta(const Meta& meta) {
     if (meta.localita.trimmed().isEmpty()) throw Failure(u"Campo Località: obbligatorio!"_s);
+    const int larghezza = Definizione(Tabella::MeteVandro).campi[mete::Localita].larghezza;
+    if (meta.localita.trimmed().size() > larghezza) {
+        throw Failure(u"Il nome della località è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
+    }
     if (meta.nazione.trimmed().isEmpty()) throw Failure(u"Campo Nazione: obbligatorio!"_s);
 }
 
 std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
     return archive.SelectFirst(
-        {Tabella::MeteVandro, {{mete::Localita, NamePattern(LikeTesto(meta.localita.trimmed()))}}});
+        {Tabella::MeteVandro, {{mete::Localita, NamePattern::ForName(meta.localita.trimmed())}}});
 }
 
 // Within a transaction of the caller. A code that another window took meanwhile is left to it.

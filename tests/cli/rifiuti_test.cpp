@@ -52,9 +52,7 @@ TEST(Rifiuti, TheArchiveAndTheFilesStayAsTheyWere) {
         {nuova(u"  "_s, u"FRANCIA"_s), u"Campo Località: obbligatorio!"_s},
         {nuova(u"CORSICA"_s, u" "_s), u"Campo Nazione: obbligatorio!"_s},
         {nuova(u"CORSICA"_s, QString(20, u'Ñ')), u"Il nome della nazione è troppo lungo: al massimo 19 caratteri."_s},
-        {nuova(QString(31, u'É'), u"FRANCIA"_s),
-         u"Il valore «%1» è troppo lungo per il campo Localita di MeteVandro: al massimo 30 caratteri."_s.arg(
-             QString(31, u'É'))},
+        {nuova(QString(31, u'É'), u"FRANCIA"_s), u"Il nome della località è troppo lungo: al massimo 30 caratteri."_s},
     };
     const QByteArray prima = programma.ByteArchivio();
     const QStringList contenuto = programma.Cartella().Contenuto();

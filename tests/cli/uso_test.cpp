@@ -17,6 +17,8 @@ TEST(Uso, HelpAndVersionNeedNoFolder) {
     EXPECT_EQ(uscita({u"-v"_s}), versione.uscita);
     EXPECT_TRUE(uscita({u"--help"_s}).startsWith(u"Cronovia, "_s));
     EXPECT_EQ(uscita({u"-h"_s}), uscita({u"--help"_s}));
+    const Programma programma;
+    EXPECT_EQ(programma.Esegui({u"--formato"_s, u"json"_s, u"elenca"_s}).uscita, u"[\n]\n"_s);
     EXPECT_EQ(uscita({u"--help"_s, u"calcola"_s}), uscita({u"calcola"_s, u"--help"_s}));
 }
 

@@ -159,7 +159,10 @@ INSTANTIATE_TEST_SUITE_P(
     Archive, GuastoTest,
     ::testing::Values(
         Guasto{"DROP TABLE Parametri"}, Guasto{"DROP TABLE Itinerari; DROP TABLE TipoGuida"},
-        Guasto{"DROP INDEX GuidaCitta_Localita"}, Guasto{"ALTER TABLE GuidaCitta DROP COLUMN FlagVisto", u""_s},
+        Guasto{"DROP INDEX GuidaCitta_Localita"},
+        Guasto{"DROP INDEX GuidaCitta_Localita; CREATE INDEX GuidaCitta_Localita ON GuidaCitta (Descrizione)"},
+        Guasto{"DROP INDEX Itinerari_Localita; CREATE INDEX Itinerari_Localita ON Itinerari (Localita COLLATE BINARY)"},
+        Guasto{"ALTER TABLE GuidaCitta DROP COLUMN FlagVisto", u""_s},
         Guasto{"DROP TABLE MetaCorrente; ALTER TABLE TipoGuida DROP COLUMN TempoObbligatorio"},
         Guasto{"ALTER TABLE GuidaCitta RENAME COLUMN Descrizione TO DESCRIZIONE"},
         // other widths, of which every value fits

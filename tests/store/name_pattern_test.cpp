@@ -54,6 +54,15 @@ TEST(NamePattern, ExactlyKnowsNoWildcards) {
     EXPECT_TRUE(NamePattern::Exactly(u"").Matches(u""));
 }
 
+TEST(NamePattern, ANameAlwaysFindsItself) {
+    for (const QString& nome : {u"AREA #3"_s, u"Park [A]"_s, u"[sosta]"_s, u"L'AQUILA"_s, u"A*B?"_s}) {
+        EXPECT_TRUE(NamePattern::ForName(nome).Matches(nome.toLower())) << nome.toStdString();
+    }
+    EXPECT_TRUE(NamePattern::ForName(u"SANT'ANNA").Matches(u"Sant anna"));
+    EXPECT_TRUE(NamePattern::ForName(u"AREA #3").Matches(u"AREA 13"));
+    EXPECT_FALSE(NamePattern::ForName(u"AREA #3").Matches(u"AREA X3"));
+}
+
 TEST(NamePattern, ALongForeignNameHasFewStretches) {
     EXPECT_TRUE(NamePattern(u"?OMA"_s).Ranges().empty());
     EXPECT_EQ(NamePattern(u"ROMA*"_s).Ranges().size(), 1U);
