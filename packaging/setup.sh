@@ -5,7 +5,7 @@ set -eu
 
 packages_for() {
     case $1 in
-        build) echo g++ cmake ninja-build qt6-base-dev libsqlitecpp-dev libsqlite3-dev ;;
+        build) echo g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlitecpp-dev libsqlite3-dev ;;
         test) echo libgtest-dev libgmock-dev ;;
         check) echo clang-format clang-tidy ;;
         bench) echo libbenchmark-dev sqlite3 ;;
