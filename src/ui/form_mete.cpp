@@ -6,10 +6,12 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSessionManager>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -94,6 +96,7 @@ QWidget* FormMete::CreaGriglia() {
     scorrimento->setWidget(inserimento_);
     scorrimento->setWidgetResizable(true);
     scorrimento->setFrameShape(QFrame::NoFrame);
+    scorrimento->setFocusPolicy(Qt::NoFocus);
     scorrimento->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scorrimento->setMinimumWidth(inserimento_->minimumSizeHint().width() + 20);
     scorrimento->setObjectName(u"areaInserimento"_s);
@@ -122,6 +125,7 @@ void FormMete::CreaAzioni() {
 }
 
 void FormMete::Collega() {
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &FormMete::FineSessione, Qt::DirectConnection);
     connect(periodo_, &FrmMetePeriodo::Cambiata, this, &FormMete::Raccogli);
     connect(velocita_, &FrmMeteVelocita::Cambiata, this, &FormMete::Raccogli);
     connect(periodo_, &FrmMetePeriodo::InizioCambiato, this,
@@ -274,14 +278,26 @@ void FormMete::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    bool chiudo = false;
-    Esegui([&] { chiudo = scrivania_.PossoChiudere(); });
-    if (!chiudo) {
+    if (!PossoChiudere()) {
         event->ignore();
         return;
     }
     RicordaAspetto();
     event->accept();
+}
+
+bool FormMete::PossoChiudere() {
+    bool chiudo = false;
+    Esegui([&] { chiudo = scrivania_.PossoChiudere(); });
+    return chiudo;
+}
+
+// The desktop session is about to end.
+void FormMete::FineSessione(QSessionManager& sessione) {
+    if (!isVisible() || !sessione.allowsInteraction()) return;
+    const bool chiudo = PossoChiudere();
+    sessione.release();
+    if (!chiudo) sessione.cancel();
 }
 
 // Enter means the default button, Escape what leads back.

@@ -20,6 +20,7 @@
 
 class QAction;
 class QGridLayout;
+class QSessionManager;
 
 namespace cronovia {
 
@@ -53,6 +54,8 @@ class FormMete : public QMainWindow {
     void EseguiComando(ComandoItinerario comando);
     void Inserisci();
     void Esci();
+    bool PossoChiudere();
+    void FineSessione(QSessionManager& sessione);
     void RipristinaAspetto();
     void RicordaAspetto();
 
