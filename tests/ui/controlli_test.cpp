@@ -96,9 +96,7 @@ TEST_F(ControlliTest, EveryControlIsThereAndNamedForThoseWhoDoNotSeeIt) {
         const bool muto = pulsante != nullptr
                               ? pulsante->text().isEmpty()
                               : controllo->focusPolicy() != Qt::NoFocus || controllo->inherits("QLineEdit");
-        if (!muto || controllo->objectName().startsWith(u"qt_"_s) || controllo->objectName() == u"areaInserimento"_s) {
-            continue;
-        }
+        if (!muto || controllo->objectName().startsWith(u"qt_"_s)) continue;
         if (controllo->inherits("QTableCornerButton")) continue;                                       // never shown
         if (controllo->inherits("QAbstractItemView") && controllo->window() != form_.get()) continue;  // of a combo box
         if (qobject_cast<const QComboBox*>(controllo->parentWidget()) != nullptr) continue;
