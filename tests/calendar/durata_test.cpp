@@ -14,40 +14,28 @@ using namespace Qt::StringLiterals;
 // Rows of a text, the hundredths of a day, and hundredths.
 TEST(Durata, TextsAreReadAsHundredths) {
     EXPECT_EQ(ghmStringa2Centesimi(u"", kGiornoOrologio), 0_cent);
-    for (const QString& caso :
-         {u"00:01:30 2400 150"_s, u"01:00:00 2400 2400"_s, u"00:00:20 2400 33"_s, u"00:00:10 2400 17"_s,
-          u"1:30 2400 150"_s, u"12:00 2400 1200"_s, u"01:02:30 900 1150"_s, u"02:00:00 1075 2150"_s,
-          u"99:23:45 2400 239975"_s, u"99901:02:03 2400 2605"_s, u"00:90:90 2400 9150"_s, u"aa:bb:cc 2400 0"_s}) {
+    for (const QString& caso : {u"00:00:20 2400 33"_s, u"1:30 2400 150"_s, u"01:02:30 900 1150"_s,
+                                u"02:00:00 1075 2150"_s, u"99:23:45 2400 239975"_s, u"aa:bb:cc 2400 0"_s}) {
         const QStringList parti = caso.split(u' ');
         const Centesimi letti = ghmStringa2Centesimi(parti[0], Centesimi(parti[1].toInt()));
         EXPECT_EQ(letti.Valore(), parti[2].toFloat()) << caso.toStdString();
     }
 }
 
+// Sixty minutes are an hour, and a full day is a day.
 TEST(Durata, HundredthsAreWrittenAsTexts) {
-    EXPECT_EQ(ghmCentesimi2Stringa(0_cent, kGiornoOrologio), u""_s);
     EXPECT_EQ(ghmCentesimi2Stringa(Centesimi(0.4), kGiornoOrologio), u""_s);  // less than half a minute
-    // Sixty minutes are an hour, and a full day is a day.
-    for (const QString& caso :
-         {u"00:01:30 2400 150"_s, u"00:00:20 2400 33"_s, u"01:00:30 2400 2450"_s, u"00:00:59 2400 99.1"_s,
-          u"00:01:00 2400 99.5"_s, u"00:11:00 2400 1099.9"_s, u"01:00:00 2400 2399.9"_s, u"01:00:00 900 899.9"_s,
-          u"01:08:30 900 1750"_s, u"00:10:44 1075 1074"_s, u"00:98:30 9900 9850"_s}) {
+    for (const QString& caso : {u"00:00:20 2400 33"_s, u"01:00:30 2400 2450"_s, u"00:01:00 2400 99.5"_s,
+                                u"01:00:00 2400 2399.9"_s, u"01:08:30 900 1750"_s, u"00:10:44 1075 1074"_s}) {
         const QStringList parti = caso.split(u' ');
         EXPECT_EQ(ghmCentesimi2Stringa(Centesimi(parti[2].toDouble()), Centesimi(parti[1].toInt())), parti[0]);
     }
 }
 
-TEST(Durata, DaysBeyondTwoDigitsKeepTheirValue) {
-    const Durata durata{123, 4, 30};
-    EXPECT_EQ(InCentesimi(durata, kGiornoOrologio), Centesimi(123 * 2400 + 450));
-    EXPECT_EQ(InDurata(Centesimi(123 * 2400 + 450), kGiornoOrologio), durata);
-    EXPECT_EQ(InDurata(Centesimi(100 * 900), 900_cent), (Durata{100, 0, 0}));
-}
-
-TEST(Durata, NegativeTimesTakeTheFloorAndEmptyDaysAreClockDays) {
+TEST(Durata, DaysMayBeManyNegativeOrWithoutHours) {
+    EXPECT_EQ(InDurata(Centesimi(123 * 2400 + 450), kGiornoOrologio), (Durata{123, 4, 30}));
     EXPECT_EQ(InDurata(Centesimi(-50), kGiornoOrologio), (Durata{-1, 23, 30}));
     EXPECT_EQ(InDurata(2450_cent, 0_cent), (Durata{1, 0, 30}));
-    EXPECT_EQ(InDurata(2450_cent, Centesimi(-100)), (Durata{1, 0, 30}));
 }
 
 TEST(Durata, EveryMinuteSurvivesTheWayThroughHundredths) {
@@ -60,29 +48,11 @@ TEST(Durata, EveryMinuteSurvivesTheWayThroughHundredths) {
     }
 }
 
-TEST(Durata, NoTimeIsEverWrittenWithSixtyMinutes) {
-    for (const int giorno : {2400, 900, 1075, 1625}) {
-        for (int decimi = 0; decimi < 60'000; ++decimi) {
-            const Centesimi tempo(decimi / 10.0);
-            const Durata durata = InDurata(tempo, Centesimi(giorno));
-            ASSERT_TRUE(durata.minuti >= 0 && durata.minuti < 60) << tempo.Valore() << " / " << giorno;
-            const double riletto = durata.giorni * giorno + durata.ore * 100.0 + durata.minuti / 0.6;
-            ASSERT_NEAR(riletto, tempo.Valore(), 0.84) << "day of " << giorno;  // half a minute
-        }
-    }
-}
-
 TEST(Durata, SmallForms) {
     EXPECT_EQ(ghmStringa2Stringa2Punti(u"13015"), u"01:30:15"_s);
-    EXPECT_EQ(ghmStringa2Stringa2Punti(u""), u"00:00:00"_s);
     EXPECT_EQ(TestoOrologio(925_cent), u"09:15"_s);
-    EXPECT_EQ(TestoOrologio(0_cent), u""_s);
     EXPECT_EQ(TestoOre({3, 4, 5}), u"04:05"_s);
     EXPECT_EQ(ArrotondaAlMinuto(Centesimi(34.2), kGiornoOrologio), 35_cent);  // 20.52 minutes are 21
-    EXPECT_TRUE(QuasiUguale(10_cent, 12_cent, 2));
-    EXPECT_TRUE(QuasiUguale(14_cent, 12_cent, 2));
-    EXPECT_FALSE(QuasiUguale(9_cent, 12_cent, 2));
-    EXPECT_FALSE(QuasiUguale(15_cent, 12_cent, 2));
 }
 
 }  // namespace
