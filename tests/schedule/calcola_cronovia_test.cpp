@@ -11,44 +11,26 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Asks to stop after so many questions.
-class Interruttore : public Progress {
-  public:
-    explicit Interruttore(int domande) : domande_(domande) {}
-    void Title(const QString& title) override { titoli_ += title; }
-    bool StopRequested() override { return --domande_ < 0; }
-    [[nodiscard]] const QStringList& Titoli() const { return titoli_; }
-
-  private:
-    int domande_;
-    QStringList titoli_;
+struct Titoli : Progress {
+    void Title(const QString& title) override { titoli += title; }
+    QStringList titoli;
 };
 
 class CalcolaCronoviaTest : public testing::Test {
   protected:
     CalcolaCronoviaTest() {
-        meta_.localita = u"ROMA"_s;
         meta_.dataInizio = NumeroGiorno(730135);
         meta_.oraInizio = 800_cent;
         meta_.parametri = prova::ParametriSemplici();
     }
 
     void Aggiungi(int km, Durata sosta = {}, std::optional<TipoStrada> tipo = TipoStrada::Autostrada) {
-        Tappa tappa;
-        tappa.localita = u"TAPPA %1"_s.arg(tappe_.size());
-        tappa.km = km;
-        tappa.sosta = sosta;
-        tappa.tipo = tipo;
-        tappe_.push_back(tappa);
+        tappe_.push_back({u"TAPPA %1"_s.arg(tappe_.size()), {}, km, tipo, sosta, false, {}});
     }
 
     EsitoCalcolo Calcola() {
-        Progress progress;
-        return Calcola(progress);
-    }
-    EsitoCalcolo Calcola(Progress& progress) {
         LettoreGuida guida(archive_);
-        return CalcolaCronovia(meta_, tappe_, guida, progress);
+        return CalcolaCronovia(meta_, tappe_, guida, progress_);
     }
 
     // Ten stages of an hour's drive, each with a stop of nine hours, a whole visiting day.
@@ -58,22 +40,14 @@ class CalcolaCronoviaTest : public testing::Test {
 
     prova::CartellaDiProva cartella_;
     Archive archive_ = Archive::Open(cartella_.Percorso());
+    Titoli progress_;
     Meta meta_;
     std::vector<Tappa> tappe_;
 };
 
-TEST_F(CalcolaCronoviaTest, WithoutDaysWantedMakesOnePassAndSaysNothing) {
-    ViaggioDiVisite();
-    const EsitoCalcolo esito = Calcola();
-    EXPECT_EQ(esito.tentativi, 1);
-    EXPECT_EQ(esito.messaggio, QString());
-    ASSERT_TRUE(esito.cronovia);
-    EXPECT_GE(esito.cronovia->fine->giorni, 10);
-}
-
 TEST_F(CalcolaCronoviaTest, FitsTheStopsToTheDaysWanted) {
     ViaggioDiVisite();
-    for (const int giorni : {4, 6, 8, 15}) {
+    for (const int giorni : {4, 8, 15}) {
         meta_.giorniAdeguamento = giorni;
         const EsitoCalcolo esito = Calcola();
         EXPECT_EQ(esito.cronovia->fine->giorni, giorni);
@@ -85,31 +59,21 @@ TEST_F(CalcolaCronoviaTest, GivesUpAfterElevenPasses) {
     ViaggioDiVisite();
     meta_.giorniAdeguamento = 1;
     tappe_[0].km = 5000;
-    Interruttore titoli(1'000'000);
-    const EsitoCalcolo esito = Calcola(titoli);
+    const EsitoCalcolo esito = Calcola();
     EXPECT_EQ(esito.tentativi, 11);
     EXPECT_EQ(esito.messaggio, u"Elaborazione impossibile! (tentativi effettuati n. 11)"_s);
     EXPECT_TRUE(esito.cronovia) << "the last pass stays";
     // 59 hours of driving and 90 of visits are 16 visiting days: (16 + 1) * 1.25 + 0.5 is the first guess.
-    EXPECT_TRUE(titoli.Titoli().contains(u"Calcolo della cronovia, text n. 1/11 [21/1*I=0,047]"_s))
-        << titoli.Titoli().join(u'\n').toStdString();
+    EXPECT_EQ(progress_.titoli.value(1), u"Calcolo della cronovia, text n. 1/11 [21/1*I=0,047]"_s);
 }
 
 TEST_F(CalcolaCronoviaTest, WithoutKilometresDoesNotScale) {
     Aggiungi(0, {2, 0, 0});
     meta_.giorniAdeguamento = 5;
     const EsitoCalcolo esito = Calcola();
-    EXPECT_EQ(esito.tentativi, 1);
     EXPECT_EQ(esito.messaggio, u"Elaborazione impossibile! (tentativi effettuati n. 1)"_s);
     EXPECT_EQ(ColonneCronovia(*esito.cronovia, 0)[Colonna::Sosta], u"02:00:00"_s);
     for (const QString& testo : TestiFine(*esito.cronovia)) EXPECT_EQ(testo, QString());
-}
-
-TEST_F(CalcolaCronoviaTest, StopsWhenAskedTo) {
-    ViaggioDiVisite();
-    meta_.giorniAdeguamento = 6;
-    Interruttore nelSecondoTentativo(15);
-    EXPECT_FALSE(Calcola(nelSecondoTentativo).cronovia);
 }
 
 TEST_F(CalcolaCronoviaTest, RefusesWhatCannotBeComputed) {
@@ -122,24 +86,15 @@ TEST_F(CalcolaCronoviaTest, RefusesWhatCannotBeComputed) {
     meta_.parametri = prova::ParametriSemplici();
     meta_.parametri.fineVisita = 0_cent;
     EXPECT_TRUE(prova::MessaggioDi([&] { Calcola(); }).contains(u"fine visite"_s));
-    meta_.parametri = prova::ParametriSemplici();
     meta_.dataInizio.reset();
     EXPECT_TRUE(prova::MessaggioDi([&] { Calcola(); }).contains(u"data d'inizio"_s));
-}
-
-TEST_F(CalcolaCronoviaTest, AnEmptyItineraryHasAnEmptySchedule) {
-    const EsitoCalcolo esito = Calcola();
-    ASSERT_TRUE(esito.cronovia);
-    EXPECT_TRUE(esito.cronovia->righe.empty());
 }
 
 TEST_F(CalcolaCronoviaTest, EndsAlthoughAStopBehindTheLastPieceIsStretchedAgainAndAgain) {
     Aggiungi(0);
     Aggiungi(140, {0, 4, 0});
     meta_.giorniAdeguamento = 997;
-    const EsitoCalcolo esito = Calcola();
-    EXPECT_EQ(esito.tentativi, 11);
-    EXPECT_LE(esito.cronovia->righe.back().data - *meta_.dataInizio, 1000);
+    EXPECT_LE(Calcola().cronovia->righe.back().data - *meta_.dataInizio, 1000);
 }
 
 TEST_F(CalcolaCronoviaTest, StopsOfAHundredDaysCountInFull) {

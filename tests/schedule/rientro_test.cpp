@@ -15,13 +15,8 @@ QStringList Limiti(const Viaggio& viaggio) {
     Passata passata = viaggio.Simula();
     Progress progress;
     SegnaRientro(passata.righe, passata.data, passata.ora, Aggiorna(viaggio.parametri).parametri, progress);
-    Cronovia cronovia;
-    cronovia.tabella = viaggio.tabella;
-    cronovia.righe = passata.righe;
     QStringList limiti;
-    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) {
-        limiti += ColonneCronovia(cronovia, i)[Colonna::LimiteRitorno];
-    }
+    for (const RigaGriglia& testi : prova::Testi(viaggio, passata.righe)) limiti += testi[Colonna::LimiteRitorno];
     return limiti;
 }
 
@@ -29,37 +24,18 @@ TEST(Rientro, GoesBackThroughMealsAndNights) {
     // A at 10, a stop until 15, B at 18, dinner on the way at 19, C at 21. From 21 back: an hour to 20, another one and
     // the dinner to 18, three to 15, two to 13. From there, two hours and the lunch lead home from A at 10; from B,
     // three more would have had to begin at 7, long before B is reached.
-    const Viaggio viaggio = Viaggio().Tappa("P", 0).Tappa("A", 200, {0, 5, 0}).Tappa("B", 300).Tappa("C", 200);
-    EXPECT_EQ(Limiti(viaggio), QStringList({QString(), u"<01/01-10:00"_s, QString(), u">01/01-18:00"_s,
-                                            u">01/01-20:00"_s, u">01/01-21:00"_s}));
+    EXPECT_EQ(Limiti(Viaggio().Tappa("P", 0).Tappa("A", 200, {0, 5, 0}).Tappa("B", 300).Tappa("C", 200)),
+              QStringList(
+                  {QString(), u"<01/01-10:00"_s, QString(), u">01/01-18:00"_s, u">01/01-20:00"_s, u">01/01-21:00"_s}));
+    // 1,500 km: 12:00, 19:00, 22:00 and 11:00 of the next day. Back from 11:00: 300 km to 8:00; 200 km to 6:00, which
+    // is 20:00 of the day before, at the end of a dinner begun at 19:00; and so on to 13:00 and noon.
+    EXPECT_EQ(Limiti(Viaggio().Tappa("A", 1500)),
+              QStringList({u">01/01-13:00"_s, u">01/01-20:00"_s, u">02/01-08:00"_s, u">02/01-11:00"_s}));
 }
 
 TEST(Rientro, TheLastDrivingRowHasNoMarkBeforeAStop) {
-    const Viaggio viaggio = Viaggio().Tappa("A", 100).Tappa("B", 100, {0, 1, 0});
-    EXPECT_EQ(Limiti(viaggio), QStringList({u">01/01-10:00"_s, u"<01/01-08:00"_s, u">01/01-11:00"_s}));
-}
-
-TEST(Rientro, GoesBackToTheDayBefore) {
-    // 1,500 km: 12:00, 19:00, 22:00 and 11:00 of the next day. Back from 11:00: 300 km to 8:00; 200 km to 6:00, which
-    // is 20:00 of the day before, at the end of a dinner begun at 19:00; and so on to 13:00 and noon.
-    const QStringList limiti = Limiti(Viaggio().Tappa("A", 1500));
-    EXPECT_EQ(limiti, QStringList({u">01/01-13:00"_s, u">01/01-20:00"_s, u">02/01-08:00"_s, u">02/01-11:00"_s}));
-}
-
-TEST(Rientro, TurnsBackAcrossTheNewYearAsOnAnyDay) {
-    Viaggio viaggio;
-    viaggio.Tappa("P", 0).Tappa("A", 100, {2, 0, 0}).Tappa("B", 100, {2, 0, 0}).Tappa("P", 300);
-    const auto senzaGiorni = [&](NumeroGiorno partenza) {
-        viaggio.dataInizio = partenza;
-        QStringList limiti = Limiti(viaggio);
-        for (QString& limite : limiti) limite.remove(1, 6);
-        return limiti;
-    };
-    const QStringList inPrimavera = senzaGiorni(Data2Giul(u"10052000"));
-    EXPECT_TRUE(inPrimavera.contains(u"<18:00"_s)) << inPrimavera.join(u' ').toStdString();
-    for (const QStringView partenza : {u"28121999", u"29121999", u"30121999", u"31121999"}) {
-        EXPECT_EQ(senzaGiorni(Data2Giul(partenza)), inPrimavera);
-    }
+    EXPECT_EQ(Limiti(Viaggio().Tappa("A", 100).Tappa("B", 100, {0, 1, 0})),
+              QStringList({u">01/01-10:00"_s, u"<01/01-08:00"_s, u">01/01-11:00"_s}));
 }
 
 TEST(Rientro, EndsWithATimetableThatLeavesNoTimeToDrive) {
@@ -69,8 +45,7 @@ TEST(Rientro, EndsWithATimetableThatLeavesNoTimeToDrive) {
     viaggio.parametri.durataPranzo = 350_cent;
     viaggio.parametri.durataCena = 250_cent;
     viaggio.parametri.oraNotte = 1900_cent;
-    viaggio.Tappa("A", 2000);
-    EXPECT_FALSE(Limiti(viaggio).isEmpty());
+    EXPECT_FALSE(Limiti(viaggio.Tappa("A", 2000)).isEmpty());
 }
 
 }  // namespace

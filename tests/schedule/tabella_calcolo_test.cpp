@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 
 #include "store/archive.h"
 #include "support/prova.h"
@@ -32,44 +33,31 @@ class TabellaCalcoloTest : public testing::Test {
 };
 
 Tappa Fermata(const QString& localita, Durata sosta, bool fineGiorno = false) {
-    Tappa tappa;
-    tappa.localita = localita;
-    tappa.km = 10;
-    tappa.sosta = sosta;
-    tappa.fineGiorno = fineGiorno;
-    return tappa;
+    return {localita, {}, 10, TipoStrada::Autostrada, sosta, fineGiorno, {}};
 }
 
 TEST_F(TabellaCalcoloTest, AppliesEachPolicy) {
-    struct Caso {
-        CalcoloSoste calcolo;
-        int itinerario;  // hours
-        int guida;
-        int restaItinerario;
-        int restaGuida;
-        bool restaFineGiorno;
-    };
     using enum CalcoloSoste;
-    for (const Caso& caso :
-         {Caso{SosteItinerario, 1, 2, 1, 0, true}, Caso{SosteGuida, 1, 2, 0, 2, false},
-          Caso{SostaMaggiore, 1, 1, 1, 0, true}, Caso{SostaMaggiore, 1, 2, 0, 2, true},
-          Caso{SostaMaggiore, 2, 1, 2, 0, true}, Caso{SostaMaggiore, 2, 0, 2, 0, true},
-          Caso{SostaMinore, 1, 2, 1, 0, true}, Caso{SostaMinore, 2, 1, 0, 1, true}, Caso{SostaMinore, 3, 0, 3, 0, true},
-          Caso{SostaMinore, 0, 2, 0, 0, true}, Caso{NessunaSosta, 1, 2, 0, 0, false},
-          // Neither stop: the day's end stays under every policy.
-          Caso{SosteGuida, 0, 0, 0, 0, true}, Caso{NessunaSosta, 0, 0, 0, 0, true}}) {
-        archive_.Insert(Tabella::GuidaCitta,
-                        std::array<QString, 5>{u"ROMA"_s, u"01"_s, u"Foro"_s, u"0%1:00"_s.arg(caso.guida), u"0"_s});
-        const RigaCalcolo riga = Prepara({Fermata(u"ROMA"_s, {0, caso.itinerario, 0}, true)}, caso.calcolo).righe.at(0);
-        const auto caso_ = testing::Message()
-                           << static_cast<int>(caso.calcolo) << " " << caso.itinerario << " " << caso.guida;
-        EXPECT_EQ(riga.sostaItinerario, (Durata{0, caso.restaItinerario, 0})) << caso_;
-        EXPECT_EQ(riga.sostaGuida, (Durata{0, caso.restaGuida, 0})) << caso_;
-        EXPECT_EQ(riga.sosta, (Durata{0, caso.restaItinerario + caso.restaGuida, 0})) << caso_;
-        EXPECT_EQ(riga.fineGiorno, caso.restaFineGiorno) << caso_;
-        Progress progress;
-        archive_.CancellaTabella(Tabella::GuidaCitta, std::nullopt, progress);
-    }
+    Voce(u"GUIDA 1"_s, u"01:00"_s);
+    Voce(u"GUIDA 2"_s, u"02:00"_s);
+    // Hours of the itinerary and of the guide that stay, and the day's end.
+    const auto resta = [&](CalcoloSoste calcolo, int itinerario, int guida) {
+        const Tappa tappa = Fermata(u"GUIDA %1"_s.arg(guida), {0, itinerario, 0}, true);
+        const RigaCalcolo riga = Prepara({tappa}, calcolo).righe.at(0);
+        EXPECT_EQ(riga.sosta, (Durata{0, riga.sostaItinerario.ore + riga.sostaGuida.ore, 0}));
+        return std::tuple(riga.sostaItinerario.ore, riga.sostaGuida.ore, riga.fineGiorno);
+    };
+    EXPECT_EQ(resta(SosteItinerario, 1, 2), std::tuple(1, 0, true));
+    EXPECT_EQ(resta(SosteGuida, 1, 2), std::tuple(0, 2, false));
+    EXPECT_EQ(resta(SostaMaggiore, 1, 1), std::tuple(1, 0, true));
+    EXPECT_EQ(resta(SostaMaggiore, 1, 2), std::tuple(0, 2, true));
+    EXPECT_EQ(resta(SostaMaggiore, 2, 1), std::tuple(2, 0, true));
+    EXPECT_EQ(resta(SostaMinore, 1, 2), std::tuple(1, 0, true));
+    EXPECT_EQ(resta(SostaMinore, 2, 1), std::tuple(0, 1, true));
+    EXPECT_EQ(resta(SostaMinore, 3, 0), std::tuple(3, 0, true));
+    EXPECT_EQ(resta(SostaMinore, 0, 2), std::tuple(0, 0, true));
+    EXPECT_EQ(resta(NessunaSosta, 1, 2), std::tuple(0, 0, false));
+    EXPECT_EQ(resta(NessunaSosta, 0, 0), std::tuple(0, 0, true)) << "neither stop: every policy keeps the day's end";
 }
 
 TEST_F(TabellaCalcoloTest, GivesGuideTimesOnceAndKnowsTheTotal) {
@@ -84,8 +72,7 @@ TEST_F(TabellaCalcoloTest, GivesGuideTimesOnceAndKnowsTheTotal) {
     EXPECT_EQ(tabella.righe[1].tappa.guida, (Durata{0, 1, 0}));
     EXPECT_EQ(tabella.righe[2].tappa.guida, Durata());
     EXPECT_EQ(tabella.righe[2].voci->size(), 2U) << "its entries are listed all the same";
-    // 2:30, 1:00 and one visiting day of nine hours.
-    EXPECT_EQ(tabella.totaleSoste, 1250_cent);
+    EXPECT_EQ(tabella.totaleSoste, 1250_cent) << "2:30, 1:00 and one visiting day of nine hours";
 }
 
 }  // namespace

@@ -25,10 +25,7 @@ inline ParametriViaggio ParametriSemplici() {
     p.inizioVisita = 900_cent;
     p.fineVisita = 1800_cent;
     p.oreTraghetti = 200_cent;
-    p.riposoMinuti = 0;
-    p.riposoOre = 0;
-    p.riposoGiorno = 0;
-    p.riposoDopoGiorni = 0;
+    p.riposoMinuti = p.riposoOre = p.riposoGiorno = p.riposoDopoGiorni = 0;
     return p;
 }
 
@@ -42,12 +39,8 @@ struct Viaggio {
     Viaggio& Tappa(const char* localita, int km, Durata sosta = {}, bool fineGiorno = false, const char* strada = "A1",
                    VociGuida voci = {}) {
         RigaCalcolo riga;
-        riga.tappa.localita = QString::fromUtf8(localita);
-        riga.tappa.km = km;
-        riga.tappa.tipo = TipoStrada::Autostrada;
-        riga.tappa.numStrada = QString::fromUtf8(strada);
-        riga.tappa.sosta = sosta;
-        riga.tappa.fineGiorno = fineGiorno;
+        riga.tappa = {
+            QString::fromUtf8(localita), QString::fromUtf8(strada), km, TipoStrada::Autostrada, sosta, fineGiorno, {}};
         riga.sosta = sosta;
         riga.fineGiorno = fineGiorno;
         riga.voci = std::make_shared<VociGuida>(std::move(voci));
@@ -59,33 +52,30 @@ struct Viaggio {
         std::vector<Durata> soste;
         for (const RigaCalcolo& riga : tabella.righe) soste.push_back(riga.sosta);
         Progress progress;
-        const ParametriConvertiti convertiti = Aggiorna(parametri);
-        return SimulaPassata({tabella, soste, dataInizio, oraInizio, convertiti, fattore}, progress);
+        return SimulaPassata({tabella, soste, dataInizio, oraInizio, Aggiorna(parametri), fattore}, progress);
     }
 };
 
-/// "Sab 01 12:00 verso: Roma 400 Pranzo": weekday, day, hour, name, kilometres, stop and notes of each row.
-inline QStringList RigheBrevi(const TabellaCalcolo& tabella, const std::vector<RigaCronovia>& righe, int riposo) {
+/// The grid's texts of some rows of the journey.
+inline std::vector<RigaGriglia> Testi(const Viaggio& viaggio, const std::vector<RigaCronovia>& righe) {
     Cronovia cronovia;
-    cronovia.tabella = tabella;
+    cronovia.tabella = viaggio.tabella;
     cronovia.righe = righe;
-    cronovia.riposoMinuti = riposo;
-    QStringList brevi;
-    for (std::size_t i = 0; i < righe.size(); ++i) {
-        const RigaGriglia testi = ColonneCronovia(cronovia, i);
-        QStringList parti;
-        for (const QString& parte :
-             {testi[Colonna::GiornoSettimana], testi[Colonna::Data].left(2), testi[Colonna::Ora], testi[Colonna::Tappa],
-              testi[Colonna::Km], testi[Colonna::Sosta], testi[Colonna::Note]}) {
-            if (!parte.isEmpty()) parti += parte;
-        }
-        brevi += parti.join(QLatin1Char(' '));
-    }
-    return brevi;
+    cronovia.riposoMinuti = viaggio.parametri.riposoMinuti;
+    std::vector<RigaGriglia> testi;
+    for (std::size_t i = 0; i < righe.size(); ++i) testi.push_back(ColonneCronovia(cronovia, i));
+    return testi;
 }
 
+/// "Sab 01 12:00 verso: Roma 400 Pranzo": weekday, day, hour, name, kilometres, stop and notes of each row.
 inline QStringList RigheBrevi(const Viaggio& viaggio, float fattore = 1) {
-    return RigheBrevi(viaggio.tabella, viaggio.Simula(fattore).righe, viaggio.parametri.riposoMinuti);
+    using enum Colonna;
+    QStringList brevi;
+    for (const RigaGriglia& t : Testi(viaggio, viaggio.Simula(fattore).righe)) {
+        const QStringList parti = {t[GiornoSettimana], t[Data].left(2), t[Ora], t[Tappa], t[Km], t[Sosta], t[Note]};
+        brevi += parti.join(QLatin1Char(' ')).simplified();
+    }
+    return brevi;
 }
 
 }  // namespace cronovia::prova
