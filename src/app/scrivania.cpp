@@ -57,10 +57,12 @@ void Scrivania::MettiSulTavolo(MetaAperta aperta) {
     RicalcolaTempi();
 }
 
-// The trip that is current in the archive, with its itinerary; an empty desk when there is none. All is read before
-// anything is replaced: what is on screen may exist nowhere else.
+// The trip on the desk as it is stored, the one that is current in the archive when that is gone, an empty desk when
+// there is none. All is read before anything is replaced: what is on screen may exist nowhere else.
 void Scrivania::CaricaMetaCorrente() {
-    const QString codice = RicercaMetaCorrente(sessione_.Archivio());
+    Archive& archivio = sessione_.Archivio();
+    const bool esiste = CaricaDatiAnagraficiMeta(archivio, codiceMetaCorrente_).has_value();
+    const QString codice = esiste ? codiceMetaCorrente_ : RicercaMetaCorrente(archivio);
     MettiSulTavolo(codice.isEmpty() ? MetaAperta{sessione_.MetaProposta(volti_.adesso()), {}, {}}
                                     : sessione_.ApriMeta(codice));
     codiceMetaCorrente_ = codice;
@@ -91,6 +93,7 @@ void Scrivania::Ricerca() {
             volti_.interazione.Show({u"Nessuna mèta nel database!"_s, u"Database vuoto"_s, Icon::Exclamation});
             return;
         }
+        modoPrimaDellElenco_ = modoComandi_;
         ApplicaModo(u"NuEs"_s);
         elencoMete_ = std::move(elenco);
     });
@@ -98,22 +101,25 @@ void Scrivania::Ricerca() {
 
 void Scrivania::ScegliMeta(const QString& codice) {
     Prova([&] {
-        sessione_.ApriMeta(codice);  // refused here when another window deleted it
+        MetaAperta scelta = sessione_.ApriMeta(codice);  // refused here when another window deleted it
         SalvaIlCodiceMetaCorrente(sessione_.Archivio(), codice);
-        CaricaMetaCorrente();
+        MettiSulTavolo(std::move(scelta));
+        codiceMetaCorrente_ = codice;
+        ApplicaModo(u"All"_s);
     });
 }
 
+// What was on the desk before the search is there still.
 void Scrivania::ChiudiElencoMete() {
-    Prova([&] { CaricaMetaCorrente(); });
+    elencoMete_.reset();
+    ApplicaModo(modoPrimaDellElenco_);
 }
 
 void Scrivania::Salva() {
     Prova([&] {
-        AggiornaOrari();
         const Salvataggio salvataggio = DecidiSalvataggio(sessione_.Archivio(), meta_);
         if (!BoxConferma(volti_.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
-        SalvaMeta(sessione_.Archivio(), meta_, salvataggio);
+        codiceMetaCorrente_ = SalvaMeta(sessione_.Archivio(), meta_, salvataggio);
         CaricaMetaCorrente();
         AggiornaOrari();
     });

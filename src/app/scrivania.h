@@ -111,6 +111,7 @@ class Scrivania {
     std::optional<Cronovia> cronovia_;
     std::optional<std::vector<MetaInElenco>> elencoMete_;
     Cronologia cronologia_;
+    QString modoPrimaDellElenco_;
     QString modoComandi_ = QStringLiteral("ZZ");
     QString modoItinerario_ = QStringLiteral("ZZ");
     bool inserimento_ = false;

@@ -118,13 +118,15 @@ void Scrivania::Memorizza() {
         volti_.interazione.Ask({u"Vuoi recuperare l'itinerario originale?"_s, titolo}) != Answer::Yes) {
         return;
     }
-    if (risposta == Answer::Yes && !MemorizzaTappe()) return;
-    const int riga = risposta == Answer::Yes ? rigaCorrente_ : 1;
+    if (risposta == Answer::Yes) {
+        MemorizzaTappe();
+        return;
+    }
     Prova([&] {
         CaricaMetaCorrente();
         ApplicaModo(u"ZZ"_s);
         modoItinerario_ = u"all"_s;
-        SelezionaRiga(riga);
+        SelezionaRiga(1);
     });
 }
 

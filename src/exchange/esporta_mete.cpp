@@ -52,7 +52,8 @@ class ScrittoreIei {
 
     /// Lays the file in its place; returns how many characters travel as another one.
     qint64 Chiudi() {
-        if (!file_.commit()) NonScritto();
+        // `commit` alone does not tell when the last bytes found no room.
+        if (!file_.flush() || !file_.commit()) NonScritto();
         return sostituiti_;
     }
 

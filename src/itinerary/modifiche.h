@@ -24,6 +24,8 @@ struct CampiTappa {
     std::optional<TipoStrada> tipo;
     Durata sosta;
     bool fineGiorno = false;
+
+    friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };
 
 /// The fields as a row shows them: a free row proposes the road of the row above; a row without type counts as local.

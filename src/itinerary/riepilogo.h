@@ -35,6 +35,8 @@ TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno);
 struct TempiTappa {
     std::int64_t kmProgressivi = 0;
     std::optional<Centesimi> tempo;  ///< nothing without kilometres or without a speed for its road
+
+    friend bool operator==(const TempiTappa&, const TempiTappa&) = default;
 };
 
 struct RiepilogoItinerario {

@@ -41,7 +41,7 @@ std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
 }
 
 // Within a transaction of the caller. A code that another window took meanwhile is left to it.
-void Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvataggio) {
+QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvataggio) {
     Meta meta = nuova;
     meta.localita = meta.localita.trimmed();
     if (meta.localita.contains("AUTOSTRADA"_L1, Qt::CaseInsensitive)) meta.localita = meta.localita.toLower();
@@ -55,6 +55,7 @@ void Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvataggio)
         archive.Insert(Tabella::MeteVandro, ValoriDellaMeta(meta));
     }
     SalvaIlCodiceMetaCorrente(archive, meta.codice);
+    return meta.codice;
 }
 
 }  // namespace
@@ -93,10 +94,11 @@ Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta) {
     return {true, NuovoCodiceMeta(CodiciDelleMete(archive))};
 }
 
-void SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio) {
+QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio) {
     Transaction transaction(archive);
-    Scrivi(archive, meta, salvataggio);
+    QString codice = Scrivi(archive, meta, salvataggio);
     transaction.Commit();
+    return codice;
 }
 
 QString InserisciMeta(Archive& archive, const Meta& nuova) {

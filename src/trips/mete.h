@@ -31,8 +31,9 @@ struct Salvataggio {
 /// changed. Refused without destination or country.
 Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta);
 
-/// Carries it out and makes the trip the current one. A destination that names a motorway is stored in small letters.
-void SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio);
+/// Carries it out, makes the trip the current one and returns its code, another one when a second window took that of
+/// the new trip meanwhile. A destination that names a motorway is stored in small letters.
+QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio);
 
 /// Saves a new trip, makes it the current one and returns its code. Refused when a trip has that destination already.
 QString InserisciMeta(Archive& archive, const Meta& nuova);

@@ -1,5 +1,6 @@
 #include "ui/controlli.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QLayout>
 #include <QMessageBox>
@@ -32,10 +33,28 @@ QStringList Numeri(int da, int a, int cifre, int passo) {
 
 QStringList Quarti() { return Numeri(0, 45, 2, 15); }
 
+namespace {
+
+// The wheel scrolls; it changes a list only once that was gone into.
+class SenzaRotella : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() != QEvent::Wheel || qobject_cast<QWidget*>(oggetto)->hasFocus()) return false;
+        evento->ignore();
+        return true;
+    }
+};
+
+}  // namespace
+
 QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione) {
     auto* elenco = new QComboBox;
     Presenta(*elenco, nome, istruzione);
     elenco->addItems(voci);
+    elenco->setFocusPolicy(Qt::StrongFocus);
+    elenco->installEventFilter(new SenzaRotella(elenco));
     elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     elenco->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     return elenco;

@@ -26,15 +26,6 @@ namespace {
 constexpr int kRigheMinimeGriglia = 17;
 constexpr int kColonneLocalita = 31;
 
-QListWidget* NuovaLista(const QString& nome, const QString& descrizione) {
-    auto* lista = new QListWidget;
-    lista->setObjectName(nome);
-    lista->setAccessibleName(descrizione);
-    lista->setFrameShape(QFrame::StyledPanel);
-    lista->hide();
-    return lista;
-}
-
 }  // namespace
 
 FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
@@ -47,8 +38,8 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       bottoni_(new FrmBottoni),
       inserimento_(new FrmInputBox),
       griglia_(new VistaGriglia),
-      cmbRicerca_(NuovaLista(u"cmbRicerca"_s, u"Mète memorizzate"_s)),
-      cmbRicercaTappa_(NuovaLista(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
+      cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)),
+      cmbRicercaTappa_(new ElencoScelta(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
       annulla_(new QAction(this)),
       ripeti_(new QAction(this)),
       scrivania_(cartella, {interazione_, *avanzamento_, std::move(adesso), [this] { Mostra(); }}) {
@@ -130,7 +121,8 @@ void FormMete::Collega() {
     connect(velocita_, &FrmMeteVelocita::Cambiata, this, &FormMete::Raccogli);
     connect(periodo_, &FrmMetePeriodo::InizioCambiato, this,
             [this] { Esegui([this] { scrivania_.AggiornaOrari(); }); });
-    connect(tempi_, &FrmMeteTempi::Cambiata, this, [this] { Esegui([this] { scrivania_.ControllaOrari(); }); });
+    connect(tempi_, &FrmMeteTempi::Cambiata, this, &FormMete::Raccogli);
+    connect(tempi_, &FrmMeteTempi::OrarioLasciato, this, [this] { Esegui([this] { scrivania_.ControllaOrari(); }); });
     connect(tempi_, &FrmMeteTempi::Default, this, [this](int comando) {
         Esegui([this, comando] {
             if (comando == 0) scrivania_.SalvaDefault();
@@ -146,20 +138,20 @@ void FormMete::Collega() {
         Esegui([this, righe] { scrivania_.SelezionaRiga(scrivania_.RigaCorrente() + righe); });
         griglia_->setFocus();
     });
-    connect(griglia_, &VistaGriglia::RigaScelta, this, [this](int riga) {
-        if (scrivania_.CronoviaMostrata()) return;
-        Esegui([this, riga] { scrivania_.SelezionaRiga(riga + 1); });
+    // However a row became the current one, commands act on it.
+    connect(griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
+        if (!scrivania_.CronoviaMostrata()) Esegui([this, riga] { scrivania_.SelezionaRiga(riga + 1); });
+    });
+    connect(griglia_, &QTableView::clicked, this, [this] {
         if (scrivania_.InserimentoVisibile()) inserimento_->FuocoSullaTappa();
     });
-    connect(cmbRicerca_, &QListWidget::itemActivated, this, [this](QListWidgetItem* voce) {
+    connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         Esegui([this, voce] { scrivania_.ScegliMeta(voce->data(Qt::UserRole).toString()); });
     });
-    connect(cmbRicerca_, &QListWidget::itemClicked, cmbRicerca_, &QListWidget::itemActivated);
-    connect(cmbRicercaTappa_, &QListWidget::itemActivated, this, [this](QListWidgetItem* voce) {
+    connect(cmbRicercaTappa_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         Esegui([this, voce] { scrivania_.ScegliTappa(voce->data(Qt::UserRole).toInt()); });
         inserimento_->FuocoSullaTappa();
     });
-    connect(cmbRicercaTappa_, &QListWidget::itemClicked, cmbRicercaTappa_, &QListWidget::itemActivated);
 }
 
 // What the fields hold, taken over while the person types.
@@ -331,7 +323,7 @@ void FormMete::Mostra() {
     velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->guidaGiorno)
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
     tempi_->Mostra(meta.parametri);
-    const bool campiLiberi = !cronovia && !scrivania_.CalcoloInCorso() && !scrivania_.ElencoMeteMostrato();
+    const bool campiLiberi = !cronovia && !scrivania_.CalcoloInCorso();
     for (QWidget* riquadro :
          {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
         riquadro->setEnabled(campiLiberi);
@@ -400,8 +392,14 @@ void FormMete::MostraInserimento(const StatoComandi& stato) {
     const bool visibile = scrivania_.InserimentoVisibile();
     findChild<QWidget*>(u"areaInserimento"_s)->setVisible(visibile);
     inserimento_->Applica(stato);
-    if (!visibile) return;
-    inserimento_->Mostra(scrivania_.RigaCorrente(), scrivania_.CampiCorrenti());
+    if (!visibile) {
+        campiMostrati_.reset();
+        return;
+    }
+    // What is being typed stays, unless another stage has come into its row.
+    std::pair<int, CampiTappa> campi{scrivania_.RigaCorrente(), scrivania_.CampiCorrenti()};
+    if (campiMostrati_ != campi) inserimento_->Mostra(campi.first, campi.second);
+    campiMostrati_ = std::move(campi);
     inserimento_->MostraKmProgressivi(scrivania_.KmProgressivi());
 }
 

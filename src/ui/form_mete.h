@@ -1,14 +1,16 @@
 // The main window: places the frames and passes their wishes on to the desk.
 #pragma once
 
-#include <QListWidget>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QSettings>
 #include <functional>
+#include <optional>
+#include <utility>
 
 #include "app/scrivania.h"
 #include "ui/avanzamento.h"
+#include "ui/elenco_scelta.h"
 #include "ui/frm_bottoni.h"
 #include "ui/frm_input_box.h"
 #include "ui/frm_mete_periodo.h"
@@ -69,13 +71,14 @@ class FormMete : public QMainWindow {
     FrmInputBox* inserimento_;
     VistaGriglia* griglia_;
     ModelloGriglia modello_;
-    QListWidget* cmbRicerca_;
-    QListWidget* cmbRicercaTappa_;
+    ElencoScelta* cmbRicerca_;
+    ElencoScelta* cmbRicercaTappa_;
     QAction* annulla_;
     QAction* ripeti_;
     Scrivania scrivania_;
     bool mostrando_ = false;
-    bool inCorso_ = false;  // a command has begun and not ended
+    std::optional<std::pair<int, CampiTappa>> campiMostrati_;  // row and fields last put into the entry frame
+    bool inCorso_ = false;                                     // a command has begun and not ended
     bool cronoviaInGriglia_ = false;
 };
 

@@ -59,6 +59,9 @@ FrmBottoni::FrmBottoni(QWidget* parent) : QFrame(parent) {
 void FrmBottoni::Applica(const StatoComandi& stato, bool daSbloccare) {
     for (std::size_t i = 0; i < kComandi; ++i) pulsanti_[i]->setEnabled(stato.comandi[i]);
     Pulsante(Comando::Calcola).setText(daSbloccare ? u"&Sblocca"_s : u"&Calcola"_s);
+    // While Alt+S unlocks, it does not print as well.
+    Pulsante(Comando::Stampa)
+        .setShortcut(daSbloccare ? QKeySequence() : QKeySequence::mnemonic(Pulsante(Comando::Stampa).text()));
     Pulsante(Comando::Esce).setText(stato.stop ? u"&Stop"_s : u"&Esce"_s);
     Pulsante(Comando::Esce).setToolTip(stato.escEsce ? u"Esce dal form (Esc attivo)"_s : u"Esce dal form"_s);
 }

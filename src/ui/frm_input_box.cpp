@@ -75,10 +75,12 @@ QWidget* FrmInputBox::CreaCampi() {
                                  u"Tipo di strada"_s);
     auto* soste = new QHBoxLayout;
     const std::array<QStringList, 3> voci = {Numeri(0, 15, 2), Numeri(0, 23, 2), Quarti()};
+    const std::array<QString, 3> nomi = {u"Giorni di sosta"_s, u"Ore di sosta"_s, u"Minuti di sosta"_s};
     for (int i = 0; i < 3; ++i) {
         const auto posto = static_cast<std::size_t>(i);
         cmbSosta_[posto] = NuovoElenco(NomeDiSerie(u"cmbSosta"_s, i), voci[posto],
                                        u"Indicare l'eventuale sosta (gg:hh:mm, obbligatorio con km. 0)"_s);
+        cmbSosta_[posto]->setAccessibleName(nomi[posto]);
         soste->addWidget(cmbSosta_[posto]);
     }
     chkEndDay_ = new QCheckBox(u"Fine giornata"_s);
@@ -126,11 +128,14 @@ QWidget* FrmInputBox::CreaComandi() {
                                               QString::fromUtf16(testi.istruzione));
         connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
         pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
+        // Its letter is that of the command that takes a row away.
+        if (comando == ComandoItinerario::Duplica) pulsante->setShortcut({});
         aggiungi(pulsante);
         if (comando == ComandoItinerario::Duplica) {
             cmdMapPoint_ = NuovoPulsante(u"cmdMapPoint"_s, u"&Altri &Pacch."_s,
                                          u"Recepisce dati forniti da pacchetti commerciali"_s);
             connect(cmdMapPoint_, &QPushButton::clicked, this, &FrmInputBox::AltriPacchetti);
+            cmdMapPoint_->setShortcut({});  // its letters are taken too
             aggiungi(cmdMapPoint_);
         }
     }

@@ -126,6 +126,10 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
 
 // The days of the month that is chosen, the day itself kept within them.
 void FrmMetePeriodo::ImpostaGiorniMeseInizio() {
+    MettiGiornoSett();
+    for (const std::size_t i : {0U, 1U, 2U}) {
+        if (cmbInizio_[i]->currentIndex() < 0) return;  // no date yet
+    }
     const int giorni = GiorniMese(cmbInizio_[2]->currentText().toInt(), cmbInizio_[1]->currentText().toInt());
     const int giorno = std::min(cmbInizio_[0]->currentText().toInt(), giorni);
     const QSignalBlocker muto(cmbInizio_[0]);
@@ -144,7 +148,9 @@ void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilo
     txtCodice_->setText(meta.codice);
     if (txtLocalita_->text() != meta.localita) txtLocalita_->setText(meta.localita);
     if (txtNazione_->text() != meta.nazione) txtNazione_->setText(meta.nazione);
-    if (meta.dataInizio) {
+    if (!meta.dataInizio) {
+        for (const std::size_t i : {0U, 1U, 2U}) cmbInizio_[i]->setCurrentIndex(-1);
+    } else {
         const Gma gma = Giul2Data(*meta.dataInizio);
         MostraVoce(*cmbInizio_[1], Zero(gma.mese, 2));
         MostraVoce(*cmbInizio_[2], Zero(gma.anno, 4));

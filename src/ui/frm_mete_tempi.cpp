@@ -1,5 +1,6 @@
 #include "ui/frm_mete_tempi.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 
@@ -68,11 +69,20 @@ void FrmMeteTempi::AggiungiOrario(QGridLayout& layout, std::size_t orario, int r
     coppia->addWidget(cmbMin_[orario]);
     for (QComboBox* elenco : {cmbOra_[orario], cmbMin_[orario]}) {
         connect(elenco, &QComboBox::activated, this, &FrmMeteTempi::Cambiata);
+        elenco->installEventFilter(this);
     }
     if (!etichetta.isEmpty()) {
         layout.addWidget(NuovaEtichetta(etichetta, *cmbOra_[orario]), riga, colonna, Qt::AlignRight | Qt::AlignVCenter);
     }
     layout.addLayout(coppia, riga, colonna + 1);
+}
+
+// An hour is looked at when its lists are left, not while the person is on the way to it.
+bool FrmMeteTempi::eventFilter(QObject* oggetto, QEvent* evento) {
+    const bool lasciato =
+        evento->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(evento)->reason() != Qt::PopupFocusReason;
+    if (lasciato) Q_EMIT OrarioLasciato();
+    return QGroupBox::eventFilter(oggetto, evento);
 }
 
 QComboBox* FrmMeteTempi::CreaRiposo(const QString& nome, const QStringList& voci, const QString& istruzione) {
@@ -108,7 +118,7 @@ void FrmMeteTempi::CreaDefault(QGridLayout& layout) {
     for (int i = 0; i < 3; ++i) {
         const auto& [scritta, istruzione] = comandi[static_cast<std::size_t>(i)];
         QPushButton* pulsante = NuovoPulsante(NomeDiSerie(u"cmdDefault"_s, i), scritta, istruzione);
-        pulsante->setShortcut({});  // their letters are those of commands that are used all the time
+        if (i == 1) pulsante->setShortcut({});  // its letter is that of the itinerary and of its stages
         connect(pulsante, &QPushButton::clicked, this, [this, i] { Q_EMIT Default(i); });
         riga->addWidget(pulsante);
     }

@@ -25,8 +25,13 @@ class FrmMeteTempi : public QGroupBox {
 
   Q_SIGNALS:
     void Cambiata();
+    /// An hour or its minutes lost the focus.
+    void OrarioLasciato();
     /// One of the personal-default commands: 0 save, 1 load, 2 reset.
     void Default(int comando);
+
+  protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   private:
     void AggiungiOrario(QGridLayout& layout, std::size_t orario, int riga, int colonna, const QString& etichetta);

@@ -59,6 +59,8 @@ QVariant Carattere(Segno segno) {
 
 void ModelloGriglia::MostraItinerario(const RigheItinerario& righe, const RiepilogoItinerario& riepilogo,
                                       int righeMinime) {
+    const bool uguali = righe == righe_ && riepilogo.tappe == riepilogo_.tappe && righeMinime == righeMinime_;
+    if (uguali && !cronovia_) return;
     beginResetModel();
     righe_ = righe;
     riepilogo_ = riepilogo;
@@ -86,7 +88,8 @@ int ModelloGriglia::columnCount(const QModelIndex& parent) const {
 RigaGriglia ModelloGriglia::Testi(int riga) const {
     const auto posto = static_cast<std::size_t>(riga);
     if (cronovia_) return ColonneCronovia(*cronovia_, posto);
-    if (posto >= righe_.size() || righe_[posto].localita.isEmpty()) return {};
+    if (posto >= righe_.size()) return {};
+    if (righe_[posto].localita.isEmpty()) return {{QString::number(riga + 1)}};
     return ColonneTappa(riga + 1, righe_[posto], riepilogo_.tappe[posto]);
 }
 

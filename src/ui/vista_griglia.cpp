@@ -52,7 +52,6 @@ VistaGriglia::VistaGriglia(QWidget* parent) : QTableView(parent) {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setMinimumSectionSize(24);
-    connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) { Q_EMIT RigaScelta(index.row()); });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
         if (!inAdattamento_) larghezzeProprie_ = true;
     });
@@ -61,8 +60,15 @@ VistaGriglia::VistaGriglia(QWidget* parent) : QTableView(parent) {
 void VistaGriglia::SelezionaRiga(int riga) {
     if (model() == nullptr || riga < 0 || riga >= model()->rowCount()) return;
     const QModelIndex index = model()->index(riga, 1);
+    inSelezione_ = true;
     selectRow(riga);
     scrollTo(index);
+    inSelezione_ = false;
+}
+
+void VistaGriglia::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!inSelezione_ && current.isValid()) Q_EMIT RigaCorrente(current.row());
 }
 
 void VistaGriglia::keyPressEvent(QKeyEvent* event) {

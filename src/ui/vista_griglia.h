@@ -21,9 +21,11 @@ class VistaGriglia : public QTableView {
   Q_SIGNALS:
     /// The person wants to be so many rows further down.
     void Spostamento(int righe);
-    void RigaScelta(int riga);
+    /// Another row became the current one; not while the rows are shown anew.
+    void RigaCorrente(int riga);
 
   protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -33,6 +35,7 @@ class VistaGriglia : public QTableView {
     bool diTappe_ = false;
     bool larghezzeProprie_ = false;  // the person chose them
     bool inAdattamento_ = false;
+    bool inSelezione_ = false;
 };
 
 }  // namespace cronovia

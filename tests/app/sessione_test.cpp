@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "exchange/importa_mete.h"
 #include "support/prova.h"
 
@@ -31,21 +29,11 @@ class SessioneTest : public testing::Test {
     Sessione sessione_{cartella_.Percorso()};
 };
 
-TEST_F(SessioneTest, ANewArchiveGetsGuideTypesAndStandardParameters) {
-    Archive& archive = sessione_.Archivio();
-    const std::vector<Record> tipi = archive.Select({Tabella::TipoGuida, {}}, {tipoguida::CodiceGuida});
-    ASSERT_EQ(tipi.size(), 9U);
-    EXPECT_EQ(tipi.front()[tipoguida::CodiceGuida], u"01"_s);
-    EXPECT_EQ(tipi.back()[tipoguida::CodiceGuida], u"09"_s);
-    const auto parametri = archive.SelectFirst({Tabella::Parametri, {}});
-    ASSERT_TRUE(parametri.has_value());
-    EXPECT_EQ(ParametriDaRecord(*parametri), ParametriViaggio());
-}
-
-TEST_F(SessioneTest, OpenedAgainItKeepsWhatIsThere) {
+TEST_F(SessioneTest, ANewArchiveGetsStandardParametersAndLaterOnesKeepTheirs) {
+    Record record = *sessione_.Archivio().SelectFirst({Tabella::Parametri, {}});
+    EXPECT_EQ(ParametriDaRecord(record), ParametriViaggio());
     ParametriViaggio miei;
     miei.mediaKm = {90, 80, 60, 45};
-    Record record = *sessione_.Archivio().SelectFirst({Tabella::Parametri, {}});
     record.valori = ValoriDeiParametri(miei);
     sessione_.Archivio().Update(Tabella::Parametri, record);
     Sessione dopo(cartella_.Percorso());
@@ -55,29 +43,23 @@ TEST_F(SessioneTest, OpenedAgainItKeepsWhatIsThere) {
     EXPECT_EQ(dopo.ApriMeta(codice).meta.parametri, miei);
 }
 
-TEST_F(SessioneTest, ATripIsOpenedWithItsItinerary) {
+TEST_F(SessioneTest, ATripIsOpenedByItsCodeOnly) {
     ImportaProvenza();
-    for (const auto& codice : {u"000003"_s, u"3"_s, u" 03 "_s}) {
-        const MetaAperta aperta = sessione_.ApriMeta(codice);
-        EXPECT_EQ(aperta.meta.codice, u"000003"_s);
-        EXPECT_EQ(aperta.meta.localita, u"PROVENZA"_s);
-        ASSERT_EQ(aperta.tappe.size(), 28U);
-        EXPECT_EQ(aperta.tappe[13].guida, (Durata{0, 5, 45}));
-        EXPECT_EQ(aperta.riepilogo.totali.km[kTuttiITipi], 1317);
-    }
-    for (const auto& codice : {u"000004"_s, u""_s, u"000003 3"_s, u"00000*"_s}) {
+    const MetaAperta aperta = sessione_.ApriMeta(u" 03 "_s);
+    EXPECT_EQ(aperta.meta.codice, u"000003"_s);
+    ASSERT_EQ(aperta.tappe.size(), 28U);
+    EXPECT_EQ(aperta.tappe[13].guida, (Durata{0, 5, 45}));
+    EXPECT_EQ(aperta.riepilogo.totali.km[kTuttiITipi], 1317);
+    for (const auto& codice : {u"000004"_s, u""_s, u"00000*"_s}) {
         EXPECT_TRUE(prova::MessaggioDi([&] { sessione_.ApriMeta(codice); }).startsWith(u"Non esiste nessuna mèta"_s));
     }
 }
 
 TEST_F(SessioneTest, TheDaysWantedAreAtLeastThoseOfDriving) {
     ImportaProvenza();
-    const std::vector<std::pair<QString, int>> casi = {{u"000"_s, 0}, {u"001"_s, 2}, {u"002"_s, 2}, {u"010"_s, 10}};
-    for (const auto& [memorizzati, attesi] : casi) {
+    for (const auto& [memorizzati, attesi] : {std::pair{u"000"_s, 0}, {u"001"_s, 2}, {u"010"_s, 10}}) {
         CambiaMeta(mete::GiorniAdeguamento, memorizzati);
-        const MetaAperta aperta = sessione_.ApriMeta(u"3"_s);
-        EXPECT_EQ(aperta.meta.giorniAdeguamento, attesi) << memorizzati.toStdString();
-        EXPECT_EQ(aperta.riepilogo.giorniMinimi, 2);
+        EXPECT_EQ(sessione_.ApriMeta(u"3"_s).meta.giorniAdeguamento, attesi);
     }
 }
 
@@ -90,7 +72,6 @@ TEST_F(SessioneTest, OptionsHoldForOneCalculation) {
     EXPECT_EQ(Giorni(aperta, {12, std::nullopt}), 12);
     EXPECT_EQ(Giorni(aperta, {0, std::nullopt}), 8);
     EXPECT_EQ(Giorni(aperta, {0, CalcoloSoste::NessunaSosta}), 3);
-    EXPECT_EQ(Giorni(aperta), 10);
     EXPECT_TRUE(prova::LeggiFile(cartella_.Archivio()) == prima);
 }
 

@@ -127,16 +127,11 @@ TEST_F(Export, RefusesBeforeAnythingIsWritten) {
 
 TEST_F(Export, AFullDiskLeavesTheOldFileInPlace) {
     TreMete();
-    Transaction transaction(archive_);
-    for (int i = 0; i < 2'000; ++i) {
-        Inserisci(archive_, Tabella::GuidaCitta, {u"Elvas"_s, u"01"_s, QString(96, u'x')});
-    }
-    transaction.Commit();
     prova::ScriviFile(file_, "prezioso");
     const auto prima = std::signal(SIGXFSZ, SIG_IGN);
     rlimit limite{};
     getrlimit(RLIMIT_FSIZE, &limite);
-    const rlimit stretto{100'000, limite.rlim_max};
+    const rlimit stretto{100, limite.rlim_max};
     setrlimit(RLIMIT_FSIZE, &stretto);
     const QString messaggio = Rifiuto({}, true);
     setrlimit(RLIMIT_FSIZE, &limite);

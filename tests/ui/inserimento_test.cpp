@@ -28,28 +28,11 @@ class InserimentoTest : public prova::FinestraTest {
     }
 };
 
-TEST_F(InserimentoTest, OnlyTheEntryCommandsCanBeUsed) {
-    EXPECT_EQ(Abilitati(), u""_s);
-    EXPECT_TRUE(Pulsante(u"cmdMapPoint"_s).isEnabled());
-    EXPECT_FALSE(Pulsante(u"cmdCancella"_s).isEnabled());
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), u"txtTappa"_s);
-    TreTappe();
-    EXPECT_FALSE(Pulsante(u"cmdMapPoint"_s).isEnabled());
-    for (const auto& nome : {u"cmdCancella"_s, u"cmdRicalcola"_s, u"cmdRitorno"_s, u"cmdInserisce"_s}) {
-        EXPECT_TRUE(Pulsante(nome).isEnabled()) << nome.toStdString();
-    }
-    Box(u"La funzione «Ritorno a start» non è ancora disponibile."_s, QMessageBox::Ok);
-    Premi(u"cmdRitorno"_s);
-}
-
 TEST_F(InserimentoTest, RefusalsKeepWhatWasTyped) {
     ScriviTappa(u"alfa"_s, u""_s);
     Box(u"Chilometri (o sosta): dato obbligatorio!"_s, QMessageBox::Ok, u"Dato obbligatorio"_s);
     ScriviTappa(u"beta"_s, u""_s);
     EXPECT_EQ(Testo(u"txtTappa"_s), u"BETA"_s);
-    Box(u"Impossibile:\nIndica un valore compreso tra 1 e 999"_s, QMessageBox::Ok);
-    ScriviTappa(u"beta"_s, u"1000"_s);
-    EXPECT_EQ(Testo(u"txtKm"_s), u"1000"_s);
     Box(u"Impossibile:\nIndica un valore compreso tra 1 e 999"_s, QMessageBox::Ok);
     Box(u"Impossibile:\nIndica il nome della località!"_s, QMessageBox::Ok);
     ScriviTappa(u""_s, u"1000"_s);
@@ -125,10 +108,6 @@ TEST_F(InserimentoTest, CtrlZUndoesWhatIsTypedFirstAndThenTheStages) {
     EXPECT_EQ(Tappe(), u"ALFA BETA"_s);
     Tasto(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Tappe(), u"ALFA BETA GAMMA"_s);
-    Trova<QTableView>(u"mfgTab"_s).setFocus();
-    Tasto(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(Tappe(), u"ALFA BETA"_s);
-    EXPECT_EQ(Trova<QAction>(u"ripeti"_s).text(), u"Ripeti inserimento di GAMMA"_s);
 }
 
 TEST_F(InserimentoTest, APlaceIsLookedUpInTheItinerary) {
@@ -142,10 +121,6 @@ TEST_F(InserimentoTest, APlaceIsLookedUpInTheItinerary) {
     QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, lista.visualItemRect(lista.item(1)).center());
     EXPECT_FALSE(lista.isVisible());
     EXPECT_EQ(Testo(u"txtTappa"_s), u"BETA"_s);
-    Premi(u"cmdCerca"_s);
-    Premi(u"cmdFine"_s);
-    EXPECT_FALSE(lista.isVisible());
-    EXPECT_TRUE(Trova<QWidget>(u"frmInputBox"_s).isVisible());
 }
 
 TEST_F(InserimentoTest, ClosingTheWindowAsksForUnsavedStages) {
@@ -159,21 +134,6 @@ TEST_F(InserimentoTest, ClosingTheWindowAsksForUnsavedStages) {
     Apri();
     EXPECT_EQ(Tappe(), u"ALFA BETA GAMMA"_s);
     EXPECT_TRUE(form_->close());
-}
-
-TEST_F(InserimentoTest, EnterMeansTheDefaultButton) {
-    TreTappe();
-    Trova<QLineEdit>(u"txtTappa"_s).setFocus();
-    BoxFine(QMessageBox::Yes);
-    Tasto(Qt::Key_Return);
-    EXPECT_FALSE(Trova<QWidget>(u"frmInputBox"_s).isVisible());
-    Trova<QLineEdit>(u"txtNazione"_s).setFocus();
-    Box(u"Vuoi chiudere la procedura?"_s, QMessageBox::No, u"Fine Lavoro"_s);
-    Tasto(Qt::Key_Return);
-    EXPECT_TRUE(form_->isVisible());
-    Box(u"Vuoi chiudere la procedura?"_s, QMessageBox::Yes, u"Fine Lavoro"_s);
-    Premi(u"cmdEsce"_s);
-    EXPECT_FALSE(form_->isVisible());
 }
 
 }  // namespace
