@@ -11,10 +11,6 @@ target_compile_definitions(
 target_compile_options(
   cronovia_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wold-style-cast
                               -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # Its optimiser takes "a" + std::string for an overlapping copy.
-  target_compile_options(cronovia_settings INTERFACE -Wno-restrict)
-endif()
 # GCC 12 sees an overlap in "literal" + std::string that is not there (GCC bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(cronovia_settings INTERFACE -Wno-restrict)
