@@ -108,7 +108,7 @@ QString InserisciMeta(Archive& archive, const Meta& nuova) {
         throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*gia)[mete::Localita].trimmed(),
                                                                        (*gia)[mete::CodiceMeta]));
     }
-    const QString codice = NuovoCodiceMeta(CodiciDelleMete(archive));
+    QString codice = NuovoCodiceMeta(CodiciDelleMete(archive));
     Scrivi(archive, nuova, {true, codice});
     transaction.Commit();
     return codice;
