@@ -52,6 +52,11 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     Mostra();
 }
 
+// Frames that go lose the focus and say so; nobody is there to listen any more.
+FormMete::~FormMete() {
+    for (QWidget* riquadro : findChildren<QWidget*>()) riquadro->disconnect(this);
+}
+
 void FormMete::Disponi() {
     auto* centro = new QWidget;
     auto* layout = new QVBoxLayout(centro);

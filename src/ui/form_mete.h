@@ -32,6 +32,9 @@ class FormMete : public QMainWindow {
   public:
     /// Opens the archive of a data folder; a `Failure` when that cannot be done.
     FormMete(const QString& cartella, std::function<QDateTime()> adesso);
+    FormMete(const FormMete&) = delete;
+    FormMete& operator=(const FormMete&) = delete;
+    ~FormMete() override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
