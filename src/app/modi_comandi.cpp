@@ -31,7 +31,6 @@ std::bitset<N> Abilitati(const QString& modo, const std::array<QStringView, N>& 
 
 StatoComandi AbilitaPulsantiComando(QStringView modoComandi, QStringView modoItinerario, const FattiSchermo& fatti) {
     StatoComandi stato;
-    stato.chiudeElenco = Tutti(modoComandi);
     QString modo = modoComandi.toString();
     if (modo != "vv"_L1 && fatti.daSbloccare) modo = u"CaSt"_s;
     if (Tutti(modo)) modo = TuttiICodici(kCodici);

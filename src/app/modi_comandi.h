@@ -56,7 +56,6 @@ struct StatoComandi {
     std::bitset<kComandi> comandi;
     std::bitset<kComandiItinerario> itinerario;
     bool altriPacchetti = false;  ///< import from other programs
-    bool chiudeElenco = false;    ///< the stage list goes, and Enter means Exit
     bool stop = false;            ///< Exit reads Stop
     bool escEsce = false;         ///< the Esc key means Exit
 

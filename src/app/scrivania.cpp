@@ -1,5 +1,7 @@
 #include "app/scrivania.h"
 
+#include <QDir>
+#include <QFile>
 #include <algorithm>
 #include <utility>
 
@@ -13,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 Scrivania::Scrivania(const QString& cartella, Volti volti) : volti_(std::move(volti)), sessione_(cartella) {
     CaricaMetaCorrente();
+    converteOfferto_ = QFile::exists(QDir(cartella).filePath(u"VandMete.dat"_s));
 }
 
 StatoComandi Scrivania::Comandi() const {
@@ -52,9 +55,9 @@ void Scrivania::MettiSulTavolo(MetaAperta aperta) {
     cronovia_.reset();
     elencoMete_.reset();
     rigaCorrente_ = 1;
-    modificato_ = false;
     cronologia_.Azzera();
     RicalcolaTempi();
+    memorizzate_ = righe_;
 }
 
 // The trip on the desk as it is stored, the one that is current in the archive when that is gone, an empty desk when
@@ -67,6 +70,23 @@ void Scrivania::CaricaMetaCorrente() {
                                     : sessione_.ApriMeta(codice));
     codiceMetaCorrente_ = codice;
     ApplicaModo(codice.isEmpty() ? u"NuImEs"_s : u"All"_s);
+}
+
+void Scrivania::ApplicaModo(const QString& modo) {
+    modoComandi_ = modo;
+    converteOfferto_ = false;
+}
+
+// While the archive is written to, no other command can be given. What goes wrong is told, and the modes are as before.
+bool Scrivania::SenzaComandi(const std::function<void()>& azione) {
+    const QString comandi = modoComandi_;
+    const QString itinerario = std::exchange(modoItinerario_, u"ZZ"_s);
+    ApplicaModo(u"ZZ"_s);
+    volti_.mostra();
+    const bool riuscita = Prova(azione);
+    if (modoComandi_ == "ZZ"_L1) modoComandi_ = comandi;
+    modoItinerario_ = itinerario;
+    return riuscita;
 }
 
 void Scrivania::RicalcolaTempi() {
@@ -130,13 +150,10 @@ void Scrivania::CancMeta() {
         CaricaMetaCorrente();
         volti_.mostra();
         if (codiceMetaCorrente_.isEmpty() || !BoxConferma(volti_.interazione, u"A"_s)) return;
-        ApplicaModo(u"zz"_s);
-        volti_.mostra();
-        const bool cancellata = Prova([&] {
+        SenzaComandi([&] {
             CancellaMeta(sessione_.Archivio(), codiceMetaCorrente_, volti_.avanzamento);
             CaricaMetaCorrente();
         });
-        if (!cancellata) ApplicaModo(u"All"_s);
     });
 }
 
@@ -148,8 +165,11 @@ void Scrivania::CancItin() {
             "recuperabile!"_s,
             u"Annullamento itinerario"_s};
         if (volti_.interazione.Ask(sicuro) != Answer::Yes) return;
-        MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, {}, meta_.parametri, volti_.avanzamento);
-        CaricaMetaCorrente();
+        SenzaComandi([&] {
+            MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, {}, meta_.parametri,
+                                     volti_.avanzamento);
+            CaricaMetaCorrente();
+        });
     });
 }
 
@@ -198,7 +218,8 @@ void Scrivania::Ricomponi() {
 }
 
 void Scrivania::EseguiCalcolo() {
-    const QString modoPrima = std::exchange(modoComandi_, u"Es"_s);
+    const QString modoPrima = modoComandi_;
+    ApplicaModo(u"Es"_s);
     calcoloInCorso_ = true;
     volti_.mostra();
     EsitoCalcolo esito;
@@ -220,9 +241,18 @@ void Scrivania::EseguiCalcolo() {
     volti_.interazione.Show({esito.messaggio, u"Calcolo cronovia"_s, Icon::Information});
 }
 
+// A new trip is in the archive only after it was saved.
+bool Scrivania::LasciaNuovaMeta() {
+    const QString localita = meta_.localita.trimmed();
+    if (!meta_.codice.isEmpty() || localita.isEmpty()) return true;
+    const Question domanda{u"La nuova mèta «%1» non è stata salvata: vuoi rinunciarvi?"_s.arg(localita),
+                           u"Fine Lavoro"_s};
+    return volti_.interazione.Ask(domanda) == Answer::Yes;
+}
+
 bool Scrivania::PossoChiudere() {
     if (calcoloInCorso_) return false;
-    if (!modificato_) return true;
+    if (!Modificato()) return LasciaNuovaMeta();
     const Answer risposta =
         volti_.interazione.Ask({u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
                                 "Vuoi salvare le eventuali modifiche?"_s,

@@ -39,8 +39,10 @@ class Scrivania {
     [[nodiscard]] bool InserimentoVisibile() const { return inserimento_; }
     [[nodiscard]] bool ElencoTappeVisibile() const { return elencoTappe_; }
     [[nodiscard]] const std::optional<std::vector<MetaInElenco>>& ElencoMeteMostrato() const { return elencoMete_; }
-    [[nodiscard]] bool Modificato() const { return modificato_; }
+    [[nodiscard]] bool Modificato() const { return righe_ != memorizzate_; }
     [[nodiscard]] bool CalcoloInCorso() const { return calcoloInCorso_; }
+    /// Data of the earlier release lies in the data folder, and no command was given yet.
+    [[nodiscard]] bool ConverteOfferto() const { return converteOfferto_; }
     [[nodiscard]] const Cronologia& Modifiche() const { return cronologia_; }
     [[nodiscard]] StatoComandi Comandi() const;
     /// The entry fields of the current row, and whether progressive kilometres may be typed there; nothing: not shown.
@@ -84,19 +86,21 @@ class Scrivania {
     void Annulla();
     void Ripeti();
 
-    /// Asks before unsaved changes are lost; false when the person wants to stay.
+    /// Asks before unsaved stages, or a new trip that was typed, are lost; false when the person wants to stay.
     bool PossoChiudere();
 
   private:
     bool Prova(const std::function<void()>& comando);
     void CaricaMetaCorrente();
     void MettiSulTavolo(MetaAperta aperta);
-    void ApplicaModo(const QString& modo) { modoComandi_ = modo; }
+    void ApplicaModo(const QString& modo);
+    bool SenzaComandi(const std::function<void()>& azione);
     void Ricomponi();
     void RicalcolaTempi();
     bool Modifica(const QString& nome, RigheItinerario nuove, int riga);
     void Mostra(StatoItinerario stato);
     bool MemorizzaTappe();
+    bool LasciaNuovaMeta();
     void EsciDallInserimento();
     void EseguiCalcolo();
     void Default(const QString& verbo, const std::function<void()>& azione);
@@ -106,6 +110,7 @@ class Scrivania {
     QString codiceMetaCorrente_;
     Meta meta_;
     RigheItinerario righe_;
+    RigheItinerario memorizzate_;  // the rows as the archive has them
     RiepilogoItinerario riepilogo_;
     int rigaCorrente_ = 1;
     std::optional<Cronovia> cronovia_;
@@ -116,10 +121,10 @@ class Scrivania {
     QString modoItinerario_ = QStringLiteral("ZZ");
     bool inserimento_ = false;
     bool elencoTappe_ = false;
-    bool modificato_ = false;
     bool appenaInserita_ = false;
     bool daInserimento_ = false;  // the schedule was computed from the entry screen, to which unlocking leads back
     bool calcoloInCorso_ = false;
+    bool converteOfferto_ = false;
 };
 
 }  // namespace cronovia

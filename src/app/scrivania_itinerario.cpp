@@ -30,7 +30,6 @@ void Scrivania::Mostra(StatoItinerario stato) {
     RicalcolaVisite(sessione_.Archivio(), stato.righe, meta_.parametri);
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
-    modificato_ = true;
     SelezionaRiga(stato.rigaCorrente);
 }
 
@@ -94,13 +93,13 @@ void Scrivania::ScegliTappa(int riga) {
 
 bool Scrivania::MemorizzaTappe() {
     bool memorizzate = false;
-    Prova([&] {
+    SenzaComandi([&] {
         // Another window may have deleted the trip: stages without one would turn up in the next trip with its code.
         sessione_.ApriMeta(codiceMetaCorrente_);
         const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, righe_,
                                                                    meta_.parametri, volti_.avanzamento);
         memorizzate = true;
-        modificato_ = false;
+        memorizzate_ = righe_;
         if (esito.nomiAccorciati == 0) return;
         volti_.interazione.Show(
             {u"Nomi accorciati (località a 29 caratteri, strade a 64): %1."_s.arg(esito.nomiAccorciati),

@@ -21,8 +21,10 @@ namespace {
 // Qt ends a program that finds no display; before it does, the person gets a sentence.
 void SenzaSchermo(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type != QtFatalMsg) return;
-    std::fputs("La finestra non si può aprire: non c'è uno schermo. I verbi si usano anche senza: cronovia --help\n",
-               stderr);
+    std::fputs(
+        "La finestra non si può aprire: non c'è uno schermo. I comandi da terminale funzionano anche senza finestra: "
+        "cronovia --help\n",
+        stderr);
     std::_Exit(1);
 }
 

@@ -89,6 +89,11 @@ QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzi
     return casella;
 }
 
+QPushButton* NuovoPulsante(const TestiPulsante& testi) {
+    return NuovoPulsante(QString::fromUtf16(testi.nome), QString::fromUtf16(testi.scritta),
+                         QString::fromUtf16(testi.istruzione));
+}
+
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione) {
     auto* pulsante = new QPushButton(scritta);
     Presenta(*pulsante, nome, istruzione);

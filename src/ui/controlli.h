@@ -32,6 +32,14 @@ QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString
 /// A box that shows a result and takes no focus.
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione);
 
+/// A button's name, caption and tooltip, as tables of buttons hold them.
+struct TestiPulsante {
+    const char16_t* nome;
+    const char16_t* scritta;
+    const char16_t* istruzione;
+};
+
+QPushButton* NuovoPulsante(const TestiPulsante& testi);
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione);
 
 /// A label that leads to its control by its mnemonic and names it.

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSessionManager>
@@ -136,6 +137,8 @@ void FormMete::Collega() {
         });
     });
     connect(bottoni_, &FrmBottoni::Premuto, this, [this](Comando comando) { EseguiComando(comando); });
+    connect(bottoni_, &FrmBottoni::Converte, this,
+            [this] { Esegui([this] { scrivania_.NonDisponibile(u"Converte"_s); }); });
     connect(inserimento_, &FrmInputBox::Premuto, this, [this](ComandoItinerario c) { EseguiComando(c); });
     connect(inserimento_, &FrmInputBox::AltriPacchetti, this,
             [this] { Esegui([this] { scrivania_.NonDisponibile(u"Altri Pacch."_s); }); });
@@ -173,10 +176,13 @@ void FormMete::Raccogli() {
 void FormMete::Esegui(const std::function<void()>& comando) {
     if (mostrando_ || inCorso_) return;
     inCorso_ = true;
+    const QPointer<QWidget> fuoco = focusWidget();
     Raccogli();
     comando();
     inCorso_ = false;
     Mostra();
+    // A control that was disabled meanwhile had to give the focus away.
+    if (fuoco != nullptr && fuoco->isVisible() && fuoco->isEnabled()) fuoco->setFocus();
 }
 
 void FormMete::EseguiComando(Comando comando) {
@@ -336,7 +342,7 @@ void FormMete::Mostra() {
     MostraGriglia();
     MostraElenchi();
     MostraInserimento(stato);
-    bottoni_->Applica(stato, cronovia.has_value());
+    bottoni_->Applica(stato, cronovia.has_value(), scrivania_.ConverteOfferto());
     MostraAzioni();
     mostrando_ = false;
 }

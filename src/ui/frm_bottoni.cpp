@@ -2,19 +2,11 @@
 
 #include <QHBoxLayout>
 
-#include "ui/controlli.h"
-
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct TestiPulsante {
-    const char16_t* nome;
-    const char16_t* scritta;
-    const char16_t* istruzione;
-};
 
 constexpr std::array<TestiPulsante, kComandi> kTesti = {{
     {u"cmdNuovo", u"&Nuovo", u"Inserisce una nuova mèta"},
@@ -44,19 +36,26 @@ FrmBottoni::FrmBottoni(QWidget* parent) : QFrame(parent) {
     layout->setContentsMargins({});
     layout->setSpacing(3);
     for (const Comando comando : kDisposizione) {
-        const TestiPulsante& testi = kTesti[static_cast<std::size_t>(comando)];
-        QPushButton* pulsante = NuovoPulsante(QString::fromUtf16(testi.nome), QString::fromUtf16(testi.scritta),
-                                              QString::fromUtf16(testi.istruzione));
-        // All alike, and together no wider than a small window.
-        pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
-        pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        QPushButton* pulsante = Aggiungi(kTesti[static_cast<std::size_t>(comando)]);
         connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
         pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
-        layout->addWidget(pulsante);
     }
+    cmdConverte_ = Aggiungi({u"cmdConverte", u"Converte", u"Recupera i dati della versione precedente"});
+    connect(cmdConverte_, &QPushButton::clicked, this, &FrmBottoni::Converte);
 }
 
-void FrmBottoni::Applica(const StatoComandi& stato, bool daSbloccare) {
+// All alike, and together no wider than a small window.
+QPushButton* FrmBottoni::Aggiungi(const TestiPulsante& testi) {
+    QPushButton* pulsante = NuovoPulsante(testi);
+    pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
+    pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    layout()->addWidget(pulsante);
+    return pulsante;
+}
+
+void FrmBottoni::Applica(const StatoComandi& stato, bool daSbloccare, bool converte) {
+    cmdConverte_->setVisible(converte);
+    cmdConverte_->setEnabled(converte);
     for (std::size_t i = 0; i < kComandi; ++i) pulsanti_[i]->setEnabled(stato.comandi[i]);
     Pulsante(Comando::Calcola).setText(daSbloccare ? u"&Sblocca"_s : u"&Calcola"_s);
     // While Alt+S unlocks, it does not print as well.

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "app/modi_comandi.h"
+#include "ui/controlli.h"
 
 namespace cronovia {
 
@@ -15,14 +16,18 @@ class FrmBottoni : public QFrame {
   public:
     explicit FrmBottoni(QWidget* parent = nullptr);
 
-    void Applica(const StatoComandi& stato, bool daSbloccare);
+    void Applica(const StatoComandi& stato, bool daSbloccare, bool converte);
     [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
 
   Q_SIGNALS:
     void Premuto(Comando comando);
+    void Converte();
 
   private:
+    QPushButton* Aggiungi(const TestiPulsante& testi);
+
     std::array<QPushButton*, kComandi> pulsanti_{};
+    QPushButton* cmdConverte_;
 };
 
 }  // namespace cronovia

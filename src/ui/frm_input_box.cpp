@@ -18,12 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct TestiPulsante {
-    const char16_t* nome;
-    const char16_t* scritta;
-    const char16_t* istruzione;
-};
-
 constexpr std::array<TestiPulsante, kComandiItinerario> kTesti = {{
     {u"cmdInserisce", u"&Inserisce tappa", u"Inserisce la tappa nella riga corrente"},
     {u"cmdAggiunge", u"&Aggiunge riga vuota", u"Apre una riga vuota prima di quella corrente"},
@@ -123,9 +117,7 @@ QWidget* FrmInputBox::CreaComandi() {
         ++posto;
     };
     for (const ComandoItinerario comando : kDisposizione) {
-        const TestiPulsante& testi = kTesti[static_cast<std::size_t>(comando)];
-        QPushButton* pulsante = NuovoPulsante(QString::fromUtf16(testi.nome), QString::fromUtf16(testi.scritta),
-                                              QString::fromUtf16(testi.istruzione));
+        QPushButton* pulsante = NuovoPulsante(kTesti[static_cast<std::size_t>(comando)]);
         connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
         pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
         // Its letter is that of the command that takes a row away.

@@ -36,12 +36,11 @@ TEST(ModiComandi, WhatEachModeEnables) {
         QString abilitati;
         bool stop = false;     ///< Exit reads Stop
         bool escEsce = false;  ///< Esc leaves, where that is safe
-        bool chiudeElenco = false;
     };
     const std::vector<Caso> casi = {
         {u"zz"_s, kTrip, u""_s},
         {u"NuImEs"_s, kTrip, u"Nuovo Esce Import"_s},
-        {u"All"_s, kTrip, kTutti, false, false, true},
+        {u"All"_s, kTrip, kTutti},
         {u"nuimes"_s, kTrip, u""_s},  // codes tell capitals from small letters
         {u"NuSaEsRi"_s, kTrip, u"Nuovo Ricerca Salva Esce"_s},
         {u"NuRiEs"_s, kTrip, u"Nuovo Ricerca Esce"_s, false, true},
@@ -49,7 +48,7 @@ TEST(ModiComandi, WhatEachModeEnables) {
         {u"NuRi"_s, kEntry, u""_s},
         {u"Es"_s, kTrip, u"Esce"_s, true},
         {u"Es"_s, kEntry, u""_s},
-        {u"all"_s, kSchedule, u"Calcola Stampa"_s, false, false, true},
+        {u"all"_s, kSchedule, u"Calcola Stampa"_s},
         {u"zz"_s, kSchedule, u"Calcola Stampa"_s},
         {u"vv"_s, kSchedule, u""_s},  // a printer is being chosen
     };
@@ -59,7 +58,6 @@ TEST(ModiComandi, WhatEachModeEnables) {
         EXPECT_TRUE(stato.itinerario.none()) << caso.modo.toStdString();
         EXPECT_EQ(stato.stop, caso.stop) << caso.modo.toStdString();
         EXPECT_EQ(stato.escEsce, caso.escEsce) << caso.modo.toStdString();
-        EXPECT_EQ(stato.chiudeElenco, caso.chiudeElenco) << caso.modo.toStdString();
     }
 }
 

@@ -334,6 +334,16 @@ TEST_F(ScrivaniaTest, ClosingAsksWhenThereAreUnsavedChanges) {
     }
     EXPECT_EQ(Memorizzate(), u"A"_s);
     EXPECT_TRUE(scrivania_->PossoChiudere());
+    ASSERT_TRUE(Inserisce(u"B"_s, 5));
+    scrivania_->Annulla();
+    EXPECT_TRUE(scrivania_->PossoChiudere());  // nothing differs from what is saved
+    Esce(Answer::No);
+    scrivania_->Nuovo();
+    EXPECT_TRUE(scrivania_->PossoChiudere());
+    Destinazione(u"DUE"_s, {});
+    const QString domanda = u"La nuova mèta «DUE» non è stata salvata: vuoi rinunciarvi?"_s;
+    copione_.Domanda(domanda, u"Fine Lavoro"_s, Answer::No);
+    EXPECT_FALSE(scrivania_->PossoChiudere());
 }
 
 TEST_F(ScrivaniaTest, WhatCannotBeSavedStaysOnScreen) {
@@ -355,6 +365,14 @@ TEST_F(ScrivaniaTest, WhatCannotBeSavedStaysOnScreen) {
     copione_.Domanda(kUscire, kFine, Answer::Yes, kAnnullabile).Messaggio(Archivio(u"…"_s));
     EXPECT_FALSE(scrivania_->PossoChiudere());
     EXPECT_EQ(Righe(), u"A B C"_s);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+    // Nor is a trip lost whose deletion fails.
+    Esce(Answer::No);
+    AltroProgramma("CREATE TRIGGER fermo BEFORE DELETE ON MeteVandro BEGIN SELECT RAISE(ABORT, 'fermo'); END");
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes).Messaggio(Archivio(u"…"_s));
+    scrivania_->CancMeta();
+    EXPECT_EQ(Modo(), tutti_);
+    EXPECT_EQ(Righe(), u"A B"_s);
     EXPECT_EQ(Memorizzate(), u"A B"_s);
 }
 

@@ -27,7 +27,7 @@ TEST(Uso, TheWindowNeedsADisplay) {
     const Risposta risposta = programma.Esegui({});
     EXPECT_EQ(risposta.codice, 1);
     EXPECT_EQ(risposta.errori,
-              u"La finestra non si può aprire: non c'è uno schermo. I verbi si usano anche senza: cronovia --help\n"_s);
+              u"La finestra non si può aprire: non c'è uno schermo. I comandi da terminale funzionano anche senza finestra: cronovia --help\n"_s);
 }
 
 TEST(Uso, WrongLinesAreRefusedBeforeAnythingIsMade) {

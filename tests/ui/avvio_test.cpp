@@ -25,6 +25,16 @@ TEST_F(AvvioTest, AnEmptyFolder) {
     EXPECT_EQ(Scelta(u"cmbSoste"_s), u"3 - Sosta Maggiore"_s);
 }
 
+TEST_F(AvvioTest, OldDataIsOfferedUntilTheFirstCommand) {
+    Apri();
+    EXPECT_FALSE(Pulsante(u"cmdConverte"_s).isVisible());
+    prova::ScriviFile(QDir(cartella_.Percorso()).filePath(u"VandMete.dat"_s), {});
+    Apri();
+    EXPECT_TRUE(Pulsante(u"cmdConverte"_s).isVisible() && Pulsante(u"cmdConverte"_s).isEnabled());
+    Premi(u"cmdNuovo"_s);
+    EXPECT_FALSE(Pulsante(u"cmdConverte"_s).isVisible());
+}
+
 TEST_F(AvvioTest, TheTripThatWasCurrentComesBack) {
     ImportaEsempio(u"provenza"_s);
     ImportaEsempio(u"sicilia"_s);
