@@ -1,6 +1,7 @@
 #include "ui/frm_bottoni.h"
 
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace cronovia {
 
@@ -30,27 +31,26 @@ constexpr std::array<Comando, kComandi> kDisposizione = {
 
 }  // namespace
 
-FrmBottoni::FrmBottoni(QWidget* parent) : QFrame(parent) {
+FrmBottoni::FrmBottoni(QWidget* parent)
+    : QFrame(parent),
+      cmdConverte_(NuovoPulsante({u"cmdConverte", u"Converte", u"Recupera i dati della versione precedente"})) {
     setObjectName(u"frmBottoni"_s);
-    auto* layout = new QHBoxLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(3);
+    layout->addWidget(cmdConverte_, 0, Qt::AlignRight);
+    auto* riga = new QHBoxLayout;
+    layout->addLayout(riga);
     for (const Comando comando : kDisposizione) {
-        QPushButton* pulsante = Aggiungi(kTesti[static_cast<std::size_t>(comando)]);
+        QPushButton* pulsante = NuovoPulsante(kTesti[static_cast<std::size_t>(comando)]);
+        // All alike, and together no wider than a small window.
+        pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
+        pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
         pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
+        riga->addWidget(pulsante, 1);
     }
-    cmdConverte_ = Aggiungi({u"cmdConverte", u"Converte", u"Recupera i dati della versione precedente"});
     connect(cmdConverte_, &QPushButton::clicked, this, &FrmBottoni::Converte);
-}
-
-// All alike, and together no wider than a small window.
-QPushButton* FrmBottoni::Aggiungi(const TestiPulsante& testi) {
-    QPushButton* pulsante = NuovoPulsante(testi);
-    pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
-    pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    layout()->addWidget(pulsante);
-    return pulsante;
 }
 
 void FrmBottoni::Applica(const StatoComandi& stato, bool daSbloccare, bool converte) {

@@ -24,8 +24,6 @@ class FrmBottoni : public QFrame {
     void Converte();
 
   private:
-    QPushButton* Aggiungi(const TestiPulsante& testi);
-
     std::array<QPushButton*, kComandi> pulsanti_{};
     QPushButton* cmdConverte_;
 };
