@@ -38,13 +38,14 @@ std::optional<bool> Scrivania::KmProgressivi() const {
     return KmPrecedenti(righe_, riepilogo_, rigaCorrente_) > 100;
 }
 
-// Tells what went wrong; false then.
-bool Scrivania::Prova(const std::function<void()>& comando) {
+// Tells what was not done and what went wrong; false then.
+bool Scrivania::Prova(const std::function<void()>& comando, const QString& mancato) {
     try {
         comando();
         return true;
     } catch (const Failure& failure) {
-        volti_.interazione.Show({failure.Message(), {}, Icon::Exclamation});
+        const QString inizio = mancato.isEmpty() ? QString() : mancato + u"\n\n"_s;
+        volti_.interazione.Show({inizio + failure.Message(), {}, Icon::Exclamation});
         return false;
     }
 }
@@ -78,12 +79,12 @@ void Scrivania::ApplicaModo(const QString& modo) {
 }
 
 // While the archive is written to, no other command can be given. What goes wrong is told, and the modes are as before.
-bool Scrivania::SenzaComandi(const std::function<void()>& azione) {
+bool Scrivania::SenzaComandi(const QString& mancato, const std::function<void()>& azione) {
     const QString comandi = modoComandi_;
     const QString itinerario = std::exchange(modoItinerario_, u"ZZ"_s);
     ApplicaModo(u"ZZ"_s);
     volti_.mostra();
-    const bool riuscita = Prova(azione);
+    const bool riuscita = Prova(azione, mancato);
     if (modoComandi_ == "ZZ"_L1) modoComandi_ = comandi;
     modoItinerario_ = itinerario;
     return riuscita;
@@ -136,9 +137,10 @@ void Scrivania::ChiudiElencoMete() {
 }
 
 void Scrivania::Salva() {
-    Prova([&] {
-        const Salvataggio salvataggio = DecidiSalvataggio(sessione_.Archivio(), meta_);
-        if (!BoxConferma(volti_.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
+    Salvataggio salvataggio;
+    if (!Prova([&] { salvataggio = DecidiSalvataggio(sessione_.Archivio(), meta_); })) return;
+    if (!BoxConferma(volti_.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
+    SenzaComandi(u"La mèta non è stata salvata."_s, [&] {
         codiceMetaCorrente_ = SalvaMeta(sessione_.Archivio(), meta_, salvataggio);
         CaricaMetaCorrente();
         AggiornaOrari();
@@ -150,7 +152,7 @@ void Scrivania::CancMeta() {
         CaricaMetaCorrente();
         volti_.mostra();
         if (codiceMetaCorrente_.isEmpty() || !BoxConferma(volti_.interazione, u"A"_s)) return;
-        SenzaComandi([&] {
+        SenzaComandi(u"La mèta non è stata cancellata."_s, [&] {
             CancellaMeta(sessione_.Archivio(), codiceMetaCorrente_, volti_.avanzamento);
             CaricaMetaCorrente();
         });
@@ -165,7 +167,7 @@ void Scrivania::CancItin() {
             "recuperabile!"_s,
             u"Annullamento itinerario"_s};
         if (volti_.interazione.Ask(sicuro) != Answer::Yes) return;
-        SenzaComandi([&] {
+        SenzaComandi(u"L'itinerario non è stato cancellato."_s, [&] {
             MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, {}, meta_.parametri,
                                      volti_.avanzamento);
             CaricaMetaCorrente();

@@ -90,11 +90,11 @@ class Scrivania {
     bool PossoChiudere();
 
   private:
-    bool Prova(const std::function<void()>& comando);
+    bool Prova(const std::function<void()>& comando, const QString& mancato = {});
     void CaricaMetaCorrente();
     void MettiSulTavolo(MetaAperta aperta);
     void ApplicaModo(const QString& modo);
-    bool SenzaComandi(const std::function<void()>& azione);
+    bool SenzaComandi(const QString& mancato, const std::function<void()>& azione);
     void Ricomponi();
     void RicalcolaTempi();
     bool Modifica(const QString& nome, RigheItinerario nuove, int riga);

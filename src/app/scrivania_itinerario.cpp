@@ -92,13 +92,11 @@ void Scrivania::ScegliTappa(int riga) {
 }
 
 bool Scrivania::MemorizzaTappe() {
-    bool memorizzate = false;
-    SenzaComandi([&] {
+    return SenzaComandi(u"L'itinerario non è stato salvato."_s, [&] {
         // Another window may have deleted the trip: stages without one would turn up in the next trip with its code.
         sessione_.ApriMeta(codiceMetaCorrente_);
         const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, righe_,
                                                                    meta_.parametri, volti_.avanzamento);
-        memorizzate = true;
         memorizzate_ = righe_;
         if (esito.nomiAccorciati == 0) return;
         volti_.interazione.Show(
@@ -106,7 +104,6 @@ bool Scrivania::MemorizzaTappe() {
              {},
              Icon::Exclamation});
     });
-    return memorizzate;
 }
 
 void Scrivania::Memorizza() {

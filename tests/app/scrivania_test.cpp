@@ -362,14 +362,16 @@ TEST_F(ScrivaniaTest, WhatCannotBeSavedStaysOnScreen) {
     const SQLite::Database altro = AltroProgramma(
         "CREATE TRIGGER pieno BEFORE INSERT ON Itinerari WHEN NEW.Sequenza = '0003' "
         "BEGIN SELECT RAISE(ABORT, 'pieno'); END");
-    copione_.Domanda(kUscire, kFine, Answer::Yes, kAnnullabile).Messaggio(Archivio(u"…"_s));
+    copione_.Domanda(kUscire, kFine, Answer::Yes, kAnnullabile);
+    copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + Archivio(u"…"_s));
     EXPECT_FALSE(scrivania_->PossoChiudere());
     EXPECT_EQ(Righe(), u"A B C"_s);
     EXPECT_EQ(Memorizzate(), u"A B"_s);
     // Nor is a trip lost whose deletion fails.
     Esce(Answer::No);
     AltroProgramma("CREATE TRIGGER fermo BEFORE DELETE ON MeteVandro BEGIN SELECT RAISE(ABORT, 'fermo'); END");
-    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes).Messaggio(Archivio(u"…"_s));
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+    copione_.Messaggio(u"La mèta non è stata cancellata.\n\n"_s + Archivio(u"…"_s));
     scrivania_->CancMeta();
     EXPECT_EQ(Modo(), tutti_);
     EXPECT_EQ(Righe(), u"A B"_s);
@@ -383,7 +385,7 @@ TEST_F(ScrivaniaTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsC
     copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
     altra->CancMeta();
     copione_.Domanda(kUscire, kFine, Answer::Yes, kAnnullabile);
-    copione_.Messaggio(u"Non esiste nessuna mèta con il codice 000002."_s);
+    copione_.Messaggio(u"L'itinerario non è stato salvato.\n\nNon esiste nessuna mèta con il codice 000002."_s);
     scrivania_->Fine();
     EXPECT_EQ(Righe(), u"A"_s);
     EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Tabella::Itinerari), 0);
