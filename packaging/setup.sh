@@ -5,8 +5,8 @@ set -eu
 
 packages_for() {
     case $1 in
-        build) echo g++ cmake ninja-build qt6-base-dev qt6-translations-l10n libsqlitecpp-dev libsqlite3-dev ;;
-        test) echo libgtest-dev libgmock-dev ;;
+        build) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-liberation libsqlitecpp-dev libsqlite3-dev ;;
+        test) echo libgtest-dev libgmock-dev poppler-utils ;;
         check) echo clang-format clang-tidy ;;
         bench) echo libbenchmark-dev sqlite3 ;;
         fuzz) echo clang libclang-rt-14-dev ;;

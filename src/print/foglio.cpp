@@ -1,0 +1,76 @@
+#include "print/foglio.h"
+
+#include <utility>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kEccedenza = 2;      // how far a text may reach over its column
+constexpr double kRientroCentro = 1;  // a centred text stands so far left of the middle
+constexpr double kRientroDestra = 3;  // a text at the right ends so far before the border
+constexpr Carattere kCarattereDelPiede{Famiglia::Times, 6};
+
+double Ascissa(const TestoColonna& testo, double larghezza) {
+    switch (testo.allineamento) {
+        case Allineamento::Centro:
+            return testo.x2 + (testo.x1 - testo.x2) / 2 - larghezza / 2 - kRientroCentro;
+        case Allineamento::Destra:
+            return testo.x2 - larghezza - kRientroDestra;
+        case Allineamento::Sinistra:
+            break;
+    }
+    return testo.x1;
+}
+
+// Half of a character beyond the first 65,536 is none.
+void TogliUltimo(QString& testo) { testo.chop(testo.back().isLowSurrogate() && testo.size() > 1 ? 2 : 1); }
+
+}  // namespace
+
+Foglio::Foglio(const QString& titolo, PieDiPagina piede) : documento_{titolo, {}}, piede_(std::move(piede)) {}
+
+void Foglio::ApriPagina(int rigaStampa) {
+    documento_.pagine.emplace_back();
+    rigaStampa_ = rigaStampa;
+}
+
+void Foglio::StampaTesto(const TestoColonna& testo) {
+    QString scritto = testo.testo.trimmed();
+    const double massima = testo.x2 - testo.x1 + kEccedenza;
+    double larghezza = misure_.Larghezza(scritto, testo.carattere);
+    while (!scritto.isEmpty() && larghezza >= massima) {
+        TogliUltimo(scritto);
+        larghezza = misure_.Larghezza(scritto, testo.carattere);
+    }
+    if (scritto.isEmpty()) return;
+    const double base = testo.y - misure_.Discesa(testo.carattere);
+    PaginaCorrente().testi.push_back({scritto, testo.carattere, Ascissa(testo, larghezza), base, larghezza});
+}
+
+Carattere Foglio::Ristretto(const QString& testo, Carattere carattere, double larghezza) {
+    while (carattere.dimensione > kDimensioneMinima && misure_.Larghezza(testo, carattere) >= larghezza) {
+        --carattere.dimensione;
+    }
+    return carattere;
+}
+
+void Foglio::StampaLogo(const QRectF& area) { PaginaCorrente().immagini.push_back({area, u":/print/logo.svg"_s}); }
+
+void Foglio::StampaFinePagina(std::span<const int> bordi) {
+    if (!PaginaAperta()) return;
+    Carattere data = kCarattereDelPiede;
+    data.corsivo = true;
+    const auto y = static_cast<double>(rigaStampa_);
+    const auto primo = static_cast<double>(bordi.front());
+    const auto ultimo = static_cast<double>(bordi.back());
+    StampaTesto({piede_.oggi.toString(u"dd/MM/yyyy"_s), y, primo, static_cast<double>(bordi[3]), data});
+    StampaTesto({piede_.destra, y, primo, ultimo + kRientroDestra, kCarattereDelPiede, Allineamento::Destra});
+    rigaStampa_ -= kAltezzaRiga;
+    Traccia(Linea{primo, static_cast<double>(rigaStampa_), ultimo, static_cast<double>(rigaStampa_), Tratto::Spesso});
+    rigaStampa_ = kNessunaPagina;
+}
+
+}  // namespace cronovia

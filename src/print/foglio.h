@@ -1,0 +1,85 @@
+// The sheet that a printout is written on, line by line and page by page.
+#pragma once
+
+#include <QDate>
+#include <QRectF>
+#include <QString>
+#include <span>
+
+#include "print/font_stampa.h"
+#include "print/pagina.h"
+
+namespace cronovia {
+
+/// Line height, and the last baseline at which a line still belongs to the page; millimetres.
+inline constexpr int kAltezzaRiga = 5;
+inline constexpr int kUltimaRiga = 280;
+
+/// The least size to which a text is shrunk, in points.
+inline constexpr int kDimensioneMinima = 5;
+
+enum class Allineamento { Sinistra, Centro, Destra };
+
+/// A text for a column: its bottom line and the two borders of the column.
+struct TestoColonna {
+    QString testo;
+    double y = 0;
+    double x1 = 0;
+    double x2 = 0;
+    Carattere carattere;
+    Allineamento allineamento = Allineamento::Sinistra;
+};
+
+/// What stands under each page.
+struct PieDiPagina {
+    QDate oggi;
+    QString destra;  ///< text at the right margin: the window's title
+};
+
+class Foglio {
+  public:
+    Foglio(const QString& titolo, PieDiPagina piede);
+
+    /// Bottom line of the texts being written; beyond any page when none is open.
+    [[nodiscard]] int RigaStampa() const { return rigaStampa_; }
+    void RigaStampa(int riga) { rigaStampa_ = riga; }
+    void Avanza(int millimetri) { rigaStampa_ += millimetri; }
+    [[nodiscard]] bool PaginaAperta() const { return rigaStampa_ < kNessunaPagina; }
+    /// The next line needs a new page.
+    [[nodiscard]] bool PaginaPiena() const { return rigaStampa_ > kUltimaRiga; }
+    [[nodiscard]] int NumeroPagina() const { return static_cast<int>(documento_.pagine.size()); }
+
+    /// Opens a page whose first line has its bottom there.
+    void ApriPagina(int rigaStampa);
+
+    /// Puts a text without the blanks around it, nothing when that is empty. What is not narrower than the column plus
+    /// 2 mm loses its last characters. At the left it begins on the border; centred it stands 1 mm left of the middle,
+    /// at the right it ends 3 mm before the border.
+    void StampaTesto(const TestoColonna& testo);
+
+    /// The font with the greatest size, up to its own and not under the floor, at which the text is narrower than that.
+    Carattere Ristretto(const QString& testo, Carattere carattere, double larghezza);
+
+    void Traccia(const Linea& linea) { PaginaCorrente().linee.push_back(linea); }
+    void Traccia(const Riquadro& riquadro) { PaginaCorrente().riquadri.push_back(riquadro); }
+    /// The program's picture.
+    void StampaLogo(const QRectF& area);
+
+    /// Ends the page, if one is open: the date under its last line and the text of the window at the right margin, then
+    /// the closing rule from the first to the last border. There are at least four borders.
+    void StampaFinePagina(std::span<const int> bordi);
+
+    /// What was written; the page being open is ended first by who wrote it.
+    [[nodiscard]] const Documento& Scritto() const { return documento_; }
+
+  private:
+    static constexpr int kNessunaPagina = 800;
+    Pagina& PaginaCorrente() { return documento_.pagine.back(); }
+
+    Documento documento_;
+    PieDiPagina piede_;
+    Misure misure_;
+    int rigaStampa_ = kNessunaPagina;
+};
+
+}  // namespace cronovia

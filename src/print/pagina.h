@@ -1,0 +1,70 @@
+// The page model: what stands where on paper, before anything is painted.
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+namespace cronovia {
+
+/// Families of the printouts: "Times New Roman", "Arial" and "Arial Narrow", or fonts of the same metrics.
+enum class Famiglia : std::uint8_t { Times, Arial, ArialNarrow };
+
+struct Carattere {
+    Famiglia famiglia = Famiglia::Times;
+    int dimensione = 8;  ///< points
+    bool grassetto = false;
+    bool corsivo = false;
+
+    friend bool operator==(const Carattere&, const Carattere&) = default;
+};
+
+/// A text in its place. All lengths of the model are millimetres, x to the right and y down.
+struct TestoPosto {
+    QString testo;
+    Carattere carattere;
+    double x = 0;          ///< left edge
+    double base = 0;       ///< baseline
+    double larghezza = 0;  ///< as measured
+};
+
+enum class Tratto : std::uint8_t { Sottile, Medio, Spesso };
+
+struct Linea {
+    double x1 = 0;
+    double y1 = 0;
+    double x2 = 0;
+    double y2 = 0;
+    Tratto tratto = Tratto::Sottile;
+};
+
+/// An outlined rectangle, or a light filled one without outline.
+struct Riquadro {
+    QRectF area;
+    Tratto tratto = Tratto::Sottile;
+    bool sfondo = false;
+};
+
+struct Immagine {
+    QRectF area;
+    QString sorgente;  ///< a file in SVG; drawn within the area, its proportions kept
+};
+
+struct Pagina {
+    std::vector<Riquadro> riquadri;
+    std::vector<Linea> linee;
+    std::vector<Immagine> immagini;
+    std::vector<TestoPosto> testi;  ///< in the order in which they are to be read
+};
+
+/// A printout on A4 sheets, upright. Without pages it is one blank sheet.
+struct Documento {
+    QString titolo;
+    std::vector<Pagina> pagine;
+};
+
+/// Distance of the model's origin from the left and the upper edge of the sheet: the margin that printers leave.
+inline constexpr double kMargineFoglio = 4;
+
+}  // namespace cronovia

@@ -1,0 +1,116 @@
+#include "print/pittore.h"
+
+#include <QHash>
+#include <QPageLayout>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <memory>
+
+#include "interaction/failure.h"
+#include "print/font_stampa.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+double Spessore(Tratto tratto) {
+    switch (tratto) {
+        case Tratto::Spesso:
+            return 0.35;
+        case Tratto::Medio:
+            return 0.2;
+        case Tratto::Sottile:
+            break;
+    }
+    return 0.1;
+}
+
+// Thin rules are grey: they lead the eye and leave the texts the word.
+QColor Colore(Tratto tratto) { return tratto == Tratto::Sottile ? QColor(120, 120, 120) : QColor(Qt::black); }
+
+// In the units of the fonts: one coordinate system for texts and lines.
+double Unita(double millimetri) { return millimetri * kUnitaMillimetro; }
+QPointF Punto(double x, double y) { return {Unita(x), Unita(y)}; }
+QRectF Area(const QRectF& area) {
+    return {Unita(area.x()), Unita(area.y()), Unita(area.width()), Unita(area.height())};
+}
+
+class Pittore {
+  public:
+    explicit Pittore(QPagedPaintDevice& dispositivo) : dispositivo_(dispositivo) {
+        QPageLayout foglio(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+        foglio.setMode(QPageLayout::FullPageMode);
+        dispositivo.setPageLayout(foglio);
+        if (!pennello_.begin(&dispositivo)) throw Failure(u"La stampa non è riuscita: la stampante non risponde."_s);
+        const double punti = 72.0 * kUnitaPunto;
+        pennello_.scale(dispositivo.logicalDpiX() / punti, dispositivo.logicalDpiY() / punti);
+        pennello_.translate(Punto(kMargineFoglio, kMargineFoglio));
+    }
+
+    void NuovoFoglio() {
+        if (!dispositivo_.newPage()) throw Failure(u"La stampa si è interrotta: la stampante non risponde."_s);
+    }
+
+    void Dipingi(const Pagina& pagina) {
+        for (const Riquadro& riquadro : pagina.riquadri) Dipingi(riquadro);
+        for (const Linea& linea : pagina.linee) {
+            Penna(linea.tratto);
+            pennello_.drawLine(Punto(linea.x1, linea.y1), Punto(linea.x2, linea.y2));
+        }
+        for (const Immagine& immagine : pagina.immagini) Dipingi(immagine);
+        pennello_.setPen(Qt::black);
+        for (const TestoPosto& testo : pagina.testi) {
+            pennello_.setFont(font_.Font(testo.carattere));
+            pennello_.drawText(Punto(testo.x, testo.base), testo.testo);
+        }
+    }
+
+    void Finisci() {
+        if (!pennello_.end()) throw Failure(u"La stampa non è riuscita: la stampante non risponde."_s);
+    }
+
+  private:
+    void Penna(Tratto tratto) {
+        pennello_.setPen(QPen(Colore(tratto), Unita(Spessore(tratto)), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    }
+
+    void Dipingi(const Riquadro& riquadro) {
+        if (riquadro.sfondo) {
+            pennello_.fillRect(Area(riquadro.area), QColor(235, 235, 235));
+            return;
+        }
+        Penna(riquadro.tratto);
+        pennello_.drawRect(Area(riquadro.area));
+    }
+
+    void Dipingi(const Immagine& immagine) {
+        auto& disegno = disegni_[immagine.sorgente];
+        if (!disegno) {
+            disegno = std::make_shared<QSvgRenderer>(immagine.sorgente);
+            disegno->setAspectRatioMode(Qt::KeepAspectRatio);
+        }
+        disegno->render(&pennello_, Area(immagine.area));
+    }
+
+    QPagedPaintDevice& dispositivo_;
+    QPainter pennello_;
+    FontStampa font_;
+    QHash<QString, std::shared_ptr<QSvgRenderer>> disegni_;
+};
+
+}  // namespace
+
+void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo) {
+    Pittore pittore(dispositivo);
+    bool prima = true;
+    for (const Pagina& pagina : documento.pagine) {
+        if (!prima) pittore.NuovoFoglio();
+        prima = false;
+        pittore.Dipingi(pagina);
+    }
+    pittore.Finisci();
+}
+
+}  // namespace cronovia
