@@ -26,7 +26,7 @@ Meta ConInizio(const QDateTime& inizio, const ParametriViaggio& parametri) {
 
 }  // namespace
 
-Sessione::Sessione(const QString& cartella) : archive_(Archive::Open(cartella)) {
+Sessione::Sessione(const QString& cartella) : cartella_(cartella), archive_(Archive::Open(cartella)) {
     CaricaTipiGuida(archive_);
     CaricaDefaultMeta(archive_);
 }

@@ -141,6 +141,15 @@ std::optional<QString> CartellaDellaFinestra(const QStringList& riga) {
     return soloCartella ? std::optional(parser.value(u"cartella"_s)) : std::nullopt;
 }
 
+bool VuoleCaratteri(const QStringList& riga) {
+    QCommandLineParser parser;
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    AggiungiOpzioniComuni(parser);
+    const QStringList resto = parser.parse(riga) ? parser.positionalArguments() : QStringList();
+    const Verbo* verbo = resto.isEmpty() ? nullptr : TrovaVerbo(resto.first());
+    return verbo != nullptr && verbo->conCaratteri;
+}
+
 int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori) {
     try {
         const int codice = Esegui(riga, uscita);

@@ -1,5 +1,7 @@
 #include "cli/verbi.h"
 
+#include "cli/opzioni_calcolo.h"
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -15,15 +17,39 @@ std::optional<int> Richiesta::Intero(const QString& nome, int minimo, int massim
     return valore;
 }
 
+std::vector<Opzione> OpzioniDelCalcolo() {
+    return {
+        {u"giorni"_s, u"N"_s, u"Adegua le soste perché il viaggio duri N giorni (0 = quanti ne servono)."_s},
+        {u"soste"_s, u"1..5"_s, u"Soste da contare: 1 itinerario, 2 guida, 3 la maggiore, 4 la minore, 5 nessuna."_s}};
+}
+
+OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta) {
+    OpzioniCalcolo opzioni;
+    opzioni.giorni = richiesta.Intero(u"giorni"_s, 0, kMassimoGiorniAdeguamento);
+    if (const auto soste = richiesta.Intero(u"soste"_s, 1, 5)) opzioni.soste = static_cast<CalcoloSoste>(*soste);
+    return opzioni;
+}
+
+namespace {
+
+std::vector<Opzione> ConOpzioniDelCalcolo(std::vector<Opzione> prima) {
+    const std::vector<Opzione> calcolo = OpzioniDelCalcolo();
+    prima.insert(prima.end(), calcolo.begin(), calcolo.end());
+    return prima;
+}
+
+}  // namespace
+
 const std::vector<Verbo>& Verbi() {
     static const std::vector<Verbo> verbi = {
-        {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, &EseguiElenca},
+        {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, false, &EseguiElenca},
         {u"nuova"_s,
          u"LOCALITA NAZIONE"_s,
          u"Crea una mèta con i parametri di viaggio personali e ne scrive il codice."_s,
          {{u"inizio"_s, u"\"gg/mm/aaaa hh:mm\""_s, u"Data e ora di partenza; altrimenti adesso."_s}},
          2,
          2,
+         false,
          false,
          &EseguiNuova},
         {u"importa"_s,
@@ -33,6 +59,7 @@ const std::vector<Verbo>& Verbi() {
          1,
          -1,
          false,
+         false,
          &EseguiImporta},
         {u"esporta"_s,
          u"FILE.iei [CODICE…]"_s,
@@ -40,6 +67,7 @@ const std::vector<Verbo>& Verbi() {
          {{u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}},
          1,
          -1,
+         false,
          false,
          &EseguiEsporta},
         {u"itinerario"_s,
@@ -49,17 +77,17 @@ const std::vector<Verbo>& Verbi() {
          1,
          1,
          true,
+         false,
          &EseguiItinerario},
-        {u"calcola"_s,
-         u"CODICE"_s,
+        {u"calcola"_s, u"CODICE"_s,
          u"Calcola la cronovia: giorno per giorno, l'ora di ogni tratto, pasto, notte, riposo, traghetto e visita."_s,
-         {{u"giorni"_s, u"N"_s, u"Adegua le soste perché il viaggio duri N giorni (0 = quanti ne servono)."_s},
-          {u"soste"_s, u"1..5"_s,
-           u"Soste da contare: 1 itinerario, 2 guida, 3 la maggiore, 4 la minore, 5 nessuna."_s}},
-         1,
-         1,
-         true,
-         &EseguiCalcola},
+         ConOpzioniDelCalcolo({{u"tabella"_s, {}, u"Scrive anche la tabella Vandtabl.txt nella cartella dei dati."_s}}),
+         1, 1, true, false, &EseguiCalcola},
+        {u"stampa"_s, u"CODICE"_s,
+         u"Stampa la cronovia su un file PDF, e la tabella Vandtabl.txt nella cartella dei dati."_s,
+         ConOpzioniDelCalcolo({{u"pdf"_s, u"FILE"_s, u"Il file PDF (obbligatorio)."_s},
+                               {u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}}),
+         1, 1, false, true, &EseguiStampa},
         {u"guida"_s,
          u"[LOCALITA]"_s,
          u"Mostra la guida delle città, tutta o di una località (anche con i caratteri jolly * e ?)."_s,
@@ -67,6 +95,7 @@ const std::vector<Verbo>& Verbi() {
          0,
          1,
          true,
+         false,
          &EseguiGuida},
     };
     return verbi;

@@ -52,8 +52,9 @@ struct Verbo {
     QString descrizione;
     std::vector<Opzione> opzioni;
     int minimoArgomenti = 0;
-    int massimoArgomenti = 0;  ///< -1: any number
-    bool conFormato = false;   ///< answers in the format wanted
+    int massimoArgomenti = 0;   ///< -1: any number
+    bool conFormato = false;    ///< answers in the format wanted
+    bool conCaratteri = false;  ///< needs fonts: a QGuiApplication
     void (*esegui)(const ApriSessione&, const Richiesta&, QTextStream& uscita) = nullptr;
 };
 
@@ -66,6 +67,7 @@ void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 
 }  // namespace cronovia

@@ -5,20 +5,15 @@
 #include "calendar/date.h"
 #include "cli/griglia_testi.h"
 #include "cli/json.h"
+#include "cli/opzioni_calcolo.h"
 #include "cli/verbi.h"
+#include "print/tabella_testo.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::vector<RigaGriglia> RigheDellaCronovia(const Cronovia& cronovia) {
-    std::vector<RigaGriglia> righe;
-    righe.reserve(cronovia.righe.size());
-    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) righe.push_back(ColonneCronovia(cronovia, i));
-    return righe;
-}
 
 // The columns under a day's heading: the hour first, the day itself left to the heading. Guide entries, whose texts are
 // long, are no columns.
@@ -90,18 +85,19 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
 }  // namespace
 
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
-    OpzioniCalcolo opzioni;
-    opzioni.giorni = richiesta.Intero(u"giorni"_s, 0, kMassimoGiorniAdeguamento);
-    if (const auto soste = richiesta.Intero(u"soste"_s, 1, 5)) opzioni.soste = static_cast<CalcoloSoste>(*soste);
+    const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     Progress progress;
     const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
-    const std::vector<RigaGriglia> righe = RigheDellaCronovia(cronovia);
+    const std::vector<RigaGriglia> righe = ColonneCronovia(cronovia);
     const TestiTotali totali = Testi(cronovia.totali, cronovia.guidaGiorno);
+    const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
+    if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());
     if (richiesta.formato == Formato::Testo) {
         ScriviTesto(aperta, esito, righe, totali, uscita);
+        if (tabella) uscita << RigaTabellaScritta(sessione.Cartella());
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(TestiDellaGriglia(IntestazioniCronovia(), righe), uscita);
     } else {

@@ -1,15 +1,12 @@
 #include "exchange/esporta_mete.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 #include <QSet>
 
 #include "calendar/testo.h"
 #include "calendar/windows1252.h"
 #include "exchange/lettore_iei.h"
 #include "interaction/failure.h"
+#include "store/file_intero.h"
 
 namespace cronovia {
 
@@ -34,11 +31,7 @@ QStringView SenzaBlank(QStringView testo) {
 
 class ScrittoreIei {
   public:
-    explicit ScrittoreIei(const QString& path) : file_(path) {
-        if (!file_.open(QIODevice::WriteOnly)) {
-            throw Failure(u"Il file %1 non si può scrivere: controlla la cartella e i permessi."_s.arg(Nome()));
-        }
-    }
+    explicit ScrittoreIei(const QString& path) : file_(path) {}
 
     void Intestazione(Tabella tabella) {
         for (const Campo& campo : Definizione(tabella).campi) Valore(tabella, campo.nome);
@@ -52,8 +45,7 @@ class ScrittoreIei {
 
     /// Lays the file in its place; returns how many characters travel as another one.
     qint64 Chiudi() {
-        // `commit` alone does not tell when the last bytes found no room.
-        if (!file_.flush() || !file_.commit()) NonScritto();
+        file_.Chiudi();
         return sostituiti_;
     }
 
@@ -67,38 +59,17 @@ class ScrittoreIei {
 
     void FineRiga() {
         riga_ += "\r\n";
-        if (file_.write(riga_) != riga_.size()) NonScritto();
+        file_.Scrivi(riga_);
         riga_.clear();
     }
 
-    [[noreturn]] void NonScritto() const {
-        throw Failure(u"Il file %1 non è stato scritto: il disco è pieno o non si può scrivere."_s.arg(Nome()));
-    }
-
-    [[nodiscard]] QString Nome() const { return QDir::toNativeSeparators(file_.fileName()); }
-
-    QSaveFile file_;
+    FileIntero file_;
     QByteArray riga_;
     QString vietati_ = CaratteriVietati();
     qint64 sostituiti_ = 0;
 };
 
 Ricerca PerCodice(Tabella tabella, const QString& codice) { return {tabella, {{0, NamePattern::Exactly(codice)}}}; }
-
-bool UnArchivio(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(16) == QByteArray("SQLite format 3\0", 16);
-}
-
-void RifiutaFileEsistente(const QString& path, bool sovrascrivi) {
-    const QFileInfo info(path);
-    if (!info.exists()) return;
-    const QString nome = QDir::toNativeSeparators(path);
-    if (info.isDir()) throw Failure(u"%1 è una cartella, non un file."_s.arg(nome));
-    if (!info.isFile()) throw Failure(u"%1 non è un file che si possa scrivere."_s.arg(nome));
-    if (!sovrascrivi) throw Failure(u"Il file %1 esiste già: non è stato ricoperto."_s.arg(nome));
-    if (UnArchivio(path)) throw Failure(u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(nome));
-}
 
 std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     std::vector<QString> codici;

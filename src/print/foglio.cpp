@@ -10,7 +10,6 @@ namespace {
 
 constexpr double kEccedenza = 2;      // how far a text may reach over its column
 constexpr double kRientroCentro = 1;  // a centred text stands so far left of the middle
-constexpr double kRientroDestra = 3;  // a text at the right ends so far before the border
 constexpr Carattere kCarattereDelPiede{Famiglia::Times, 6};
 
 double Ascissa(const TestoColonna& testo, double larghezza) {
@@ -51,7 +50,7 @@ void Foglio::StampaTesto(const TestoColonna& testo) {
 }
 
 Carattere Foglio::Ristretto(const QString& testo, Carattere carattere, double larghezza) {
-    while (carattere.dimensione > kDimensioneMinima && misure_.Larghezza(testo, carattere) >= larghezza) {
+    while (carattere.dimensione > kDimensioneMinima && !Entra(testo, carattere, larghezza)) {
         --carattere.dimensione;
     }
     return carattere;

@@ -18,6 +18,9 @@ inline constexpr int kUltimaRiga = 280;
 /// The least size to which a text is shrunk, in points.
 inline constexpr int kDimensioneMinima = 5;
 
+/// How far before its border a text at the right ends.
+inline constexpr double kRientroDestra = 3;
+
 enum class Allineamento { Sinistra, Centro, Destra };
 
 /// A text for a column: its bottom line and the two borders of the column.
@@ -57,6 +60,10 @@ class Foglio {
     /// at the right it ends 3 mm before the border.
     void StampaTesto(const TestoColonna& testo);
 
+    /// Whether a text is narrower than that.
+    bool Entra(const QString& testo, const Carattere& carattere, double larghezza) {
+        return misure_.Larghezza(testo, carattere) < larghezza;
+    }
     /// The font with the greatest size, up to its own and not under the floor, at which the text is narrower than that.
     Carattere Ristretto(const QString& testo, Carattere carattere, double larghezza);
 

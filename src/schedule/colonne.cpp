@@ -127,4 +127,11 @@ RigaGriglia ColonneCronovia(const Cronovia& cronovia, std::size_t posizione) {
     return testi;
 }
 
+std::vector<RigaGriglia> ColonneCronovia(const Cronovia& cronovia) {
+    std::vector<RigaGriglia> righe;
+    righe.reserve(cronovia.righe.size());
+    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) righe.push_back(ColonneCronovia(cronovia, i));
+    return righe;
+}
+
 }  // namespace cronovia

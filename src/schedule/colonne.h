@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <array>
+#include <vector>
 
 #include "itinerary/riepilogo.h"
 #include "itinerary/tappa.h"
@@ -45,5 +46,8 @@ RigaGriglia ColonneTappa(int numero, const Tappa& tappa, const TempiTappa& tempi
 
 /// A row of the schedule, by its position from 0.
 RigaGriglia ColonneCronovia(const Cronovia& cronovia, std::size_t posizione);
+
+/// All rows of the schedule.
+std::vector<RigaGriglia> ColonneCronovia(const Cronovia& cronovia);
 
 }  // namespace cronovia

@@ -1,0 +1,43 @@
+// stampa.
+#include <QCoreApplication>
+#include <QDate>
+#include <QDir>
+
+#include "cli/opzioni_calcolo.h"
+#include "cli/verbi.h"
+#include "print/file_pdf.h"
+#include "print/stampa_cronovia.h"
+#include "print/tabella_testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+QString RigaTabellaScritta(const QString& cartella) {
+    return u"Stampa sul file %1: completata!\n"_s.arg(QDir::toNativeSeparators(FileTabella(cartella)));
+}
+
+// The PDF file is complete before the table is touched: when either fails, both are as they were.
+void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
+    const QString path = richiesta.opzioni.value(u"pdf"_s);
+    if (path.isEmpty()) throw WrongUsage(u"Al verbo «stampa» manca il file: --pdf FILE."_s);
+    Sessione sessione = apri();
+    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
+    Progress progress;
+    const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);
+    const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
+    const Documento documento =
+        StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
+    FileIntero file(path);
+    ScriviPdf(documento, file);
+    ScriviTabella(dati, sessione.Cartella());
+    file.Chiudi();
+    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),
+                                                                     QString::number(documento.pagine.size()))
+           << RigaTabellaScritta(sessione.Cartella());
+    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+}
+
+}  // namespace cronovia

@@ -1,0 +1,140 @@
+// The block of the page header that repeats what the trip was computed with.
+#include <array>
+#include <utility>
+
+#include "calendar/testo.h"
+#include "print/stampa_cronovia.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kInterlinea = 3.3;
+constexpr double kRientro = 2;  // of the texts from the left border of their group
+constexpr int kRighe = 8;       // the captions and seven lines
+constexpr std::array<double, 4> kGruppi = {5, 66, 125, 193};
+
+// The lines of one group, 0 being that of its caption.
+class Gruppo {
+  public:
+    Gruppo(Foglio& foglio, std::size_t posto)
+        : foglio_(foglio), sinistra_(kGruppi[posto]), destra_(kGruppi[posto + 1]), prima_(foglio.RigaStampa() + 2.0) {}
+
+    void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {Famiglia::Times, 8, true}); }
+    void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {Famiglia::Times, 8}); }
+    void VoceGrassetta(const QString& testo, int riga, double x) {
+        Scrivi(testo, riga, sinistra_ + x, {Famiglia::Times, 8, true});
+    }
+    /// Ends at `x`.
+    void Numero(const QString& testo, int riga, double x, bool grassetto = false) {
+        foglio_.StampaTesto({testo,
+                             Riga(riga),
+                             sinistra_,
+                             sinistra_ + x + kRientroDestra,
+                             {Famiglia::Times, 8, grassetto},
+                             Allineamento::Destra});
+    }
+
+  private:
+    void Scrivi(const QString& testo, int riga, double x, const Carattere& carattere) {
+        foglio_.StampaTesto({testo, Riga(riga), x, destra_, carattere});
+    }
+    [[nodiscard]] double Riga(int riga) const { return prima_ + riga * kInterlinea + (riga > 0 ? 0.6 : 0); }
+
+    Foglio& foglio_;
+    double sinistra_;
+    double destra_;
+    double prima_;
+};
+
+QString DataEOra(const QString& giornoSettimana, const QString& data, const QString& ora) {
+    return u"%1 - %2 alle ore %3"_s.arg(giornoSettimana, data, ora);
+}
+
+QString Ora(Centesimi orario) {
+    const QString hhmm = TestoOrario(orario);
+    return hhmm.left(2) + u':' + hhmm.right(2);
+}
+
+void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
+    gruppo.Titolo(u"Periodo del viaggio:"_s);
+    gruppo.VoceGrassetta(u"Inizio:"_s, 1, kRientro);
+    if (dati.meta.dataInizio) {
+        const NumeroGiorno inizio = *dati.meta.dataInizio;
+        gruppo.Voce(DataEOra(GiornoSettimana(inizio), Data2Data(Giu2Datas(inizio)), Ora(dati.meta.oraInizio)), 2,
+                    kRientro);
+    }
+    gruppo.VoceGrassetta(u"Fine:"_s, 4, kRientro);
+    const auto& fine = dati.fine;
+    if (fine[5].isEmpty()) return;
+    gruppo.Voce(DataEOra(fine[5], Data2Data(fine[0] + fine[1] + fine[2]), fine[3] + u':' + fine[4]), 5, kRientro);
+    gruppo.Voce(u"dopo %1 giorni e %2 Km."_s.arg(fine[6], dati.totali.km[kTuttiITipi]), 6, kRientro);
+}
+
+void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
+    constexpr double kVelocita = 31;
+    constexpr double kKm = 42;
+    constexpr double kTempo = 57;
+    gruppo.Titolo(u"Percorrenze:"_s);
+    gruppo.Numero(u"Km."_s, 1, kKm, true);
+    gruppo.Numero(u"Tempo"_s, 1, kTempo, true);
+    for (std::size_t i = 0; i <= kTuttiITipi; ++i) {
+        const auto riga = static_cast<int>(i) + 2;
+        const bool tutti = i == kTuttiITipi;
+        gruppo.Voce(tutti ? u"Totale"_s : NomeTipoStrada(static_cast<TipoStrada>(i)), riga, kRientro);
+        if (!tutti) gruppo.Numero(QString::number(dati.meta.parametri.mediaKm[i]) + u" km/h"_s, riga, kVelocita);
+        gruppo.Numero(dati.totali.km[i], riga, kKm);
+        gruppo.Numero(dati.totali.tempo[i], riga, kTempo);
+    }
+    gruppo.Voce(u"(sono previsti %1 traghetti)"_s.arg(dati.totali.traghetti), 7, kRientro);
+}
+
+void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {
+    constexpr double kOra = 13;
+    constexpr double kRiposi = 46;
+    gruppo.Titolo(u"Tempi tecnici giornalieri/Riposi/Visite:"_s);
+    gruppo.VoceGrassetta(u"Orari attivita"_s, 1, kRientro);
+    const std::array<std::pair<QString, QString>, 4> orari = {
+        {{u"Colaz."_s, Ora(p.oraColazione)},
+         {u"Pranzo"_s, u"%1 (%2)"_s.arg(Ora(p.oraPranzo), Ora(p.durataPranzo))},
+         {u"Cena"_s, u"%1 (%2)"_s.arg(Ora(p.oraCena), Ora(p.durataCena))},
+         {u"Notte"_s, Ora(p.oraNotte)}}};
+    int riga = 2;
+    for (const auto& [nome, ora] : orari) {
+        gruppo.Voce(nome, riga, kRientro);
+        gruppo.Voce(ora, riga, kOra);
+        ++riga;
+    }
+    gruppo.Voce(u"Visite"_s, riga, kRientro);
+    gruppo.Voce(u"Dalle %1 alle %2"_s.arg(Ora(p.inizioVisita), Ora(p.fineVisita)), riga, kOra);
+    gruppo.VoceGrassetta(u"Riposi"_s, 1, kRiposi);
+    const std::array<QString, 4> riposi = {
+        Zero(p.riposoMinuti, 2) + u" minuti"_s, u"ogni "_s + Zero(p.riposoOre, 2) + u" ore;"_s,
+        Zero(p.riposoGiorno, 2) + u" giorni"_s, u"ogni "_s + Zero(p.riposoDopoGiorni, 2) + u" gg."_s};
+    riga = 2;
+    for (const QString& testo : riposi) gruppo.Voce(testo, riga++, kRiposi);
+}
+
+// One box around all, a light band behind the captions, a rule between two groups.
+void TracciaCornice(Foglio& foglio, double alto, double basso) {
+    const double larghezza = kGruppi.back() - kGruppi.front();
+    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, kInterlinea + 1.4}, Tratto::Sottile, true});
+    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, basso - alto}, Tratto::Medio});
+    for (const std::size_t i : {1U, 2U}) foglio.Traccia(Linea{kGruppi[i], alto, kGruppi[i], basso, Tratto::Sottile});
+}
+
+}  // namespace
+
+void StampaCaratteristiche(const DatiStampa& dati, Foglio& foglio) {
+    const int prima = foglio.RigaStampa();
+    constexpr int kAltezza = static_cast<int>(kRighe * kInterlinea);
+    TracciaCornice(foglio, prima - 2.0, prima + kAltezza + 0.6);
+    StampaPeriodo(dati, {foglio, 0});
+    StampaPercorrenze(dati, {foglio, 1});
+    StampaTempi(dati.meta.parametri, {foglio, 2});
+    foglio.RigaStampa(prima + kAltezza);
+}
+
+}  // namespace cronovia

@@ -1,0 +1,19 @@
+#include "print/file_pdf.h"
+
+#include <QPdfWriter>
+
+#include "print/pittore.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+void ScriviPdf(const Documento& documento, FileIntero& file) {
+    QPdfWriter pdf(&file.Dispositivo());
+    pdf.setTitle(documento.titolo);
+    pdf.setCreator(u"Cronovia"_s);
+    Dipingi(documento, pdf);
+    file.Completa();
+}
+
+}  // namespace cronovia

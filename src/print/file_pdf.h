@@ -1,0 +1,13 @@
+// Printouts as PDF files.
+#pragma once
+
+#include "print/pagina.h"
+#include "store/file_intero.h"
+
+namespace cronovia {
+
+/// Writes a document into a file that the caller then closes: with its title, its fonts and texts that can be marked
+/// and copied. A `Failure` when that fails.
+void ScriviPdf(const Documento& documento, FileIntero& file);
+
+}  // namespace cronovia

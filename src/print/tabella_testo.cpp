@@ -1,0 +1,55 @@
+#include "print/tabella_testo.h"
+
+#include <QDir>
+
+#include "calendar/windows1252.h"
+#include "store/file_intero.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QLatin1StringView kFineRiga("\r\n");
+
+// Characters that mean something in the file become blanks.
+QString SuUnaRiga(QString testo) {
+    for (QChar& c : testo) {
+        if (c < u' ') c = u' ';
+    }
+    return testo.trimmed();
+}
+
+QString RigaTabella(const RigaGriglia& riga) {
+    QString testo;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(Colonna::LimiteRitorno); ++i) {
+        testo += SuUnaRiga(riga[i]) + u'\t';
+    }
+    return testo + kFineRiga;
+}
+
+}  // namespace
+
+QString FileTabella(const QString& cartella) { return QDir(cartella).filePath(u"Vandtabl.txt"_s); }
+
+QByteArray TabellaCronovia(const DatiStampa& dati) {
+    QString testo = SuUnaRiga(dati.meta.localita) + kFineRiga + kFineRiga;
+    testo +=
+        u"Num.\tLocalita\tN.Str\tKm.\tTs\tPr/Km\tTempo\tSosta\tG.Sett\tData\tOra\tMotivo/Note\tLimite per ritorno"_s +
+        kFineRiga;
+    for (const RigaGriglia& riga : dati.righe) {
+        if (!riga[Colonna::Tappa].trimmed().isEmpty()) testo += RigaTabella(riga);
+    }
+    return InWindows1252(testo).byte;
+}
+
+void ScriviTabella(const DatiStampa& dati, const QString& cartella) {
+    const QString path = FileTabella(cartella);
+    RifiutaFileEsistente(path, true);
+    FileIntero file(path);
+    file.Scrivi(TabellaCronovia(dati));
+    file.Chiudi();
+}
+
+}  // namespace cronovia

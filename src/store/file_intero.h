@@ -1,0 +1,34 @@
+// Files that are there whole or not at all.
+#pragma once
+
+#include <QByteArray>
+#include <QSaveFile>
+#include <QString>
+
+namespace cronovia {
+
+/// A file that is written beside its place and put there when it is closed; until then, and when it never is, the file
+/// that was there stays. What goes wrong is a `Failure`.
+class FileIntero {
+  public:
+    explicit FileIntero(const QString& path);
+
+    /// For who writes through a device; what goes wrong there turns up in `Completa`.
+    [[nodiscard]] QIODevice& Dispositivo() { return file_; }
+    void Scrivi(const QByteArray& byte);
+    /// All that was written is on the disk.
+    void Completa();
+    /// `Completa`, then lays the file in its place.
+    void Chiudi();
+
+  private:
+    [[noreturn]] void NonScritto() const;
+    [[nodiscard]] QString Nome() const;
+
+    QSaveFile file_;
+};
+
+/// A `Failure` when the path is a folder or the like, or a file that may not be replaced; an archive never may.
+void RifiutaFileEsistente(const QString& path, bool sovrascrivi);
+
+}  // namespace cronovia
