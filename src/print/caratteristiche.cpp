@@ -20,7 +20,7 @@ constexpr std::array<double, 4> kGruppi = {5, 66, 125, 193};
 class Gruppo {
   public:
     Gruppo(Foglio& foglio, std::size_t posto)
-        : foglio_(foglio), sinistra_(kGruppi[posto]), destra_(kGruppi[posto + 1]), prima_(foglio.RigaStampa() + 2.0) {}
+        : foglio_(foglio), sinistra_(kGruppi[posto]), destra_(kGruppi[posto + 1]), prima_(foglio.RigaStampa() + 1.6) {}
 
     void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {Famiglia::Times, 8, true}); }
     void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {Famiglia::Times, 8}); }
@@ -41,7 +41,7 @@ class Gruppo {
     void Scrivi(const QString& testo, int riga, double x, const Carattere& carattere) {
         foglio_.StampaTesto({testo, Riga(riga), x, destra_, carattere});
     }
-    [[nodiscard]] double Riga(int riga) const { return prima_ + riga * kInterlinea + (riga > 0 ? 0.6 : 0); }
+    [[nodiscard]] double Riga(int riga) const { return prima_ + riga * kInterlinea + (riga > 0 ? 1.3 : 0); }
 
     Foglio& foglio_;
     double sinistra_;
@@ -120,7 +120,7 @@ void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {
 // One box around all, a light band behind the captions, a rule between two groups.
 void TracciaCornice(Foglio& foglio, double alto, double basso) {
     const double larghezza = kGruppi.back() - kGruppi.front();
-    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, kInterlinea + 1.4}, Tratto::Sottile, true});
+    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, 4.1}, Tratto::Sottile, true});
     foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, basso - alto}, Tratto::Medio});
     for (const std::size_t i : {1U, 2U}) foglio.Traccia(Linea{kGruppi[i], alto, kGruppi[i], basso, Tratto::Sottile});
 }

@@ -47,8 +47,9 @@ double Misure::Larghezza(const QString& testo, const Carattere& carattere) {
     return Metrica(carattere).horizontalAdvance(testo) / kUnitaMillimetro;
 }
 
-double Misure::Altezza(const Carattere& carattere) { return Metrica(carattere).height() / kUnitaMillimetro; }
-
-double Misure::Discesa(const Carattere& carattere) { return Metrica(carattere).descent() / kUnitaMillimetro; }
+double Misure::Discesa(const Carattere& carattere) {
+    const QFontMetricsF& metrica = Metrica(carattere);
+    return (metrica.descent() + metrica.leading()) / kUnitaMillimetro;
+}
 
 }  // namespace cronovia

@@ -32,8 +32,8 @@ class FontStampa {
 class Misure {
   public:
     double Larghezza(const QString& testo, const Carattere& carattere);
-    double Altezza(const Carattere& carattere);  ///< of a line, from top to bottom
-    double Discesa(const Carattere& carattere);  ///< from the baseline to the bottom
+    /// From the baseline to the bottom of a line, which has the leading below it.
+    double Discesa(const Carattere& carattere);
 
   private:
     const QFontMetricsF& Metrica(const Carattere& carattere);

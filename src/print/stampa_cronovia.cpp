@@ -114,7 +114,7 @@ void StampaRighe::StampaTitolo() {
     foglio_.Avanza(8);
     const double y = foglio_.RigaStampa();
     const auto stampa = [&](const QString& testo, double x1, double x2, const Carattere& carattere) {
-        foglio_.StampaTesto({testo, y - 1, x1, x2, foglio_.Ristretto(testo, carattere, x2 - x1 - 2), Centro});
+        foglio_.StampaTesto({testo, y - 1.7, x1, x2, foglio_.Ristretto(testo, carattere, x2 - x1 - 2), Centro});
     };
     const int pagina = foglio_.NumeroPagina();
     stampa(dati_.meta.localita, kNome, kNazione, {Famiglia::Times, 11, true});
@@ -136,7 +136,7 @@ void StampaRighe::StampaIntestazioni() {
         }
     }
     foglio_.StampaTesto({u"Limite ritorno"_s, y, Bordo(12), Bordo(15), piccolo, Centro});
-    foglio_.Traccia(Linea{Bordo(0), y + 2, Bordo(15), y + 2, Tratto::Spesso});
+    foglio_.Traccia(Linea{Bordo(0), y + 1.3, Bordo(15), y + 1.3, Tratto::Spesso});
 }
 
 // The day without its year, which stands in the header; the visit beside the stop where there is room for both.
