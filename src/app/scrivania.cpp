@@ -219,7 +219,7 @@ void Scrivania::Ricomponi() {
     modoItinerario_ = inserimento_ ? u"all"_s : u"zz"_s;
 }
 
-void Scrivania::EseguiCalcolo() {
+void Scrivania::EseguiCalcolo(bool conMessaggio) {
     const QString modoPrima = modoComandi_;
     ApplicaModo(u"Es"_s);
     calcoloInCorso_ = true;
@@ -238,7 +238,7 @@ void Scrivania::EseguiCalcolo() {
     }
     cronovia_ = std::move(esito.cronovia);
     ApplicaModo(u"CaSt"_s);
-    if (esito.messaggio.isEmpty()) return;
+    if (!conMessaggio || esito.messaggio.isEmpty()) return;
     volti_.mostra();
     volti_.interazione.Show({esito.messaggio, u"Calcolo cronovia"_s, Icon::Information});
 }

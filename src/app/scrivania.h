@@ -44,6 +44,8 @@ class Scrivania {
     /// Data of the earlier release lies in the data folder, and no command was given yet.
     [[nodiscard]] bool ConverteOfferto() const { return converteOfferto_; }
     [[nodiscard]] const Cronologia& Modifiche() const { return cronologia_; }
+    [[nodiscard]] const QString& Cartella() const { return sessione_.Cartella(); }
+    [[nodiscard]] QDateTime Adesso() const { return volti_.adesso(); }
     [[nodiscard]] StatoComandi Comandi() const;
     /// The entry fields of the current row, and whether progressive kilometres may be typed there; nothing: not shown.
     [[nodiscard]] CampiTappa CampiCorrenti() const { return CampiDellaRiga(righe_, rigaCorrente_); }
@@ -68,6 +70,11 @@ class Scrivania {
     void RipristinaDefault();
     /// Computes the schedule, or unlocks the one on screen.
     void Calcola();
+    /// Computes the schedule when none is on screen; false when there is none then. The commands wait until
+    /// `FineStampa`.
+    bool PreparaStampa();
+    void StampaInCorso();
+    void FineStampa();
     void NonDisponibile(const QString& funzione);
 
     // Commands of the entry screen.
@@ -102,7 +109,7 @@ class Scrivania {
     bool MemorizzaTappe();
     bool LasciaNuovaMeta();
     void EsciDallInserimento();
-    void EseguiCalcolo();
+    void EseguiCalcolo(bool conMessaggio = true);
     void Default(const QString& verbo, const std::function<void()>& azione);
 
     Volti volti_;

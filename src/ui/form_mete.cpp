@@ -99,6 +99,8 @@ QWidget* FormMete::CreaGriglia() {
     scorrimento->setObjectName(u"areaInserimento"_s);
     layout->addWidget(scorrimento, 0, 1);
     layout->setColumnStretch(0, 1);
+    stampa_ = new ComandoStampa(
+        {scrivania_, interazione_, *avanzamento_, *this, [this](const auto& comando) { Esegui(comando); }}, *layout);
     griglia_->setModel(&modello_);
     cmbRicercaTappa_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     for (QListWidget* lista : {cmbRicerca_, cmbRicercaTappa_}) {
@@ -211,6 +213,8 @@ void FormMete::EseguiComando(Comando comando) {
         case Comando::Esce:
             return Esci();
         case Comando::Stampa:
+            avanzamento_->NuovaOperazione();
+            return Esegui([this] { stampa_->Apri(); });
         case Comando::GuidaCitta:
         case Comando::Import:
         case Comando::Export:
@@ -315,6 +319,8 @@ void FormMete::keyPressEvent(QKeyEvent* event) {
         Esegui([this] { scrivania_.ChiudiElencoMete(); });
     } else if (event->key() == Qt::Key_Escape && scrivania_.ElencoTappeVisibile()) {
         Esegui([this] { scrivania_.Fine(); });
+    } else if (event->key() == Qt::Key_Escape && stampa_->Aperto()) {
+        stampa_->Rinuncia();
     } else if (event->key() == Qt::Key_Escape && stato.escEsce) {
         bottoni_->Pulsante(Comando::Esce).click();
     } else {
@@ -343,6 +349,9 @@ void FormMete::Mostra() {
     MostraElenchi();
     MostraInserimento(stato);
     bottoni_->Applica(stato, cronovia.has_value(), scrivania_.ConverteOfferto());
+    stampa_->Aggiorna();
+    // Alt+S is that of the print frames then.
+    if (stampa_->Aperto()) bottoni_->Pulsante(Comando::Calcola).setShortcut({});
     MostraAzioni();
     mostrando_ = false;
 }

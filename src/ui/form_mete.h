@@ -10,6 +10,7 @@
 
 #include "app/scrivania.h"
 #include "ui/avanzamento.h"
+#include "ui/comando_stampa.h"
 #include "ui/elenco_scelta.h"
 #include "ui/frm_bottoni.h"
 #include "ui/frm_input_box.h"
@@ -79,6 +80,7 @@ class FormMete : public QMainWindow {
     QAction* annulla_;
     QAction* ripeti_;
     Scrivania scrivania_;
+    ComandoStampa* stampa_ = nullptr;
     bool mostrando_ = false;
     std::optional<std::pair<int, CampiTappa>> campiMostrati_;  // row and fields last put into the entry frame
     bool inCorso_ = false;                                     // a command has begun and not ended

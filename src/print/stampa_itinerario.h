@@ -1,0 +1,28 @@
+// The print run: the table file, the pages, the forms for the logbook.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "interaction/interaction.h"
+#include "interaction/progress.h"
+#include "print/dati_stampa.h"
+#include "print/foglio.h"
+
+namespace cronovia {
+
+struct RichiestaStampa {
+    const DatiStampa& dati;
+    PieDiPagina piede;
+    QString cartella;                              ///< where the table file lies
+    bool tabella = false;                          ///< the schedule goes to the printer
+    bool moduli = false;                           ///< forms for the logbook are wanted
+    std::function<void(const Documento&)> stampa;  ///< prints on what was chosen; may throw a `Failure`
+    std::function<void()> avviaModuli;             ///< starts the logbook program; may throw a `Failure`
+};
+
+/// Always writes the table file. What goes wrong with one of the three is told and does not keep the others from being
+/// done; at the end the person hears what was done.
+void StampaDellItinerario(const RichiestaStampa& richiesta, Interaction& interaction, Progress& progress);
+
+}  // namespace cronovia

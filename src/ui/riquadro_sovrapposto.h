@@ -1,0 +1,30 @@
+// A frame that lies over the grid and is left by one of two buttons.
+#pragma once
+
+#include <QFrame>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace cronovia {
+
+/// A caption with what the frame puts under it. Enter presses the button in focus, else the first; Escape the second.
+/// Neither reaches the window.
+class RiquadroSovrapposto : public QFrame {
+    Q_OBJECT
+
+  public:
+    RiquadroSovrapposto(const QString& nome, const QString& scritta);
+
+  protected:
+    [[nodiscard]] QVBoxLayout& Contenuto() const { return *contenuto_; }
+    /// The two buttons, for the frame to place.
+    void Pulsanti(QPushButton* conferma, QPushButton* rinuncia);
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QVBoxLayout* contenuto_;
+    QPushButton* conferma_ = nullptr;
+    QPushButton* rinuncia_ = nullptr;
+};
+
+}  // namespace cronovia
