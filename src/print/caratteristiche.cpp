@@ -74,8 +74,8 @@ void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
 }
 
 void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
-    constexpr double kVelocita = 31;
-    constexpr double kKm = 42;
+    constexpr double kVelocita = 30;
+    constexpr double kKm = 43;
     constexpr double kTempo = 57;
     gruppo.Titolo(u"Percorrenze:"_s);
     gruppo.Numero(u"Km."_s, 1, kKm, true);

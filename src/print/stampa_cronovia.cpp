@@ -156,7 +156,8 @@ void StampaRighe::StampaValore(int colonna, const RigaGriglia& riga, bool sostaD
     const bool localita = descrizione.valore == Colonna::Tappa;
     const bool note = descrizione.valore == Colonna::Note;
     Carattere carattere{Famiglia::Times, localita ? 9 : 8};
-    if (descrizione.valore == Colonna::NumeroStrada) {
+    // So is the hour that a mark precedes: it would run into the notes.
+    if (descrizione.valore == Colonna::NumeroStrada || descrizione.valore == Colonna::Ora) {
         carattere = foglio_.Ristretto(testo, carattere, Bordo(colonna + 1) - Bordo(colonna));
     }
     if (descrizione.valore == Colonna::Sosta) carattere.grassetto = riga[Colonna::Sosta].trimmed().size() == 5;

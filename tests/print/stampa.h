@@ -1,0 +1,74 @@
+// Schedules to print: made-up rows, and the long example.
+#pragma once
+
+#include <QRectF>
+#include <QStringList>
+
+#include "app/sessione.h"
+#include "exchange/importa_mete.h"
+#include "print/stampa_cronovia.h"
+#include "support/prova.h"
+
+namespace cronovia::prova {
+
+using namespace Qt::StringLiterals;
+
+inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
+
+inline RigaGriglia Riga(const QString& localita, const QString& sosta = {}, const QString& note = {}) {
+    RigaGriglia riga;
+    riga[Colonna::Tappa] = localita;
+    riga[Colonna::Sosta] = sosta;
+    riga[Colonna::Note] = note;
+    return riga;
+}
+
+/// A trip with so many rows, each with a number that is found nowhere else.
+inline DatiStampa Viaggio(int righe) {
+    DatiStampa dati;
+    dati.meta.localita = u"ROMA"_s;
+    dati.meta.nazione = u"ITALIA"_s;
+    dati.meta.dataInizio = NumeroGiorno(730135);
+    dati.meta.oraInizio = 850_cent;
+    dati.fine = {u"05"_s, u"01"_s, u"2000"_s, u"17"_s, u"45"_s, u"Mer"_s, u"5"_s};
+    dati.totali.km = {u"100"_s, {}, u"1.200"_s, {}, u"1.300"_s};
+    dati.totali.tempo = {u"00:01:20"_s, {}, u"01:02:00"_s, {}, u"01:03:20"_s};
+    dati.totali.traghetti = u"2"_s;
+    for (int i = 1; i <= righe; ++i) {
+        dati.righe.push_back(Riga(u"Tappa n%1x"_s.arg(i)));
+        dati.righe.back()[Colonna::Numero] = QString::number(i);
+    }
+    return dati;
+}
+
+inline DatiStampa CapoNord() {
+    const CartellaDiProva cartella;
+    Sessione sessione(cartella.Percorso());
+    Progress progress;
+    ImportaMete({sessione.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/capo-nord.iei"), {}}, progress);
+    const MetaAperta aperta = sessione.ApriMeta(u"1"_s);
+    return PreparaStampa(aperta.meta, *sessione.Calcola(aperta, {}, progress).cronovia);
+}
+
+inline Documento Stampa(const DatiStampa& dati) {
+    Progress progress;
+    return StampaCronovia(dati, kPiede, progress);
+}
+
+/// The text that reads so; a test failure when it is not there exactly once.
+inline TestoPosto Trova(const Pagina& pagina, const QString& testo) {
+    std::vector<TestoPosto> trovati;
+    for (const TestoPosto& posto : pagina.testi) {
+        if (posto.testo == testo) trovati.push_back(posto);
+    }
+    EXPECT_EQ(trovati.size(), 1U) << testo.toStdString();
+    return trovati.empty() ? TestoPosto() : trovati.front();
+}
+
+/// From the capitals' height to the baseline.
+inline QRectF Corpo(const TestoPosto& posto) {
+    const double altezza = posto.carattere.dimensione * 0.65 * 25.4 / 72;
+    return {posto.x, posto.base - altezza, posto.larghezza, altezza};
+}
+
+}  // namespace cronovia::prova

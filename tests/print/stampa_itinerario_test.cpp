@@ -1,0 +1,105 @@
+// The print run: table file, printer, logbook program, and what the person hears of them.
+#include "print/stampa_itinerario.h"
+
+#include <gtest/gtest.h>
+
+#include "print/moduli.h"
+#include "print/tabella_testo.h"
+#include "stampa.h"
+#include "support/copione.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class StampaItinerario : public testing::Test {
+  protected:
+    StampaItinerario() {
+        cartella_.Crea();
+        dati_.righe.push_back(prova::Riga(u" > Čaj\tbar “Łódź” "_s, u"00:45"_s, u"Ristorante"_s));
+        dati_.righe.push_back({});
+    }
+    void Esegui(bool tabella, bool moduli) {
+        Progress progress;
+        StampaDellItinerario({dati_, prova::kPiede, cartella_.Percorso(), tabella, moduli,
+                              [this](const Documento& documento) {
+                                  pagine_ = static_cast<int>(documento.pagine.size());
+                                  if (guasto_) throw Failure(u"La stampante tace."_s);
+                              },
+                              [this] { AvviaModuli(dati_, {cartella_.Percorso()}); }},
+                             copione_, progress);
+        EXPECT_TRUE(copione_.Finito());
+    }
+    [[nodiscard]] QString Completata() const {
+        return u"Stampa sul file %1/Vandtabl.txt: completata!"_s.arg(cartella_.Percorso());
+    }
+    void MettiFogliax(const QByteArray& testo) const {
+        const QString path = cartella_.Percorso() + u"/Fogliax"_s;
+        prova::ScriviFile(path, testo);
+        ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+
+    prova::CartellaDiProva cartella_;
+    DatiStampa dati_ = prova::Viaggio(1);
+    prova::Copione copione_;
+    int pagine_ = 0;
+    bool guasto_ = false;
+};
+
+TEST_F(StampaItinerario, WritesTheTableByteForByteWhateverIsTicked) {
+    copione_.Messaggio(Completata());
+    Esegui(false, false);
+    EXPECT_EQ(pagine_, 0);
+    const QByteArray testa =
+        "ROMA\r\n\r\n"
+        "Num.\tLocalita\tN.Str\tKm.\tTs\tPr/Km\tTempo\tSosta\tG.Sett\tData\tOra\tMotivo/Note\tLimite per ritorno\r\n";
+    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Percorso())),
+              testa + "1\tTappa n1x\t\t\t\t\t\t\t\t\t\t\t\t\r\n" +
+                  "\t> Caj bar \x93L\xF3"
+                  "dz\x94\t\t\t\t\t\t00:45\t\t\t\t\tRistorante\t\r\n");
+    dati_.righe.clear();
+    copione_.Messaggio(Completata());
+    Esegui(false, false);
+    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Percorso())), testa);
+}
+
+TEST_F(StampaItinerario, TellsWhatWasPrinted) {
+    copione_.Messaggio(u"Stampa Cronovia  completata..."_s).Messaggio(Completata());
+    Esegui(true, false);
+    EXPECT_EQ(pagine_, 1);
+    MettiFogliax(
+        "#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" >\"$(dirname \"$0\")/prima\"\n"
+        "mv \"$(dirname \"$0\")/prima\" \"$(dirname \"$0\")/avviato\"\n");
+    dati_.meta.localita = u"ROMA; rm -rf \"$HOME\""_s;
+    copione_.Messaggio(u"Stampa Cronovia  e \r\nModuli per Diario di Bordo completata..."_s).Messaggio(Completata());
+    Esegui(true, true);
+    const QString avviato = cartella_.Percorso() + u"/avviato"_s;
+    for (int i = 0; i < 500 && !QFile::exists(avviato); ++i) usleep(10'000);
+    EXPECT_EQ(prova::LeggiFile(avviato), "1|ROMA; rm -rf \"$HOME\",01/01/2000,05/01/2000");
+}
+
+TEST_F(StampaItinerario, OneFaultDoesNotDisturbTheRest) {
+    copione_
+        .Messaggio(
+            u"I moduli per il diario di bordo non si possono stampare: nella cartella %1 manca il programma "
+            "Fogliax.exe."_s.arg(cartella_.Percorso()))
+        .Messaggio(u"Stampa Cronovia  completata..."_s)
+        .Messaggio(Completata());
+    Esegui(true, true);
+    MettiFogliax("niente che si possa avviare");
+    guasto_ = true;
+    copione_.Messaggio(u"La stampante tace."_s)
+        .Messaggio(u"Il programma dei moduli per il diario di bordo non si avvia: …"_s)
+        .Messaggio(Completata());
+    Esegui(true, true);
+    guasto_ = false;
+    ASSERT_TRUE(QFile::remove(FileTabella(cartella_.Percorso())));
+    ASSERT_TRUE(QDir(cartella_.Percorso()).mkdir(u"Vandtabl.txt"_s));
+    copione_.Messaggio(FileTabella(cartella_.Percorso()) + u" è una cartella, non un file."_s)
+        .Messaggio(u"Stampa Cronovia  completata..."_s);
+    Esegui(true, false);
+}
+
+}  // namespace
+}  // namespace cronovia
