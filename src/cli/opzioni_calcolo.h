@@ -1,16 +1,11 @@
 // The options of the verbs that compute a schedule.
 #pragma once
 
-#include <vector>
-
 #include "cli/verbi.h"
 
 namespace cronovia {
 
-/// --giorni and --soste.
-std::vector<Opzione> OpzioniDelCalcolo();
-
-/// Their values; `WrongUsage` when one is out of its limits.
+/// The values of --giorni and --soste; `WrongUsage` when one is out of its limits.
 OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta);
 
 /// Tells that the table of a data folder was written.

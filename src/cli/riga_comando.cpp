@@ -23,13 +23,26 @@ const Verbo* TrovaVerbo(const QString& nome) {
     return trovato == verbi.end() ? nullptr : &*trovato;
 }
 
+QString ConValore(const Opzione& opzione) {
+    return u"--"_s + opzione.nome + (opzione.valore.isEmpty() ? QString() : u' ' + opzione.valore);
+}
+
+// A verb with all that it cannot do without.
+QString UsoMinimo(const Verbo& verbo) {
+    QString uso = verbo.nome + u' ' + verbo.argomenti;
+    for (const Opzione& opzione : verbo.opzioni) {
+        if (opzione.obbligatoria) uso += u' ' + ConValore(opzione);
+    }
+    return uso.trimmed();
+}
+
 void ScriviAiuto(QTextStream& uscita) {
     uscita << u"Cronovia, l'orario dei viaggi in camper.\n\n"
               "Uso: cronovia [--cartella DIR]                     apre la finestra\n"
               "     cronovia [--cartella DIR] VERBO [argomenti]   lavora da riga di comando\n\n"_s;
     TabellaTesti verbi{{QString(), QString()}, {}, {}};
     for (const Verbo& verbo : Verbi()) {
-        verbi.righe.push_back({u"  "_s + verbo.nome + u' ' + verbo.argomenti, verbo.descrizione});
+        verbi.righe.push_back({u"  "_s + UsoMinimo(verbo), verbo.descrizione});
     }
     const std::vector<int> larghezze = LarghezzeColonne(verbi);
     for (const QStringList& riga : verbi.righe) uscita << RigaAllineata(riga, larghezze, {}) << '\n';
@@ -39,14 +52,10 @@ void ScriviAiuto(QTextStream& uscita) {
               "  --version                La versione.\n"_s;
 }
 
-QString ConValore(const Opzione& opzione) {
-    return u"--"_s + opzione.nome + (opzione.valore.isEmpty() ? QString() : u' ' + opzione.valore);
-}
-
 void ScriviAiutoDelVerbo(const Verbo& verbo, QTextStream& uscita) {
-    uscita << u"Uso: cronovia [--cartella DIR] %1 %2"_s.arg(verbo.nome, verbo.argomenti).trimmed();
+    uscita << u"Uso: cronovia [--cartella DIR] %1"_s.arg(UsoMinimo(verbo));
     for (const Opzione& opzione : verbo.opzioni) {
-        uscita << u" [%1]"_s.arg(ConValore(opzione));
+        if (!opzione.obbligatoria) uscita << u" [%1]"_s.arg(ConValore(opzione));
     }
     if (verbo.conFormato) uscita << u" [--formato testo|tsv|json]"_s;
     uscita << u"\n\n"_s << verbo.descrizione << '\n';
@@ -87,6 +96,9 @@ Richiesta LeggiRichiesta(const Verbo& verbo, const QCommandLineParser& parser) {
     }
     for (const Opzione& opzione : verbo.opzioni) {
         if (parser.isSet(opzione.nome)) richiesta.opzioni.insert(opzione.nome, parser.value(opzione.nome));
+        if (opzione.obbligatoria && richiesta.opzioni.value(opzione.nome).isEmpty()) {
+            throw WrongUsage(u"Al verbo «%1» manca l'opzione %2."_s.arg(verbo.nome, ConValore(opzione)));
+        }
     }
     if (verbo.conFormato) richiesta.formato = LeggiFormato(parser.value(u"formato"_s));
     return richiesta;

@@ -17,12 +17,6 @@ std::optional<int> Richiesta::Intero(const QString& nome, int minimo, int massim
     return valore;
 }
 
-std::vector<Opzione> OpzioniDelCalcolo() {
-    return {
-        {u"giorni"_s, u"N"_s, u"Adegua le soste perché il viaggio duri N giorni (0 = quanti ne servono)."_s},
-        {u"soste"_s, u"1..5"_s, u"Soste da contare: 1 itinerario, 2 guida, 3 la maggiore, 4 la minore, 5 nessuna."_s}};
-}
-
 OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta) {
     OpzioniCalcolo opzioni;
     opzioni.giorni = richiesta.Intero(u"giorni"_s, 0, kMassimoGiorniAdeguamento);
@@ -32,10 +26,12 @@ OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta) {
 
 namespace {
 
-std::vector<Opzione> ConOpzioniDelCalcolo(std::vector<Opzione> prima) {
-    const std::vector<Opzione> calcolo = OpzioniDelCalcolo();
-    prima.insert(prima.end(), calcolo.begin(), calcolo.end());
-    return prima;
+std::vector<Opzione> ConQuelleDelCalcolo(std::vector<Opzione> altre) {
+    altre.insert(altre.begin(),
+                 {{u"giorni"_s, u"N"_s, u"Adegua le soste perché il viaggio duri N giorni (0 = quanti ne servono)."_s},
+                  {u"soste"_s, u"1..5"_s,
+                   u"Soste da contare: 1 itinerario, 2 guida, 3 la maggiore, 4 la minore, 5 nessuna."_s}});
+    return altre;
 }
 
 }  // namespace
@@ -81,12 +77,12 @@ const std::vector<Verbo>& Verbi() {
          &EseguiItinerario},
         {u"calcola"_s, u"CODICE"_s,
          u"Calcola la cronovia: giorno per giorno, l'ora di ogni tratto, pasto, notte, riposo, traghetto e visita."_s,
-         ConOpzioniDelCalcolo({{u"tabella"_s, {}, u"Scrive anche la tabella Vandtabl.txt nella cartella dei dati."_s}}),
+         ConQuelleDelCalcolo({{u"tabella"_s, {}, u"Scrive anche la tabella Vandtabl.txt nella cartella dei dati."_s}}),
          1, 1, true, false, &EseguiCalcola},
         {u"stampa"_s, u"CODICE"_s,
          u"Stampa la cronovia su un file PDF, e la tabella Vandtabl.txt nella cartella dei dati."_s,
-         ConOpzioniDelCalcolo({{u"pdf"_s, u"FILE"_s, u"Il file PDF (obbligatorio)."_s},
-                               {u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}}),
+         ConQuelleDelCalcolo({{u"pdf"_s, u"FILE"_s, u"Il file PDF da scrivere."_s, true},
+                              {u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}}),
          1, 1, false, true, &EseguiStampa},
         {u"guida"_s,
          u"[LOCALITA]"_s,

@@ -31,6 +31,7 @@ struct Opzione {
     QString nome;
     QString valore;
     QString descrizione;
+    bool obbligatoria = false;
 };
 
 /// What a verb was called with.

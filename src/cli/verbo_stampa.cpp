@@ -21,7 +21,6 @@ QString RigaTabellaScritta(const QString& cartella) {
 void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     const QString path = richiesta.opzioni.value(u"pdf"_s);
-    if (path.isEmpty()) throw WrongUsage(u"Al verbo «stampa» manca il file: --pdf FILE."_s);
     Sessione sessione = apri();
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
@@ -31,7 +30,7 @@ void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
     const Documento documento =
         StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
     FileIntero file(path);
-    ScriviPdf(documento, file);
+    ScriviPdf(documento, file, progress);
     ScriviTabella(dati, sessione.Cartella());
     file.Chiudi();
     uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),

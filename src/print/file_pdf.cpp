@@ -8,11 +8,11 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-void ScriviPdf(const Documento& documento, FileIntero& file) {
+void ScriviPdf(const Documento& documento, FileIntero& file, Progress& progress) {
     QPdfWriter pdf(&file.Dispositivo());
     pdf.setTitle(documento.titolo);
     pdf.setCreator(u"Cronovia"_s);
-    Dipingi(documento, pdf);
+    Dipingi(documento, pdf, progress);
     file.Completa();
 }
 

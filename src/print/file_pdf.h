@@ -1,6 +1,7 @@
 // Printouts as PDF files.
 #pragma once
 
+#include "interaction/progress.h"
 #include "print/pagina.h"
 #include "store/file_intero.h"
 
@@ -8,6 +9,6 @@ namespace cronovia {
 
 /// Writes a document into a file that the caller then closes: with its title, its fonts and texts that can be marked
 /// and copied. A `Failure` when that fails.
-void ScriviPdf(const Documento& documento, FileIntero& file);
+void ScriviPdf(const Documento& documento, FileIntero& file, Progress& progress);
 
 }  // namespace cronovia

@@ -24,8 +24,11 @@ double Ascissa(const TestoColonna& testo, double larghezza) {
     return testo.x1;
 }
 
-// Half of a character beyond the first 65,536 is none.
-void TogliUltimo(QString& testo) { testo.chop(testo.back().isLowSurrogate() && testo.size() > 1 ? 2 : 1); }
+// A beginning of the text with at most so many units; half of a character beyond the first 65,536 is none.
+QString Inizio(const QString& testo, qsizetype unita) {
+    const bool spezzato = unita > 0 && unita < testo.size() && testo[unita].isLowSurrogate();
+    return testo.left(spezzato ? unita - 1 : unita);
+}
 
 }  // namespace
 
@@ -36,15 +39,20 @@ void Foglio::ApriPagina(int rigaStampa) {
     rigaStampa_ = rigaStampa;
 }
 
-void Foglio::StampaTesto(const TestoColonna& testo) {
-    QString scritto = testo.testo.trimmed();
-    const double massima = testo.x2 - testo.x1 + kEccedenza;
-    double larghezza = misure_.Larghezza(scritto, testo.carattere);
-    while (!scritto.isEmpty() && larghezza >= massima) {
-        TogliUltimo(scritto);
-        larghezza = misure_.Larghezza(scritto, testo.carattere);
+QString Foglio::Tagliato(const QString& testo, const Carattere& carattere, double larghezza) {
+    if (Entra(testo, carattere, larghezza)) return testo;
+    qsizetype entra = 0;
+    for (qsizetype troppo = testo.size(); troppo - entra > 1;) {
+        const qsizetype mezzo = (entra + troppo) / 2;
+        (Entra(Inizio(testo, mezzo), carattere, larghezza) ? entra : troppo) = mezzo;
     }
+    return Inizio(testo, entra);
+}
+
+void Foglio::StampaTesto(const TestoColonna& testo) {
+    const QString scritto = Tagliato(testo.testo.trimmed(), testo.carattere, testo.x2 - testo.x1 + kEccedenza);
     if (scritto.isEmpty()) return;
+    const double larghezza = misure_.Larghezza(scritto, testo.carattere);
     const double base = testo.y - misure_.Discesa(testo.carattere);
     PaginaCorrente().testi.push_back({scritto, testo.carattere, Ascissa(testo, larghezza), base, larghezza});
 }

@@ -81,6 +81,8 @@ class Foglio {
 
   private:
     static constexpr int kNessunaPagina = 800;
+    /// The longest beginning of the text that is narrower than that.
+    QString Tagliato(const QString& testo, const Carattere& carattere, double larghezza);
     Pagina& PaginaCorrente() { return documento_.pagine.back(); }
 
     Documento documento_;

@@ -102,15 +102,17 @@ class Pittore {
 
 }  // namespace
 
-void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo) {
+void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo, Progress& progress) {
     Pittore pittore(dispositivo);
-    bool prima = true;
+    int numero = 0;
     for (const Pagina& pagina : documento.pagine) {
-        if (!prima) pittore.NuovoFoglio();
-        prima = false;
+        if (numero > 0) pittore.NuovoFoglio();
+        progress.Title(u"%1 (pag. %2)"_s.arg(documento.titolo, QString::number(++numero)));
+        progress.Advance(numero, static_cast<double>(documento.pagine.size()));
         pittore.Dipingi(pagina);
     }
     pittore.Finisci();
+    progress.Advance(0, 0);
 }
 
 }  // namespace cronovia

@@ -3,11 +3,13 @@
 
 #include <QPagedPaintDevice>
 
+#include "interaction/progress.h"
 #include "print/pagina.h"
 
 namespace cronovia {
 
-/// Paints all pages, each on a sheet of its own. A `Failure` when the device cannot be painted on, or refuses a page.
-void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo);
+/// Paints all pages, each on a sheet of its own, and tells which one. A `Failure` when the device cannot be painted on,
+/// or refuses a page.
+void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo, Progress& progress);
 
 }  // namespace cronovia

@@ -86,11 +86,14 @@ void ComandoStampa::MostraAnteprima() {
 void ComandoStampa::Stampa() {
     const QString stampante = stampante_->Scelta();
     if (!UnFilePdf(stampante) || !opzioni_->Tabella()) {
-        EseguiStampa([&](const Documento& documento) { StampaSuStampante(documento, stampante, volti_.interazione); });
+        EseguiStampa([&](const Documento& documento) {
+            StampaSuStampante(documento, stampante, volti_.interazione, volti_.avanzamento);
+        });
         return;
     }
     const QString path = ChiediFilePdf(volti_.finestra, u"Cronovia "_s + volti_.scrivania.MetaInCorso().localita);
-    if (!path.isEmpty()) EseguiStampa([&](const Documento& documento) { StampaSuFile(documento, path); });
+    if (!path.isEmpty())
+        EseguiStampa([&](const Documento& documento) { StampaSuFile(documento, path, volti_.avanzamento); });
 }
 
 void ComandoStampa::EseguiStampa(const std::function<void(const Documento&)>& stampa) {

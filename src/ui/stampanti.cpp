@@ -52,14 +52,15 @@ QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }
 
-void StampaSuFile(const Documento& documento, const QString& path) {
+void StampaSuFile(const Documento& documento, const QString& path, Progress& progress) {
     RifiutaFileEsistente(path, true);
     FileIntero file(path);
-    ScriviPdf(documento, file);
+    ScriviPdf(documento, file, progress);
     file.Chiudi();
 }
 
-void StampaSuStampante(const Documento& documento, const QString& stampante, Interaction& interaction) {
+void StampaSuStampante(const Documento& documento, const QString& stampante, Interaction& interaction,
+                       Progress& progress) {
     const bool presente = QPrinterInfo::availablePrinterNames().contains(stampante);
     const QString nome = presente ? stampante : QPrinterInfo::defaultPrinterName();
     const QString manca = u"La stampante «%1» non c'è più"_s.arg(stampante);
@@ -69,7 +70,7 @@ void StampaSuStampante(const Documento& documento, const QString& stampante, Int
     carta.setPrinterName(nome);
     carta.setDocName(documento.titolo);
     carta.setCreator(u"Cronovia"_s);
-    Dipingi(documento, carta);
+    Dipingi(documento, carta, progress);
     if (carta.printerState() == QPrinter::Error) {
         throw Failure(u"La stampa su «%1» non è riuscita."_s.arg(nome));
     }
@@ -84,7 +85,8 @@ void MostraAnteprima(const Documento& documento, QWidget& finestra, Interaction&
     anteprima.resize(finestra.size());
     QObject::connect(&anteprima, &QPrintPreviewDialog::paintRequested, &anteprima, [&](QPrinter* stampante) {
         try {
-            Dipingi(Scelte(documento, *stampante), *stampante);
+            Progress progress;
+            Dipingi(Scelte(documento, *stampante), *stampante, progress);
         } catch (const Failure& failure) {
             interaction.Show({failure.Message(), {}, Icon::Exclamation});
         }

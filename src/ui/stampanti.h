@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "interaction/interaction.h"
+#include "interaction/progress.h"
 #include "print/pagina.h"
 
 namespace cronovia {
@@ -20,11 +21,12 @@ bool UnFilePdf(const QString& stampante);
 QString ChiediFilePdf(QWidget& finestra, const QString& titolo);
 
 /// Replaces the file, whole or not at all. A `Failure` when that cannot be done.
-void StampaSuFile(const Documento& documento, const QString& path);
+void StampaSuFile(const Documento& documento, const QString& path, Progress& progress);
 
 /// Prints on a system printer; on the current one, which the person is told, when it has gone meanwhile. A `Failure`
 /// when there is none, or it does not print.
-void StampaSuStampante(const Documento& documento, const QString& stampante, Interaction& interaction);
+void StampaSuStampante(const Documento& documento, const QString& stampante, Interaction& interaction,
+                       Progress& progress);
 
 /// Shows the pages on screen; from there they can be printed as well.
 void MostraAnteprima(const Documento& documento, QWidget& finestra, Interaction& interaction);

@@ -39,6 +39,10 @@ TEST(Rifiuti, TheArchiveAndTheFilesStayAsTheyWere) {
          u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(archivio)},
         {{u"esporta"_s, assente, u"3"_s, u"99"_s},
          u"Non c'è nessuna mèta con il codice 000099: niente è stato esportato."_s},
+        {{u"stampa"_s, u"3"_s, u"--pdf"_s, estraneo}, u"Il file %1 esiste già: non è stato ricoperto."_s.arg(estraneo)},
+        {{u"stampa"_s, u"99"_s, u"--pdf"_s, assente}, u"Non esiste nessuna mèta con il codice 000099."_s},
+        {{u"stampa"_s, u"3"_s, u"--pdf"_s, assente + u"/x.pdf"_s},
+         u"Il file %1/x.pdf non si può scrivere: controlla la cartella e i permessi."_s.arg(assente)},
         {{u"nuova"_s, u"provenza"_s, u"FRANCIA"_s}, u"Esiste già la mèta PROVENZA con il codice 000003."_s},
         {{u"nuova"_s, u"CORSICA"_s, u" "_s}, u"Campo Nazione: obbligatorio!"_s},
         {{u"nuova"_s, QString(31, u'É'), u"FRANCIA"_s},
@@ -53,6 +57,20 @@ TEST(Rifiuti, TheArchiveAndTheFilesStayAsTheyWere) {
         ASSERT_EQ(programma.Cartella().Contenuto(), contenuto);
     }
     EXPECT_EQ(prova::LeggiFile(estraneo), "Lista della spesa\r\n");
+}
+
+TEST(Rifiuti, APrintoutOfWhichAPartFailsLeavesNone) {
+    const Programma programma;
+    programma.ImportaEsempio(u"provenza"_s);
+    const QString tabella = programma.Cartella().Percorso() + u"/Vandtabl.txt"_s;
+    ASSERT_TRUE(QDir().mkdir(tabella));
+    const QString messaggio = tabella + u" è una cartella, non un file."_s;
+    AttesoRifiuto(programma.Esegui({u"calcola"_s, u"3"_s, u"--tabella"_s}), messaggio);
+    const QString pdf = programma.Cartella().Percorso() + u"/viaggio.pdf"_s;
+    prova::ScriviFile(pdf, "prezioso");
+    AttesoRifiuto(programma.Esegui({u"stampa"_s, u"3"_s, u"--pdf"_s, pdf, u"--sovrascrivi"_s}), messaggio);
+    EXPECT_EQ(prova::LeggiFile(pdf), "prezioso");
+    EXPECT_EQ(programma.Cartella().Contenuto().size(), 3);
 }
 
 TEST(Rifiuti, AFileThatIsNoArchiveIsLeftAlone) {

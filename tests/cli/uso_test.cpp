@@ -26,8 +26,9 @@ TEST(Uso, TheWindowNeedsADisplay) {
     const Programma programma;
     const Risposta risposta = programma.Esegui({});
     EXPECT_EQ(risposta.codice, 1);
-    EXPECT_EQ(risposta.errori,
-              u"La finestra non si può aprire: non c'è uno schermo. I comandi da terminale funzionano anche senza finestra: cronovia --help\n"_s);
+    EXPECT_EQ(
+        risposta.errori,
+        u"La finestra non si può aprire: non c'è uno schermo. I comandi da terminale funzionano anche senza finestra: cronovia --help\n"_s);
 }
 
 TEST(Uso, WrongLinesAreRefusedBeforeAnythingIsMade) {
@@ -56,6 +57,7 @@ TEST(Uso, WrongLinesAreRefusedBeforeAnythingIsMade) {
         calcola(u"giorni"_s, u"0 a 997"_s, u"99999999999"_s),
         calcola(u"soste"_s, u"1 a 5"_s, u"0"_s),
         calcola(u"soste"_s, u"1 a 5"_s, u"6"_s),
+        {{u"stampa"_s, u"1"_s}, u"Al verbo «stampa» manca l'opzione --pdf FILE."_s},
         inizio(u"05/06/2027"_s),
         inizio(u"31/02/2027 10:00"_s),
         inizio(u"05/06/2027 24:00"_s),

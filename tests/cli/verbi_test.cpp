@@ -177,5 +177,26 @@ TEST(Verbi, TheLocaleChangesNothing) {
     }
 }
 
+TEST(Verbi, StampaWritesThePdfAndTheTable) {
+    const Programma programma;
+    programma.ImportaEsempio(u"provenza"_s);
+    const QString pdf = programma.Cartella().Percorso() + u"/viaggio.pdf"_s;
+    const QString tabella = programma.Cartella().Percorso() + u"/Vandtabl.txt"_s;
+    const QString scritta = u"Stampa sul file %1: completata!\n"_s.arg(tabella);
+    const QStringList stampa = {u"stampa"_s, u"3"_s, u"--pdf"_s, pdf};
+    EXPECT_EQ(programma.Uscita(stampa), u"Stampa sul file %1: completata! Pagine: 3.\n"_s.arg(pdf) + scritta);
+    EXPECT_TRUE(prova::LeggiFile(pdf).startsWith("%PDF-1.4"));
+    const QByteArray prima = prova::LeggiFile(tabella);
+    EXPECT_TRUE(prima.startsWith("PROVENZA\r\n\r\nNum.\t"));
+    EXPECT_TRUE(
+        programma.Uscita(stampa + QStringList{u"--sovrascrivi"_s, u"--giorni"_s, u"6"_s}).contains(u"tentativi"_s));
+    EXPECT_NE(prova::LeggiFile(tabella), prima);
+
+    EXPECT_TRUE(programma.Uscita({u"calcola"_s, u"3"_s, u"--tabella"_s}).endsWith(scritta));
+    EXPECT_EQ(prova::LeggiFile(tabella), prima) << "the same rows";
+    EXPECT_EQ(programma.Uscita({u"calcola"_s, u"3"_s, u"--tabella"_s, u"--formato"_s, u"tsv"_s}),
+              programma.Uscita({u"calcola"_s, u"3"_s, u"--formato"_s, u"tsv"_s}));
+}
+
 }  // namespace
 }  // namespace cronovia

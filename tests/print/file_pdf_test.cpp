@@ -57,7 +57,8 @@ class FilePdf : public testing::Test {
 
     void Scrivi(const Documento& documento) {
         FileIntero file(path_);
-        ScriviPdf(documento, file);
+        Progress progress;
+        ScriviPdf(documento, file, progress);
         file.Chiudi();
     }
 
