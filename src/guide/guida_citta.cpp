@@ -1,6 +1,8 @@
 #include "guide/guida_citta.h"
 
+#include <algorithm>
 #include <array>
+#include <tuple>
 
 #include "calendar/testo.h"
 
@@ -28,6 +30,21 @@ void InserisciTipiPredefiniti(Archive& archive) {
 }
 
 }  // namespace
+
+Durata LeggiTempoVisita(QStringView testo) {
+    return {0, ValoreNumerico(testo.left(2)), ValoreNumerico(testo.right(2))};
+}
+
+VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi) {
+    return {record.id,
+            record[guida::Localita],
+            record[guida::CodiceGuida],
+            DescrizioneTipoGuida(tipi, record[guida::CodiceGuida]),
+            record[guida::Descrizione].trimmed(),
+            LeggiTempoVisita(record[guida::TempoSosta])};
+}
+
+QString TestoTempoVisita(const Durata& tempo) { return Zero(tempo.ore, 2) + u':' + Zero(tempo.minuti, 2); }
 
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive) {
     if (archive.Count(Tabella::TipoGuida) == 0) InserisciTipiPredefiniti(archive);
@@ -61,13 +78,7 @@ std::shared_ptr<const VociGuida> LettoreGuida::Voci(const QString& localita) {
     auto voci = std::make_shared<VociGuida>();
     const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}};
     for (const Record& record : archive_.Select(ricerca, {guida::CodiceGuida, guida::Descrizione})) {
-        const QString& tempo = record[guida::TempoSosta];
-        voci->push_back({record.id,
-                         record[guida::Localita],
-                         record[guida::CodiceGuida],
-                         DescrizioneTipoGuida(tipi_, record[guida::CodiceGuida]),
-                         record[guida::Descrizione].trimmed(),
-                         {0, ValoreNumerico(tempo.left(2)), ValoreNumerico(tempo.right(2))}});
+        voci->push_back(VoceDelRecord(record, tipi_));
     }
     letta = std::move(voci);
     return letta;
@@ -79,6 +90,30 @@ Centesimi LettoreGuida::PrendiTempoVisite(const QString& localita) {
         if (contate_.insert(voce.id).second) somma += InCentesimi(voce.tempo, kGiornoOrologio);
     }
     return somma;
+}
+
+std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita) {
+    struct Trovata {
+        QString chiave;  // of the description in the alphabet
+        VoceGuida voce;
+    };
+    const std::vector<TipoGuida> tipi = CaricaTipiGuida(archive);
+    std::vector<NamePattern> modelli;
+    for (const QString& nome : localita) modelli.push_back(NamePattern::ForName(nome));
+    std::vector<std::vector<Trovata>> trovate(localita.size());
+    archive.ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
+        trovate[quale].push_back({ChiaveAlfabetica(record[guida::Descrizione]), VoceDelRecord(record, tipi)});
+    });
+    std::vector<VociGuida> voci(localita.size());
+    for (std::size_t i = 0; i < trovate.size(); ++i) {
+        std::sort(trovate[i].begin(), trovate[i].end(), [](const Trovata& a, const Trovata& b) {
+            return std::tie(a.voce.codice, a.chiave, a.voce.descrizione, a.voce.id) <
+                   std::tie(b.voce.codice, b.chiave, b.voce.descrizione, b.voce.id);
+        });
+        voci[i].reserve(trovate[i].size());
+        for (Trovata& trovata : trovate[i]) voci[i].push_back(std::move(trovata.voce));
+    }
+    return voci;
 }
 
 }  // namespace cronovia

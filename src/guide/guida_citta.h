@@ -5,6 +5,7 @@
 #include <QString>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <unordered_set>
 #include <vector>
 
@@ -40,6 +41,17 @@ struct VoceGuida {
 };
 
 using VociGuida = std::vector<VoceGuida>;
+
+/// The entry that a row of the guide holds.
+VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi);
+
+/// Reads a visit time "hh:mm"; what is no number counts as 0.
+Durata LeggiTempoVisita(QStringView testo);
+/// "hh:mm", two digits each.
+QString TestoTempoVisita(const Durata& tempo);
+
+/// The entries of many localities, each as `LettoreGuida::Voci` finds them, with no more queries than for one.
+std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita);
 
 /// Reads the guide on behalf of one computation: each locality is looked up once, and the visit time of each entry is
 /// handed out once, to the first stage that asks for it.

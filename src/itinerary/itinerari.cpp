@@ -89,6 +89,23 @@ void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriVi
     }
 }
 
+std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const ParametriViaggio& parametri,
+                                      Progress& progress) {
+    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    LettoreGuida guida(archive);
+    progress.Title(u"Copia soste Guida -> Itinerario"_s);
+    double fatte = 0;
+    for (Tappa& tappa : tappe) {
+        progress.Advance(++fatte, static_cast<double>(tappe.size()));
+        if (Vuota(tappa)) continue;
+        const Centesimi visite = guida.PrendiTempoVisite(tappa.localita);
+        if (visite == Centesimi()) continue;
+        tappa.sosta = InDurata(InCentesimi(tappa.sosta, visitaGiorno) + visite, visitaGiorno);
+    }
+    progress.Advance(0, 0);
+    return tappe;
+}
+
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                                              const ParametriViaggio& parametri, Progress& progress) {
     if (RecordNecessari(tappe) > kMassimoRecord) {

@@ -21,6 +21,11 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
 /// Puts the guide's visit times anew, after stages changed.
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriViaggio& parametri);
 
+/// The stages with the guide's visit times added to their stops; a locality that occurs again gets none there. The ends
+/// of days stay.
+std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const ParametriViaggio& parametri,
+                                      Progress& progress);
+
 /// What saving an itinerary did.
 struct EsitoMemorizzazione {
     int record = 0;          ///< rows written; a stage longer than 999 km takes several

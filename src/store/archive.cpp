@@ -2,6 +2,8 @@
 
 #include <SQLiteCpp/Exception.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <algorithm>
 
 #include "store/connection.h"
@@ -77,9 +79,23 @@ void BindValues(SQLite::Statement& statement, const DefinizioneTabella& table, s
     }
 }
 
-// Base letters without case or accents: what decides first in an alphabetical list.
-QString AlphabetKey(QStringView text) {
-    const QString decomposed = text.toString().normalized(QString::NormalizationForm_KD);
+// The stretches of all patterns as a JSON array of [place of the pattern, from, to, whether what is in it matches].
+QByteArray RangesAsJson(std::span<const NamePattern> patterns) {
+    QJsonArray all;
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+        for (const NamePattern::Range& range : patterns[i].Ranges()) {
+            all.append(QJsonArray{static_cast<qint64>(i), range.from, range.single ? range.from : range.to,
+                                  range.single ? 1 : 0});
+        }
+    }
+    return QJsonDocument(all).toJson(QJsonDocument::Compact);
+}
+
+}  // namespace
+
+// Base letters without case or accents.
+QString ChiaveAlfabetica(QStringView testo) {
+    const QString decomposed = testo.toString().normalized(QString::NormalizationForm_KD);
     QString key;
     key.reserve(decomposed.size());
     for (const QChar c : decomposed) {
@@ -88,11 +104,18 @@ QString AlphabetKey(QStringView text) {
     return key;
 }
 
-}  // namespace
-
 bool PrimaNellAlfabeto(QStringView a, QStringView b) {
-    const int keys = AlphabetKey(a).compare(AlphabetKey(b));
+    const int keys = ChiaveAlfabetica(a).compare(ChiaveAlfabetica(b));
     return keys != 0 ? keys < 0 : a.compare(b) < 0;
+}
+
+void OrdinaRecord(std::vector<Record>& record, std::initializer_list<int> ordine) {
+    std::sort(record.begin(), record.end(), [&](const Record& a, const Record& b) {
+        for (const int posto : ordine) {
+            if (a[posto] != b[posto]) return PrimaNellAlfabeto(a[posto], b[posto]);
+        }
+        return a.id < b.id;
+    });
 }
 
 Archive::Archive(std::unique_ptr<Connection> connection) : connection_(std::move(connection)) {}
@@ -139,18 +162,44 @@ void Archive::ForEach(Tabella tabella, const std::function<void(const Record&)>&
     });
 }
 
+void Archive::ForEachMatch(Tabella tabella, int posto, std::span<const NamePattern> modelli,
+                           const std::function<void(std::size_t, Record&&)>& visit) {
+    const DefinizioneTabella& table = Definizione(tabella);
+    const std::string field = Name(table.campi.at(static_cast<std::size_t>(posto)).nome) + " COLLATE NOCASE";
+    Guarded(connection_->Path(), [&] {
+        const auto last = static_cast<int>(table.campi.size()) + 1;
+        SQLite::Statement& statement = connection_->Prepared(
+            "SELECT " + Name(table.nome) + ".rowid, " + ColumnNames(table) +
+            ", stretch.value ->> 0, stretch.value ->> 3 FROM json_each(?1) AS stretch CROSS JOIN " + Name(table.nome) +
+            " WHERE " + field + " BETWEEN stretch.value ->> 1 AND stretch.value ->> 2");
+        BindText(statement, 1, QString::fromUtf8(RangesAsJson(modelli)));
+        while (statement.executeStep()) {
+            Record record = ReadRecord(statement, table.campi.size());
+            const auto which = static_cast<std::size_t>(statement.getColumn(last).getInt64());
+            const bool surely = statement.getColumn(last + 1).getInt() == 1;
+            if (surely || modelli[which].Matches(record[posto])) visit(which, std::move(record));
+        }
+        statement.reset();
+    });
+    std::vector<std::size_t> anywhere;  // patterns without a literal beginning
+    for (std::size_t i = 0; i < modelli.size(); ++i) {
+        if (modelli[i].Ranges().empty()) anywhere.push_back(i);
+    }
+    if (anywhere.empty()) return;
+    ForEach(tabella, [&](const Record& record) {
+        for (const std::size_t which : anywhere) {
+            if (modelli[which].Matches(record[posto])) visit(which, Record(record));
+        }
+    });
+}
+
 std::vector<Record> Archive::Select(const Ricerca& ricerca, std::initializer_list<int> ordine) {
     std::vector<Record> records;
     Scan(ricerca, [&](Record&& record) {
         records.push_back(std::move(record));
         return true;
     });
-    std::sort(records.begin(), records.end(), [&](const Record& a, const Record& b) {
-        for (const int posto : ordine) {
-            if (a[posto] != b[posto]) return PrimaNellAlfabeto(a[posto], b[posto]);
-        }
-        return a.id < b.id;
-    });
+    OrdinaRecord(records, ordine);
     return records;
 }
 
@@ -182,14 +231,15 @@ std::int64_t Archive::Count(Tabella tabella) {
     });
 }
 
-void Archive::Insert(Tabella tabella, std::span<const QString> valori) {
+std::int64_t Archive::Insert(Tabella tabella, std::span<const QString> valori) {
     const DefinizioneTabella& table = Definizione(tabella);
     CheckWidths(table, valori);
-    Guarded(connection_->Path(), [&] {
+    return Guarded(connection_->Path(), [&] {
         SQLite::Statement& statement = connection_->Prepared(InsertSql(tabella));
         BindValues(statement, table, valori);
         statement.exec();
         statement.reset();
+        return connection_->Database().getLastInsertRowid();
     });
 }
 

@@ -41,6 +41,11 @@ struct Ricerca {
 
 /// Compares texts for lists that people read: letters before case, base letters before accents.
 bool PrimaNellAlfabeto(QStringView a, QStringView b);
+/// What decides first in that order, for long lists that are compared again and again.
+QString ChiaveAlfabetica(QStringView testo);
+
+/// Sorts rows by these fields, the first one leading, as `Archive::Select` does.
+void OrdinaRecord(std::vector<Record>& record, std::initializer_list<int> ordine);
 
 /// The open database file. Every failure is a `Failure` with its message. Only `Transaction` makes several changes one.
 class Archive {
@@ -67,11 +72,16 @@ class Archive {
     /// Hands over row after row of a table, in the order in which they were added, without holding more than one.
     void ForEach(Tabella tabella, const std::function<void(const Record&)>& visit);
 
+    /// Hands over the rows whose field matches one of many patterns, with the place of that pattern in the list; a row
+    /// comes once for each that it matches, in no order. Two queries, however many patterns there are.
+    void ForEachMatch(Tabella tabella, int posto, std::span<const NamePattern> modelli,
+                      const std::function<void(std::size_t, Record&&)>& visit);
+
     std::int64_t Count(Tabella tabella);
 
-    /// Adds a row, changes the row with that id; `valori` has a value for every field. One wider than its field is
-    /// refused.
-    void Insert(Tabella tabella, std::span<const QString> valori);
+    /// Adds a row and returns its id, changes the row with that id; `valori` has a value for every field. One wider
+    /// than its field is refused.
+    std::int64_t Insert(Tabella tabella, std::span<const QString> valori);
     void Update(Tabella tabella, const Record& record);
     void Delete(Tabella tabella, std::int64_t id);
 

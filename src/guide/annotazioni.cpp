@@ -1,0 +1,116 @@
+#include "guide/annotazioni.h"
+
+#include <algorithm>
+
+#include "calendar/testo.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool Mostra(const Record& record, const VoceGuida& voce) {
+    return record[guida::CodiceGuida] == voce.codice && record[guida::Descrizione].trimmed() == voce.descrizione &&
+           LeggiTempoVisita(record[guida::TempoSosta]) == voce.tempo;
+}
+
+// A name looks for itself as a pattern, but a description must be the very same: one that only resembles it belongs to
+// an entry that nobody pointed at.
+std::optional<Record> VoceMostrata(Archive& archive, const NamePattern& localita, const VoceGuida& voce) {
+    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, localita}}};
+    for (Record& record : archive.Select(ricerca)) {
+        if (Mostra(record, voce)) return std::move(record);
+    }
+    return std::nullopt;
+}
+
+// An entry with these values: the very one when it is still there, else the first of those like it.
+std::optional<Record> Uguale(Archive& archive, const Record& cercato) {
+    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, NamePattern::Exactly(cercato[guida::Localita])}}};
+    std::optional<Record> trovato;
+    for (Record& record : archive.Select(ricerca)) {
+        // The mark of what was counted is no part of what a person knows of an entry.
+        record[guida::FlagVisto] = cercato[guida::FlagVisto];
+        if (record.valori == cercato.valori && (!trovato || record.id == cercato.id)) trovato = std::move(record);
+    }
+    return trovato;
+}
+
+Record Inserita(Archive& archive, Record record) {
+    record.id = archive.Insert(Tabella::GuidaCitta, record.valori);
+    return record;
+}
+
+}  // namespace
+
+CampiVoce CampiDellaVoce(const VoceGuida& voce) {
+    return {voce.descrizione, voce.tipo, voce.tempo.ore, voce.tempo.minuti};
+}
+
+std::optional<Message> ControllaVoce(const std::vector<TipoGuida>& tipi, const CampiVoce& campi) {
+    const auto errore = [](const QString& manca) {
+        return Message{u"Errore! Manca %1!!!"_s.arg(manca), {}, Icon::Exclamation};
+    };
+    if (campi.descrizione.trimmed().isEmpty()) return errore(u"la descrizione"_s);
+    const int codice = CodiceTipoGuida(tipi, campi.tipo);
+    if (codice < 0) return errore(u"la tipologia"_s);
+    const bool obbligatorio = std::any_of(tipi.begin(), tipi.end(), [&](const TipoGuida& tipo) {
+        return ValoreNumerico(tipo.codice) == codice && tipo.tempoObbligatorio;
+    });
+    if (obbligatorio && campi.ore == 0 && campi.minuti == 0) return errore(u"il tempo stimato"_s);
+    return std::nullopt;
+}
+
+ModificaGuida SalvaVoce(Archive& archive, const QString& localita, const std::optional<VoceGuida>& mostrata,
+                        const std::vector<TipoGuida>& tipi, const CampiVoce& campi) {
+    if (const auto errore = ControllaVoce(tipi, campi)) throw Failure(errore->text);
+    Transaction transaction(archive);
+    ModificaGuida modifica;
+    if (mostrata) modifica.prima = VoceMostrata(archive, NamePattern::ForName(localita), *mostrata);
+    Record record = modifica.prima.value_or(Record{0, std::vector<QString>(guida::kCampi)});
+    record[guida::Localita] = localita;
+    record[guida::CodiceGuida] = Zero(CodiceTipoGuida(tipi, campi.tipo), 2);
+    record[guida::Descrizione] = campi.descrizione.trimmed();
+    record[guida::TempoSosta] = TestoTempoVisita({0, campi.ore, campi.minuti});
+    record[guida::FlagVisto] = u"0"_s;
+    if (modifica.prima) {
+        archive.Update(Tabella::GuidaCitta, record);
+        modifica.dopo = std::move(record);
+    } else {
+        modifica.dopo = Inserita(archive, std::move(record));
+    }
+    transaction.Commit();
+    return modifica;
+}
+
+std::optional<ModificaGuida> CancellaVoce(Archive& archive, const NamePattern& localita, const VoceGuida& mostrata) {
+    Transaction transaction(archive);
+    std::optional<Record> record = VoceMostrata(archive, localita, mostrata);
+    if (!record) return std::nullopt;
+    archive.Delete(Tabella::GuidaCitta, record->id);
+    transaction.Commit();
+    return ModificaGuida{std::move(record), std::nullopt};
+}
+
+std::optional<ModificaGuida> Annulla(Archive& archive, const ModificaGuida& modifica) {
+    Transaction transaction(archive);
+    ModificaGuida fatta{std::nullopt, modifica.prima};
+    if (modifica.dopo) {
+        fatta.prima = Uguale(archive, *modifica.dopo);
+        if (!fatta.prima) return std::nullopt;
+    }
+    if (fatta.prima && fatta.dopo) {
+        fatta.dopo->id = fatta.prima->id;
+        archive.Update(Tabella::GuidaCitta, *fatta.dopo);
+    } else if (fatta.prima) {
+        archive.Delete(Tabella::GuidaCitta, fatta.prima->id);
+    } else if (fatta.dopo) {
+        fatta.dopo = Inserita(archive, std::move(*fatta.dopo));
+    }
+    transaction.Commit();
+    return fatta;
+}
+
+}  // namespace cronovia

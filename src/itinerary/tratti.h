@@ -1,0 +1,40 @@
+// Stages made from stages that exist already: the way back, and stretches of other trips. Rows are counted from 1.
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include "itinerary/modifiche.h"
+
+namespace cronovia {
+
+/// An itinerary after a command, with the row that is current then.
+struct EsitoTratto {
+    RigheItinerario righe;
+    int rigaCorrente = 1;
+};
+
+/// Goes back to the departure place over the stages passed on the way out, from the place nearest to the end that is
+/// the last stage's too; each leg has the road and the kilometres of the same leg of the way out, and no stop. Free
+/// rows go. The row of that place is the current one; where the last stage is a place not passed before, nothing is
+/// added and the last stage is.
+EsitoTratto Ritorno(std::span<const Tappa> righe);
+
+/// Rows of the trip that is copied from, `da` first; `da` beyond `a` is the stretch driven the other way.
+struct Percorso {
+    int da = 1;
+    int a = 1;
+
+    friend bool operator==(const Percorso&, const Percorso&) = default;
+};
+
+/// The rows from the assigned first to the assigned last stage, in rising order and widened to hold the row `corrente`,
+/// which stands for an end that is not assigned.
+Percorso TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int corrente);
+
+/// Puts a stretch after the stage of row `riga`, or before it when that row is free. A leg driven the other way has the
+/// road and kilometres of the stage that follows in the source; behind its last stage there is none. Stops, with the
+/// ends of days, come along with `conSoste`. The first new row is the current one.
+EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Percorso tratto, bool conSoste);
+
+}  // namespace cronovia
