@@ -7,9 +7,11 @@
 #include <optional>
 #include <vector>
 
+#include "app/copia_percorso.h"
 #include "app/cronologia.h"
 #include "app/modi_comandi.h"
 #include "app/sessione.h"
+#include "app/tavolo_guida.h"
 #include "interaction/interaction.h"
 #include "trips/mete.h"
 
@@ -46,6 +48,12 @@ class Scrivania {
     [[nodiscard]] const Cronologia& Modifiche() const { return cronologia_; }
     [[nodiscard]] const QString& Cartella() const { return sessione_.Cartella(); }
     [[nodiscard]] QDateTime Adesso() const { return volti_.adesso(); }
+    /// The guide screen and the copy screen; nothing while they are closed.
+    [[nodiscard]] const std::optional<TavoloGuida>& Guida() const { return guida_; }
+    [[nodiscard]] const std::optional<CopiaPercorso>& Copia() const { return copia_; }
+    /// Names of the changes that `Annulla` and `Ripeti` are about on the screen that is open.
+    [[nodiscard]] std::optional<QString> DaAnnullare() const;
+    [[nodiscard]] std::optional<QString> DaRipetere() const;
     [[nodiscard]] StatoComandi Comandi() const;
     /// The entry fields of the current row, and whether progressive kilometres may be typed there; nothing: not shown.
     [[nodiscard]] CampiTappa CampiCorrenti() const { return CampiDellaRiga(righe_, rigaCorrente_); }
@@ -92,6 +100,20 @@ class Scrivania {
     void Ricalcola();
     void Annulla();
     void Ripeti();
+    void Ritorno();
+    /// Adds the guide's visit times to the stops, after a question.
+    void Trasferisce();
+
+    // The copy screen: a command on it, the copy of the stretch that was chosen there, or none.
+    void Duplica();
+    void SullaCopia(const std::function<void(CopiaPercorso&)>& comando);
+    void InserisciPercorso(bool conSoste);
+    void RinunciaDuplicaItinerario();
+
+    // The guide screen.
+    void GuidaCitta();
+    void SullaGuida(const std::function<void(TavoloGuida&)>& comando);
+    void FineGuida();
 
     /// Asks before unsaved stages, or a new trip that was typed, are lost; false when the person wants to stay.
     bool PossoChiudere();
@@ -123,6 +145,8 @@ class Scrivania {
     std::optional<Cronovia> cronovia_;
     std::optional<std::vector<MetaInElenco>> elencoMete_;
     Cronologia cronologia_;
+    std::optional<TavoloGuida> guida_;
+    std::optional<CopiaPercorso> copia_;
     QString modoPrimaDellElenco_;
     QString modoComandi_ = QStringLiteral("ZZ");
     QString modoItinerario_ = QStringLiteral("ZZ");

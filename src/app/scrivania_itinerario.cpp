@@ -127,6 +127,7 @@ void Scrivania::Memorizza() {
 }
 
 void Scrivania::Fine() {
+    if (copia_) return RinunciaDuplicaItinerario();
     if (elencoTappe_) {
         elencoTappe_ = false;
         modoItinerario_ = u"all"_s;
@@ -156,11 +157,13 @@ void Scrivania::Ricalcola() {
 }
 
 void Scrivania::Annulla() {
+    if (guida_) return SullaGuida([](TavoloGuida& guida) { guida.Annulla(); });
     const auto stato = cronologia_.Annulla({righe_, rigaCorrente_});
     if (stato && !Prova([&] { Mostra(*stato); })) cronologia_.Ripeti(*stato);
 }
 
 void Scrivania::Ripeti() {
+    if (guida_) return SullaGuida([](TavoloGuida& guida) { guida.Ripeti(); });
     const auto stato = cronologia_.Ripeti({righe_, rigaCorrente_});
     if (stato && !Prova([&] { Mostra(*stato); })) cronologia_.Annulla(*stato);
 }

@@ -1,0 +1,49 @@
+#include "app/copia_percorso.h"
+
+#include <algorithm>
+
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+CopiaPercorso::CopiaPercorso(Sessione& sessione) : sessione_(sessione) {
+    ElencaMete();
+    if (mete_.empty()) throw Failure(u"Non trovate mète memorizzate"_s);
+}
+
+void CopiaPercorso::ElencaMete() {
+    Archive& archivio = sessione_.Archivio();
+    mete_.clear();
+    for (const Record& record : archivio.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+        const Condizione dellaMeta{itinerari::CodiceMeta, NamePattern::Exactly(record[mete::CodiceMeta])};
+        const QString localita = record[mete::Localita].trimmed();
+        if (localita.isEmpty() || !archivio.Exists({Tabella::Itinerari, {dellaMeta}})) continue;
+        mete_.push_back({record[mete::CodiceMeta], localita, record[mete::Nazione].trimmed()});
+    }
+}
+
+std::optional<Percorso> CopiaPercorso::Scelto() const {
+    if (!assegnate_[0] || !assegnate_[1]) return std::nullopt;
+    return Percorso{*assegnate_[0], *assegnate_[1]};
+}
+
+void CopiaPercorso::ScegliMeta(int riga) {
+    const MetaDaCopiare scelta = mete_.at(static_cast<std::size_t>(riga - 1));
+    try {
+        RigheItinerario tappe = sessione_.ApriMeta(scelta.codice).tappe;
+        if (tappe.empty()) throw Failure(u"La mèta «%1» non ha più tappe memorizzate."_s.arg(scelta.localita));
+        tappe_ = std::move(tappe);
+    } catch (const Failure&) {
+        ElencaMete();
+        throw;
+    }
+    rigaCopia_ = 1;
+}
+
+void CopiaPercorso::SelezionaRiga(int riga) {
+    rigaCopia_ = std::clamp(riga, 1, static_cast<int>(tappe_ ? tappe_->size() : mete_.size()));
+}
+
+}  // namespace cronovia

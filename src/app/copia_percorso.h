@@ -1,0 +1,54 @@
+// What the copy screen works on: the trips to copy from, then the stages of the one that was chosen.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "app/sessione.h"
+#include "itinerary/tratti.h"
+
+namespace cronovia {
+
+/// A trip that has stages to copy.
+struct MetaDaCopiare {
+    QString codice;
+    QString localita;
+    QString nazione;
+};
+
+class CopiaPercorso {
+  public:
+    /// Lists the trips with stored stages by their destinations; refused when there is none.
+    explicit CopiaPercorso(Sessione& sessione);
+
+    [[nodiscard]] const std::vector<MetaDaCopiare>& Mete() const { return mete_; }
+    /// The stages of the trip chosen; nothing while the trips are listed.
+    [[nodiscard]] const std::optional<RigheItinerario>& Tappe() const { return tappe_; }
+    [[nodiscard]] int RigaCopia() const { return rigaCopia_; }
+    /// Rows of the assigned first and last stage.
+    [[nodiscard]] const std::array<std::optional<int>, 2>& Assegnate() const { return assegnate_; }
+    /// The rows to highlight.
+    [[nodiscard]] Percorso Evidenziato() const { return TrattoEvidenziato(assegnate_[0], assegnate_[1], rigaCopia_); }
+    /// The stretch in the direction wanted, once both ends are assigned.
+    [[nodiscard]] std::optional<Percorso> Scelto() const;
+
+    /// Shows the stages of the trip in a row of the list; refused when they are gone meanwhile, and the list is made
+    /// anew.
+    void ScegliMeta(int riga);
+    void SelezionaRiga(int riga);
+    /// The current row becomes the first (0) or last (1) stage.
+    void Assegna(std::size_t estremo) { assegnate_.at(estremo) = rigaCopia_; }
+
+  private:
+    void ElencaMete();
+
+    Sessione& sessione_;
+    std::vector<MetaDaCopiare> mete_;
+    std::optional<RigheItinerario> tappe_;
+    int rigaCopia_ = 1;
+    std::array<std::optional<int>, 2> assegnate_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,139 @@
+#include "app/tavolo_guida.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+TavoloGuida::TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta)
+    : archive_(archive), interaction_(interaction), codiceMeta_(codiceMeta), tipi_(CaricaTipiGuida(archive)) {
+    CreaElenco();
+    InserisciGuida(1);
+}
+
+void TavoloGuida::CreaElenco() {
+    auto elenco = std::make_shared<std::vector<RigaGuida>>(CreaLaListadellaGuida(archive_, codiceMeta_));
+    if (elenco->empty()) throw Failure(SenzaTappeMemorizzate().text);  // another window has taken them away
+    elenco_ = std::move(elenco);
+}
+
+std::optional<QString> TavoloGuida::DaAnnullare() const {
+    return fatti_ == 0 ? std::nullopt : std::optional(passi_[fatti_ - 1].nome);
+}
+
+std::optional<QString> TavoloGuida::DaRipetere() const {
+    return fatti_ == passi_.size() ? std::nullopt : std::optional(passi_[fatti_].nome);
+}
+
+void TavoloGuida::InserisciGuida(int riga) {
+    rigaCorrente_ = std::clamp(riga, 1, static_cast<int>(elenco_->size()));
+    const std::optional<VoceGuida>& voce = Corrente().voce;
+    campi_ = voce ? CampiDellaVoce(*voce) : CampiVoce();
+    if (campi_.tipo.isEmpty() && !tipi_.empty()) campi_.tipo = tipi_.front().descrizione;
+}
+
+// The row of an entry, below that locality when it is shown there; the locality's own without one.
+int TavoloGuida::RigaDi(const QString& localita, const std::optional<Record>& voce) const {
+    int trovata = 0;
+    for (std::size_t i = 0; i < elenco_->size(); ++i) {
+        const RigaGuida& riga = (*elenco_)[i];
+        const bool qui = riga.localita.compare(localita, Qt::CaseInsensitive) == 0;
+        const bool cercata = voce ? riga.voce && riga.voce->id == voce->id : !riga.voce && qui;
+        if (cercata && (qui || trovata == 0)) trovata = static_cast<int>(i) + 1;
+        if (cercata && qui) break;
+    }
+    if (trovata == 0) return voce ? RigaDi(localita, std::nullopt) : rigaCorrente_;
+    return trovata;
+}
+
+void TavoloGuida::Ricorda(Passo passo) {
+    passi_.resize(fatti_);
+    passi_.push_back(std::move(passo));
+    ++fatti_;
+}
+
+bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
+    if (const auto errore = ControllaVoce(tipi_, campi)) {
+        interaction_.Show(*errore);
+        return false;
+    }
+    const RigaGuida riga = Corrente();
+    ModificaGuida modifica = SalvaVoce(archive_, riga.localita, riga.voce, tipi_, campi);
+    const bool persa = riga.voce && !modifica.prima;
+    const QString nome = modifica.prima ? u"modifica di «%1»"_s : u"inserimento di «%1»"_s;
+    const std::optional<Record> voce = riga.voce ? modifica.dopo : std::nullopt;
+    Ricorda({nome.arg(campi.descrizione.trimmed()), std::move(modifica)});
+    CreaElenco();
+    // From a locality's row one goes on adding; an entry is followed to where it is listed now.
+    InserisciGuida(RigaDi(riga.localita, voce));
+    if (!riga.voce) {
+        campi_ = campi;
+        campi_.descrizione.clear();
+    }
+    if (persa) {
+        interaction_.Show(
+            {u"L'annotazione mostrata era stata cambiata o cancellata nel frattempo:\n"
+             "i dati sono stati inseriti come nuova annotazione."_s,
+             {},
+             Icon::Information});
+    }
+    return true;
+}
+
+void TavoloGuida::CancellaRiga() {
+    const RigaGuida riga = Corrente();
+    if (!riga.voce) return;
+    std::optional<ModificaGuida> modifica = CancellaVoce(archive_, NamePattern::ForName(riga.localita), *riga.voce);
+    if (modifica) Ricorda({u"cancellazione di «%1»"_s.arg(riga.voce->descrizione), std::move(*modifica)});
+    CreaElenco();
+    InserisciGuida(rigaCorrente_);
+    // Never over to another locality, where the next entry would be typed by mistake.
+    if (Corrente().localita != riga.localita) InserisciGuida(rigaCorrente_ - 1);
+}
+
+void TavoloGuida::ScegliLocalita(int riga) {
+    cerca_ = false;
+    InserisciGuida(riga);
+}
+
+// Takes a step back, or forward when it was taken back before. False when somebody else has been at its entry: it is of
+// no use any more then.
+bool TavoloGuida::Disfa(Passo& passo) {
+    std::optional<ModificaGuida> fatta = cronovia::Annulla(archive_, passo.modifica);
+    if (!fatta) {
+        interaction_.Show(
+            {u"Impossibile: l'annotazione è stata cambiata o cancellata nel frattempo\n(%1)."_s.arg(passo.nome),
+             {},
+             Icon::Exclamation});
+        CreaElenco();
+        InserisciGuida(rigaCorrente_);
+        return false;
+    }
+    passo.modifica = std::move(*fatta);
+    CreaElenco();
+    const ModificaGuida& modifica = passo.modifica;
+    InserisciGuida(RigaDi((modifica.dopo ? *modifica.dopo : *modifica.prima)[guida::Localita], modifica.dopo));
+    return true;
+}
+
+void TavoloGuida::Annulla() {
+    if (fatti_ == 0) return;
+    const bool disfatto = Disfa(passi_[fatti_ - 1]);
+    --fatti_;
+    if (!disfatto) passi_.erase(passi_.begin() + static_cast<std::ptrdiff_t>(fatti_));
+}
+
+void TavoloGuida::Ripeti() {
+    if (fatti_ == passi_.size()) return;
+    if (Disfa(passi_[fatti_])) {
+        ++fatti_;
+    } else {
+        passi_.erase(passi_.begin() + static_cast<std::ptrdiff_t>(fatti_));
+    }
+}
+
+}  // namespace cronovia

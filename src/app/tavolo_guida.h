@@ -1,0 +1,71 @@
+// What the guide screen works on: the guide list of a trip, the row that is current in it, and the changes made.
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "guide/annotazioni.h"
+#include "interaction/interaction.h"
+#include "itinerary/elenco_guida.h"
+
+namespace cronovia {
+
+/// Commands write to the archive at once. What goes wrong in it is a `Failure`, and the state stays as it was.
+class TavoloGuida {
+  public:
+    using Righe = std::shared_ptr<const std::vector<RigaGuida>>;
+
+    /// Lays out the guide of a trip, which has stored stages.
+    TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta);
+
+    /// Another list after every change.
+    [[nodiscard]] const Righe& Elenco() const { return elenco_; }
+    [[nodiscard]] int RigaCorrente() const { return rigaCorrente_; }
+    [[nodiscard]] const RigaGuida& Corrente() const { return (*elenco_)[static_cast<std::size_t>(rigaCorrente_ - 1)]; }
+    [[nodiscard]] const std::vector<TipoGuida>& Tipi() const { return tipi_; }
+    /// What the fields are to hold.
+    [[nodiscard]] const CampiVoce& Campi() const { return campi_; }
+    [[nodiscard]] Archive& Archivio() const { return archive_; }
+    [[nodiscard]] const QString& CodiceMeta() const { return codiceMeta_; }
+    [[nodiscard]] bool ElencoLocalitaVisibile() const { return cerca_; }
+    /// Names of the changes to undo and to do again.
+    [[nodiscard]] std::optional<QString> DaAnnullare() const;
+    [[nodiscard]] std::optional<QString> DaRipetere() const;
+
+    /// Loads the fields from a row; from the last one when there are not so many.
+    void InserisciGuida(int riga);
+    /// Saves the fields in the place of the entry of the current row, or as a new one from a locality's row. Tells why
+    /// they cannot be saved; false then.
+    bool SalvaRiga(const CampiVoce& campi);
+    void CancellaRiga();
+    void Cerca() { cerca_ = true; }
+    void ScegliLocalita(int riga);
+    void ChiudiElenco() { cerca_ = false; }
+    void Annulla();
+    void Ripeti();
+
+  private:
+    struct Passo {
+        QString nome;
+        ModificaGuida modifica;
+    };
+    void CreaElenco();
+    void Ricorda(Passo passo);
+    bool Disfa(Passo& passo);
+    [[nodiscard]] int RigaDi(const QString& localita, const std::optional<Record>& voce) const;
+
+    Archive& archive_;
+    Interaction& interaction_;
+    QString codiceMeta_;
+    std::vector<TipoGuida> tipi_;
+    Righe elenco_;
+    int rigaCorrente_ = 1;
+    CampiVoce campi_;
+    bool cerca_ = false;
+    std::vector<Passo> passi_;  // the first `fatti_` are done, the others were undone
+    std::size_t fatti_ = 0;
+};
+
+}  // namespace cronovia
