@@ -40,4 +40,27 @@ QString AiutoInserimento() {
            "«Salva Reset» o di «Fine inser.»."_s;
 }
 
+QString AiutoDuplica() {
+    return u"Copi un tratto dell'itinerario di un'altra mèta nel tuo, dopo la tappa corrente.\n\n"
+           "1. Scegli la mèta con un clic (o con Invio).\n"
+           "2. Fai clic sulla prima tappa da copiare e poi su «Assegna tappa iniziale»; fai lo stesso con l'ultima. "
+           "Il tratto scelto resta evidenziato.\n"
+           "3. Premi «Inserisce percorso». Con l'iniziale dopo la finale il tratto si percorre all'inverso: ogni "
+           "tappa prende la strada e i chilometri dell'altro verso.\n\n"
+           "Controlla la distanza della prima tappa copiata: è quella che aveva nell'altra mèta, dalla tappa che là la "
+           "precedeva. Correggila se tu ci arrivi da un altro posto, e non copiare la tappa in cui ti trovi già.\n\n"
+           "Ctrl+Z annulla la copia."_s;
+}
+
+QString AiutoGuida() {
+    return u"La guida raccoglie, per località, che cosa vale una visita e dove un camper può sostare. Vale per tutti i "
+           "viaggi che passano di lì.\n\n"
+           "Per aggiungere: fai clic sulla prima riga di una località, scrivi la descrizione, scegli la tipologia e "
+           "premi «Salva riga» (o Invio). Da Ottimo a Vedibile serve anche il tempo della visita.\n"
+           "Per correggere o cancellare: fai clic sulla riga dell'annotazione.\n\n"
+           "Le modifiche sono salvate subito; finché resti qui Ctrl+Z le annulla e Ctrl+Maiusc+Z le ripete. Esc "
+           "rinuncia a ciò che hai scritto, poi esce.\n\n"
+           "Nell'itinerario, «Copia soste guida ->itin.» aggiunge questi tempi alle soste delle tappe."_s;
+}
+
 }  // namespace cronovia

@@ -9,5 +9,7 @@ QString AiutoPeriodo();
 QString AiutoVelocita();
 QString AiutoTempi();
 QString AiutoInserimento();
+QString AiutoDuplica();
+QString AiutoGuida();
 
 }  // namespace cronovia

@@ -46,9 +46,13 @@ ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
     }
     connect(opzioni_, &FrmStampa::Stampa, this, [this] { stampante_->VisualizzaListaStampanti(); });
     connect(opzioni_, &FrmStampa::Anteprima, this, [this] { volti_.esegui([this] { MostraAnteprima(); }); });
-    connect(stampante_, &FrmSelStampa::Stampa, this, [this] { volti_.esegui([this] { Stampa(); }); });
+    connect(stampante_, &FrmSelStampa::Stampa, this, [this] {
+        if (opzioni_->isVisible()) volti_.esegui([this] { Stampa(); });
+    });
     connect(opzioni_, &FrmStampa::Rinuncia, this, &ComandoStampa::Rinuncia);
-    connect(stampante_, &FrmSelStampa::Rinuncia, this, &ComandoStampa::Rinuncia);
+    connect(stampante_, &FrmSelStampa::Rinuncia, this, [this] {
+        if (opzioni_->isVisible()) Rinuncia();
+    });
 }
 
 void ComandoStampa::Apri() {
@@ -58,7 +62,7 @@ void ComandoStampa::Apri() {
 }
 
 void ComandoStampa::Aggiorna() {
-    if (!volti_.scrivania.CronoviaMostrata()) Chiudi();
+    if (!volti_.scrivania.CronoviaMostrata() && opzioni_->isVisible()) Chiudi();
 }
 
 // From the printers back to the options, from there back to the schedule.

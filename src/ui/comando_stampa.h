@@ -35,6 +35,8 @@ class ComandoStampa : public QObject {
     void Aggiorna();
     [[nodiscard]] bool Aperto() const { return opzioni_->isVisible() || stampante_->isVisible(); }
     void Rinuncia();
+    /// The choice of the printer, of which there is one for all printouts.
+    [[nodiscard]] FrmSelStampa& Stampante() const { return *stampante_; }
 
   private:
     void MostraAnteprima();

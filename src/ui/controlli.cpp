@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMessageBox>
 #include <QPalette>
@@ -47,6 +48,22 @@ class SenzaRotella : public QObject {
     }
 };
 
+// A box would keep the keys of undo to itself, even with nothing of its own to undo.
+class AnnullaDellaFinestra : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() != QEvent::ShortcutOverride) return false;
+        const auto& casella = *qobject_cast<QLineEdit*>(oggetto);
+        const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+        const bool annulla = tasto.matches(QKeySequence::Undo) && !casella.isUndoAvailable();
+        const bool ripeti = tasto.matches(QKeySequence::Redo) && !casella.isRedoAvailable();
+        if (annulla || ripeti) evento->ignore();
+        return annulla || ripeti;
+    }
+};
+
 }  // namespace
 
 QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione) {
@@ -73,6 +90,8 @@ QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString
     casella->setMaxLength(larghezzaMassima);
     return casella;
 }
+
+void LasciaAnnullare(QLineEdit& casella) { casella.installEventFilter(new AnnullaDellaFinestra(&casella)); }
 
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione) {
     QLineEdit* casella = NuovaCasella(nome, 40, istruzione);

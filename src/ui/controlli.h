@@ -29,6 +29,9 @@ void MostraVoce(QComboBox& elenco, const QString& testo);
 
 QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString& istruzione);
 
+/// Leaves the keys of undo and redo to the window while a box has nothing of its own to undo.
+void LasciaAnnullare(QLineEdit& casella);
+
 /// A box that shows a result and takes no focus.
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione);
 

@@ -1,6 +1,5 @@
 #include "ui/form_mete.h"
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -41,13 +40,10 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       griglia_(new VistaGriglia),
       cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)),
       cmbRicercaTappa_(new ElencoScelta(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
-      annulla_(new QAction(this)),
-      ripeti_(new QAction(this)),
       scrivania_(cartella, {interazione_, *avanzamento_, std::move(adesso), [this] { Mostra(); }}) {
     setObjectName(u"formMete"_s);
     setWindowTitle(u"Cronovia"_s);
     Disponi();
-    CreaAzioni();
     Collega();
     RipristinaAspetto();
     Mostra();
@@ -97,10 +93,20 @@ QWidget* FormMete::CreaGriglia() {
     scorrimento->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scorrimento->setMinimumWidth(inserimento_->minimumSizeHint().width() + 20);
     scorrimento->setObjectName(u"areaInserimento"_s);
-    layout->addWidget(scorrimento, 0, 1);
+    const auto esegui = [this](const std::function<void()>& comando) { Esegui(comando); };
+    guida_ = std::make_unique<SchermoGuida>(scrivania_, *griglia_, *cmbRicercaTappa_, esegui);
+    copia_ = std::make_unique<SchermoCopia>(scrivania_, *scorrimento, esegui);
+    layout->addWidget(scorrimento, 0, 1, 2, 1);
+    layout->addWidget(&copia_->Percorso(), 0, 1, 2, 1);
+    layout->addWidget(&copia_->Lista(), 1, 0);
+    layout->addWidget(&guida_->Riquadro(), 1, 0, 1, 2);
+    layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
-    stampa_ = new ComandoStampa(
-        {scrivania_, interazione_, *avanzamento_, *this, [this](const auto& comando) { Esegui(comando); }}, *layout);
+    const ComandoStampa::Volti volti{scrivania_, interazione_, *avanzamento_, *this, esegui};
+    stampa_ = new ComandoStampa(volti, *layout);
+    guida_->ImpostaStampa(*new ComandoStampaGuida(volti, stampa_->Stampante(), *layout));
+    azioni_ = new AzioniModifica(*this, {inserimento_, griglia_}, scrivania_, esegui);
+    griglia_->setContextMenuPolicy(Qt::ActionsContextMenu);
     griglia_->setModel(&modello_);
     cmbRicercaTappa_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     for (QListWidget* lista : {cmbRicerca_, cmbRicercaTappa_}) {
@@ -108,19 +114,6 @@ QWidget* FormMete::CreaGriglia() {
         lista->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     }
     return area;
-}
-
-void FormMete::CreaAzioni() {
-    annulla_->setObjectName(u"annulla"_s);
-    annulla_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-    ripeti_->setObjectName(u"ripeti"_s);
-    ripeti_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-    connect(annulla_, &QAction::triggered, this, [this] { Esegui([this] { scrivania_.Annulla(); }); });
-    connect(ripeti_, &QAction::triggered, this, [this] { Esegui([this] { scrivania_.Ripeti(); }); });
-    addActions({annulla_, ripeti_});
-    inserimento_->addActions({annulla_, ripeti_});
-    griglia_->addActions({annulla_, ripeti_});
-    griglia_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void FormMete::Collega() {
@@ -150,7 +143,8 @@ void FormMete::Collega() {
     });
     // However a row became the current one, commands act on it.
     connect(griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
-        if (!scrivania_.CronoviaMostrata()) Esegui([this, riga] { scrivania_.SelezionaRiga(riga + 1); });
+        if (!scrivania_.CronoviaMostrata() && !scrivania_.Guida())
+            Esegui([this, riga] { scrivania_.SelezionaRiga(riga + 1); });
     });
     connect(griglia_, &QTableView::clicked, this, [this] {
         if (scrivania_.InserimentoVisibile()) inserimento_->FuocoSullaTappa();
@@ -159,6 +153,7 @@ void FormMete::Collega() {
         Esegui([this, voce] { scrivania_.ScegliMeta(voce->data(Qt::UserRole).toString()); });
     });
     connect(cmbRicercaTappa_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
+        if (scrivania_.Guida()) return;
         Esegui([this, voce] { scrivania_.ScegliTappa(voce->data(Qt::UserRole).toInt()); });
         inserimento_->FuocoSullaTappa();
     });
@@ -216,6 +211,7 @@ void FormMete::EseguiComando(Comando comando) {
             avanzamento_->NuovaOperazione();
             return Esegui([this] { stampa_->Apri(); });
         case Comando::GuidaCitta:
+            return guida_->Apri();
         case Comando::Import:
         case Comando::Export:
             return Esegui(
@@ -247,10 +243,12 @@ void FormMete::EseguiComando(ComandoItinerario comando) {
             avanzamento_->NuovaOperazione();
             return Esegui([this] { scrivania_.Ricalcola(); });
         case ComandoItinerario::Ritorno:
+            Esegui([this] { scrivania_.Ritorno(); });
+            break;
         case ComandoItinerario::Duplica:
+            return copia_->Apri();
         case ComandoItinerario::Trasferisce:
-            return Esegui(
-                [this, comando] { scrivania_.NonDisponibile(inserimento_->Pulsante(comando).text().remove(u'&')); });
+            return Esegui([this] { scrivania_.Trasferisce(); });
     }
     inserimento_->FuocoSullaTappa();
 }
@@ -309,6 +307,7 @@ void FormMete::FineSessione(QSessionManager& sessione) {
 
 // Enter means the default button, Escape what leads back.
 void FormMete::keyPressEvent(QKeyEvent* event) {
+    if (guida_->Tasto(*event) || copia_->Tasto(*event)) return;
     const StatoComandi stato = scrivania_.Comandi();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto* conFuoco = qobject_cast<QPushButton*>(focusWidget());
@@ -352,11 +351,13 @@ void FormMete::Mostra() {
     stampa_->Aggiorna();
     // Alt+S is that of the print frames then.
     if (stampa_->Aperto()) bottoni_->Pulsante(Comando::Calcola).setShortcut({});
-    MostraAzioni();
+    azioni_->Mostra();
     mostrando_ = false;
 }
 
 void FormMete::MostraGriglia() {
+    if (guida_->Mostra(kRigheMinimeGriglia)) return;
+    griglia_->MostraTappe(modello_);
     const auto& cronovia = scrivania_.CronoviaMostrata();
     if (cronovia && !cronoviaInGriglia_) {
         modello_.MostraCronovia(*cronovia);
@@ -391,6 +392,7 @@ void FormMete::MostraElenchi() {
         }
     }
     cmbRicerca_->setVisible(mete.has_value());
+    if (scrivania_.Guida()) return;
     const bool tappe = scrivania_.ElencoTappeVisibile();
     if (tappe && !cmbRicercaTappa_->isVisible()) {
         cmbRicercaTappa_->clear();
@@ -410,7 +412,7 @@ void FormMete::MostraElenchi() {
 
 void FormMete::MostraInserimento(const StatoComandi& stato) {
     const bool visibile = scrivania_.InserimentoVisibile();
-    findChild<QWidget*>(u"areaInserimento"_s)->setVisible(visibile);
+    copia_->Mostra();
     inserimento_->Applica(stato);
     if (!visibile) {
         campiMostrati_.reset();
@@ -421,17 +423,6 @@ void FormMete::MostraInserimento(const StatoComandi& stato) {
     if (campiMostrati_ != campi) inserimento_->Mostra(campi.first, campi.second);
     campiMostrati_ = std::move(campi);
     inserimento_->MostraKmProgressivi(scrivania_.KmProgressivi());
-}
-
-void FormMete::MostraAzioni() {
-    const Cronologia& modifiche = scrivania_.Modifiche();
-    const bool possibile = scrivania_.InserimentoVisibile() && !scrivania_.ElencoTappeVisibile();
-    const auto mostra = [&](QAction& azione, const QString& verbo, const std::optional<QString>& nome) {
-        azione.setEnabled(possibile && nome.has_value());
-        azione.setText(nome ? verbo + u' ' + *nome : verbo);
-    };
-    mostra(*annulla_, u"Annulla"_s, modifiche.DaAnnullare());
-    mostra(*ripeti_, u"Ripeti"_s, modifiche.DaRipetere());
 }
 
 void FormMete::RipristinaAspetto() {

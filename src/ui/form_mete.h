@@ -5,11 +5,13 @@
 #include <QPushButton>
 #include <QSettings>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <utility>
 
 #include "app/scrivania.h"
 #include "ui/avanzamento.h"
+#include "ui/azioni_modifica.h"
 #include "ui/comando_stampa.h"
 #include "ui/elenco_scelta.h"
 #include "ui/frm_bottoni.h"
@@ -19,9 +21,10 @@
 #include "ui/frm_mete_velocita.h"
 #include "ui/interazione_finestra.h"
 #include "ui/modello_griglia.h"
+#include "ui/schermo_copia.h"
+#include "ui/schermo_guida.h"
 #include "ui/vista_griglia.h"
 
-class QAction;
 class QGridLayout;
 class QSessionManager;
 
@@ -45,7 +48,6 @@ class FormMete : public QMainWindow {
     void Disponi();
     QWidget* CreaMete();
     QWidget* CreaGriglia();
-    void CreaAzioni();
     void Collega();
     void Raccogli();
     /// Runs a command on what the fields hold, then shows the state anew.
@@ -55,7 +57,6 @@ class FormMete : public QMainWindow {
     void DistendiGuida();
     void MostraElenchi();
     void MostraInserimento(const StatoComandi& stato);
-    void MostraAzioni();
     void EseguiComando(Comando comando);
     void EseguiComando(ComandoItinerario comando);
     void Inserisci();
@@ -77,14 +78,15 @@ class FormMete : public QMainWindow {
     ModelloGriglia modello_;
     ElencoScelta* cmbRicerca_;
     ElencoScelta* cmbRicercaTappa_;
-    QAction* annulla_;
-    QAction* ripeti_;
     Scrivania scrivania_;
+    AzioniModifica* azioni_ = nullptr;
     ComandoStampa* stampa_ = nullptr;
     bool mostrando_ = false;
     std::optional<std::pair<int, CampiTappa>> campiMostrati_;  // row and fields last put into the entry frame
     bool inCorso_ = false;                                     // a command has begun and not ended
     bool cronoviaInGriglia_ = false;
+    std::unique_ptr<SchermoGuida> guida_;
+    std::unique_ptr<SchermoCopia> copia_;
 };
 
 }  // namespace cronovia

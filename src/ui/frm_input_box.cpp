@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
@@ -64,7 +63,7 @@ QWidget* FrmInputBox::CreaCampi() {
     txtKm_->setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d*"_s), txtKm_));
     ScriviMaiuscolo(*txtTappa_);
     ScriviMaiuscolo(*txtNumStrada_);
-    for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) casella->installEventFilter(this);
+    for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) LasciaAnnullare(*casella);
     cmbTipoStrada_ = NuovoElenco(u"cmbTipoStrada"_s, {u"Autostrada"_s, u"SuperStrada"_s, u"Principale"_s, u"Locale"_s},
                                  u"Tipo di strada"_s);
     auto* soste = new QHBoxLayout;
@@ -168,17 +167,6 @@ CampiTappa FrmInputBox::Campi() const {
                    cmbSosta_[2]->currentText().toInt()};
     campi.fineGiorno = chkEndDay_->isChecked();
     return campi;
-}
-
-// A box would keep the keys of undo to itself, even with nothing of its own to undo.
-bool FrmInputBox::eventFilter(QObject* oggetto, QEvent* event) {
-    const auto* casella = qobject_cast<QLineEdit*>(oggetto);
-    if (event->type() != QEvent::ShortcutOverride || casella == nullptr) return QGroupBox::eventFilter(oggetto, event);
-    const auto& tasto = static_cast<const QKeyEvent&>(*event);
-    const bool annulla = tasto.matches(QKeySequence::Undo) && !casella->isUndoAvailable();
-    const bool ripeti = tasto.matches(QKeySequence::Redo) && !casella->isRedoAvailable();
-    if (annulla || ripeti) event->ignore();
-    return annulla || ripeti;
 }
 
 void FrmInputBox::FuocoSullaTappa() {

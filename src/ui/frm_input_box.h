@@ -34,9 +34,6 @@ class FrmInputBox : public QGroupBox {
     void Premuto(ComandoItinerario comando);
     void AltriPacchetti();
 
-  protected:
-    bool eventFilter(QObject* oggetto, QEvent* event) override;
-
   private:
     QWidget* CreaCampi();
     QWidget* CreaComandi();

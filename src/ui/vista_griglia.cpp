@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <span>
 
+#include "itinerary/elenco_guida.h"
 #include "schedule/colonne.h"
 
 namespace cronovia {
@@ -16,24 +18,33 @@ namespace {
 
 constexpr int kRighePerPagina = 18;
 
-// Relative widths; the wider the text, the more.
-constexpr std::array<int, kColonne> kLarghezze = {560, 2650, 980, 500, 330, 620,  580,
-                                                  860, 800,  400, 950, 650, 1300, 1150};
+// A column's relative width, and the widest text that it usually holds.
+struct Larghezza {
+    int relativa;
+    const char16_t* testo;
+};
 
-constexpr std::array<const char16_t*, kColonne> kTestiPiuLarghi = {u"9999 ic",
-                                                                   u"NOME DI LOCALITÀ LUNGO",
-                                                                   u"SS 113 A19",
-                                                                   u"9.999",
-                                                                   u"Ts",
-                                                                   u"99.999",
-                                                                   u"00:00",
-                                                                   u"*00:00:00",
-                                                                   u"00:00:00",
-                                                                   u"Mmm",
-                                                                   u"00/00/0000",
-                                                                   u"* 00:00",
-                                                                   u"Pranzo + Riposo",
-                                                                   u">00/00-00:00"};
+constexpr std::array<Larghezza, kColonne> kTappe = {{{560, u"9999 ic"},
+                                                     {2650, u"NOME DI LOCALITÀ LUNGO"},
+                                                     {980, u"SS 113 A19"},
+                                                     {500, u"9.999"},
+                                                     {330, u"Ts"},
+                                                     {620, u"99.999"},
+                                                     {580, u"00:00"},
+                                                     {860, u"*00:00:00"},
+                                                     {800, u"00:00:00"},
+                                                     {400, u"Mmm"},
+                                                     {950, u"00/00/0000"},
+                                                     {650, u"* 00:00"},
+                                                     {1300, u"Pranzo + Riposo"},
+                                                     {1150, u">00/00-00:00"}}};
+
+constexpr std::array<Larghezza, kColonneGuida> kGuida = {{{560, u"99999 ic"},
+                                                          {2300, u"NOME DI LOCALITÀ LUNGO"},
+                                                          {850, u"00:00:00"},
+                                                          {5400, u"Descrizione segnalazione"},
+                                                          {950, u"Tempo"},
+                                                          {2100, u"Interessante"}}};
 
 }  // namespace
 
@@ -101,23 +112,61 @@ void VistaGriglia::resizeEvent(QResizeEvent* event) {
     if (!larghezzeProprie_) AdattaLarghezze();
 }
 
-// Shares out the width that there is; every column stays wide enough for what it usually holds.
+// Shares out the width that there is, the widest column taking what is left; every one stays wide enough for what it
+// usually holds.
 void VistaGriglia::AdattaLarghezze() {
     if (model() == nullptr) return;
     inAdattamento_ = true;
     QFont grassetto = font();
     grassetto.setBold(true);
     const QFontMetrics misure(grassetto);
-    const int totale = std::accumulate(kLarghezze.begin(), kLarghezze.end(), 0);
-    for (std::size_t i = 0; i < kColonne; ++i) {
-        const int minima = misure.horizontalAdvance(QString::fromUtf16(kTestiPiuLarghi[i])) + 8;
-        const int parte = kLarghezze[i] * viewport()->width() / totale;
-        setColumnWidth(static_cast<int>(i), std::max(minima, parte));
+    const std::span<const Larghezza> colonne = diGuida_ ? std::span<const Larghezza>(kGuida) : kTappe;
+    const int totale = std::accumulate(colonne.begin(), colonne.end(), 0,
+                                       [](int somma, const Larghezza& l) { return somma + l.relativa; });
+    const auto piuLarga = std::max_element(
+        colonne.begin(), colonne.end(), [](const Larghezza& a, const Larghezza& b) { return a.relativa < b.relativa; });
+    int resto = viewport()->width();
+    const auto adatta = [&](std::span<const Larghezza>::iterator colonna, int parte) {
+        const int minima = misure.horizontalAdvance(QString::fromUtf16(colonna->testo)) + 8;
+        setColumnWidth(static_cast<int>(colonna - colonne.begin()), std::max(minima, parte));
+        resto -= std::max(minima, parte);
+    };
+    for (auto colonna = colonne.begin(); colonna != colonne.end(); ++colonna) {
+        if (colonna != piuLarga) adatta(colonna, colonna->relativa * viewport()->width() / totale);
     }
+    adatta(piuLarga, resto);
     inAdattamento_ = false;
 }
 
+// A view leaves the selection of the model that it had before behind.
+void VistaGriglia::Scambia(QAbstractItemModel& modello) {
+    const QItemSelectionModel* selezione = selectionModel();
+    inSelezione_ = true;
+    clearSpans();
+    setModel(&modello);
+    inSelezione_ = false;
+    delete selezione;
+}
+
+void VistaGriglia::MostraGuida(QAbstractItemModel& guida) {
+    larghezzeTappe_ = Larghezze();
+    diGuida_ = true;
+    diTappe_ = false;
+    Scambia(guida);
+    larghezzeProprie_ = false;
+    AdattaLarghezze();
+}
+
+void VistaGriglia::MostraTappe(QAbstractItemModel& tappe) {
+    if (!diGuida_) return;
+    diGuida_ = false;
+    Scambia(tappe);
+    RipristinaLarghezze(larghezzeTappe_);
+    if (!larghezzeProprie_) AdattaLarghezze();
+}
+
 QByteArray VistaGriglia::Larghezze() const {
+    if (diGuida_) return larghezzeTappe_;
     return larghezzeProprie_ ? horizontalHeader()->saveState() : QByteArray();
 }
 

@@ -15,6 +15,10 @@ class VistaGriglia : public QTableView {
     void ImpostaSelezione(bool diTappe) { diTappe_ = diTappe; }
     void SelezionaRiga(int riga);
 
+    /// Shows the guide, with columns of its own; shows stages and schedules again.
+    void MostraGuida(QAbstractItemModel& guida);
+    void MostraTappe(QAbstractItemModel& tappe);
+
     [[nodiscard]] QByteArray Larghezze() const;
     void RipristinaLarghezze(const QByteArray& larghezze);
 
@@ -31,11 +35,14 @@ class VistaGriglia : public QTableView {
 
   private:
     void AdattaLarghezze();
+    void Scambia(QAbstractItemModel& modello);
 
     bool diTappe_ = false;
     bool larghezzeProprie_ = false;  // the person chose them
     bool inAdattamento_ = false;
     bool inSelezione_ = false;
+    bool diGuida_ = false;
+    QByteArray larghezzeTappe_;  // while the guide is shown
 };
 
 }  // namespace cronovia

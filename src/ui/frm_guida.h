@@ -1,0 +1,48 @@
+// Entry of what the guide says of a locality.
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <vector>
+
+#include "guide/annotazioni.h"
+
+namespace cronovia {
+
+class FrmGuida : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    explicit FrmGuida(QWidget* parent = nullptr);
+
+    void MostraTipi(const std::vector<TipoGuida>& tipi);
+    /// Shows the fields of a row; only a row with an entry can be deleted.
+    void Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile);
+    [[nodiscard]] CampiVoce Campi() const;
+    void FuocoSullaDescrizione();
+    /// What Enter does where nothing was typed.
+    [[nodiscard]] QPushButton& PulsanteFine() const { return *cmdFineInserimento_; }
+
+  Q_SIGNALS:
+    void Salva();
+    void Cancella();
+    void Cerca();
+    void Fine();
+    void Stampa();
+
+  private:
+    QLayout* CreaCampi();
+    QLayout* CreaComandi();
+
+    QLineEdit* txtGCitta_;
+    QLineEdit* txtGDescr_;
+    QComboBox* cmbGTipo_;
+    QComboBox* cmbGH_;
+    QComboBox* cmbGM_;
+    QPushButton* cmdCancellaRiga_;
+    QPushButton* cmdFineInserimento_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,46 @@
+// The stretch to copy: its first and last stage, whether its stops come along.
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <array>
+
+#include "app/copia_percorso.h"
+
+namespace cronovia {
+
+class FrmPercorso : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    explicit FrmPercorso(QWidget* parent = nullptr);
+
+    void Mostra(const CopiaPercorso& copia);
+    /// No stops, until the person wants them.
+    void Azzera() { chkInsSoste_->setChecked(false); }
+    [[nodiscard]] bool ConSoste() const { return chkInsSoste_->isChecked(); }
+
+  Q_SIGNALS:
+    void Assegna(int estremo);
+    void Esegui();
+    void Rinuncia();
+
+  private:
+    QWidget* CreaEstremo(int estremo);
+    QLayout* CreaComandi();
+
+    /// The boxes of one end of the stretch.
+    struct Estremo {
+        QLineEdit* txtInsLoc = nullptr;
+        QLineEdit* txtInsNS = nullptr;
+        QLineEdit* txtInsKm = nullptr;
+        QLineEdit* txtInsNum = nullptr;
+    };
+    std::array<Estremo, 2> estremi_;
+    QCheckBox* chkInsSoste_;
+    QPushButton* cmdInsEsegui_;
+};
+
+}  // namespace cronovia
