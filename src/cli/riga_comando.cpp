@@ -159,7 +159,10 @@ bool VuoleCaratteri(const QStringList& riga) {
     AggiungiOpzioniComuni(parser);
     const QStringList resto = parser.parse(riga) ? parser.positionalArguments() : QStringList();
     const Verbo* verbo = resto.isEmpty() ? nullptr : TrovaVerbo(resto.first());
-    return verbo != nullptr && verbo->conCaratteri;
+    const bool pdf = std::any_of(resto.begin(), resto.end(), [](const QString& parola) {
+        return parola.startsWith("--pdf"_L1) || parola.startsWith("-pdf"_L1);
+    });
+    return verbo != nullptr && verbo->conCaratteri && pdf;
 }
 
 int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori) {

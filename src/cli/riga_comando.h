@@ -11,7 +11,7 @@ namespace cronovia {
 /// is one for `EseguiRigaDiComando`.
 std::optional<QString> CartellaDellaFinestra(const QStringList& riga);
 
-/// Whether the verb of the line needs fonts, and with them a QGuiApplication.
+/// Whether the line draws a PDF file: that needs fonts, and with them a QGuiApplication.
 bool VuoleCaratteri(const QStringList& riga);
 
 /// Runs one command line, the program's name first. Returns 0 when done, 1 when refused or failed (one sentence in

@@ -55,7 +55,7 @@ struct Verbo {
     int minimoArgomenti = 0;
     int massimoArgomenti = 0;   ///< -1: any number
     bool conFormato = false;    ///< answers in the format wanted
-    bool conCaratteri = false;  ///< needs fonts: a QGuiApplication
+    bool conCaratteri = false;  ///< with the option --pdf it needs fonts: a QGuiApplication
     void (*esegui)(const ApriSessione&, const Richiesta&, QTextStream& uscita) = nullptr;
 };
 

@@ -1,9 +1,19 @@
 // guida.
+#include <QCoreApplication>
+#include <QDate>
+#include <QDir>
+#include <QRegularExpression>
+#include <map>
+
 #include "calendar/testo.h"
 #include "cli/json.h"
 #include "cli/record_testi.h"
 #include "cli/verbi.h"
-#include "guide/guida_citta.h"
+#include "guide/annotazioni.h"
+#include "interaction/failure.h"
+#include "itinerary/elenco_guida.h"
+#include "print/file_pdf.h"
+#include "print/stampa_guida.h"
 
 namespace cronovia {
 
@@ -28,16 +38,129 @@ TabellaTesti TabellaDellaGuida(const std::vector<Record>& record, const std::vec
     return tabella;
 }
 
-}  // namespace
+// What the command line says of one entry.
+struct Annotazione {
+    QString localita;
+    CampiVoce campi;
+};
 
-void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+Annotazione LeggiAnnotazione(const QStringList& argomenti) {
+    Annotazione letta{Composto(argomenti.at(0)).trimmed().toUpper(),
+                      {Composto(argomenti.at(2)).trimmed(), Composto(argomenti.at(1)).trimmed(), 0, 0}};
+    if (letta.localita.isEmpty()) throw WrongUsage(u"Manca la località."_s);
+    if (argomenti.size() < 4) return letta;
+    static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);
+    const QRegularExpressionMatch tempo = forma.match(argomenti.at(3).trimmed());
+    if (!tempo.hasMatch()) {
+        throw WrongUsage(u"Il tempo «%1» non è nella forma hh:mm, come 01:30."_s.arg(argomenti.at(3)));
+    }
+    letta.campi.ore = tempo.captured(1).toInt();
+    letta.campi.minuti = tempo.captured(2).toInt();
+    return letta;
+}
+
+void ControllaArgomenti(const Richiesta& richiesta, int minimo, int massimo, const QString& uso) {
+    const auto numero = richiesta.argomenti.size();
+    if (numero < minimo || numero > massimo || richiesta.opzioni.size() > 1) throw WrongUsage(uso);
+}
+
+// What shows or prints the guide: a locality, or a trip; the switches of the printout only with it.
+void ControllaMostra(const Richiesta& richiesta) {
+    const bool pdf = richiesta.opzioni.contains(u"pdf"_s);
+    const int massimo = pdf || richiesta.opzioni.contains(u"meta"_s) ? 0 : 1;
+    if (richiesta.argomenti.size() > massimo) {
+        throw WrongUsage(u"Il verbo «guida» non vuole l'argomento «%1»."_s.arg(richiesta.argomenti.at(massimo)));
+    }
+    for (const QString& nome : {u"dettaglio"_s, u"sovrascrivi"_s}) {
+        if (!pdf && richiesta.opzioni.contains(nome)) {
+            throw WrongUsage(u"L'opzione --%1 vale solo con --pdf."_s.arg(nome));
+        }
+    }
+}
+
+void Aggiungi(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    ControllaArgomenti(richiesta, 3, 4,
+                       u"Con --aggiungi si scrive: guida --aggiungi LOCALITA TIPO DESCRIZIONE [hh:mm]."_s);
+    const Annotazione nuova = LeggiAnnotazione(richiesta.argomenti);
+    Sessione sessione = apri();
+    SalvaVoce(sessione.Archivio(), nuova.localita, std::nullopt, CaricaTipiGuida(sessione.Archivio()), nuova.campi);
+    uscita << u"Aggiunta alla guida: %1, %2.\n"_s.arg(nuova.localita, nuova.campi.descrizione);
+}
+
+// A name means itself alone here: with wildcards the first entry of another locality would go.
+void Togli(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    ControllaArgomenti(richiesta, 3, 3, u"Con --togli si scrive: guida --togli LOCALITA TIPO DESCRIZIONE."_s);
+    const Annotazione tolta = LeggiAnnotazione(richiesta.argomenti);
+    Sessione sessione = apri();
+    Archive& archivio = sessione.Archivio();
+    const std::vector<TipoGuida> tipi = CaricaTipiGuida(archivio);
+    const NamePattern localita = NamePattern::Exactly(tolta.localita);
+    for (const Record& record : archivio.Select({Tabella::GuidaCitta, {{guida::Localita, localita}}})) {
+        const VoceGuida voce = VoceDelRecord(record, tipi);
+        if (voce.tipo != tolta.campi.tipo || voce.descrizione != tolta.campi.descrizione) continue;
+        if (!CancellaVoce(archivio, localita, voce)) break;
+        uscita << u"Tolta dalla guida: %1, %2.\n"_s.arg(tolta.localita, tolta.campi.descrizione);
+        return;
+    }
+    throw Failure(u"La guida non ha l'annotazione «%1» (%2) di %3."_s.arg(tolta.campi.descrizione, tolta.campi.tipo,
+                                                                          tolta.localita));
+}
+
+void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const QString path = richiesta.opzioni.value(u"pdf"_s);
+    if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
+    const OpzioniStampaGuida opzioni{!richiesta.opzioni.contains(u"meta"_s),
+                                     richiesta.opzioni.contains(u"dettaglio"_s)};
+    Sessione sessione = apri();
+    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
+    const DatiStampaGuida dati = PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
+    if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
+    RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
+    Progress progress;
+    const Documento documento =
+        StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
+    FileIntero file(path);
+    ScriviPdf(documento, file);
+    file.Chiudi();
+    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),
+                                                                     QString::number(documento.pagine.size()));
+}
+
+// The guide of the localities of a trip, each entry once.
+std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
+    const QString completo = sessione.ApriMeta(codice).meta.codice;
+    const LocalitaDellaMeta localita = LocalitaDellItinerario(sessione.Archivio(), completo);
+    if (localita.nomi.empty()) throw Failure(SenzaTappeMemorizzate().text);
+    std::vector<NamePattern> modelli;
+    for (const QString& nome : localita.nomi) modelli.push_back(NamePattern::ForName(nome));
+    std::map<std::int64_t, Record> trovati;
+    sessione.Archivio().ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t, Record&& record) {
+        trovati.try_emplace(record.id, std::move(record));
+    });
+    std::vector<Record> record;
+    for (auto& [id, trovato] : trovati) record.push_back(std::move(trovato));
+    OrdinaRecord(record, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
+    return record;
+}
+
+std::vector<Record> RecordDaMostrare(Sessione& sessione, const Richiesta& richiesta) {
+    if (richiesta.opzioni.contains(u"meta"_s)) return RecordDellaMeta(sessione, richiesta.opzioni.value(u"meta"_s));
     Ricerca ricerca{Tabella::GuidaCitta, {}};
     if (!richiesta.argomenti.isEmpty()) {
         ricerca.condizioni.push_back({guida::Localita, NamePattern::ForName(Composto(richiesta.argomenti.first()))});
     }
+    return sessione.Archivio().Select(ricerca, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
+}
+
+}  // namespace
+
+void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    if (richiesta.opzioni.contains(u"aggiungi"_s)) return Aggiungi(apri, richiesta, uscita);
+    if (richiesta.opzioni.contains(u"togli"_s)) return Togli(apri, richiesta, uscita);
+    ControllaMostra(richiesta);
+    if (richiesta.opzioni.contains(u"pdf"_s)) return StampaPdf(apri, richiesta, uscita);
     Sessione sessione = apri();
-    const std::vector<Record> record =
-        sessione.Archivio().Select(ricerca, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
+    const std::vector<Record> record = RecordDaMostrare(sessione, richiesta);
     if (richiesta.formato == Formato::Json) {
         ScriviJson(JsonDeiRecord(Tabella::GuidaCitta, record), uscita);
     } else if (richiesta.formato == Formato::Tsv) {

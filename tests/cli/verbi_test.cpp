@@ -166,6 +166,44 @@ TEST(Verbi, GuideByPattern) {
     EXPECT_EQ(tutta.size(), 94);
 }
 
+TEST(Verbi, TheGuideChangesAndShowsTheLocalitiesOfATrip) {
+    const Programma programma;
+    const auto guida = [](const QStringList& argomenti) { return QStringList{u"guida"_s} + argomenti; };
+    const auto errore = [&](const QStringList& argomenti) {
+        const prova::Risposta risposta = programma.Esegui(guida(argomenti));
+        EXPECT_EQ(risposta.codice, 1);
+        return risposta.errori;
+    };
+    ASSERT_EQ(programma.Uscita({u"nuova"_s, u"ROMA"_s, u"ITALIA"_s}), u"000001\n"_s);
+    EXPECT_EQ(errore({u"--meta"_s, u"1"_s}), u"Impossibile... non esistono tappe memorizzate!\n"_s);
+    const QString bar = u"Bar \"da 'Piero'\" 100%"_s;
+    EXPECT_EQ(programma.Uscita(guida({u"--aggiungi"_s, u"Sant'Agata*"_s, u"Ristorante"_s, bar})),
+              u"Aggiunta alla guida: SANT'AGATA*, %1.\n"_s.arg(bar));
+    EXPECT_EQ(errore({u"--aggiungi"_s, u"ROMA"_s, u"Ottimo"_s, u"Foro"_s}), u"Errore! Manca il tempo stimato!!!\n"_s);
+    EXPECT_EQ(errore({u"--aggiungi"_s, u"ROMA"_s, u"Bello"_s, u"Foro"_s}), u"Errore! Manca la tipologia!!!\n"_s);
+    EXPECT_EQ(errore({u"--aggiungi"_s, u"ROMA"_s, u"Gpl"_s, u" "_s}), u"Errore! Manca la descrizione!!!\n"_s);
+    programma.ImportaEsempio(u"sicilia"_s);
+    programma.ImportaEsempio(u"provenza"_s);
+    EXPECT_EQ(
+        programma.Uscita(guida({u"--aggiungi"_s, u"sant'agata di militello"_s, u"Da vedere"_s, u"Torre"_s, u"1:05"_s})),
+        u"Aggiunta alla guida: SANT'AGATA DI MILITELLO, Torre.\n"_s);
+    EXPECT_EQ(programma.Uscita(guida({u"SANT?AGATA*"_s, u"--formato"_s, u"tsv"_s})),
+              u"Localita\tCodiceGuida\tDescrizione\tTempoSosta\tFlagVisto\n"
+              "SANT'AGATA DI MILITELLO\t02\tTorre\t01:05\t0\n"
+              "SANT'AGATA DI MILITELLO\t04\tCastello Gallego\t00:45\t0\n"
+              "SANT'AGATA DI MILITELLO\t05\tSosta sul lungomare\t00:00\t0\n"
+              "SANT'AGATA*\t08\t%1\t00:00\t0\n"_s.arg(bar));
+    const QJsonArray dellaMeta = Json(programma, guida({u"--meta"_s, u"2"_s})).array();
+    EXPECT_EQ(dellaMeta.size(), 95);  // the bar is nowhere on the way
+    AttesiCampi(dellaMeta, Tabella::GuidaCitta);
+    // The other localities that the name would match as a pattern keep what they have.
+    EXPECT_EQ(errore({u"--togli"_s, u"Sant'Agata*"_s, u"Vedibile"_s, u"Castello Gallego"_s}),
+              u"La guida non ha l'annotazione «Castello Gallego» (Vedibile) di SANT'AGATA*.\n"_s);
+    EXPECT_EQ(programma.Uscita(guida({u"--togli"_s, u"SANT'AGATA*"_s, u"Ristorante"_s, bar})),
+              u"Tolta dalla guida: SANT'AGATA*, %1.\n"_s.arg(bar));
+    EXPECT_FALSE(programma.Uscita(guida({})).contains(bar));
+}
+
 TEST(Verbi, TheLocaleChangesNothing) {
     const Programma programma;
     programma.ImportaEsempio(u"sicilia"_s);
