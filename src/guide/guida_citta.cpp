@@ -29,6 +29,28 @@ void InserisciTipiPredefiniti(Archive& archive) {
     transaction.Commit();
 }
 
+// By type code, then description; entries are moved once, into their places.
+void Ordina(VociGuida& voci) {
+    struct Chiave {
+        QString testo;
+        std::size_t posto;
+    };
+    std::vector<Chiave> chiavi;
+    chiavi.reserve(voci.size());
+    for (std::size_t i = 0; i < voci.size(); ++i) {
+        chiavi.push_back({voci[i].codice + u'\0' + ChiaveAlfabetica(voci[i].descrizione), i});
+    }
+    std::sort(chiavi.begin(), chiavi.end(), [&](const Chiave& a, const Chiave& b) {
+        if (const int prima = a.testo.compare(b.testo); prima != 0) return prima < 0;
+        return std::tie(voci[a.posto].descrizione, voci[a.posto].id) <
+               std::tie(voci[b.posto].descrizione, voci[b.posto].id);
+    });
+    VociGuida ordinate;
+    ordinate.reserve(voci.size());
+    for (const Chiave& chiave : chiavi) ordinate.push_back(std::move(voci[chiave.posto]));
+    voci = std::move(ordinate);
+}
+
 }  // namespace
 
 Durata LeggiTempoVisita(QStringView testo) {
@@ -36,10 +58,13 @@ Durata LeggiTempoVisita(QStringView testo) {
 }
 
 VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi) {
+    const QString& codice = record[guida::CodiceGuida];
+    const auto tipo = std::find_if(tipi.begin(), tipi.end(), [&](const TipoGuida& t) { return t.codice == codice; });
+    const bool noto = tipo != tipi.end();
     return {record.id,
             record[guida::Localita],
-            record[guida::CodiceGuida],
-            DescrizioneTipoGuida(tipi, record[guida::CodiceGuida]),
+            noto ? tipo->codice : codice,
+            noto ? tipo->descrizione : QString(),
             record[guida::Descrizione].trimmed(),
             LeggiTempoVisita(record[guida::TempoSosta])};
 }
@@ -93,26 +118,20 @@ Centesimi LettoreGuida::PrendiTempoVisite(const QString& localita) {
 }
 
 std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita) {
-    struct Trovata {
-        QString chiave;  // of the description in the alphabet
-        VoceGuida voce;
-    };
     const std::vector<TipoGuida> tipi = CaricaTipiGuida(archive);
     std::vector<NamePattern> modelli;
+    modelli.reserve(localita.size());
     for (const QString& nome : localita) modelli.push_back(NamePattern::ForName(nome));
-    std::vector<std::vector<Trovata>> trovate(localita.size());
-    archive.ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
-        trovate[quale].push_back({ChiaveAlfabetica(record[guida::Descrizione]), VoceDelRecord(record, tipi)});
-    });
     std::vector<VociGuida> voci(localita.size());
-    for (std::size_t i = 0; i < trovate.size(); ++i) {
-        std::sort(trovate[i].begin(), trovate[i].end(), [](const Trovata& a, const Trovata& b) {
-            return std::tie(a.voce.codice, a.chiave, a.voce.descrizione, a.voce.id) <
-                   std::tie(b.voce.codice, b.chiave, b.voce.descrizione, b.voce.id);
-        });
-        voci[i].reserve(trovate[i].size());
-        for (Trovata& trovata : trovate[i]) voci[i].push_back(std::move(trovata.voce));
-    }
+    archive.ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
+        VociGuida& trovate = voci[quale];
+        // Texts that are alike are held once.
+        if (!trovate.empty() && trovate.back().localita == record[guida::Localita]) {
+            record[guida::Localita] = trovate.back().localita;
+        }
+        trovate.push_back(VoceDelRecord(record, tipi));
+    });
+    for (VociGuida& trovate : voci) Ordina(trovate);
     return voci;
 }
 

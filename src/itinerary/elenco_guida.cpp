@@ -37,7 +37,10 @@ Message SenzaTappeMemorizzate() {
 std::vector<RigaGuida> CreaLaListadellaGuida(Archive& archive, const QString& codiceMeta) {
     const LocalitaDellaMeta localita = LocalitaDellItinerario(archive, codiceMeta);
     std::vector<VociGuida> voci = VociDelleLocalita(archive, localita.nomi);
+    std::size_t numero = localita.nomi.size();
+    for (const VociGuida& trovate : voci) numero += trovate.size();
     std::vector<RigaGuida> righe;
+    righe.reserve(numero);
     for (std::size_t i = 0; i < localita.nomi.size(); ++i) {
         righe.push_back({localita.nomi[i], localita.soste[i], std::nullopt});
         for (VoceGuida& voce : voci[i]) righe.push_back({localita.nomi[i], {}, std::move(voce)});

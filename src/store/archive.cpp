@@ -2,9 +2,13 @@
 
 #include <SQLiteCpp/Exception.h>
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <algorithm>
+#include <iterator>
+#include <tuple>
+#include <utility>
 
 #include "store/connection.h"
 
@@ -79,22 +83,76 @@ void BindValues(SQLite::Statement& statement, const DefinizioneTabella& table, s
     }
 }
 
-// The stretches of all patterns as a JSON array of [place of the pattern, from, to, whether what is in it matches].
-QByteArray RangesAsJson(std::span<const NamePattern> patterns) {
-    QJsonArray all;
+// A stretch of the keys' order, both ends included, and the patterns that may match what lies in it.
+struct Stretch {
+    QByteArray from;
+    QByteArray to;
+    std::vector<std::size_t> patterns;
+};
+
+// The text as the order of the keys sees it.
+QByteArray OrderKey(const QString& text) {
+    QByteArray key = text.toUtf8();
+    for (char& c : key) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 'a' - 'A');
+    }
+    return key;
+}
+
+// Stretches that overlap become one: no row lies in two, however many names begin alike.
+std::vector<Stretch> StretchesOf(std::span<const NamePattern> patterns) {
+    std::vector<Stretch> all;
     for (std::size_t i = 0; i < patterns.size(); ++i) {
         for (const NamePattern::Range& range : patterns[i].Ranges()) {
-            all.append(QJsonArray{static_cast<qint64>(i), range.from, range.single ? range.from : range.to,
-                                  range.single ? 1 : 0});
+            all.push_back({OrderKey(range.from), OrderKey(range.single ? range.from : range.to), {i}});
         }
     }
-    return QJsonDocument(all).toJson(QJsonDocument::Compact);
+    std::sort(all.begin(), all.end(), [](const Stretch& a, const Stretch& b) { return a.from < b.from; });
+    std::vector<Stretch> merged;
+    for (Stretch& stretch : all) {
+        if (merged.empty() || merged.back().to < stretch.from) {
+            merged.push_back(std::move(stretch));
+            continue;
+        }
+        merged.back().to = std::max(merged.back().to, stretch.to);
+        merged.back().patterns.push_back(stretch.patterns.front());
+    }
+    return merged;
 }
+
+// Pairs of texts.
+QString AsJson(const std::vector<Stretch>& stretches) {
+    QJsonArray all;
+    for (const Stretch& s : stretches) all.append(QJsonArray{QString::fromUtf8(s.from), QString::fromUtf8(s.to)});
+    return QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact));
+}
+
+// Which of the patterns match a text, remembered: many rows have the same.
+class Matcher {
+  public:
+    explicit Matcher(std::span<const NamePattern> patterns) : patterns_(patterns) {}
+
+    const std::vector<std::size_t>& Matching(const QString& text, const std::vector<std::size_t>& candidates) {
+        const auto known = known_.constFind(text);
+        if (known != known_.constEnd()) return *known;
+        std::vector<std::size_t> matching;
+        std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(matching),
+                     [&](std::size_t i) { return patterns_[i].Matches(text); });
+        return *known_.insert(text, std::move(matching));
+    }
+
+  private:
+    std::span<const NamePattern> patterns_;
+    QHash<QString, std::vector<std::size_t>> known_;
+};
 
 }  // namespace
 
 // Base letters without case or accents.
 QString ChiaveAlfabetica(QStringView testo) {
+    if (std::all_of(testo.begin(), testo.end(), [](QChar c) { return c < QChar(0x80); })) {
+        return testo.toString().toLower();
+    }
     const QString decomposed = testo.toString().normalized(QString::NormalizationForm_KD);
     QString key;
     key.reserve(decomposed.size());
@@ -109,13 +167,23 @@ bool PrimaNellAlfabeto(QStringView a, QStringView b) {
     return keys != 0 ? keys < 0 : a.compare(b) < 0;
 }
 
+// The keys are made once, not for each comparison.
 void OrdinaRecord(std::vector<Record>& record, std::initializer_list<int> ordine) {
-    std::sort(record.begin(), record.end(), [&](const Record& a, const Record& b) {
-        for (const int posto : ordine) {
-            if (a[posto] != b[posto]) return PrimaNellAlfabeto(a[posto], b[posto]);
-        }
-        return a.id < b.id;
+    struct ConChiavi {
+        std::vector<std::pair<QString, QString>> chiavi;  // a field's place in the alphabet, then the field itself
+        Record record;
+    };
+    std::vector<ConChiavi> righe;
+    righe.reserve(record.size());
+    for (Record& riga : record) {
+        std::vector<std::pair<QString, QString>> chiavi;
+        for (const int posto : ordine) chiavi.emplace_back(ChiaveAlfabetica(riga[posto]), riga[posto]);
+        righe.push_back({std::move(chiavi), std::move(riga)});
+    }
+    std::sort(righe.begin(), righe.end(), [](const ConChiavi& a, const ConChiavi& b) {
+        return std::tie(a.chiavi, a.record.id) < std::tie(b.chiavi, b.record.id);
     });
+    std::transform(righe.begin(), righe.end(), record.begin(), [](ConChiavi& riga) { return std::move(riga.record); });
 }
 
 Archive::Archive(std::unique_ptr<Connection> connection) : connection_(std::move(connection)) {}
@@ -166,18 +234,25 @@ void Archive::ForEachMatch(Tabella tabella, int posto, std::span<const NamePatte
                            const std::function<void(std::size_t, Record&&)>& visit) {
     const DefinizioneTabella& table = Definizione(tabella);
     const std::string field = Name(table.campi.at(static_cast<std::size_t>(posto)).nome) + " COLLATE NOCASE";
+    const auto hand = [&](const std::vector<std::size_t>& matching, Record&& record) {
+        for (std::size_t i = 1; i < matching.size(); ++i) visit(matching[i], Record(record));
+        if (!matching.empty()) visit(matching.front(), std::move(record));
+    };
+    const std::vector<Stretch> stretches = StretchesOf(modelli);
     Guarded(connection_->Path(), [&] {
-        const auto last = static_cast<int>(table.campi.size()) + 1;
+        // Taken apart once: each row found would do it again.
         SQLite::Statement& statement = connection_->Prepared(
-            "SELECT " + Name(table.nome) + ".rowid, " + ColumnNames(table) +
-            ", stretch.value ->> 0, stretch.value ->> 3 FROM json_each(?1) AS stretch CROSS JOIN " + Name(table.nome) +
-            " WHERE " + field + " BETWEEN stretch.value ->> 1 AND stretch.value ->> 2");
-        BindText(statement, 1, QString::fromUtf8(RangesAsJson(modelli)));
+            "WITH stretch AS MATERIALIZED"
+            " (SELECT key AS place, value ->> 0 AS first, value ->> 1 AS last FROM json_each(?1)) SELECT " +
+            Name(table.nome) + ".rowid, " + ColumnNames(table) + ", place FROM stretch CROSS JOIN " + Name(table.nome) +
+            " WHERE " + field + " BETWEEN first AND last");
+        BindText(statement, 1, AsJson(stretches));
+        Matcher matcher(modelli);
+        const auto place = static_cast<int>(table.campi.size()) + 1;
         while (statement.executeStep()) {
             Record record = ReadRecord(statement, table.campi.size());
-            const auto which = static_cast<std::size_t>(statement.getColumn(last).getInt64());
-            const bool surely = statement.getColumn(last + 1).getInt() == 1;
-            if (surely || modelli[which].Matches(record[posto])) visit(which, std::move(record));
+            const Stretch& stretch = stretches[static_cast<std::size_t>(statement.getColumn(place).getInt64())];
+            hand(matcher.Matching(record[posto], stretch.patterns), std::move(record));
         }
         statement.reset();
     });
@@ -186,11 +261,8 @@ void Archive::ForEachMatch(Tabella tabella, int posto, std::span<const NamePatte
         if (modelli[i].Ranges().empty()) anywhere.push_back(i);
     }
     if (anywhere.empty()) return;
-    ForEach(tabella, [&](const Record& record) {
-        for (const std::size_t which : anywhere) {
-            if (modelli[which].Matches(record[posto])) visit(which, Record(record));
-        }
-    });
+    Matcher matcher(modelli);
+    ForEach(tabella, [&](const Record& record) { hand(matcher.Matching(record[posto], anywhere), Record(record)); });
 }
 
 std::vector<Record> Archive::Select(const Ricerca& ricerca, std::initializer_list<int> ordine) {

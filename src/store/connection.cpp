@@ -48,8 +48,11 @@ Failure DatabaseFailure(const SQLite::Exception& error, const QString& path) {
     return Failure(u"Archivio %1: %2."_s.arg(QDir::toNativeSeparators(path), DatabaseReason(error)));
 }
 
+// A connection belongs to one thread: nothing need be locked for each value that is read.
 Archive::Connection::Connection(const QString& path)
-    : path_(path), database_(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, kBusyTimeoutMs) {
+    : path_(path),
+      database_(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
+                kBusyTimeoutMs) {
     database_.exec("PRAGMA cache_size = -32000");
 }
 

@@ -1,8 +1,6 @@
 #include "ui/modello_guida.h"
 
 #include <QFont>
-#include <QGuiApplication>
-#include <QPalette>
 #include <algorithm>
 
 #include "ui/icone_righe.h"
@@ -52,10 +50,6 @@ QVariant ModelloGuida::data(const QModelIndex& index, int role) const {
             carattere.setBold(!riga.voce);
             return carattere;
         }
-        case Qt::ForegroundRole:
-            // Said above already; a row still names it for those who hear the grid read out.
-            if (!riga.voce || static_cast<ColonnaGuida>(index.column()) != ColonnaGuida::Tappa) return {};
-            return QGuiApplication::palette().color(QPalette::PlaceholderText);
         case Qt::DecorationRole:
             if (index.column() != 0 || !riga.voce) return {};
             return IconaDellaRiga(Segno::Guida);
