@@ -99,10 +99,7 @@ bool Scrivania::MemorizzaTappe() {
                                                                    meta_.parametri, volti_.avanzamento);
         memorizzate_ = righe_;
         if (esito.nomiAccorciati == 0) return;
-        volti_.interazione.Show(
-            {u"Nomi accorciati (località a 29 caratteri, strade a 64): %1."_s.arg(esito.nomiAccorciati),
-             {},
-             Icon::Exclamation});
+        volti_.interazione.Show({TestoNomiAccorciati(esito), {}, Icon::Exclamation});
     });
 }
 

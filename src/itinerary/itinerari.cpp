@@ -106,6 +106,10 @@ std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe
     return tappe;
 }
 
+QString TestoNomiAccorciati(const EsitoMemorizzazione& esito) {
+    return u"Nomi accorciati (località a 29 caratteri, strade a 64): %1."_s.arg(esito.nomiAccorciati);
+}
+
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                                              const ParametriViaggio& parametri, Progress& progress) {
     if (RecordNecessari(tappe) > kMassimoRecord) {

@@ -32,6 +32,9 @@ struct EsitoMemorizzazione {
     int nomiAccorciati = 0;  ///< localities stored with their first 29 characters, roads with their first 64
 };
 
+/// What the person is told when names were shortened.
+QString TestoNomiAccorciati(const EsitoMemorizzazione& esito);
+
 /// Replaces the stored itinerary of a trip, whole or not at all. Refused when it takes more than 9,999 rows.
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                                              const ParametriViaggio& parametri, Progress& progress);
