@@ -97,6 +97,8 @@ class Scrivania {
     void ScegliTappa(int riga);
     void Memorizza();
     void Fine();
+    /// Puts the stages of a route planner's export, which `scegliFile` names, into an empty itinerary.
+    void AltriPacchetti(const std::function<QString()>& scegliFile);
     void Ricalcola();
     void Annulla();
     void Ripeti();
@@ -128,6 +130,7 @@ class Scrivania {
     void RicalcolaTempi();
     bool Modifica(const QString& nome, RigheItinerario nuove, int riga);
     void Mostra(StatoItinerario stato);
+    void MettiPercorso(RigheItinerario percorso);
     bool MemorizzaTappe();
     bool LasciaNuovaMeta();
     void EsciDallInserimento();

@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "calendar/testo.h"
+#include "ui/scelta_percorso.h"
 
 namespace cronovia {
 
@@ -135,8 +136,10 @@ void FormMete::Collega() {
     connect(bottoni_, &FrmBottoni::Converte, this,
             [this] { Esegui([this] { scrivania_.NonDisponibile(u"Converte"_s); }); });
     connect(inserimento_, &FrmInputBox::Premuto, this, [this](ComandoItinerario c) { EseguiComando(c); });
-    connect(inserimento_, &FrmInputBox::AltriPacchetti, this,
-            [this] { Esegui([this] { scrivania_.NonDisponibile(u"Altri Pacch."_s); }); });
+    connect(inserimento_, &FrmInputBox::AltriPacchetti, this, [this] {
+        Esegui([this] { scrivania_.AltriPacchetti([this] { return ScegliFilePercorso(*this); }); });
+        inserimento_->FuocoSullaTappa();
+    });
     connect(griglia_, &VistaGriglia::Spostamento, this, [this](int righe) {
         Esegui([this, righe] { scrivania_.SelezionaRiga(scrivania_.RigaCorrente() + righe); });
         griglia_->setFocus();

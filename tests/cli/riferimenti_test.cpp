@@ -30,7 +30,7 @@ TEST(Riferimenti, AreAsReviewed) {
              Riferimento{"cli/itinerario.txt", "provenza", "itinerario 3"},
              Riferimento{"cli/aiuto.txt", "provenza",
                          "--help|elenca --help|nuova --help|importa --help|esporta --help|itinerario --help|"
-                         "calcola --help|stampa --help|guida --help"},
+                         "percorso --help|calcola --help|stampa --help|guida --help"},
          }) {
         const Programma programma;
         programma.ImportaEsempio(QString::fromLatin1(riferimento.viaggio));

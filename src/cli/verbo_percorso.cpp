@@ -1,0 +1,34 @@
+// percorso.
+#include <QDir>
+
+#include "cli/verbi.h"
+#include "exchange/importa_percorso.h"
+#include "interaction/failure.h"
+#include "itinerary/itinerari.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    Sessione sessione = apri();
+    Progress progress;
+    const QString& path = richiesta.argomenti.at(1);
+    const auto tappe = CaricaDaPacchetto(path, progress);
+    if (!tappe) {
+        throw Failure(u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
+            QDir::toNativeSeparators(path)));
+    }
+    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    if (!aperta.tappe.empty()) {
+        throw Failure(
+            u"La mèta con il codice %1 ha già delle tappe: un percorso si importa solo con itinerario "
+            "vuoto."_s.arg(aperta.meta.codice));
+    }
+    const EsitoMemorizzazione esito =
+        MemorizzaTappeItinerario(sessione.Archivio(), aperta.meta.codice, *tappe, aperta.meta.parametri, progress);
+    uscita << RiassuntoPercorso(*tappe) << '\n';
+    if (esito.nomiAccorciati > 0) uscita << TestoNomiAccorciati(esito) << '\n';
+}
+
+}  // namespace cronovia
