@@ -40,7 +40,7 @@ void Prova(const QByteArray& file) {
     const auto percorso = Leggi(file);
     if (percorso) std::for_each(percorso->begin(), percorso->end(), &PretendiTappa);
     if (percorso && !percorso->empty()) Pretendi(RiassuntoPercorso(*percorso).startsWith("Tappe riconosciute: "_L1));
-    QStringDecoder utf8(QStringConverter::Utf8);
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString testo = utf8.decode(file);
     if (utf8.hasError() || file.contains('\0') || testo.size() < 151) return;
     QStringEncoder utf16(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
