@@ -82,6 +82,7 @@ const std::vector<Verbo>& Verbi() {
          2,
          2,
          false,
+         false,
          &EseguiPercorso},
         {u"calcola"_s, u"CODICE"_s,
          u"Calcola la cronovia: giorno per giorno, l'ora di ogni tratto, pasto, notte, riposo, traghetto e visita."_s,

@@ -14,14 +14,14 @@ QString NomeLocalita(QStringView testo) {
     constexpr QStringView kVicino = u"vicino a";
     const bool vicino = nome.startsWith(kVicino, Qt::CaseInsensitive);
     if (vicino && (nome.size() == kVicino.size() || nome[kVicino.size()] == u' ')) nome = nome.mid(kVicino.size());
-    return nome.trimmed().left(Tragitto::kMassimoNome).toString().toUpper();
+    return nome.trimmed().left(Tragitto::kMassimoNome).trimmed().toString().toUpper();
 }
 
 }  // namespace
 
 void Tragitto::Percorre(const QString& strada, int km) {
     std::vector<StradaLetta>& strade = tappa_.strade;
-    const QString nome = strada.left(kMassimoNome);
+    const QString nome = strada.left(kMassimoNome).trimmed();
     const bool nota = std::any_of(strade.begin(), strade.end(), [&](const StradaLetta& s) { return s.nome == nome; });
     if (!nota && strade.size() < kMassimoStrade) strade.push_back({nome, km});
 }

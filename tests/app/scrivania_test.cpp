@@ -378,6 +378,48 @@ TEST_F(ScrivaniaTest, WhatCannotBeSavedStaysOnScreen) {
     EXPECT_EQ(Memorizzate(), u"A B"_s);
 }
 
+TEST_F(ScrivaniaTest, ARouteIsPutIntoAnEmptyItineraryAndTakenAwayAgain) {
+    NuovaMeta(u"UNO"_s);
+    scrivania_->Itinerario();
+    scrivania_->Aggiunge();
+    const auto file = [](const QString& nome) { return [nome] { return u"" CRONOVIA_EXAMPLES "/"_s + nome; }; };
+    const auto percorso = file(u"percorsi/torino-messina.txt"_s);
+    const auto domanda = [&](Answer risposta) {
+        copione_.Domanda(
+            u"Tappe riconosciute: 9, da TORINO a MESSINA, km. 405, traghetti: 1.\n\nVuoi riportarle nell'itinerario?"_s,
+            u"Import del percorso"_s, risposta);
+    };
+    scrivania_->AltriPacchetti([] { return QString(); });
+    copione_.Messaggio(
+        u"Attenzione!\n\nFile non riconosciuto!\n\nAttualmente sono riconosciuti:\n. MapPoint\n"
+        ". Autoroute 66\n. Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."_s);
+    scrivania_->AltriPacchetti(file(u"sicilia.iei"_s));
+    copione_.Messaggio(u"Il file …"_s);
+    scrivania_->AltriPacchetti(file(u"manca.txt"_s));
+    domanda(Answer::No);
+    scrivania_->AltriPacchetti(percorso);
+    EXPECT_EQ(NumeroTappe(scrivania_->Righe()), 0);
+    EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), std::nullopt);
+    EXPECT_TRUE(scrivania_->Comandi().Abilitato(ComandoItinerario::Inserisce));
+    domanda(Answer::Yes);
+    scrivania_->AltriPacchetti(percorso);
+    EXPECT_EQ(Righe(), u"TORINO CEVA SAVONA GENOVA GENOVA-PALERMO PALERMO CEFALÙ MILAZZO MESSINA"_s);
+    EXPECT_EQ(scrivania_->RigaCorrente(), 10);
+    EXPECT_EQ(scrivania_->Riepilogo().totali.traghetti, 1);
+    EXPECT_FALSE(scrivania_->Comandi().altriPacchetti);
+    EXPECT_EQ(Memorizzate(), u""_s);
+    copione_.Messaggio(
+        u"Impossibile: sono presenti delle tappe!\n\nE' ammesso solo con itinerario vuoto.\n\n"
+        "Se vuoi procedere con l'import da MapPoint,\nè necessario cancellare l'itinerario."_s);
+    scrivania_->AltriPacchetti(percorso);
+    EXPECT_EQ(scrivania_->Modifiche().DaAnnullare(), u"import del percorso"_s);
+    scrivania_->Annulla();
+    EXPECT_EQ(NumeroTappe(scrivania_->Righe()), 0);
+    scrivania_->Ripeti();
+    Memorizza(Answer::Yes);
+    EXPECT_EQ(Memorizzate(), Righe());
+}
+
 TEST_F(ScrivaniaTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsCode) {
     NuovaMeta(u"UNO"_s);
     MetaConTappe(u"DUE"_s, {u"A"_s});

@@ -114,6 +114,40 @@ TEST(Verbi, ItineraryAsJson) {
     EXPECT_EQ(json[u"tappe"][13][u"FineGiorno"], u"1"_s);
 }
 
+TEST(Verbi, ARouteBecomesTheItineraryOfAnEmptyTrip) {
+    const Programma programma;
+    EXPECT_EQ(programma.Uscita({u"nuova"_s, u"Sicilia"_s, u"Italia"_s}), u"000001\n"_s);
+    EXPECT_EQ(programma.Uscita({u"nuova"_s, u"Baviera"_s, u"Germania"_s}), u"000002\n"_s);
+    const QString cartella = u"" CRONOVIA_EXAMPLES "/percorsi/"_s;
+    const QString alpi = cartella + u"bologna-monaco.txt"_s;
+    EXPECT_EQ(programma.Uscita({u"percorso"_s, u"2"_s, alpi}),
+              u"Tappe riconosciute: 11, da BOLOGNA a MÜNCHEN, km. 567.\n"_s);
+    const QJsonArray righe = Json(programma, {u"itinerario"_s, u"000002"_s}).object()[u"righe"_s].toArray();
+    ASSERT_EQ(righe.size(), 11);
+    EXPECT_EQ(righe[1], (QJsonArray{u"2"_s, u"MODENA"_s, u"A14 A1"_s, u"44"_s, u"A"_s, u"44"_s, u"00:35"_s, u""_s,
+                                    u""_s, u""_s, u""_s, u""_s, u""_s, u""_s}));
+    const QByteArray prima = programma.ByteArchivio();
+    struct Caso {
+        QStringList argomenti;
+        QString messaggio;
+    };
+    const QString estraneo = Programma::FileEsempio(u"sicilia"_s);
+    for (const Caso& caso : std::vector<Caso>{
+             {{u"2"_s, alpi},
+              u"La mèta con il codice 000002 ha già delle tappe: un percorso si importa solo con itinerario vuoto."_s},
+             {{u"3"_s, alpi}, u"Non esiste nessuna mèta con il codice 000003."_s},
+             {{u"1"_s, estraneo},
+              u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
+                  estraneo)},
+             {{u"1"_s, cartella}, u"%1 è una cartella, non un file."_s.arg(cartella)},
+         }) {
+        const prova::Risposta risposta = programma.Esegui(QStringList{u"percorso"_s} + caso.argomenti);
+        EXPECT_EQ(risposta.codice, 1);
+        EXPECT_EQ(risposta.uscita + risposta.errori, caso.messaggio + u'\n');
+        EXPECT_TRUE(programma.ByteArchivio() == prima);
+    }
+}
+
 TEST(Verbi, ScheduleWithOptionsForOneRun) {
     const Programma programma;
     programma.ImportaEsempio(u"provenza"_s);
