@@ -120,7 +120,7 @@ void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream
     const Documento documento =
         StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
     FileIntero file(path);
-    ScriviPdf(documento, file);
+    ScriviPdf(documento, file, progress);
     file.Chiudi();
     uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),
                                                                      QString::number(documento.pagine.size()));

@@ -35,6 +35,7 @@ Percorso TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, i
 /// Puts a stretch after the stage of row `riga`, or before it when that row is free. A leg driven the other way has the
 /// road and kilometres of the stage that follows in the source; behind its last stage there is none. Stops, with the
 /// ends of days, come along with `conSoste`. The first new row is the current one.
-EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Percorso tratto, bool conSoste);
+EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Percorso tratto,
+                        bool conSoste);
 
 }  // namespace cronovia

@@ -67,9 +67,9 @@ void ComandoStampaGuida::Stampa() {
     Chiudi();
     volti_.scrivania.SullaGuida([&](const TavoloGuida&) {
         if (path.isEmpty()) {
-            StampaSuStampante(*documento, stampante, volti_.interazione);
+            StampaSuStampante(*documento, stampante, volti_.interazione, volti_.avanzamento);
         } else {
-            StampaSuFile(*documento, path);
+            StampaSuFile(*documento, path, volti_.avanzamento);
         }
         volti_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});
     });
