@@ -66,6 +66,7 @@ void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
 void EseguiNuova(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiConverte(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);

@@ -1,5 +1,8 @@
-// importa, esporta.
+// importa, esporta, converte.
+#include <QDateTime>
+
 #include "cli/verbi.h"
+#include "exchange/converti.h"
 #include "exchange/esporta_mete.h"
 #include "exchange/importa_mete.h"
 
@@ -37,6 +40,13 @@ void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
         {sessione.Archivio(), richiesta.argomenti.first(), codici, richiesta.opzioni.contains(u"sovrascrivi"_s)},
         progress);
     uscita << Righe(TestoEsito(esito));
+}
+
+void EseguiConverte(const ApriSessione& apri, const Richiesta& /*richiesta*/, QTextStream& uscita) {
+    Sessione sessione = apri();
+    Progress progress;
+    uscita << Righe(TestoEsito(
+        ConvertiVecchiFile({sessione.Archivio(), sessione.Cartella(), QDateTime::currentDateTime()}, progress)));
 }
 
 }  // namespace cronovia

@@ -7,6 +7,7 @@
 #include "calendar/testo.h"
 #include "exchange/elenco_mete.h"
 #include "exchange/mappa_codici.h"
+#include "exchange/nomi_presenti.h"
 
 namespace cronovia {
 
@@ -18,20 +19,14 @@ constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
 
 QString Adattato(const QString& valore, const Campo& campo) { return valore.left(campo.larghezza); }
 
-// Whether a row has that name in the field, besides what `ricerca` asks for already. Other installations store one
-// blank behind the name, or in its place.
-bool Esiste(Archive& archive, Ricerca ricerca, int posto, const QString& testo) {
-    const std::array modelli = {NamePattern::ForName(testo), NamePattern::ForName(testo + u' ')};
-    ricerca.condizioni.push_back({posto, modelli.front()});
-    return std::any_of(modelli.begin(), modelli.end(), [&](const NamePattern& modello) {
-        ricerca.condizioni.back().modello = modello;
-        return archive.Exists(ricerca);
-    });
-}
-
 class Importatore {
   public:
-    Importatore(Archive& archive, MappaCodici& codici) : archive_(archive), codici_(codici) {}
+    Importatore(Archive& archive, MappaCodici& codici)
+        : archive_(archive),
+          codici_(codici),
+          mete_(archive, Tabella::MeteVandro, {mete::Localita}),
+          tappe_(archive, Tabella::Itinerari, {itinerari::Localita}),
+          guida_(archive, Tabella::GuidaCitta, {guida::Localita, guida::Descrizione}) {}
 
     void Importa(RigaIei& riga) {
         switch (riga.tabella) {
@@ -51,10 +46,13 @@ class Importatore {
     void ImportaTappa(RigaIei& riga);
     void ImportaVoce(RigaIei& riga);
     bool HaTappe(const QString& localita);
-    void Inserisci(RigaIei& riga, const QString& codiceMeta);
+    void Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti);
 
     Archive& archive_;
     MappaCodici& codici_;
+    NomiPresenti mete_;
+    NomiPresenti tappe_;
+    NomiPresenti guida_;
     QHash<QString, bool> conTappe_;  // localities looked up since the last stage was added
     EsitoImport esito_;
 };
@@ -72,14 +70,14 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     }
     const Campo& campo = Definizione(Tabella::MeteVandro).campi[mete::Localita];
     const QString localita = Adattato(riga.valori[mete::Localita], campo);
-    if (Esiste(archive_, {Tabella::MeteVandro, {}}, mete::Localita, localita)) {
+    if (mete_.Trova({}, localita)) {
         meta->stato = StatoMeta::Scartata;
         ++esito_.meteScartate;
         return;
     }
     meta->stato = StatoMeta::Inserita;
     ++esito_.meteInserite;
-    Inserisci(riga, meta->codice);
+    Inserisci(riga, meta->codice, mete_);
 }
 
 void Importatore::ImportaTappa(RigaIei& riga) {
@@ -88,7 +86,7 @@ void Importatore::ImportaTappa(RigaIei& riga) {
         ++esito_.tappeSenzaMeta;
     } else if (meta->stato == StatoMeta::Inserita) {
         ++esito_.tappeInserite;
-        Inserisci(riga, meta->codice);
+        Inserisci(riga, meta->codice, tappe_);
         conTappe_.clear();
     }
 }
@@ -98,26 +96,26 @@ void Importatore::ImportaVoce(RigaIei& riga) {
     const QString localita = Adattato(riga.valori[guida::Localita], campi[guida::Localita]);
     if (!HaTappe(localita)) return;
     const QString memorizzata = localita.isEmpty() ? u" "_s : localita;
-    const Ricerca stessaLocalita{Tabella::GuidaCitta, {{guida::Localita, NamePattern::Exactly(memorizzata)}}};
+    const std::array stessaLocalita = {NamePattern::Exactly(memorizzata)};
     const QString descrizione = Adattato(riga.valori[guida::Descrizione], campi[guida::Descrizione]);
-    if (Esiste(archive_, stessaLocalita, guida::Descrizione, descrizione)) {
+    if (guida_.Trova(stessaLocalita, descrizione)) {
         ++esito_.vociScartate;
         return;
     }
     ++esito_.vociInserite;
-    Inserisci(riga, {});
+    Inserisci(riga, {}, guida_);
 }
 
 bool Importatore::HaTappe(const QString& localita) {
     if (const auto nota = conTappe_.constFind(localita); nota != conTappe_.constEnd()) return *nota;
     if (conTappe_.size() >= kMassimoLocalitaRicordate) conTappe_.clear();
-    const bool esiste = Esiste(archive_, {Tabella::Itinerari, {}}, itinerari::Localita, localita);
+    const bool esiste = tappe_.Trova({}, localita).has_value();
     conTappe_.insert(localita, esiste);
     return esiste;
 }
 
 // The code, which only trips and stages have, is the first field of their tables.
-void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta) {
+void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti) {
     const std::vector<Campo>& campi = Definizione(riga.tabella).campi;
     if (!codiceMeta.isEmpty()) riga.valori.front() = codiceMeta;
     for (std::size_t i = 0; i < campi.size(); ++i) {
@@ -127,7 +125,7 @@ void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta) {
         valore.truncate(campi[i].larghezza);
         ++esito_.accorciati[{riga.tabella, static_cast<int>(i)}];
     }
-    archive_.Insert(riga.tabella, riga.valori);
+    presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
 }
 
 }  // namespace

@@ -19,14 +19,12 @@ void InserisciTipiPredefiniti(Archive& archive) {
     const std::array<QString, 9> nomi = {u"Ottimo"_s,    u"Da vedere"_s,   u"Interessante"_s,
                                          u"Vedibile"_s,  u"Punto Sosta"_s, u"PS e CS"_s,
                                          u"Campeggio"_s, u"Ristorante"_s,  u"Gpl"_s};
-    Transaction transaction(archive);
     int numero = 0;
     for (const QString& nome : nomi) {
         ++numero;
         const QString obbligatorio = numero < kPrimoPuntoLogistico ? u"1"_s : u"0"_s;
         archive.Insert(Tabella::TipoGuida, std::array<QString, 3>{Zero(numero, 2), nome, obbligatorio});
     }
-    transaction.Commit();
 }
 
 // By type code, then description; entries are moved once, into their places.
@@ -72,13 +70,22 @@ VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi
 QString TestoTempoVisita(const Durata& tempo) { return Zero(tempo.ore, 2) + u':' + Zero(tempo.minuti, 2); }
 
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive) {
-    if (archive.Count(Tabella::TipoGuida) == 0) InserisciTipiPredefiniti(archive);
+    if (archive.Count(Tabella::TipoGuida) == 0) {
+        Transaction transaction(archive);
+        InserisciTipiPredefiniti(archive);
+        transaction.Commit();
+    }
     std::vector<TipoGuida> tipi;
     for (const Record& record : archive.Select({Tabella::TipoGuida, {}}, {tipoguida::CodiceGuida})) {
         tipi.push_back({record[tipoguida::CodiceGuida], record[tipoguida::Descrizione],
                         record[tipoguida::TempoObbligatorio] == "1"_L1});
     }
     return tipi;
+}
+
+void RipristinaTipiGuida(Archive& archive, Progress& progress) {
+    archive.CancellaTabella(Tabella::TipoGuida, std::nullopt, progress);
+    InserisciTipiPredefiniti(archive);
 }
 
 int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, QStringView descrizione) {

@@ -24,6 +24,9 @@ struct TipoGuida {
 /// The types in the order of their codes. An archive without types gets the nine standard ones.
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive);
 
+/// Puts the nine standard types in the place of the stored ones, within a transaction of the caller.
+void RipristinaTipiGuida(Archive& archive, Progress& progress);
+
 /// Numeric code of the type with that description, the highest of several; -1 when there is none.
 int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, QStringView descrizione);
 

@@ -197,6 +197,7 @@ void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& 
         bool goOn = true;
         while (goOn && statement.executeStep()) {
             Record record = ReadRecord(statement, table.campi.size());
+            ++rowsRead_;
             if (Fulfils(record, ricerca.condizioni)) goOn = visit(std::move(record));
         }
         statement.reset();
@@ -284,23 +285,25 @@ std::optional<Record> Archive::SelectFirst(const Ricerca& ricerca) {
     return first;
 }
 
-bool Archive::Exists(const Ricerca& ricerca) {
-    bool found = false;
-    Scan(ricerca, [&](Record&&) {
-        found = true;
+std::optional<std::int64_t> Archive::Find(const Ricerca& ricerca) {
+    std::optional<std::int64_t> found;
+    Scan(ricerca, [&](Record&& record) {
+        found = record.id;
         return false;
     });
     return found;
 }
 
 std::int64_t Archive::Count(Tabella tabella) {
-    return Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement = connection_->Prepared("SELECT COUNT(*) FROM " + Name(Definizione(tabella).nome));
-        statement.executeStep();
-        const std::int64_t count = statement.getColumn(0).getInt64();
-        statement.reset();
-        return count;
-    });
+    return connection_->Number("SELECT COUNT(*) FROM " + Name(Definizione(tabella).nome));
+}
+
+std::int64_t Archive::LastId(Tabella tabella) {
+    return connection_->Number("SELECT COALESCE(MAX(rowid), 0) FROM " + Name(Definizione(tabella).nome));
+}
+
+Archive::Mark Archive::PresentMark() {
+    return {connection_->Number("PRAGMA data_version"), connection_->Database().getTotalChanges()};
 }
 
 std::int64_t Archive::Insert(Tabella tabella, std::span<const QString> valori) {
@@ -335,6 +338,17 @@ void Archive::Delete(Tabella tabella, std::int64_t id) {
         SQLite::Statement& statement =
             connection_->Prepared("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid = ?");
         statement.bind(1, id);
+        statement.exec();
+        statement.reset();
+    });
+}
+
+void Archive::DeleteRange(Tabella tabella, std::int64_t after, std::int64_t last) {
+    Guarded(connection_->Path(), [&] {
+        SQLite::Statement& statement =
+            connection_->Prepared("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid > ? AND rowid <= ?");
+        statement.bind(1, after);
+        statement.bind(2, last);
         statement.exec();
         statement.reset();
     });

@@ -67,7 +67,9 @@ class Archive {
     std::vector<Record> Select(const Ricerca& ricerca, std::initializer_list<int> ordine = {});
     /// Of the rows found, the one that was added first.
     std::optional<Record> SelectFirst(const Ricerca& ricerca);
-    bool Exists(const Ricerca& ricerca);
+    /// The id of one of the rows found, whichever comes up first.
+    std::optional<std::int64_t> Find(const Ricerca& ricerca);
+    bool Exists(const Ricerca& ricerca) { return Find(ricerca).has_value(); }
 
     /// Hands over row after row of a table, in the order in which they were added, without holding more than one.
     void ForEach(Tabella tabella, const std::function<void(const Record&)>& visit);
@@ -79,23 +81,41 @@ class Archive {
 
     std::int64_t Count(Tabella tabella);
 
+    /// Rows that searches have looked at so far, found or not.
+    [[nodiscard]] std::int64_t RowsRead() const { return rowsRead_; }
+
+    /// A mark that is another one as soon as anything was written to the file, by this object or another program.
+    struct Mark {
+        std::int64_t others = 0;
+        std::int64_t own = 0;
+        friend bool operator==(const Mark&, const Mark&) = default;
+    };
+    Mark PresentMark();
+
+    /// The highest id of a table, 0 when it is empty. A new row gets the next one.
+    std::int64_t LastId(Tabella tabella);
+
     /// Adds a row and returns its id, changes the row with that id; `valori` has a value for every field. One wider
     /// than its field is refused.
     std::int64_t Insert(Tabella tabella, std::span<const QString> valori);
     void Update(Tabella tabella, const Record& record);
     void Delete(Tabella tabella, std::int64_t id);
+    /// Deletes the rows whose ids are greater than `after` and at most `last`.
+    void DeleteRange(Tabella tabella, std::int64_t after, std::int64_t last);
 
     /// Deletes the rows whose field matches the pattern, all rows without a condition; returns how many.
     int CancellaTabella(Tabella tabella, const std::optional<Condizione>& condizione, Progress& progress);
 
   private:
     friend class Transaction;
+    friend class NameIndex;
     class Connection;
 
     explicit Archive(std::unique_ptr<Connection> connection);
     void Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& visit);
 
     std::unique_ptr<Connection> connection_;
+    std::int64_t rowsRead_ = 0;
 };
 
 /// Everything written between construction and `Commit` happens whole or not at all.

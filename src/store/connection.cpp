@@ -64,4 +64,14 @@ SQLite::Statement& Archive::Connection::Prepared(const std::string& sql) {
     return statement;
 }
 
+std::int64_t Archive::Connection::Number(const std::string& sql) {
+    return Guarded(path_, [&] {
+        SQLite::Statement& statement = Prepared(sql);
+        statement.executeStep();
+        const std::int64_t number = statement.getColumn(0).getInt64();
+        statement.reset();
+        return number;
+    });
+}
+
 }  // namespace cronovia

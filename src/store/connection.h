@@ -51,6 +51,9 @@ class Archive::Connection {
     /// A statement ready to be bound; it stays prepared for the next time.
     SQLite::Statement& Prepared(const std::string& sql);
 
+    /// The number that a query answers with; a `Failure` when it cannot be asked.
+    std::int64_t Number(const std::string& sql);
+
   private:
     QString path_;
     SQLite::Database database_;

@@ -142,6 +142,29 @@ bool NamePattern::Matches(const std::vector<Element>& elements, QStringView text
     return element == count;
 }
 
+NamePattern NamePattern::Then(const NamePattern& next) const {
+    NamePattern both = *this;
+    both.elements_.insert(both.elements_.end(), next.elements_.begin(), next.elements_.end());
+    if (itself_.empty() && next.itself_.empty()) return both;
+    const std::vector<Element>& end = next.itself_.empty() ? next.elements_ : next.itself_;
+    if (itself_.empty()) both.itself_ = elements_;
+    both.itself_.insert(both.itself_.end(), end.begin(), end.end());
+    return both;
+}
+
+NamePattern NamePattern::Reversed() const {
+    NamePattern reversed;
+    reversed.elements_.assign(elements_.rbegin(), elements_.rend());
+    reversed.itself_.assign(itself_.rbegin(), itself_.rend());
+    return reversed;
+}
+
+std::size_t NamePattern::LiteralStart() const {
+    const auto wildcard = std::find_if(elements_.begin(), elements_.end(),
+                                       [](const Element& element) { return element.kind != Kind::Literal; });
+    return static_cast<std::size_t>(wildcard - elements_.begin());
+}
+
 std::vector<NamePattern::Range> NamePattern::Ranges() const {
     std::vector<std::u32string> prefixes(1);
     std::size_t used = 0;

@@ -1,0 +1,41 @@
+// The data files of the earlier release join the archive.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <vector>
+
+#include "interaction/progress.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+struct RichiestaConversione {
+    Archive& archive;
+    QString cartella;  ///< of the old files; their copies stay in a folder in it
+    QDateTime adesso;
+};
+
+struct EsitoConversione {
+    qint64 mete = 0;
+    qint64 tappe = 0;
+    qint64 voci = 0;    ///< of the city guide
+    qint64 guasti = 0;  ///< records left out
+    struct FileLasciato {
+        QString nome;
+        QString perche;
+    };
+    std::vector<FileLasciato> lasciati;  ///< not converted, or not removed, or missing
+    QString cartellaCopie;
+};
+
+/// Trips, stages and guide entries are added, or change those stored under the same code, sequence, locality and
+/// description; nothing else goes. Whole or not at all. The guide gets its nine standard types. The files converted are
+/// removed at the very end, that of the trips last. A `Failure` when there is no file of trips, or when that or the
+/// guide's is not what it should be.
+EsitoConversione ConvertiVecchiFile(const RichiestaConversione& richiesta, Progress& progress);
+
+/// The text of the closing box.
+QString TestoEsito(const EsitoConversione& esito);
+
+}  // namespace cronovia

@@ -1,0 +1,50 @@
+// Files of fixed-length records, as the earlier release wrote them.
+#pragma once
+
+#include <QByteArray>
+#include <QIODevice>
+#include <QString>
+#include <vector>
+
+namespace cronovia {
+
+/// The fields, in characters of one byte, stand at the beginning of a record; the rest of it carries nothing.
+struct FormaRecord {
+    int lunghezza = 0;
+    std::vector<int> campi;
+
+    [[nodiscard]] int LunghezzaCampi() const;
+};
+
+struct RecordFisso {
+    std::vector<QString> campi;  ///< without blanks around them; zero bytes are blanks
+    bool guasto = false;         ///< holds characters that no program writes into a text
+
+    [[nodiscard]] const QString& operator[](std::size_t campo) const { return campi[campo]; }
+};
+
+/// Hands over record after record, in a bounded amount of memory.
+class LettoreRecord {
+  public:
+    /// Whether the device can hold whole records of that form; the last one may end behind its fields.
+    static bool Interi(const QIODevice& device, const FormaRecord& forma);
+
+    /// A `Failure` when it cannot. `path` is its name in messages.
+    LettoreRecord(QIODevice& device, FormaRecord forma, const QString& path);
+
+    /// Reads the next record; false at the end. A `Failure` when the device cannot be read.
+    bool Leggi(RecordFisso& record);
+
+    /// Of the device, those read included.
+    [[nodiscard]] qint64 NumeroRecord() const { return numero_; }
+    [[nodiscard]] qint64 Letti() const { return letti_; }
+
+  private:
+    QIODevice& device_;
+    FormaRecord forma_;
+    QString path_;
+    qint64 numero_ = 0;
+    qint64 letti_ = 0;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,42 @@
+#include "exchange/nomi_presenti.h"
+
+namespace cronovia {
+
+namespace {
+
+// An index of its own costs as much as reading so many rows of a small table; a large one is worth it sooner.
+constexpr std::int64_t kTroppeRighe = 200'000;
+
+}  // namespace
+
+NomiPresenti::NomiPresenti(Archive& archive, Tabella tabella, std::vector<int> posti)
+    : archive_(archive), tabella_(tabella), posti_(std::move(posti)) {}
+
+std::optional<std::int64_t> NomiPresenti::Trova(std::span<const NamePattern> prime, const QString& nome) {
+    const auto trovata = Trova(prime, NamePattern::ForName(nome));
+    return trovata ? trovata : Trova(prime, NamePattern::ForName(nome + u' '));
+}
+
+std::optional<std::int64_t> NomiPresenti::Trova(std::span<const NamePattern> prime, const NamePattern& ultimo) {
+    if (indice_) {
+        NamePattern modello = NamePattern::Exactly({});
+        for (const NamePattern& primo : prime) {
+            modello = modello.Then(primo).Then(NamePattern::Exactly(QString(NameIndex::kJoin)));
+        }
+        return indice_->Find(modello.Then(ultimo));
+    }
+    Ricerca ricerca{tabella_, {}};
+    for (std::size_t i = 0; i < prime.size(); ++i) ricerca.condizioni.push_back({posti_[i], prime[i]});
+    ricerca.condizioni.push_back({posti_.back(), ultimo});
+    const std::int64_t prima = archive_.RowsRead();
+    const auto trovata = archive_.Find(ricerca);
+    righeLette_ += archive_.RowsRead() - prima;
+    if (righeLette_ > kTroppeRighe) indice_.emplace(archive_, tabella_, posti_);
+    return trovata;
+}
+
+void NomiPresenti::Scritta(std::int64_t id, const std::vector<QString>& valori) {
+    if (indice_) indice_->Add(id, valori);
+}
+
+}  // namespace cronovia

@@ -1,0 +1,54 @@
+// The files of the earlier release in a data folder: found, copied away, and removed once they are converted.
+#pragma once
+
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+#include <optional>
+
+namespace cronovia {
+
+/// Whether the folder holds the file of trips, and so something to convert.
+bool CiSonoVecchiFile(const QString& cartella);
+
+/// Names of the files; that of the stages of a trip ends with the last four characters of its code.
+QString NomeVecchieMete();
+QString NomeVecchiaGuida();
+QString NomeVecchieTappe(const QString& codiceMeta);
+
+/// Each file is copied into a folder of its own, named by date and time, and read from there: it may change meanwhile.
+/// Unless they are kept, the copies go with the object.
+class VecchiFile {
+  public:
+    VecchiFile(const QString& cartella, const QDateTime& adesso);
+    VecchiFile(const VecchiFile&) = delete;
+    VecchiFile& operator=(const VecchiFile&) = delete;
+    ~VecchiFile();
+
+    /// Path of the file with that name in any case, as the folder held it at the beginning; nothing without one.
+    [[nodiscard]] std::optional<QString> Trova(const QString& nome) const;
+
+    /// Copies a file found and returns the path of its copy. A `Failure` when it cannot be read or the copy written.
+    QString Copia(const QString& path);
+    /// Takes a copy back.
+    void Togli(const QString& copia);
+
+    /// The copies stay; their folder is empty when there are none.
+    void Tieni() { tenuti_ = true; }
+    [[nodiscard]] const QString& CartellaCopie() const { return copie_; }
+
+    /// Removes a file that is still what its copy is; else it stays and false is returned.
+    bool Cancella(const QString& path);
+
+  private:
+    void CreaCartella();
+    [[nodiscard]] QString PercorsoCopia(const QString& path) const;
+
+    QString cartella_;
+    QDateTime adesso_;
+    QHash<QString, QString> nomi_;  // by the name in small letters
+    QString copie_;
+    bool tenuti_ = false;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,39 @@
+// Names looked up by what is literal in a pattern, be it at the beginning or at the end.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// The names of a table's rows in a temporary table, each from both its ends. What is written to the table later is
+/// told with `Add`. For long runs of questions whose patterns find no help in the table's own indexes.
+class NameIndex {
+  public:
+    /// A name is the fields at `posti` of a row, put together with `kJoin`.
+    NameIndex(Archive& archive, Tabella tabella, std::vector<int> posti);
+    NameIndex(const NameIndex&) = delete;
+    NameIndex& operator=(const NameIndex&) = delete;
+    ~NameIndex();
+
+    static constexpr QChar kJoin{0x1F};
+
+    void Add(std::int64_t id, const std::vector<QString>& valori);
+
+    /// The id of a row whose name matches.
+    std::optional<std::int64_t> Find(const NamePattern& pattern);
+
+  private:
+    std::optional<std::int64_t> FindIn(const std::string& column, const NamePattern& pattern);
+
+    Archive::Connection& connection_;
+    std::string table_;
+    std::vector<int> posti_;
+};
+
+}  // namespace cronovia
