@@ -37,6 +37,8 @@ int RunCommand(int argc, char* argv[], bool withFonts) {
 int main(int argc, char* argv[]) {
     QStringList line;
     for (int i = 0; i < argc; ++i) line += QString::fromLocal8Bit(argv[i]);
-    if (const auto folder = cronovia::CartellaDellaFinestra(line)) return cronovia::ApriFinestra(argc, argv, *folder);
+    if (const auto window = cronovia::RichiestaDellaFinestra(line)) {
+        return cronovia::ApriFinestra(argc, argv, window->cartella, window->file);
+    }
     return RunCommand(argc, argv, cronovia::VuoleCaratteri(line));
 }

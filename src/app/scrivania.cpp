@@ -1,10 +1,9 @@
 #include "app/scrivania.h"
 
-#include <QDir>
-#include <QFile>
 #include <algorithm>
 #include <utility>
 
+#include "exchange/vecchi_file.h"
 #include "guide/guida_citta.h"
 #include "interaction/failure.h"
 #include "itinerary/itinerari.h"
@@ -15,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 Scrivania::Scrivania(const QString& cartella, Volti volti) : volti_(std::move(volti)), sessione_(cartella) {
     CaricaMetaCorrente();
-    converteOfferto_ = QFile::exists(QDir(cartella).filePath(u"VandMete.dat"_s));
+    converteOfferto_ = CiSonoVecchiFile(cartella);
 }
 
 StatoComandi Scrivania::Comandi() const {
@@ -123,7 +122,7 @@ void Scrivania::Ricerca() {
 void Scrivania::ScegliMeta(const QString& codice) {
     Prova([&] {
         MetaAperta scelta = sessione_.ApriMeta(codice);  // refused here when another window deleted it
-        SalvaIlCodiceMetaCorrente(sessione_.Archivio(), codice);
+        RicordaMetaCorrente(codice);
         MettiSulTavolo(std::move(scelta));
         codiceMetaCorrente_ = codice;
         ApplicaModo(u"All"_s);
@@ -160,6 +159,7 @@ void Scrivania::CancMeta() {
 }
 
 void Scrivania::CancItin() {
+    if (SenzaMeta()) return;
     Prova([&] {
         if (!BoxConferma(volti_.interazione, u"AI"_s)) return;
         const Question sicuro{
@@ -196,10 +196,6 @@ void Scrivania::CaricaDefault() {
 
 void Scrivania::RipristinaDefault() {
     Default(u"ripristinare"_s, [&] { meta_.parametri = CaricaDefaultMeta(sessione_.Archivio(), true); });
-}
-
-void Scrivania::NonDisponibile(const QString& funzione) {
-    volti_.interazione.Show({u"La funzione «%1» non è ancora disponibile."_s.arg(funzione), {}, Icon::Information});
 }
 
 void Scrivania::Calcola() {

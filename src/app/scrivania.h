@@ -12,6 +12,8 @@
 #include "app/modi_comandi.h"
 #include "app/sessione.h"
 #include "app/tavolo_guida.h"
+#include "app/tavolo_scambio.h"
+#include "exchange/annulla_import.h"
 #include "interaction/interaction.h"
 #include "trips/mete.h"
 
@@ -54,6 +56,8 @@ class Scrivania {
     /// Names of the changes that `Annulla` and `Ripeti` are about on the screen that is open.
     [[nodiscard]] std::optional<QString> DaAnnullare() const;
     [[nodiscard]] std::optional<QString> DaRipetere() const;
+    /// The exchange screen; nothing while it is closed.
+    [[nodiscard]] const std::optional<TavoloScambio>& Scambio() const { return scambio_; }
     [[nodiscard]] StatoComandi Comandi() const;
     /// The entry fields of the current row, and whether progressive kilometres may be typed there; nothing: not shown.
     [[nodiscard]] CampiTappa CampiCorrenti() const { return CampiDellaRiga(righe_, rigaCorrente_); }
@@ -83,7 +87,18 @@ class Scrivania {
     bool PreparaStampa();
     void StampaInCorso();
     void FineStampa();
-    void NonDisponibile(const QString& funzione);
+
+    /// Brings over the earlier release's data, after a question.
+    void Converte();
+
+    // The exchange screen. `scegliFile` asks for a file; an empty name closes the screen.
+    void Export();
+    void Import(const std::function<QString()>& scegliFile);
+    /// The import of a file that came from outside; refused while another screen is open.
+    void ApriFile(const QString& file);
+    void SulloScambio(const std::function<void(TavoloScambio&)>& comando);
+    void ImExp(const std::function<QString()>& scegliFile);
+    void FineScambio();
 
     // Commands of the entry screen.
     void Itinerario();
@@ -136,6 +151,21 @@ class Scrivania {
     void EsciDallInserimento();
     void EseguiCalcolo(bool conMessaggio = true);
     void Default(const QString& verbo, const std::function<void()>& azione);
+    bool Corsa(const std::function<void()>& azione);
+    void PreparaExportImport(ModoScambio modo);
+    void EsciExportImport();
+    void FinisciScambio();
+    void Esporta(const QString& file);
+    void Importa();
+    [[nodiscard]] std::optional<QString> DaAnnullareImport() const;
+    void AnnullaImportazione();
+    void RicordaMetaCorrente(const QString& codice);
+    bool SenzaMeta();
+
+    struct ImportFatto {
+        QString file;
+        TracciaImport traccia;
+    };
 
     Volti volti_;
     Sessione sessione_;
@@ -147,6 +177,8 @@ class Scrivania {
     int rigaCorrente_ = 1;
     std::optional<Cronovia> cronovia_;
     std::optional<std::vector<MetaInElenco>> elencoMete_;
+    std::optional<TavoloScambio> scambio_;
+    std::optional<ImportFatto> import_;  // the last one, for as long as it can be taken back
     Cronologia cronologia_;
     std::optional<TavoloGuida> guida_;
     std::optional<CopiaPercorso> copia_;

@@ -36,7 +36,8 @@ void Scrivania::FineGuida() {
 
 std::optional<QString> Scrivania::DaAnnullare() const {
     if (guida_) return guida_->ElencoLocalitaVisibile() ? std::nullopt : guida_->DaAnnullare();
-    return inserimento_ && !elencoTappe_ && !copia_ ? cronologia_.DaAnnullare() : std::nullopt;
+    if (!inserimento_) return DaAnnullareImport();
+    return !elencoTappe_ && !copia_ ? cronologia_.DaAnnullare() : std::nullopt;
 }
 
 std::optional<QString> Scrivania::DaRipetere() const {

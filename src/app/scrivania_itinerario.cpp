@@ -12,6 +12,7 @@ namespace cronovia {
 using namespace Qt::StringLiterals;
 
 void Scrivania::Itinerario() {
+    if (SenzaMeta()) return;
     cronovia_.reset();
     inserimento_ = true;
     ApplicaModo(u"zz"_s);
@@ -155,6 +156,7 @@ void Scrivania::Ricalcola() {
 
 void Scrivania::Annulla() {
     if (guida_) return SullaGuida([](TavoloGuida& guida) { guida.Annulla(); });
+    if (DaAnnullareImport()) return AnnullaImportazione();
     const auto stato = cronologia_.Annulla({righe_, rigaCorrente_});
     if (stato && !Prova([&] { Mostra(*stato); })) cronologia_.Ripeti(*stato);
 }

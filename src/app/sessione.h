@@ -34,6 +34,7 @@ class Sessione {
     explicit Sessione(const QString& cartella);
 
     Archive& Archivio() { return archive_; }
+    [[nodiscard]] const Archive& Archivio() const { return archive_; }
     [[nodiscard]] const QString& Cartella() const { return cartella_; }
 
     /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.

@@ -39,6 +39,7 @@ QString UsoMinimo(const Verbo& verbo) {
 void ScriviAiuto(QTextStream& uscita) {
     uscita << u"Cronovia, l'orario dei viaggi in camper.\n\n"
               "Uso: cronovia [--cartella DIR]                     apre la finestra\n"
+              "     cronovia [--cartella DIR] FILE.iei            la apre e importa dal file di scambio\n"
               "     cronovia [--cartella DIR] VERBO [argomenti]   lavora da riga di comando\n\n"_s;
     TabellaTesti verbi{{QString(), QString()}, {}, {}};
     for (const Verbo& verbo : Verbi()) {
@@ -146,11 +147,14 @@ int Esegui(const QStringList& riga, QTextStream& uscita) {
 
 }  // namespace
 
-std::optional<QString> CartellaDellaFinestra(const QStringList& riga) {
+std::optional<RichiestaFinestra> RichiestaDellaFinestra(const QStringList& riga) {
     QCommandLineParser parser;
     AggiungiOpzioniComuni(parser);
-    const bool soloCartella = parser.parse(riga) && parser.positionalArguments().isEmpty() && !parser.isSet(u"help"_s);
-    return soloCartella ? std::optional(parser.value(u"cartella"_s)) : std::nullopt;
+    if (!parser.parse(riga) || parser.isSet(u"help"_s)) return std::nullopt;
+    const QStringList argomenti = parser.positionalArguments();
+    const bool soloFile = argomenti.size() == 1 && argomenti.first().endsWith(".iei"_L1, Qt::CaseInsensitive);
+    if (!argomenti.isEmpty() && !soloFile) return std::nullopt;
+    return RichiestaFinestra{parser.value(u"cartella"_s), argomenti.value(0)};
 }
 
 bool VuoleCaratteri(const QStringList& riga) {

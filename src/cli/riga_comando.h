@@ -7,9 +7,14 @@
 
 namespace cronovia {
 
-/// The data folder that a line without a verb names for the window, empty when it names none; nothing when the line
-/// is one for `EseguiRigaDiComando`.
-std::optional<QString> CartellaDellaFinestra(const QStringList& riga);
+/// What a line without a verb asks of the window: a data folder, an exchange file to import, each empty when not named.
+struct RichiestaFinestra {
+    QString cartella;
+    QString file;
+};
+
+/// Nothing when the line is one for `EseguiRigaDiComando`.
+std::optional<RichiestaFinestra> RichiestaDellaFinestra(const QStringList& riga);
 
 /// Whether the line draws a PDF file: that needs fonts, and with them a QGuiApplication.
 bool VuoleCaratteri(const QStringList& riga);

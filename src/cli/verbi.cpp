@@ -68,7 +68,7 @@ const std::vector<Verbo>& Verbi() {
          &EseguiEsporta},
         {u"converte"_s,
          {},
-         u"Converte i vecchi file (VandMete.dat, VandGuid.dat, vandNNNN.dat) della cartella dei dati; ne resta una copia."_s,
+         u"Converte i vecchi file della cartella dei dati (VandMete.dat e gli altri); ne resta una copia."_s,
          {},
          0,
          0,

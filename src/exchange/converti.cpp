@@ -68,6 +68,9 @@ class Convertitore {
     void ScorriRecord(const QString& path, const FormaRecord& forma, Visita&& visita);
     void Lascia(const QString& nome, const QString& perche) { esito_.lasciati.push_back({nome, perche}); }
     void CancellaConvertiti();
+    void RispettaStop() {
+        if (progress_.StopRequested()) throw Failure(u"Conversione interrotta: niente è stato convertito."_s);
+    }
 
     Archive& archive_;
     VecchiFile file_;
@@ -106,6 +109,7 @@ void Convertitore::ScorriRecord(const QString& path, const FormaRecord& forma, V
     RecordFisso record;
     qint64 guasti = 0;
     while (lettore.Leggi(record)) {
+        RispettaStop();
         progress_.Advance(static_cast<double>(lettore.Letti()), static_cast<double>(lettore.NumeroRecord()));
         if (!visita(record)) ++guasti;
     }
@@ -150,6 +154,7 @@ void Convertitore::ConvertiItinerari() {
     QSet<QString> visti;  // longer codes may end alike; a file belongs to the first trip of its name
     double fatti = 0;
     for (const QString& codice : codici) {
+        RispettaStop();
         progress_.Advance(++fatti, static_cast<double>(codici.size()));
         const QString nome = NomeVecchieTappe(codice);
         if (visti.contains(nome.toLower())) continue;

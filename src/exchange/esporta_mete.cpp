@@ -92,6 +92,10 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     return codici;
 }
 
+void RispettaStop(Progress& progress) {
+    if (progress.StopRequested()) throw Failure(u"Esportazione interrotta: il file non è stato scritto."_s);
+}
+
 // One of the two sections that go trip after trip; returns its records.
 qint64 ScriviSezione(Archive& archive, Tabella tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
                      Progress& progress) {
@@ -99,6 +103,7 @@ qint64 ScriviSezione(Archive& archive, Tabella tabella, const std::vector<QStrin
     qint64 scritti = 0;
     double fatte = 0;
     for (const QString& codice : codici) {
+        RispettaStop(progress);
         progress.Advance(++fatte, static_cast<double>(codici.size()));
         for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
             scrittore.Riga(tabella, record);
@@ -113,6 +118,7 @@ qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress
     const auto totale = static_cast<double>(archive.Count(Tabella::GuidaCitta));
     qint64 scritti = 0;
     archive.ForEach(Tabella::GuidaCitta, [&](const Record& record) {
+        RispettaStop(progress);
         if (scritti == 0) scrittore.Intestazione(Tabella::GuidaCitta);
         scrittore.Riga(Tabella::GuidaCitta, record);
         progress.Advance(static_cast<double>(++scritti), totale);

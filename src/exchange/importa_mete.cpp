@@ -8,6 +8,7 @@
 #include "exchange/elenco_mete.h"
 #include "exchange/mappa_codici.h"
 #include "exchange/nomi_presenti.h"
+#include "interaction/failure.h"
 
 namespace cronovia {
 
@@ -128,6 +129,20 @@ void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresen
     presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
 }
 
+EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& device, Progress& progress) {
+    progress.Title(u"Importazione mète"_s);
+    device.seek(0);
+    LettoreIei lettore(device, {std::nullopt, u"Importazione "_s, {}}, progress);
+    Importatore importatore(archive, codici);
+    RigaIei riga;
+    while (lettore.Leggi(riga)) {
+        if (progress.StopRequested()) throw Failure(u"Importazione interrotta: niente è stato inserito."_s);
+        importatore.Importa(riga);
+    }
+    importatore.Esito().lettura = lettore.Scarti();
+    return std::move(importatore.Esito());
+}
+
 }  // namespace
 
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
@@ -141,17 +156,12 @@ EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Pro
                [&](const RigaIei& riga) { codici.Aggiungi(riga.valori[mete::CodiceMeta]); });
     Transaction transaction(richiesta.archive);
     codici.Scegli(richiesta.codici, richiesta.archive);
-
-    progress.Title(u"Importazione mète"_s);
-    device.seek(0);
-    LettoreIei lettore(device, {std::nullopt, u"Importazione "_s, {}}, progress);
-    Importatore importatore(richiesta.archive, codici);
-    RigaIei riga;
-    while (lettore.Leggi(riga)) importatore.Importa(riga);
+    OsservaAggiunte aggiunte(richiesta.archive);
+    EsitoImport esito = ImportaRighe(richiesta.archive, codici, device, progress);
+    esito.traccia = aggiunte.Fine();
     transaction.Commit();
     progress.Advance(0, 0);
-    importatore.Esito().lettura = lettore.Scarti();
-    return std::move(importatore.Esito());
+    return esito;
 }
 
 }  // namespace cronovia

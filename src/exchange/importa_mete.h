@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "exchange/annulla_import.h"
 #include "exchange/lettore_iei.h"
 #include "interaction/progress.h"
 #include "store/archive.h"
@@ -32,6 +33,8 @@ struct EsitoImport {
     qint64 meteIncomplete = 0;  ///< trips without destination, or without a code of at most 20 characters
     qint64 tappeSenzaMeta = 0;  ///< stages of no trip of the file
     ScartiLettura lettura;
+
+    TracciaImport traccia;  ///< to take it back by
 };
 
 /// Adds what the archive has not yet, whole or not at all. A trip whose destination is stored, by the rules of name

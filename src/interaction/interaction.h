@@ -33,6 +33,8 @@ class Interaction {
 
     virtual void Show(const Message& message) = 0;
     virtual Answer Ask(const Question& question) = 0;
+    /// A message with a second button of that caption, which takes back what it tells of; true when it was pressed.
+    virtual bool ShowUndoable(const Message& message, const QString& caption) = 0;
 };
 
 /// The confirmation that commands share: "Confermi ...?" with the name of the operation of that code ("I", "M", "A",

@@ -302,9 +302,9 @@ std::int64_t Archive::LastId(Tabella tabella) {
     return connection_->Number("SELECT COALESCE(MAX(rowid), 0) FROM " + Name(Definizione(tabella).nome));
 }
 
-Archive::Mark Archive::PresentMark() {
-    return {connection_->Number("PRAGMA data_version"), connection_->Database().getTotalChanges()};
-}
+Archive::Mark Archive::PresentMark() { return {connection_->Number("PRAGMA data_version"), OwnChanges()}; }
+
+std::int64_t Archive::OwnChanges() const { return connection_->Database().getTotalChanges(); }
 
 std::int64_t Archive::Insert(Tabella tabella, std::span<const QString> valori) {
     const DefinizioneTabella& table = Definizione(tabella);

@@ -91,6 +91,8 @@ class Archive {
         friend bool operator==(const Mark&, const Mark&) = default;
     };
     Mark PresentMark();
+    /// Its part about this object, known without asking the file.
+    [[nodiscard]] std::int64_t OwnChanges() const;
 
     /// The highest id of a table, 0 when it is empty. A new row gets the next one.
     std::int64_t LastId(Tabella tabella);

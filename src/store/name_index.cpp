@@ -50,33 +50,74 @@ void NameIndex::Add(std::int64_t id, const std::vector<QString>& valori) {
     });
 }
 
-std::optional<std::int64_t> NameIndex::Find(const NamePattern& pattern) {
-    const NamePattern reversed = pattern.Reversed();
-    return reversed.LiteralStart() > pattern.LiteralStart() ? FindIn("rovescio", reversed) : FindIn("nome", pattern);
-}
+// One of the two ways through the names: those in the ranges of a pattern, row after row.
+class NameIndex::Way {
+  public:
+    Way(Archive::Connection& connection, const std::string& table, const std::string& column, NamePattern pattern)
+        : connection_(connection),
+          select_("SELECT id, " + column + " FROM " + table),
+          column_(column),
+          pattern_(std::move(pattern)),
+          ranges_(pattern_.Ranges()),
+          all_(ranges_.empty()) {}
+    ~Way() {
+        if (statement_ != nullptr) statement_->tryReset();
+    }
+    Way(const Way&) = delete;
+    Way& operator=(const Way&) = delete;
 
-std::optional<std::int64_t> NameIndex::FindIn(const std::string& column, const NamePattern& pattern) {
-    const std::vector<NamePattern::Range> ranges = pattern.Ranges();
-    const std::string select = "SELECT id, " + column + " FROM " + table_;
-    std::optional<std::int64_t> found;
-    const auto look = [&](SQLite::Statement& statement) {
-        while (!found && statement.executeStep()) {
-            if (pattern.Matches(ColumnText(statement, 1))) found = statement.getColumn(0).getInt64();
+    /// Looks at the next name; false behind the last one.
+    bool Step() {
+        while (statement_ != nullptr || Open()) {
+            if (statement_->executeStep()) {
+                if (pattern_.Matches(ColumnText(*statement_, 1))) found_ = statement_->getColumn(0).getInt64();
+                return true;
+            }
+            statement_->reset();
+            statement_ = nullptr;
         }
-        statement.reset();
-    };
-    Guarded(connection_.Path(), [&] {
-        if (ranges.empty()) look(connection_.Prepared(select));
-        for (const NamePattern::Range& range : ranges) {
-            const std::string test = range.single ? " = ?1" : " >= ?1 AND " + column + " < ?2";
-            SQLite::Statement& statement = connection_.Prepared(select + " WHERE " + column + test);
-            BindText(statement, 1, range.from);
-            if (!range.single) BindText(statement, 2, range.to);
-            look(statement);
-            if (found) return;
+        return false;
+    }
+    [[nodiscard]] const std::optional<std::int64_t>& Found() const { return found_; }
+
+  private:
+    bool Open() {
+        if (next_ == (all_ ? 1 : ranges_.size())) return false;
+        if (all_) {
+            statement_ = &connection_.Prepared(select_);
+        } else {
+            const NamePattern::Range& range = ranges_[next_];
+            const std::string test = range.single ? " = ?1" : " >= ?1 AND " + column_ + " < ?2";
+            statement_ = &connection_.Prepared(select_ + " WHERE " + column_ + test);
+            BindText(*statement_, 1, range.from);
+            if (!range.single) BindText(*statement_, 2, range.to);
+        }
+        ++next_;
+        return true;
+    }
+
+    Archive::Connection& connection_;
+    std::string select_;
+    std::string column_;
+    NamePattern pattern_;
+    std::vector<NamePattern::Range> ranges_;
+    bool all_;
+    std::size_t next_ = 0;
+    SQLite::Statement* statement_ = nullptr;
+    std::optional<std::int64_t> found_;
+};
+
+// Which way is the shorter one shows only on the way: both go on in turns, and the first to end has the answer.
+std::optional<std::int64_t> NameIndex::Find(const NamePattern& pattern) {
+    return Guarded(connection_.Path(), [&] {
+        Way fromStart(connection_, table_, "nome", pattern);
+        Way fromEnd(connection_, table_, "rovescio", pattern.Reversed());
+        for (;;) {
+            for (Way* way : {&fromStart, &fromEnd}) {
+                if (!way->Step() || way->Found()) return way->Found();
+            }
         }
     });
-    return found;
 }
 
 }  // namespace cronovia

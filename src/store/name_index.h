@@ -29,7 +29,7 @@ class NameIndex {
     std::optional<std::int64_t> Find(const NamePattern& pattern);
 
   private:
-    std::optional<std::int64_t> FindIn(const std::string& column, const NamePattern& pattern);
+    class Way;
 
     Archive::Connection& connection_;
     std::string table_;

@@ -159,12 +159,6 @@ NamePattern NamePattern::Reversed() const {
     return reversed;
 }
 
-std::size_t NamePattern::LiteralStart() const {
-    const auto wildcard = std::find_if(elements_.begin(), elements_.end(),
-                                       [](const Element& element) { return element.kind != Kind::Literal; });
-    return static_cast<std::size_t>(wildcard - elements_.begin());
-}
-
 std::vector<NamePattern::Range> NamePattern::Ranges() const {
     std::vector<std::u32string> prefixes(1);
     std::size_t used = 0;

@@ -31,9 +31,6 @@ class NamePattern {
     /// The pattern of the same texts written from their end to their beginning.
     [[nodiscard]] NamePattern Reversed() const;
 
-    /// Characters without wildcards with which every text that matches begins.
-    [[nodiscard]] std::size_t LiteralStart() const;
-
     /// Stretch of the order in which ASCII letters of both cases are the same and all else goes by its UTF-8 bytes:
     /// the single key `from` when `single`, else the keys from `from` up to, but without, `to`.
     struct Range {

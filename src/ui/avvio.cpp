@@ -4,6 +4,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QTimer>
 #include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
@@ -30,7 +31,7 @@ void SenzaSchermo(QtMsgType type, const QMessageLogContext& /*context*/, const Q
 
 }  // namespace
 
-int ApriFinestra(int argc, char* argv[], const QString& cartella) {
+int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString& file) {
     qInstallMessageHandler(SenzaSchermo);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
@@ -44,6 +45,7 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella) {
     try {
         FormMete form(CartellaDati(LuoghiDellaPiattaforma(cartella)), &QDateTime::currentDateTime);
         form.show();
+        if (!file.isEmpty()) QTimer::singleShot(0, &form, [&] { form.ApriFile(file); });
         return QApplication::exec();
     } catch (const Failure& failure) {
         std::fputs(qPrintable(failure.Message() + u'\n'), stderr);

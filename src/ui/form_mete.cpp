@@ -38,6 +38,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       tempi_(new FrmMeteTempi),
       bottoni_(new FrmBottoni),
       inserimento_(new FrmInputBox),
+      export_(new FrmExport),
       griglia_(new VistaGriglia),
       cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)),
       cmbRicercaTappa_(new ElencoScelta(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
@@ -46,6 +47,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     setWindowTitle(u"Cronovia"_s);
     Disponi();
     Collega();
+    CollegaScambio();
     RipristinaAspetto();
     Mostra();
 }
@@ -63,6 +65,7 @@ void FormMete::Disponi() {
     layout->addWidget(CreaMete());
     layout->addWidget(avanzamento_);
     layout->addWidget(CreaGriglia(), 1);
+    layout->addWidget(export_, 1);
     layout->addWidget(bottoni_);
     setCentralWidget(centro);
 }
@@ -81,6 +84,7 @@ QWidget* FormMete::CreaMete() {
 // The grid takes the room that is left; the lists lie over it, the entry frame beside it.
 QWidget* FormMete::CreaGriglia() {
     auto* area = new QWidget;
+    area->setObjectName(u"areaGriglia"_s);
     auto* layout = new QGridLayout(area);
     layout->setContentsMargins({});
     layout->addWidget(griglia_, 0, 0);
@@ -133,8 +137,6 @@ void FormMete::Collega() {
         });
     });
     connect(bottoni_, &FrmBottoni::Premuto, this, [this](Comando comando) { EseguiComando(comando); });
-    connect(bottoni_, &FrmBottoni::Converte, this,
-            [this] { Esegui([this] { scrivania_.NonDisponibile(u"Converte"_s); }); });
     connect(inserimento_, &FrmInputBox::Premuto, this, [this](ComandoItinerario c) { EseguiComando(c); });
     connect(inserimento_, &FrmInputBox::AltriPacchetti, this, [this] {
         Esegui([this] { scrivania_.AltriPacchetti([this] { return ScegliFilePercorso(*this); }); });
@@ -217,8 +219,7 @@ void FormMete::EseguiComando(Comando comando) {
             return guida_->Apri();
         case Comando::Import:
         case Comando::Export:
-            return Esegui(
-                [this, comando] { scrivania_.NonDisponibile(bottoni_->Pulsante(comando).text().remove(u'&')); });
+            return Scambio(comando);
     }
 }
 
@@ -342,7 +343,7 @@ void FormMete::Mostra() {
     velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->guidaGiorno)
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
     tempi_->Mostra(meta.parametri);
-    const bool campiLiberi = !cronovia && !scrivania_.CalcoloInCorso();
+    const bool campiLiberi = !cronovia && !scrivania_.CalcoloInCorso() && !scrivania_.Scambio();
     for (QWidget* riquadro :
          {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
         riquadro->setEnabled(campiLiberi);
@@ -350,6 +351,7 @@ void FormMete::Mostra() {
     MostraGriglia();
     MostraElenchi();
     MostraInserimento(stato);
+    MostraScambio();
     bottoni_->Applica(stato, cronovia.has_value(), scrivania_.ConverteOfferto());
     stampa_->Aggiorna();
     // Alt+S is that of the print frames then.

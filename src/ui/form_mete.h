@@ -15,6 +15,7 @@
 #include "ui/comando_stampa.h"
 #include "ui/elenco_scelta.h"
 #include "ui/frm_bottoni.h"
+#include "ui/frm_export.h"
 #include "ui/frm_input_box.h"
 #include "ui/frm_mete_periodo.h"
 #include "ui/frm_mete_tempi.h"
@@ -40,6 +41,9 @@ class FormMete : public QMainWindow {
     FormMete& operator=(const FormMete&) = delete;
     ~FormMete() override;
 
+    /// Opens the import of an exchange file.
+    void ApriFile(const QString& file);
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -57,6 +61,9 @@ class FormMete : public QMainWindow {
     void DistendiGuida();
     void MostraElenchi();
     void MostraInserimento(const StatoComandi& stato);
+    void CollegaScambio();
+    void Scambio(Comando comando);
+    void MostraScambio();
     void EseguiComando(Comando comando);
     void EseguiComando(ComandoItinerario comando);
     void Inserisci();
@@ -74,6 +81,7 @@ class FormMete : public QMainWindow {
     FrmMeteTempi* tempi_;
     FrmBottoni* bottoni_;
     FrmInputBox* inserimento_;
+    FrmExport* export_;
     VistaGriglia* griglia_;
     ModelloGriglia modello_;
     ElencoScelta* cmbRicerca_;

@@ -2,12 +2,18 @@
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace cronovia {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 QString Titolo(const QString& titolo) { return titolo.isEmpty() ? QCoreApplication::applicationName() : titolo; }
+
+// Some texts are those of files and terminals as well.
+QString InRighe(QString text) { return text.replace("\r\n"_L1, "\n"_L1); }
 
 QMessageBox::Icon Icona(Icon icon) {
     switch (icon) {
@@ -24,9 +30,18 @@ QMessageBox::Icon Icona(Icon icon) {
 }  // namespace
 
 void InterazioneFinestra::Show(const Message& message) {
-    QMessageBox box(Icona(message.icon), Titolo(message.title), message.text, QMessageBox::Ok, &finestra_);
+    QMessageBox box(Icona(message.icon), Titolo(message.title), InRighe(message.text), QMessageBox::Ok, &finestra_);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+bool InterazioneFinestra::ShowUndoable(const Message& message, const QString& caption) {
+    QMessageBox box(Icona(message.icon), Titolo(message.title), InRighe(message.text), QMessageBox::Ok, &finestra_);
+    box.setTextFormat(Qt::PlainText);
+    box.addButton(QMessageBox::Discard)->setText(caption);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    return box.exec() == QMessageBox::Discard;
 }
 
 Answer InterazioneFinestra::Ask(const Question& question) {

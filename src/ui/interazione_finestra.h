@@ -13,6 +13,7 @@ class InterazioneFinestra : public Interaction {
 
     void Show(const Message& message) override;
     Answer Ask(const Question& question) override;
+    bool ShowUndoable(const Message& message, const QString& caption) override;
 
   private:
     QWidget& finestra_;

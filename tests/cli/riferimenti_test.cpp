@@ -28,9 +28,10 @@ TEST(Riferimenti, AreAsReviewed) {
              Riferimento{"cronovia/provenza-8-giorni.tsv", "provenza",
                          "calcola 3 --giorni 8 --formato tsv"},  // in vain
              Riferimento{"cli/itinerario.txt", "provenza", "itinerario 3"},
-             Riferimento{"cli/aiuto.txt", "provenza",
-                         "--help|elenca --help|nuova --help|importa --help|esporta --help|itinerario --help|"
-                         "percorso --help|calcola --help|stampa --help|guida --help"},
+             Riferimento{
+                 "cli/aiuto.txt", "provenza",
+                 "--help|elenca --help|nuova --help|importa --help|esporta --help|converte --help|itinerario --help|"
+                 "percorso --help|calcola --help|stampa --help|guida --help"},
          }) {
         const Programma programma;
         programma.ImportaEsempio(QString::fromLatin1(riferimento.viaggio));

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "store/archive.h"
+#include "store/name_index.h"
 #include "support/prova.h"
 
 namespace cronovia {
@@ -68,6 +69,7 @@ TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
     std::vector<Record> tutti = archive.Select({Tabella::GuidaCitta, {}});
     ASSERT_EQ(tutti.size(), nomi.size());
 
+    NameIndex indice(archive, Tabella::GuidaCitta, {guida::Localita});
     std::size_t trovati = 0;
     for (int giro = 0; giro < 1500; ++giro) {
         const QString testo = generatore.Modello(nomi.at(static_cast<std::size_t>(generatore.Numero(300))));
@@ -79,6 +81,8 @@ TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
         const std::vector<Record> risultato = archive.Select({Tabella::GuidaCitta, {{guida::Localita, modello}}});
         ASSERT_EQ(Id(risultato), attesi) << testo.toStdString();
         ASSERT_EQ(risultato.size(), attesi.size()) << "a row came twice: " << testo.toStdString();
+        const auto uno = indice.Find(modello);
+        ASSERT_TRUE(uno ? attesi.contains(*uno) : attesi.empty()) << testo.toStdString();
         trovati += attesi.size();
     }
     EXPECT_GT(trovati, 2000U);  // the patterns are worth the name

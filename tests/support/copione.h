@@ -46,6 +46,10 @@ class Copione : public Interaction {
         return attesa.risposta.value_or(Answer::No);
     }
 
+    bool ShowUndoable(const Message& message, const QString& caption) override {
+        return Ask({message.text + u'|' + caption, message.title}) == Answer::Yes;
+    }
+
   private:
     struct Battuta {
         QString testo;

@@ -1,0 +1,45 @@
+// What the exchange screen works on: the trips to choose from and those that are chosen.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <vector>
+
+#include "exchange/elenco_mete.h"
+
+namespace cronovia {
+
+enum class ModoScambio { Export, Import };
+
+/// Two lists between which trips move. An export takes its trips from list 0 to list 1, an import those of its file
+/// from list 1 to list 0.
+class TavoloScambio {
+  public:
+    using Lista = std::vector<MetaNelFile>;
+
+    /// For an import `file` is the one that the trips are in.
+    TavoloScambio(ModoScambio modo, QString file, Lista mete);
+
+    [[nodiscard]] ModoScambio Modo() const { return modo_; }
+    [[nodiscard]] const QString& File() const { return file_; }
+    [[nodiscard]] const Lista& Mete(int lista) const { return liste_[static_cast<std::size_t>(lista)]; }
+    /// The list whose trips the run takes, and their codes.
+    [[nodiscard]] const Lista& Scelte() const { return Mete(modo_ == ModoScambio::Export ? 1 : 0); }
+    [[nodiscard]] std::vector<QString> CodiciScelti() const;
+
+    /// Moves the trip of a row, counted from 0, behind the last one of the other list; a free row moves nothing.
+    void TrasferisceMeta(int lista, int riga);
+    void TrasferisceTutte(int lista);
+
+    // The texts on screen.
+    [[nodiscard]] QString Etichetta(int lista) const;
+    [[nodiscard]] QString ScrittaTutto(int lista) const;
+    [[nodiscard]] QString ScrittaImExp() const;
+
+  private:
+    ModoScambio modo_;
+    QString file_;
+    std::array<Lista, 2> liste_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,36 @@
+// Taking an import back.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// What an import added, which is all that it changed, and how the archive looked right after it.
+struct TracciaImport {
+    struct Righe {
+        Tabella tabella = Tabella::MeteVandro;
+        std::int64_t dopo = 0;  ///< the rows have greater ids than this
+        std::int64_t ultima = 0;
+    };
+    std::vector<Righe> aggiunte;
+    Archive::Mark stato;
+};
+
+/// Deletes the rows of an import, whole or not at all. A `Failure` when anything was written to the archive since.
+void AnnullaImport(Archive& archive, const TracciaImport& traccia);
+
+/// Notes the rows that are added within a transaction of the caller, between construction and `Fine`.
+class OsservaAggiunte {
+  public:
+    explicit OsservaAggiunte(Archive& archive);
+    TracciaImport Fine();
+
+  private:
+    Archive& archive_;
+    TracciaImport traccia_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,34 @@
+// Exchange files chosen in a dialog, dropped on the window, or handed over by the desktop.
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+namespace cronovia {
+
+/// Ask for a file; the empty text when the person wants none.
+QString ScegliFileDaImportare(QWidget& finestra);
+QString ScegliFileDaEsportare(QWidget& finestra);
+
+/// Tells of exchange files that are dropped anywhere on a window, or that the desktop wants the program to open.
+class RicezioneFile : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit RicezioneFile(QWidget& finestra);
+
+  Q_SIGNALS:
+    void Arrivato(const QString& file);
+
+  protected:
+    bool eventFilter(QObject* oggetto, QEvent* event) override;
+
+  private:
+    [[nodiscard]] bool DellaFinestra(const QObject* oggetto) const;
+
+    QWidget& finestra_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,31 @@
+// The rows of a picking grid: trips by number, destination, country and code.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <vector>
+
+#include "exchange/elenco_mete.h"
+
+namespace cronovia {
+
+class ModelloMete : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    enum Colonna { Num, Meta, Nazione, RecordMeta, kColonne };
+
+    /// A list that differs by one trip leaves the view where it is.
+    void Mostra(const std::vector<MetaNelFile>& mete);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    std::vector<MetaNelFile> mete_;
+};
+
+}  // namespace cronovia
