@@ -9,6 +9,7 @@
 #include "exchange/esporta_mete.h"
 #include "exchange/importa_mete.h"
 #include "interaction/failure.h"
+#include "itinerary/itinerari.h"
 
 namespace cronovia {
 
@@ -160,7 +161,7 @@ void Scrivania::FineScambio() {
 }
 
 std::optional<QString> Scrivania::DaAnnullareImport() const {
-    const bool possibile = import_ && !scambio_ && !cronovia_ && !elencoMete_ && !calcoloInCorso_ &&
+    const bool possibile = import_ && Comandi().Abilitato(Comando::Import) &&
                            sessione_.Archivio().OwnChanges() == import_->traccia.stato.own;
     return possibile ? std::optional(u"importazione di %1"_s.arg(import_->file)) : std::nullopt;
 }
@@ -168,8 +169,15 @@ std::optional<QString> Scrivania::DaAnnullareImport() const {
 void Scrivania::AnnullaImportazione() {
     const ImportFatto fatto = *std::exchange(import_, std::nullopt);
     Prova([&] {
-        cronovia::AnnullaImport(sessione_.Archivio(), fatto.traccia);
-        CaricaMetaCorrente();
+        Archive& archivio = sessione_.Archivio();
+        AnnullaImport(archivio, fatto.traccia);
+        if (CaricaDatiAnagraficiMeta(archivio, codiceMetaCorrente_)) {
+            RicalcolaVisite(archivio, righe_, meta_.parametri);  // what is typed in the trip's fields stays
+            RicalcolaTempi();
+            memorizzate_ = righe_;
+        } else {
+            CaricaMetaCorrente();
+        }
         volti_.mostra();
         volti_.interazione.Show({u"L'importazione di %1 è stata annullata."_s.arg(fatto.file), {}, Icon::Information});
     });

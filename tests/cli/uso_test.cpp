@@ -24,11 +24,14 @@ TEST(Uso, HelpAndVersionNeedNoFolder) {
 
 TEST(Uso, TheWindowNeedsADisplay) {
     const Programma programma;
-    const Risposta risposta = programma.Esegui({});
-    EXPECT_EQ(risposta.codice, 1);
-    EXPECT_EQ(
-        risposta.errori,
-        u"La finestra non si può aprire: non c'è uno schermo. I comandi da terminale funzionano anche senza finestra: cronovia --help\n"_s);
+    for (const QStringList& argomenti : {QStringList{}, QStringList{u"viaggi di amici.IEI"_s}}) {
+        const Risposta risposta = programma.Esegui(argomenti);
+        EXPECT_EQ(risposta.codice, 1);
+        EXPECT_EQ(risposta.errori,
+                  u"La finestra non si può aprire: non c'è uno schermo. I comandi da terminale funzionano anche senza "
+                  "finestra: cronovia --help\n"_s);
+    }
+    EXPECT_EQ(programma.Esegui({u"a.iei"_s, u"b.iei"_s}).codice, 2);
 }
 
 TEST(Uso, WrongLinesAreRefusedBeforeAnythingIsMade) {
