@@ -25,6 +25,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::size_t kFileMostrati = 20;  // no box is higher than a screen
+
 NamePattern Codice(const QString& codice) { return NamePattern::Exactly(codice); }
 
 // The stages of one trip by their sequence.
@@ -101,19 +103,22 @@ EsitoConversione Convertitore::Esegui() {
     return std::move(esito_);
 }
 
-// Visits the valid records; a file without any is none of ours.
+// Visits all records; a file that holds something, but nothing valid, is none of ours.
 template <typename Visita>
 void Convertitore::ScorriRecord(const QString& path, const FormaRecord& forma, Visita&& visita) {
     const std::unique_ptr<QFile> file = ApriInLettura(file_.Copia(path));
     LettoreRecord lettore(*file, forma, path);
     RecordFisso record;
+    qint64 validi = 0;
     qint64 guasti = 0;
     while (lettore.Leggi(record)) {
         RispettaStop();
         progress_.Advance(static_cast<double>(lettore.Letti()), static_cast<double>(lettore.NumeroRecord()));
-        if (!visita(record)) ++guasti;
+        const StatoRecord stato = visita(record);
+        if (stato == StatoRecord::Valido) ++validi;
+        if (stato == StatoRecord::Guasto) ++guasti;
     }
-    if (guasti > 0 && guasti == lettore.NumeroRecord()) {
+    if (guasti > 0 && validi == 0) {
         throw Failure(u"Il file %1 non è dell'edizione precedente: nessuno dei suoi record è leggibile."_s.arg(
             QDir::toNativeSeparators(path)));
     }
@@ -128,7 +133,7 @@ void Convertitore::ConvertiMete(const QString& path) {
     ScorriRecord(path, FormaVecchieMete(), [&](const RecordFisso& record) {
         const StatoRecord stato = StatoVecchiaMeta(record);
         if (stato == StatoRecord::Valido) ConvertiMeta(record, altri);
-        return stato != StatoRecord::Guasto;
+        return stato;
     });
 }
 
@@ -206,7 +211,7 @@ void Convertitore::ConvertiGuida(const QString& path) {
     ScorriRecord(path, FormaVecchiaGuida(), [&](const RecordFisso& record) {
         const StatoRecord stato = StatoVecchiaVoce(record);
         if (stato == StatoRecord::Valido) MemorizzaVoce(ValoriVecchiaVoce(record), presenti);
-        return stato != StatoRecord::Guasto;
+        return stato;
     });
 }
 
@@ -242,9 +247,12 @@ QString TestoEsito(const EsitoConversione& esito) {
             u"\r\n\r\nUna copia dei vecchi file è nella cartella "_s + QDir::toNativeSeparators(esito.cartellaCopie);
     }
     if (!esito.lasciati.empty()) testo += u"\r\n\r\nFile da controllare:"_s;
-    for (const EsitoConversione::FileLasciato& file : esito.lasciati) {
-        testo += u"\r\n%1: %2"_s.arg(file.nome, file.perche);
+    const std::size_t mostrati = std::min(esito.lasciati.size(), kFileMostrati);
+    for (std::size_t i = 0; i < mostrati; ++i) {
+        testo += u"\r\n%1: %2"_s.arg(esito.lasciati[i].nome, esito.lasciati[i].perche);
     }
+    const auto altri = static_cast<qint64>(esito.lasciati.size() - mostrati);
+    if (altri > 0) testo += u"\r\ne altri "_s + Raggruppa(altri);
     if (esito.guasti > 0) testo += u"\r\n\r\nRecord illeggibili, non convertiti: "_s + Raggruppa(esito.guasti);
     return testo;
 }

@@ -32,6 +32,12 @@ std::string MakeInsertSql(const DefinizioneTabella& table) {
     return "INSERT INTO " + Name(table.nome) + " (" + ColumnNames(table) + ") VALUES (" + marks + ")";
 }
 
+std::string MakeUpdateSql(const DefinizioneTabella& table) {
+    std::string changes;
+    for (const Campo& campo : table.campi) changes += (changes.empty() ? "" : ", ") + Name(campo.nome) + " = ?";
+    return "UPDATE " + Name(table.nome) + " SET " + changes + " WHERE rowid = ?";
+}
+
 std::string MakeSelectSql(const DefinizioneTabella& table) {
     return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.nome);
 }
@@ -322,10 +328,7 @@ void Archive::Update(Tabella tabella, const Record& record) {
     const DefinizioneTabella& table = Definizione(tabella);
     CheckWidths(table, record.valori);
     Guarded(connection_->Path(), [&] {
-        std::string changes;
-        for (const Campo& campo : table.campi) changes += (changes.empty() ? "" : ", ") + Name(campo.nome) + " = ?";
-        SQLite::Statement& statement =
-            connection_->Prepared("UPDATE " + Name(table.nome) + " SET " + changes + " WHERE rowid = ?");
+        SQLite::Statement& statement = connection_->Prepared(SqlFor<MakeUpdateSql>(tabella));
         BindValues(statement, table, record.valori);
         statement.bind(static_cast<int>(table.campi.size()) + 1, record.id);
         statement.exec();

@@ -7,6 +7,15 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QVariant Allineamento(int colonna) {
+    const bool testo = colonna == ModelloMete::Meta || colonna == ModelloMete::Nazione;
+    return QVariant(Qt::AlignVCenter | (testo ? Qt::AlignLeft : Qt::AlignRight));
+}
+
+}  // namespace
+
 void ModelloMete::Mostra(const std::vector<MetaNelFile>& mete) {
     const auto [prima, dopo] = std::mismatch(mete_.begin(), mete_.end(), mete.begin(), mete.end());
     const auto riga = static_cast<int>(prima - mete_.begin());
@@ -37,10 +46,7 @@ int ModelloMete::columnCount(const QModelIndex& parent) const { return parent.is
 QVariant ModelloMete::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const MetaNelFile& meta = mete_[static_cast<std::size_t>(index.row())];
-    if (role == Qt::TextAlignmentRole) {
-        const bool testo = index.column() == Meta || index.column() == Nazione;
-        return QVariant(Qt::AlignVCenter | (testo ? Qt::AlignLeft : Qt::AlignRight));
-    }
+    if (role == Qt::TextAlignmentRole) return Allineamento(index.column());
     if (role != Qt::DisplayRole) return {};
     switch (index.column()) {
         case Num:
@@ -56,7 +62,9 @@ QVariant ModelloMete::data(const QModelIndex& index, int role) const {
 
 QVariant ModelloMete::headerData(int section, Qt::Orientation orientation, int role) const {
     static const std::array<QString, kColonne> intestazioni = {u"Num"_s, u"Mèta"_s, u"Nazione"_s, u"Record"_s};
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::TextAlignmentRole) return Allineamento(section);
+    if (role != Qt::DisplayRole) return {};
     return intestazioni.at(static_cast<std::size_t>(section));
 }
 

@@ -141,6 +141,7 @@ TEST_F(Conversione, WhatIsNoneOfTheOldFilesIsRefusedWhole) {
              Caso{buone.chopped(12), {}, "VandMete.dat è troncato"},
              Caso{buone + "x", {}, "VandMete.dat è troncato"},
              Caso{binario, {}, "VandMete.dat non è dell'edizione"},
+             Caso{binario + Vecchia("..CANCELLATA", "1"), {}, "VandMete.dat non è dell'edizione"},
              Caso{QByteArray(10'000'000, 'x'), {}, "VandMete.dat non è dell'edizione"},
              Caso{buone, "ciao", "VandGuid.dat è troncato"},
              Caso{buone, binario, "VandGuid.dat non è dell'edizione"},
