@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QDir>
+#include <algorithm>
 
 #include "cli/opzioni_calcolo.h"
 #include "cli/verbi.h"
@@ -33,8 +34,8 @@ void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
     ScriviPdf(documento, file, progress);
     ScriviTabella(dati, sessione.Cartella());
     file.Chiudi();
-    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),
-                                                                     QString::number(documento.pagine.size()))
+    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(
+                  QDir::toNativeSeparators(path), QString::number(std::max<std::size_t>(documento.pagine.size(), 1)))
            << RigaTabellaScritta(sessione.Cartella());
     if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
 }

@@ -3,9 +3,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "exchange/scambio.h"
 
@@ -128,14 +125,8 @@ TEST_F(Export, RefusesBeforeAnythingIsWritten) {
 TEST_F(Export, AFullDiskLeavesTheOldFileInPlace) {
     TreMete();
     prova::ScriviFile(file_, "prezioso");
-    const auto prima = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limite{};
-    getrlimit(RLIMIT_FSIZE, &limite);
-    const rlimit stretto{100, limite.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &stretto);
-    const QString messaggio = Rifiuto({}, true);
-    setrlimit(RLIMIT_FSIZE, &limite);
-    std::signal(SIGXFSZ, prima);
+    QString messaggio;
+    prova::ConDiscoPieno(100, [&] { messaggio = Rifiuto({}, true); });
     EXPECT_EQ(messaggio, u"Il file %1 non è stato scritto: il disco è pieno o non si può scrivere."_s.arg(file_));
     EXPECT_EQ(LeggiFile(file_), "prezioso");
     EXPECT_EQ(cartella_.Contenuto().size(), 2);

@@ -5,9 +5,6 @@
 
 #include <QProcess>
 #include <QRegularExpression>
-#include <csignal>
-
-#include <sys/resource.h>
 
 #include "stampa.h"
 
@@ -121,14 +118,9 @@ TEST_F(FilePdf, WithoutPagesIsABlankSheet) {
 
 TEST_F(FilePdf, AFullDiskLeavesTheOldFileInPlace) {
     prova::ScriviFile(path_, "prezioso");
-    const auto prima = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limite{};
-    getrlimit(RLIMIT_FSIZE, &limite);
-    const rlimit stretto{10'000, limite.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &stretto);
-    const QString messaggio = prova::MessaggioDi([&] { Scrivi(prova::Stampa(prova::Viaggio(300))); });
-    setrlimit(RLIMIT_FSIZE, &limite);
-    std::signal(SIGXFSZ, prima);
+    QString messaggio;
+    prova::ConDiscoPieno(10'000,
+                         [&] { messaggio = prova::MessaggioDi([&] { Scrivi(prova::Stampa(prova::Viaggio(300))); }); });
     EXPECT_EQ(messaggio, u"Il file %1 non è stato scritto: il disco è pieno o non si può scrivere."_s.arg(path_));
     EXPECT_EQ(prova::LeggiFile(path_), "prezioso");
     EXPECT_EQ(cartella_.Contenuto(), QStringList{u"viaggio.pdf"_s});

