@@ -123,6 +123,11 @@ std::vector<Stretch> StretchesOf(std::span<const NamePattern> patterns) {
         merged.back().to = std::max(merged.back().to, stretch.to);
         merged.back().patterns.push_back(stretch.patterns.front());
     }
+    // A letter in both cases gives its pattern two stretches, which may have become one.
+    for (Stretch& stretch : merged) {
+        std::sort(stretch.patterns.begin(), stretch.patterns.end());
+        stretch.patterns.erase(std::unique(stretch.patterns.begin(), stretch.patterns.end()), stretch.patterns.end());
+    }
     return merged;
 }
 
