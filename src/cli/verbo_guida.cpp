@@ -14,6 +14,7 @@
 #include "itinerary/elenco_guida.h"
 #include "print/file_pdf.h"
 #include "print/stampa_guida.h"
+#include "print/tabella_testo.h"
 
 namespace cronovia {
 
@@ -116,6 +117,7 @@ void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream
     const DatiStampaGuida dati = PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
     if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
+    RifiutaFileTabella(path, sessione.Cartella());
     Progress progress;
     const Documento documento =
         StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);

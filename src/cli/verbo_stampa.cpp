@@ -25,6 +25,7 @@ void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
     Sessione sessione = apri();
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
+    RifiutaFileTabella(path, sessione.Cartella());
     Progress progress;
     const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);
     const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);

@@ -14,7 +14,7 @@ namespace {
 constexpr double kInterlinea = 3.3;
 constexpr double kRientro = 2;  // of the texts from the left border of their group
 constexpr int kRighe = 8;       // the captions and seven lines
-constexpr std::array<double, 4> kGruppi = {5, 66, 125, 193};
+constexpr std::array<double, 4> kGruppi = {kSinistraCronovia, 66, 125, 193};
 
 // The lines of one group, 0 being that of its caption.
 class Gruppo {
@@ -93,7 +93,7 @@ void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
 
 void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {
     constexpr double kOra = 13;
-    constexpr double kRiposi = 46;
+    constexpr double kRiposi = 40;
     gruppo.Titolo(u"Tempi tecnici giornalieri/Riposi/Visite:"_s);
     gruppo.VoceGrassetta(u"Orari attivita"_s, 1, kRientro);
     const std::array<std::pair<QString, QString>, 4> orari = {
@@ -130,7 +130,7 @@ void TracciaCornice(Foglio& foglio, double alto, double basso) {
 void StampaCaratteristiche(const DatiStampa& dati, Foglio& foglio) {
     const int prima = foglio.RigaStampa();
     constexpr int kAltezza = static_cast<int>(kRighe * kInterlinea);
-    TracciaCornice(foglio, prima - 2.0, prima + kAltezza + 0.6);
+    TracciaCornice(foglio, prima - 2.0, prima + kAltezza + 1.2);
     StampaPeriodo(dati, {foglio, 0});
     StampaPercorrenze(dati, {foglio, 1});
     StampaTempi(dati.meta.parametri, {foglio, 2});

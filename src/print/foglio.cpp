@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kEccedenza = 2;      // how far a text may reach over its column
-constexpr double kRientroCentro = 1;  // a centred text stands so far left of the middle
 constexpr Carattere kCarattereDelPiede{Famiglia::Times, 6};
 
 double Ascissa(const TestoColonna& testo, double larghezza) {
@@ -32,7 +30,8 @@ QString Inizio(const QString& testo, qsizetype unita) {
 
 }  // namespace
 
-Foglio::Foglio(const QString& titolo, PieDiPagina piede) : documento_{titolo, {}}, piede_(std::move(piede)) {}
+Foglio::Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro)
+    : documento_{titolo, {}, lavoro}, piede_(std::move(piede)) {}
 
 void Foglio::ApriPagina(int rigaStampa) {
     documento_.pagine.emplace_back();
@@ -53,7 +52,7 @@ void Foglio::StampaTesto(const TestoColonna& testo) {
     const QString scritto = Tagliato(testo.testo.trimmed(), testo.carattere, testo.x2 - testo.x1 + kEccedenza);
     if (scritto.isEmpty()) return;
     const double larghezza = misure_.Larghezza(scritto, testo.carattere);
-    const double base = testo.y - misure_.Discesa(testo.carattere);
+    const double base = BaseDaRiga(testo.y, testo.carattere);
     PaginaCorrente().testi.push_back({scritto, testo.carattere, Ascissa(testo, larghezza), base, larghezza});
 }
 

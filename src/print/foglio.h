@@ -20,6 +20,10 @@ inline constexpr int kDimensioneMinima = 5;
 
 /// How far before its border a text at the right ends.
 inline constexpr double kRientroDestra = 3;
+/// How far left of the middle a centred text stands.
+inline constexpr double kRientroCentro = 1;
+/// How far a text may reach over its column.
+inline constexpr double kEccedenza = 2;
 
 enum class Allineamento { Sinistra, Centro, Destra };
 
@@ -41,7 +45,7 @@ struct PieDiPagina {
 
 class Foglio {
   public:
-    Foglio(const QString& titolo, PieDiPagina piede);
+    Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro = {});
 
     /// Bottom line of the texts being written; beyond any page when none is open.
     [[nodiscard]] int RigaStampa() const { return rigaStampa_; }
@@ -62,10 +66,18 @@ class Foglio {
 
     /// Whether a text is narrower than that.
     bool Entra(const QString& testo, const Carattere& carattere, double larghezza) {
-        return misure_.Larghezza(testo, carattere) < larghezza;
+        return Larghezza(testo, carattere) < larghezza;
     }
+    /// In millimetres.
+    double Larghezza(const QString& testo, const Carattere& carattere) { return misure_.Larghezza(testo, carattere); }
+    /// The bottom line of a text whose baseline is to be there: texts of several sizes can share one.
+    double RigaDaBase(double base, const Carattere& carattere) { return base + misure_.Discesa(carattere); }
+    /// The baseline of a text with that bottom line.
+    double BaseDaRiga(double riga, const Carattere& carattere) { return riga - misure_.Discesa(carattere); }
     /// The font with the greatest size, up to its own and not under the floor, at which the text is narrower than that.
     Carattere Ristretto(const QString& testo, Carattere carattere, double larghezza);
+    /// The longest beginning of the text that is narrower than that.
+    QString Tagliato(const QString& testo, const Carattere& carattere, double larghezza);
 
     void Traccia(const Linea& linea) { PaginaCorrente().linee.push_back(linea); }
     void Traccia(const Riquadro& riquadro) { PaginaCorrente().riquadri.push_back(riquadro); }
@@ -81,8 +93,6 @@ class Foglio {
 
   private:
     static constexpr int kNessunaPagina = 800;
-    /// The longest beginning of the text that is narrower than that.
-    QString Tagliato(const QString& testo, const Carattere& carattere, double larghezza);
     Pagina& PaginaCorrente() { return documento_.pagine.back(); }
 
     Documento documento_;

@@ -62,6 +62,7 @@ struct Pagina {
 struct Documento {
     QString titolo;
     std::vector<Pagina> pagine;
+    QString lavoro = {};  ///< what painting it is called while it goes on; the title when empty
 };
 
 /// Distance of the model's origin from the left and the upper edge of the sheet: the margin that printers leave.

@@ -37,16 +37,32 @@ QRectF Area(const QRectF& area) {
     return {Unita(area.x()), Unita(area.y()), Unita(area.width()), Unita(area.height())};
 }
 
+// Whole A4 sheets, as far as the device has them. Where it paints then: millimetres from the edges of its sheet.
+QPointF ImpostaFoglio(QPagedPaintDevice& dispositivo) {
+    QPageLayout voluto = dispositivo.pageLayout();
+    voluto.setMode(QPageLayout::FullPageMode);
+    dispositivo.setPageLayout(voluto);
+    voluto = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+    voluto.setMode(QPageLayout::FullPageMode);
+    if (dispositivo.setPageLayout(voluto)) return {};
+    constexpr double kTolleranza = 1;
+    const QPageLayout avuto = dispositivo.pageLayout();
+    const QSizeF foglio = avuto.fullRect(QPageLayout::Millimeter).size() + QSizeF(kTolleranza, kTolleranza);
+    const QSizeF a4 = voluto.fullRect(QPageLayout::Millimeter).size();
+    if (foglio.width() < a4.width() || foglio.height() < a4.height()) {
+        throw Failure(u"La stampa non è riuscita: la stampante non ha fogli A4."_s);
+    }
+    return avuto.paintRect(QPageLayout::Millimeter).topLeft();
+}
+
 class Pittore {
   public:
     explicit Pittore(QPagedPaintDevice& dispositivo) : dispositivo_(dispositivo) {
-        QPageLayout foglio(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
-        foglio.setMode(QPageLayout::FullPageMode);
-        dispositivo.setPageLayout(foglio);
+        const QPointF inizio = ImpostaFoglio(dispositivo);
         if (!pennello_.begin(&dispositivo)) throw Failure(u"La stampa non è riuscita: la stampante non risponde."_s);
         const double punti = 72.0 * kUnitaPunto;
         pennello_.scale(dispositivo.logicalDpiX() / punti, dispositivo.logicalDpiY() / punti);
-        pennello_.translate(Punto(kMargineFoglio, kMargineFoglio));
+        pennello_.translate(Punto(kMargineFoglio - inizio.x(), kMargineFoglio - inizio.y()));
     }
 
     void NuovoFoglio() {
@@ -104,10 +120,11 @@ class Pittore {
 
 void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo, Progress& progress) {
     Pittore pittore(dispositivo);
+    const QString& lavoro = documento.lavoro.isEmpty() ? documento.titolo : documento.lavoro;
     int numero = 0;
     for (const Pagina& pagina : documento.pagine) {
         if (numero > 0) pittore.NuovoFoglio();
-        progress.Title(u"%1 (pag. %2)"_s.arg(documento.titolo, QString::number(++numero)));
+        progress.Title(u"%1 (pag. %2)"_s.arg(lavoro, QString::number(++numero)));
         progress.Advance(numero, static_cast<double>(documento.pagine.size()));
         pittore.Dipingi(pagina);
     }

@@ -9,7 +9,7 @@
 namespace cronovia {
 
 /// Paints all pages, each on a sheet of its own, and tells which one. A `Failure` when the device cannot be painted on,
-/// or refuses a page.
+/// has no sheets as large as A4, or refuses a page.
 void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo, Progress& progress);
 
 }  // namespace cronovia

@@ -13,6 +13,9 @@ namespace cronovia {
 inline constexpr std::array<int, 16> kBordiCronovia = {5,   11,  71,  86,  94,  99,  109, 119,
                                                        131, 139, 147, 155, 175, 178, 186, 193};
 
+/// Where the frames and rules begin: left of the first border, for numbers reach over it.
+inline constexpr double kSinistraCronovia = 2;
+
 /// The pages of a schedule; none when no row is filled.
 Documento StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress);
 

@@ -22,6 +22,8 @@ constexpr int kRigaTitolo = 15;
 constexpr double kRientro = 1;  // of a text from the rule at its left
 constexpr Carattere kCarattere{Famiglia::Times, 9};
 
+QString LavoroGuida() { return u"Stampa della guida citta"_s; }
+
 std::vector<LocalitaStampata> LocalitaDelViaggio(Archive& archive, const QString& codiceMeta) {
     std::vector<QString> nomi;
     for (const Record& tappa : RecordDellItinerario(archive, codiceMeta)) {
@@ -57,7 +59,7 @@ class StampaPagine {
     StampaPagine(const DatiStampaGuida& dati, const PieDiPagina& piede)
         : dati_(dati),
           bordi_(dati.opzioni.dettaglio ? std::span<const int>(kBordiVoci) : kBordiNomi),
-          foglio_(TitoloStampaGuida(dati), piede) {}
+          foglio_(TitoloStampaGuida(dati), piede, LavoroGuida()) {}
 
     void Stampa(const LocalitaStampata& localita);
     void StampaFinePagina();
@@ -188,7 +190,7 @@ Documento StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Pro
         stampa.Stampa(localita);
         if (stampa.NumeroPagina() == pagina) continue;
         pagina = stampa.NumeroPagina();
-        progress.Title(u"Stampa della guida citta (pag. %1)"_s.arg(pagina));
+        progress.Title(LavoroGuida() + u" (pag. %1)"_s.arg(pagina));
     }
     stampa.ChiudiRiga();
     stampa.StampaFinePagina();

@@ -1,8 +1,10 @@
 #include "print/tabella_testo.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include "calendar/windows1252.h"
+#include "interaction/failure.h"
 #include "store/file_intero.h"
 
 namespace cronovia {
@@ -29,9 +31,23 @@ QString RigaTabella(const RigaGriglia& riga) {
     return testo + kFineRiga;
 }
 
+// Where a file is, or would be, whatever leads there.
+QString Posto(const QString& path) {
+    const QFileInfo info(path);
+    const QString posto = info.canonicalFilePath();
+    return posto.isEmpty() ? info.dir().canonicalPath() + u'/' + info.fileName() : posto;
+}
+
 }  // namespace
 
 QString FileTabella(const QString& cartella) { return QDir(cartella).filePath(u"Vandtabl.txt"_s); }
+
+// Some file systems take capitals and small letters for the same.
+void RifiutaFileTabella(const QString& path, const QString& cartella) {
+    if (Posto(path).compare(Posto(FileTabella(cartella)), Qt::CaseInsensitive) != 0) return;
+    throw Failure(u"Il file %1 è la tabella della cronovia: per le pagine scegli un altro nome."_s.arg(
+        QDir::toNativeSeparators(path)));
+}
 
 QByteArray TabellaCronovia(const DatiStampa& dati) {
     QString testo = SuUnaRiga(dati.meta.localita) + kFineRiga + kFineRiga;

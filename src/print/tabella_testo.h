@@ -11,6 +11,9 @@ namespace cronovia {
 /// Where the table of a data folder lies.
 QString FileTabella(const QString& cartella);
 
+/// A `Failure` when that is the file of the table, under whatever name.
+void RifiutaFileTabella(const QString& path, const QString& cartella);
+
 /// The table: the destination, an empty line, the headers and the rows; tab-separated, in Windows-1252.
 QByteArray TabellaCronovia(const DatiStampa& dati);
 

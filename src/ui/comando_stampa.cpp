@@ -9,6 +9,7 @@
 #include "print/moduli.h"
 #include "print/stampa_cronovia.h"
 #include "print/stampa_itinerario.h"
+#include "print/tabella_testo.h"
 #include "ui/stampanti.h"
 
 namespace cronovia {
@@ -44,7 +45,11 @@ ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
          {static_cast<QWidget*>(opzioni_), static_cast<QWidget*>(stampante_), static_cast<QWidget*>(inCorso_)}) {
         area.addWidget(riquadro, 0, 0, Qt::AlignCenter);
     }
-    connect(opzioni_, &FrmStampa::Stampa, this, [this] { stampante_->VisualizzaListaStampanti(); });
+    connect(opzioni_, &FrmStampa::Stampa, this, [this] {
+        stampante_->VisualizzaListaStampanti();
+        // Both frames have the same keys.
+        opzioni_->setEnabled(false);
+    });
     connect(opzioni_, &FrmStampa::Anteprima, this, [this] { volti_.esegui([this] { MostraAnteprima(); }); });
     connect(stampante_, &FrmSelStampa::Stampa, this, [this] {
         if (opzioni_->isVisible()) volti_.esegui([this] { Stampa(); });
@@ -59,6 +64,10 @@ void ComandoStampa::Apri() {
     if (!volti_.scrivania.PreparaStampa()) return;
     stampante_->hide();
     opzioni_->Apri();
+}
+
+void ComandoStampa::Fuoco() {
+    if (opzioni_->isVisible() && !stampante_->isVisible()) opzioni_->Apri();
 }
 
 void ComandoStampa::Aggiorna() {
@@ -88,16 +97,22 @@ void ComandoStampa::MostraAnteprima() {
 
 // Without a file, printing to a file has not begun.
 void ComandoStampa::Stampa() {
-    const QString stampante = stampante_->Scelta();
-    if (!UnFilePdf(stampante) || !opzioni_->Tabella()) {
+    if (!stampante_->SceltoFilePdf() || !opzioni_->Tabella()) {
+        const QString stampante = stampante_->Scelta();
         EseguiStampa([&](const Documento& documento) {
             StampaSuStampante(documento, stampante, volti_.interazione, volti_.avanzamento);
         });
         return;
     }
     const QString path = ChiediFilePdf(volti_.finestra, u"Cronovia "_s + volti_.scrivania.MetaInCorso().localita);
-    if (!path.isEmpty())
-        EseguiStampa([&](const Documento& documento) { StampaSuFile(documento, path, volti_.avanzamento); });
+    if (path.isEmpty()) {
+        volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
+        return;
+    }
+    EseguiStampa([&](const Documento& documento) {
+        RifiutaFileTabella(path, volti_.scrivania.Cartella());
+        StampaSuFile(documento, path, volti_.avanzamento);
+    });
 }
 
 void ComandoStampa::EseguiStampa(const std::function<void(const Documento&)>& stampa) {

@@ -31,6 +31,8 @@ class ComandoStampa : public QObject {
 
     /// Computes the schedule when none is on screen, then asks what to print.
     void Apri();
+    /// To the frame in front, if one is open.
+    void Fuoco();
     /// The frames that the state of the desk allows; to be called whenever it is shown anew.
     void Aggiorna();
     [[nodiscard]] bool Aperto() const { return opzioni_->isVisible() || stampante_->isVisible(); }

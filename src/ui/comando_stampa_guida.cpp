@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "interaction/failure.h"
+#include "print/tabella_testo.h"
 #include "ui/stampanti.h"
 
 namespace cronovia {
@@ -12,7 +13,11 @@ using namespace Qt::StringLiterals;
 ComandoStampaGuida::ComandoStampaGuida(const ComandoStampa::Volti& volti, FrmSelStampa& stampante, QGridLayout& area)
     : QObject(&volti.finestra), volti_(volti), stampante_(stampante), opzioni_(new FrmGuidaStampa) {
     area.addWidget(opzioni_, 0, 0, Qt::AlignCenter);
-    connect(opzioni_, &FrmGuidaStampa::Stampa, this, [this] { stampante_.VisualizzaListaStampanti(); });
+    connect(opzioni_, &FrmGuidaStampa::Stampa, this, [this] {
+        stampante_.VisualizzaListaStampanti();
+        // Both frames have the same keys.
+        opzioni_->setEnabled(false);
+    });
     connect(opzioni_, &FrmGuidaStampa::Rinuncia, this, &ComandoStampaGuida::Rinuncia);
     connect(opzioni_, &FrmGuidaStampa::Anteprima, this, [this] {
         volti_.esegui([this] {
@@ -61,14 +66,19 @@ std::optional<Documento> ComandoStampaGuida::Prepara() {
 void ComandoStampaGuida::Stampa() {
     const std::optional<Documento> documento = Prepara();
     if (!documento) return;
+    const bool suFile = stampante_.SceltoFilePdf();
     const QString stampante = stampante_.Scelta();
-    const QString path = UnFilePdf(stampante) ? ChiediFilePdf(volti_.finestra, documento->titolo) : QString();
-    if (UnFilePdf(stampante) && path.isEmpty()) return;
+    const QString path = suFile ? ChiediFilePdf(volti_.finestra, documento->titolo) : QString();
+    if (suFile && path.isEmpty()) {
+        volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
+        return;
+    }
     Chiudi();
     volti_.scrivania.SullaGuida([&](const TavoloGuida&) {
         if (path.isEmpty()) {
             StampaSuStampante(*documento, stampante, volti_.interazione, volti_.avanzamento);
         } else {
+            RifiutaFileTabella(path, volti_.scrivania.Cartella());
             StampaSuFile(*documento, path, volti_.avanzamento);
         }
         volti_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});

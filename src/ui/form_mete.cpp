@@ -214,7 +214,8 @@ void FormMete::EseguiComando(Comando comando) {
             return Esci();
         case Comando::Stampa:
             avanzamento_->NuovaOperazione();
-            return Esegui([this] { stampa_->Apri(); });
+            Esegui([this] { stampa_->Apri(); });
+            return stampa_->Fuoco();
         case Comando::GuidaCitta:
             return guida_->Apri();
         case Comando::Import:

@@ -58,6 +58,8 @@ void FrmBottoni::Applica(const StatoComandi& stato, bool daSbloccare, bool conve
     cmdConverte_->setEnabled(converte);
     for (std::size_t i = 0; i < kComandi; ++i) pulsanti_[i]->setEnabled(stato.comandi[i]);
     Pulsante(Comando::Calcola).setText(daSbloccare ? u"&Sblocca"_s : u"&Calcola"_s);
+    // Who took the key away may have left the text.
+    Pulsante(Comando::Calcola).setShortcut(QKeySequence::mnemonic(Pulsante(Comando::Calcola).text()));
     // While Alt+S unlocks, it does not print as well.
     Pulsante(Comando::Stampa)
         .setShortcut(daSbloccare ? QKeySequence() : QKeySequence::mnemonic(Pulsante(Comando::Stampa).text()));

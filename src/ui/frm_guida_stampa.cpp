@@ -65,6 +65,7 @@ FrmGuidaStampa::FrmGuidaStampa() : RiquadroSovrapposto(u"frmGuidaStampa"_s, u"Gu
 }
 
 void FrmGuidaStampa::Apri() {
+    setEnabled(true);
     show();
     raise();
     stampa_->setFocus();

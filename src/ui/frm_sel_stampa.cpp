@@ -31,7 +31,9 @@ void FrmSelStampa::VisualizzaListaStampanti() {
     lstStampanti_->clear();
     lstStampanti_->addItems(NomiStampanti());
     const auto trovate = lstStampanti_->findItems(StampantePredefinita(), Qt::MatchExactly | Qt::MatchCaseSensitive);
-    lstStampanti_->setCurrentItem(trovate.value(0));
+    auto* filePdf = new QListWidgetItem(u"File PDF"_s, lstStampanti_);
+    filePdf->setData(Qt::UserRole, true);
+    lstStampanti_->setCurrentItem(trovate.value(0, lstStampanti_->item(0)));
     show();
     raise();
     lstStampanti_->setFocus();
@@ -40,6 +42,11 @@ void FrmSelStampa::VisualizzaListaStampanti() {
 QString FrmSelStampa::Scelta() const {
     const QListWidgetItem* voce = lstStampanti_->currentItem();
     return voce == nullptr ? QString() : voce->text();
+}
+
+bool FrmSelStampa::SceltoFilePdf() const {
+    const QListWidgetItem* voce = lstStampanti_->currentItem();
+    return voce != nullptr && voce->data(Qt::UserRole).toBool();
 }
 
 }  // namespace cronovia

@@ -13,9 +13,11 @@ class FrmSelStampa : public RiquadroSovrapposto {
   public:
     FrmSelStampa();
 
-    /// Fills the list with the printers that there are now and shows it.
+    /// Fills the list with the printers that there are now, the PDF file as the last, and shows it.
     void VisualizzaListaStampanti();
     [[nodiscard]] QString Scelta() const;
+    /// The PDF file is chosen; a printer that bears its name is not.
+    [[nodiscard]] bool SceltoFilePdf() const;
 
   Q_SIGNALS:
     void Stampa();

@@ -35,6 +35,7 @@ FrmStampa::FrmStampa() : RiquadroSovrapposto(u"frmStampa"_s, u"Opzioni di stampa
 }
 
 void FrmStampa::Apri() {
+    setEnabled(true);
     show();
     raise();
     stampa_->setFocus();

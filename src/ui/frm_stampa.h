@@ -13,6 +13,7 @@ class FrmStampa : public RiquadroSovrapposto {
   public:
     FrmStampa();
 
+    /// Shown, in use, with the focus on its first button.
     void Apri();
     [[nodiscard]] bool Tabella() const { return chkTabella_->isChecked(); }
     [[nodiscard]] bool Moduli() const { return chkModuli_->isChecked(); }

@@ -1,5 +1,7 @@
 #include "ui/stampanti.h"
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QPrintPreviewDialog>
@@ -7,7 +9,6 @@
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <algorithm>
 
 #include "interaction/failure.h"
 #include "print/file_pdf.h"
@@ -19,29 +20,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Pages that the person chose in the printer's dialog; all when none were.
-Documento Scelte(const Documento& documento, const QPrinter& stampante) {
-    const auto ultima = static_cast<std::size_t>(std::max(stampante.toPage(), 0));
-    if (ultima == 0 || documento.pagine.empty()) return documento;
-    const auto da = std::min(static_cast<std::size_t>(std::max(stampante.fromPage(), 1)), documento.pagine.size());
-    const auto a = std::clamp(ultima, da, documento.pagine.size());
-    const auto inizio = documento.pagine.begin();
-    return {documento.titolo, {inizio + static_cast<std::ptrdiff_t>(da - 1), inizio + static_cast<std::ptrdiff_t>(a)}};
+// The toolbar's own buttons would print past the print run, or turn sheets that are always upright.
+void SoloDaVedere(const QPrintPreviewDialog& anteprima) {
+    for (const char* nome : {"Print", "Page setup", "Portrait", "Landscape"}) {
+        const QString testo = QCoreApplication::translate("QPrintPreviewDialog", nome);
+        for (QAction* azione : anteprima.findChildren<QAction*>()) {
+            if (azione->text() != testo) continue;
+            azione->setEnabled(false);
+            azione->setVisible(false);
+        }
+    }
 }
 
 QString NomeFile(QString titolo) { return titolo.remove(QRegularExpression(u"[\\\\/:*?\"<>|]"_s)).simplified(); }
 
 }  // namespace
 
-QStringList NomiStampanti() { return QPrinterInfo::availablePrinterNames() << u"File PDF"_s; }
+QStringList NomiStampanti() { return QPrinterInfo::availablePrinterNames(); }
 
-QString StampantePredefinita() {
-    const QString nome = QPrinterInfo::defaultPrinterName();
-    const QStringList nomi = NomiStampanti();
-    return nomi.contains(nome) ? nome : nomi.first();
-}
-
-bool UnFilePdf(const QString& stampante) { return stampante == "File PDF"_L1; }
+QString StampantePredefinita() { return QPrinterInfo::defaultPrinterName(); }
 
 QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
     const QDir documenti(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
@@ -52,6 +49,8 @@ QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }
 
+QString NessunFileScelto() { return u"Nessun file scelto: niente è stato stampato."_s; }
+
 void StampaSuFile(const Documento& documento, const QString& path, Progress& progress) {
     RifiutaFileEsistente(path, true);
     FileIntero file(path);
@@ -61,7 +60,7 @@ void StampaSuFile(const Documento& documento, const QString& path, Progress& pro
 
 void StampaSuStampante(const Documento& documento, const QString& stampante, Interaction& interaction,
                        Progress& progress) {
-    const bool presente = QPrinterInfo::availablePrinterNames().contains(stampante);
+    const bool presente = NomiStampanti().contains(stampante);
     const QString nome = presente ? stampante : QPrinterInfo::defaultPrinterName();
     const QString manca = u"La stampante «%1» non c'è più"_s.arg(stampante);
     if (nome.isEmpty()) throw Failure(manca + u": niente è stato stampato."_s);
@@ -83,10 +82,11 @@ void MostraAnteprima(const Documento& documento, QWidget& finestra, Interaction&
     anteprima.setObjectName(u"anteprima"_s);
     anteprima.setWindowTitle(u"Anteprima di stampa - "_s + documento.titolo);
     anteprima.resize(finestra.size());
+    SoloDaVedere(anteprima);
     QObject::connect(&anteprima, &QPrintPreviewDialog::paintRequested, &anteprima, [&](QPrinter* stampante) {
         try {
             Progress progress;
-            Dipingi(Scelte(documento, *stampante), *stampante, progress);
+            Dipingi(documento, *stampante, progress);
         } catch (const Failure& failure) {
             interaction.Show({failure.Message(), {}, Icon::Exclamation});
         }

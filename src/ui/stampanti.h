@@ -1,4 +1,4 @@
-// The printers of this machine, and the PDF file that is always one of them.
+// The printers of this machine, the PDF file that can always be had instead, and the preview.
 #pragma once
 
 #include <QString>
@@ -11,14 +11,15 @@
 
 namespace cronovia {
 
-/// Names to choose from: the system's printers in its order, at the end "File PDF".
+/// The system's printers, in its order.
 QStringList NomiStampanti();
-/// The name of the printer that is to be chosen at first.
+/// The one that the system would take; empty when there is none.
 QString StampantePredefinita();
-bool UnFilePdf(const QString& stampante);
 
 /// Asks for the file of a PDF printout; empty when the person gave up.
 QString ChiediFilePdf(QWidget& finestra, const QString& titolo);
+/// What is said then.
+QString NessunFileScelto();
 
 /// Replaces the file, whole or not at all. A `Failure` when that cannot be done.
 void StampaSuFile(const Documento& documento, const QString& path, Progress& progress);
@@ -28,7 +29,7 @@ void StampaSuFile(const Documento& documento, const QString& path, Progress& pro
 void StampaSuStampante(const Documento& documento, const QString& stampante, Interaction& interaction,
                        Progress& progress);
 
-/// Shows the pages on screen; from there they can be printed as well.
+/// Shows the pages on screen, and nothing but that.
 void MostraAnteprima(const Documento& documento, QWidget& finestra, Interaction& interaction);
 
 }  // namespace cronovia

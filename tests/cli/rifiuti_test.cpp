@@ -21,6 +21,7 @@ TEST(Rifiuti, TheArchiveAndTheFilesStayAsTheyWere) {
     const QString estraneo = cartella + u"/già qui.txt"_s;
     const QString assente = cartella + u"/non c'è.iei"_s;
     prova::ScriviFile(estraneo, "Lista della spesa\r\n");
+    const QString tabella = cartella + u"/Vandtabl.txt"_s;
     const QString esempio = Programma::FileEsempio(u"provenza"_s);
     const QString archivio = programma.Cartella().Archivio();
     struct Caso {
@@ -43,6 +44,8 @@ TEST(Rifiuti, TheArchiveAndTheFilesStayAsTheyWere) {
         {{u"stampa"_s, u"99"_s, u"--pdf"_s, assente}, u"Non esiste nessuna mèta con il codice 000099."_s},
         {{u"stampa"_s, u"3"_s, u"--pdf"_s, assente + u"/x.pdf"_s},
          u"Il file %1/x.pdf non si può scrivere: controlla la cartella e i permessi."_s.arg(assente)},
+        {{u"stampa"_s, u"3"_s, u"--pdf"_s, tabella, u"--sovrascrivi"_s},
+         u"Il file %1 è la tabella della cronovia: per le pagine scegli un altro nome."_s.arg(tabella)},
         {{u"nuova"_s, u"provenza"_s, u"FRANCIA"_s}, u"Esiste già la mèta PROVENZA con il codice 000003."_s},
         {{u"nuova"_s, u"CORSICA"_s, u" "_s}, u"Campo Nazione: obbligatorio!"_s},
         {{u"nuova"_s, QString(31, u'É'), u"FRANCIA"_s},
