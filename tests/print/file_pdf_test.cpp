@@ -3,9 +3,11 @@
 
 #include <gmock/gmock.h>
 
+#include <QPdfWriter>
 #include <QProcess>
 #include <QRegularExpression>
 
+#include "print/pittore.h"
 #include "stampa.h"
 
 namespace cronovia {
@@ -29,13 +31,14 @@ struct Parola {
     QString testo;
 };
 
+/// In the order in which they were painted.
 std::vector<Parola> Parole(const QString& path) {
     static const QRegularExpression parola(
         u"<word xMin=\"([\\d.]+)\" yMin=\"[\\d.]+\" xMax=\"([\\d.]+)\" yMax=\"([\\d.]+)\">([^<]*)</word>"_s);
     std::vector<Parola> parole;
     int pagina = 0;
     const auto modello = [](const QString& punti) { return punti.toDouble() * 25.4 / 72 - kMargineFoglio; };
-    for (const QString& riga : Poppler(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}).split(u'\n')) {
+    for (const QString& riga : Poppler(u"pdftotext"_s, {u"-raw"_s, u"-bbox"_s, path, u"-"_s}).split(u'\n')) {
         if (riga.contains("<page "_L1)) ++pagina;
         const auto trovata = parola.match(riga);
         if (!trovata.hasMatch()) continue;
@@ -50,25 +53,62 @@ std::vector<Parola> Parole(const QString& path) {
 
 class FilePdf : public testing::Test {
   protected:
+    struct Titoli : Progress {
+        void Title(const QString& title) override { visti += title; }
+        QStringList visti;
+    };
+
     FilePdf() { cartella_.Crea(); }
 
     void Scrivi(const Documento& documento) {
         FileIntero file(path_);
-        Progress progress;
-        ScriviPdf(documento, file, progress);
+        ScriviPdf(documento, file, titoli_);
         file.Chiudi();
     }
 
     prova::CartellaDiProva cartella_;
     QString path_ = cartella_.Percorso() + u"/viaggio.pdf"_s;
+    Titoli titoli_;
 };
 
-TEST_F(FilePdf, TellsItsTitleAndBringsItsFonts) {
+// Each text of the model is in the file, in the model's order, at the model's place and as wide.
+TEST_F(FilePdf, HoldsEveryTextInOrderAndInItsPlace) {
     const Documento documento = prova::Stampa(prova::CapoNord());
     Scrivi(documento);
+    const std::vector<Parola> parole = Parole(path_);
+    std::size_t i = 0;
+    for (int pagina = 1; const Pagina& foglio : documento.pagine) {
+        for (const TestoPosto& posto : foglio.testi) {
+            SCOPED_TRACE(u"page %1: %2"_s.arg(QString::number(pagina), posto.testo).toStdString());
+            const std::size_t prima = i;
+            for (const QString& parola : posto.testo.split(u' ', Qt::SkipEmptyParts)) {
+                ASSERT_LT(i, parole.size());
+                ASSERT_EQ(parole[i].testo, parola);
+                ASSERT_EQ(parole[i++].pagina, pagina);
+            }
+            EXPECT_NEAR(parole[prima].x, posto.x, 0.2);
+            EXPECT_NEAR(parole[prima].base, posto.base + 1, 1);
+            // A blank at the end, where a text was cut, belongs to no word.
+            const double larghezza = posto.testo.endsWith(u' ') ? parole[i - 1].fine - posto.x : posto.larghezza;
+            EXPECT_NEAR(parole[i - 1].fine, posto.x + larghezza, 0.2);
+        }
+        ++pagina;
+    }
+    EXPECT_EQ(i, parole.size());
+    EXPECT_EQ(titoli_.visti.last(), u"Stampa della cronovia (pag. %1)"_s.arg(documento.pagine.size()));
+
+    // In the rows no word reaches more than 2 mm over its column; numbers reach further to the left.
+    for (const Parola& parola : parole) {
+        if (parola.base < prova::kPrimaRiga || parola.testo == "31/01/2027"_L1) continue;
+        const bool dentro = std::any_of(kBordiCronovia.begin(), kBordiCronovia.end(), [&](const int& bordo) {
+            const int fine = bordo == kBordiCronovia.back() ? 195 : *(&bordo + 1);
+            return parola.x > bordo - 3 && parola.fine < fine + 2;
+        });
+        EXPECT_TRUE(dentro) << "page " << parola.pagina << ": " << parola.testo.toStdString();
+    }
+
     const QString info = Poppler(u"pdfinfo"_s, {path_});
     EXPECT_TRUE(info.contains(QRegularExpression(u"Title: +Cronovia: CAPO NORD\n"_s)));
-    EXPECT_TRUE(info.contains(QRegularExpression(u"Pages: +%1\n"_s.arg(documento.pagine.size()))));
     EXPECT_TRUE(info.contains("(A4)"_L1));
     EXPECT_FALSE(info.contains("Author"_L1));
     const QStringList font = Poppler(u"pdffonts"_s, {path_}).trimmed().split(u'\n').sliced(2);
@@ -76,44 +116,30 @@ TEST_F(FilePdf, TellsItsTitleAndBringsItsFonts) {
     for (const QString& riga : font) {
         EXPECT_TRUE(riga.contains(QRegularExpression(u"TrueType .* yes (yes|no ) yes"_s))) << riga.toStdString();
     }
-}
-
-// Each text of the model is in the file, in the model's order, at the model's place and as wide.
-TEST_F(FilePdf, HoldsEveryTextInItsPlace) {
-    const Documento documento = prova::Stampa(prova::CapoNord());
-    Scrivi(documento);
-    const std::vector<Parola> parole = Parole(path_);
-    QStringList scritte;
-    for (const Parola& parola : parole) scritte += parola.testo;
-    scritte.sort();
-    QStringList attese;
-    int pagina = 0;
-    for (const Pagina& foglio : documento.pagine) {
-        ++pagina;
-        for (const TestoPosto& posto : foglio.testi) {
-            const QStringList suoi = posto.testo.split(u' ', Qt::SkipEmptyParts);
-            attese += suoi;
-            const auto prima = std::find_if(parole.begin(), parole.end(), [&](const Parola& parola) {
-                return parola.pagina == pagina && parola.testo == suoi.first() && qAbs(parola.x - posto.x) < 0.2 &&
-                       parola.base > posto.base && parola.base < posto.base + 2;
-            });
-            const double fine = posto.x + posto.larghezza;
-            const bool ultima =
-                posto.testo.endsWith(u' ') || std::any_of(parole.begin(), parole.end(), [&](const Parola& parola) {
-                    return parola.pagina == pagina && parola.testo == suoi.last() && qAbs(parola.fine - fine) < 0.2;
-                });
-            EXPECT_TRUE(prima != parole.end() && ultima)
-                << "page " << pagina << " x " << posto.x << ": " << posto.testo.toStdString();
-        }
-    }
-    attese.sort();
-    EXPECT_EQ(scritte, attese);
-}
-
-TEST_F(FilePdf, WithoutPagesIsABlankSheet) {
     Scrivi(prova::Stampa(prova::Viaggio(0)));
     EXPECT_TRUE(Poppler(u"pdfinfo"_s, {path_}).contains(QRegularExpression(u"Pages: +1\n"_s)));
     EXPECT_TRUE(Parole(path_).empty());
+}
+
+// A printer that keeps the sheet it has, and paints within its margins.
+TEST_F(FilePdf, OnASheetWithMarginsTextsAreWhereTheyBelong) {
+    struct Ostinata : QPdfWriter {
+        Ostinata(const QString& path, QPageSize::PageSizeId foglio) : QPdfWriter(path) {
+            QPdfWriter::setPageLayout({QPageSize(foglio), QPageLayout::Portrait, {30, 20, 10, 10}});
+        }
+        bool setPageLayout(const QPageLayout&) override { return false; }
+    };
+    const Documento documento = prova::Stampa(prova::Viaggio(1));
+    Ostinata a4(path_, QPageSize::A4);
+    Dipingi(documento, a4, titoli_);
+    const TestoPosto& primo = documento.pagine[0].testi[0];
+    const std::vector<Parola> parole = Parole(path_);
+    ASSERT_FALSE(parole.empty());
+    EXPECT_NEAR(parole[0].x, primo.x, 0.4);
+    EXPECT_NEAR(parole[0].base, primo.base + 1, 1);
+    Ostinata corta(path_, QPageSize::Letter);
+    EXPECT_EQ(prova::MessaggioDi([&] { Dipingi(documento, corta, titoli_); }),
+              u"La stampa non è riuscita: la stampante non ha fogli A4."_s);
 }
 
 TEST_F(FilePdf, AFullDiskLeavesTheOldFileInPlace) {

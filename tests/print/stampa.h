@@ -13,6 +13,8 @@ namespace cronovia::prova {
 
 using namespace Qt::StringLiterals;
 
+constexpr double kPrimaRiga = 50;  // above it: the header
+
 inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
 
 inline RigaGriglia Riga(const QString& localita, const QString& sosta = {}, const QString& note = {}) {

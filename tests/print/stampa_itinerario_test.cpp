@@ -59,14 +59,20 @@ TEST_F(StampaItinerario, WritesTheTableByteForByteWhateverIsTicked) {
                   "\t> Caj bar \x93L\xF3"
                   "dz\x94\t\t\t\t\t\t00:45\t\t\t\t\tRistorante\t\r\n");
     dati_.righe.clear();
-    copione_.Messaggio(Completata());
-    Esegui(false, false);
-    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Percorso())), testa);
-}
-
-TEST_F(StampaItinerario, TellsWhatWasPrinted) {
     copione_.Messaggio(u"Stampa Cronovia  completata..."_s).Messaggio(Completata());
     Esegui(true, false);
+    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Percorso())), testa);
+    EXPECT_EQ(pagine_, 0);
+}
+
+TEST_F(StampaItinerario, TellsWhatWasPrintedAndOneFaultDoesNotDisturbTheRest) {
+    copione_
+        .Messaggio(
+            u"I moduli per il diario di bordo non si possono stampare: nella cartella %1 manca il programma "
+            "Fogliax.exe."_s.arg(cartella_.Percorso()))
+        .Messaggio(u"Stampa Cronovia  completata..."_s)
+        .Messaggio(Completata());
+    Esegui(true, true);
     EXPECT_EQ(pagine_, 1);
     MettiFogliax(
         "#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" >\"$(dirname \"$0\")/prima\"\n"
@@ -77,16 +83,7 @@ TEST_F(StampaItinerario, TellsWhatWasPrinted) {
     const QString avviato = cartella_.Percorso() + u"/avviato"_s;
     for (int i = 0; i < 500 && !QFile::exists(avviato); ++i) usleep(10'000);
     EXPECT_EQ(prova::LeggiFile(avviato), "1|ROMA; rm -rf \"$HOME\",01/01/2000,05/01/2000");
-}
 
-TEST_F(StampaItinerario, OneFaultDoesNotDisturbTheRest) {
-    copione_
-        .Messaggio(
-            u"I moduli per il diario di bordo non si possono stampare: nella cartella %1 manca il programma "
-            "Fogliax.exe."_s.arg(cartella_.Percorso()))
-        .Messaggio(u"Stampa Cronovia  completata..."_s)
-        .Messaggio(Completata());
-    Esegui(true, true);
     MettiFogliax("niente che si possa avviare");
     guasto_ = true;
     copione_.Messaggio(u"La stampante tace."_s)
