@@ -100,9 +100,9 @@ QString RiassuntoPercorso(std::span<const Tappa> tappe) {
         km += tappa.km;
         if (tappa.Traghetto()) ++traghetti;
     }
-    const QString percorso = u"Tappe riconosciute: %1, da %2 a %3, km. %4"_s.arg(
-        Raggruppa(std::ssize(tappe)), tappe.front().localita, tappe.back().localita, Raggruppa(km));
-    return percorso + (traghetti == 0 ? u"."_s : u", traghetti: %1."_s.arg(Raggruppa(traghetti)));
+    return u"Tappe riconosciute: %1, da %2 a %3.\nChilometri: %4; traghetti: %5."_s.arg(
+        Raggruppa(std::ssize(tappe)), tappe.front().localita, tappe.back().localita, Raggruppa(km),
+        Raggruppa(traghetti));
 }
 
 }  // namespace cronovia

@@ -22,7 +22,8 @@ std::optional<RigheItinerario> CaricaDaPacchetto(QIODevice& device, const QStrin
 /// The stage as the itinerary holds it: at most two roads, or one and the ferry's mark, those travelled longest.
 Tappa SalvaRigaItinerarioImportato(TappaLetta letta);
 
-/// What was recognised, in one sentence: how many stages, from where to where, how far.
+/// What was recognised, in two lines: how many stages, from where to where; how far, with how many ferries. There must
+/// be a stage.
 QString RiassuntoPercorso(std::span<const Tappa> tappe);
 
 }  // namespace cronovia

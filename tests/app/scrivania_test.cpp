@@ -386,7 +386,7 @@ TEST_F(ScrivaniaTest, ARouteIsPutIntoAnEmptyItineraryAndTakenAwayAgain) {
     const auto percorso = file(u"percorsi/torino-messina.txt"_s);
     const auto domanda = [&](Answer risposta) {
         copione_.Domanda(
-            u"Tappe riconosciute: 9, da TORINO a MESSINA, km. 405, traghetti: 1.\n\nVuoi riportarle nell'itinerario?"_s,
+            u"Tappe riconosciute: 9, da TORINO a MESSINA.\nChilometri: 405; traghetti: 1.\n\nVuoi riportarle nell'itinerario?"_s,
             u"Import del percorso"_s, risposta);
     };
     scrivania_->AltriPacchetti([] { return QString(); });

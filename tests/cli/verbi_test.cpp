@@ -121,7 +121,7 @@ TEST(Verbi, ARouteBecomesTheItineraryOfAnEmptyTrip) {
     const QString cartella = u"" CRONOVIA_EXAMPLES "/percorsi/"_s;
     const QString alpi = cartella + u"bologna-monaco.txt"_s;
     EXPECT_EQ(programma.Uscita({u"percorso"_s, u"2"_s, alpi}),
-              u"Tappe riconosciute: 11, da BOLOGNA a MÜNCHEN, km. 567.\n"_s);
+              u"Tappe riconosciute: 11, da BOLOGNA a MÜNCHEN.\nChilometri: 567; traghetti: 0.\n"_s);
     const QJsonArray righe = Json(programma, {u"itinerario"_s, u"000002"_s}).object()[u"righe"_s].toArray();
     ASSERT_EQ(righe.size(), 11);
     EXPECT_EQ(righe[1], (QJsonArray{u"2"_s, u"MODENA"_s, u"A14 A1"_s, u"44"_s, u"A"_s, u"44"_s, u"00:35"_s, u""_s,

@@ -38,7 +38,7 @@ TEST_F(PercorsoTest, GoesIntoTheGridOnYesAndAwayOnCtrlZ) {
     Scegli({});
     Premi(u"cmdMapPoint"_s);
     Scegli(u"" CRONOVIA_EXAMPLES "/percorsi/livorno-ajaccio.txt"_s);
-    Box(u"Tappe riconosciute: 9, da LIVORNO a AJACCIO, km. 273, traghetti: 1.\n\nVuoi riportarle nell'itinerario?"_s,
+    Box(u"Tappe riconosciute: 9, da LIVORNO a AJACCIO.\nChilometri: 273; traghetti: 1.\n\nVuoi riportarle nell'itinerario?"_s,
         QMessageBox::Yes, u"Import del percorso"_s);
     Premi(u"cmdMapPoint"_s);
     EXPECT_EQ(Tappe(),
