@@ -22,6 +22,7 @@ void CopiaPercorso::ElencaMete() {
         if (localita.isEmpty() || !archivio.Exists({Tabella::Itinerari, {dellaMeta}})) continue;
         mete_.push_back({record[mete::CodiceMeta], localita, record[mete::Nazione].trimmed()});
     }
+    rigaCopia_ = std::clamp(rigaCopia_, 1, std::max(1, static_cast<int>(mete_.size())));
 }
 
 std::optional<Percorso> CopiaPercorso::Scelto() const {
@@ -30,6 +31,7 @@ std::optional<Percorso> CopiaPercorso::Scelto() const {
 }
 
 void CopiaPercorso::ScegliMeta(int riga) {
+    if (riga < 1 || riga > std::ssize(mete_)) return;
     const MetaDaCopiare scelta = mete_.at(static_cast<std::size_t>(riga - 1));
     try {
         RigheItinerario tappe = sessione_.ApriMeta(scelta.codice).tappe;

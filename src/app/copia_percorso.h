@@ -34,8 +34,8 @@ class CopiaPercorso {
     /// The stretch in the direction wanted, once both ends are assigned.
     [[nodiscard]] std::optional<Percorso> Scelto() const;
 
-    /// Shows the stages of the trip in a row of the list; refused when they are gone meanwhile, and the list is made
-    /// anew.
+    /// Shows the stages of the trip in a row of the list, if there is such a row; refused when they are gone meanwhile,
+    /// and the list is made anew.
     void ScegliMeta(int riga);
     void SelezionaRiga(int riga);
     /// The current row becomes the first (0) or last (1) stage.

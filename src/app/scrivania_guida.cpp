@@ -22,7 +22,11 @@ void Scrivania::GuidaCitta() {
 }
 
 void Scrivania::SullaGuida(const std::function<void(TavoloGuida&)>& comando) {
-    if (guida_) Prova([&] { comando(*guida_); });
+    if (!guida_) return;
+    Prova([&] { comando(*guida_); });
+    if (!guida_->SenzaTappe()) return;
+    volti_.interazione.Show(SenzaTappeMemorizzate());
+    FineGuida();
 }
 
 // The itinerary comes back as it is stored, with the visits that the guide now has.

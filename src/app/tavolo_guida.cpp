@@ -12,13 +12,15 @@ using namespace Qt::StringLiterals;
 TavoloGuida::TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta)
     : archive_(archive), interaction_(interaction), codiceMeta_(codiceMeta), tipi_(CaricaTipiGuida(archive)) {
     CreaElenco();
+    if (senzaTappe_) throw Failure(SenzaTappeMemorizzate().text);
     InserisciGuida(1);
 }
 
+// The list stays as it was when another window has taken the stages away.
 void TavoloGuida::CreaElenco() {
     auto elenco = std::make_shared<std::vector<RigaGuida>>(CreaLaListadellaGuida(archive_, codiceMeta_));
-    if (elenco->empty()) throw Failure(SenzaTappeMemorizzate().text);  // another window has taken them away
-    elenco_ = std::move(elenco);
+    senzaTappe_ = elenco->empty();
+    if (!senzaTappe_) elenco_ = std::move(elenco);
 }
 
 std::optional<QString> TavoloGuida::DaAnnullare() const {

@@ -22,6 +22,8 @@ class TavoloGuida {
 
     /// Another list after every change.
     [[nodiscard]] const Righe& Elenco() const { return elenco_; }
+    /// The stages were deleted meanwhile: there is nothing left to list.
+    [[nodiscard]] bool SenzaTappe() const { return senzaTappe_; }
     [[nodiscard]] int RigaCorrente() const { return rigaCorrente_; }
     [[nodiscard]] const RigaGuida& Corrente() const { return (*elenco_)[static_cast<std::size_t>(rigaCorrente_ - 1)]; }
     [[nodiscard]] const std::vector<TipoGuida>& Tipi() const { return tipi_; }
@@ -61,6 +63,7 @@ class TavoloGuida {
     QString codiceMeta_;
     std::vector<TipoGuida> tipi_;
     Righe elenco_;
+    bool senzaTappe_ = false;
     int rigaCorrente_ = 1;
     CampiVoce campi_;
     bool cerca_ = false;

@@ -46,8 +46,8 @@ struct Annotazione {
 };
 
 Annotazione LeggiAnnotazione(const QStringList& argomenti) {
-    Annotazione letta{Composto(argomenti.at(0)).trimmed().toUpper(),
-                      {Composto(argomenti.at(2)).trimmed(), Composto(argomenti.at(1)).trimmed(), 0, 0}};
+    Annotazione letta{Composto(argomenti.at(0)).simplified().toUpper(),
+                      {Composto(argomenti.at(2)).simplified(), Composto(argomenti.at(1)).simplified(), 0, 0}};
     if (letta.localita.isEmpty()) throw WrongUsage(u"Manca la località."_s);
     if (argomenti.size() < 4) return letta;
     static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);

@@ -12,12 +12,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool Mostra(const Record& record, const VoceGuida& voce) {
-    return record[guida::CodiceGuida] == voce.codice && record[guida::Descrizione].trimmed() == voce.descrizione &&
+    return record[guida::Localita].compare(voce.localita, Qt::CaseInsensitive) == 0 &&
+           record[guida::CodiceGuida] == voce.codice && record[guida::Descrizione].trimmed() == voce.descrizione &&
            LeggiTempoVisita(record[guida::TempoSosta]) == voce.tempo;
 }
 
-// A name looks for itself as a pattern, but a description must be the very same: one that only resembles it belongs to
-// an entry that nobody pointed at.
+// A name looks for itself as a pattern, but the entry's own locality and description must be the very same: one that
+// only resembles them belongs to an entry that nobody pointed at.
 std::optional<Record> VoceMostrata(Archive& archive, const NamePattern& localita, const VoceGuida& voce) {
     const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, localita}}};
     for (Record& record : archive.Select(ricerca)) {

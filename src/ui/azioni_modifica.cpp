@@ -19,9 +19,9 @@ AzioniModifica::AzioniModifica(QWidget& finestra, const QList<QWidget*>& altri, 
     for (QWidget* altro : altri) altro->addActions({annulla_, ripeti_});
 }
 
-void AzioniModifica::Mostra() {
-    const auto mostra = [](QAction& azione, const QString& verbo, const std::optional<QString>& nome) {
-        azione.setEnabled(nome.has_value());
+void AzioniModifica::Mostra(bool libere) {
+    const auto mostra = [libere](QAction& azione, const QString& verbo, const std::optional<QString>& nome) {
+        azione.setEnabled(libere && nome.has_value());
         azione.setText(nome ? verbo + u' ' + *nome : verbo);
     };
     mostra(*annulla_, u"Annulla"_s, scrivania_.DaAnnullare());

@@ -16,7 +16,8 @@ class AzioniModifica : public QObject {
     AzioniModifica(QWidget& finestra, const QList<QWidget*>& altri, Scrivania& scrivania,
                    const std::function<void(const std::function<void()>&)>& esegui);
 
-    void Mostra();
+    /// What can be undone and done again; nothing of it unless `libere`.
+    void Mostra(bool libere);
 
   private:
     Scrivania& scrivania_;

@@ -102,6 +102,7 @@ QWidget* FormMete::CreaGriglia() {
     guida_ = std::make_unique<SchermoGuida>(scrivania_, *griglia_, *cmbRicercaTappa_, esegui);
     copia_ = std::make_unique<SchermoCopia>(scrivania_, *scorrimento, esegui);
     layout->addWidget(scorrimento, 0, 1, 2, 1);
+    connect(copia_.get(), &SchermoCopia::Chiusa, inserimento_, &FrmInputBox::FuocoSullaTappa);
     layout->addWidget(&copia_->Percorso(), 0, 1, 2, 1);
     layout->addWidget(&copia_->Lista(), 1, 0);
     layout->addWidget(&guida_->Riquadro(), 1, 0, 1, 2);
@@ -243,7 +244,9 @@ void FormMete::EseguiComando(ComandoItinerario comando) {
         case ComandoItinerario::Memorizza:
             return Esegui([this] { scrivania_.Memorizza(); });
         case ComandoItinerario::Fine:
-            return Esegui([this] { scrivania_.Fine(); });
+            Esegui([this] { scrivania_.Fine(); });
+            if (!scrivania_.InserimentoVisibile()) return;
+            break;
         case ComandoItinerario::Ricalcola:
             avanzamento_->NuovaOperazione();
             return Esegui([this] { scrivania_.Ricalcola(); });
@@ -344,7 +347,8 @@ void FormMete::Mostra() {
     velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->guidaGiorno)
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
     tempi_->Mostra(meta.parametri);
-    const bool campiLiberi = !cronovia && !scrivania_.CalcoloInCorso() && !scrivania_.Scambio();
+    const bool campiLiberi =
+        !cronovia && !scrivania_.CalcoloInCorso() && !scrivania_.Scambio() && !guida_->StampaAperta();
     for (QWidget* riquadro :
          {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
         riquadro->setEnabled(campiLiberi);
@@ -357,7 +361,7 @@ void FormMete::Mostra() {
     stampa_->Aggiorna();
     // Alt+S is that of the print frames then.
     if (stampa_->Aperto()) bottoni_->Pulsante(Comando::Calcola).setShortcut({});
-    azioni_->Mostra();
+    azioni_->Mostra(!guida_->StampaAperta());
     mostrando_ = false;
 }
 

@@ -57,7 +57,7 @@ QLayout* FrmGuida::CreaCampi() {
     ore->addWidget(cmbGM_);
     auto* griglia = new QGridLayout;
     griglia->setVerticalSpacing(2);
-    griglia->addWidget(NuovaEtichetta(u"&Località (clicca sulla tabella sovrastante)"_s, *txtGCitta_), 0, 0);
+    griglia->addWidget(NuovaEtichetta(u"&Località (clicca sulla tabella) sovrastante)"_s, *txtGCitta_), 0, 0);
     griglia->addWidget(NuovaEtichetta(u"&Monumento, museo, località punto sosta, ecc."_s, *txtGDescr_), 0, 1);
     griglia->addWidget(NuovaEtichetta(u"&Tipologia"_s, *cmbGTipo_), 0, 2);
     griglia->addWidget(NuovaEtichetta(u"Tempo (&hhmm)"_s, *cmbGH_), 0, 3);

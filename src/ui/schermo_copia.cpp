@@ -27,9 +27,9 @@ void SchermoCopia::Collega() {
         lista_->Fuoco();
     });
     connect(percorso_, &FrmPercorso::Esegui, this,
-            [this] { esegui_([this] { scrivania_.InserisciPercorso(percorso_->ConSoste()); }); });
+            [this] { Chiude([this] { scrivania_.InserisciPercorso(percorso_->ConSoste()); }); });
     connect(percorso_, &FrmPercorso::Rinuncia, this,
-            [this] { esegui_([this] { scrivania_.RinunciaDuplicaItinerario(); }); });
+            [this] { Chiude([this] { scrivania_.RinunciaDuplicaItinerario(); }); });
 }
 
 void SchermoCopia::Apri() {
@@ -40,6 +40,12 @@ void SchermoCopia::Apri() {
 
 void SchermoCopia::Comanda(const std::function<void(CopiaPercorso&)>& comando) {
     if (scrivania_.Copia()) esegui_([&] { scrivania_.SullaCopia(comando); });
+}
+
+// A command that may close the lists.
+void SchermoCopia::Chiude(const std::function<void()>& comando) {
+    esegui_(comando);
+    if (!scrivania_.Copia()) Q_EMIT Chiusa();
 }
 
 void SchermoCopia::Scegli(int riga) {
@@ -65,7 +71,7 @@ bool SchermoCopia::Tasto(const QKeyEvent& tasto) {
     const std::optional<CopiaPercorso>& copia = scrivania_.Copia();
     if (!copia) return false;
     if (tasto.key() == Qt::Key_Escape) {
-        esegui_([this] { scrivania_.RinunciaDuplicaItinerario(); });
+        Chiude([this] { scrivania_.RinunciaDuplicaItinerario(); });
         return true;
     }
     const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;

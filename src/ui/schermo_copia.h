@@ -29,10 +29,15 @@ class SchermoCopia : public QObject {
     /// The keys that mean something on this screen; false for all others, and while it is closed.
     bool Tasto(const QKeyEvent& tasto);
 
+  Q_SIGNALS:
+    /// The entry frame is back.
+    void Chiusa();
+
   private:
     void Collega();
     void Comanda(const std::function<void(CopiaPercorso&)>& comando);
     void Scegli(int riga);
+    void Chiude(const std::function<void()>& comando);
 
     Scrivania& scrivania_;
     QWidget& inserimento_;

@@ -56,6 +56,7 @@ void SchermoGuida::ImpostaStampa(ComandoStampaGuida& stampa) {
     connect(stampa_, &ComandoStampaGuida::Cambiato, this, [this] {
         if (!scrivania_.Guida()) return;
         Abilita(*scrivania_.Guida());
+        esegui_([] {});  // what else is free now
         if (!stampa_->Aperto()) riquadro_->FuocoSullaDescrizione();
     });
 }
@@ -75,6 +76,8 @@ void SchermoGuida::Salva() {
     Comanda([&](TavoloGuida& tavolo) { tavolo.SalvaRiga(campi); });
     riquadro_->FuocoSullaDescrizione();
 }
+
+bool SchermoGuida::StampaAperta() const { return stampa_ != nullptr && stampa_->Aperto(); }
 
 bool SchermoGuida::CampiCambiati() const { return mostrato_ && riquadro_->Campi() != mostrato_->campi; }
 
@@ -136,10 +139,12 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
     } else if (esc && tavolo->ElencoLocalitaVisibile()) {
         Comanda([](TavoloGuida& t) { t.ChiudiElenco(); });
         riquadro_->FuocoSullaDescrizione();
+    } else if (tavolo->ElencoLocalitaVisibile()) {
+        return true;
     } else if (auto* pulsante = qobject_cast<QPushButton*>(riquadro_->window()->focusWidget()); invio && pulsante) {
         pulsante->click();
-    } else if (invio && griglia_.hasFocus()) {
-        riquadro_->FuocoSullaDescrizione();
+    } else if (invio && !riquadro_->isAncestorOf(riquadro_->window()->focusWidget())) {
+        riquadro_->FuocoSullaDescrizione();  // in the grid, or in a field of the trip
     } else if (invio && CampiCambiati()) {
         Salva();
     } else if (esc && CampiCambiati()) {

@@ -30,6 +30,8 @@ class SchermoGuida : public QObject {
     void Apri();
     /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
     bool Mostra(int righeMinime);
+    /// The choices of the printout lie over the screen.
+    [[nodiscard]] bool StampaAperta() const;
     /// The keys that mean something on this screen; false for all others, and while it is closed.
     bool Tasto(const QKeyEvent& tasto);
 

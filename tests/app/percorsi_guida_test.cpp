@@ -178,9 +178,9 @@ TEST_F(PercorsiGuidaTest, WhatASecondWindowDidMeanwhile) {
     CancellaRiga();  // gone already: nothing is said, nothing else goes
     EXPECT_EQ(Elenco(Tavolo()), u"ASTI: ROMA:00:01:00"_s);
     CancellaMeta(Archivio(), codice, avanzamento_);
-    copione_.Messaggio(u"Impossibile... non esistono tappe memorizzate!"_s);
+    copione_.Messaggio(u"Impossibile... non esistono tappe memorizzate!"_s, u"Guida Città"_s);
     Salva({u"Foro di Nerva"_s, u"Ottimo"_s, 1, 0});
-    scrivania_->FineGuida();
+    EXPECT_FALSE(scrivania_->Guida().has_value());
     EXPECT_EQ(scrivania_->Comandi().modoComandi, u"NuImEs"_s);
 }
 
@@ -280,8 +280,10 @@ TEST_F(PercorsiGuidaTest, ATripEmptiedMeanwhileGivesNothingToCopy) {
     scrivania_->Duplica();
     MemorizzaTappeItinerario(Archivio(), altra, {}, {}, avanzamento_);
     copione_.Messaggio(u"La mèta «ZARA» non ha più tappe memorizzate."_s);
+    Copia([](CopiaPercorso& copia) { copia.SelezionaRiga(2); });
     Copia([](CopiaPercorso& copia) { copia.ScegliMeta(2); });
     EXPECT_EQ(scrivania_->Copia()->Mete().size(), 1U);
+    EXPECT_EQ(scrivania_->Copia()->RigaCopia(), 1);
     CancellaMeta(Archivio(), propria, avanzamento_);
     copione_.Messaggio(u"Non esiste nessuna mèta con il codice 000002."_s);
     Copia([](CopiaPercorso& copia) { copia.ScegliMeta(1); });

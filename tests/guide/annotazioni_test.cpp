@@ -68,6 +68,15 @@ TEST_F(AnnotazioniTest, TheEntryThatARowShowsIsTheOneThatChanges) {
               "SANT'ANNA [LU] #1|01|Bar \"Da Piero\"|01:00|1"_s);
 }
 
+TEST_F(AnnotazioniTest, AnEqualEntryOfANameThatOnlyResemblesStays) {
+    Aggiungi(u"SANT ELMO"_s, u"09"_s, u"Pompa"_s, u"00:00"_s);
+    Aggiungi(u"SANT'ELMO"_s, u"09"_s, u"Pompa"_s, u"00:00"_s);
+    const VoceGuida mostrata = Voce(u"SANT'ELMO"_s, 1);
+    ASSERT_EQ(mostrata.localita, u"SANT'ELMO"_s);
+    CancellaVoce(archive_, NamePattern::ForName(u"SANT'ELMO"_s), mostrata);
+    EXPECT_TRUE(Guida().startsWith(u"SANT ELMO|09|Pompa"_s)) << Guida().toStdString();
+}
+
 TEST_F(AnnotazioniTest, AnEntryThatIsThereNoMoreTakesNoOtherWithIt) {
     Aggiungi(u"ROMA"_s, u"01"_s, u"Foro *"_s, u"01:00"_s);
     Aggiungi(u"ROMA"_s, u"01"_s, u"Foro Romano"_s, u"01:00"_s);
