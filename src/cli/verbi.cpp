@@ -1,5 +1,7 @@
 #include "cli/verbi.h"
 
+#include <utility>
+
 #include "cli/opzioni_calcolo.h"
 
 namespace cronovia {
@@ -34,10 +36,8 @@ std::vector<Opzione> ConQuelleDelCalcolo(std::vector<Opzione> altre) {
     return altre;
 }
 
-}  // namespace
-
-const std::vector<Verbo>& Verbi() {
-    static const std::vector<Verbo> verbi = {
+std::vector<Verbo> VerbiDellArchivio() {
+    return {
         {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, false, &EseguiElenca},
         {u"nuova"_s,
          u"LOCALITA NAZIONE"_s,
@@ -75,6 +75,11 @@ const std::vector<Verbo>& Verbi() {
          false,
          false,
          &EseguiConverte},
+    };
+}
+
+std::vector<Verbo> VerbiDelViaggio() {
+    return {
         {u"itinerario"_s,
          u"CODICE"_s,
          u"Mostra le tappe di una mèta con i tempi della guida."_s,
@@ -117,6 +122,16 @@ const std::vector<Verbo>& Verbi() {
          true,
          &EseguiGuida},
     };
+}
+
+}  // namespace
+
+const std::vector<Verbo>& Verbi() {
+    static const std::vector<Verbo> verbi = [] {
+        std::vector<Verbo> tutti = VerbiDellArchivio();
+        for (Verbo& verbo : VerbiDelViaggio()) tutti.push_back(std::move(verbo));
+        return tutti;
+    }();
     return verbi;
 }
 
