@@ -17,6 +17,7 @@ constexpr Qt::Alignment kDestra = Qt::AlignRight | Qt::AlignVCenter;
 
 void ModelloCopia::Mostra(const std::vector<MetaDaCopiare>& mete) {
     std::vector<QStringList> righe;
+    righe.reserve(mete.size());
     for (const MetaDaCopiare& meta : mete) {
         righe.push_back({QString::number(righe.size() + 1), meta.localita, meta.nazione});
     }
@@ -25,6 +26,7 @@ void ModelloCopia::Mostra(const std::vector<MetaDaCopiare>& mete) {
 
 void ModelloCopia::Mostra(const RigheItinerario& tappe) {
     std::vector<QStringList> righe;
+    righe.reserve(tappe.size());
     for (const Tappa& tappa : tappe) {
         righe.push_back({QString::number(righe.size() + 1), tappa.localita, tappa.numStrada, RaggruppaNonZero(tappa.km),
                          LetteraTipoStrada(tappa.tipo), TestoSosta(tappa.sosta, tappa.fineGiorno)});
