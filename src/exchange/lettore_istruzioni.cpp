@@ -96,7 +96,7 @@ class Istruzioni : public LettorePercorso {
         if (Uguali(prima, u"ingresso")) return istruzione;
         if (!traghetto) return {};
         const QStringView nome = NomeTraghetto(istruzione);
-        if (tragitto_.Nuova(nome)) tragitto_.SiImbarca();
+        if (!nome.isEmpty()) tragitto_.SiImbarca();
         return nome;
     }
 

@@ -20,7 +20,8 @@ QString Campo(QByteArrayView byte, bool& guasto) {
         guasto = guasto || (valore < 0x20 && valore != 0);
         if (valore < 0x20) c = ' ';
     }
-    return DaWindows1252(testo).trimmed();
+    while (testo.endsWith(' ')) testo.chop(1);
+    return DaWindows1252(testo);
 }
 
 }  // namespace

@@ -17,10 +17,11 @@ struct FormaRecord {
 };
 
 struct RecordFisso {
-    std::vector<QString> campi;  ///< without blanks around them; zero bytes are blanks
+    std::vector<QString> campi;  ///< character by character, but for the blanks at their end; zero bytes are blanks
     bool guasto = false;         ///< holds characters that no program writes into a text
 
-    [[nodiscard]] const QString& operator[](std::size_t campo) const { return campi[campo]; }
+    /// A field whose characters have no fixed places, without the blanks around it.
+    [[nodiscard]] QString operator[](std::size_t campo) const { return campi[campo].trimmed(); }
 };
 
 /// Hands over record after record, in a bounded amount of memory.

@@ -1,7 +1,9 @@
 #include "exchange/vecchi_record.h"
 
 #include <algorithm>
+#include <array>
 
+#include "calendar/date.h"
 #include "calendar/testo.h"
 
 namespace cronovia {
@@ -12,7 +14,8 @@ namespace {
 
 namespace vecchia {
 constexpr std::size_t kLocalita = 0;
-constexpr std::size_t kPrimoNumero = 2;
+constexpr std::size_t kDataInizio = 2;
+constexpr std::array<std::size_t, 9> kOrari = {3, 8, 9, 10, 11, 12, 13, 19, 20};
 constexpr std::size_t kNumeroMeta = 14;
 }  // namespace vecchia
 
@@ -29,9 +32,31 @@ bool TuttoVuoto(const RecordFisso& record) {
 
 QString ConBlank(const QString& testo) { return testo.isEmpty() ? u" "_s : testo; }
 
-// "010230" as "01:02:30"; blanks are zeros.
+// " 5061998" is "05061998": programs of that age wrote digits in their places with blanks for leading zeros.
+QString BlankComeZeri(QString campo) { return campo.replace(u' ', u'0'); }
+
+// Four digits, at most "2400".
+bool Orario(const QString& campo) {
+    const QString cifre = BlankComeZeri(campo);
+    if (cifre.isEmpty()) return true;
+    return cifre.size() == 4 && ValoreNumerico(cifre) <= 2400 && ValoreNumerico(cifre.right(2)) < 60;
+}
+
+bool InPosizione(std::size_t campo) {
+    return campo == vecchia::kDataInizio ||
+           std::find(vecchia::kOrari.begin(), vecchia::kOrari.end(), campo) != vecchia::kOrari.end();
+}
+
+bool DataEOrariValidi(const RecordFisso& record) {
+    const QString& data = record.campi[vecchia::kDataInizio];
+    return (data.isEmpty() || LeggiData(BlankComeZeri(data))) &&
+           std::all_of(vecchia::kOrari.begin(), vecchia::kOrari.end(),
+                       [&](std::size_t campo) { return Orario(record.campi[campo]); });
+}
+
+// "010230" as "01:02:30"; blanks are zeros, those at the end too.
 QString Sosta(const QString& campo) {
-    const QString cifre = AntStr(campo, 6, u'0').replace(u' ', u'0');
+    const QString cifre = BlankComeZeri(AggStr(campo, 6, u'0'));
     if (!SoloCifre(cifre) || ValoreNumerico(cifre) == 0) return u" "_s;
     return cifre.left(2) + u':' + cifre.mid(2, 2) + u':' + cifre.mid(4, 2);
 }
@@ -45,16 +70,17 @@ const FormaRecord& FormaVecchieMete() {
 
 StatoRecord StatoVecchiaMeta(const RecordFisso& record) {
     if (record[vecchia::kLocalita].startsWith(".."_L1) || TuttoVuoto(record)) return StatoRecord::Vuoto;
-    const bool numeri = std::all_of(record.campi.begin() + vecchia::kPrimoNumero, record.campi.end(), SoloCifreEBlank);
+    const bool numeri = std::all_of(record.campi.begin() + vecchia::kDataInizio, record.campi.end(), SoloCifreEBlank);
     const bool completa = !record[vecchia::kLocalita].isEmpty() && ValoreNumerico(record[vecchia::kNumeroMeta]) > 0;
-    return !record.guasto && numeri && completa ? StatoRecord::Valido : StatoRecord::Guasto;
+    return !record.guasto && numeri && completa && DataEOrariValidi(record) ? StatoRecord::Valido : StatoRecord::Guasto;
 }
 
 // The old order is that of the table but for the number, which stands behind the night hour.
 std::vector<QString> ValoriVecchiaMeta(const RecordFisso& record) {
     std::vector<QString> valori{Zero(ValoreNumerico(record[vecchia::kNumeroMeta]), 6)};
     for (std::size_t i = 0; i < record.campi.size(); ++i) {
-        if (i != vecchia::kNumeroMeta) valori.push_back(ConBlank(record[i]));
+        if (i == vecchia::kNumeroMeta) continue;
+        valori.push_back(ConBlank(InPosizione(i) ? BlankComeZeri(record.campi[i]) : record[i]));
     }
     return valori;
 }
@@ -78,7 +104,7 @@ std::optional<std::vector<QString>> ValoriVecchiaTappa(const RecordFisso& record
     const QString strada = asterisco < 0 ? QString() : record[0].mid(asterisco + 1).trimmed();
     const QString km = SoloCifre(record[1]) ? record[1] : QString();
     return std::vector<QString>{localita, km.isEmpty() ? u"0"_s : km, ConBlank(strada), ConBlank(record[2]),
-                                Sosta(record[3])};
+                                Sosta(record.campi[3])};
 }
 
 const FormaRecord& FormaVecchiaGuida() {

@@ -86,6 +86,21 @@ TEST_F(Conversione, EveryFieldFindsItsPlace) {
     EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VandMete.dat"_s), mete);
 }
 
+TEST_F(Conversione, DigitsStandInTheirPlacesWithBlanksForZeros) {
+    const auto mete = [](const QByteArray& data, const QByteArray& orari) {
+        return RecordVecchio(FormaVecchieMete(),
+                             " ALBA |ITALIA|" + data + '|' + orari + "|  7|75|55|40| 830|12 0||1930|0130|  30|3|15");
+    };
+    Scrivi(u"VandMete.dat"_s, mete(" 5 61998", " 8 0") + mete("31021998", "0800") + mete("05061998", "0860") +
+                                  mete("05061998", "2401") + mete("0506", "0800") + mete("05061998", "08"));
+    Scrivi(u"vand0003.dat"_s, Tappe("  2|  2\nAIX| 98|A|01\n NIZZA|5|A| 1 230"));
+    EXPECT_EQ(Converti().guasti, 5);
+    EXPECT_THAT(LeMete(), ElementsAre(u"000003|ALBA|ITALIA|05061998|0800|7|75|55|40|0830|1200| |1930|0130|0030|"
+                                      "15| | | | | |0600|000|3"_s));
+    EXPECT_THAT(LeTappe(),
+                ElementsAre(u"000003|0001|AIX|98| |A|01:00:00| |0"_s, u"000003|0002|NIZZA|5| |A|01:02:30| |0"_s));
+}
+
 TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAndTheRestStays) {
     std::vector<QString> mia(mete::kCampi, u"9"_s);
     mia[mete::CodiceMeta] = u"000007"_s;
