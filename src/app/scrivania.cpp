@@ -241,9 +241,8 @@ void Scrivania::EseguiCalcolo(bool conMessaggio) {
 
 // A new trip is in the archive only after it was saved.
 bool Scrivania::LasciaNuovaMeta() {
-    const QString localita = meta_.localita.trimmed();
-    if (!meta_.codice.isEmpty() || localita.isEmpty()) return true;
-    const Question domanda{u"La nuova mèta «%1» non è stata salvata: vuoi rinunciarvi?"_s.arg(localita),
+    if (!NuovaMetaDigitata()) return true;
+    const Question domanda{u"La nuova mèta «%1» non è stata salvata: vuoi rinunciarvi?"_s.arg(meta_.localita.trimmed()),
                            u"Fine Lavoro"_s};
     return volti_.interazione.Ask(domanda) == Answer::Yes;
 }

@@ -147,6 +147,9 @@ class Scrivania {
     void Mostra(StatoItinerario stato);
     void MettiPercorso(RigheItinerario percorso);
     bool MemorizzaTappe();
+    [[nodiscard]] bool NuovaMetaDigitata() const {
+        return meta_.codice.isEmpty() && !meta_.localita.trimmed().isEmpty();
+    }
     bool LasciaNuovaMeta();
     void EsciDallInserimento();
     void EseguiCalcolo(bool conMessaggio = true);

@@ -35,17 +35,23 @@ void Scrivania::PreparaExportImport(ModoScambio modo) {
     ApplicaModo(u"zz"_s);
 }
 
-// The trip that was current is on the desk again.
+// The trip that was current is on the desk again; none is when it cannot be read, since the desk is empty.
 void Scrivania::EsciExportImport() {
     scambio_.reset();
-    CaricaMetaCorrente();
+    try {
+        CaricaMetaCorrente();
+    } catch (const Failure&) {
+        codiceMetaCorrente_.clear();
+        ApplicaModo(u"all"_s);
+        throw;
+    }
 }
 
-// No trip is current any more.
+// No trip is current any more. The mode comes first: the commands are needed even when the archive cannot be read.
 void Scrivania::FinisciScambio() {
     codiceMetaCorrente_.clear();
-    MettiSulTavolo({sessione_.MetaProposta(volti_.adesso()), {}, {}});
     ApplicaModo(scambio_ ? u"zz"_s : u"all"_s);
+    MettiSulTavolo({sessione_.MetaProposta(volti_.adesso()), {}, {}});
 }
 
 // After an exchange every command can be given though no trip is open; tells so.
@@ -139,15 +145,15 @@ void Scrivania::Importa() {
         FinisciScambio();
         return;
     }
+    const bool qualcosa = esito.meteInserite + esito.tappeInserite + esito.vociInserite > 0;
+    if (qualcosa) import_ = ImportFatto{file, esito.traccia};
     scambio_.reset();
     FinisciScambio();
-    if (esito.meteInserite + esito.tappeInserite + esito.vociInserite == 0) {
-        volti_.mostra();
+    volti_.mostra();
+    if (!qualcosa) {
         volti_.interazione.Show({TestoEsito(esito), {}, Icon::Information});
         return;
     }
-    import_ = ImportFatto{file, esito.traccia};
-    volti_.mostra();
     if (volti_.interazione.ShowUndoable({TestoEsito(esito), {}, Icon::Information}, u"Annulla importazione"_s)) {
         AnnullaImportazione();
     }
@@ -166,16 +172,19 @@ std::optional<QString> Scrivania::DaAnnullareImport() const {
     return possibile ? std::optional(u"importazione di %1"_s.arg(import_->file)) : std::nullopt;
 }
 
+// A failed attempt can be made again, unless the archive is another one by now.
 void Scrivania::AnnullaImportazione() {
-    const ImportFatto fatto = *std::exchange(import_, std::nullopt);
+    const ImportFatto fatto = *import_;
     Prova([&] {
         Archive& archivio = sessione_.Archivio();
+        if (archivio.PresentMark() != fatto.traccia.stato) import_.reset();
         AnnullaImport(archivio, fatto.traccia);
+        import_.reset();
         if (CaricaDatiAnagraficiMeta(archivio, codiceMetaCorrente_)) {
             RicalcolaVisite(archivio, righe_, meta_.parametri);  // what is typed in the trip's fields stays
             RicalcolaTempi();
             memorizzate_ = righe_;
-        } else {
+        } else if (!NuovaMetaDigitata()) {
             CaricaMetaCorrente();
         }
         volti_.mostra();

@@ -109,6 +109,18 @@ TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
     EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
 }
 
+TEST_F(ScambioTest, TakingAnImportBackLeavesANewTripThatIsBeingTyped) {
+    prova::ScriviFile(file_, amici_);
+    Importa(Answer::No);
+    Meta nuova = scrivania_->MetaInCorso();
+    nuova.localita = u"NARVIK"_s;
+    scrivania_->ImpostaMeta(nuova);
+    copione_.Messaggio(u"L'importazione di amici.iei è stata annullata."_s);
+    scrivania_->Annulla();
+    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"NARVIK"_s);
+    EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
+}
+
 TEST_F(ScambioTest, WhatAnotherWindowWroteSinceIsNotTakenBack) {
     prova::ScriviFile(file_, amici_);
     Importa(Answer::No);
