@@ -61,7 +61,8 @@ bool RicezioneFile::eventFilter(QObject* oggetto, QEvent* event) {
     auto* lascia = static_cast<QDropEvent*>(event);
     const QString file = FileTrascinato(*lascia->mimeData());
     if (file.isEmpty()) return false;
-    lascia->acceptProposedAction();
+    lascia->setDropAction(Qt::CopyAction);  // a move would have the other program delete the file
+    lascia->accept();
     if (event->type() == QEvent::Drop) {
         // The program that it comes from waits until the drop is over.
         QTimer::singleShot(0, this, [this, file] { Q_EMIT Arrivato(file); });
