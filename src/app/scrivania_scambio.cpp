@@ -83,7 +83,8 @@ void Scrivania::Import(const std::function<QString()>& scegliFile) {
         volti_.mostra();
         const QString file = scegliFile();
         const bool letto = !file.isEmpty() && Corsa([&] {
-            scambio_.emplace(ModoScambio::Import, file, LeggiElencoMete(file, volti_.avanzamento));
+            const StatoFile stato = StatoDelFile(file);
+            scambio_.emplace(ModoScambio::Import, file, LeggiElencoMete(file, volti_.avanzamento), stato);
         });
         if (!letto) EsciExportImport();
     });
@@ -126,7 +127,7 @@ void Scrivania::Esporta(const QString& file) {
     EsitoExport esito;
     const bool esportate =
         libero && BoxConferma(volti_.interazione, u"EX"_s) && Corsa([&] {
-            esito = EsportaMete({sessione_.Archivio(), file, scambio_->CodiciScelti(), true}, volti_.avanzamento);
+            esito = EsportaMete({sessione_.Archivio(), file, scambio_->CodiciScelti(), true, true}, volti_.avanzamento);
         });
     FinisciScambio();
     if (!esportate) return;
@@ -137,10 +138,11 @@ void Scrivania::Esporta(const QString& file) {
 void Scrivania::Importa() {
     EsitoImport esito;
     const QString file = QFileInfo(scambio_->File()).fileName();
-    const bool importate =
-        BoxConferma(volti_.interazione, u"IM"_s) && Corsa([&] {
-            esito = ImportaMete({sessione_.Archivio(), scambio_->File(), scambio_->CodiciScelti()}, volti_.avanzamento);
-        });
+    const bool importate = BoxConferma(volti_.interazione, u"IM"_s) && Corsa([&] {
+                               esito = ImportaMete({sessione_.Archivio(), scambio_->File(), scambio_->CodiciScelti(),
+                                                    scambio_->StatoDelFileLetto()},
+                                                   volti_.avanzamento);
+                           });
     if (!importate) {
         FinisciScambio();
         return;

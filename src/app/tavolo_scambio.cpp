@@ -6,7 +6,8 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-TavoloScambio::TavoloScambio(ModoScambio modo, QString file, Lista mete) : modo_(modo), file_(std::move(file)) {
+TavoloScambio::TavoloScambio(ModoScambio modo, QString file, Lista mete, StatoFile stato)
+    : modo_(modo), file_(std::move(file)), stato_(std::move(stato)) {
     liste_[modo == ModoScambio::Export ? 0 : 1] = std::move(mete);
 }
 

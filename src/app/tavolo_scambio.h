@@ -17,11 +17,12 @@ class TavoloScambio {
   public:
     using Lista = std::vector<MetaNelFile>;
 
-    /// For an import `file` is the one that the trips are in.
-    TavoloScambio(ModoScambio modo, QString file, Lista mete);
+    /// For an import `file` is the one that the trips are in, `stato` its state before they were read.
+    TavoloScambio(ModoScambio modo, QString file, Lista mete, StatoFile stato = {});
 
     [[nodiscard]] ModoScambio Modo() const { return modo_; }
     [[nodiscard]] const QString& File() const { return file_; }
+    [[nodiscard]] const StatoFile& StatoDelFileLetto() const { return stato_; }
     [[nodiscard]] const Lista& Mete(int lista) const { return liste_[static_cast<std::size_t>(lista)]; }
     /// The list whose trips the run takes, and their codes.
     [[nodiscard]] const Lista& Scelte() const { return Mete(modo_ == ModoScambio::Export ? 1 : 0); }
@@ -39,6 +40,7 @@ class TavoloScambio {
   private:
     ModoScambio modo_;
     QString file_;
+    StatoFile stato_;
     std::array<Lista, 2> liste_;
 };
 

@@ -33,21 +33,25 @@ NamePattern Codice(const QString& codice) { return NamePattern::Exactly(codice);
 struct VecchieTappe {
     std::map<QString, std::vector<QString>> tappe;
     QString difetto;  // why the file cannot be converted
+    qint64 guasti = 0;
 };
 
 VecchieTappe LeggiVecchieTappe(const QString& path) {
     const std::unique_ptr<QFile> file = ApriInLettura(path);
     if (!LettoreRecord::Interi(*file, FormaVecchieTappe()))
-        return {{}, u"è troncato o non ha record di 64 caratteri"_s};
+        return {{}, u"è troncato o non ha record di 64 caratteri"_s, 0};
     LettoreRecord lettore(*file, FormaVecchieTappe(), path);
     RecordFisso record;
     const std::optional<int> annunciate = lettore.Leggi(record) ? NumeroVecchieTappe(record) : std::nullopt;
-    if (!annunciate) return {{}, u"i due numeri delle tappe non sono uguali"_s};
-    if (lettore.NumeroRecord() - 1 < *annunciate) return {{}, u"ha meno tappe di quante ne annuncia"_s};
+    if (!annunciate) return {{}, u"i due numeri delle tappe non sono uguali"_s, 0};
+    if (lettore.NumeroRecord() - 1 < *annunciate) return {{}, u"ha meno tappe di quante ne annuncia"_s, 0};
     VecchieTappe lette;
     for (int numero = 1; numero <= *annunciate && lettore.Leggi(record); ++numero) {
-        if (auto valori = ValoriVecchiaTappa(record)) lette.tappe[Zero(numero, 4)] = std::move(*valori);
+        const StatoRecord stato = StatoVecchiaTappa(record);
+        if (stato == StatoRecord::Valido) lette.tappe[Zero(numero, 4)] = ValoriVecchiaTappa(record);
+        if (stato == StatoRecord::Guasto) ++lette.guasti;
     }
+    if (*annunciate > 0 && lette.tappe.empty()) lette.difetto = u"nessuna delle sue tappe è leggibile"_s;
     return lette;
 }
 
@@ -178,6 +182,7 @@ void Convertitore::ConvertiItinerario(const QString& codice, const QString& nome
     const VecchieTappe lette = LeggiVecchieTappe(copia);
     if (lette.difetto.isEmpty()) {
         MemorizzaTappe(codice, lette.tappe);
+        esito_.guasti += lette.guasti;
         daCancellare_.push_back(*path);
     } else {
         Lascia(nome, lette.difetto);

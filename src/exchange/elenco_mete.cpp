@@ -22,11 +22,10 @@ bool MetaImportabile(const RigaIei& riga) {
     return !riga.valori[mete::Localita].isEmpty() && !codice.isEmpty() && codice.size() <= kCodicePiuLungo;
 }
 
-void ScorriMete(QIODevice& device, const QString& path, Progress& progress,
+void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, Progress& progress,
                 const std::function<void(const RigaIei&)>& visita) {
-    progress.Title(u"Esportazione mète"_s);
     device.seek(0);
-    LettoreIei lettore(device, {Tabella::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s}, progress);
+    LettoreIei lettore(device, lettura, progress);
     RigaIei riga;
     while (lettore.Leggi(riga)) {
         if (MetaImportabile(riga)) visita(riga);
@@ -42,7 +41,10 @@ std::vector<MetaNelFile> LeggiElencoMete(const QString& path, Progress& progress
     const std::vector<Campo>& campi = Definizione(Tabella::MeteVandro).campi;
     std::vector<MetaNelFile> elenco;
     QSet<QString> codici;
-    ScorriMete(*file, path, progress, [&](const RigaIei& riga) {
+    progress.Title(u"Esportazione mète"_s);
+    const Lettura lettura{Tabella::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s,
+                          u"Lettura delle mète interrotta."_s};
+    ScorriMete(*file, path, lettura, progress, [&](const RigaIei& riga) {
         const QString& codice = riga.valori[mete::CodiceMeta];
         if (codici.contains(codice)) return;
         codici.insert(codice);

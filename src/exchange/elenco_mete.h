@@ -27,7 +27,7 @@ std::vector<MetaNelFile> LeggiElencoMete(const QString& path, Progress& progress
 bool MetaImportabile(const RigaIei& riga);
 
 /// Visits those records, from the beginning of the device. `path` is its name in messages.
-void ScorriMete(QIODevice& device, const QString& path, Progress& progress,
+void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, Progress& progress,
                 const std::function<void(const RigaIei&)>& visita);
 
 }  // namespace cronovia

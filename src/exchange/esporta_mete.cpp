@@ -79,12 +79,17 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
         presi.insert(codice);
     };
     for (const QString& codice : richiesta.codici) {
-        if (!richiesta.archive.Exists(PerCodice(Tabella::MeteVandro, codice))) {
+        const bool esiste = richiesta.archive.Exists(PerCodice(Tabella::MeteVandro, codice));
+        if (!esiste && richiesta.saltaMancanti) continue;
+        if (!esiste) {
             throw Failure(u"Non c'è nessuna mèta con il codice %1: niente è stato esportato."_s.arg(codice));
         }
         aggiungi(codice);
     }
     if (!codici.empty()) return codici;
+    if (!richiesta.codici.empty()) {
+        throw Failure(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
+    }
     for (const Record& record : richiesta.archive.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
         aggiungi(record[mete::CodiceMeta]);
     }

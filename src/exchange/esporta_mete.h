@@ -14,6 +14,7 @@ struct RichiestaExport {
     QString path;
     std::vector<QString> codici;  ///< of the trips, in the file's order; none for all, in the order of their names
     bool sovrascrivi = false;     ///< an existing file may be replaced
+    bool saltaMancanti = false;   ///< codes of trips that are no more are passed over, as long as one is left
 };
 
 struct EsitoExport {

@@ -1,5 +1,6 @@
 #include "exchange/importa_mete.h"
 
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <array>
@@ -129,14 +130,16 @@ void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresen
     presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
 }
 
+Lettura LetturaPerImport(std::optional<Tabella> solo) {
+    return {solo, u"Importazione "_s, {}, u"Importazione interrotta: niente è stato inserito."_s};
+}
+
 EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& device, Progress& progress) {
-    progress.Title(u"Importazione mète"_s);
     device.seek(0);
-    LettoreIei lettore(device, {std::nullopt, u"Importazione "_s, {}}, progress);
+    LettoreIei lettore(device, LetturaPerImport(std::nullopt), progress);
     Importatore importatore(archive, codici);
     RigaIei riga;
     while (lettore.Leggi(riga)) {
-        if (progress.StopRequested()) throw Failure(u"Importazione interrotta: niente è stato inserito."_s);
         importatore.Importa(riga);
     }
     importatore.Esito().lettura = lettore.Scarti();
@@ -146,18 +149,25 @@ EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& devic
 }  // namespace
 
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
+    RichiestaImport fissata = richiesta;
+    if (!fissata.stato) fissata.stato = StatoDelFile(richiesta.path);
     const std::unique_ptr<QFile> file = ApriInLettura(richiesta.path);
-    return ImportaMete(richiesta, *file, progress);
+    return ImportaMete(fissata, *file, progress);
 }
 
 EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
     MappaCodici codici;
-    ScorriMete(device, richiesta.path, progress,
+    progress.Title(u"Importazione mète"_s);
+    ScorriMete(device, richiesta.path, LetturaPerImport(Tabella::MeteVandro), progress,
                [&](const RigaIei& riga) { codici.Aggiungi(riga.valori[mete::CodiceMeta]); });
     Transaction transaction(richiesta.archive);
     codici.Scegli(richiesta.codici, richiesta.archive);
     OsservaAggiunte aggiunte(richiesta.archive);
     EsitoImport esito = ImportaRighe(richiesta.archive, codici, device, progress);
+    if (richiesta.stato && StatoDelFile(richiesta.path) != *richiesta.stato) {
+        throw Failure(u"Il file %1 è cambiato da quando è stato letto: niente è stato inserito."_s.arg(
+            QDir::toNativeSeparators(richiesta.path)));
+    }
     esito.traccia = aggiunte.Fine();
     transaction.Commit();
     progress.Advance(0, 0);

@@ -4,6 +4,7 @@
 #include <QIODevice>
 #include <QString>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -18,6 +19,7 @@ struct RichiestaImport {
     Archive& archive;
     QString path;
     std::vector<QString> codici;  ///< of the trips to import, leading zeros left out or not; none for all of the file
+    std::optional<StatoFile> stato = {};  ///< of the file when its trips were listed; another one is refused
 };
 
 /// What an import did, and what it could not take as it stood.
@@ -43,7 +45,7 @@ struct EsitoImport {
 /// for their field with the characters that fit. Codes that are taken, or that have not six digits, are replaced.
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress);
 
-/// The same from a device that can be read twice; the path is only its name in messages.
+/// The same from a device that can be read twice; without a state the path is only its name in messages.
 EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress);
 
 /// The text of the closing box.

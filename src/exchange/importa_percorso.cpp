@@ -1,9 +1,7 @@
 #include "exchange/importa_percorso.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <utility>
 
@@ -33,11 +31,6 @@ std::unique_ptr<LettorePercorso> Riconosci(RigheTesto& righe, const Destinazione
     return nullptr;
 }
 
-std::pair<qint64, QDateTime> Stato(const QString& path) {
-    const QFileInfo info(path);
-    return {info.exists() ? info.size() : -1, info.lastModified()};
-}
-
 QString TestoStrade(std::vector<StradaLetta> strade, bool traghetto) {
     const std::size_t massimo = traghetto ? 1 : 2;
     while (strade.size() > massimo) {
@@ -52,11 +45,11 @@ QString TestoStrade(std::vector<StradaLetta> strade, bool traghetto) {
 }  // namespace
 
 std::optional<RigheItinerario> CaricaDaPacchetto(const QString& path, Progress& progress) {
-    const auto prima = Stato(path);
+    const StatoFile prima = StatoDelFile(path);
     const auto file = ApriInLettura(path);
     auto tappe = CaricaDaPacchetto(*file, path, progress);
     const QString nome = QDir::toNativeSeparators(path);
-    if (Stato(path) != prima) throw Failure(u"Il file %1 è cambiato mentre veniva letto."_s.arg(nome));
+    if (StatoDelFile(path) != prima) throw Failure(u"Il file %1 è cambiato mentre veniva letto."_s.arg(nome));
     if (tappe && tappe->empty()) throw Failure(u"Nel percorso del file %1 non c'è nessuna tappa."_s.arg(nome));
     return tappe;
 }

@@ -24,6 +24,11 @@ std::unique_ptr<QFile> ApriInLettura(const QString& path) {
     return file;
 }
 
+StatoFile StatoDelFile(const QString& path) {
+    const QFileInfo info(path);
+    return {info.exists() ? info.size() : -1, info.lastModified()};
+}
+
 bool LettoreRighe::Avanza() {
     riga_ = {};
     troppoLunga_ = false;

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QDateTime>
 #include <QIODevice>
 #include <QString>
 #include <memory>
@@ -13,6 +14,16 @@ namespace cronovia {
 
 /// Opens a file for reading. A `Failure` when it is missing, no file, or cannot be read.
 std::unique_ptr<QFile> ApriInLettura(const QString& path);
+
+/// What tells whether a file is still the one that was read before.
+struct StatoFile {
+    qint64 byte = -1;  ///< -1 when there is none
+    QDateTime modificato;
+
+    friend bool operator==(const StatoFile&, const StatoFile&) = default;
+};
+
+StatoFile StatoDelFile(const QString& path);
 
 /// Hands over line after line, ended by CR LF or by LF alone, in a bounded amount of memory.
 class LettoreRighe {

@@ -54,6 +54,11 @@ bool DataEOrariValidi(const RecordFisso& record) {
                        [&](std::size_t campo) { return Orario(record.campi[campo]); });
 }
 
+QString LocalitaDellaTappa(const RecordFisso& record) {
+    const QString testo = record[0];
+    return testo.left(testo.indexOf(u'*')).trimmed();
+}
+
 // "010230" as "01:02:30"; blanks are zeros, those at the end too.
 QString Sosta(const QString& campo) {
     const QString cifre = BlankComeZeri(AggStr(campo, 6, u'0'));
@@ -97,14 +102,19 @@ std::optional<int> NumeroVecchieTappe(const RecordFisso& testa) {
     return ValoreNumerico(testa[0]);
 }
 
-std::optional<std::vector<QString>> ValoriVecchiaTappa(const RecordFisso& record) {
-    const qsizetype asterisco = record[0].indexOf(u'*');
-    const QString localita = record[0].left(asterisco).trimmed();
-    if (localita.isEmpty() || localita.front() < u'A' || localita.front() > u'Z') return std::nullopt;
-    const QString strada = asterisco < 0 ? QString() : record[0].mid(asterisco + 1).trimmed();
-    const QString km = SoloCifre(record[1]) ? record[1] : QString();
-    return std::vector<QString>{localita, km.isEmpty() ? u"0"_s : km, ConBlank(strada), ConBlank(record[2]),
-                                Sosta(record.campi[3])};
+StatoRecord StatoVecchiaTappa(const RecordFisso& record) {
+    if (record.guasto || !SoloCifre(record[1])) return StatoRecord::Guasto;
+    const QString localita = LocalitaDellaTappa(record);
+    const bool nome = !localita.isEmpty() && localita.front() >= u'A' && localita.front() <= u'Z';
+    return nome ? StatoRecord::Valido : StatoRecord::Vuoto;
+}
+
+std::vector<QString> ValoriVecchiaTappa(const RecordFisso& record) {
+    const QString testo = record[0];
+    const qsizetype asterisco = testo.indexOf(u'*');
+    const QString strada = asterisco < 0 ? QString() : testo.mid(asterisco + 1).trimmed();
+    return {LocalitaDellaTappa(record), record[1].isEmpty() ? u"0"_s : record[1], ConBlank(strada), ConBlank(record[2]),
+            Sosta(record.campi[3])};
 }
 
 const FormaRecord& FormaVecchiaGuida() {

@@ -26,8 +26,10 @@ std::vector<QString> ValoriVecchiaMeta(const RecordFisso& record);
 const FormaRecord& FormaVecchieTappe();
 /// How many stages the head announces; nothing when it does not tell the same number twice.
 std::optional<int> NumeroVecchieTappe(const RecordFisso& testa);
-/// The fields of `Itinerari` from `Localita` to `TempoSosta`; nothing when the record names no locality.
-std::optional<std::vector<QString>> ValoriVecchiaTappa(const RecordFisso& record);
+/// A record that names no locality in capital letters counts as left free.
+StatoRecord StatoVecchiaTappa(const RecordFisso& record);
+/// The fields of `Itinerari` from `Localita` to `TempoSosta`, as a valid record has them.
+std::vector<QString> ValoriVecchiaTappa(const RecordFisso& record);
 
 /// Guide entries, one per record.
 const FormaRecord& FormaVecchiaGuida();

@@ -159,6 +159,15 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     copione_.Domanda(u"Confermi export delle mète selezionate?"_s, kExport, Answer::Yes);
     copione_.Messaggio(u"Le mète esportate si trovano sul file "_s + altro);
     ImExp(altro);
+    {
+        Archive archive = AltraFinestra();
+        archive.CancellaTabella(Tabella::MeteVandro, Condizione{mete::Localita, NamePattern::Exactly(u"PISA"_s)},
+                                avanzamento_);
+    }
+    copione_.Domanda(esiste, u"File %1 esistente"_s.arg(altro), Answer::Yes);
+    copione_.Domanda(u"Confermi export delle mète selezionate?"_s, kExport, Answer::Yes);
+    copione_.Messaggio(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
+    ImExp(altro);
     EXPECT_EQ(Lista(1), u"PISA"_s);  // the screen stays as it was
     EXPECT_EQ(LeggiElencoMete(altro, avanzamento_).size(), 1U);
     scrivania_->FineScambio();

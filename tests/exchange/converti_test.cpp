@@ -17,7 +17,6 @@ using prova::MessaggioDi;
 using prova::Righe;
 using prova::ScriviFile;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 // A record from its fields between "|".
 QByteArray RecordVecchio(const FormaRecord& forma, const QByteArray& campi) {
@@ -123,23 +122,28 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAndTheRestStays) {
 TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
     const QByteArray diversi = Tappe("2|3\nAIX|98|A\nNIZZA|5|A");
     Scrivi(u"VandMete.dat"_s, Vecchia("UNO", "1") + Vecchia("DUE", "2") + Vecchia("TRE", "3") + Vecchia("SEI", "6") +
-                                  Vecchia("SENZA NUMERO", "x"));
+                                  Vecchia("NOVE", "9") + Vecchia("DIECI", "10") + Vecchia("SENZA NUMERO", "x"));
     Scrivi(u"vand0001.dat"_s, diversi);
     Scrivi(u"vand0002.dat"_s, Tappe("9|9\nAIX|98|A"));
     Scrivi(u"vand0003.dat"_s, "ciao");
+    Scrivi(u"vand0009.dat"_s, Tappe("2|2\nAIX|x|A\nlucca|1|A"));
+    Scrivi(u"vand0010.dat"_s, Tappe("3|3\nAIX|1|A\nNIZZA|1.5|A\nBR\x01|1|A"));
     const QString testo = TestoEsito(Converti());
     EXPECT_TRUE(
         testo.endsWith(u"\r\n\r\nFile da controllare:\r\n"
                        "vand0001.dat: i due numeri delle tappe non sono uguali\r\n"
                        "vand0002.dat: ha meno tappe di quante ne annuncia\r\n"
                        "vand0003.dat: è troncato o non ha record di 64 caratteri\r\n"
-                       "vand0006.dat: non c'è\r\n\r\nRecord illeggibili, non convertiti: 1"_s))
+                       "vand0006.dat: non c'è\r\n"
+                       "vand0009.dat: nessuna delle sue tappe è leggibile\r\n\r\n"
+                       "Record illeggibili, non convertiti: 3"_s))
         << testo.toStdString();
-    EXPECT_THAT(LeTappe(), IsEmpty());
-    EXPECT_THAT(cartella_.Contenuto(),
-                ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"vand0001.dat"_s, u"vand0002.dat"_s, u"vand0003.dat"_s));
+    EXPECT_THAT(LeTappe(), ElementsAre(u"000010|0001|AIX|1| |A| | |0"_s));
+    EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"vand0001.dat"_s,
+                                                   u"vand0002.dat"_s, u"vand0003.dat"_s, u"vand0009.dat"_s));
     EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/vand0001.dat"_s), diversi);
-    EXPECT_EQ(QDir(cartella_.Percorso() + u'/' + copie_).entryList(QDir::Files), QStringList{u"VandMete.dat"_s});
+    EXPECT_EQ(QDir(cartella_.Percorso() + u'/' + copie_).entryList(QDir::Files),
+              (QStringList{u"vand0010.dat"_s, u"VandMete.dat"_s}));
 }
 
 TEST_F(Conversione, WhatIsNoneOfTheOldFilesIsRefusedWhole) {

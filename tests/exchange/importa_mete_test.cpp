@@ -129,13 +129,15 @@ TEST_F(Import, TellsWhatItDidNotTakeAsItStood) {
 // Throws in the middle of the file, at the second reading.
 class Interruzione : public Progress {
   public:
-    void Title(const QString& titolo) override { importa_ = importa_ || titolo == "Importazione Itinerari"_L1; }
+    void Title(const QString& titolo) override {
+        if (titolo == "Importazione Itinerari"_L1) ++letture_;
+    }
     void Advance(double /*count*/, double /*total*/) override {
-        if (importa_ && ++righe_ == 2) throw Failure(u"interrotto"_s);
+        if (letture_ == 2 && ++righe_ == 2) throw Failure(u"interrotto"_s);
     }
 
   private:
-    bool importa_ = false;
+    int letture_ = 0;
     int righe_ = 0;
 };
 
@@ -145,6 +147,12 @@ TEST_F(Import, InterruptedHalfWayLeavesTheArchiveAsItWas) {
     prova::ScriviFile(file, Mete("000001|Bari|I\n") + Tappe("000001|0001|a\n000001|0002|b\n000001|0003|c\n"));
     Interruzione interruzione;
     EXPECT_EQ(MessaggioDi([&] { ImportaMete({archive_, file, {}}, interruzione); }), u"interrotto"_s);
+    Progress progress;
+    const StatoFile altro{1, {}};
+    EXPECT_EQ(MessaggioDi([&] {
+                  ImportaMete({archive_, file, {}, altro}, progress);
+              }),
+              u"Il file %1 è cambiato da quando è stato letto: niente è stato inserito."_s.arg(file));
     EXPECT_THAT(LeMete(), ElementsAre(u"000001|Alba| "_s));
     EXPECT_THAT(LeTappe(), ElementsAre());
 }
