@@ -192,9 +192,8 @@ void Convertitore::ConvertiItinerario(const QString& codice, const QString& nome
 
 void Convertitore::MemorizzaTappe(const QString& codice, const std::map<QString, std::vector<QString>>& tappe) {
     QHash<QString, Record> memorizzate;
-    for (Record& record : archive_.Select({Tabella::Itinerari, {{itinerari::CodiceMeta, Codice(codice)}}})) {
-        const QString sequenza = record[itinerari::Sequenza];
-        memorizzate.insert(sequenza, std::move(record));
+    for (const Record& record : archive_.Select({Tabella::Itinerari, {{itinerari::CodiceMeta, Codice(codice)}}})) {
+        memorizzate.insert(record[itinerari::Sequenza], record);
     }
     for (const auto& [sequenza, valori] : tappe) {
         const bool gia = memorizzate.contains(sequenza);
