@@ -149,7 +149,7 @@ class Matcher {
         std::vector<std::size_t> matching;
         std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(matching),
                      [&](std::size_t i) { return patterns_[i].Matches(text); });
-        return *known_.insert(text, std::move(matching));
+        return *known_.insert(text, matching);
     }
 
   private:

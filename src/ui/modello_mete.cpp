@@ -41,7 +41,7 @@ int ModelloMete::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(mete_.size());
 }
 
-int ModelloMete::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColonne; }
+int ModelloMete::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColonneMete; }
 
 QVariant ModelloMete::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
@@ -61,7 +61,7 @@ QVariant ModelloMete::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ModelloMete::headerData(int section, Qt::Orientation orientation, int role) const {
-    static const std::array<QString, kColonne> intestazioni = {u"Num"_s, u"Mèta"_s, u"Nazione"_s, u"Record"_s};
+    static const std::array<QString, kColonneMete> intestazioni = {u"Num"_s, u"Mèta"_s, u"Nazione"_s, u"Record"_s};
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return Allineamento(section);
     if (role != Qt::DisplayRole) return {};

@@ -14,7 +14,7 @@ class ModelloMete : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    enum Colonna { Num, Meta, Nazione, RecordMeta, kColonne };
+    enum Colonna { Num, Meta, Nazione, RecordMeta, kColonneMete };
 
     /// A list that differs by one trip leaves the view where it is.
     void Mostra(const std::vector<MetaNelFile>& mete);
