@@ -134,12 +134,14 @@ std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
     const LocalitaDellaMeta localita = LocalitaDellItinerario(sessione.Archivio(), completo);
     if (localita.nomi.empty()) throw Failure(SenzaTappeMemorizzate().text);
     std::vector<NamePattern> modelli;
+    modelli.reserve(static_cast<std::size_t>(localita.nomi.size()));
     for (const QString& nome : localita.nomi) modelli.push_back(NamePattern::ForName(nome));
     std::map<std::int64_t, Record> trovati;
     sessione.Archivio().ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t, Record&& record) {
         trovati.try_emplace(record.id, std::move(record));
     });
     std::vector<Record> record;
+    record.reserve(trovati.size());
     for (auto& [id, trovato] : trovati) record.push_back(std::move(trovato));
     OrdinaRecord(record, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
     return record;
