@@ -134,7 +134,7 @@ std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
     const LocalitaDellaMeta localita = LocalitaDellItinerario(sessione.Archivio(), completo);
     if (localita.nomi.empty()) throw Failure(SenzaTappeMemorizzate().text);
     std::vector<NamePattern> modelli;
-    modelli.reserve(static_cast<std::size_t>(localita.nomi.size()));
+    modelli.reserve(localita.nomi.size());
     for (const QString& nome : localita.nomi) modelli.push_back(NamePattern::ForName(nome));
     std::map<std::int64_t, Record> trovati;
     sessione.Archivio().ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t, Record&& record) {
