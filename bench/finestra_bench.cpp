@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "exchange/importa_mete.h"
+#include "schermo_di_prova.h"
 #include "ui/form_mete.h"
 
 namespace cronovia {
@@ -137,8 +138,7 @@ int Measure() {
 }  // namespace cronovia
 
 int main(int argc, char* argv[]) {
-    const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (!display && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    cronovia::PreparaSchermo();
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.value(0) == QLatin1String("--programma")) return cronovia::ShowProgram(arguments.value(1));

@@ -10,6 +10,7 @@
 
 #include "itinerary/elenco_guida.h"
 #include "itinerary/itinerari.h"
+#include "schermo_di_prova.h"
 #include "trips/mete.h"
 #include "ui/form_mete.h"
 
@@ -74,8 +75,7 @@ BENCHMARK(Schermo)->Arg(100)->Arg(3)->Unit(benchmark::kMillisecond);
 }  // namespace cronovia
 
 int main(int argc, char* argv[]) {
-    const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (!display && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    cronovia::PreparaSchermo();
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

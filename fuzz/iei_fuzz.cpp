@@ -3,8 +3,8 @@
 #include <QBuffer>
 #include <QDir>
 #include <QTemporaryDir>
-#include <cstdlib>
 
+#include "archivio_di_prova.h"
 #include "exchange/elenco_mete.h"
 #include "exchange/importa_mete.h"
 #include "exchange/separa_colonne.h"
@@ -15,10 +15,6 @@ namespace {
 using namespace cronovia;
 using namespace Qt::StringLiterals;
 
-void Pretendi(bool vero) {
-    if (!vero) std::abort();
-}
-
 EsitoImport Importa(Archive& archive, QByteArray& file) {
     QBuffer buffer(&file);
     Pretendi(buffer.open(QIODevice::ReadOnly));
@@ -26,15 +22,6 @@ EsitoImport Importa(Archive& archive, QByteArray& file) {
     const EsitoImport esito = ImportaMete({archive, u"prova.iei"_s, {}}, buffer, progress);
     Pretendi(TestoEsito(esito).startsWith("Sono stati inseriti:"_L1));
     return esito;
-}
-
-void SvuotaArchivio(Archive& archive) {
-    Transaction transaction(archive);
-    Progress progress;
-    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
-        archive.CancellaTabella(tabella, std::nullopt, progress);
-    }
-    transaction.Commit();
 }
 
 qint64 ContaMete(QByteArray& file) {

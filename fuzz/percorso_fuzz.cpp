@@ -3,8 +3,8 @@
 #include <QBuffer>
 #include <QStringConverter>
 #include <algorithm>
-#include <cstdlib>
 
+#include "archivio_di_prova.h"
 #include "exchange/importa_percorso.h"
 #include "interaction/failure.h"
 
@@ -12,10 +12,6 @@ namespace {
 
 using namespace cronovia;
 using namespace Qt::StringLiterals;
-
-void Pretendi(bool vero) {
-    if (!vero) std::abort();
-}
 
 std::optional<RigheItinerario> Leggi(QByteArray file) {
     QBuffer buffer(&file);

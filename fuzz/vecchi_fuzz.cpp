@@ -3,8 +3,8 @@
 // and folder as they were, and the same files once more change nothing.
 #include <QDir>
 #include <QTemporaryDir>
-#include <cstdlib>
 
+#include "archivio_di_prova.h"
 #include "exchange/converti.h"
 #include "interaction/failure.h"
 
@@ -12,10 +12,6 @@ namespace {
 
 using namespace cronovia;
 using namespace Qt::StringLiterals;
-
-void Pretendi(bool vero) {
-    if (!vero) std::abort();
-}
 
 struct Ingresso {
     QByteArray mete;
@@ -60,15 +56,6 @@ std::vector<Record> Tutto(Archive& archive) {
         archive.ForEach(tabella, [&](const Record& record) { tutto.push_back(record); });
     }
     return tutto;
-}
-
-void SvuotaArchivio(Archive& archive) {
-    Transaction transaction(archive);
-    Progress progress;
-    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
-        archive.CancellaTabella(tabella, std::nullopt, progress);
-    }
-    transaction.Commit();
 }
 
 }  // namespace

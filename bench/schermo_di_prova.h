@@ -1,0 +1,14 @@
+// The display that the benchmarks of the window paint on.
+#pragma once
+
+#include <QtGlobal>
+
+namespace cronovia {
+
+/// The person's display when there is one, else one in memory. To be called before the application is made.
+inline void PreparaSchermo() {
+    const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (!display && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+}  // namespace cronovia

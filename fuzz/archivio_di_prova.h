@@ -1,0 +1,26 @@
+// What the fuzz targets share.
+#pragma once
+
+#include <cstdlib>
+
+#include "interaction/progress.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// A finding unless this holds.
+inline void Pretendi(bool vero) {
+    if (!vero) std::abort();
+}
+
+/// Takes out trips, stages and guide, so that the next input meets an empty archive.
+inline void SvuotaArchivio(Archive& archive) {
+    Transaction transaction(archive);
+    Progress progress;
+    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
+        archive.CancellaTabella(tabella, std::nullopt, progress);
+    }
+    transaction.Commit();
+}
+
+}  // namespace cronovia
