@@ -195,7 +195,7 @@ void Scrivania::CaricaDefault() {
 }
 
 void Scrivania::RipristinaDefault() {
-    Default(u"ripristinare"_s, [&] { meta_.parametri = CaricaDefaultMeta(sessione_.Archivio(), true); });
+    Default(u"ripristinare"_s, [&] { meta_.parametri = RipristinaDefaultMeta(sessione_.Archivio()); });
 }
 
 void Scrivania::Calcola() {

@@ -27,12 +27,13 @@ Meta ConInizio(const QDateTime& inizio, const ParametriViaggio& parametri) {
 }  // namespace
 
 Sessione::Sessione(const QString& cartella) : cartella_(cartella), archive_(Archive::Open(cartella)) {
-    CaricaTipiGuida(archive_);
-    CaricaDefaultMeta(archive_);
+    CompletaTipiGuida(archive_);
+    CompletaDefaultMeta(archive_);
 }
 
 MetaAperta Sessione::ApriMeta(const QString& codice) {
     const QString completo = CodiceCompleto(codice);
+    const ReadSnapshot momento(archive_);
     std::optional<Meta> meta = CaricaDatiAnagraficiMeta(archive_, completo);
     if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
@@ -47,8 +48,16 @@ EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& o
     Meta meta = aperta.meta;
     meta.giorniAdeguamento = opzioni.giorni.value_or(meta.giorniAdeguamento);
     meta.parametri.calcoloSoste = opzioni.soste.value_or(meta.parametri.calcoloSoste);
+    const ReadSnapshot momento(archive_);
     LettoreGuida guida(archive_);
     return CalcolaCronovia(meta, aperta.tappe, guida, progress);
+}
+
+MetaCalcolata Sessione::ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress) {
+    const ReadSnapshot momento(archive_);
+    MetaAperta aperta = ApriMeta(codice);
+    EsitoCalcolo esito = Calcola(aperta, opzioni, progress);
+    return {std::move(aperta), std::move(esito)};
 }
 
 Meta Sessione::MetaProposta(const QDateTime& adesso) {

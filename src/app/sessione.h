@@ -28,6 +28,12 @@ struct OpzioniCalcolo {
     std::optional<CalcoloSoste> soste;
 };
 
+/// A trip with its schedule.
+struct MetaCalcolata {
+    MetaAperta aperta;
+    EsitoCalcolo esito;
+};
+
 class Sessione {
   public:
     /// Opens the archive of a data folder; a new one gets the guide types and the standard parameters.
@@ -40,7 +46,11 @@ class Sessione {
     /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.
     MetaAperta ApriMeta(const QString& codice);
 
+    /// The schedule of a trip that is open, with the guide as it is stored.
     EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress);
+
+    /// Both, from one moment of the archive.
+    MetaCalcolata ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress);
 
     /// A trip to be filled in: the personal defaults, starting now.
     Meta MetaProposta(const QDateTime& adesso);

@@ -87,9 +87,8 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
-    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     Progress progress;
-    const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);
+    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
     const std::vector<RigaGriglia> righe = ColonneCronovia(cronovia);
     const TestiTotali totali = Testi(cronovia.totali, cronovia.guidaGiorno);

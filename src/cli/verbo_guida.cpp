@@ -107,14 +107,19 @@ void Togli(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& us
                                                                           tolta.localita));
 }
 
+DatiStampaGuida DatiPerStampa(Sessione& sessione, const Richiesta& richiesta, const OpzioniStampaGuida& opzioni) {
+    const ReadSnapshot momento(sessione.Archivio());
+    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
+    return PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
+}
+
 void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const QString path = richiesta.opzioni.value(u"pdf"_s);
     if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
     const OpzioniStampaGuida opzioni{!richiesta.opzioni.contains(u"meta"_s),
                                      richiesta.opzioni.contains(u"dettaglio"_s)};
     Sessione sessione = apri();
-    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
-    const DatiStampaGuida dati = PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
+    const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
     if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
@@ -130,6 +135,7 @@ void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream
 
 // The guide of the localities of a trip, each entry once.
 std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
+    const ReadSnapshot momento(sessione.Archivio());
     const QString completo = sessione.ApriMeta(codice).meta.codice;
     const LocalitaDellaMeta localita = LocalitaDellItinerario(sessione.Archivio(), completo);
     if (localita.nomi.empty()) throw Failure(SenzaTappeMemorizzate().text);

@@ -23,11 +23,10 @@ void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     const QString path = richiesta.opzioni.value(u"pdf"_s);
     Sessione sessione = apri();
-    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    Progress progress;
+    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
-    Progress progress;
-    const EsitoCalcolo esito = sessione.Calcola(aperta, opzioni, progress);
     const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
     const Documento documento =
         StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);

@@ -134,6 +134,7 @@ qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress
 }  // namespace
 
 EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
+    const ReadSnapshot momento(richiesta.archive);
     const std::vector<QString> codici = CodiciDaEsportare(richiesta);
     RifiutaFileEsistente(richiesta.path, richiesta.sovrascrivi);
     ScrittoreIei scrittore(richiesta.path);

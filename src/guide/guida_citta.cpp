@@ -15,15 +15,23 @@ namespace {
 // Types with a lower number are visits: their time is mandatory.
 constexpr int kPrimoPuntoLogistico = 5;
 
-void InserisciTipiPredefiniti(Archive& archive) {
+std::vector<TipoGuida> TipiPredefiniti() {
     const std::array<QString, 9> nomi = {u"Ottimo"_s,    u"Da vedere"_s,   u"Interessante"_s,
                                          u"Vedibile"_s,  u"Punto Sosta"_s, u"PS e CS"_s,
                                          u"Campeggio"_s, u"Ristorante"_s,  u"Gpl"_s};
+    std::vector<TipoGuida> tipi;
     int numero = 0;
     for (const QString& nome : nomi) {
         ++numero;
-        const QString obbligatorio = numero < kPrimoPuntoLogistico ? u"1"_s : u"0"_s;
-        archive.Insert(Tabella::TipoGuida, std::array<QString, 3>{Zero(numero, 2), nome, obbligatorio});
+        tipi.push_back({Zero(numero, 2), nome, numero < kPrimoPuntoLogistico});
+    }
+    return tipi;
+}
+
+void InserisciTipiPredefiniti(Archive& archive) {
+    for (const TipoGuida& tipo : TipiPredefiniti()) {
+        const QString obbligatorio = tipo.tempoObbligatorio ? u"1"_s : u"0"_s;
+        archive.Insert(Tabella::TipoGuida, std::array<QString, 3>{tipo.codice, tipo.descrizione, obbligatorio});
     }
 }
 
@@ -70,17 +78,19 @@ VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi
 QString TestoTempoVisita(const Durata& tempo) { return Zero(tempo.ore, 2) + u':' + Zero(tempo.minuti, 2); }
 
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive) {
-    if (archive.Count(Tabella::TipoGuida) == 0) {
-        Transaction transaction(archive);
-        InserisciTipiPredefiniti(archive);
-        transaction.Commit();
-    }
     std::vector<TipoGuida> tipi;
     for (const Record& record : archive.Select({Tabella::TipoGuida, {}}, {tipoguida::CodiceGuida})) {
         tipi.push_back({record[tipoguida::CodiceGuida], record[tipoguida::Descrizione],
                         record[tipoguida::TempoObbligatorio] == "1"_L1});
     }
-    return tipi;
+    return tipi.empty() ? TipiPredefiniti() : tipi;
+}
+
+void CompletaTipiGuida(Archive& archive) {
+    if (archive.Count(Tabella::TipoGuida) > 0) return;
+    Transaction transaction(archive);
+    if (archive.Count(Tabella::TipoGuida) == 0) InserisciTipiPredefiniti(archive);
+    transaction.Commit();
 }
 
 void RipristinaTipiGuida(Archive& archive, Progress& progress) {
@@ -125,6 +135,7 @@ Centesimi LettoreGuida::PrendiTempoVisite(const QString& localita) {
 }
 
 std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita) {
+    const ReadSnapshot momento(archive);
     const std::vector<TipoGuida> tipi = CaricaTipiGuida(archive);
     std::vector<NamePattern> modelli;
     modelli.reserve(localita.size());

@@ -21,8 +21,11 @@ struct TipoGuida {
     bool tempoObbligatorio = false;  ///< entries of this type need a visit time
 };
 
-/// The types in the order of their codes. An archive without types gets the nine standard ones.
+/// The types in the order of their codes; the nine standard ones when none are stored.
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive);
+
+/// Stores the nine standard types in an archive that has none.
+void CompletaTipiGuida(Archive& archive);
 
 /// Puts the nine standard types in the place of the stored ones, within a transaction of the caller.
 void RipristinaTipiGuida(Archive& archive, Progress& progress);

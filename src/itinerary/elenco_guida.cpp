@@ -35,6 +35,7 @@ Message SenzaTappeMemorizzate() {
 }
 
 std::vector<RigaGuida> CreaLaListadellaGuida(Archive& archive, const QString& codiceMeta) {
+    const ReadSnapshot momento(archive);
     const LocalitaDellaMeta localita = LocalitaDellItinerario(archive, codiceMeta);
     std::vector<VociGuida> voci = VociDelleLocalita(archive, localita.nomi);
     std::size_t numero = localita.nomi.size();

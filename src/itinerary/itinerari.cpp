@@ -64,6 +64,7 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
 
 std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
                                          const ParametriViaggio& parametri) {
+    const ReadSnapshot momento(archive);
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
         Tappa tappa;
@@ -82,6 +83,7 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
 
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriViaggio& parametri) {
     const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
     for (Tappa& tappa : tappe) {
         tappa.guida =
@@ -92,6 +94,7 @@ void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriVi
 std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const ParametriViaggio& parametri,
                                       Progress& progress) {
     const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+    const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
     progress.Title(u"Copia soste Guida -> Itinerario"_s);
     double fatte = 0;
@@ -116,8 +119,8 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
         throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
     }
     const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
-    LettoreGuida guida(archive);  // first of all: it may have to lay down the guide's types, a change of its own
     Transaction transaction(archive);
+    LettoreGuida guida(archive);
     archive.CancellaTabella(Tabella::Itinerari, DellaMeta(codiceMeta), progress);
     progress.Title(u"Memorizza tappe itinerario"_s);
     EsitoMemorizzazione esito;

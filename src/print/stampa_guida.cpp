@@ -166,6 +166,7 @@ void StampaPagine::StampaFinePagina() {
 
 DatiStampaGuida PreparaStampaGuida(Archive& archive, const QString& codiceMeta, const QString& destinazione,
                                    const OpzioniStampaGuida& opzioni) {
+    const ReadSnapshot momento(archive);
     return {opzioni, destinazione, opzioni.tutte ? TutteLeLocalita(archive) : LocalitaDelViaggio(archive, codiceMeta)};
 }
 

@@ -321,7 +321,7 @@ std::int64_t Archive::Insert(Tabella tabella, std::span<const QString> valori) {
     const DefinizioneTabella& table = Definizione(tabella);
     CheckWidths(table, valori);
     return Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement = connection_->Prepared(InsertSql(tabella));
+        SQLite::Statement& statement = connection_->ForWriting(InsertSql(tabella));
         BindValues(statement, table, valori);
         statement.exec();
         statement.reset();
@@ -333,7 +333,7 @@ void Archive::Update(Tabella tabella, const Record& record) {
     const DefinizioneTabella& table = Definizione(tabella);
     CheckWidths(table, record.valori);
     Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement = connection_->Prepared(SqlFor<MakeUpdateSql>(tabella));
+        SQLite::Statement& statement = connection_->ForWriting(SqlFor<MakeUpdateSql>(tabella));
         BindValues(statement, table, record.valori);
         statement.bind(static_cast<int>(table.campi.size()) + 1, record.id);
         statement.exec();
@@ -344,7 +344,7 @@ void Archive::Update(Tabella tabella, const Record& record) {
 void Archive::Delete(Tabella tabella, std::int64_t id) {
     Guarded(connection_->Path(), [&] {
         SQLite::Statement& statement =
-            connection_->Prepared("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid = ?");
+            connection_->ForWriting("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid = ?");
         statement.bind(1, id);
         statement.exec();
         statement.reset();
@@ -353,8 +353,8 @@ void Archive::Delete(Tabella tabella, std::int64_t id) {
 
 void Archive::DeleteRange(Tabella tabella, std::int64_t after, std::int64_t last) {
     Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement =
-            connection_->Prepared("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid > ? AND rowid <= ?");
+        SQLite::Statement& statement = connection_->ForWriting("DELETE FROM " + Name(Definizione(tabella).nome) +
+                                                               " WHERE rowid > ? AND rowid <= ?");
         statement.bind(1, after);
         statement.bind(2, last);
         statement.exec();
@@ -378,8 +378,17 @@ int Archive::CancellaTabella(Tabella tabella, const std::optional<Condizione>& c
     return static_cast<int>(ids.size());
 }
 
+ReadSnapshot::ReadSnapshot(Archive& archive)
+    : connection_(*archive.connection_), outermost_(!connection_.InTransaction()) {
+    if (outermost_) Guarded(connection_.Path(), [&] { connection_.BeginReading(); });
+}
+
+ReadSnapshot::~ReadSnapshot() {
+    if (outermost_) connection_.EndReading();
+}
+
 Transaction::Transaction(Archive& archive) : connection_(*archive.connection_) {
-    Guarded(connection_.Path(), [&] { connection_.Database().exec("BEGIN IMMEDIATE"); });
+    Guarded(connection_.Path(), [&] { connection_.ForWriting("BEGIN IMMEDIATE").exec(); });
 }
 
 Transaction::~Transaction() {

@@ -47,7 +47,8 @@ QString ChiaveAlfabetica(QStringView testo);
 /// Sorts rows by these fields, the first one leading, as `Archive::Select` does.
 void OrdinaRecord(std::vector<Record>& record, std::initializer_list<int> ordine);
 
-/// The open database file. Every failure is a `Failure` with its message. Only `Transaction` makes several changes one.
+/// The open database file. Every failure is a `Failure` with its message. Only `Transaction` makes several changes one,
+/// only `ReadSnapshot` several readings.
 class Archive {
   public:
     /// Opens the archive of a data folder, which is made when it does not exist, as is the file. Missing tables, fields
@@ -109,6 +110,7 @@ class Archive {
     int CancellaTabella(Tabella tabella, const std::optional<Condizione>& condizione, Progress& progress);
 
   private:
+    friend class ReadSnapshot;
     friend class Transaction;
     friend class NameIndex;
     class Connection;
@@ -120,14 +122,32 @@ class Archive {
     std::int64_t rowsRead_ = 0;
 };
 
-/// Everything written between construction and `Commit` happens whole or not at all.
+/// All that is read while it lives is from one moment of the archive, whatever other programs write. They wait until
+/// it ends, so it ends before anybody is asked or anything long is done. Within another one, or within a transaction,
+/// it is part of that. Nothing can be written within it: that is an error of the program, a `std::logic_error`.
+class ReadSnapshot {
+  public:
+    explicit ReadSnapshot(Archive& archive);
+    ReadSnapshot(const ReadSnapshot&) = delete;
+    ReadSnapshot& operator=(const ReadSnapshot&) = delete;
+    ~ReadSnapshot();
+
+  private:
+    Archive::Connection& connection_;
+    bool outermost_;
+};
+
+/// Everything written between construction and `Commit` happens whole or not at all; what is read meanwhile is from
+/// one moment. Transactions do not nest.
 class Transaction {
   public:
+    /// A `Failure` when another program is writing and does not end in time.
     explicit Transaction(Archive& archive);
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
     ~Transaction();
 
+    /// A `Failure` when it could not be written: then nothing was.
     void Commit();
 
   private:

@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <QDir>
+#include <stdexcept>
 
 namespace cronovia {
 
@@ -62,6 +63,23 @@ SQLite::Statement& Archive::Connection::Prepared(const std::string& sql) {
     SQLite::Statement& statement = found->second;
     statement.tryReset();
     return statement;
+}
+
+SQLite::Statement& Archive::Connection::ForWriting(const std::string& sql) {
+    if (reading_) throw std::logic_error("written within a read snapshot: " + sql);
+    return Prepared(sql);
+}
+
+bool Archive::Connection::InTransaction() const { return sqlite3_get_autocommit(database_.getHandle()) == 0; }
+
+void Archive::Connection::BeginReading() {
+    Prepared("BEGIN").exec();
+    reading_ = true;
+}
+
+void Archive::Connection::EndReading() {
+    reading_ = false;
+    database_.tryExec("COMMIT");
 }
 
 std::int64_t Archive::Connection::Number(const std::string& sql) {

@@ -51,6 +51,13 @@ class Archive::Connection {
     /// A statement ready to be bound; it stays prepared for the next time.
     SQLite::Statement& Prepared(const std::string& sql);
 
+    /// The same for a statement that changes the archive; a `std::logic_error` while one moment of it is being read.
+    SQLite::Statement& ForWriting(const std::string& sql);
+
+    [[nodiscard]] bool InTransaction() const;
+    void BeginReading();
+    void EndReading();
+
     /// The number that a query answers with; a `Failure` when it cannot be asked.
     std::int64_t Number(const std::string& sql);
 
@@ -58,6 +65,7 @@ class Archive::Connection {
     QString path_;
     SQLite::Database database_;
     std::unordered_map<std::string, SQLite::Statement> statements_;
+    bool reading_ = false;
 };
 
 }  // namespace cronovia

@@ -133,16 +133,25 @@ void CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
     progress.Advance(0, 0);
 }
 
-ParametriViaggio CaricaDefaultMeta(Archive& archive, bool ripristina) {
+ParametriViaggio CaricaDefaultMeta(Archive& archive) {
     const std::optional<Record> record = archive.SelectFirst({Tabella::Parametri, {}});
-    if (record && !ripristina) return ParametriDaRecord(*record);
+    return record ? ParametriDaRecord(*record) : ParametriViaggio();
+}
+
+ParametriViaggio RipristinaDefaultMeta(Archive& archive) {
     const ParametriViaggio standard;
     MemorizzaVariabiliMeta(archive, standard);
     return standard;
 }
 
+void CompletaDefaultMeta(Archive& archive) {
+    if (archive.Count(Tabella::Parametri) == 0) MemorizzaVariabiliMeta(archive, ParametriViaggio());
+}
+
 void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri) {
+    Transaction transaction(archive);
     ScriviRigaUnica(archive, Tabella::Parametri, ValoriDeiParametri(parametri));
+    transaction.Commit();
 }
 
 QString RicercaMetaCorrente(Archive& archive) {

@@ -50,10 +50,14 @@ std::vector<MetaInElenco> ElencoMete(Archive& archive);
 /// Deletes a trip with its itinerary, whole or not at all.
 void CancellaMeta(Archive& archive, const QString& codice, Progress& progress);
 
-/// The personal defaults; an archive that has none gets the standard ones stored. `ripristina` puts the standard ones
-/// in the place of the stored ones first.
-ParametriViaggio CaricaDefaultMeta(Archive& archive, bool ripristina = false);
+/// The personal defaults; the standard ones when none are stored.
+ParametriViaggio CaricaDefaultMeta(Archive& archive);
+/// Stores personal defaults in the place of those before.
 void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri);
+/// Makes the standard defaults the personal ones and returns them.
+ParametriViaggio RipristinaDefaultMeta(Archive& archive);
+/// Stores the standard defaults in an archive that has none.
+void CompletaDefaultMeta(Archive& archive);
 
 /// Code of the trip that was current last; when it is gone, the highest code; the empty text without any trip.
 QString RicercaMetaCorrente(Archive& archive);

@@ -22,7 +22,7 @@ class GuidaTest : public ::testing::Test {
     Archive archive_ = Archive::Open(cartella_.Percorso());
 };
 
-TEST_F(GuidaTest, AnArchiveWithoutTypesGetsTheNineStandardOnes) {
+TEST_F(GuidaTest, AnArchiveWithoutTypesHasTheNineStandardOnes) {
     QStringList tipi;
     for (const TipoGuida& tipo : CaricaTipiGuida(archive_)) {
         tipi += tipo.codice + u' ' + tipo.descrizione + (tipo.tempoObbligatorio ? u"!"_s : u""_s);
@@ -30,6 +30,10 @@ TEST_F(GuidaTest, AnArchiveWithoutTypesGetsTheNineStandardOnes) {
     EXPECT_EQ(tipi.join(u", "_s),
               u"01 Ottimo!, 02 Da vedere!, 03 Interessante!, 04 Vedibile!, 05 Punto Sosta, 06 PS e CS, 07 Campeggio, "
               "08 Ristorante, 09 Gpl"_s);
+    EXPECT_EQ(archive_.Count(Tabella::TipoGuida), 0);  // who reads does not write
+    CompletaTipiGuida(archive_);
+    CompletaTipiGuida(archive_);
+    EXPECT_EQ(archive_.Count(Tabella::TipoGuida), 9);
     archive_.Delete(Tabella::TipoGuida, 1);
     EXPECT_EQ(CaricaTipiGuida(archive_).size(), 8U);  // types of one's own stay alone
 }

@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <atomic>
+#include <chrono>
+#include <stdexcept>
+#include <thread>
 
 #include "support/prova.h"
 
@@ -65,6 +69,64 @@ TEST_F(ArchiveTest, ATransactionHappensWholeOrNotAtAll) {
     Aggiungi(u"Bra"_s);
     transaction.Commit();
     EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Tabella::GuidaCitta), 2);
+}
+
+// Another program, which writes as soon as it may.
+class Altro {
+  public:
+    explicit Altro(const QString& cartella)
+        : filo_([this, cartella] {
+              try {
+                  Archive::Open(cartella).Delete(Tabella::GuidaCitta, 1);
+                  scritto_ = true;
+              } catch (const Failure&) {
+              }
+          }) {}
+    ~Altro() { filo_.join(); }
+    Altro(const Altro&) = delete;
+    Altro& operator=(const Altro&) = delete;
+
+    /// Whether it has written, after time enough to do so.
+    [[nodiscard]] bool HaScritto() const {
+        for (int i = 0; i < 20 && !scritto_; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        return scritto_;
+    }
+
+  private:
+    std::atomic<bool> scritto_ = false;
+    std::thread filo_;
+};
+
+TEST_F(ArchiveTest, ReadingsTogetherSeeOneMomentAndAWriterWaitsForTheirEnd) {
+    for (const QString& nome : {u"Alba"_s, u"Bra"_s}) Aggiungi(nome);
+    std::optional<Altro> altro;
+    {
+        const ReadSnapshot momento(archive_);
+        EXPECT_EQ(archive_.Count(Tabella::GuidaCitta), 2);
+        altro.emplace(cartella_.Percorso());
+        { const ReadSnapshot dentro(archive_); }  // part of the outer one, which goes on
+        EXPECT_FALSE(altro->HaScritto());
+        EXPECT_EQ(Localita(), (QStringList{u"Alba"_s, u"Bra"_s}));
+        EXPECT_THROW(Aggiungi(u"Cuneo"_s), std::logic_error);
+        EXPECT_THROW(Transaction{archive_}, std::logic_error);
+    }
+    altro.reset();
+    EXPECT_EQ(Localita(), QStringList{u"Bra"_s});
+}
+
+TEST_F(ArchiveTest, AWriterWaitsForAnotherOne) {
+    Aggiungi(u"Alba"_s);
+    std::optional<Altro> altro;
+    {
+        Transaction transaction(archive_);
+        altro.emplace(cartella_.Percorso());
+        { const ReadSnapshot dentro(archive_); }
+        Aggiungi(u"Bra"_s);
+        EXPECT_FALSE(altro->HaScritto());
+        transaction.Commit();
+    }
+    altro.reset();
+    EXPECT_EQ(Localita(), QStringList{u"Bra"_s});
 }
 
 TEST_F(ArchiveTest, RowsComeInTheOrderOfTheAlphabetOrOfTheirAdding) {

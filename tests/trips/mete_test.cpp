@@ -78,14 +78,15 @@ TEST_F(MeteTest, WhatCannotBeSavedChangesNothing) {
 TEST_F(MeteTest, PersonalDefaultsAreKeptAndCanBeReset) {
     const ParametriViaggio standard;
     EXPECT_EQ(CaricaDefaultMeta(archive_), standard);
-    EXPECT_EQ(archive_.Count(Tabella::Parametri), 1);  // the first start stores them
+    EXPECT_EQ(archive_.Count(Tabella::Parametri), 0);  // who reads does not write
     ParametriViaggio personali;
     personali.mediaKm = {100, 80, 60, 40};
     personali.oraNotte = 2400_cent;
     personali.calcoloSoste = CalcoloSoste::SosteGuida;
     MemorizzaVariabiliMeta(archive_, personali);
+    CompletaDefaultMeta(archive_);  // only an archive without them gets the standard ones
     EXPECT_EQ(CaricaDefaultMeta(archive_), personali);
-    EXPECT_EQ(CaricaDefaultMeta(archive_, true), standard);
+    EXPECT_EQ(RipristinaDefaultMeta(archive_), standard);
     EXPECT_EQ(CaricaDefaultMeta(archive_), standard);
     EXPECT_EQ(archive_.Count(Tabella::Parametri), 1);
 }
