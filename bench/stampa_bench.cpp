@@ -64,7 +64,7 @@ void FilePdf(benchmark::State& state) {
     Progress progress;
     double cresciuta = 0;
     for (auto _ : state) {
-        const Documento documento = StampaCronovia(dati, {{2027, 1, 1}, u"Cronovia"_s}, progress);
+        const Stampato documento = StampaCronovia(dati, {{2027, 1, 1}, u"Cronovia"_s}, progress);
         const double prima = Memoria();
         FileIntero file(cartella.filePath(u"stampa.pdf"_s));
         ScriviPdf(documento, file, progress);

@@ -124,8 +124,7 @@ void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
     Progress progress;
-    const Documento documento =
-        StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
+    const Stampato documento = StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
     file.Chiudi();

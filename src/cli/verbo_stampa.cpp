@@ -28,7 +28,7 @@ void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
     const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
-    const Documento documento =
+    const Stampato documento =
         StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);

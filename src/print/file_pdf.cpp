@@ -8,7 +8,7 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-void ScriviPdf(const Documento& documento, FileIntero& file, Progress& progress) {
+void ScriviPdf(const Stampato& documento, FileIntero& file, Progress& progress) {
     QPdfWriter pdf(&file.Dispositivo());
     pdf.setTitle(documento.titolo);
     pdf.setCreator(u"Cronovia"_s);

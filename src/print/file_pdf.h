@@ -9,6 +9,6 @@ namespace cronovia {
 
 /// Writes a document into a file that the caller then closes: with its title, its fonts and texts that can be marked
 /// and copied. A `Failure` when that fails.
-void ScriviPdf(const Documento& documento, FileIntero& file, Progress& progress);
+void ScriviPdf(const Stampato& documento, FileIntero& file, Progress& progress);
 
 }  // namespace cronovia

@@ -89,13 +89,13 @@ class Foglio {
     void StampaFinePagina(std::span<const int> bordi);
 
     /// What was written; the page being open is ended first by who wrote it.
-    [[nodiscard]] const Documento& Scritto() const { return documento_; }
+    [[nodiscard]] const Stampato& Scritto() const { return documento_; }
 
   private:
     static constexpr int kNessunaPagina = 800;
     Pagina& PaginaCorrente() { return documento_.pagine.back(); }
 
-    Documento documento_;
+    Stampato documento_;
     PieDiPagina piede_;
     Misure misure_;
     int rigaStampa_ = kNessunaPagina;

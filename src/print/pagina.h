@@ -59,7 +59,7 @@ struct Pagina {
 };
 
 /// A printout on A4 sheets, upright. Without pages it is one blank sheet.
-struct Documento {
+struct Stampato {
     QString titolo;
     std::vector<Pagina> pagine;
     QString lavoro = {};  ///< what painting it is called while it goes on; the title when empty

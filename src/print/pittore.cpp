@@ -118,7 +118,7 @@ class Pittore {
 
 }  // namespace
 
-void Dipingi(const Documento& documento, QPagedPaintDevice& dispositivo, Progress& progress) {
+void Dipingi(const Stampato& documento, QPagedPaintDevice& dispositivo, Progress& progress) {
     Pittore pittore(dispositivo);
     const QString& lavoro = documento.lavoro.isEmpty() ? documento.titolo : documento.lavoro;
     int numero = 0;

@@ -83,7 +83,7 @@ class StampaRighe {
     }
 
     [[nodiscard]] int NumeroPagina() const { return foglio_.NumeroPagina(); }
-    [[nodiscard]] const Documento& Scritto() const { return foglio_.Scritto(); }
+    [[nodiscard]] const Stampato& Scritto() const { return foglio_.Scritto(); }
 
   private:
     void Traversa(double y, Tratto tratto, double fine) {
@@ -231,7 +231,7 @@ void StampaRighe::StampaCodice(const RigaGriglia& riga) {
 
 }  // namespace
 
-Documento StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress) {
+Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress) {
     const QString titolo = LavoroCronovia();
     progress.Title(titolo);
     StampaRighe stampa(dati, piede);

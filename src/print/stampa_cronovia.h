@@ -17,7 +17,7 @@ inline constexpr std::array<int, 16> kBordiCronovia = {5,   11,  71,  86,  94,  
 inline constexpr double kSinistraCronovia = 2;
 
 /// The pages of a schedule; none when no row is filled.
-Documento StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress);
+Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress);
 
 /// The trip's characteristics in the page header, from the open page's line on; leaves the line at their end.
 void StampaCaratteristiche(const DatiStampa& dati, Foglio& foglio);

@@ -69,7 +69,7 @@ class StampaPagine {
         colonna_ = 0;
     }
     [[nodiscard]] int NumeroPagina() const { return foglio_.NumeroPagina(); }
-    [[nodiscard]] const Documento& Scritto() const { return foglio_.Scritto(); }
+    [[nodiscard]] const Stampato& Scritto() const { return foglio_.Scritto(); }
 
   private:
     void StampaIntestaPagina();
@@ -181,7 +181,7 @@ QString TitoloStampaGuida(const DatiStampaGuida& dati) {
     return u"Guida Città: - %1 - %2"_s.arg(dettaglio, lista);
 }
 
-Documento StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress) {
+Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress) {
     progress.Title(u"Stampa della cronovia"_s);
     StampaPagine stampa(dati, piede);
     int pagina = 0;

@@ -35,7 +35,7 @@ DatiStampaGuida PreparaStampaGuida(Archive& archive, const QString& codiceMeta, 
                                    const OpzioniStampaGuida& opzioni);
 
 /// The pages; none without localities.
-Documento StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress);
+Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress);
 
 /// What is said when there are no localities.
 QString NienteDaStampare(const OpzioniStampaGuida& opzioni);

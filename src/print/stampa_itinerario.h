@@ -14,11 +14,11 @@ namespace cronovia {
 struct RichiestaStampa {
     const DatiStampa& dati;
     PieDiPagina piede;
-    QString cartella;                              ///< where the table file lies
-    bool tabella = false;                          ///< the schedule goes to the printer
-    bool moduli = false;                           ///< forms for the logbook are wanted
-    std::function<void(const Documento&)> stampa;  ///< prints on what was chosen; may throw a `Failure`
-    std::function<void()> avviaModuli;             ///< starts the logbook program; may throw a `Failure`
+    QString cartella;                             ///< where the table file lies
+    bool tabella = false;                         ///< the schedule goes to the printer
+    bool moduli = false;                          ///< forms for the logbook are wanted
+    std::function<void(const Stampato&)> stampa;  ///< prints on what was chosen; may throw a `Failure`
+    std::function<void()> avviaModuli;            ///< starts the logbook program; may throw a `Failure`
 };
 
 /// Always writes the table file. What goes wrong with one of the three is told and does not keep the others from being

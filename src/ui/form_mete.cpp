@@ -16,7 +16,7 @@
 #include <utility>
 
 #include "calendar/testo.h"
-#include "ui/scelta_percorso.h"
+#include "ui/inserimento/scelta_percorso.h"
 
 namespace cronovia {
 

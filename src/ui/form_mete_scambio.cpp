@@ -1,7 +1,7 @@
 // The exchange screen in the window.
-#include "ui/controlli.h"
-#include "ui/file_scambio.h"
+#include "ui/comuni/controlli.h"
 #include "ui/form_mete.h"
+#include "ui/scambio/file_scambio.h"
 
 namespace cronovia {
 

@@ -60,7 +60,7 @@ class FilePdf : public testing::Test {
 
     FilePdf() { cartella_.Crea(); }
 
-    void Scrivi(const Documento& documento) {
+    void Scrivi(const Stampato& documento) {
         FileIntero file(path_);
         ScriviPdf(documento, file, titoli_);
         file.Chiudi();
@@ -73,7 +73,7 @@ class FilePdf : public testing::Test {
 
 // Each text of the model is in the file, in the model's order, at the model's place and as wide.
 TEST_F(FilePdf, HoldsEveryTextInOrderAndInItsPlace) {
-    const Documento documento = prova::Stampa(prova::CapoNord());
+    const Stampato documento = prova::Stampa(prova::CapoNord());
     Scrivi(documento);
     const std::vector<Parola> parole = Parole(path_);
     std::size_t i = 0;
@@ -129,7 +129,7 @@ TEST_F(FilePdf, OnASheetWithMarginsTextsAreWhereTheyBelong) {
         }
         bool setPageLayout(const QPageLayout&) override { return false; }
     };
-    const Documento documento = prova::Stampa(prova::Viaggio(1));
+    const Stampato documento = prova::Stampa(prova::Viaggio(1));
     Ostinata a4(path_, QPageSize::A4);
     Dipingi(documento, a4, titoli_);
     const TestoPosto& primo = documento.pagine[0].testi[0];

@@ -52,7 +52,7 @@ inline DatiStampa CapoNord() {
     return PreparaStampa(aperta.meta, *sessione.Calcola(aperta, {}, progress).cronovia);
 }
 
-inline Documento Stampa(const DatiStampa& dati) {
+inline Stampato Stampa(const DatiStampa& dati) {
     Progress progress;
     return StampaCronovia(dati, kPiede, progress);
 }

@@ -33,7 +33,7 @@ TEST(StampaCronovia, FortyPagesHoldEveryRowOnceAndTurnBehindTheLastLineOnly) {
     for (RigaGriglia& riga : vuota.righe) riga[Colonna::Tappa] = u"  "_s;
     EXPECT_TRUE(Stampa(vuota).pagine.empty());
     EXPECT_EQ(Stampa(Viaggio(kRighePerPagina)).pagine.size(), 1U);
-    const Documento documento = Stampa(Viaggio(kRighePerPagina * 39 + 1));
+    const Stampato documento = Stampa(Viaggio(kRighePerPagina * 39 + 1));
     ASSERT_EQ(documento.pagine.size(), 40U);
     int riga = 0;
     for (const Pagina& pagina : documento.pagine) {
@@ -57,7 +57,7 @@ TEST(StampaCronovia, FortyPagesHoldEveryRowOnceAndTurnBehindTheLastLineOnly) {
 }
 
 TEST(StampaCronovia, TheHeaderRepeatsAllThatTheTripWasComputedWith) {
-    const Documento documento = Stampa(Viaggio(1));
+    const Stampato documento = Stampa(Viaggio(1));
     QStringList testi;
     for (const TestoPosto& posto : documento.pagine.front().testi) {
         if (posto.base < kPrimaRiga) testi += posto.testo;

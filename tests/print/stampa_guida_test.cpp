@@ -12,7 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-Documento Stampata(const DatiStampaGuida& dati) {
+Stampato Stampata(const DatiStampaGuida& dati) {
     Progress progress;
     return StampaGuida(dati, prova::kPiede, progress);
 }
@@ -85,7 +85,7 @@ TEST_F(StampaGuidaTest, TheLocalitiesOfTheTripOrAll) {
 
 TEST_F(StampaGuidaTest, NamesStandFiveToALine) {
     EXPECT_TRUE(Stampata(Nomi(0)).pagine.empty());
-    const Documento documento = Stampata(Nomi(7));
+    const Stampato documento = Stampata(Nomi(7));
     ASSERT_EQ(documento.pagine.size(), 1U);
     const Pagina& pagina = documento.pagine[0];
     EXPECT_EQ(Righe(pagina), (QStringList{u"Guida Città: - Località - Inerenti la Meta: LUCCA"_s,
@@ -95,7 +95,7 @@ TEST_F(StampaGuidaTest, NamesStandFiveToALine) {
     EXPECT_NEAR(prova::Trova(pagina, u"LOC7"_s).x, 44, 0.01);
     // A page that is full to its last line has no empty one behind it.
     EXPECT_EQ(Stampata(Nomi(255)).pagine.size(), 1U);
-    const Documento due = Stampata(Nomi(256));
+    const Stampato due = Stampata(Nomi(256));
     ASSERT_EQ(due.pagine.size(), 2U);
     EXPECT_EQ(Righe(due.pagine[1])[2], u"LOC256"_s);
 }
@@ -104,7 +104,7 @@ TEST_F(StampaGuidaTest, EntriesStandInTheirColumnsWholeThoughSmall) {
     const QString lunga = u"Museo "_s + QString(90, u'n');
     for (int i = 0; i < 60; ++i)
         NellaGuida(u"NOME DI LOCALITA MOLTO LUNGO"_s, u"03"_s, lunga, u"01:%1"_s.arg(i, 2, 10, QChar(u'0')));
-    const Documento documento = Stampata(Dati(true, true));
+    const Stampato documento = Stampata(Dati(true, true));
     ASSERT_EQ(documento.pagine.size(), 2U);
     const QStringList righe = Righe(documento.pagine[0]);
     EXPECT_EQ(righe[0], u"Guida Città: - Località e Guida - Tutte"_s);

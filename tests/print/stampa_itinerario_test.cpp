@@ -23,7 +23,7 @@ class StampaItinerario : public testing::Test {
     void Esegui(bool tabella, bool moduli) {
         Progress progress;
         StampaDellItinerario({dati_, prova::kPiede, cartella_.Percorso(), tabella, moduli,
-                              [this](const Documento& documento) {
+                              [this](const Stampato& documento) {
                                   pagine_ = static_cast<int>(documento.pagine.size());
                                   if (guasto_) throw Failure(u"La stampante tace."_s);
                               },

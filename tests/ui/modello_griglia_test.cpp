@@ -1,9 +1,9 @@
-#include "ui/modello_griglia.h"
+#include "ui/griglia/modello_griglia.h"
 
 #include <QAbstractItemModelTester>
 
 #include "ui/finestra.h"
-#include "ui/vista_griglia.h"
+#include "ui/griglia/vista_griglia.h"
 
 namespace cronovia {
 namespace {

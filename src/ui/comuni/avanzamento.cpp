@@ -1,0 +1,65 @@
+#include "ui/comuni/avanzamento.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kMillisecondiTraDueOcchiate = 40;
+
+QString TestoARiposo() { return u"Sposta il mouse sui pulsanti/campi attivi per istruzioni."_s; }
+
+}  // namespace
+
+Avanzamento::Avanzamento(QWidget* parent)
+    : QFrame(parent), lblElaborazione_(new QLabel(TestoARiposo())), txtPerc_(new QProgressBar) {
+    setObjectName(u"txtBase"_s);
+    lblElaborazione_->setObjectName(u"lblElaborazione"_s);
+    txtPerc_->setObjectName(u"txtPerc"_s);
+    txtPerc_->setAccessibleName(u"Avanzamento"_s);
+    txtPerc_->setRange(0, 100);
+    txtPerc_->setFormat(u" %p%"_s);
+    txtPerc_->setTextVisible(false);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(lblElaborazione_, 1);
+    layout->addWidget(txtPerc_, 1);
+    ultima_.start();
+}
+
+void Avanzamento::Title(const QString& title) {
+    lblElaborazione_->setText(title);
+    LasciaVivereLaFinestra();
+}
+
+void Avanzamento::Advance(double count, double total) {
+    const double done = std::clamp(count, 0.0, std::max(total, 0.0));
+    if (done == 0.0) {
+        lblElaborazione_->setText(TestoARiposo());
+        txtPerc_->setValue(0);
+        txtPerc_->setTextVisible(false);
+        return;
+    }
+    const int percento = static_cast<int>(std::floor(done / total * 100.0));
+    if (percento != txtPerc_->value()) {
+        txtPerc_->setTextVisible(true);
+        txtPerc_->setValue(percento);
+    }
+    LasciaVivereLaFinestra();
+}
+
+bool Avanzamento::StopRequested() { return stop_; }
+
+void Avanzamento::LasciaVivereLaFinestra() {
+    if (ultima_.elapsed() < kMillisecondiTraDueOcchiate) return;
+    QCoreApplication::processEvents();
+    ultima_.restart();
+}
+
+}  // namespace cronovia

@@ -1,0 +1,148 @@
+#include "ui/comuni/controlli.h"
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMessageBox>
+#include <QPalette>
+#include <QSignalBlocker>
+
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void Presenta(QWidget& controllo, const QString& nome, const QString& istruzione) {
+    controllo.setObjectName(nome);
+    controllo.setToolTip(istruzione);
+    controllo.setAccessibleName(istruzione);
+}
+
+}  // namespace
+
+QString NomeDiSerie(const QString& nome, int indice) { return nome + u'_' + QString::number(indice); }
+
+QStringList Numeri(int da, int a, int cifre, int passo) {
+    QStringList numeri;
+    for (int n = da; n <= a; n += passo) numeri += cifre == 0 ? QString::number(n) : Zero(n, cifre);
+    return numeri;
+}
+
+QStringList Quarti() { return Numeri(0, 45, 2, 15); }
+
+namespace {
+
+// The wheel scrolls; it changes a list only once that was gone into.
+class SenzaRotella : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() != QEvent::Wheel || qobject_cast<QWidget*>(oggetto)->hasFocus()) return false;
+        evento->ignore();
+        return true;
+    }
+};
+
+// A box would keep the keys of undo to itself, even with nothing of its own to undo.
+class AnnullaDellaFinestra : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() != QEvent::ShortcutOverride) return false;
+        const auto& casella = *qobject_cast<QLineEdit*>(oggetto);
+        const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+        const bool annulla = tasto.matches(QKeySequence::Undo) && !casella.isUndoAvailable();
+        const bool ripeti = tasto.matches(QKeySequence::Redo) && !casella.isRedoAvailable();
+        if (annulla || ripeti) evento->ignore();
+        return annulla || ripeti;
+    }
+};
+
+}  // namespace
+
+QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione) {
+    auto* elenco = new QComboBox;
+    Presenta(*elenco, nome, istruzione);
+    elenco->addItems(voci);
+    elenco->setFocusPolicy(Qt::StrongFocus);
+    elenco->installEventFilter(new SenzaRotella(elenco));
+    elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    elenco->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    return elenco;
+}
+
+void MostraVoce(QComboBox& elenco, const QString& testo) {
+    const QSignalBlocker muto(elenco);
+    if (elenco.findText(testo) < 0) elenco.addItem(testo);
+    elenco.setCurrentIndex(elenco.findText(testo));
+    if (elenco.isEditable()) elenco.setEditText(testo);
+}
+
+QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString& istruzione) {
+    auto* casella = new QLineEdit;
+    Presenta(*casella, nome, istruzione);
+    casella->setMaxLength(larghezzaMassima);
+    return casella;
+}
+
+void LasciaAnnullare(QLineEdit& casella) { casella.installEventFilter(new AnnullaDellaFinestra(&casella)); }
+
+QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione) {
+    QLineEdit* casella = NuovaCasella(nome, 40, istruzione);
+    casella->setReadOnly(true);
+    casella->setFocusPolicy(Qt::NoFocus);
+    casella->setFrame(false);
+    casella->setAlignment(Qt::AlignCenter);
+    // A result stays legible while the frame around it is disabled.
+    QPalette colori = casella->palette();
+    colori.setColor(QPalette::Disabled, QPalette::Text, colori.color(QPalette::Active, QPalette::WindowText));
+    colori.setColor(QPalette::Base, colori.color(QPalette::Active, QPalette::Window));
+    casella->setPalette(colori);
+    LarghezzaPer(*casella, cifre, 6);
+    return casella;
+}
+
+QPushButton* NuovoPulsante(const TestiPulsante& testi) {
+    return NuovoPulsante(QString::fromUtf16(testi.nome), QString::fromUtf16(testi.scritta),
+                         QString::fromUtf16(testi.istruzione));
+}
+
+QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione) {
+    auto* pulsante = new QPushButton(scritta);
+    Presenta(*pulsante, nome, istruzione);
+    pulsante->setAccessibleName({});
+    return pulsante;
+}
+
+QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo) {
+    auto* etichetta = new QLabel(testo);
+    etichetta->setBuddy(&controllo);
+    return etichetta;
+}
+
+QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QString& istruzioni) {
+    QPushButton* aiuto = NuovoPulsante(nome, u"[?]"_s, u"Informazioni operative"_s);
+    aiuto->setAccessibleName(u"Informazioni operative: %1"_s.arg(titolo));
+    aiuto->setFlat(true);
+    LarghezzaPer(*aiuto, 4, 8);
+    QObject::connect(aiuto, &QPushButton::clicked, aiuto,
+                     [aiuto, titolo, istruzioni] { QMessageBox::information(aiuto->window(), titolo, istruzioni); });
+    return aiuto;
+}
+
+void StringiRiquadro(QLayout& layout) {
+    layout.setContentsMargins(4, 3, 4, 3);
+    layout.setSpacing(3);
+}
+
+void LarghezzaPer(QWidget& controllo, int caratteri, int bordo) {
+    controllo.setFixedWidth(controllo.fontMetrics().horizontalAdvance(QString(caratteri, u'0')) + bordo);
+}
+
+}  // namespace cronovia

@@ -1,0 +1,65 @@
+#include "ui/comuni/interazione_finestra.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Titolo(const QString& titolo) { return titolo.isEmpty() ? QCoreApplication::applicationName() : titolo; }
+
+// Some texts are those of files and terminals as well.
+QString InRighe(QString text) { return text.replace("\r\n"_L1, "\n"_L1); }
+
+QMessageBox::Icon Icona(Icon icon) {
+    switch (icon) {
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+void InterazioneFinestra::Show(const Message& message) {
+    QMessageBox box(Icona(message.icon), Titolo(message.title), InRighe(message.text), QMessageBox::Ok, &finestra_);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+bool InterazioneFinestra::ShowUndoable(const Message& message, const QString& caption) {
+    QMessageBox box(Icona(message.icon), Titolo(message.title), InRighe(message.text), QMessageBox::Ok, &finestra_);
+    box.setTextFormat(Qt::PlainText);
+    box.addButton(QMessageBox::Discard)->setText(caption);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    return box.exec() == QMessageBox::Discard;
+}
+
+Answer InterazioneFinestra::Ask(const Question& question) {
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    if (question.cancellable) buttons |= QMessageBox::Cancel;
+    QMessageBox box(QMessageBox::Question, Titolo(question.title), question.text, buttons, &finestra_);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    // Closing the box by its frame leaves everything as it is.
+    box.setEscapeButton(question.cancellable ? QMessageBox::Cancel : QMessageBox::No);
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::No;
+    }
+}
+
+}  // namespace cronovia

@@ -1,0 +1,41 @@
+#include "ui/comuni/riquadro_sovrapposto.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace cronovia {
+
+RiquadroSovrapposto::RiquadroSovrapposto(const QString& nome, const QString& scritta)
+    : contenuto_(new QVBoxLayout(this)) {
+    setObjectName(nome);
+    setAccessibleName(scritta);
+    setAutoFillBackground(true);
+    setFrameStyle(static_cast<int>(QFrame::WinPanel) | static_cast<int>(QFrame::Raised));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    auto* titolo = new QLabel(scritta);
+    QFont grassetto = titolo->font();
+    grassetto.setBold(true);
+    titolo->setFont(grassetto);
+    contenuto_->setContentsMargins(16, 12, 16, 14);
+    contenuto_->setSpacing(8);
+    contenuto_->addWidget(titolo);
+    hide();
+}
+
+void RiquadroSovrapposto::Pulsanti(QPushButton* conferma, QPushButton* rinuncia) {
+    conferma_ = conferma;
+    rinuncia_ = rinuncia;
+}
+
+void RiquadroSovrapposto::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        rinuncia_->click();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto* conFuoco = qobject_cast<QPushButton*>(focusWidget());
+        (conFuoco != nullptr && conFuoco->hasFocus() ? conFuoco : conferma_)->click();
+    } else {
+        QFrame::keyPressEvent(event);
+    }
+}
+
+}  // namespace cronovia

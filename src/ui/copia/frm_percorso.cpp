@@ -1,0 +1,98 @@
+#include "ui/copia/frm_percorso.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "calendar/testo.h"
+#include "ui/comuni/aiuti.h"
+#include "ui/comuni/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+FrmPercorso::FrmPercorso(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, parent) {
+    setObjectName(u"frmPercorso"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(CreaEstremo(0));
+    layout->addWidget(CreaEstremo(1));
+    chkInsSoste_ = new QCheckBox(u"Inserire anche le soste:"_s);
+    chkInsSoste_->setObjectName(u"chkInsSoste"_s);
+    chkInsSoste_->setToolTip(u"Copia anche le soste e le fini giornata delle tappe"_s);
+    chkInsSoste_->setLayoutDirection(Qt::RightToLeft);
+    auto* riga = new QHBoxLayout;
+    riga->addWidget(chkInsSoste_);
+    riga->addStretch();
+    riga->addWidget(NuovoAiuto(u"cmdHelpDuplica"_s, u"Copia da altre mète"_s, AiutoDuplica()));
+    layout->addLayout(riga);
+    layout->addLayout(CreaComandi());
+    layout->addStretch();
+}
+
+QWidget* FrmPercorso::CreaEstremo(int estremo) {
+    const bool inizio = estremo == 0;
+    auto* riquadro = new QFrame;
+    riquadro->setObjectName(inizio ? u"frmInizio"_s : u"frmArrivo"_s);
+    riquadro->setFrameShape(QFrame::StyledPanel);
+    QPushButton* assegna = NuovoPulsante(
+        NomeDiSerie(u"cmdAssegna"_s, estremo), inizio ? u"Asse&gna tappa iniziale"_s : u"Asse&gna tappa  finale"_s,
+        inizio ? u"La località corrente sarà la prima inserita"_s : u"La località corrente sarà l'ultima inserita"_s);
+    connect(assegna, &QPushButton::clicked, this, [this, estremo] { Q_EMIT Assegna(estremo); });
+    auto* layout = new QGridLayout(riquadro);
+    layout->setVerticalSpacing(3);
+    layout->addWidget(assegna, 0, 0, 1, 4);
+    const QString tappa = inizio ? u"%1 della tappa iniziale"_s : u"%1 della tappa finale"_s;
+    Estremo& e = estremi_[static_cast<std::size_t>(estremo)];
+    const auto nuova = [&](const QString& nome, const QString& dato, int cifre) {
+        QLineEdit* risultato = NuovoRisultato(NomeDiSerie(nome, estremo), cifre, tappa.arg(dato));
+        risultato->setFrame(true);
+        return risultato;
+    };
+    e.txtInsLoc = nuova(u"txtInsLoc"_s, u"Località"_s, 20);
+    e.txtInsNS = nuova(u"txtInsNS"_s, u"Numero di strada"_s, 20);
+    e.txtInsKm = nuova(u"txtInsKm"_s, u"Chilometri"_s, 5);
+    e.txtInsNum = nuova(u"txtInsNum"_s, u"Numero di riga"_s, 5);
+    for (QLineEdit* largo : {e.txtInsLoc, e.txtInsNS}) {
+        largo->setMinimumWidth(0);
+        largo->setMaximumWidth(QWIDGETSIZE_MAX);
+        largo->setAlignment(Qt::AlignLeft);
+    }
+    layout->addWidget(NuovaEtichetta(u"Località"_s, *e.txtInsLoc), 1, 0);
+    layout->addWidget(e.txtInsLoc, 1, 1, 1, 3);
+    layout->addWidget(NuovaEtichetta(u"Strada"_s, *e.txtInsNS), 2, 0);
+    layout->addWidget(e.txtInsNS, 2, 1, 1, 3);
+    layout->addWidget(NuovaEtichetta(u"Km."_s, *e.txtInsKm), 3, 0);
+    layout->addWidget(e.txtInsKm, 3, 1);
+    layout->addWidget(NuovaEtichetta(u"Num."_s, *e.txtInsNum), 3, 2);
+    layout->addWidget(e.txtInsNum, 3, 3);
+    layout->setColumnStretch(1, 1);
+    return riquadro;
+}
+
+QLayout* FrmPercorso::CreaComandi() {
+    auto* riga = new QHBoxLayout;
+    cmdInsEsegui_ = NuovoPulsante(NomeDiSerie(u"cmdInsEsegui"_s, 0), u"Inserisce &percorso"_s,
+                                  u"Inserisce il tratto selezionato nel verso indicato"_s);
+    QPushButton* rinuncia = NuovoPulsante(NomeDiSerie(u"cmdInsEsegui"_s, 1), u"Rin&uncia"_s,
+                                          u"Rinuncia alla duplicazione dell'itinerario"_s);
+    connect(cmdInsEsegui_, &QPushButton::clicked, this, &FrmPercorso::Esegui);
+    connect(rinuncia, &QPushButton::clicked, this, &FrmPercorso::Rinuncia);
+    riga->addWidget(cmdInsEsegui_);
+    riga->addWidget(rinuncia);
+    return riga;
+}
+
+void FrmPercorso::Mostra(const CopiaPercorso& copia) {
+    for (std::size_t i = 0; i < estremi_.size(); ++i) {
+        const std::optional<int> riga = copia.Assegnate()[i];
+        const Tappa tappa = riga && copia.Tappe() ? copia.Tappe()->at(static_cast<std::size_t>(*riga - 1)) : Tappa();
+        estremi_[i].txtInsLoc->setText(tappa.localita);
+        estremi_[i].txtInsNS->setText(tappa.numStrada);
+        estremi_[i].txtInsKm->setText(RaggruppaNonZero(tappa.km));
+        estremi_[i].txtInsNum->setText(riga ? QString::number(*riga) : QString());
+    }
+    cmdInsEsegui_->setEnabled(copia.Scelto().has_value());
+}
+
+}  // namespace cronovia

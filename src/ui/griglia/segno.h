@@ -1,0 +1,16 @@
+// The kinds of rows that the grid tells apart by a small sign.
+#pragma once
+
+namespace cronovia {
+
+/// What makes a row different at a glance.
+enum class Segno {
+    Nessuno,
+    FineGiorno,  ///< the day ends here, or the night begins
+    Pasto,
+    Riposo,  ///< whole rest days follow
+    Sosta,
+    Guida,
+};
+
+}  // namespace cronovia

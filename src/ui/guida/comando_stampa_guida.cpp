@@ -1,0 +1,88 @@
+#include "ui/guida/comando_stampa_guida.h"
+
+#include <QGridLayout>
+
+#include "interaction/failure.h"
+#include "print/tabella_testo.h"
+#include "ui/stampa/stampanti.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+ComandoStampaGuida::ComandoStampaGuida(const ComandoStampa::Volti& volti, FrmSelStampa& stampante, QGridLayout& area)
+    : QObject(&volti.finestra), volti_(volti), stampante_(stampante), opzioni_(new FrmGuidaStampa) {
+    area.addWidget(opzioni_, 0, 0, Qt::AlignCenter);
+    connect(opzioni_, &FrmGuidaStampa::Stampa, this, [this] {
+        stampante_.VisualizzaListaStampanti();
+        // Both frames have the same keys.
+        opzioni_->setEnabled(false);
+    });
+    connect(opzioni_, &FrmGuidaStampa::Rinuncia, this, &ComandoStampaGuida::Rinuncia);
+    connect(opzioni_, &FrmGuidaStampa::Anteprima, this, [this] {
+        volti_.esegui([this] {
+            if (const auto documento = Prepara()) MostraAnteprima(*documento, volti_.finestra, volti_.interazione);
+        });
+    });
+    connect(&stampante_, &FrmSelStampa::Stampa, this, [this] {
+        if (Aperto()) volti_.esegui([this] { Stampa(); });
+    });
+    connect(&stampante_, &FrmSelStampa::Rinuncia, this, [this] {
+        if (Aperto()) Rinuncia();
+    });
+}
+
+void ComandoStampaGuida::Apri() {
+    opzioni_->Apri();
+    Q_EMIT Cambiato();
+}
+
+void ComandoStampaGuida::Rinuncia() {
+    if (!stampante_.isVisible()) return Chiudi();
+    stampante_.hide();
+    opzioni_->Apri();
+}
+
+void ComandoStampaGuida::Chiudi() {
+    stampante_.hide();
+    opzioni_->hide();
+    Q_EMIT Cambiato();
+}
+
+// Nothing, and the person hears why, when there is nothing to print.
+std::optional<Stampato> ComandoStampaGuida::Prepara() {
+    std::optional<Stampato> documento;
+    volti_.scrivania.SullaGuida([&](const TavoloGuida& tavolo) {
+        const DatiStampaGuida dati = PreparaStampaGuida(tavolo.Archivio(), tavolo.CodiceMeta(),
+                                                        volti_.scrivania.MetaInCorso().localita, opzioni_->Opzioni());
+        if (dati.localita.empty()) throw Failure(NienteDaStampare(dati.opzioni));
+        documento =
+            StampaGuida(dati, {volti_.scrivania.Adesso().date(), volti_.finestra.windowTitle()}, volti_.avanzamento);
+    });
+    return documento;
+}
+
+// Without a file, printing to a file has not begun.
+void ComandoStampaGuida::Stampa() {
+    const std::optional<Stampato> documento = Prepara();
+    if (!documento) return;
+    const bool suFile = stampante_.SceltoFilePdf();
+    const QString stampante = stampante_.Scelta();
+    const QString path = suFile ? ChiediFilePdf(volti_.finestra, documento->titolo) : QString();
+    if (suFile && path.isEmpty()) {
+        volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
+        return;
+    }
+    Chiudi();
+    volti_.scrivania.SullaGuida([&](const TavoloGuida&) {
+        if (path.isEmpty()) {
+            StampaSuStampante(*documento, stampante, volti_.interazione, volti_.avanzamento);
+        } else {
+            RifiutaFileTabella(path, volti_.scrivania.Cartella());
+            StampaSuFile(*documento, path, volti_.avanzamento);
+        }
+        volti_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});
+    });
+}
+
+}  // namespace cronovia

@@ -1,0 +1,122 @@
+#include "ui/guida/frm_guida.h"
+
+#include <QCompleter>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "calendar/testo.h"
+#include "store/schema.h"
+#include "ui/comuni/aiuti.h"
+#include "ui/comuni/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int Larghezza(guida::Posto posto) { return Definizione(Tabella::GuidaCitta).campi[posto].larghezza; }
+
+}  // namespace
+
+FrmGuida::FrmGuida(QWidget* parent) : QGroupBox(u"Guida visite e soste tecniche:"_s, parent) {
+    setObjectName(u"frmGuida"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(4);
+    layout->addLayout(CreaCampi());
+    auto* nota = new QLabel(
+        u"Per inserire una nuova annotazione, posizionarsi sulla prima riga della località (quella vuota); per "
+        "cancellare/modificare, posizionarsi su quella da cancellare."_s);
+    nota->setObjectName(u"lblGNota"_s);
+    nota->setWordWrap(true);
+    layout->addWidget(nota);
+    layout->addLayout(CreaComandi());
+}
+
+QLayout* FrmGuida::CreaCampi() {
+    txtGCitta_ = NuovaCasella(u"txtGCitta"_s, Larghezza(guida::Localita),
+                              u"Località di riferimento (automatico da riga selezionata)"_s);
+    txtGCitta_->setReadOnly(true);
+    txtGDescr_ = NuovaCasella(u"txtGDescr"_s, Larghezza(guida::Descrizione), u"Descrizione dell'oggetto della guida"_s);
+    LasciaAnnullare(*txtGDescr_);
+    cmbGTipo_ = NuovoElenco(u"cmbGTipo"_s, {},
+                            u"Selezionare l'importanza dell'oggetto o se trattasi di Punto sosta, CS, Campeggio, "
+                            "Ristorante, ecc."_s);
+    cmbGTipo_->setEditable(true);
+    cmbGTipo_->setInsertPolicy(QComboBox::NoInsert);
+    LasciaAnnullare(*cmbGTipo_->lineEdit());
+    cmbGTipo_->completer()->setCompletionMode(QCompleter::InlineCompletion);
+    const QString tempo = u"Tempo necessario per la visita dell'oggetto (obbligatorio per visite)"_s;
+    cmbGH_ = NuovoElenco(u"cmbGH"_s, Numeri(0, 15, 2), tempo);
+    cmbGH_->setAccessibleName(u"Ore della visita"_s);
+    cmbGM_ = NuovoElenco(u"cmbGM"_s, Quarti(), tempo);
+    cmbGM_->setAccessibleName(u"Minuti della visita"_s);
+    auto* ore = new QHBoxLayout;
+    ore->addWidget(cmbGH_);
+    ore->addWidget(cmbGM_);
+    auto* griglia = new QGridLayout;
+    griglia->setVerticalSpacing(2);
+    griglia->addWidget(NuovaEtichetta(u"&Località (clicca sulla tabella) sovrastante)"_s, *txtGCitta_), 0, 0);
+    griglia->addWidget(NuovaEtichetta(u"&Monumento, museo, località punto sosta, ecc."_s, *txtGDescr_), 0, 1);
+    griglia->addWidget(NuovaEtichetta(u"&Tipologia"_s, *cmbGTipo_), 0, 2);
+    griglia->addWidget(NuovaEtichetta(u"Tempo (&hhmm)"_s, *cmbGH_), 0, 3);
+    griglia->addWidget(txtGCitta_, 1, 0);
+    griglia->addWidget(txtGDescr_, 1, 1);
+    griglia->addWidget(cmbGTipo_, 1, 2);
+    griglia->addLayout(ore, 1, 3);
+    griglia->addWidget(NuovoAiuto(u"cmdHelpGuida"_s, u"Guida città"_s, AiutoGuida()), 1, 4);
+    griglia->setColumnStretch(0, 2);
+    griglia->setColumnStretch(1, 5);
+    return griglia;
+}
+
+QLayout* FrmGuida::CreaComandi() {
+    auto* riga = new QHBoxLayout;
+    const auto aggiungi = [&](const QString& nome, const QString& scritta, const QString& istruzione,
+                              void (FrmGuida::*segnale)()) {
+        QPushButton* pulsante = NuovoPulsante(nome, scritta, istruzione);
+        connect(pulsante, &QPushButton::clicked, this, segnale);
+        riga->addWidget(pulsante);
+        return pulsante;
+    };
+    aggiungi(u"cmdSalvaRiga"_s, u"&Salva riga"_s, u"Salva la descrizione inserita"_s, &FrmGuida::Salva);
+    cmdCancellaRiga_ =
+        aggiungi(u"cmdCancellaRiga"_s, u"&Cancella riga"_s, u"Cancella la descrizione"_s, &FrmGuida::Cancella);
+    aggiungi(u"cmdFind"_s, u"C&erca"_s, u"Cerca una località dell'itinerario"_s, &FrmGuida::Cerca);
+    riga->addStretch();
+    aggiungi(u"cmdStampaGuidaCitta"_s, u"S&tampa"_s, u"Stampa la guida delle città"_s, &FrmGuida::Stampa);
+    cmdFineInserimento_ = aggiungi(u"cmdFineInserimento"_s, u"&Fine inserimento"_s,
+                                   u"Fine dell''inserimento della guida ed esce dalla modalità"_s, &FrmGuida::Fine);
+    return riga;
+}
+
+void FrmGuida::MostraTipi(const std::vector<TipoGuida>& tipi) {
+    QStringList nomi;
+    for (const TipoGuida& tipo : tipi) nomi += tipo.descrizione;
+    const QString scritto = cmbGTipo_->currentText();
+    cmbGTipo_->clear();
+    cmbGTipo_->addItems(nomi);
+    cmbGTipo_->setEditText(scritto);
+}
+
+void FrmGuida::Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile) {
+    txtGCitta_->setText(localita);
+    txtGDescr_->setText(campi.descrizione);
+    cmbGTipo_->setCurrentIndex(cmbGTipo_->findText(campi.tipo));
+    cmbGTipo_->setEditText(campi.tipo);
+    MostraVoce(*cmbGH_, Zero(campi.ore, 2));
+    MostraVoce(*cmbGM_, Zero(campi.minuti, 2));
+    cmdCancellaRiga_->setEnabled(cancellabile);
+}
+
+CampiVoce FrmGuida::Campi() const {
+    return {txtGDescr_->text(), cmbGTipo_->currentText(), cmbGH_->currentText().toInt(), cmbGM_->currentText().toInt()};
+}
+
+void FrmGuida::FuocoSullaDescrizione() {
+    txtGDescr_->setFocus();
+    txtGDescr_->selectAll();
+}
+
+}  // namespace cronovia

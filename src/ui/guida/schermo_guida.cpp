@@ -1,0 +1,160 @@
+#include "ui/guida/schermo_guida.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <utility>
+
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kColonneLocalita = 22;
+
+}  // namespace
+
+SchermoGuida::SchermoGuida(Scrivania& scrivania, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui)
+    : scrivania_(scrivania), griglia_(griglia), elenco_(elenco), esegui_(std::move(esegui)), riquadro_(new FrmGuida) {
+    riquadro_->hide();
+    Collega();
+}
+
+void SchermoGuida::Collega() {
+    connect(riquadro_, &FrmGuida::Salva, this, &SchermoGuida::Salva);
+    connect(riquadro_, &FrmGuida::Cancella, this, [this] {
+        Comanda([](TavoloGuida& tavolo) { tavolo.CancellaRiga(); });
+        riquadro_->FuocoSullaDescrizione();
+    });
+    connect(riquadro_, &FrmGuida::Cerca, this, [this] {
+        Comanda([](TavoloGuida& tavolo) { tavolo.Cerca(); });
+        elenco_.setFocus();
+    });
+    connect(riquadro_, &FrmGuida::Fine, this, [this] {
+        esegui_([this] { scrivania_.FineGuida(); });
+        griglia_.setFocus();
+    });
+    connect(&griglia_, &VistaGriglia::RigaCorrente, this,
+            [this](int riga) { Comanda([riga](TavoloGuida& tavolo) { tavolo.InserisciGuida(riga + 1); }); });
+    connect(&griglia_, &QTableView::clicked, this, [this] {
+        if (scrivania_.Guida()) riquadro_->FuocoSullaDescrizione();
+    });
+    connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
+        if (!scrivania_.Guida()) return;
+        const int riga = voce->data(Qt::UserRole).toInt();
+        Comanda([riga](TavoloGuida& tavolo) { tavolo.ScegliLocalita(riga); });
+        riquadro_->FuocoSullaDescrizione();
+    });
+}
+
+void SchermoGuida::ImpostaStampa(ComandoStampaGuida& stampa) {
+    stampa_ = &stampa;
+    connect(riquadro_, &FrmGuida::Stampa, stampa_, &ComandoStampaGuida::Apri);
+    connect(stampa_, &ComandoStampaGuida::Cambiato, this, [this] {
+        if (!scrivania_.Guida()) return;
+        Abilita(*scrivania_.Guida());
+        esegui_([] {});  // what else is free now
+        if (!stampa_->Aperto()) riquadro_->FuocoSullaDescrizione();
+    });
+}
+
+void SchermoGuida::Apri() {
+    mostrato_.reset();
+    esegui_([this] { scrivania_.GuidaCitta(); });
+    if (scrivania_.Guida()) riquadro_->FuocoSullaDescrizione();
+}
+
+void SchermoGuida::Comanda(const std::function<void(TavoloGuida&)>& comando) {
+    if (scrivania_.Guida()) esegui_([&] { scrivania_.SullaGuida(comando); });
+}
+
+void SchermoGuida::Salva() {
+    const CampiVoce campi = riquadro_->Campi();
+    Comanda([&](TavoloGuida& tavolo) { tavolo.SalvaRiga(campi); });
+    riquadro_->FuocoSullaDescrizione();
+}
+
+bool SchermoGuida::StampaAperta() const { return stampa_ != nullptr && stampa_->Aperto(); }
+
+bool SchermoGuida::CampiCambiati() const { return mostrato_ && riquadro_->Campi() != mostrato_->campi; }
+
+bool SchermoGuida::Mostra(int righeMinime) {
+    const std::optional<TavoloGuida>& tavolo = scrivania_.Guida();
+    riquadro_->setVisible(tavolo.has_value());
+    if (!tavolo) {
+        mostrato_.reset();
+        return false;
+    }
+    const int cima = griglia_.verticalScrollBar()->value();
+    const bool prima = griglia_.model() != &modello_;
+    if (modello_.Mostra(tavolo->Elenco(), righeMinime) && !prima) griglia_.verticalScrollBar()->setValue(cima);
+    if (prima) griglia_.MostraGuida(modello_);
+    griglia_.SelezionaRiga(tavolo->RigaCorrente() - 1);
+    // What is being typed stays, unless another row has come.
+    const bool nuovo = !mostrato_ || mostrato_->riga != tavolo->RigaCorrente() || mostrato_->elenco != tavolo->Elenco();
+    if (nuovo) {
+        riquadro_->MostraTipi(tavolo->Tipi());
+        riquadro_->Mostra(tavolo->Corrente().localita, tavolo->Campi(), tavolo->Corrente().voce.has_value());
+        mostrato_ = {tavolo->RigaCorrente(), tavolo->Elenco(), tavolo->Campi()};
+    }
+    MostraElenco(*tavolo);
+    Abilita(*tavolo);
+    return true;
+}
+
+// Beside a list to choose from, and beside the choices of the printout, nothing else can be used.
+void SchermoGuida::Abilita(const TavoloGuida& tavolo) {
+    const bool libero = !tavolo.ElencoLocalitaVisibile() && !stampa_->Aperto();
+    griglia_.setEnabled(libero);
+    riquadro_->setEnabled(libero);
+}
+
+void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
+    if (tavolo.ElencoLocalitaVisibile() && !elenco_.isVisible()) {
+        elenco_.clear();
+        for (std::size_t i = 0; i < tavolo.Elenco()->size(); ++i) {
+            const RigaGuida& riga = (*tavolo.Elenco())[i];
+            if (riga.voce) continue;
+            const auto numero = static_cast<int>(i) + 1;
+            auto* voce = new QListWidgetItem(AggStr(riga.localita, kColonneLocalita, u' ') + Zero(numero, 4), &elenco_);
+            voce->setData(Qt::UserRole, numero);
+            if (riga.localita == tavolo.Corrente().localita) elenco_.setCurrentItem(voce);
+        }
+    }
+    elenco_.setVisible(tavolo.ElencoLocalitaVisibile());
+}
+
+// Enter saves what was typed and leaves otherwise; Escape goes back one step.
+bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
+    const std::optional<TavoloGuida>& tavolo = scrivania_.Guida();
+    if (!tavolo) return false;
+    const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
+    const bool esc = tasto.key() == Qt::Key_Escape;
+    if (!invio && !esc) return false;
+    if (stampa_->Aperto()) {
+        if (esc) stampa_->Rinuncia();
+    } else if (esc && tavolo->ElencoLocalitaVisibile()) {
+        Comanda([](TavoloGuida& t) { t.ChiudiElenco(); });
+        riquadro_->FuocoSullaDescrizione();
+    } else if (tavolo->ElencoLocalitaVisibile()) {
+        return true;
+    } else if (auto* pulsante = qobject_cast<QPushButton*>(riquadro_->window()->focusWidget()); invio && pulsante) {
+        pulsante->click();
+    } else if (invio && !riquadro_->isAncestorOf(riquadro_->window()->focusWidget())) {
+        riquadro_->FuocoSullaDescrizione();  // in the grid, or in a field of the trip
+    } else if (invio && CampiCambiati()) {
+        Salva();
+    } else if (esc && CampiCambiati()) {
+        mostrato_.reset();
+        Comanda([](TavoloGuida& t) { t.InserisciGuida(t.RigaCorrente()); });
+        riquadro_->FuocoSullaDescrizione();
+    } else {
+        riquadro_->PulsanteFine().click();
+    }
+    return true;
+}
+
+}  // namespace cronovia

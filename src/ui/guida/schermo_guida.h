@@ -1,0 +1,62 @@
+// The guide screen: the guide list in the main grid, its frame below.
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <optional>
+
+#include "app/scrivania.h"
+#include "ui/comuni/elenco_scelta.h"
+#include "ui/griglia/vista_griglia.h"
+#include "ui/guida/comando_stampa_guida.h"
+#include "ui/guida/frm_guida.h"
+#include "ui/guida/modello_guida.h"
+
+class QKeyEvent;
+
+namespace cronovia {
+
+class SchermoGuida : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Runs a command of the desk and shows the state anew.
+    using Esegui = std::function<void(const std::function<void()>&)>;
+
+    SchermoGuida(Scrivania& scrivania, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui);
+
+    [[nodiscard]] FrmGuida& Riquadro() const { return *riquadro_; }
+    void ImpostaStampa(ComandoStampaGuida& stampa);
+    void Apri();
+    /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
+    bool Mostra(int righeMinime);
+    /// The choices of the printout lie over the screen.
+    [[nodiscard]] bool StampaAperta() const;
+    /// The keys that mean something on this screen; false for all others, and while it is closed.
+    bool Tasto(const QKeyEvent& tasto);
+
+  private:
+    void Collega();
+    void Comanda(const std::function<void(TavoloGuida&)>& comando);
+    void Salva();
+    void MostraElenco(const TavoloGuida& tavolo);
+    void Abilita(const TavoloGuida& tavolo);
+    [[nodiscard]] bool CampiCambiati() const;
+
+    struct Mostrato {
+        int riga = 0;
+        TavoloGuida::Righe elenco;
+        CampiVoce campi;
+    };
+
+    Scrivania& scrivania_;
+    VistaGriglia& griglia_;
+    ElencoScelta& elenco_;
+    Esegui esegui_;
+    FrmGuida* riquadro_;
+    ComandoStampaGuida* stampa_ = nullptr;
+    ModelloGuida modello_;
+    std::optional<Mostrato> mostrato_;  // what was last put into the fields
+};
+
+}  // namespace cronovia

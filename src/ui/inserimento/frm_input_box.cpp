@@ -1,0 +1,177 @@
+#include "ui/inserimento/frm_input_box.h"
+
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+
+#include "calendar/testo.h"
+#include "ui/comuni/aiuti.h"
+#include "ui/comuni/controlli.h"
+#include "ui/comuni/maiuscole.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array<TestiPulsante, kComandiItinerario> kTesti = {{
+    {u"cmdInserisce", u"&Inserisce tappa", u"Inserisce la tappa nella riga corrente"},
+    {u"cmdAggiunge", u"&Aggiunge riga vuota", u"Apre una riga vuota prima di quella corrente"},
+    {u"cmdCancella", u"&Cancella riga/tappa", u"Cancella la riga corrente"},
+    {u"cmdRicalcola", u"Ricalc&ola", u"Calcola la cronovia con le modifiche in corso"},
+    {u"cmdRitorno", u"Ri&torno a start", u"Inserisce il ritorno alla località di partenza, dalla località più vicina"},
+    {u"cmdCerca", u"C&erca località", u"Cerca una località dell'itinerario"},
+    {u"cmdFine", u"&Fine inser.", u"Chiude l'inserimento dell'itinerario"},
+    {u"cmdMemorizza", u"&Salva Reset", u"Salva l'itinerario o recupera quello memorizzato"},
+    {u"cmdDuplica", u"&Copia da altre mète", u"Duplica da altra meta"},
+    {u"cmdAzzeraSoste", u"A&zzera soste itiner.", u"Toglie tutte le soste dell'itinerario"},
+    {u"cmdTrasferisce", u"Copia soste guida ->itin.", u"Aggiunge alle soste i tempi di visita della guida"},
+}};
+
+constexpr std::array<ComandoItinerario, kComandiItinerario> kDisposizione = {
+    ComandoItinerario::Inserisce,   ComandoItinerario::Aggiunge,    ComandoItinerario::Cancella,
+    ComandoItinerario::Cerca,       ComandoItinerario::Ritorno,     ComandoItinerario::Duplica,
+    ComandoItinerario::AzzeraSoste, ComandoItinerario::Trasferisce, ComandoItinerario::Ricalcola,
+    ComandoItinerario::Memorizza,   ComandoItinerario::Fine};
+
+}  // namespace
+
+FrmInputBox::FrmInputBox(QWidget* parent) : QGroupBox(u"Inserimento itinerario:"_s, parent) {
+    setObjectName(u"frmInputBox"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(CreaCampi());
+    layout->addWidget(CreaComandi());
+    layout->addStretch();
+}
+
+QWidget* FrmInputBox::CreaCampi() {
+    auto* campi = new QWidget;
+    auto* layout = new QFormLayout(campi);
+    layout->setContentsMargins({});
+    layout->setVerticalSpacing(3);
+    txtRiga_ = NuovoRisultato(u"txtRiga"_s, 5, u"Numero cronologico della tappa (automatico)"_s);
+    txtTappa_ = NuovaCasella(u"txtTappa"_s, 29, u"Indicare la località di arrivo"_s);
+    txtNumStrada_ = NuovaCasella(u"txtNumStrada"_s, 63,
+                                 u"Indicare il Numero della strada per giungere alla località descritta; se contiene "
+                                 "\"TRAGH\" indica uso di Traghetto"_s);
+    txtKm_ = NuovaCasella(u"txtKm"_s, 5,
+                          u"Distanza in Km. (obbligatoria in alternativa ad una sosta); vedere informazioni aggiuntive "
+                          "su [?]"_s);
+    txtKm_->setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d*"_s), txtKm_));
+    ScriviMaiuscolo(*txtTappa_);
+    ScriviMaiuscolo(*txtNumStrada_);
+    for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) LasciaAnnullare(*casella);
+    cmbTipoStrada_ = NuovoElenco(u"cmbTipoStrada"_s, {u"Autostrada"_s, u"SuperStrada"_s, u"Principale"_s, u"Locale"_s},
+                                 u"Tipo di strada"_s);
+    auto* soste = new QHBoxLayout;
+    const std::array<QStringList, 3> voci = {Numeri(0, 15, 2), Numeri(0, 23, 2), Quarti()};
+    const std::array<QString, 3> nomi = {u"Giorni di sosta"_s, u"Ore di sosta"_s, u"Minuti di sosta"_s};
+    for (int i = 0; i < 3; ++i) {
+        const auto posto = static_cast<std::size_t>(i);
+        cmbSosta_[posto] = NuovoElenco(NomeDiSerie(u"cmbSosta"_s, i), voci[posto],
+                                       u"Indicare l'eventuale sosta (gg:hh:mm, obbligatorio con km. 0)"_s);
+        cmbSosta_[posto]->setAccessibleName(nomi[posto]);
+        soste->addWidget(cmbSosta_[posto]);
+    }
+    chkEndDay_ = new QCheckBox(u"Fine giornata"_s);
+    chkEndDay_->setObjectName(u"chkEndDay"_s);
+    chkEndDay_->setToolTip(u"Forza la sosta fino alla fine della giornata"_s);
+    chkKm_ = new QCheckBox(u"Km. progress."_s);
+    chkKm_->setObjectName(u"chkKm"_s);
+    chkKm_->setToolTip(
+        u"Se attivo, inserendo un valore superiore al progressivo del giorno precedente, viene inserita la differenza"_s);
+    chkKm_->setFocusPolicy(Qt::NoFocus);
+    chkKm_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* riga = new QHBoxLayout;
+    riga->addWidget(txtRiga_);
+    riga->addStretch();
+    riga->addWidget(NuovoAiuto(u"cmdHelpInserimento"_s, u"Inserimento itinerario"_s, AiutoInserimento()));
+    auto* km = new QHBoxLayout;
+    km->addWidget(txtKm_);
+    km->addWidget(chkKm_);
+    layout->addRow(u"Riga"_s, riga);
+    layout->addRow(NuovaEtichetta(u"Ta&ppa"_s, *txtTappa_), txtTappa_);
+    layout->addRow(NuovaEtichetta(u"Numero strada (TRAGH=Traghetto)"_s, *txtNumStrada_));
+    layout->addRow(txtNumStrada_);
+    layout->addRow(NuovaEtichetta(u"&Distanza in Km."_s, *txtKm_), km);
+    layout->addRow(NuovaEtichetta(u"Tipo di strada"_s, *cmbTipoStrada_), cmbTipoStrada_);
+    layout->addRow(NuovaEtichetta(u"E&ventuale sosta (in gg:hh:mm):"_s, *cmbSosta_[0]));
+    soste->addWidget(chkEndDay_);
+    layout->addRow(soste);
+    return campi;
+}
+
+QWidget* FrmInputBox::CreaComandi() {
+    auto* gruppo = new QFrame;
+    gruppo->setObjectName(u"frmInsItOperativa"_s);
+    auto* layout = new QGridLayout(gruppo);
+    layout->setContentsMargins({});
+    layout->setSpacing(3);
+    int posto = 0;
+    const auto aggiungi = [&](QPushButton* pulsante) {
+        layout->addWidget(pulsante, posto / 2, posto % 2);
+        ++posto;
+    };
+    for (const ComandoItinerario comando : kDisposizione) {
+        QPushButton* pulsante = NuovoPulsante(kTesti[static_cast<std::size_t>(comando)]);
+        connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
+        pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
+        // Its letter is that of the command that takes a row away.
+        if (comando == ComandoItinerario::Duplica) pulsante->setShortcut({});
+        aggiungi(pulsante);
+        if (comando == ComandoItinerario::Duplica) {
+            cmdMapPoint_ = NuovoPulsante(u"cmdMapPoint"_s, u"&Altri &Pacch."_s,
+                                         u"Recepisce dati forniti da pacchetti commerciali"_s);
+            connect(cmdMapPoint_, &QPushButton::clicked, this, &FrmInputBox::AltriPacchetti);
+            cmdMapPoint_->setShortcut({});  // its letters are taken too
+            aggiungi(cmdMapPoint_);
+        }
+    }
+    return gruppo;
+}
+
+void FrmInputBox::Mostra(int riga, const CampiTappa& campi) {
+    txtRiga_->setText(QString::number(riga));
+    txtTappa_->setText(campi.localita);
+    txtNumStrada_->setText(campi.numStrada);
+    MostraKm(campi.km);
+    if (campi.tipo) cmbTipoStrada_->setCurrentIndex(static_cast<int>(*campi.tipo));
+    MostraVoce(*cmbSosta_[0], Zero(campi.sosta.giorni, 2));
+    MostraVoce(*cmbSosta_[1], Zero(campi.sosta.ore, 2));
+    MostraVoce(*cmbSosta_[2], Zero(campi.sosta.minuti, 2));
+    chkEndDay_->setChecked(campi.fineGiorno);
+}
+
+void FrmInputBox::MostraKm(int km) { txtKm_->setText(km == 0 ? QString() : QString::number(km)); }
+
+void FrmInputBox::MostraKmProgressivi(std::optional<bool> attivi) {
+    chkKm_->setVisible(attivi.has_value());
+    chkKm_->setChecked(attivi.value_or(false));
+}
+
+void FrmInputBox::Applica(const StatoComandi& stato) {
+    for (std::size_t i = 0; i < kComandiItinerario; ++i) pulsanti_[i]->setEnabled(stato.itinerario[i]);
+    cmdMapPoint_->setEnabled(stato.altriPacchetti && stato.Abilitato(ComandoItinerario::Inserisce));
+}
+
+CampiTappa FrmInputBox::Campi() const {
+    CampiTappa campi;
+    campi.localita = txtTappa_->text().trimmed();
+    campi.numStrada = txtNumStrada_->text().trimmed();
+    campi.km = txtKm_->text().toInt();
+    campi.tipo = LeggiTipoStrada(cmbTipoStrada_->currentText().left(1));
+    campi.sosta = {cmbSosta_[0]->currentText().toInt(), cmbSosta_[1]->currentText().toInt(),
+                   cmbSosta_[2]->currentText().toInt()};
+    campi.fineGiorno = chkEndDay_->isChecked();
+    return campi;
+}
+
+void FrmInputBox::FuocoSullaTappa() {
+    txtTappa_->setFocus();
+    txtTappa_->selectAll();
+}
+
+}  // namespace cronovia

@@ -1,0 +1,132 @@
+#include "ui/scambio/frm_export.h"
+
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "ui/comuni/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+FrmExport::FrmExport(QWidget* parent) : QFrame(parent) {
+    setObjectName(u"frmExport"_s);
+    setFrameShape(QFrame::StyledPanel);
+    auto* layout = new QGridLayout(this);
+    auto* titolo = new QLabel(u"Export/Import mete (compresi percorsi e guide città)"_s);
+    QFont grassetto = titolo->font();
+    grassetto.setBold(true);
+    titolo->setFont(grassetto);
+    auto* istruzioni = new QLabel(u"(Clicca sulla meta che vuoi trasferire da/a Export)"_s);
+    istruzioni->setObjectName(u"lblExIstruzioni"_s);
+    istruzioni->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    layout->addWidget(titolo, 0, 0);
+    layout->addWidget(istruzioni, 0, 2);
+    for (int i = 0; i < 2; ++i) {
+        const auto posto = static_cast<std::size_t>(i);
+        mfgImExp_[posto] = NuovaGriglia(i);
+        etichette_[posto] = NuovaEtichetta({}, *mfgImExp_[posto]);
+        etichette_[posto]->setObjectName(i == 0 ? u"lblExLista"_s : u"lblExSelez"_s);
+        layout->addWidget(etichette_[posto], 1, 2 * i);
+        layout->addWidget(mfgImExp_[posto], 2, 2 * i);
+        layout->setColumnStretch(2 * i, 1);
+    }
+    layout->addWidget(CreaPulsanti(), 2, 1);
+    Mostra(TavoloScambio(ModoScambio::Export, {}, {}), false);
+    hide();
+}
+
+QTableView* FrmExport::NuovaGriglia(int indice) {
+    auto* griglia = new QTableView;
+    griglia->setObjectName(NomeDiSerie(u"mfgImExp"_s, indice));
+    griglia->setModel(&modelli_[static_cast<std::size_t>(indice)]);
+    griglia->setSelectionBehavior(QAbstractItemView::SelectRows);
+    griglia->setSelectionMode(QAbstractItemView::SingleSelection);
+    griglia->setAlternatingRowColors(true);
+    griglia->setShowGrid(false);
+    griglia->setWordWrap(false);
+    griglia->setTabKeyNavigation(false);
+    griglia->setCursor(Qt::PointingHandCursor);
+    griglia->verticalHeader()->hide();
+    griglia->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    griglia->verticalHeader()->setDefaultSectionSize(griglia->fontMetrics().height() + 6);
+    QHeaderView& colonne = *griglia->horizontalHeader();
+    colonne.setHighlightSections(false);
+    colonne.setSectionResizeMode(ModelloMete::Meta, QHeaderView::Stretch);
+    const QFontMetrics misure = griglia->fontMetrics();
+    griglia->setColumnWidth(ModelloMete::Num, misure.horizontalAdvance(u"999999"_s) + 8);
+    griglia->setColumnWidth(ModelloMete::Nazione, misure.horizontalAdvance(QString(14, u'M')));
+    griglia->setColumnWidth(ModelloMete::RecordMeta, misure.horizontalAdvance(u"000000"_s) + 24);
+    griglia->installEventFilter(this);
+    connect(griglia, &QTableView::clicked, this,
+            [this, indice](const QModelIndex& cella) { Q_EMIT Trasferisce(indice, cella.row()); });
+    return griglia;
+}
+
+QWidget* FrmExport::CreaPulsanti() {
+    auto* colonna = new QWidget;
+    auto* layout = new QVBoxLayout(colonna);
+    layout->addStretch();
+    for (int i = 0; i < 2; ++i) {
+        QPushButton* pulsante =
+            NuovoPulsante(NomeDiSerie(u"cmdTutto"_s, i), {}, u"Trasferisce tutte le mete sull'altra finestra"_s);
+        pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(u"<--- Tutti [999999]"_s) + 24);
+        connect(pulsante, &QPushButton::clicked, this, [this, i] { Q_EMIT TrasferisceTutte(i); });
+        cmdTutto_[static_cast<std::size_t>(i)] = pulsante;
+        layout->addWidget(pulsante);
+    }
+    layout->addSpacing(24);
+    cmdImExp_[0] = NuovoPulsante(u"cmdImExp_0"_s, {}, u"Avvia il trasferimento delle mete scelte"_s);
+    cmdImExp_[1] = NuovoPulsante(u"cmdImExp_1"_s, u"&Fine"_s, u"Rinuncia all'import-export in corso"_s);
+    connect(cmdImExp_[0], &QPushButton::clicked, this, &FrmExport::ImExp);
+    connect(cmdImExp_[1], &QPushButton::clicked, this, &FrmExport::Fine);
+    layout->addWidget(cmdImExp_[0]);
+    layout->addWidget(cmdImExp_[1]);
+    layout->addStretch();
+    return colonna;
+}
+
+void FrmExport::Mostra(const TavoloScambio& tavolo, bool inCorso) {
+    for (int i = 0; i < 2; ++i) {
+        const auto posto = static_cast<std::size_t>(i);
+        modelli_[posto].Mostra(tavolo.Mete(i));
+        mfgImExp_[posto]->setEnabled(!inCorso);
+        etichette_[posto]->setText(tavolo.Etichetta(i));
+        mfgImExp_[posto]->setAccessibleName(tavolo.Etichetta(i));
+        cmdTutto_[posto]->setText(tavolo.ScrittaTutto(i));
+        cmdTutto_[posto]->setEnabled(!inCorso && !tavolo.Mete(i).empty());
+    }
+    cmdImExp_[0]->setText(tavolo.ScrittaImExp());
+    cmdImExp_[0]->setEnabled(!inCorso && !tavolo.Scelte().empty());
+    cmdImExp_[1]->setEnabled(!inCorso);
+}
+
+void FrmExport::FuocoSullaScelta(ModoScambio modo) {
+    QTableView& griglia = *mfgImExp_[modo == ModoScambio::Export ? 0 : 1];
+    griglia.setFocus();
+    if (!griglia.currentIndex().isValid()) griglia.setCurrentIndex(griglia.model()->index(0, ModelloMete::Meta));
+}
+
+// Enter moves the current trip; on a button it presses that.
+bool FrmExport::eventFilter(QObject* oggetto, QEvent* event) {
+    const auto* tasto = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    if (tasto == nullptr || (tasto->key() != Qt::Key_Return && tasto->key() != Qt::Key_Enter)) {
+        return QFrame::eventFilter(oggetto, event);
+    }
+    const int indice = oggetto == mfgImExp_[0] ? 0 : 1;
+    const QModelIndex corrente = mfgImExp_[static_cast<std::size_t>(indice)]->currentIndex();
+    if (corrente.isValid()) Q_EMIT Trasferisce(indice, corrente.row());
+    return true;
+}
+
+void FrmExport::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        cmdImExp_[1]->click();
+    } else {
+        QFrame::keyPressEvent(event);
+    }
+}
+
+}  // namespace cronovia

@@ -1,0 +1,48 @@
+// The exchange screen: two grids between which trips are moved, and the run.
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <array>
+
+#include "app/tavolo_scambio.h"
+#include "ui/scambio/modello_mete.h"
+
+namespace cronovia {
+
+class FrmExport : public QFrame {
+    Q_OBJECT
+
+  public:
+    explicit FrmExport(QWidget* parent = nullptr);
+
+    /// While a run is on, nothing in the frame can be used.
+    void Mostra(const TavoloScambio& tavolo, bool inCorso);
+    /// Puts the focus on the grid to choose from.
+    void FuocoSullaScelta(ModoScambio modo);
+
+  Q_SIGNALS:
+    /// The trip of a row of a grid is to move to the other one; all of them.
+    void Trasferisce(int griglia, int riga);
+    void TrasferisceTutte(int griglia);
+    void ImExp();
+    void Fine();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* oggetto, QEvent* event) override;
+
+  private:
+    QTableView* NuovaGriglia(int indice);
+    QWidget* CreaPulsanti();
+
+    std::array<ModelloMete, 2> modelli_;
+    std::array<QTableView*, 2> mfgImExp_{};
+    std::array<QLabel*, 2> etichette_{};
+    std::array<QPushButton*, 2> cmdTutto_{};
+    std::array<QPushButton*, 2> cmdImExp_{};
+};
+
+}  // namespace cronovia

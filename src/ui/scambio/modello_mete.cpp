@@ -1,0 +1,71 @@
+#include "ui/scambio/modello_mete.h"
+
+#include <algorithm>
+#include <array>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QVariant Allineamento(int colonna) {
+    const bool testo = colonna == ModelloMete::Meta || colonna == ModelloMete::Nazione;
+    return QVariant(Qt::AlignVCenter | (testo ? Qt::AlignLeft : Qt::AlignRight));
+}
+
+}  // namespace
+
+void ModelloMete::Mostra(const std::vector<MetaNelFile>& mete) {
+    const auto [prima, dopo] = std::mismatch(mete_.begin(), mete_.end(), mete.begin(), mete.end());
+    const auto riga = static_cast<int>(prima - mete_.begin());
+    if (prima == mete_.end() && dopo == mete.end()) return;
+    if (mete.size() + 1 == mete_.size() && std::equal(prima + 1, mete_.end(), dopo, mete.end())) {
+        beginRemoveRows({}, riga, riga);
+        mete_.erase(prima);
+        endRemoveRows();
+        // Those behind it have other numbers.
+        Q_EMIT dataChanged(index(riga, Num), index(static_cast<int>(mete_.size()) - 1, Num));
+    } else if (mete.size() == mete_.size() + 1 && prima == mete_.end()) {
+        beginInsertRows({}, riga, riga);
+        mete_.push_back(*dopo);
+        endInsertRows();
+    } else {
+        beginResetModel();
+        mete_ = mete;
+        endResetModel();
+    }
+}
+
+int ModelloMete::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(mete_.size());
+}
+
+int ModelloMete::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : kColonneMete; }
+
+QVariant ModelloMete::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const MetaNelFile& meta = mete_[static_cast<std::size_t>(index.row())];
+    if (role == Qt::TextAlignmentRole) return Allineamento(index.column());
+    if (role != Qt::DisplayRole) return {};
+    switch (index.column()) {
+        case Num:
+            return index.row() + 1;
+        case Meta:
+            return meta.localita;
+        case Nazione:
+            return meta.nazione;
+        default:
+            return meta.codice;
+    }
+}
+
+QVariant ModelloMete::headerData(int section, Qt::Orientation orientation, int role) const {
+    static const std::array<QString, kColonneMete> intestazioni = {u"Num"_s, u"Mèta"_s, u"Nazione"_s, u"Record"_s};
+    if (orientation != Qt::Horizontal) return {};
+    if (role == Qt::TextAlignmentRole) return Allineamento(section);
+    if (role != Qt::DisplayRole) return {};
+    return intestazioni.at(static_cast<std::size_t>(section));
+}
+
+}  // namespace cronovia

@@ -1,0 +1,149 @@
+#include "ui/stampa/comando_stampa.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "print/moduli.h"
+#include "print/stampa_cronovia.h"
+#include "print/stampa_itinerario.h"
+#include "print/tabella_testo.h"
+#include "ui/stampa/stampanti.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QFrame* NuovoStampaInCorso() {
+    auto* riquadro = new QFrame;
+    riquadro->setObjectName(u"frmStampaInCorso"_s);
+    riquadro->setFrameShape(QFrame::StyledPanel);
+    riquadro->setAutoFillBackground(true);
+    auto* attesa = new QLabel(u"Preparazione moduli in corso... attendere..."_s);
+    attesa->setObjectName(u"lblStampaInCorso"_s);
+    auto* layout = new QVBoxLayout(riquadro);
+    layout->setContentsMargins(24, 18, 24, 18);
+    layout->addWidget(attesa);
+    layout->addWidget(new QLabel(u"L'attesa dipende dal sistema."_s));
+    riquadro->hide();
+    return riquadro;
+}
+
+}  // namespace
+
+ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
+    : QObject(&volti.finestra),
+      volti_(std::move(volti)),
+      opzioni_(new FrmStampa),
+      stampante_(new FrmSelStampa),
+      inCorso_(NuovoStampaInCorso()) {
+    for (QWidget* riquadro :
+         {static_cast<QWidget*>(opzioni_), static_cast<QWidget*>(stampante_), static_cast<QWidget*>(inCorso_)}) {
+        area.addWidget(riquadro, 0, 0, Qt::AlignCenter);
+    }
+    connect(opzioni_, &FrmStampa::Stampa, this, [this] {
+        stampante_->VisualizzaListaStampanti();
+        // Both frames have the same keys.
+        opzioni_->setEnabled(false);
+    });
+    connect(opzioni_, &FrmStampa::Anteprima, this, [this] { volti_.esegui([this] { MostraAnteprima(); }); });
+    connect(stampante_, &FrmSelStampa::Stampa, this, [this] {
+        if (opzioni_->isVisible()) volti_.esegui([this] { Stampa(); });
+    });
+    connect(opzioni_, &FrmStampa::Rinuncia, this, &ComandoStampa::Rinuncia);
+    connect(stampante_, &FrmSelStampa::Rinuncia, this, [this] {
+        if (opzioni_->isVisible()) Rinuncia();
+    });
+}
+
+void ComandoStampa::Apri() {
+    if (!volti_.scrivania.PreparaStampa()) return;
+    stampante_->hide();
+    opzioni_->Apri();
+}
+
+void ComandoStampa::Fuoco() {
+    if (opzioni_->isVisible() && !stampante_->isVisible()) opzioni_->Apri();
+}
+
+void ComandoStampa::Aggiorna() {
+    if (!volti_.scrivania.CronoviaMostrata() && opzioni_->isVisible()) Chiudi();
+}
+
+// From the printers back to the options, from there back to the schedule.
+void ComandoStampa::Rinuncia() {
+    if (stampante_->isVisible()) {
+        stampante_->hide();
+        opzioni_->Apri();
+        return;
+    }
+    Chiudi();
+    volti_.esegui([this] { volti_.scrivania.FineStampa(); });
+}
+
+void ComandoStampa::Chiudi() {
+    opzioni_->hide();
+    stampante_->hide();
+}
+
+void ComandoStampa::MostraAnteprima() {
+    const Stampato documento = StampaCronovia(Dati(), Piede(), volti_.avanzamento);
+    cronovia::MostraAnteprima(documento, volti_.finestra, volti_.interazione);
+}
+
+// Without a file, printing to a file has not begun.
+void ComandoStampa::Stampa() {
+    if (!stampante_->SceltoFilePdf() || !opzioni_->Tabella()) {
+        const QString stampante = stampante_->Scelta();
+        EseguiStampa([&](const Stampato& documento) {
+            StampaSuStampante(documento, stampante, volti_.interazione, volti_.avanzamento);
+        });
+        return;
+    }
+    const QString path = ChiediFilePdf(volti_.finestra, u"Cronovia "_s + volti_.scrivania.MetaInCorso().localita);
+    if (path.isEmpty()) {
+        volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
+        return;
+    }
+    EseguiStampa([&](const Stampato& documento) {
+        RifiutaFileTabella(path, volti_.scrivania.Cartella());
+        StampaSuFile(documento, path, volti_.avanzamento);
+    });
+}
+
+void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& stampa) {
+    const DatiStampa dati = Dati();
+    Chiudi();
+    volti_.scrivania.StampaInCorso();
+    StampaDellItinerario({dati, Piede(), volti_.scrivania.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(), stampa,
+                          [&] { AvviaModuli(dati); }},
+                         volti_.interazione, volti_.avanzamento);
+    volti_.scrivania.FineStampa();
+}
+
+void ComandoStampa::AvviaModuli(const DatiStampa& dati) {
+    struct Cartello {
+        explicit Cartello(QWidget& riquadro) : riquadro_(riquadro) {
+            riquadro.show();
+            riquadro.raise();
+            QCoreApplication::processEvents();
+        }
+        Cartello(const Cartello&) = delete;
+        Cartello& operator=(const Cartello&) = delete;
+        ~Cartello() { riquadro_.hide(); }
+        QWidget& riquadro_;
+    } const cartello(*inCorso_);
+    cronovia::AvviaModuli(dati, {QCoreApplication::applicationDirPath(), volti_.scrivania.Cartella()});
+}
+
+DatiStampa ComandoStampa::Dati() const {
+    return PreparaStampa(volti_.scrivania.MetaInCorso(), *volti_.scrivania.CronoviaMostrata());
+}
+
+PieDiPagina ComandoStampa::Piede() const { return {volti_.scrivania.Adesso().date(), volti_.finestra.windowTitle()}; }
+
+}  // namespace cronovia

@@ -1,0 +1,44 @@
+#include "ui/stampa/frm_stampa.h"
+
+#include <QHBoxLayout>
+
+#include "ui/comuni/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+FrmStampa::FrmStampa() : RiquadroSovrapposto(u"frmStampa"_s, u"Opzioni di stampa:"_s) {
+    chkTabella_ = new QCheckBox(u"Cronovia"_s);
+    chkTabella_->setObjectName(u"chkTabella"_s);
+    chkTabella_->setToolTip(u"Stampa la cronovia, una riga per tappa"_s);
+    chkTabella_->setChecked(true);
+    chkModuli_ = new QCheckBox(u"Moduli \"Diario di bordo\""_s);
+    chkModuli_->setObjectName(u"chkModuli"_s);
+    chkModuli_->setToolTip(u"Stampa i moduli in bianco con il programma Fogliax"_s);
+    stampa_ = NuovoPulsante(u"cmdEsegui_0"_s, u"&Stampa"_s, u"Sceglie la stampante"_s);
+    QPushButton* rinuncia = NuovoPulsante(u"cmdEsegui_1"_s, u"&Rinuncia"_s, u"Rinuncia alla stampa"_s);
+    QPushButton* anteprima =
+        NuovoPulsante(u"cmdAnteprima"_s, u"&Anteprima"_s, u"Mostra sullo schermo le pagine della cronovia"_s);
+    Pulsanti(stampa_, rinuncia);
+    QVBoxLayout& layout = Contenuto();
+    layout.addWidget(chkTabella_);
+    layout.addWidget(chkModuli_);
+    layout.addSpacing(8);
+    auto* riga = new QHBoxLayout;
+    for (QPushButton* pulsante : {stampa_, anteprima, rinuncia}) riga->addWidget(pulsante);
+    layout.addLayout(riga);
+    connect(stampa_, &QPushButton::clicked, this, &FrmStampa::Stampa);
+    connect(anteprima, &QPushButton::clicked, this, &FrmStampa::Anteprima);
+    connect(rinuncia, &QPushButton::clicked, this, &FrmStampa::Rinuncia);
+    connect(chkTabella_, &QCheckBox::toggled, anteprima, &QPushButton::setEnabled);
+}
+
+void FrmStampa::Apri() {
+    setEnabled(true);
+    show();
+    raise();
+    stampa_->setFocus();
+}
+
+}  // namespace cronovia

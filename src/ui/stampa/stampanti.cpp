@@ -1,0 +1,97 @@
+#include "ui/stampa/stampanti.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include "interaction/failure.h"
+#include "print/file_pdf.h"
+#include "print/pittore.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The toolbar's own buttons would print past the print run, or turn sheets that are always upright.
+void SoloDaVedere(const QPrintPreviewDialog& anteprima) {
+    for (const char* nome : {"Print", "Page setup", "Portrait", "Landscape"}) {
+        const QString testo = QCoreApplication::translate("QPrintPreviewDialog", nome);
+        for (QAction* azione : anteprima.findChildren<QAction*>()) {
+            if (azione->text() != testo) continue;
+            azione->setEnabled(false);
+            azione->setVisible(false);
+        }
+    }
+}
+
+QString NomeFile(QString titolo) { return titolo.remove(QRegularExpression(u"[\\\\/:*?\"<>|]"_s)).simplified(); }
+
+}  // namespace
+
+QStringList NomiStampanti() { return QPrinterInfo::availablePrinterNames(); }
+
+QString StampantePredefinita() { return QPrinterInfo::defaultPrinterName(); }
+
+QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
+    const QDir documenti(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    QFileDialog dialogo(&finestra, u"Stampa su file PDF"_s, documenti.path(), u"File PDF (*.pdf)"_s);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setDefaultSuffix(u"pdf"_s);
+    dialogo.selectFile(NomeFile(titolo) + u".pdf"_s);
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+QString NessunFileScelto() { return u"Nessun file scelto: niente è stato stampato."_s; }
+
+void StampaSuFile(const Stampato& documento, const QString& path, Progress& progress) {
+    RifiutaFileEsistente(path, true);
+    FileIntero file(path);
+    ScriviPdf(documento, file, progress);
+    file.Chiudi();
+}
+
+void StampaSuStampante(const Stampato& documento, const QString& stampante, Interaction& interaction,
+                       Progress& progress) {
+    const bool presente = NomiStampanti().contains(stampante);
+    const QString nome = presente ? stampante : QPrinterInfo::defaultPrinterName();
+    const QString manca = u"La stampante «%1» non c'è più"_s.arg(stampante);
+    if (nome.isEmpty()) throw Failure(manca + u": niente è stato stampato."_s);
+    if (!presente) interaction.Show({manca + u": la stampa va su «%1»."_s.arg(nome), {}, Icon::Exclamation});
+    QPrinter carta(QPrinter::HighResolution);
+    carta.setPrinterName(nome);
+    carta.setDocName(documento.titolo);
+    carta.setCreator(u"Cronovia"_s);
+    Dipingi(documento, carta, progress);
+    if (carta.printerState() == QPrinter::Error) {
+        throw Failure(u"La stampa su «%1» non è riuscita."_s.arg(nome));
+    }
+}
+
+void MostraAnteprima(const Stampato& documento, QWidget& finestra, Interaction& interaction) {
+    QPrinter carta(QPrinter::HighResolution);
+    carta.setDocName(documento.titolo);
+    QPrintPreviewDialog anteprima(&carta, &finestra);
+    anteprima.setObjectName(u"anteprima"_s);
+    anteprima.setWindowTitle(u"Anteprima di stampa - "_s + documento.titolo);
+    anteprima.resize(finestra.size());
+    SoloDaVedere(anteprima);
+    QObject::connect(&anteprima, &QPrintPreviewDialog::paintRequested, &anteprima, [&](QPrinter* stampante) {
+        try {
+            Progress progress;
+            Dipingi(documento, *stampante, progress);
+        } catch (const Failure& failure) {
+            interaction.Show({failure.Message(), {}, Icon::Exclamation});
+        }
+    });
+    anteprima.exec();
+}
+
+}  // namespace cronovia

@@ -1,0 +1,186 @@
+#include "ui/viaggio/frm_mete_periodo.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QRegularExpressionValidator>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "calendar/date.h"
+#include "calendar/durata.h"
+#include "calendar/testo.h"
+#include "ui/comuni/aiuti.h"
+#include "ui/comuni/controlli.h"
+#include "ui/comuni/maiuscole.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPrimoAnno = 1998;
+constexpr int kAnniAvanti = 5;
+constexpr std::array<int, 7> kCifreFine = {2, 2, 4, 2, 2, 4, 3};
+
+// A group of controls in one row, led by its caption.
+QHBoxLayout* NuovoGruppo(QGridLayout& griglia, int riga, const QString& nome, const QString& scritta) {
+    auto* gruppo = new QFrame;
+    gruppo->setObjectName(nome);
+    gruppo->setAccessibleName(scritta);
+    auto* layout = new QHBoxLayout(gruppo);
+    layout->setContentsMargins({});
+    layout->setSpacing(2);
+    griglia.addWidget(new QLabel(scritta), riga, 0);
+    griglia.addWidget(gruppo, riga, 1, 1, 2);
+    return layout;
+}
+
+}  // namespace
+
+FrmMetePeriodo::FrmMetePeriodo(int annoCorrente, QWidget* parent) : QGroupBox(u"Periodo del viaggio:"_s, parent) {
+    setObjectName(u"frmMetePeriodo"_s);
+    auto* layout = new QGridLayout(this);
+    StringiRiquadro(*layout);
+    CreaMeta(*layout);
+    CreaInizio(*layout, annoCorrente);
+    CreaFine(*layout);
+    CreaCalcolo(*layout);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(5, 1);
+}
+
+void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
+    txtLocalita_ = NuovaCasella(u"txtLocalita"_s, 30, u"Destinazione del viaggio (obbligatoria)"_s);
+    txtNazione_ = NuovaCasella(u"txtNazione"_s, 18, u"Nazione della destinazione (obbligatoria)"_s);
+    txtCodice_ = NuovoRisultato(u"txtCodice"_s, 6, u"Codice della mèta (automatico)"_s);
+    for (QLineEdit* casella : {txtLocalita_, txtNazione_}) {
+        ScriviMaiuscolo(*casella);
+        connect(casella, &QLineEdit::textEdited, this, &FrmMetePeriodo::Cambiata);
+    }
+    layout.addWidget(NuovaEtichetta(u"Località"_s, *txtLocalita_), 0, 0);
+    layout.addWidget(txtLocalita_, 0, 1);
+    layout.addWidget(txtCodice_, 0, 2);
+    layout.addWidget(NuovaEtichetta(u"Nazione"_s, *txtNazione_), 1, 0);
+    layout.addWidget(txtNazione_, 1, 1);
+    layout.addWidget(NuovoAiuto(u"cmdHelpPeriodo"_s, u"Periodo del viaggio"_s, AiutoPeriodo()), 1, 2, Qt::AlignRight);
+}
+
+void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
+    QHBoxLayout* layout = NuovoGruppo(griglia, 2, u"frmMeteInizio"_s, u"Inizio:"_s);
+    txtInizioGSett_ = NuovoRisultato(u"txtInizioGSett"_s, 3, u"Giorno della settimana della partenza"_s);
+    layout->addWidget(txtInizioGSett_);
+    const std::array<QStringList, 5> voci = {Numeri(1, 31, 2), Numeri(1, 12, 2),
+                                             Numeri(kPrimoAnno, annoCorrente + kAnniAvanti, 4), Numeri(0, 24, 2),
+                                             Quarti()};
+    const std::array<QString, 5> nomi = {u"Giorno d'inizio"_s, u"Mese d'inizio"_s, u"Anno d'inizio"_s,
+                                         u"Ora d'inizio"_s, u"Minuti d'inizio"_s};
+    for (std::size_t i = 0; i < cmbInizio_.size(); ++i) {
+        cmbInizio_[i] = NuovoElenco(NomeDiSerie(u"cmbInizio"_s, static_cast<int>(i)), voci[i], nomi[i]);
+        layout->addWidget(cmbInizio_[i]);
+        connect(cmbInizio_[i], &QComboBox::activated, this, [this] {
+            ImpostaGiorniMeseInizio();
+            Q_EMIT InizioCambiato();
+        });
+    }
+    layout->addStretch();
+}
+
+void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
+    QHBoxLayout* layout = NuovoGruppo(griglia, 3, u"frmMeteFine"_s, u"Fine:"_s);
+    const std::array<QString, 7> nomi = {u"Giorno di fine"_s,  u"Mese di fine"_s,
+                                         u"Anno di fine"_s,    u"Ora di fine"_s,
+                                         u"Minuti di fine"_s,  u"Giorno della settimana della fine"_s,
+                                         u"Numero di giorni"_s};
+    for (std::size_t i = 0; i < txtFine_.size(); ++i) {
+        txtFine_[i] = NuovoRisultato(NomeDiSerie(u"txtFine"_s, static_cast<int>(i)), kCifreFine[i], nomi[i]);
+    }
+    for (const std::size_t i : {5U, 0U, 1U, 2U, 3U, 4U, 6U}) layout->addWidget(txtFine_[i]);
+    layout->addWidget(new QLabel(u"gg."_s));
+    layout->addStretch();
+}
+
+void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
+    auto* layout = new QHBoxLayout;
+    cmbGiorni_ = NuovoElenco(u"cmbGiorni"_s, {u"000"_s},
+                             u"Giorni che il viaggio deve durare: le soste si adeguano (000 = quanti ne servono)"_s);
+    cmbGiorni_->setEditable(true);
+    cmbGiorni_->setInsertPolicy(QComboBox::NoInsert);
+    cmbGiorni_->setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d{0,4}"_s), cmbGiorni_));
+    connect(cmbGiorni_, &QComboBox::editTextChanged, this, [this](const QString& testo) {
+        if (testo.toInt() > kMassimoGiorniAdeguamento) cmbGiorni_->setEditText(u"997"_s);
+        Q_EMIT Cambiata();
+    });
+    cmbSoste_ = NuovoElenco(u"cmbSoste"_s,
+                            {u"1 - Soste itinerario"_s, u"2 - Soste Guida"_s, u"3 - Sosta Maggiore"_s,
+                             u"4 - Sosta minore"_s, u"5 - Nessuna sosta!"_s},
+                            u"Soste che il calcolo prende in considerazione"_s);
+    connect(cmbSoste_, &QComboBox::activated, this, &FrmMetePeriodo::Cambiata);
+    griglia.addWidget(NuovaEtichetta(u"Giorni"_s, *cmbGiorni_), 4, 0);
+    layout->addWidget(cmbGiorni_);
+    layout->addWidget(NuovaEtichetta(u"Soste"_s, *cmbSoste_));
+    layout->addWidget(cmbSoste_);
+    layout->addStretch();
+    griglia.addLayout(layout, 4, 1, 1, 2);
+}
+
+// The days of the month that is chosen, the day itself kept within them.
+void FrmMetePeriodo::ImpostaGiorniMeseInizio() {
+    MettiGiornoSett();
+    for (const std::size_t i : {0U, 1U, 2U}) {
+        if (cmbInizio_[i]->currentIndex() < 0) return;  // no date yet
+    }
+    const int giorni = GiorniMese(cmbInizio_[2]->currentText().toInt(), cmbInizio_[1]->currentText().toInt());
+    const int giorno = std::min(cmbInizio_[0]->currentText().toInt(), giorni);
+    const QSignalBlocker muto(cmbInizio_[0]);
+    cmbInizio_[0]->clear();
+    cmbInizio_[0]->addItems(Numeri(1, giorni, 2));
+    MostraVoce(*cmbInizio_[0], Zero(giorno, 2));
+    MettiGiornoSett();
+}
+
+void FrmMetePeriodo::MettiGiornoSett() {
+    txtInizioGSett_->setText(
+        GiornoSettimana(cmbInizio_[0]->currentText() + cmbInizio_[1]->currentText() + cmbInizio_[2]->currentText()));
+}
+
+void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo) {
+    txtCodice_->setText(meta.codice);
+    if (txtLocalita_->text() != meta.localita) txtLocalita_->setText(meta.localita);
+    if (txtNazione_->text() != meta.nazione) txtNazione_->setText(meta.nazione);
+    if (!meta.dataInizio) {
+        for (const std::size_t i : {0U, 1U, 2U}) cmbInizio_[i]->setCurrentIndex(-1);
+    } else {
+        const Gma gma = Giul2Data(*meta.dataInizio);
+        MostraVoce(*cmbInizio_[1], Zero(gma.mese, 2));
+        MostraVoce(*cmbInizio_[2], Zero(gma.anno, 4));
+        MostraVoce(*cmbInizio_[0], Zero(gma.giorno, 2));
+    }
+    const QString ora = TestoOrario(meta.oraInizio);
+    MostraVoce(*cmbInizio_[3], ora.left(2));
+    MostraVoce(*cmbInizio_[4], ora.right(2));
+    ImpostaGiorniMeseInizio();
+    cmbSoste_->setCurrentIndex(static_cast<int>(meta.parametri.calcoloSoste) - 1);
+    const QSignalBlocker muto(cmbGiorni_);
+    cmbGiorni_->clear();
+    for (const int giorni : GiorniProposti(riepilogo)) cmbGiorni_->addItem(Zero(giorni, 3));
+    MostraVoce(*cmbGiorni_, Zero(meta.giorniAdeguamento, 3));
+}
+
+void FrmMetePeriodo::MostraFine(const std::array<QString, 7>& fine) {
+    for (std::size_t i = 0; i < txtFine_.size(); ++i) txtFine_[i]->setText(fine[i]);
+}
+
+void FrmMetePeriodo::Leggi(Meta& meta) const {
+    meta.localita = txtLocalita_->text();
+    meta.nazione = txtNazione_->text();
+    meta.dataInizio = LeggiData(Zero(cmbInizio_[0]->currentText().toInt(), 2) +
+                                Zero(cmbInizio_[1]->currentText().toInt(), 2) + cmbInizio_[2]->currentText());
+    meta.oraInizio = LeggiOrario(cmbInizio_[3]->currentText() + cmbInizio_[4]->currentText());
+    meta.giorniAdeguamento = cmbGiorni_->currentText().toInt();
+    meta.parametri.calcoloSoste = static_cast<CalcoloSoste>(cmbSoste_->currentIndex() + 1);
+}
+
+void FrmMetePeriodo::FuocoSullaLocalita() { txtLocalita_->setFocus(); }
+
+}  // namespace cronovia

@@ -1,0 +1,152 @@
+#include "ui/viaggio/frm_mete_tempi.h"
+
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include "calendar/testo.h"
+#include "ui/comuni/aiuti.h"
+#include "ui/comuni/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Orario {
+    Centesimi ParametriViaggio::*campo;
+    int primaOra;
+    int ultimaOra;
+    const char16_t* istruzione;
+};
+
+constexpr std::array<Orario, FrmMeteTempi::kOrari> kVociOrario = {{
+    {&ParametriViaggio::oraColazione, 0, 11, u"Ora in cui comincia la giornata, dopo colazione"},
+    {&ParametriViaggio::oraPranzo, 11, 15, u"Ora del pranzo"},
+    {&ParametriViaggio::oraCena, 18, 21, u"Ora della cena"},
+    {&ParametriViaggio::oraNotte, 20, 24, u"Ora in cui ci si ferma per la notte"},
+    {&ParametriViaggio::durataPranzo, 0, 2, u"Durata del pranzo"},
+    {&ParametriViaggio::durataCena, 0, 2, u"Durata della cena"},
+    {&ParametriViaggio::inizioVisita, 0, 11, u"Ora in cui cominciano le visite"},
+    {&ParametriViaggio::fineVisita, 16, 24, u"Ora in cui finiscono le visite"},
+    {&ParametriViaggio::oreTraghetti, 1, 24, u"Tempo medio di un traghetto"},
+}};
+
+}  // namespace
+
+FrmMeteTempi::FrmMeteTempi(QWidget* parent) : QGroupBox(u"Tempi tecnici giornalieri/Riposi/Visite:"_s, parent) {
+    setObjectName(u"frmMeteTempi"_s);
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(new QLabel(u"Orari attività"_s), 0, 0, 1, 2);
+    layout->addWidget(new QLabel(u"Durata"_s), 0, 2, 1, 2, Qt::AlignCenter);
+    AggiungiOrario(*layout, 0, 1, 0, u"Colaz."_s);
+    AggiungiOrario(*layout, 1, 2, 0, u"Pranzo"_s);
+    AggiungiOrario(*layout, 4, 2, 2, {});
+    AggiungiOrario(*layout, 2, 3, 0, u"Cena"_s);
+    AggiungiOrario(*layout, 5, 3, 2, {});
+    AggiungiOrario(*layout, 3, 4, 0, u"Notte"_s);
+    AggiungiOrario(*layout, 6, 5, 0, u"Visite"_s);
+    AggiungiOrario(*layout, 7, 5, 2, u"alle"_s);
+    AggiungiOrario(*layout, 8, 4, 2, u"Tragh."_s);
+    CreaRiposi(*layout);
+    CreaDefault(*layout);
+    StringiRiquadro(*layout);
+    layout->setRowStretch(7, 1);
+}
+
+void FrmMeteTempi::AggiungiOrario(QGridLayout& layout, std::size_t orario, int riga, int colonna,
+                                  const QString& etichetta) {
+    const Orario& dati = kVociOrario[orario];
+    const QString istruzione = QString::fromUtf16(dati.istruzione);
+    const auto indice = static_cast<int>(orario);
+    cmbOra_[orario] =
+        NuovoElenco(NomeDiSerie(u"cmbOra"_s, indice), Numeri(dati.primaOra, dati.ultimaOra, 2), istruzione);
+    cmbMin_[orario] = NuovoElenco(NomeDiSerie(u"cmbMin"_s, indice), Quarti(), istruzione + u" (minuti)"_s);
+    auto* coppia = new QHBoxLayout;
+    coppia->setSpacing(0);
+    coppia->addWidget(cmbOra_[orario]);
+    coppia->addWidget(cmbMin_[orario]);
+    for (QComboBox* elenco : {cmbOra_[orario], cmbMin_[orario]}) {
+        connect(elenco, &QComboBox::activated, this, &FrmMeteTempi::Cambiata);
+        elenco->installEventFilter(this);
+    }
+    if (!etichetta.isEmpty()) {
+        layout.addWidget(NuovaEtichetta(etichetta, *cmbOra_[orario]), riga, colonna, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    layout.addLayout(coppia, riga, colonna + 1);
+}
+
+// An hour is looked at when its lists are left, not while the person is on the way to it.
+bool FrmMeteTempi::eventFilter(QObject* oggetto, QEvent* evento) {
+    const bool lasciato =
+        evento->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(evento)->reason() != Qt::PopupFocusReason;
+    if (lasciato) Q_EMIT OrarioLasciato();
+    return QGroupBox::eventFilter(oggetto, evento);
+}
+
+QComboBox* FrmMeteTempi::CreaRiposo(const QString& nome, const QStringList& voci, const QString& istruzione) {
+    QComboBox* elenco = NuovoElenco(nome, voci, istruzione);
+    connect(elenco, &QComboBox::activated, this, &FrmMeteTempi::Cambiata);
+    return elenco;
+}
+
+void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
+    cmbRipM_ = CreaRiposo(u"cmbRipM"_s, {u"00"_s, u"05"_s, u"10"_s, u"15"_s, u"20"_s, u"30"_s, u"45"_s, u"60"_s},
+                          u"Minuti di un breve riposo"_s);
+    cmbRipH_ = CreaRiposo(u"cmbRipH"_s, Numeri(0, 8, 2), u"Ore di guida dopo le quali si riposa"_s);
+    cmbRipG_ = CreaRiposo(u"cmbRipG"_s, Numeri(0, 5, 2), u"Giorni interi di riposo"_s);
+    cmbRipGG_ = CreaRiposo(u"cmbRipGG"_s, Numeri(0, 10, 2), u"Giorni di viaggio dopo i quali si riposa"_s);
+    layout.addWidget(new QLabel(u"Riposi"_s), 0, 5, 1, 2);
+    const std::array<std::pair<QComboBox*, QString>, 4> righe = {
+        {{cmbRipM_, u"minuti"_s}, {cmbRipH_, u"ogni h"_s}, {cmbRipG_, u"giorni"_s}, {cmbRipGG_, u"ogni gg"_s}}};
+    int riga = 1;
+    for (const auto& [elenco, testo] : righe) {
+        layout.addWidget(elenco, riga, 5);
+        layout.addWidget(NuovaEtichetta(testo, *elenco), riga, 6);
+        ++riga;
+    }
+    layout.setColumnMinimumWidth(4, 4);
+}
+
+void FrmMeteTempi::CreaDefault(QGridLayout& layout) {
+    const std::array<std::pair<QString, QString>, 3> comandi = {
+        {{u"Sa&lva"_s, u"Salva i tempi e le velocità come valori abituali"_s},
+         {u"Car&ica"_s, u"Carica i valori abituali"_s},
+         {u"&Reset"_s, u"Ripristina i valori iniziali del programma"_s}}};
+    auto* riga = new QHBoxLayout;
+    for (int i = 0; i < 3; ++i) {
+        const auto& [scritta, istruzione] = comandi[static_cast<std::size_t>(i)];
+        QPushButton* pulsante = NuovoPulsante(NomeDiSerie(u"cmdDefault"_s, i), scritta, istruzione);
+        if (i == 1) pulsante->setShortcut({});  // its letter is that of the itinerary and of its stages
+        connect(pulsante, &QPushButton::clicked, this, [this, i] { Q_EMIT Default(i); });
+        riga->addWidget(pulsante);
+    }
+    riga->addStretch();
+    riga->addWidget(NuovoAiuto(u"cmdHelpTempi"_s, u"Tempi tecnici giornalieri"_s, AiutoTempi()));
+    layout.addLayout(riga, 6, 0, 1, 7);
+}
+
+void FrmMeteTempi::Mostra(const ParametriViaggio& parametri) {
+    for (std::size_t i = 0; i < kOrari; ++i) {
+        const QString orario = TestoOrario(parametri.*kVociOrario[i].campo);
+        MostraVoce(*cmbOra_[i], orario.left(2));
+        MostraVoce(*cmbMin_[i], orario.right(2));
+    }
+    MostraVoce(*cmbRipM_, Zero(parametri.riposoMinuti, 2));
+    MostraVoce(*cmbRipH_, Zero(parametri.riposoOre, 2));
+    MostraVoce(*cmbRipG_, Zero(parametri.riposoGiorno, 2));
+    MostraVoce(*cmbRipGG_, Zero(parametri.riposoDopoGiorni, 2));
+}
+
+void FrmMeteTempi::Leggi(ParametriViaggio& parametri) const {
+    for (std::size_t i = 0; i < kOrari; ++i) {
+        parametri.*kVociOrario[i].campo = LeggiOrario(cmbOra_[i]->currentText() + cmbMin_[i]->currentText());
+    }
+    parametri.riposoMinuti = cmbRipM_->currentText().toInt();
+    parametri.riposoOre = cmbRipH_->currentText().toInt();
+    parametri.riposoGiorno = cmbRipG_->currentText().toInt();
+    parametri.riposoDopoGiorni = cmbRipGG_->currentText().toInt();
+}
+
+}  // namespace cronovia
