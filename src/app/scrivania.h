@@ -103,8 +103,8 @@ class Scrivania {
     // Commands of the entry screen.
     void Itinerario();
     void SelezionaRiga(int riga);
-    /// What the kilometres field holds after the attempt; the row was written when it returns true.
-    bool Inserisce(CampiTappa& campi);
+    /// Writes the fields into the current row and goes on to the next; false when they were refused.
+    bool Inserisce(CampiTappa campi);
     void Aggiunge();
     void Cancella();
     void AzzeraSoste();

@@ -48,8 +48,9 @@ bool Scrivania::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
     });
 }
 
-bool Scrivania::Inserisce(CampiTappa& campi) {
-    campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe_, riepilogo_, rigaCorrente_), rigaCorrente_);
+bool Scrivania::Inserisce(CampiTappa campi) {
+    if (campi.kmDigitati)
+        campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe_, riepilogo_, rigaCorrente_), rigaCorrente_);
     const std::vector<Message> rifiuti = ControllaTappa(campi, rigaCorrente_);
     for (const Message& rifiuto : rifiuti) volti_.interazione.Show(rifiuto);
     if (!rifiuti.empty()) return false;

@@ -24,6 +24,7 @@ struct CampiTappa {
     std::optional<TipoStrada> tipo;
     Durata sosta;
     bool fineGiorno = false;
+    bool kmDigitati = false;  ///< the kilometres were typed since the row was shown: progressive ones are meant
 
     friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };

@@ -261,17 +261,11 @@ void FormMete::EseguiComando(ComandoItinerario comando) {
     inserimento_->FuocoSullaTappa();
 }
 
-// After a refusal the fields keep what was typed, but for the kilometres that became a difference.
+// After a refusal the fields keep what was typed.
 void FormMete::Inserisci() {
     if (inCorso_) return;
     Raccogli();
-    CampiTappa campi = inserimento_->Campi();
-    const bool inserita = scrivania_.Inserisce(campi);
-    if (inserita) {
-        Mostra();
-    } else {
-        inserimento_->MostraKm(campi.km);
-    }
+    if (scrivania_.Inserisce(inserimento_->Campi())) Mostra();
     inserimento_->FuocoSullaTappa();
 }
 
@@ -319,7 +313,7 @@ void FormMete::keyPressEvent(QKeyEvent* event) {
     const StatoComandi stato = scrivania_.Comandi();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto* conFuoco = qobject_cast<QPushButton*>(focusWidget());
-        QPushButton* normale = scrivania_.InserimentoVisibile() ? &inserimento_->Pulsante(ComandoItinerario::Fine)
+        QPushButton* normale = scrivania_.InserimentoVisibile() ? &inserimento_->Pulsante(ComandoItinerario::Inserisce)
                                                                 : &bottoni_->Pulsante(Comando::Esce);
         (conFuoco != nullptr ? conFuoco : normale)->click();
     } else if (event->key() == Qt::Key_Escape && scrivania_.ElencoMeteMostrato()) {

@@ -57,8 +57,9 @@ TEST_F(ControlliTest, WhatCanBeTyped) {
     EXPECT_EQ(Testo(u"txtLocalita"_s), u"CITTÀ DI FORLÌ"_s);
     Scrivi(u"txtNazione"_s, u"italia"_s);
     EXPECT_EQ(Testo(u"txtNazione"_s), u"ITALIA"_s);
-    const std::vector<std::pair<QString, QString>> giorni = {
-        {u"1500"_s, u"997"_s}, {u"998"_s, u"997"_s}, {u"997"_s, u"997"_s}, {u"-1,2x3"_s, u"123"_s}};
+    const std::vector<std::pair<QString, QString>> giorni = {{u"1500"_s, u"997"_s}, {u"998"_s, u"997"_s},
+                                                             {u"997"_s, u"997"_s},  {u"-1,2x3"_s, u"123"_s},
+                                                             {u"12"_s, u"12"_s},    {u"a9"_s, u"9"_s}};
     for (const auto& [battuti, restano] : giorni) {
         ScriviNellElenco(u"cmbGiorni"_s, battuti);
         EXPECT_EQ(Scelta(u"cmbGiorni"_s), restano) << battuti.toStdString();

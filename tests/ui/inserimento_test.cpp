@@ -39,12 +39,24 @@ TEST_F(InserimentoTest, RefusalsKeepWhatWasTyped) {
     ScriviTappa(u"beta"_s, u"550"_s);
     Box(u"Impossibile:\nIndica un valore compreso tra 1 e 999"_s, QMessageBox::Ok);
     ScriviTappa(u"gamma"_s, u"1600"_s);
-    EXPECT_EQ(Testo(u"txtKm"_s), u"1050"_s);  // the rule has put the difference in its place
+    EXPECT_EQ(Testo(u"txtKm"_s), u"1600"_s);
     EXPECT_EQ(Testo(u"txtRiga"_s), u"3"_s);
     ScriviTappa(u"gamma"_s, u"1000"_s);
     EXPECT_EQ(Cella(2, 3), u"450"_s);
     EXPECT_EQ(Cella(2, 5), u"1.000"_s);
-    EXPECT_EQ(Tappe(), u"ALFA BETA GAMMA"_s);
+    ScriviTappa(u"delta"_s, u"200"_s);
+    for (const QString& km : {u"450"_s, u"200"_s}) {  // row 4 follows the 1.000 km of row 3: untouched, it stays
+        ClicSullaRiga(km == u"450"_s ? 3 : 4);
+        Tasto(Qt::Key_Return);
+        EXPECT_EQ(Cella(km == u"450"_s ? 2 : 3, 3), km);
+    }
+    Scrivi(u"txtTappa"_s, u"<b>fine</b>"_s);
+    Scrivi(u"txtKm"_s, u"9"_s);
+    Tasto(Qt::Key_Return);  // writes the row and stays
+    EXPECT_EQ(Tappe(), u"ALFA BETA GAMMA DELTA <B>FINE</B>"_s);
+    EXPECT_EQ(Testo(u"txtRiga"_s), u"6"_s);
+    const QModelIndex nome = Trova<QTableView>(u"mfgTab"_s).model()->index(4, 1);
+    EXPECT_TRUE(nome.data(Qt::ToolTipRole).toString().contains(u"&lt;B&gt;FINE"_s));
 }
 
 TEST_F(InserimentoTest, TheFieldsFollowTheRow) {

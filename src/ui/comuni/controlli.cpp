@@ -6,7 +6,9 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QPalette>
+#include <QRegularExpressionValidator>
 #include <QSignalBlocker>
+#include <QTextDocument>
 
 #include "calendar/testo.h"
 
@@ -64,6 +66,23 @@ class AnnullaDellaFinestra : public QObject {
     }
 };
 
+// A box deletes what is selected before it refuses a key; here the key is refused first.
+class RifiutaTasti : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() != QEvent::KeyPress) return false;
+        const auto& casella = *qobject_cast<QLineEdit*>(oggetto);
+        const QString battuto = static_cast<const QKeyEvent&>(*evento).text();
+        if (battuto.isEmpty() || !battuto.front().isPrint() || casella.validator() == nullptr) return false;
+        QString testo = casella.text();
+        int cursore = casella.hasSelectedText() ? casella.selectionStart() : casella.cursorPosition();
+        testo.replace(cursore, casella.hasSelectedText() ? casella.selectionLength() : 0, battuto);
+        return casella.validator()->validate(testo, cursore) == QValidator::Invalid;
+    }
+};
+
 }  // namespace
 
 QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione) {
@@ -75,6 +94,18 @@ QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QStri
     elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     elenco->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     return elenco;
+}
+
+void LasciaScrivereCifre(QComboBox& elenco, int cifre) {
+    elenco.setEditable(true);
+    elenco.setCompleter(nullptr);
+    elenco.setInsertPolicy(QComboBox::NoInsert);
+    elenco.setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d{0,%1}"_s.arg(cifre)), &elenco));
+    elenco.lineEdit()->installEventFilter(new RifiutaTasti(&elenco));
+}
+
+QString TestoPiano(const QString& testo) {
+    return Qt::mightBeRichText(testo) ? Qt::convertFromPlainText(testo, Qt::WhiteSpaceNormal) : testo;
 }
 
 void MostraVoce(QComboBox& elenco, const QString& testo) {

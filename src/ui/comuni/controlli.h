@@ -24,6 +24,13 @@ QStringList Quarti();
 /// A list to choose from; nothing can be typed.
 QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione);
 
+/// Lets a list's text be typed: nothing but digits, at most so many, and never completed. A refused key changes
+/// nothing, so that what was selected is still replaced by the next one.
+void LasciaScrivereCifre(QComboBox& elenco, int cifre);
+
+/// A text for a tooltip, which would take some texts for markup: it is shown as it stands.
+QString TestoPiano(const QString& testo);
+
 /// Shows a text in a list, as a further item when it has none of that text.
 void MostraVoce(QComboBox& elenco, const QString& testo);
 

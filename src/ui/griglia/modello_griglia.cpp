@@ -3,6 +3,7 @@
 #include <QFont>
 #include <algorithm>
 
+#include "ui/comuni/controlli.h"
 #include "ui/griglia/icone_righe.h"
 
 namespace cronovia {
@@ -117,7 +118,8 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return Testi(index.row())[colonna];
         case Qt::ToolTipRole:
-            return colonna == Colonna::Numero ? Significato(SegnoDellaRiga(index.row())) : Testi(index.row())[colonna];
+            return colonna == Colonna::Numero ? Significato(SegnoDellaRiga(index.row()))
+                                              : TestoPiano(Testi(index.row())[colonna]);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(Allineamento(colonna));
         case Qt::FontRole:

@@ -1,6 +1,5 @@
 #include "ui/guida/frm_guida.h"
 
-#include <QCompleter>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -46,7 +45,7 @@ QLayout* FrmGuida::CreaCampi() {
     cmbGTipo_->setEditable(true);
     cmbGTipo_->setInsertPolicy(QComboBox::NoInsert);
     LasciaAnnullare(*cmbGTipo_->lineEdit());
-    cmbGTipo_->completer()->setCompletionMode(QCompleter::InlineCompletion);
+    cmbGTipo_->setCompleter(nullptr);
     const QString tempo = u"Tempo necessario per la visita dell'oggetto (obbligatorio per visite)"_s;
     cmbGH_ = NuovoElenco(u"cmbGH"_s, Numeri(0, 15, 2), tempo);
     cmbGH_->setAccessibleName(u"Ore della visita"_s);

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <algorithm>
 
+#include "ui/comuni/controlli.h"
 #include "ui/griglia/icone_righe.h"
 #include "ui/griglia/modello_griglia.h"
 
@@ -41,8 +42,9 @@ QVariant ModelloGuida::data(const QModelIndex& index, int role) const {
     const RigaGuida& riga = (*elenco_)[static_cast<std::size_t>(index.row())];
     switch (role) {
         case Qt::DisplayRole:
-        case Qt::ToolTipRole:
             return ColonneGuida(index.row() + 1, riga)[static_cast<std::size_t>(index.column())];
+        case Qt::ToolTipRole:
+            return TestoPiano(ColonneGuida(index.row() + 1, riga)[static_cast<std::size_t>(index.column())]);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(Allineamento(static_cast<ColonnaGuida>(index.column())));
         case Qt::FontRole: {

@@ -137,15 +137,13 @@ void FrmInputBox::Mostra(int riga, const CampiTappa& campi) {
     txtRiga_->setText(QString::number(riga));
     txtTappa_->setText(campi.localita);
     txtNumStrada_->setText(campi.numStrada);
-    MostraKm(campi.km);
+    txtKm_->setText(campi.km == 0 ? QString() : QString::number(campi.km));
     if (campi.tipo) cmbTipoStrada_->setCurrentIndex(static_cast<int>(*campi.tipo));
     MostraVoce(*cmbSosta_[0], Zero(campi.sosta.giorni, 2));
     MostraVoce(*cmbSosta_[1], Zero(campi.sosta.ore, 2));
     MostraVoce(*cmbSosta_[2], Zero(campi.sosta.minuti, 2));
     chkEndDay_->setChecked(campi.fineGiorno);
 }
-
-void FrmInputBox::MostraKm(int km) { txtKm_->setText(km == 0 ? QString() : QString::number(km)); }
 
 void FrmInputBox::MostraKmProgressivi(std::optional<bool> attivi) {
     chkKm_->setVisible(attivi.has_value());
@@ -162,6 +160,7 @@ CampiTappa FrmInputBox::Campi() const {
     campi.localita = txtTappa_->text().trimmed();
     campi.numStrada = txtNumStrada_->text().trimmed();
     campi.km = txtKm_->text().toInt();
+    campi.kmDigitati = txtKm_->isModified();
     campi.tipo = LeggiTipoStrada(cmbTipoStrada_->currentText().left(1));
     campi.sosta = {cmbSosta_[0]->currentText().toInt(), cmbSosta_[1]->currentText().toInt(),
                    cmbSosta_[2]->currentText().toInt()};

@@ -21,7 +21,6 @@ class FrmInputBox : public QGroupBox {
     explicit FrmInputBox(QWidget* parent = nullptr);
 
     void Mostra(int riga, const CampiTappa& campi);
-    void MostraKm(int km);
     void MostraKmProgressivi(std::optional<bool> attivi);
     void Applica(const StatoComandi& stato);
     [[nodiscard]] CampiTappa Campi() const;

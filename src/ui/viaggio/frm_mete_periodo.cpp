@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -104,9 +103,7 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
     auto* layout = new QHBoxLayout;
     cmbGiorni_ = NuovoElenco(u"cmbGiorni"_s, {u"000"_s},
                              u"Giorni che il viaggio deve durare: le soste si adeguano (000 = quanti ne servono)"_s);
-    cmbGiorni_->setEditable(true);
-    cmbGiorni_->setInsertPolicy(QComboBox::NoInsert);
-    cmbGiorni_->setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d{0,4}"_s), cmbGiorni_));
+    LasciaScrivereCifre(*cmbGiorni_, 4);
     connect(cmbGiorni_, &QComboBox::editTextChanged, this, [this](const QString& testo) {
         if (testo.toInt() > kMassimoGiorniAdeguamento) cmbGiorni_->setEditText(u"997"_s);
         Q_EMIT Cambiata();

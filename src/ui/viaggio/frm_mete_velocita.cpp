@@ -1,7 +1,6 @@
 #include "ui/viaggio/frm_mete_velocita.h"
 
 #include <QGridLayout>
-#include <QRegularExpressionValidator>
 
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
@@ -44,9 +43,7 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
             NuovoElenco(NomeDiSerie(u"cmbMediaKm"_s, i), Numeri(kMedie[posto].da, kMedie[posto].a, 0, 5),
                         u"Velocità media in km/h: %1"_s.arg(tipo));
         QComboBox& media = *cmbMediaKm_[posto];
-        media.setEditable(true);
-        media.setInsertPolicy(QComboBox::NoInsert);
-        media.setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d{0,3}"_s), &media));
+        LasciaScrivereCifre(media, 3);
         connect(&media, &QComboBox::editTextChanged, this, &FrmMeteVelocita::Cambiata);
         QLabel* etichetta = NuovaEtichetta(tipo, media);
         etichetta->setObjectName(NomeDiSerie(u"lblTipoStrada"_s, i));
