@@ -1,44 +1,48 @@
+// A line with a verb is run here; the window, and what draws pages, are in a library that only they need.
 #include <QCoreApplication>
-#include <QGuiApplication>
-#include <QTextStream>
+#include <QDir>
+#include <QLibrary>
 #include <cstdio>
 #include <memory>
 
+#include "cli/processo.h"
 #include "cli/riga_comando.h"
-#include "ui/avvio.h"
+#include "grafica/grafica.h"
 
 namespace {
 
-// Before the program speaks, Qt has nothing to say to a person.
-void Silence(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*message*/) {}
+using namespace Qt::StringLiterals;
 
-// A verb that draws into a file needs fonts, but no display. Each platform is tried in turn: where fonts come with a
-// window system that is always there, that is taken, else the one without any.
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char* argv[], bool withFonts) {
-    if (!withFonts) return std::make_unique<QCoreApplication>(argc, argv);
-    qputenv("QT_QPA_PLATFORM", "windows;cocoa;offscreen");
-    return std::make_unique<QGuiApplication>(argc, argv);
+QString CartellaDelProgramma(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    return QCoreApplication::applicationDirPath();
 }
 
-int RunCommand(int argc, char* argv[], bool withFonts) {
-    qInstallMessageHandler(Silence);
-    const auto application = MakeApplication(argc, argv, withFonts);
-    qInstallMessageHandler(nullptr);
-    QCoreApplication::setApplicationName(QStringLiteral("Cronovia"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(CRONOVIA_VERSION));
+// Beside the program, as it is built and carried along, or where an installation puts it.
+int RunWithGraphics(int argc, char* argv[]) {
+    const QDir programma(CartellaDelProgramma(argc, argv));
+    QLibrary library;
+    for (const QString& cartella : {u"."_s, QStringLiteral(CRONOVIA_LIBRARY_FOLDER)}) {
+        library.setFileName(QDir::cleanPath(programma.filePath(cartella + u"/" CRONOVIA_GRAFICA ""_s)));
+        if (library.load()) break;
+    }
+    const auto run = reinterpret_cast<EseguiConLaGrafica>(library.resolve("CronoviaGrafica"));
+    if (run != nullptr) return run(argc, argv);
+    const QString message =
+        u"La parte di Cronovia per la finestra e le stampe non si può caricare: reinstalla il programma. Gli altri "
+        "comandi da terminale funzionano lo stesso: cronovia --help\n(%1)\n"_s.arg(library.errorString());
+    std::fputs(message.toUtf8().constData(), stderr);
+    return 1;
+}
 
-    QTextStream output(stdout);
-    QTextStream errors(stderr);
-    return cronovia::EseguiRigaDiComando(QCoreApplication::arguments(), output, errors);
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char* argv[]) {
+    return std::make_unique<QCoreApplication>(argc, argv);
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QStringList line;
-    for (int i = 0; i < argc; ++i) line += QString::fromLocal8Bit(argv[i]);
-    if (const auto window = cronovia::RichiestaDellaFinestra(line)) {
-        return cronovia::ApriFinestra(argc, argv, window->cartella, window->file);
-    }
-    return RunCommand(argc, argv, cronovia::VuoleCaratteri(line));
+    const QStringList line = cronovia::Riga(argc, argv);
+    if (cronovia::RichiestaDellaFinestra(line) || cronovia::VuoleCaratteri(line)) return RunWithGraphics(argc, argv);
+    return cronovia::EseguiProcesso(argc, argv, &MakeApplication, {});
 }

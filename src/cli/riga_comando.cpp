@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "app/cartella_dati.h"
-#include "cli/verbi.h"
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -105,23 +104,27 @@ Richiesta LeggiRichiesta(const Verbo& verbo, const QCommandLineParser& parser) {
     return richiesta;
 }
 
-int EseguiVerbo(const Verbo& verbo, const QString& cartella, const QStringList& riga, QTextStream& uscita) {
+// A line taken apart.
+struct Comando {
+    enum class Genere { Versione, Aiuto, AiutoDelVerbo, Verbo };
+    Genere genere = Genere::Verbo;
+    const Verbo* verbo = nullptr;  // of the last two kinds
+    QString cartella;
+    Richiesta richiesta;
+};
+
+Comando LeggiVerbo(const Verbo& verbo, const QString& cartella, const QStringList& riga) {
     QCommandLineParser parser;
     AggiungiOpzioniComuni(parser);
     if (verbo.conFormato) parser.addOption({u"formato"_s, {}, u"F"_s, u"testo"_s});
     for (const Opzione& opzione : verbo.opzioni) parser.addOption({opzione.nome, {}, opzione.valore});
     Analizza(parser, riga);
-    if (parser.isSet(u"help"_s)) {
-        ScriviAiutoDelVerbo(verbo, uscita);
-        return kFatto;
-    }
-    const Richiesta richiesta = LeggiRichiesta(verbo, parser);
+    if (parser.isSet(u"help"_s)) return {Comando::Genere::AiutoDelVerbo, &verbo, {}, {}};
     const QString dove = parser.isSet(u"cartella"_s) ? parser.value(u"cartella"_s) : cartella;
-    verbo.esegui([&] { return Sessione(CartellaDati(LuoghiDellaPiattaforma(dove))); }, richiesta, uscita);
-    return kFatto;
+    return {Comando::Genere::Verbo, &verbo, dove, LeggiRichiesta(verbo, parser)};
 }
 
-int Esegui(const QStringList& riga, QTextStream& uscita) {
+Comando Leggi(const QStringList& riga) {
     QCommandLineParser parser;
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     AggiungiOpzioniComuni(parser);
@@ -129,20 +132,32 @@ int Esegui(const QStringList& riga, QTextStream& uscita) {
     parser.addOption({u"formato"_s, {}, u"F"_s});
     Analizza(parser, riga);
     QStringList resto = parser.positionalArguments();
-    if (parser.isSet(u"version"_s)) {
-        uscita << u"cronovia %1\n"_s.arg(QLatin1StringView(CRONOVIA_VERSION));
-        return kFatto;
-    }
-    if (parser.isSet(u"help"_s) && resto.isEmpty()) {
-        ScriviAiuto(uscita);
-        return kFatto;
-    }
+    if (parser.isSet(u"version"_s)) return {Comando::Genere::Versione, nullptr, {}, {}};
+    if (parser.isSet(u"help"_s) && resto.isEmpty()) return {Comando::Genere::Aiuto, nullptr, {}, {}};
     if (resto.isEmpty()) throw WrongUsage(u"Manca il verbo."_s);
     const Verbo* verbo = TrovaVerbo(resto.first());
     if (verbo == nullptr) throw WrongUsage(u"Il verbo «%1» non esiste."_s.arg(resto.first()));
     if (parser.isSet(u"help"_s)) resto += u"--help"_s;
     if (parser.isSet(u"formato"_s)) resto.insert(1, u"--formato="_s + parser.value(u"formato"_s));
-    return EseguiVerbo(*verbo, parser.value(u"cartella"_s), resto, uscita);
+    return LeggiVerbo(*verbo, parser.value(u"cartella"_s), resto);
+}
+
+void Esegui(const Comando& comando, QTextStream& uscita) {
+    switch (comando.genere) {
+        case Comando::Genere::Versione:
+            uscita << u"cronovia %1\n"_s.arg(QLatin1StringView(CRONOVIA_VERSION));
+            break;
+        case Comando::Genere::Aiuto:
+            ScriviAiuto(uscita);
+            break;
+        case Comando::Genere::AiutoDelVerbo:
+            ScriviAiutoDelVerbo(*comando.verbo, uscita);
+            break;
+        case Comando::Genere::Verbo:
+            comando.verbo->esegui([&] { return Sessione(CartellaDati(LuoghiDellaPiattaforma(comando.cartella))); },
+                                  comando.richiesta, uscita);
+            break;
+    }
 }
 
 }  // namespace
@@ -158,23 +173,22 @@ std::optional<RichiestaFinestra> RichiestaDellaFinestra(const QStringList& riga)
 }
 
 bool VuoleCaratteri(const QStringList& riga) {
-    QCommandLineParser parser;
-    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
-    AggiungiOpzioniComuni(parser);
-    const QStringList resto = parser.parse(riga) ? parser.positionalArguments() : QStringList();
-    const Verbo* verbo = resto.isEmpty() ? nullptr : TrovaVerbo(resto.first());
-    const bool pdf = std::any_of(resto.begin(), resto.end(), [](const QString& parola) {
-        return parola.startsWith("--pdf"_L1) || parola.startsWith("-pdf"_L1);
-    });
-    return verbo != nullptr && verbo->conCaratteri && pdf;
+    try {
+        const Comando comando = Leggi(riga);
+        return comando.genere == Comando::Genere::Verbo && comando.richiesta.opzioni.contains(u"pdf"_s);
+    } catch (const WrongUsage&) {
+        return false;
+    }
 }
 
-int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori) {
+int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, QTextStream& uscita, QTextStream& errori) {
     try {
-        const int codice = Esegui(riga, uscita);
+        Comando comando = Leggi(riga);
+        comando.richiesta.stampe = stampe;
+        Esegui(comando, uscita);
         uscita.flush();
         if (uscita.status() != QTextStream::Ok) throw Failure(u"Il risultato non si può scrivere."_s);
-        return codice;
+        return kFatto;
     } catch (const WrongUsage& errore) {
         errori << errore.Message() << u" L'aiuto: cronovia --help\n"_s;
         return kUsoErrato;

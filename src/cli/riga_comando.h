@@ -5,6 +5,8 @@
 #include <QTextStream>
 #include <optional>
 
+#include "cli/verbi.h"
+
 namespace cronovia {
 
 /// What a line without a verb asks of the window: a data folder, an exchange file to import, each empty when not named.
@@ -16,11 +18,12 @@ struct RichiestaFinestra {
 /// Nothing when the line is one for `EseguiRigaDiComando`.
 std::optional<RichiestaFinestra> RichiestaDellaFinestra(const QStringList& riga);
 
-/// Whether the line draws a PDF file: that needs fonts, and with them a QGuiApplication.
+/// Whether the line draws a PDF file: that needs fonts, with them a QGuiApplication, and someone who can draw.
 bool VuoleCaratteri(const QStringList& riga);
 
 /// Runs one command line, the program's name first. Returns 0 when done, 1 when refused or failed (one sentence in
-/// `errori`, nothing changed), 2 when the line cannot be understood.
-int EseguiRigaDiComando(const QStringList& riga, QTextStream& uscita, QTextStream& errori);
+/// `errori`, nothing changed), 2 when the line cannot be understood. `stampe` may be empty for a line that draws
+/// nothing.
+int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, QTextStream& uscita, QTextStream& errori);
 
 }  // namespace cronovia

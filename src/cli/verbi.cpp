@@ -1,8 +1,10 @@
 #include "cli/verbi.h"
 
+#include <QDir>
 #include <utility>
 
 #include "cli/opzioni_calcolo.h"
+#include "print/tabella_testo.h"
 
 namespace cronovia {
 
@@ -26,6 +28,14 @@ OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta) {
     return opzioni;
 }
 
+QString RigaTabellaScritta(const QString& cartella) {
+    return u"Stampa sul file %1: completata!\n"_s.arg(QDir::toNativeSeparators(FileTabella(cartella)));
+}
+
+void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    richiesta.stampe.cronovia(apri, richiesta, uscita);
+}
+
 namespace {
 
 std::vector<Opzione> ConQuelleDelCalcolo(std::vector<Opzione> altre) {
@@ -38,14 +48,13 @@ std::vector<Opzione> ConQuelleDelCalcolo(std::vector<Opzione> altre) {
 
 std::vector<Verbo> VerbiDellArchivio() {
     return {
-        {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, false, &EseguiElenca},
+        {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, &EseguiElenca},
         {u"nuova"_s,
          u"LOCALITA NAZIONE"_s,
          u"Crea una mèta con i parametri di viaggio personali e ne scrive il codice."_s,
          {{u"inizio"_s, u"\"gg/mm/aaaa hh:mm\""_s, u"Data e ora di partenza; altrimenti adesso."_s}},
          2,
          2,
-         false,
          false,
          &EseguiNuova},
         {u"importa"_s,
@@ -55,7 +64,6 @@ std::vector<Verbo> VerbiDellArchivio() {
          1,
          -1,
          false,
-         false,
          &EseguiImporta},
         {u"esporta"_s,
          u"FILE.iei [CODICE…]"_s,
@@ -64,7 +72,6 @@ std::vector<Verbo> VerbiDellArchivio() {
          1,
          -1,
          false,
-         false,
          &EseguiEsporta},
         {u"converte"_s,
          {},
@@ -72,7 +79,6 @@ std::vector<Verbo> VerbiDellArchivio() {
          {},
          0,
          0,
-         false,
          false,
          &EseguiConverte},
     };
@@ -87,7 +93,6 @@ std::vector<Verbo> VerbiDelViaggio() {
          1,
          1,
          true,
-         false,
          &EseguiItinerario},
         {u"percorso"_s,
          u"CODICE FILE.txt"_s,
@@ -96,17 +101,16 @@ std::vector<Verbo> VerbiDelViaggio() {
          2,
          2,
          false,
-         false,
          &EseguiPercorso},
         {u"calcola"_s, u"CODICE"_s,
          u"Calcola la cronovia: giorno per giorno, l'ora di ogni tratto, pasto, notte, riposo, traghetto e visita."_s,
          ConQuelleDelCalcolo({{u"tabella"_s, {}, u"Scrive anche la tabella Vandtabl.txt nella cartella dei dati."_s}}),
-         1, 1, true, false, &EseguiCalcola},
+         1, 1, true, &EseguiCalcola},
         {u"stampa"_s, u"CODICE"_s,
          u"Stampa la cronovia su un file PDF, e la tabella Vandtabl.txt nella cartella dei dati."_s,
          ConQuelleDelCalcolo({{u"pdf"_s, u"FILE"_s, u"Il file PDF da scrivere."_s, true},
                               {u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}}),
-         1, 1, false, true, &EseguiStampa},
+         1, 1, false, &EseguiStampa},
         {u"guida"_s,
          u"[LOCALITA …]"_s,
          u"Mostra la guida delle città, tutta o di una località (anche con i caratteri jolly * e ?), o la cambia."_s,
@@ -118,7 +122,6 @@ std::vector<Verbo> VerbiDelViaggio() {
           {u"togli"_s, {}, u"Toglie un'annotazione: LOCALITA TIPO DESCRIZIONE."_s}},
          0,
          4,
-         true,
          true,
          &EseguiGuida},
     };

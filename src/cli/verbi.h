@@ -34,18 +34,30 @@ struct Opzione {
     bool obbligatoria = false;
 };
 
+struct Richiesta;
+
+/// Opens the archive. A verb calls it once its options are read: a line that cannot be understood makes no archive.
+using ApriSessione = std::function<Sessione()>;
+
+using ProceduraVerbo = void (*)(const ApriSessione&, const Richiesta&, QTextStream& uscita);
+
+/// What draws the pages of the schedule and of the guide. It needs libraries that all other verbs do without, so it
+/// comes from outside.
+struct Stampe {
+    ProceduraVerbo cronovia = nullptr;
+    ProceduraVerbo guida = nullptr;
+};
+
 /// What a verb was called with.
 struct Richiesta {
     QStringList argomenti;
     QMap<QString, QString> opzioni;  ///< the options given; a switch with an empty value
     Formato formato = Formato::Testo;
+    Stampe stampe;
 
     /// The whole number of an option within its limits; nothing when it was not given, `WrongUsage` when it is none.
     [[nodiscard]] std::optional<int> Intero(const QString& nome, int minimo, int massimo) const;
 };
-
-/// Opens the archive. A verb calls it once its options are read: a line that cannot be understood makes no archive.
-using ApriSessione = std::function<Sessione()>;
 
 struct Verbo {
     QString nome;
@@ -53,10 +65,9 @@ struct Verbo {
     QString descrizione;
     std::vector<Opzione> opzioni;
     int minimoArgomenti = 0;
-    int massimoArgomenti = 0;   ///< -1: any number
-    bool conFormato = false;    ///< answers in the format wanted
-    bool conCaratteri = false;  ///< with the option --pdf it needs fonts: a QGuiApplication
-    void (*esegui)(const ApriSessione&, const Richiesta&, QTextStream& uscita) = nullptr;
+    int massimoArgomenti = 0;  ///< -1: any number
+    bool conFormato = false;   ///< answers in the format wanted
+    ProceduraVerbo esegui = nullptr;
 };
 
 /// All verbs, in the order of the help.

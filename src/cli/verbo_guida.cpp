@@ -1,7 +1,4 @@
 // guida.
-#include <QCoreApplication>
-#include <QDate>
-#include <QDir>
 #include <QRegularExpression>
 #include <map>
 
@@ -12,9 +9,6 @@
 #include "guide/annotazioni.h"
 #include "interaction/failure.h"
 #include "itinerary/elenco_guida.h"
-#include "print/file_pdf.h"
-#include "print/stampa_guida.h"
-#include "print/tabella_testo.h"
 
 namespace cronovia {
 
@@ -107,31 +101,6 @@ void Togli(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& us
                                                                           tolta.localita));
 }
 
-DatiStampaGuida DatiPerStampa(Sessione& sessione, const Richiesta& richiesta, const OpzioniStampaGuida& opzioni) {
-    const ReadSnapshot momento(sessione.Archivio());
-    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
-    return PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
-}
-
-void StampaPdf(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
-    const QString path = richiesta.opzioni.value(u"pdf"_s);
-    if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
-    const OpzioniStampaGuida opzioni{!richiesta.opzioni.contains(u"meta"_s),
-                                     richiesta.opzioni.contains(u"dettaglio"_s)};
-    Sessione sessione = apri();
-    const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
-    if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
-    RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
-    RifiutaFileTabella(path, sessione.Cartella());
-    Progress progress;
-    const Stampato documento = StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
-    FileIntero file(path);
-    ScriviPdf(documento, file, progress);
-    file.Chiudi();
-    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),
-                                                                     QString::number(documento.pagine.size()));
-}
-
 // The guide of the localities of a trip, each entry once.
 std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
     const ReadSnapshot momento(sessione.Archivio());
@@ -167,7 +136,7 @@ void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStre
     if (richiesta.opzioni.contains(u"aggiungi"_s)) return Aggiungi(apri, richiesta, uscita);
     if (richiesta.opzioni.contains(u"togli"_s)) return Togli(apri, richiesta, uscita);
     ControllaMostra(richiesta);
-    if (richiesta.opzioni.contains(u"pdf"_s)) return StampaPdf(apri, richiesta, uscita);
+    if (richiesta.opzioni.contains(u"pdf"_s)) return richiesta.stampe.guida(apri, richiesta, uscita);
     Sessione sessione = apri();
     const std::vector<Record> record = RecordDaMostrare(sessione, richiesta);
     if (richiesta.formato == Formato::Json) {

@@ -14,7 +14,7 @@ constexpr int kCifreDiMigliaia = 3;
 
 bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 
-QString Campo(QStringView testo) {
+QString TestoDelCampo(QStringView testo) {
     QString campo = testo.toString().simplified();
     if (campo.size() < 2 || !campo.startsWith(u'"') || !campo.endsWith(u'"')) return campo;
     return campo.sliced(1, campo.size() - 2).replace(u"\"\""_s, u"\""_s).trimmed();
@@ -33,7 +33,7 @@ ColonneTappa EstraeColonneTappa(QStringView riga) {
     ColonneTappa colonne;
     for (int numero = 1; numero <= ColonneTappa::kMassimo && !riga.isEmpty(); ++numero) {
         const qsizetype tab = riga.indexOf(u'\t');
-        colonne[numero] = Campo(tab < 0 ? riga : riga.first(tab));
+        colonne[numero] = TestoDelCampo(tab < 0 ? riga : riga.first(tab));
         riga = tab < 0 ? QStringView() : riga.sliced(tab + 1);
     }
     return colonne;

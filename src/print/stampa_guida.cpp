@@ -19,7 +19,7 @@ constexpr std::array<QStringView, 5> kIntestazioniNomi = {u"Località", u"Locali
                                                           u"Località"};
 constexpr std::array<QStringView, 4> kIntestazioniVoci = {u"Localita", u"Tipo", u"Descrizione", u"Sosta"};
 constexpr int kRigaTitolo = 15;
-constexpr double kRientro = 1;  // of a text from the rule at its left
+constexpr double kRientroVoce = 1;  // of a text from the rule at its left
 constexpr Carattere kCarattere{Famiglia::Times, 9};
 
 QString LavoroGuida() { return u"Stampa della guida citta"_s; }
@@ -89,9 +89,9 @@ void StampaPagine::StampaNellaColonna(std::size_t colonna, const QString& testo,
     const double x1 = bordi_[colonna];
     const double x2 = bordi_[colonna + 1];
     // A centred text stands as far left of the middle as one at the left begins behind its rule.
-    foglio_.StampaTesto({testo, foglio_.RigaStampa() - 0.5, x1 + kRientro,
-                         dove == Allineamento::Centro ? x2 + kRientro : x2 - kRientro,
-                         foglio_.Ristretto(testo, carattere, x2 - x1 - kRientro), dove});
+    foglio_.StampaTesto({testo, foglio_.RigaStampa() - 0.5, x1 + kRientroVoce,
+                         dove == Allineamento::Centro ? x2 + kRientroVoce : x2 - kRientroVoce,
+                         foglio_.Ristretto(testo, carattere, x2 - x1 - kRientroVoce), dove});
 }
 
 void StampaPagine::StampaIntestaPagina() {

@@ -33,12 +33,12 @@ struct Column {
     bool ours = true;  // else a field that somebody else added
 };
 
-std::string Name(const QString& name) { return (u'"' + name + u'"').toStdString(); }
+std::string Quoted(const QString& name) { return (u'"' + name + u'"').toStdString(); }
 
 QString TypeOf(const Campo& campo) { return campo.larghezza == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(campo.larghezza); }
 
 std::string ColumnSql(const Column& column) {
-    std::string sql = Name(column.name) + " " + column.type.toStdString();
+    std::string sql = Quoted(column.name) + " " + column.type.toStdString();
     if (column.ours) sql += column.type.startsWith("TEXT"_L1) ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0";
     return sql;
 }
@@ -105,8 +105,8 @@ void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabel
                               const std::vector<Column>& columns, const QString& path) {
     for (const Campo& campo : table.campi) {
         if (campo.larghezza == 0 || FindColumn(columns, campo.nome) == nullptr) continue;
-        SQLite::Statement statement(database, "SELECT COUNT(*), MAX(length(" + Name(campo.nome) + ")) FROM " +
-                                                  Name(table.nome) + " WHERE length(" + Name(campo.nome) + ") > ?");
+        SQLite::Statement statement(database, "SELECT COUNT(*), MAX(length(" + Quoted(campo.nome) + ")) FROM " +
+                                                  Quoted(table.nome) + " WHERE length(" + Quoted(campo.nome) + ") > ?");
         statement.bind(1, campo.larghezza);
         statement.executeStep();
         const int count = statement.getColumn(0).getInt();
@@ -122,7 +122,7 @@ void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabel
 void DatabaseTabellaCrea(SQLite::Database& database, const QString& name, const std::vector<Column>& columns) {
     std::string list;
     for (const Column& column : columns) list += (list.empty() ? "" : ", ") + ColumnSql(column);
-    database.exec("CREATE TABLE " + Name(name) + " (" + list + ")");
+    database.exec("CREATE TABLE " + Quoted(name) + " (" + list + ")");
 }
 
 std::vector<Column> DeclaredColumns(const DefinizioneTabella& table) {
@@ -139,24 +139,24 @@ void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, c
     std::string values;
     for (const Column& column : columns) {
         if (FindColumn(existing, column.name) == nullptr) continue;
-        const std::string name = Name(column.name);
+        const std::string name = Quoted(column.name);
         names += (names.empty() ? "" : ", ") + name;
         values += (values.empty() ? "" : ", ") + ("COALESCE(" + name + ", '')");
     }
     for (const Column& column : existing) {
         if (FindColumn(columns, column.name) != nullptr) continue;
         columns.push_back({column.name, column.type, false});
-        names += ", " + Name(column.name);
-        values += ", " + Name(column.name);
+        names += ", " + Quoted(column.name);
+        values += ", " + Quoted(column.name);
     }
     const QString temporary = table.nome + u"_nuova"_s;
     DatabaseTabellaCrea(database, temporary, columns);
     if (!names.empty()) {
-        database.exec("INSERT INTO " + Name(temporary) + " (rowid, " + names + ") SELECT rowid, " + values + " FROM " +
-                      Name(table.nome) + " ORDER BY rowid");
+        database.exec("INSERT INTO " + Quoted(temporary) + " (rowid, " + names + ") SELECT rowid, " + values +
+                      " FROM " + Quoted(table.nome) + " ORDER BY rowid");
     }
-    database.exec("DROP TABLE " + Name(table.nome));
-    database.exec("ALTER TABLE " + Name(temporary) + " RENAME TO " + Name(table.nome));
+    database.exec("DROP TABLE " + Quoted(table.nome));
+    database.exec("ALTER TABLE " + Quoted(temporary) + " RENAME TO " + Quoted(table.nome));
 }
 
 void DataBaseVerificaIndici(SQLite::Database& database, const DefinizioneTabella& table) {
@@ -164,7 +164,7 @@ void DataBaseVerificaIndici(SQLite::Database& database, const DefinizioneTabella
         if (HasIndex(database, table, campo)) continue;
         const std::string name = "\"" + IndexName(table, campo) + "\"";
         database.exec("DROP INDEX IF EXISTS " + name);
-        database.exec("CREATE INDEX " + name + " ON " + Name(table.nome) + " (" + Name(campo) + " COLLATE NOCASE)");
+        database.exec("CREATE INDEX " + name + " ON " + Quoted(table.nome) + " (" + Quoted(campo) + " COLLATE NOCASE)");
     }
 }
 

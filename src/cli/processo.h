@@ -1,0 +1,20 @@
+// A verb as a process of its own.
+#pragma once
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <memory>
+
+#include "cli/verbi.h"
+
+namespace cronovia {
+
+/// The words of a process's line, the program's name first.
+QStringList Riga(int argc, char* argv[]);
+
+using CreaApplicazione = std::unique_ptr<QCoreApplication> (*)(int& argc, char* argv[]);
+
+/// Runs the line within an application made for it, between standard output and standard error; returns the exit code.
+int EseguiProcesso(int argc, char* argv[], CreaApplicazione crea, const Stampe& stampe);
+
+}  // namespace cronovia

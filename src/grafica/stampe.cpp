@@ -1,0 +1,72 @@
+#include "grafica/stampe.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QDir>
+#include <algorithm>
+
+#include "cli/opzioni_calcolo.h"
+#include "interaction/failure.h"
+#include "print/file_pdf.h"
+#include "print/stampa_cronovia.h"
+#include "print/stampa_guida.h"
+#include "print/tabella_testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The PDF file is complete before the table is touched: when either fails, both are as they were.
+void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
+    const QString path = richiesta.opzioni.value(u"pdf"_s);
+    Sessione sessione = apri();
+    Progress progress;
+    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
+    RifiutaFileTabella(path, sessione.Cartella());
+    const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
+    const Stampato documento =
+        StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
+    FileIntero file(path);
+    ScriviPdf(documento, file, progress);
+    ScriviTabella(dati, sessione.Cartella());
+    file.Chiudi();
+    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(
+                  QDir::toNativeSeparators(path), QString::number(std::max<std::size_t>(documento.pagine.size(), 1)))
+           << RigaTabellaScritta(sessione.Cartella());
+    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+}
+
+DatiStampaGuida DatiPerStampa(Sessione& sessione, const Richiesta& richiesta, const OpzioniStampaGuida& opzioni) {
+    const ReadSnapshot momento(sessione.Archivio());
+    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
+    return PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
+}
+
+void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const QString path = richiesta.opzioni.value(u"pdf"_s);
+    if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
+    const OpzioniStampaGuida opzioni{!richiesta.opzioni.contains(u"meta"_s),
+                                     richiesta.opzioni.contains(u"dettaglio"_s)};
+    Sessione sessione = apri();
+    const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
+    if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
+    RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
+    RifiutaFileTabella(path, sessione.Cartella());
+    Progress progress;
+    const Stampato documento = StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
+    FileIntero file(path);
+    ScriviPdf(documento, file, progress);
+    file.Chiudi();
+    uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(QDir::toNativeSeparators(path),
+                                                                     QString::number(documento.pagine.size()));
+}
+
+}  // namespace
+
+Stampe StampeInPdf() { return {&StampaViaggio, &StampaLaGuida}; }
+
+}  // namespace cronovia
