@@ -1,4 +1,8 @@
 // What the program refuses: one sentence, exit code 1, nothing changed.
+#include <QFile>
+#include <QTemporaryDir>
+#include <utility>
+
 #include "programma.h"
 
 namespace cronovia {
@@ -74,6 +78,27 @@ TEST(Rifiuti, APrintoutOfWhichAPartFailsLeavesNone) {
     AttesoRifiuto(programma.Esegui({u"stampa"_s, u"3"_s, u"--pdf"_s, pdf, u"--sovrascrivi"_s}), messaggio);
     EXPECT_EQ(prova::LeggiFile(pdf), "prezioso");
     EXPECT_EQ(programma.Cartella().Contenuto().size(), 3);
+}
+
+TEST(Rifiuti, WhatDrawsIsMissedOnlyByWhatDraws) {
+    const Programma programma;
+    programma.ImportaEsempio(u"provenza"_s);
+    const QTemporaryDir altrove;
+    const QString solo = altrove.filePath(u"cronovia"_s);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(CRONOVIA_PROGRAM), solo));
+    const auto esegui = [&](const QStringList& argomenti) {
+        QProcess processo;
+        processo.start(solo, QStringList{u"--cartella"_s, programma.Cartella().Percorso()} + argomenti);
+        EXPECT_TRUE(processo.waitForFinished());
+        const QString errori = QString::fromUtf8(processo.readAllStandardError());
+        return std::pair{processo.exitCode(), errori.section(u':', 0, 0)};
+    };
+    const QString manca = u"La parte di Cronovia per la finestra e le stampe non si può caricare"_s;
+    const QString pdf = altrove.filePath(u"x.pdf"_s);
+    EXPECT_EQ(esegui({u"elenca"_s}), (std::pair{0, QString()}));
+    EXPECT_EQ(esegui({}), (std::pair{1, manca}));
+    EXPECT_EQ(esegui({u"stampa"_s, u"3"_s, u"--pdf"_s, pdf}), (std::pair{1, manca}));
+    EXPECT_EQ(esegui({u"--formato"_s, u"json"_s, u"guida"_s, u"--pdf"_s, pdf}), (std::pair{1, manca}));
 }
 
 TEST(Rifiuti, AFileThatIsNoArchiveIsLeftAlone) {
