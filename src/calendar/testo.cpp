@@ -9,9 +9,9 @@ namespace {
 
 constexpr std::int64_t kMassimo = std::numeric_limits<int>::max();
 
-bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
-
 }  // namespace
+
+bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 
 QString Zero(int valore, int lunghezza) { return AntStr(QString::number(valore), lunghezza, u'0'); }
 

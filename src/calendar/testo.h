@@ -7,6 +7,9 @@
 
 namespace cronovia {
 
+/// One of 0 to 9.
+bool Cifra(QChar c);
+
 /// The last `lunghezza` digits of `valore`, filled on the left with zeros: 7 with 2 is "07", 123 with 2 is "23".
 QString Zero(int valore, int lunghezza);
 

@@ -12,8 +12,6 @@ namespace {
 
 constexpr int kCifreDiMigliaia = 3;
 
-bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
-
 QString TestoDelCampo(QStringView testo) {
     QString campo = testo.toString().simplified();
     if (campo.size() < 2 || !campo.startsWith(u'"') || !campo.endsWith(u'"')) return campo;

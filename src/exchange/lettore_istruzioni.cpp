@@ -14,7 +14,7 @@ constexpr int kKm = 2;
 constexpr int kIstruzione = 3;
 constexpr QStringView kVicino = u"vicino";
 
-bool Intestazione(const ColonneTappa& colonne) {
+bool ConIstruzioni(const ColonneTappa& colonne) {
     return colonne[1].endsWith("ora"_L1, Qt::CaseInsensitive) &&
            colonne[kKm].compare("km"_L1, Qt::CaseInsensitive) == 0 &&
            colonne[kIstruzione].compare("istruzioni"_L1, Qt::CaseInsensitive) == 0;
@@ -62,7 +62,7 @@ class Istruzioni : public LettorePercorso {
         : tragitto_(std::move(destinazione)), colonnaDistanza_(ColonnaDistanza(intestazione)) {}
 
     void Leggi(const ColonneTappa& colonne) override {
-        if (Intestazione(colonne)) {
+        if (ConIstruzioni(colonne)) {
             colonnaDistanza_ = ColonnaDistanza(colonne);
             return;
         }
@@ -116,7 +116,7 @@ class Istruzioni : public LettorePercorso {
 }  // namespace
 
 std::unique_ptr<LettorePercorso> LettoreIstruzioni(const ColonneTappa& intestazione, DestinazioneTappe destinazione) {
-    if (!Intestazione(intestazione)) return nullptr;
+    if (!ConIstruzioni(intestazione)) return nullptr;
     return std::make_unique<Istruzioni>(intestazione, std::move(destinazione));
 }
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "calendar/testo.h"
 #include "exchange/lettore_percorso.h"
 
 namespace cronovia {
@@ -16,7 +17,7 @@ constexpr int kDistanza = 3;
 constexpr qsizetype kMassimoInsieme = 24;  // of a road and a locality side by side
 
 // A mark of two characters may stand before the first title.
-bool Intestazione(const ColonneTappa& colonne) {
+bool ConLocalita(const ColonneTappa& colonne) {
     const QString titolo = colonne[kLocalita].toLower();
     return (titolo == u"località" || titolo.mid(2) == u"località") &&
            colonne[kDirezione].compare("direzione"_L1, Qt::CaseInsensitive) == 0 &&
@@ -36,7 +37,6 @@ struct LocalitaStrada {
     QString strada;
 };
 
-bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 bool Lettera(QChar c) { return c.isLetter(); }
 
 // The text without that part of it.
@@ -51,7 +51,7 @@ QStringView TraParentesi(QStringView testo) {
 }
 
 // A field that begins with a road in parentheses, or with the "-" of a road, or is a locality.
-LocalitaStrada Pulisci(const QString& campo) {
+LocalitaStrada SenzaAggiunte(const QString& campo) {
     if (campo.startsWith(u'(')) {
         const qsizetype chiusa = campo.indexOf(u')');
         const QString resto = chiusa < 0 ? QString() : campo.sliced(chiusa + 1);
@@ -98,7 +98,7 @@ QString Abbrevia(const QString& localita) {
 }
 
 LocalitaStrada EstraeTappaStrada(const ColonneTappa& colonne, const QString& campo) {
-    LocalitaStrada parti = Pulisci(campo);
+    LocalitaStrada parti = SenzaAggiunte(campo);
     TogliNumero(parti);
     parti.localita = Fino(parti.localita, u',').trimmed().toString();
     const QString& direzione = colonne[kDirezione];
@@ -138,7 +138,7 @@ class Localita : public LettorePercorso {
         : tragitto_(std::move(destinazione)), colonnaProgressivi_(ColonnaProgressivi(intestazione)) {}
 
     void Leggi(const ColonneTappa& colonne) override {
-        if (Intestazione(colonne)) {
+        if (ConLocalita(colonne)) {
             colonnaProgressivi_ = ColonnaProgressivi(colonne);
             return;
         }
@@ -168,7 +168,7 @@ class Localita : public LettorePercorso {
 }  // namespace
 
 std::unique_ptr<LettorePercorso> LettoreLocalita(const ColonneTappa& intestazione, DestinazioneTappe destinazione) {
-    if (!Intestazione(intestazione)) return nullptr;
+    if (!ConLocalita(intestazione)) return nullptr;
     return std::make_unique<Localita>(intestazione, std::move(destinazione));
 }
 

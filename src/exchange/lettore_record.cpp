@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Campo(QByteArrayView byte, bool& guasto) {
+QString TestoDelRecord(QByteArrayView byte, bool& guasto) {
     QByteArray testo = byte.toByteArray();
     for (char& c : testo) {
         const auto valore = static_cast<unsigned char>(c);
@@ -54,7 +54,7 @@ bool LettoreRecord::Leggi(RecordFisso& record) {
     record.campi.clear();
     qsizetype inizio = 0;
     for (const int larghezza : forma_.campi) {
-        record.campi.push_back(Campo(QByteArrayView(byte).sliced(inizio, larghezza), record.guasto));
+        record.campi.push_back(TestoDelRecord(QByteArrayView(byte).sliced(inizio, larghezza), record.guasto));
         inizio += larghezza;
     }
     return true;

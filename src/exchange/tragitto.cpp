@@ -11,9 +11,9 @@ namespace {
 
 QString NomeLocalita(QStringView testo) {
     QStringView nome = testo.trimmed();
-    constexpr QStringView kVicino = u"vicino a";
-    const bool vicino = nome.startsWith(kVicino, Qt::CaseInsensitive);
-    if (vicino && (nome.size() == kVicino.size() || nome[kVicino.size()] == u' ')) nome = nome.mid(kVicino.size());
+    constexpr QStringView kVicinoA = u"vicino a";
+    const bool vicino = nome.startsWith(kVicinoA, Qt::CaseInsensitive);
+    if (vicino && (nome.size() == kVicinoA.size() || nome[kVicinoA.size()] == u' ')) nome = nome.mid(kVicinoA.size());
     return nome.trimmed().left(Tragitto::kMassimoNome).trimmed().toString().toUpper();
 }
 

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kBlocco = 256 * 1024;
+constexpr qint64 kBloccoConfronto = 256 * 1024;
 
 // The earlier release ran where names have no case: a file may have come from there as "VANDMETE.DAT".
 QHash<QString, QString> NomiDei(const QString& cartella) {
@@ -29,8 +29,8 @@ bool Uguali(QFile& a, QFile& b) {
     if (!a.open(QIODevice::ReadOnly) || !b.open(QIODevice::ReadOnly) || a.size() != b.size()) return false;
     QByteArray blocco;
     do {
-        blocco = a.read(kBlocco);
-        if (blocco != b.read(kBlocco)) return false;
+        blocco = a.read(kBloccoConfronto);
+        if (blocco != b.read(kBloccoConfronto)) return false;
     } while (!blocco.isEmpty());
     return a.atEnd() && b.atEnd();
 }
@@ -79,7 +79,7 @@ QString VecchiFile::Copia(const QString& path) {
     if (copie_.isEmpty()) CreaCartella();
     FileIntero copia(PercorsoCopia(path));
     while (!file->atEnd()) {
-        const QByteArray blocco = file->read(kBlocco);
+        const QByteArray blocco = file->read(kBloccoConfronto);
         if (blocco.isEmpty()) {
             throw Failure(u"Il file %1 non si può leggere fino in fondo."_s.arg(QDir::toNativeSeparators(path)));
         }

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Qt::Alignment Allineamento(Colonna colonna) {
+Qt::Alignment AllineamentoColonna(Colonna colonna) {
     switch (colonna) {
         case Colonna::Tappa:
         case Colonna::Note:
@@ -49,7 +49,7 @@ QString Significato(Segno segno) {
     return {};
 }
 
-QVariant Carattere(Segno segno) {
+QVariant CarattereDelSegno(Segno segno) {
     QFont carattere;
     if (segno == Segno::FineGiorno || segno == Segno::Riposo) carattere.setBold(true);
     if (segno == Segno::Guida) carattere.setItalic(true);
@@ -121,9 +121,9 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
             return colonna == Colonna::Numero ? Significato(SegnoDellaRiga(index.row()))
                                               : TestoPiano(Testi(index.row())[colonna]);
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue(Allineamento(colonna));
+            return QVariant::fromValue(AllineamentoColonna(colonna));
         case Qt::FontRole:
-            return Carattere(SegnoDellaRiga(index.row()));
+            return CarattereDelSegno(SegnoDellaRiga(index.row()));
         case Qt::DecorationRole:
             return colonna == Colonna::Numero ? QVariant(IconaDellaRiga(SegnoDellaRiga(index.row()))) : QVariant();
         case Qt::AccessibleTextRole: {
@@ -140,7 +140,7 @@ QVariant ModelloGriglia::headerData(int section, Qt::Orientation orientation, in
     if (orientation != Qt::Horizontal) return {};
     const auto colonna = static_cast<Colonna>(section);
     if (role == Qt::DisplayRole) return (cronovia_ ? IntestazioniCronovia() : IntestazioniItinerario())[colonna];
-    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Allineamento(colonna));
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AllineamentoColonna(colonna));
     return {};
 }
 

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int Larghezza(guida::Posto posto) { return Definizione(Tabella::GuidaCitta).campi[posto].larghezza; }
+int LarghezzaCampo(guida::Posto posto) { return Definizione(Tabella::GuidaCitta).campi[posto].larghezza; }
 
 }  // namespace
 
@@ -34,10 +34,11 @@ FrmGuida::FrmGuida(QWidget* parent) : QGroupBox(u"Guida visite e soste tecniche:
 }
 
 QLayout* FrmGuida::CreaCampi() {
-    txtGCitta_ = NuovaCasella(u"txtGCitta"_s, Larghezza(guida::Localita),
+    txtGCitta_ = NuovaCasella(u"txtGCitta"_s, LarghezzaCampo(guida::Localita),
                               u"Località di riferimento (automatico da riga selezionata)"_s);
     txtGCitta_->setReadOnly(true);
-    txtGDescr_ = NuovaCasella(u"txtGDescr"_s, Larghezza(guida::Descrizione), u"Descrizione dell'oggetto della guida"_s);
+    txtGDescr_ =
+        NuovaCasella(u"txtGDescr"_s, LarghezzaCampo(guida::Descrizione), u"Descrizione dell'oggetto della guida"_s);
     LasciaAnnullare(*txtGDescr_);
     cmbGTipo_ = NuovoElenco(u"cmbGTipo"_s, {},
                             u"Selezionare l'importanza dell'oggetto o se trattasi di Punto sosta, CS, Campeggio, "

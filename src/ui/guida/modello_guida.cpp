@@ -11,7 +11,7 @@ namespace cronovia {
 
 namespace {
 
-Qt::Alignment Allineamento(ColonnaGuida colonna) {
+Qt::Alignment AllineamentoColonna(ColonnaGuida colonna) {
     const bool centrata =
         colonna == ColonnaGuida::Numero || colonna == ColonnaGuida::Sosta || colonna == ColonnaGuida::Tempo;
     return centrata ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
@@ -46,7 +46,7 @@ QVariant ModelloGuida::data(const QModelIndex& index, int role) const {
         case Qt::ToolTipRole:
             return TestoPiano(ColonneGuida(index.row() + 1, riga)[static_cast<std::size_t>(index.column())]);
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue(Allineamento(static_cast<ColonnaGuida>(index.column())));
+            return QVariant::fromValue(AllineamentoColonna(static_cast<ColonnaGuida>(index.column())));
         case Qt::FontRole: {
             QFont carattere;
             carattere.setBold(!riga.voce);
@@ -63,7 +63,8 @@ QVariant ModelloGuida::data(const QModelIndex& index, int role) const {
 QVariant ModelloGuida::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::DisplayRole) return IntestazioniGuida()[static_cast<std::size_t>(section)];
-    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Allineamento(static_cast<ColonnaGuida>(section)));
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(AllineamentoColonna(static_cast<ColonnaGuida>(section)));
     return {};
 }
 

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kColonneLocalita = 22;
+constexpr int kCaratteriLocalita = 22;
 
 }  // namespace
 
@@ -119,7 +119,8 @@ void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
             const RigaGuida& riga = (*tavolo.Elenco())[i];
             if (riga.voce) continue;
             const auto numero = static_cast<int>(i) + 1;
-            auto* voce = new QListWidgetItem(AggStr(riga.localita, kColonneLocalita, u' ') + Zero(numero, 4), &elenco_);
+            auto* voce =
+                new QListWidgetItem(AggStr(riga.localita, kCaratteriLocalita, u' ') + Zero(numero, 4), &elenco_);
             voce->setData(Qt::UserRole, numero);
             if (riga.localita == tavolo.Corrente().localita) elenco_.setCurrentItem(voce);
         }

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QVariant Allineamento(int colonna) {
+QVariant AllineamentoColonna(int colonna) {
     const bool testo = colonna == ModelloMete::Meta || colonna == ModelloMete::Nazione;
     return QVariant(Qt::AlignVCenter | (testo ? Qt::AlignLeft : Qt::AlignRight));
 }
@@ -46,7 +46,7 @@ int ModelloMete::columnCount(const QModelIndex& parent) const { return parent.is
 QVariant ModelloMete::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const MetaNelFile& meta = mete_[static_cast<std::size_t>(index.row())];
-    if (role == Qt::TextAlignmentRole) return Allineamento(index.column());
+    if (role == Qt::TextAlignmentRole) return AllineamentoColonna(index.column());
     if (role != Qt::DisplayRole) return {};
     switch (index.column()) {
         case Num:
@@ -63,7 +63,7 @@ QVariant ModelloMete::data(const QModelIndex& index, int role) const {
 QVariant ModelloMete::headerData(int section, Qt::Orientation orientation, int role) const {
     static const std::array<QString, kColonneMete> intestazioni = {u"Num"_s, u"Mèta"_s, u"Nazione"_s, u"Record"_s};
     if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::TextAlignmentRole) return Allineamento(section);
+    if (role == Qt::TextAlignmentRole) return AllineamentoColonna(section);
     if (role != Qt::DisplayRole) return {};
     return intestazioni.at(static_cast<std::size_t>(section));
 }

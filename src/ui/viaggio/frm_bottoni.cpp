@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<TestiPulsante, kComandi> kTesti = {{
+constexpr std::array<TestiPulsante, kComandi> kTestiMeta = {{
     {u"cmdNuovo", u"&Nuovo", u"Inserisce una nuova mèta"},
     {u"cmdRicerca", u"Ricerca mè&ta", u"Cerca una mèta tra quelle memorizzate"},
     {u"cmdSalva", u"Sal&va", u"Salva i dati della mèta"},
@@ -25,7 +25,7 @@ constexpr std::array<TestiPulsante, kComandi> kTesti = {{
 }};
 
 // The order on screen: the trip, its itinerary, the schedule, files, the end.
-constexpr std::array<Comando, kComandi> kDisposizione = {
+constexpr std::array<Comando, kComandi> kDisposizioneMeta = {
     Comando::Nuovo,      Comando::Ricerca, Comando::Salva,  Comando::CancMeta, Comando::Itinerario, Comando::CancItin,
     Comando::GuidaCitta, Comando::Calcola, Comando::Stampa, Comando::Import,   Comando::Export,     Comando::Esce};
 
@@ -41,8 +41,8 @@ FrmBottoni::FrmBottoni(QWidget* parent)
     layout->addWidget(cmdConverte_, 0, Qt::AlignRight);
     auto* riga = new QHBoxLayout;
     layout->addLayout(riga);
-    for (const Comando comando : kDisposizione) {
-        QPushButton* pulsante = NuovoPulsante(kTesti[static_cast<std::size_t>(comando)]);
+    for (const Comando comando : kDisposizioneMeta) {
+        QPushButton* pulsante = NuovoPulsante(kTestiMeta[static_cast<std::size_t>(comando)]);
         // All alike, and together no wider than a small window.
         pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
         pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
