@@ -74,7 +74,9 @@ class RifiutaTasti : public QObject {
     bool eventFilter(QObject* oggetto, QEvent* evento) override {
         if (evento->type() != QEvent::KeyPress) return false;
         const auto& casella = *qobject_cast<QLineEdit*>(oggetto);
-        const QString battuto = static_cast<const QKeyEvent&>(*evento).text();
+        const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+        if (tasto.modifiers().testFlag(Qt::ControlModifier)) return false;  // selects, copies, types nothing
+        const QString battuto = tasto.text();
         if (battuto.isEmpty() || !battuto.front().isPrint() || casella.validator() == nullptr) return false;
         QString testo = casella.text();
         int cursore = casella.hasSelectedText() ? casella.selectionStart() : casella.cursorPosition();
