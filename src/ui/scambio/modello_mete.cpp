@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace cronovia {
 
@@ -23,18 +24,27 @@ void ModelloMete::Mostra(const std::vector<MetaNelFile>& mete) {
     if (mete.size() + 1 == mete_.size() && std::equal(prima + 1, mete_.end(), dopo, mete.end())) {
         beginRemoveRows({}, riga, riga);
         mete_.erase(prima);
+        numeri_.erase(numeri_.begin() + riga);
         endRemoveRows();
-        // Those behind it have other numbers.
-        Q_EMIT dataChanged(index(riga, Num), index(static_cast<int>(mete_.size()) - 1, Num));
+        Rinumera();
+        const auto righe = static_cast<int>(mete_.size());
+        if (riga < righe) Q_EMIT dataChanged(index(riga, Num), index(righe - 1, Num));
     } else if (mete.size() == mete_.size() + 1 && prima == mete_.end()) {
         beginInsertRows({}, riga, riga);
         mete_.push_back(*dopo);
+        Rinumera();
         endInsertRows();
     } else {
         beginResetModel();
         mete_ = mete;
+        Rinumera();
         endResetModel();
     }
+}
+
+void ModelloMete::Rinumera() {
+    numeri_.resize(mete_.size());
+    std::iota(numeri_.begin(), numeri_.end(), 1);
 }
 
 int ModelloMete::rowCount(const QModelIndex& parent) const {
@@ -50,7 +60,7 @@ QVariant ModelloMete::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole) return {};
     switch (index.column()) {
         case Num:
-            return index.row() + 1;
+            return numeri_[static_cast<std::size_t>(index.row())];
         case Meta:
             return meta.localita;
         case Nazione:

@@ -25,7 +25,10 @@ class ModelloMete : public QAbstractTableModel {
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    void Rinumera();
+
     std::vector<MetaNelFile> mete_;
+    std::vector<int> numeri_;  // change with the rows only once these are told of
 };
 
 }  // namespace cronovia
