@@ -1,23 +1,21 @@
-// The window as a person has it: controls found by name, mouse and keyboard, boxes answered by a script.
+// The window as a person has it: controls found by name, mouse and keyboard, boxes and dialogs answered by a script.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
-#include <cstdlib>
 #include <deque>
 #include <memory>
 
-#include "app/sessione.h"
-#include "exchange/importa_mete.h"
 #include "support/prova.h"
 #include "ui/form_mete.h"
 
@@ -28,12 +26,8 @@ using namespace Qt::StringLiterals;
 class FinestraTest : public testing::Test {
   protected:
     FinestraTest() {
-        QObject::connect(&occhio_, &QTimer::timeout, &occhio_, [this] { GuardaBox(); });
+        QObject::connect(&occhio_, &QTimer::timeout, &occhio_, [this] { GuardaDialogo(); });
         occhio_.start(5);
-    }
-    void TearDown() override {
-        EXPECT_TRUE(box_.empty()) << "never came: "
-                                  << (box_.empty() ? std::string() : box_.front().testo.toStdString());
     }
 
     /// Opens the window, on Saturday 5 June 2027 at that time.
@@ -43,105 +37,78 @@ class FinestraTest : public testing::Test {
         form_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }
-    void ImportaEsempio(const QString& nome) {
-        Sessione sessione(cartella_.Percorso());
-        Progress progress;
-        ImportaMete({sessione.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/") + nome + u".iei"_s, {}}, progress);
-    }
 
-    /// The next box will be this one and be answered with this button.
-    void Box(const QString& testo, QMessageBox::StandardButton bottone, const QString& titolo = u"Cronovia"_s) {
-        box_.push_back({testo, titolo, bottone});
+    /// What comes up next, how it is answered, and what it must say.
+    struct Attesa {
+        enum class Che { Box, File, Altro } che = Che::Box;
+        QString testo;                                          ///< of a box; "…" at its end: anything may follow
+        QString titolo = u"Cronovia"_s;                         ///< of a box
+        QMessageBox::StandardButton bottone = QMessageBox::Ok;  ///< of a box
+        QString file;                                           ///< for a file dialog; none: it is called off
+    };
+    void Attendi(Attesa attesa) { attese_.push_back(std::move(attesa)); }
+    /// A failure when something that must have come did not.
+    void TuttoVenuto() {
+        for (; !attese_.empty(); attese_.pop_front())
+            ADD_FAILURE() << "never came: " << attese_.front().testo.toStdString();
     }
+    /// What the last dialog that is no box was: its class, and its visible actions.
+    QString visto_;
 
+    template <typename Oggetto = QWidget>
+    Oggetto& Trova(const QString& nome) {
+        if (form_ == nullptr) throw std::runtime_error("the window is not open");
+        auto* oggetto =
+            form_->objectName() == nome ? qobject_cast<Oggetto*>(form_.get()) : form_->findChild<Oggetto*>(nome);
+        if (oggetto == nullptr) throw std::runtime_error("there is no " + nome.toStdString());
+        return *oggetto;
+    }
     template <typename Controllo = QWidget>
-    Controllo& Trova(const QString& nome) {
-        auto* controllo = form_->findChild<Controllo*>(nome);
-        if (controllo == nullptr) throw std::runtime_error("no " + nome.toStdString());
-        return *controllo;
+    Controllo& Usabile(const QString& nome) {
+        auto& controllo = Trova<Controllo>(nome);
+        if (!controllo.isVisible()) throw std::runtime_error(nome.toStdString() + " is not visible");
+        if (!controllo.isEnabled()) throw std::runtime_error(nome.toStdString() + " is not enabled");
+        return controllo;
     }
-    QPushButton& Pulsante(const QString& nome) { return Trova<QPushButton>(nome); }
-    QComboBox& Elenco(const QString& nome) { return Trova<QComboBox>(nome); }
-    QString Testo(const QString& nome) { return Trova<QLineEdit>(nome).text(); }
-    QString Scelta(const QString& nome) { return Elenco(nome).currentText(); }
 
     void Premi(const QString& nome) {
-        QPushButton& pulsante = Pulsante(nome);
-        ASSERT_TRUE(pulsante.isEnabled() && pulsante.isVisible()) << nome.toStdString();
-        QTest::mouseClick(&pulsante, Qt::LeftButton);
+        auto& pulsante = Usabile<QAbstractButton>(nome);
+        const bool spunta = qobject_cast<QPushButton*>(&pulsante) == nullptr;
+        QTest::mouseClick(&pulsante, Qt::LeftButton, {}, spunta ? QPoint(8, pulsante.height() / 2) : QPoint());
         Attiva();
     }
-    /// Presses a key where the focus is.
-    void Tasto(Qt::Key tasto, Qt::KeyboardModifiers con = Qt::NoModifier) {
-        ASSERT_NE(QApplication::focusWidget(), nullptr);
-        QTest::keyClick(QApplication::focusWidget(), tasto, con);
+    /// Presses a key where the focus is; a button that has its key goes down first.
+    void Tasto(QKeyCombination tasto) {
+        if (QApplication::focusWidget() == nullptr) throw std::runtime_error("nothing has the focus");
+        QTest::keyClick(QApplication::focusWidget(), tasto.key(), tasto.keyboardModifiers());
+        const auto giu = [this] {
+            const auto pulsanti = form_->findChildren<QAbstractButton*>();
+            return std::any_of(pulsanti.begin(), pulsanti.end(), [](const auto* p) { return p->isDown(); });
+        };
+        while (giu()) QTest::qWait(5);
         Attiva();
+    }
+    /// Types digit by digit, each where the focus is then.
+    void Batti(const QString& testo) {
+        for (const QChar c : testo) {
+            QWidget* fuoco = QApplication::focusWidget();
+            if (fuoco == nullptr) throw std::runtime_error("nothing has the focus");
+            if (c.unicode() < 128) {
+                QTest::keyClick(fuoco, c.toLatin1());
+            } else {
+                QTest::sendKeyEvent(QTest::Click, fuoco, Qt::Key_unknown, QString(c), {});
+            }
+        }
     }
     /// Types a text over the one that is there.
     void Scrivi(const QString& nome, const QString& testo) {
-        auto& casella = Trova<QLineEdit>(nome);
-        ASSERT_TRUE(casella.isEnabled()) << nome.toStdString();
-        casella.setFocus();
-        casella.selectAll();
-        if (testo.isEmpty()) QTest::keyClick(&casella, Qt::Key_Delete);
-        for (const QChar c : testo) QTest::sendKeyEvent(QTest::Click, &casella, Qt::Key_unknown, QString(c), {});
-    }
-    void ScriviNellElenco(const QString& nome, const QString& testo) {
-        QLineEdit& casella = *Elenco(nome).lineEdit();
-        casella.setFocus();
-        casella.selectAll();
-        QTest::keyClicks(&casella, testo);
-    }
-    /// Goes through a list with the arrow keys.
-    void Scegli(const QString& nome, const QString& voce) {
-        QComboBox& elenco = Elenco(nome);
-        const int meta = elenco.findText(voce);
-        ASSERT_GE(meta, 0) << voce.toStdString();
-        ASSERT_TRUE(elenco.isEnabled()) << nome.toStdString();
-        const int passi = meta - elenco.currentIndex();
-        for (int i = 0; i < std::abs(passi); ++i) QTest::keyClick(&elenco, passi > 0 ? Qt::Key_Down : Qt::Key_Up);
-    }
-
-    void NuovaMeta(const QString& localita) {
-        Premi(u"cmdNuovo"_s);
-        Scrivi(u"txtLocalita"_s, localita);
-        Scrivi(u"txtNazione"_s, u"italia"_s);
-        Box(u"Confermi inserimento meta?"_s, QMessageBox::Yes, u"Inserimento meta"_s);
-        Premi(u"cmdSalva"_s);
-    }
-    void ScriviTappa(const QString& localita, const QString& km) {
-        Scrivi(u"txtTappa"_s, localita);
-        Scrivi(u"txtKm"_s, km);
-        Premi(u"cmdInserisce"_s);
-    }
-    void BoxFine(QMessageBox::StandardButton bottone) {
-        Box(u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\nVuoi salvare le eventuali modifiche?"_s, bottone,
-            u"Fine inserimento"_s);
-    }
-    QString Cella(int riga, int colonna) {
-        const QAbstractItemModel& modello = *Trova<QTableView>(u"mfgTab"_s).model();
-        return modello.index(riga, colonna).data().toString();
-    }
-    QString Intestazione(int colonna) {
-        return Trova<QTableView>(u"mfgTab"_s).model()->headerData(colonna, Qt::Horizontal).toString();
-    }
-    /// The localities in the grid.
-    QString Tappe() {
-        QStringList nomi;
-        const int righe = Trova<QTableView>(u"mfgTab"_s).model()->rowCount();
-        for (int riga = 0; riga < righe; ++riga) {
-            if (!Cella(riga, 1).isEmpty()) nomi += Cella(riga, 1);
-        }
-        return nomi.join(u' ');
-    }
-    /// Object names of the main commands that can be pressed, without "cmd".
-    QString Abilitati() {
-        QStringList nomi;
-        for (const QPushButton* pulsante : Trova<QWidget>(u"frmBottoni"_s).findChildren<QPushButton*>()) {
-            if (pulsante->isEnabled()) nomi += pulsante->objectName().mid(3);
-        }
-        nomi.sort();
-        return nomi.join(u' ');
+        QWidget* casella = &Usabile(nome);
+        if (auto* elenco = qobject_cast<QComboBox*>(casella)) casella = elenco->lineEdit();
+        if (qobject_cast<QLineEdit*>(casella) == nullptr) throw std::runtime_error("nothing is typed there");
+        QTest::mouseClick(casella, Qt::LeftButton);
+        QTest::keyClick(casella, Qt::Key_A, Qt::ControlModifier);
+        if (testo.isEmpty()) QTest::keyClick(casella, Qt::Key_Delete);
+        Batti(testo);
     }
 
     CartellaDiProva cartella_;
@@ -155,27 +122,48 @@ class FinestraTest : public testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }
 
-    struct BoxAtteso {
-        QString testo;
-        QString titolo;
-        QMessageBox::StandardButton bottone;
-    };
-    void GuardaBox() {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr || !box->isVisible()) return;
-        if (box_.empty() || box->button(box_.front().bottone) == nullptr) {
-            ADD_FAILURE() << "unexpected box: " << box->text().toStdString();
-            box->done(QMessageBox::No);
-            return;
+    void GuardaDialogo() {
+        auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialogo == nullptr || !dialogo->isVisible() || dialogo == servito_) return;
+        servito_ = dialogo;
+        auto* box = qobject_cast<QMessageBox*>(dialogo);
+        auto* scelta = qobject_cast<QFileDialog*>(dialogo);
+        const auto che = box != nullptr ? Attesa::Che::Box : scelta != nullptr ? Attesa::Che::File : Attesa::Che::Altro;
+        const Attesa attesa = attese_.empty() ? Attesa() : attese_.front();
+        if (attese_.empty() || attesa.che != che || (box != nullptr && box->button(attesa.bottone) == nullptr)) {
+            ADD_FAILURE() << "unexpected: " << (box != nullptr ? box->text() : dialogo->windowTitle()).toStdString();
+            return dialogo->done(box != nullptr ? int{QMessageBox::No} : int{QDialog::Rejected});
         }
-        const BoxAtteso atteso = box_.front();
-        box_.pop_front();
-        EXPECT_EQ(box->text(), atteso.testo);
-        EXPECT_EQ(box->windowTitle(), atteso.titolo);
-        QTest::mouseClick(box->button(atteso.bottone), Qt::LeftButton);
+        attese_.pop_front();
+        if (box != nullptr) return RispondiBox(*box, attesa);
+        if (scelta != nullptr) return ScegliFile(*scelta, attesa.file);
+        visto_ = QString::fromLatin1(dialogo->metaObject()->className());
+        for (const QAction* azione : dialogo->findChildren<QAction*>()) {
+            if (azione->isVisible() && !azione->text().isEmpty()) visto_ += u'|' + azione->text();
+        }
+        dialogo->reject();
+    }
+    void RispondiBox(QMessageBox& box, const Attesa& attesa) {
+        if (attesa.testo.endsWith(u'…')) {
+            EXPECT_TRUE(box.text().startsWith(attesa.testo.chopped(1))) << box.text().toStdString();
+        } else {
+            EXPECT_EQ(box.text(), attesa.testo);
+        }
+        EXPECT_EQ(box.windowTitle(), attesa.titolo);
+        EXPECT_TRUE(!Qt::mightBeRichText(box.text()) || box.textFormat() == Qt::PlainText);
+        QTest::mouseClick(box.button(attesa.bottone), Qt::LeftButton);
+    }
+    void ScegliFile(QFileDialog& scelta, const QString& file) {
+        visto_ = scelta.nameFilters().join(u'|');
+        auto* nome = scelta.findChild<QLineEdit*>(u"fileNameEdit"_s);
+        nome->setText(file);
+        // It may ask something itself, and waits for the answer.
+        QTimer::singleShot(0, nome,
+                           [nome, file] { QTest::keyClick(nome, file.isEmpty() ? Qt::Key_Escape : Qt::Key_Return); });
     }
 
-    std::deque<BoxAtteso> box_;
+    std::deque<Attesa> attese_;
+    QPointer<QDialog> servito_;
     QTimer occhio_;
 };
 

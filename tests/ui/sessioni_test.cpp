@@ -1,0 +1,359 @@
+// Sessions at the window, written down in tests/data/finestra: one file each, a line for each step. A line is a verb
+// with its words; what holds blanks stands in quotes, with \n, \" and \\; {cartella} is the data folder, {esempi} that
+// of the examples. What comes up by itself is announced before the step that brings it.
+//
+//   open [HH:MM] · close              the window, on 5 June 2027; opened again, it is a new one on the same folder
+//   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
+//   write FILE TEXT                   a file, made beforehand
+//   answer BUTTON TEXT [TITLE]        the next box is a question; message TEXT [TITLE]: is told, and read with Ok
+//   choose [FILE]                     the next dialog asks for a file; without one it is called off
+//   dismiss                           the next dialog of any other kind is closed; expect-seen TEXT: what it was
+//   type NAME TEXT · keys TEXT        typed over what is there; typed where the focus is
+//   key KEY... · focus NAME           as in "Ctrl+Z", where the focus is
+//   press NAME · click NAME ROW       a button or box; a row of a table (from 1), an entry of a list
+//   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
+//   drop NAME FILE                    as the desktop does it, which would like to move the file
+//   resize W H · drag TABLE COL W     the window; a column by its edge
+//   expect NAME TEXT                  what a control says; boxes that can be ticked say "on" or "off"
+//   expect-row TABLE ROW CELLS        joined by "|", empty ones at the end left away; a cell "…" may be any, at the
+//                                     end any more
+//   expect-column TABLE COL CELLS     the cells of a column that are not empty
+//   expect-header TABLE COL TEXT · expect-selected TABLE ROWS · expect-width TABLE COL W · expect-size W H
+//   expect-tip NAME TEXT · expect-tip TABLE ROW COL TEXT      as the person reads it
+//   expect-focus NAME
+//   expect-enabled NAME BUTTONS       those within that can be pressed, by name without "cmd"
+//   expect-on · expect-off · expect-visible · expect-hidden NAME...
+//   expect-file FILE TEXT             how the file begins; expect-no-file FILE
+//
+// Whatever comes up unannounced fails, and so does what was announced and did not come in that step. Every table model
+// is watched meanwhile.
+#include <QAbstractItemModelTester>
+#include <QCheckBox>
+#include <QDirIterator>
+#include <QDropEvent>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+#include <QRadioButton>
+#include <QTextDocument>
+#include <QUrl>
+#include <functional>
+#include <map>
+
+#include "cli/programma.h"
+#include "support/parole.h"
+#include "ui/finestra.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kSessioni = QStringLiteral(CRONOVIA_TEST_DATA "/finestra/");
+
+bool Sensibile(const QAbstractButton& pulsante) { return pulsante.isEnabled() && pulsante.isVisible(); }
+
+// What a text looks like where markup is obeyed.
+QString ComeSiLegge(const QString& testo) {
+    if (!Qt::mightBeRichText(testo)) return testo;
+    QTextDocument pagina;
+    pagina.setHtml(testo);
+    return pagina.toPlainText();
+}
+
+QString Celle(const QAbstractItemModel& modello, int riga) {
+    QStringList celle;
+    for (int i = 0; i < modello.columnCount(); ++i) celle += modello.index(riga - 1, i).data().toString();
+    while (!celle.isEmpty() && celle.last().isEmpty()) celle.removeLast();
+    return celle.join(u'|');
+}
+
+QString Colonna(const QAbstractItemModel& modello, int colonna) {
+    QStringList celle;
+    for (int i = 0; i < modello.rowCount(); ++i) celle += modello.index(i, colonna - 1).data().toString();
+    celle.removeAll(QString());
+    return celle.join(u'|');
+}
+
+// Whether the cells are those expected, "…" standing for any one, or at the end for all that follow.
+bool Corrispondono(const QString& celle, const QString& attese) {
+    const QStringList viste = celle.split(u'|');
+    const QStringList modello = attese.split(u'|');
+    for (qsizetype i = 0; i < modello.size(); ++i) {
+        if (modello[i] != u"…"_s && modello[i] != viste.value(i)) return false;
+    }
+    return viste.size() <= modello.size() || modello.last() == u"…"_s;
+}
+
+class SessioniTest : public prova::FinestraTest, public testing::WithParamInterface<QString> {
+  protected:
+    void Recita(const QString& file) {
+        const std::string nome = file.toStdString();
+        int numero = 0;
+        for (const QString& riga : QString::fromUtf8(prova::LeggiFile(file)).split(u'\n')) {
+            ++numero;
+            if (riga.isEmpty() || riga.startsWith(u'#')) continue;
+            const testing::ScopedTrace dove(nome.c_str(), numero, riga.toStdString());
+            try {
+                Passo(riga);
+            } catch (const std::exception& guasto) {
+                ADD_FAILURE() << guasto.what();
+            }
+            if (HasFailure()) return;  // what follows stands on this step
+        }
+    }
+
+  private:
+    using Azione = std::function<void(const QStringList&)>;
+
+    void Passo(QString riga) {
+        QStringList p = prova::Parole(riga.replace(u"{cartella}"_s, cartella_.Percorso())
+                                          .replace(u"{esempi}"_s, QStringLiteral(CRONOVIA_EXAMPLES)));
+        const QString verbo = p.takeFirst();
+        const auto voce = verbi_.find(verbo);
+        if (voce == verbi_.end()) throw std::runtime_error("no such verb");
+        if (p.size() < voce->second.first) throw std::runtime_error("too few words");
+        p.resize(std::max<qsizetype>(p.size(), 4));
+        voce->second.second(p);
+        QCoreApplication::processEvents();
+        if (!annunci_.contains(verbo)) TuttoVenuto();
+        Sorveglia();
+    }
+
+    void Sorveglia() {
+        if (form_ == nullptr) return;
+        for (const QTableView* tabella : form_->findChildren<QTableView*>()) {
+            QAbstractItemModel* modello = tabella->model();
+            if (modello == nullptr || modello->findChild<QAbstractItemModelTester*>() != nullptr) continue;
+            new QAbstractItemModelTester(modello, QAbstractItemModelTester::FailureReportingMode::Warning, modello);
+        }
+    }
+
+    static void Uguale(const QString& visto, const QString& atteso) { EXPECT_EQ(visto, atteso); }
+
+    QString Dice(const QString& nome) {
+        const auto& oggetto = Trova<QObject>(nome);
+        if (const auto* casella = qobject_cast<const QLineEdit*>(&oggetto)) return casella->text();
+        if (const auto* elenco = qobject_cast<const QComboBox*>(&oggetto)) return elenco->currentText();
+        if (const auto* azione = qobject_cast<const QAction*>(&oggetto)) return azione->text();
+        if (const auto* scritta = qobject_cast<const QLabel*>(&oggetto)) return scritta->text();
+        if (const auto* riquadro = qobject_cast<const QGroupBox*>(&oggetto)) return riquadro->title();
+        if (const auto* lista = qobject_cast<const QListWidget*>(&oggetto)) return Colonna(*lista->model(), 1);
+        if (const auto* pulsante = qobject_cast<const QAbstractButton*>(&oggetto)) {
+            return !pulsante->isCheckable() ? pulsante->text() : pulsante->isChecked() ? u"on"_s : u"off"_s;
+        }
+        throw std::runtime_error("says nothing");
+    }
+
+    const QAbstractItemModel& Modello(const QString& tabella) { return *Trova<QTableView>(tabella).model(); }
+
+    void Clicca(const QString& nome, const QString& quale) {
+        auto& vista = Usabile<QAbstractItemView>(nome);
+        const int riga = quale.toInt() - 1;
+        QModelIndex dove = vista.model()->index(riga, std::min(1, vista.model()->columnCount() - 1));
+        if (quale.toInt() == 0)
+            dove = vista.model()->match(vista.model()->index(0, 0), Qt::DisplayRole, quale).value(0);
+        if (quale.toInt() == 0 && !dove.isValid()) throw std::runtime_error("there is no such entry");
+        vista.scrollTo(dove);
+        QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, vista.visualRect(dove).center());
+    }
+
+    void Scegli(const QString& nome, const QString& voce) {
+        auto& elenco = Usabile<QComboBox>(nome);
+        const int meta = elenco.findText(voce);
+        if (meta < 0) throw std::runtime_error("there is no such entry");
+        elenco.setFocus();
+        for (int i = 0; i < elenco.count() && elenco.currentIndex() != meta; ++i) {
+            QTest::keyClick(&elenco, elenco.currentIndex() < meta ? Qt::Key_Down : Qt::Key_Up);
+        }
+        Uguale(elenco.currentText(), voce);
+    }
+
+    void Lascia(const QString& nome, const QString& file, const QString& atteso) {
+        QWidget& su = Usabile(nome);
+        QMimeData dati;
+        dati.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent entra({5, 5}, Qt::CopyAction | Qt::MoveAction, &dati, Qt::LeftButton, Qt::NoModifier);
+        entra.setDropAction(Qt::MoveAction);
+        QApplication::sendEvent(&su, &entra);
+        QDropEvent lascia({5, 5}, Qt::CopyAction | Qt::MoveAction, &dati, Qt::LeftButton, Qt::NoModifier);
+        lascia.setDropAction(Qt::MoveAction);
+        lascia.setAccepted(false);
+        QApplication::sendEvent(&su, &lascia);
+        const QString esito = !lascia.isAccepted()                    ? u"refused"_s
+                              : lascia.dropAction() == Qt::CopyAction ? u"copied"_s
+                                                                      : u"moved"_s;
+        Uguale(esito, atteso);
+        QTest::qWait(10);
+    }
+
+    // Takes hold of the right edge of a column's heading.
+    void Trascina(const QString& tabella, int colonna, int larghezza) {
+        QHeaderView& testata = *Usabile<QTableView>(tabella).horizontalHeader();
+        QWidget& area = *testata.viewport();
+        const int prima = testata.sectionSize(colonna - 1);
+        const QPoint da(testata.sectionViewportPosition(colonna - 1) + prima - 2, area.height() / 2);
+        const QPoint a = da + QPoint(larghezza - prima, 0);
+        const auto mouse = [&](QEvent::Type tipo, const QPoint& dove, Qt::MouseButtons giu) {
+            const auto bottone = tipo == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent evento(tipo, dove, area.mapToGlobal(dove), bottone, giu, {});
+            QApplication::sendEvent(&area, &evento);
+        };
+        mouse(QEvent::MouseMove, da, {});
+        mouse(QEvent::MouseButtonPress, da, Qt::LeftButton);
+        mouse(QEvent::MouseMove, a, Qt::LeftButton);
+        mouse(QEvent::MouseButtonRelease, a, {});
+    }
+
+    void Esegui(const QStringList& parole) {
+        QStringList argomenti = parole;
+        argomenti.removeAll(QString());
+        QStringList attese;
+        if (const auto freccia = argomenti.indexOf(u"=>"_s); freccia >= 0) {
+            attese = argomenti.mid(freccia + 1);
+            argomenti.resize(freccia);
+        }
+        const prova::Risposta risposta =
+            prova::Programma::EseguiNudo(QStringList{u"--cartella"_s, cartella_.Percorso()} + argomenti);
+        EXPECT_EQ(risposta.codice, 0) << risposta.errori.toStdString();
+        for (const QString& attesa : attese) {
+            EXPECT_TRUE(risposta.uscita.contains(attesa)) << risposta.uscita.toStdString();
+        }
+    }
+
+    void Annuncia(const QString& bottone, const QString& testo, const QString& titolo) {
+        static const std::map<QString, QMessageBox::StandardButton> bottoni = {{u"Sì"_s, QMessageBox::Yes},
+                                                                               {u"No"_s, QMessageBox::No},
+                                                                               {u"Annulla"_s, QMessageBox::Cancel},
+                                                                               {u"Altro"_s, QMessageBox::Discard},
+                                                                               {u"Ok"_s, QMessageBox::Ok}};
+        Attendi({Attesa::Che::Box, testo, titolo.isEmpty() ? u"Cronovia"_s : titolo, bottoni.at(bottone), {}});
+    }
+
+    QString Premibili(const QString& nome) {
+        QStringList nomi;
+        for (const QAbstractButton* pulsante : Trova(nome).findChildren<QAbstractButton*>()) {
+            if (Sensibile(*pulsante) && pulsante->objectName().startsWith(u"cmd"_s))
+                nomi += pulsante->objectName().mid(3);
+        }
+        nomi.sort();
+        return nomi.join(u' ');
+    }
+
+    void AttesoFuoco(const QString& nome) {
+        const QWidget* fuoco = QApplication::focusWidget();
+        if (fuoco != nullptr && fuoco->objectName().startsWith(u"qt_"_s)) fuoco = fuoco->parentWidget();
+        if (fuoco != nullptr && fuoco->objectName().isEmpty()) fuoco = fuoco->parentWidget();
+        Uguale(fuoco == nullptr ? u"nothing"_s : fuoco->objectName(), nome);
+    }
+
+    void AttesoSuggerimento(const QStringList& p) {
+        if (p[2].isEmpty()) return Uguale(ComeSiLegge(Trova(p[0]).toolTip()), p[1]);
+        const QModelIndex cella = Modello(p[0]).index(p[1].toInt() - 1, p[2].toInt() - 1);
+        Uguale(ComeSiLegge(cella.data(Qt::ToolTipRole).toString()), p[3]);
+    }
+
+    void AttesaRiga(const QStringList& p) {
+        const QString celle = Celle(Modello(p[0]), p[1].toInt());
+        EXPECT_TRUE(Corrispondono(celle, p[2])) << celle.toStdString();
+    }
+
+    void AttesaScelta(const QStringList& p) {
+        QStringList righe;
+        for (const QModelIndex& riga : Trova<QTableView>(p[0]).selectionModel()->selectedRows()) {
+            righe += QString::number(riga.row() + 1);
+        }
+        righe.sort();
+        Uguale(righe.join(u' '), p[1]);
+    }
+
+    template <typename Fatto>
+    Azione Tutti(Fatto fatto, bool atteso) {
+        return [this, fatto, atteso](const QStringList& nomi) {
+            for (const QString& nome : nomi) {
+                if (nome.isEmpty()) continue;
+                EXPECT_EQ(fatto(Trova<QObject>(nome)), atteso) << nome.toStdString();
+            }
+        };
+    }
+    static bool Acceso(const QObject& oggetto) { return oggetto.property("enabled").toBool(); }
+    static bool Visibile(const QObject& oggetto) { return oggetto.property("visible").toBool(); }
+
+    // Verbs, the least number of their words, and what they do.
+    const std::map<QString, std::pair<int, Azione>> verbi_ = {
+        {u"open"_s, {0, [this](auto& p) { p[0].isEmpty() ? Apri() : Apri(QTime::fromString(p[0], u"HH:mm"_s)); }}},
+        {u"close"_s, {0, [this](auto&) { form_->close(); }}},
+        {u"run"_s, {1, [this](auto& p) { Esegui(p); }}},
+        {u"write"_s,
+         {2,
+          [](auto& p) {
+              QDir().mkpath(QFileInfo(p[0]).path());
+              prova::ScriviFile(p[0], p[1].toUtf8());
+          }}},
+        {u"answer"_s, {2, [this](auto& p) { Annuncia(p[0], p[1], p[2]); }}},
+        {u"message"_s, {1, [this](auto& p) { Annuncia(u"Ok"_s, p[0], p[1]); }}},
+        {u"choose"_s,
+         {0,
+          [this](auto& p) {
+              Attendi({Attesa::Che::File, u"a file dialog"_s, {}, {}, p[0]});
+          }}},
+        {u"dismiss"_s,
+         {0,
+          [this](auto&) {
+              Attendi({Attesa::Che::Altro, u"a dialog"_s, {}, {}, {}});
+          }}},
+        {u"expect-seen"_s, {1, [this](auto& p) { Uguale(visto_, p[0]); }}},
+        {u"type"_s, {2, [this](auto& p) { Scrivi(p[0], p[1]); }}},
+        {u"keys"_s, {1, [this](auto& p) { Batti(p[0]); }}},
+        {u"key"_s,
+         {1,
+          [this](auto& p) {
+              for (const QString& tasto : p) {
+                  if (!tasto.isEmpty()) Tasto(QKeySequence::fromString(tasto)[0]);
+              }
+          }}},
+        {u"focus"_s, {1, [this](auto& p) { Usabile(p[0]).setFocus(); }}},
+        {u"press"_s, {1, [this](auto& p) { Premi(p[0]); }}},
+        {u"click"_s, {2, [this](auto& p) { Clicca(p[0], p[1]); }}},
+        {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
+        {u"drop"_s, {3, [this](auto& p) { Lascia(p[0], p[1], p[2]); }}},
+        {u"resize"_s, {2, [this](auto& p) { form_->resize(p[0].toInt(), p[1].toInt()); }}},
+        {u"drag"_s, {3, [this](auto& p) { Trascina(p[0], p[1].toInt(), p[2].toInt()); }}},
+        {u"expect"_s, {2, [this](auto& p) { Uguale(Dice(p[0]), p[1]); }}},
+        {u"expect-row"_s, {3, [this](auto& p) { AttesaRiga(p); }}},
+        {u"expect-column"_s, {3, [this](auto& p) { Uguale(Colonna(Modello(p[0]), p[1].toInt()), p[2]); }}},
+        {u"expect-header"_s,
+         {3, [this](auto& p) { Uguale(Modello(p[0]).headerData(p[1].toInt() - 1, Qt::Horizontal).toString(), p[2]); }}},
+        {u"expect-selected"_s, {2, [this](auto& p) { AttesaScelta(p); }}},
+        {u"expect-width"_s,
+         {3, [this](auto& p) { EXPECT_EQ(Trova<QTableView>(p[0]).columnWidth(p[1].toInt() - 1), p[2].toInt()); }}},
+        {u"expect-size"_s, {2, [this](auto& p) { EXPECT_EQ(form_->size(), QSize(p[0].toInt(), p[1].toInt())); }}},
+        {u"expect-tip"_s, {2, [this](auto& p) { AttesoSuggerimento(p); }}},
+        {u"expect-focus"_s, {1, [this](auto& p) { AttesoFuoco(p[0]); }}},
+        {u"expect-enabled"_s, {2, [this](auto& p) { Uguale(Premibili(p[0]), p[1]); }}},
+        {u"expect-on"_s, {1, Tutti(&Acceso, true)}},
+        {u"expect-off"_s, {1, Tutti(&Acceso, false)}},
+        {u"expect-visible"_s, {1, Tutti(&Visibile, true)}},
+        {u"expect-hidden"_s, {1, Tutti(&Visibile, false)}},
+        {u"expect-file"_s,
+         {2, [](auto& p) { Uguale(QString::fromUtf8(prova::LeggiFile(p[0])).left(p[1].size()), p[1]); }}},
+        {u"expect-no-file"_s, {1, [](auto& p) { EXPECT_FALSE(QFile::exists(p[0])); }}},
+    };
+    const QStringList annunci_ = {u"answer"_s, u"message"_s, u"choose"_s, u"dismiss"_s};
+};
+
+std::vector<QString> File() {
+    const QStringList nomi = QDir(kSessioni).entryList({u"*.txt"_s}, QDir::Files, QDir::Name);
+    return {nomi.begin(), nomi.end()};
+}
+
+TEST_P(SessioniTest, GoesAsWritten) { Recita(kSessioni + GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Finestra, SessioniTest, testing::ValuesIn(File()), [](const auto& caso) {
+    return QString(caso.param).remove(u".txt"_s).replace(u'-', u'_').toStdString();
+});
+
+}  // namespace
+}  // namespace cronovia
