@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 int Uccisioni() {
     const int quante = qEnvironmentVariableIntValue("CRONOVIA_UCCISIONI");
-    return quante > 0 ? quante : 8;
+    return quante > 0 ? quante : 3;
 }
 
 QStringList Tutto(const QString& cartella) {
