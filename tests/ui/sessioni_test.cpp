@@ -12,6 +12,7 @@
 //   key KEY... · focus NAME           as in "Ctrl+Z", where the focus is
 //   press NAME · click NAME ROW       a button or box; a row of a table (from 1), an entry of a list
 //   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
+//   entry NAME TEXT                   a further entry, as if the list had been shown with it
 //   drop NAME FILE                    as the desktop does it, which would like to move the file
 //   resize W H · drag TABLE COL W     the window; a column by its edge
 //   expect NAME TEXT                  what a control says; boxes that can be ticked say "on" or "off"
@@ -319,6 +320,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"click"_s, {2, [this](auto& p) { Clicca(p[0], p[1]); }}},
         {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
         {u"drop"_s, {3, [this](auto& p) { Lascia(p[0], p[1], p[2]); }}},
+        {u"entry"_s, {2, [this](auto& p) { Usabile<QListWidget>(p[0]).addItem(p[1]); }}},
         {u"resize"_s, {2, [this](auto& p) { form_->resize(p[0].toInt(), p[1].toInt()); }}},
         {u"drag"_s, {3, [this](auto& p) { Trascina(p[0], p[1].toInt(), p[2].toInt()); }}},
         {u"expect"_s, {2, [this](auto& p) { Uguale(Dice(p[0]), p[1]); }}},
