@@ -60,14 +60,14 @@ void RiempiGuida(Archive& archive, int voci) {
 void UnaPassata(benchmark::State& state) {
     Archivio archivio;
     const std::vector<Tappa> tappe = TappeGenerate(static_cast<int>(state.range(0)));
-    const ParametriConvertiti convertiti = Aggiorna(ParametriViaggio());
+    const OrarioCorretto orario;
     LettoreGuida guida(archivio.archive);
-    const TabellaCalcolo tabella = PreparaTabellaPerCalcoloCronovia(tappe, convertiti, guida, archivio.progress);
+    const TabellaCalcolo tabella = PreparaTabellaPerCalcoloCronovia(tappe, orario, guida, archivio.progress);
     std::vector<Durata> soste;
     for (const RigaCalcolo& riga : tabella.righe) soste.push_back(riga.sosta);
     for (auto _ : state) {
         benchmark::DoNotOptimize(
-            SimulaPassata({tabella, soste, NumeroGiorno(740000), 900_cent, convertiti, 1}, archivio.progress));
+            SimulaPassata({tabella, soste, NumeroGiorno(740000), 900_cent, orario, 1}, archivio.progress));
     }
     state.counters["per_tappa"] =
         benchmark::Counter(static_cast<double>(state.range(0)),
@@ -90,9 +90,10 @@ BENCHMARK(CalcoloConGuida)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark:
 void CaricaItinerario(benchmark::State& state) {
     Archivio archivio;
     const Meta meta = MetaGenerata();
-    MemorizzaTappeItinerario(archivio.archive, meta.codice, TappeGenerate(1'000), meta.parametri, archivio.progress);
+    MemorizzaTappeItinerario(archivio.archive, meta.codice, TappeGenerate(1'000), OrarioCorretto(meta.parametri),
+                             archivio.progress);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(CaricaTappeItinerario(archivio.archive, meta.codice, meta.parametri));
+        benchmark::DoNotOptimize(CaricaTappeItinerario(archivio.archive, meta.codice, OrarioCorretto(meta.parametri)));
     }
 }
 BENCHMARK(CaricaItinerario)->Unit(benchmark::kMillisecond);
@@ -102,7 +103,8 @@ void SalvaItinerario(benchmark::State& state) {
     const Meta meta = MetaGenerata();
     const std::vector<Tappa> tappe = TappeGenerate(1'000);
     for (auto _ : state) {
-        MemorizzaTappeItinerario(archivio.archive, meta.codice, tappe, meta.parametri, archivio.progress);
+        MemorizzaTappeItinerario(archivio.archive, meta.codice, tappe, OrarioCorretto(meta.parametri),
+                                 archivio.progress);
     }
 }
 BENCHMARK(SalvaItinerario)->Unit(benchmark::kMillisecond);

@@ -90,13 +90,13 @@ bool Scrivania::SenzaComandi(const QString& mancato, const std::function<void()>
 }
 
 void Scrivania::RicalcolaTempi() {
-    riepilogo_ = CalcolaKmTempiItinerario(righe_, meta_.parametri, meta_.giorniAdeguamento);
+    riepilogo_ = CalcolaKmTempiItinerario(righe_, OrarioCorretto(meta_.parametri), meta_.giorniAdeguamento);
     meta_.giorniAdeguamento = riepilogo_.giorniAdeguamento;
 }
 
-void Scrivania::ControllaOrari() { meta_.parametri = ControllaVariabiliConvertite(meta_.parametri).parametri; }
+void Scrivania::ControllaOrari() { meta_.parametri = InOrdine(meta_.parametri); }
 
-void Scrivania::AggiornaOrari() { meta_.parametri = Aggiorna(meta_.parametri).parametri; }
+void Scrivania::AggiornaOrari() { meta_.parametri = OrarioCorretto(meta_.parametri).Parametri(); }
 
 void Scrivania::Nuovo() {
     Prova([&] {
@@ -168,7 +168,7 @@ void Scrivania::CancItin() {
             u"Annullamento itinerario"_s};
         if (volti_.interazione.Ask(sicuro) != Answer::Yes) return;
         SenzaComandi(u"L'itinerario non è stato cancellato."_s, [&] {
-            MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, {}, meta_.parametri,
+            MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, {}, OrarioCorretto(meta_.parametri),
                                      volti_.avanzamento);
             CaricaMetaCorrente();
         });

@@ -28,7 +28,7 @@ void Scrivania::SelezionaRiga(int riga) {
 
 // Takes over a changed itinerary: times and visits are computed afresh.
 void Scrivania::Mostra(StatoItinerario stato) {
-    RicalcolaVisite(sessione_.Archivio(), stato.righe, meta_.parametri);
+    RicalcolaVisite(sessione_.Archivio(), stato.righe, OrarioCorretto(meta_.parametri));
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
     SelezionaRiga(stato.rigaCorrente);
@@ -98,7 +98,7 @@ bool Scrivania::MemorizzaTappe() {
         // Another window may have deleted the trip: stages without one would turn up in the next trip with its code.
         sessione_.ApriMeta(codiceMetaCorrente_);
         const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione_.Archivio(), codiceMetaCorrente_, righe_,
-                                                                   meta_.parametri, volti_.avanzamento);
+                                                                   OrarioCorretto(meta_.parametri), volti_.avanzamento);
         memorizzate_ = righe_;
         if (esito.nomiAccorciati == 0) return;
         volti_.interazione.Show({TestoNomiAccorciati(esito), {}, Icon::Exclamation});

@@ -183,7 +183,8 @@ void Scrivania::AnnullaImportazione() {
         AnnullaImport(archivio, fatto.traccia);
         import_.reset();
         if (CaricaDatiAnagraficiMeta(archivio, codiceMetaCorrente_)) {
-            RicalcolaVisite(archivio, righe_, meta_.parametri);  // what is typed in the trip's fields stays
+            RicalcolaVisite(archivio, righe_,
+                            OrarioCorretto(meta_.parametri));  // what is typed in the trip's fields stays
             RicalcolaTempi();
             memorizzate_ = righe_;
         } else if (!NuovaMetaDigitata()) {

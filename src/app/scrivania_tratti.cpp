@@ -22,7 +22,8 @@ void Scrivania::Trasferisce() {
         u"Copia soste Guida -> Itinerario"_s};
     if (volti_.interazione.Ask(domanda) != Answer::Yes) return;
     Prova([&] {
-        RigheItinerario righe = ConSosteDellaGuida(sessione_.Archivio(), righe_, meta_.parametri, volti_.avanzamento);
+        RigheItinerario righe =
+            ConSosteDellaGuida(sessione_.Archivio(), righe_, OrarioCorretto(meta_.parametri), volti_.avanzamento);
         Modifica(u"copia delle soste della guida"_s, std::move(righe), rigaCorrente_);
     });
     volti_.avanzamento.Advance(0, 0);

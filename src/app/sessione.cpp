@@ -38,8 +38,9 @@ MetaAperta Sessione::ApriMeta(const QString& codice) {
     if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
     aperta.meta = std::move(*meta);
-    aperta.tappe = CaricaTappeItinerario(archive_, completo, aperta.meta.parametri);
-    aperta.riepilogo = CalcolaKmTempiItinerario(aperta.tappe, aperta.meta.parametri, aperta.meta.giorniAdeguamento);
+    const OrarioCorretto orario(aperta.meta.parametri);
+    aperta.tappe = CaricaTappeItinerario(archive_, completo, orario);
+    aperta.riepilogo = CalcolaKmTempiItinerario(aperta.tappe, orario, aperta.meta.giorniAdeguamento);
     aperta.meta.giorniAdeguamento = aperta.riepilogo.giorniAdeguamento;
     return aperta;
 }

@@ -91,7 +91,7 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
     const std::vector<RigaGriglia> righe = ColonneCronovia(cronovia);
-    const TestiTotali totali = Testi(cronovia.totali, cronovia.guidaGiorno);
+    const TestiTotali totali = Testi(cronovia.totali, cronovia.orario.GuidaGiorno());
     const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());
     if (richiesta.formato == Formato::Testo) {

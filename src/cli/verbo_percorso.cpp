@@ -25,8 +25,8 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
             u"La mèta con il codice %1 ha già delle tappe: un percorso si importa solo con itinerario "
             "vuoto."_s.arg(aperta.meta.codice));
     }
-    const EsitoMemorizzazione esito =
-        MemorizzaTappeItinerario(sessione.Archivio(), aperta.meta.codice, *tappe, aperta.meta.parametri, progress);
+    const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione.Archivio(), aperta.meta.codice, *tappe,
+                                                               OrarioCorretto(aperta.meta.parametri), progress);
     uscita << RiassuntoPercorso(*tappe) << '\n';
     if (esito.nomiAccorciati > 0) uscita << TestoNomiAccorciati(esito) << '\n';
 }

@@ -6,7 +6,6 @@
 #include "calendar/testo.h"
 #include "guide/guida_citta.h"
 #include "interaction/failure.h"
-#include "trips/orario.h"
 
 namespace cronovia {
 
@@ -62,8 +61,7 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
     return archive.Select({Tabella::Itinerari, {DellaMeta(codiceMeta)}}, {itinerari::Sequenza});
 }
 
-std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
-                                         const ParametriViaggio& parametri) {
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario) {
     const ReadSnapshot momento(archive);
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
@@ -77,23 +75,22 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
         tappe.push_back(std::move(tappa));
     }
-    RicalcolaVisite(archive, tappe, parametri);
+    RicalcolaVisite(archive, tappe, orario);
     return tappe;
 }
 
-void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriViaggio& parametri) {
-    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
+void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario) {
     const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
     for (Tappa& tappa : tappe) {
-        tappa.guida =
-            tappa.localita.isEmpty() ? Durata() : InDurata(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
+        tappa.guida = tappa.localita.isEmpty()
+                          ? Durata()
+                          : InDurata(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
     }
 }
 
-std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const ParametriViaggio& parametri,
+std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const OrarioCorretto& orario,
                                       Progress& progress) {
-    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
     const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
     progress.Title(u"Copia soste Guida -> Itinerario"_s);
@@ -103,7 +100,7 @@ std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe
         if (Vuota(tappa)) continue;
         const Centesimi visite = guida.PrendiTempoVisite(tappa.localita);
         if (visite == Centesimi()) continue;
-        tappa.sosta = InDurata(InCentesimi(tappa.sosta, visitaGiorno) + visite, visitaGiorno);
+        tappa.sosta = InDurata(InCentesimi(tappa.sosta, orario.VisitaGiorno()) + visite, orario.VisitaGiorno());
     }
     progress.Advance(0, 0);
     return tappe;
@@ -114,11 +111,10 @@ QString TestoNomiAccorciati(const EsitoMemorizzazione& esito) {
 }
 
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
-                                             const ParametriViaggio& parametri, Progress& progress) {
+                                             const OrarioCorretto& orario, Progress& progress) {
     if (RecordNecessari(tappe) > kMassimoRecord) {
         throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
     }
-    const Centesimi visitaGiorno = ControllaVariabiliConvertite(parametri).visitaGiorno;
     Transaction transaction(archive);
     LettoreGuida guida(archive);
     archive.CancellaTabella(Tabella::Itinerari, DellaMeta(codiceMeta), progress);
@@ -130,7 +126,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
         if (Vuota(tappa)) continue;
         if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
         if (tappa.numStrada.size() > Larghezza(itinerari::NomeStrada)) ++esito.nomiAccorciati;
-        const QString visite = ghmCentesimi2Stringa(guida.PrendiTempoVisite(tappa.localita), visitaGiorno);
+        const QString visite = ghmCentesimi2Stringa(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
         MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
     }
     transaction.Commit();

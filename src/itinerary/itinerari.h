@@ -8,6 +8,7 @@
 #include "interaction/progress.h"
 #include "itinerary/tappa.h"
 #include "store/archive.h"
+#include "trips/orario.h"
 
 namespace cronovia {
 
@@ -15,15 +16,14 @@ namespace cronovia {
 std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta);
 
 /// The stages of a trip in travel order. The guide's visit times stand at the first stage of their locality.
-std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta,
-                                         const ParametriViaggio& parametri);
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario);
 
 /// Puts the guide's visit times anew, after stages changed.
-void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const ParametriViaggio& parametri);
+void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario);
 
 /// The stages with the guide's visit times added to their stops; a locality that occurs again gets none there. The ends
 /// of days stay.
-std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const ParametriViaggio& parametri,
+std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const OrarioCorretto& orario,
                                       Progress& progress);
 
 /// What saving an itinerary did.
@@ -37,6 +37,6 @@ QString TestoNomiAccorciati(const EsitoMemorizzazione& esito);
 
 /// Replaces the stored itinerary of a trip, whole or not at all. Refused when it takes more than 9,999 rows.
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
-                                             const ParametriViaggio& parametri, Progress& progress);
+                                             const OrarioCorretto& orario, Progress& progress);
 
 }  // namespace cronovia

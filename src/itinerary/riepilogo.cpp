@@ -33,16 +33,15 @@ TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno) {
     return testi;
 }
 
-RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const ParametriViaggio& parametri,
+RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                              int giorniAdeguamento) {
-    const ParametriConvertiti convertiti = ControllaVariabiliConvertite(parametri);
     RiepilogoItinerario riepilogo;
-    riepilogo.guidaGiorno = convertiti.guidaGiorno;
+    riepilogo.guidaGiorno = orario.GuidaGiorno();
     riepilogo.tappe.reserve(tappe.size());
     for (const Tappa& tappa : tappe) {
         if (tappa.Traghetto()) ++riepilogo.totali.traghetti;
         TempiTappa tempi;
-        const int media = parametri.mediaKm[Indice(tappa.TipoEffettivo())];
+        const int media = orario.Parametri().mediaKm[Indice(tappa.TipoEffettivo())];
         if (tappa.km != 0 && media > 0) tempi.tempo = TempoDiGuida(tappa.km, media);
         riepilogo.totali.Aggiunge(tappa.TipoEffettivo(), tappa.km, tempi.tempo.value_or(0_cent));
         tempi.kmProgressivi = riepilogo.totali.km[kTuttiITipi];
@@ -62,9 +61,10 @@ std::vector<int> GiorniProposti(const RiepilogoItinerario& riepilogo) {
     return giorni;
 }
 
-std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const ParametriViaggio& parametri) {
+std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const OrarioCorretto& orario) {
     for (const Tappa& tappa : tappe) {
-        if (tappa.km > 0 && parametri.mediaKm[Indice(tappa.TipoEffettivo())] <= 0) return tappa.TipoEffettivo();
+        if (tappa.km > 0 && orario.Parametri().mediaKm[Indice(tappa.TipoEffettivo())] <= 0)
+            return tappa.TipoEffettivo();
     }
     return std::nullopt;
 }

@@ -47,13 +47,13 @@ struct RiepilogoItinerario {
     int giorniAdeguamento = 0;  ///< the days wanted, raised to the least ones
 };
 
-RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const ParametriViaggio& parametri,
+RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                              int giorniAdeguamento);
 
 /// The trip lengths on offer: 0 for "as many as needed", then from the least days on in widening steps.
 std::vector<int> GiorniProposti(const RiepilogoItinerario& riepilogo);
 
 /// The first road type that a stage uses although its average speed is 0; nothing when all is well.
-std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const ParametriViaggio& parametri);
+std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const OrarioCorretto& orario);
 
 }  // namespace cronovia

@@ -84,7 +84,7 @@ void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
         const auto riga = static_cast<int>(i) + 2;
         const bool tutti = i == kTuttiITipi;
         gruppo.Voce(tutti ? u"Totale"_s : NomeTipoStrada(static_cast<TipoStrada>(i)), riga, kRientro);
-        if (!tutti) gruppo.Numero(QString::number(dati.meta.parametri.mediaKm[i]) + u" km/h"_s, riga, kVelocita);
+        if (!tutti) gruppo.Numero(QString::number(dati.orario.Parametri().mediaKm[i]) + u" km/h"_s, riga, kVelocita);
         gruppo.Numero(dati.totali.km[i], riga, kKm);
         gruppo.Numero(dati.totali.tempo[i], riga, kTempo);
     }
@@ -133,7 +133,7 @@ void StampaCaratteristiche(const DatiStampa& dati, Foglio& foglio) {
     TracciaCornice(foglio, prima - 2.0, prima + kAltezza + 1.2);
     StampaPeriodo(dati, {foglio, 0});
     StampaPercorrenze(dati, {foglio, 1});
-    StampaTempi(dati.meta.parametri, {foglio, 2});
+    StampaTempi(dati.orario.Parametri(), {foglio, 2});
     foglio.RigaStampa(prima + kAltezza);
 }
 

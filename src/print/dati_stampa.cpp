@@ -1,13 +1,10 @@
 #include "print/dati_stampa.h"
 
-#include "trips/orario.h"
-
 namespace cronovia {
 
 DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia) {
-    DatiStampa dati{meta, ColonneCronovia(cronovia), TestiFine(cronovia), Testi(cronovia.totali, cronovia.guidaGiorno)};
-    dati.meta.parametri = Aggiorna(meta.parametri).parametri;
-    return dati;
+    return {meta, cronovia.orario, ColonneCronovia(cronovia), TestiFine(cronovia),
+            Testi(cronovia.totali, cronovia.orario.GuidaGiorno())};
 }
 
 }  // namespace cronovia

@@ -13,7 +13,8 @@
 namespace cronovia {
 
 struct DatiStampa {
-    Meta meta;                       ///< its timetable as the calculation corrected it
+    Meta meta;
+    OrarioCorretto orario;           ///< as the calculation took it
     std::vector<RigaGriglia> righe;  ///< rows of the grid; one without a locality is not printed
     std::array<QString, 7> fine;     ///< as `TestiFine`
     TestiTotali totali;

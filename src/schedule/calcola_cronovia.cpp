@@ -16,22 +16,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void RifiutaSeIncalcolabile(const Meta& meta, std::span<const Tappa> tappe) {
+void RifiutaSeIncalcolabile(const Meta& meta, const OrarioCorretto& orario, std::span<const Tappa> tappe) {
     if (!meta.dataInizio) throw Failure(u"Calcolo impossibile: la data d'inizio della mèta non è valida."_s);
-    if (const auto tipo = TipoSenzaMedia(tappe, meta.parametri)) {
+    if (const auto tipo = TipoSenzaMedia(tappe, orario)) {
         throw Failure(
             u"Calcolo impossibile: la velocità media per le strade di tipo «%1» è 0."_s.arg(NomeTipoStrada(*tipo)));
     }
-    const ParametriViaggio p = Aggiorna(meta.parametri).parametri;
-    if (p.fineVisita <= p.inizioVisita) {
+    if (orario.Parametri().fineVisita <= orario.Parametri().inizioVisita) {
         throw Failure(u"Calcolo impossibile: l'orario di fine visite non è dopo quello d'inizio."_s);
     }
 }
 
 // First guess of the trip's days: driving and stops in visiting days, and a quarter more.
-double StimaGiorni(const Totali& totali, Centesimi totaleSoste, const ParametriConvertiti& convertiti) {
-    const Centesimi guida = ArrotondaAlMinuto(totali.tempo[kTuttiITipi], convertiti.guidaGiorno);
-    const int giorni = InDurata(guida + totaleSoste, convertiti.visitaGiorno).giorni;
+double StimaGiorni(const Totali& totali, Centesimi totaleSoste, const OrarioCorretto& orario) {
+    const Centesimi guida = ArrotondaAlMinuto(totali.tempo[kTuttiITipi], orario.GuidaGiorno());
+    const int giorni = InDurata(guida + totaleSoste, orario.VisitaGiorno()).giorni;
     return std::floor((giorni + 1) * 1.25 + 0.5);
 }
 
@@ -65,35 +64,34 @@ std::vector<Durata> SosteDellaTabella(const TabellaCalcolo& tabella) {
 }  // namespace
 
 EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress) {
-    RifiutaSeIncalcolabile(meta, tappe);
-    ParametriConvertiti convertiti = ControllaVariabiliConvertite(meta.parametri);
-    const RiepilogoItinerario riepilogo = CalcolaKmTempiItinerario(tappe, meta.parametri, meta.giorniAdeguamento);
+    OrarioCorretto orario(meta.parametri);
+    RifiutaSeIncalcolabile(meta, orario, tappe);
+    const RiepilogoItinerario riepilogo = CalcolaKmTempiItinerario(tappe, orario, meta.giorniAdeguamento);
     Cronovia cronovia;
-    cronovia.tabella = PreparaTabellaPerCalcoloCronovia(tappe, convertiti, guida, progress);
+    cronovia.tabella = PreparaTabellaPerCalcoloCronovia(tappe, orario, guida, progress);
 
     const bool daAdeguare = meta.giorniAdeguamento > 0 && riepilogo.totali.km[kTuttiITipi] > 0;
-    double riferimento = StimaGiorni(riepilogo.totali, cronovia.tabella.totaleSoste, convertiti);
+    double riferimento = StimaGiorni(riepilogo.totali, cronovia.tabella.totaleSoste, orario);
     std::vector<Durata> soste = SosteDellaTabella(cronovia.tabella);
     EsitoCalcolo esito;
     Passata passata;
     do {
-        convertiti = Aggiorna(convertiti.parametri);
+        // Hours beyond their limits settle from pass to pass.
+        if (esito.tentativi > 0) orario = OrarioCorretto(orario.Parametri());
         const float fattore = daAdeguare ? CalcolaFattore(meta.giorniAdeguamento, riferimento) : 1.0F;
         ++esito.tentativi;
         progress.Title(TitoloTentativo(esito.tentativi, riferimento, meta.giorniAdeguamento, fattore));
-        passata =
-            SimulaPassata({cronovia.tabella, soste, *meta.dataInizio, meta.oraInizio, convertiti, fattore}, progress);
+        passata = SimulaPassata({cronovia.tabella, soste, *meta.dataInizio, meta.oraInizio, orario, fattore}, progress);
         if (passata.interrotta) return esito;
         soste = passata.soste;
         riferimento = passata.fine ? passata.fine->giorni : 0;
     } while (daAdeguare && riferimento != meta.giorniAdeguamento && esito.tentativi < kMassimoTentativi);
 
-    SegnaRientro(passata.righe, passata.data, passata.ora, convertiti.parametri, progress);
+    SegnaRientro(passata.righe, passata.data, passata.ora, orario, progress);
     cronovia.righe = std::move(passata.righe);
     cronovia.fine = passata.fine;
     cronovia.totali = passata.totali;
-    cronovia.guidaGiorno = convertiti.guidaGiorno;
-    cronovia.riposoMinuti = convertiti.parametri.riposoMinuti;
+    cronovia.orario = orario;
     esito.cronovia = std::move(cronovia);
     esito.messaggio = Messaggio(meta.giorniAdeguamento, riferimento, esito.tentativi);
     progress.Advance(0, 0);

@@ -59,7 +59,7 @@ void ScriviTratto(const Cronovia& cronovia, const RigaCronovia& riga, const Tapp
     testi[Colonna::TipoStrada] = LetteraTipoStrada(tappa.tipo);
     testi[Colonna::KmProgressivi] = RaggruppaNonZero(riga.kmProgressivi);
     testi[Colonna::Tempo] = TempoTratta(riga.tempo);
-    testi[Colonna::Note] = NoteTratto(riga.eventi, cronovia.riposoMinuti);
+    testi[Colonna::Note] = NoteTratto(riga.eventi, cronovia.orario.Parametri().riposoMinuti);
     ScriviMomento(riga, testi);
 }
 

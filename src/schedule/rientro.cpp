@@ -14,8 +14,8 @@ constexpr int kMassimoGiri = 8;
 // A clock that runs backwards through driving, meals and nights.
 class OrologioIndietro {
   public:
-    OrologioIndietro(NumeroGiorno data, Centesimi ora, const ParametriViaggio& parametri)
-        : data_(data), ora_(ora), p_(parametri) {
+    OrologioIndietro(NumeroGiorno data, Centesimi ora, const OrarioCorretto& orario)
+        : data_(data), ora_(ora), p_(orario.Parametri()) {
         GuardaPasti();
     }
 
@@ -102,11 +102,11 @@ void SegnaRitorno(std::span<RigaCronovia> righe, OrologioIndietro& orologio) {
 
 }  // namespace
 
-void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const ParametriViaggio& parametri,
+void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const OrarioCorretto& orario,
                   Progress& progress) {
     if (righe.empty()) return;
     progress.Title(u"Calcolo del rientro rapido (prosecuzione)"_s);
-    OrologioIndietro orologio(data, ora, parametri);
+    OrologioIndietro orologio(data, ora, orario);
     SegnaProsecuzione(righe, orologio);
     progress.Title(u"Calcolo del rientro rapido (ritorno)"_s);
     orologio.GuardaPasti();

@@ -13,7 +13,7 @@ namespace cronovia {
 /// gets the latest moment at which, driving on without stops, the trip still ends when the schedule ends. Then, with
 /// the clock that reached the top, downwards: rows from which turning back at once still reaches home in time get that
 /// latest moment instead, until the first row whose mark's day, with the row's own hour, is not before the clock.
-void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const ParametriViaggio& parametri,
+void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const OrarioCorretto& orario,
                   Progress& progress);
 
 }  // namespace cronovia

@@ -10,6 +10,7 @@
 #include "calendar/date.h"
 #include "itinerary/riepilogo.h"
 #include "schedule/tabella_calcolo.h"
+#include "trips/orario.h"
 
 namespace cronovia {
 
@@ -72,8 +73,7 @@ struct Cronovia {
     std::vector<RigaCronovia> righe;
     std::optional<FineViaggio> fine;  ///< nothing without any driving
     Totali totali;
-    Centesimi guidaGiorno;  ///< day length of the driving totals
-    int riposoMinuti = 0;
+    OrarioCorretto orario;  ///< as the last pass took it
 };
 
 /// Day, month, year, hour, minutes, weekday and number of days of the trip's end; empty without any driving.

@@ -19,9 +19,9 @@ class Simulazione {
   public:
     explicit Simulazione(const RichiestaPassata& richiesta)
         : richiesta_(richiesta),
-          convertiti_(richiesta.convertiti),
-          p_(richiesta.convertiti.parametri),
-          tolleranza_(Tolleranza(richiesta.convertiti)) {
+          orario_(richiesta.orario),
+          p_(richiesta.orario.Parametri()),
+          tolleranza_(Tolleranza(richiesta.orario)) {
         passata_.soste.assign(richiesta.soste.begin(), richiesta.soste.end());
         passata_.righe.reserve(richiesta.tabella.righe.size() * 2);
         Parti();
@@ -173,7 +173,7 @@ class Simulazione {
     bool Riposi() {
         if (!ConRiposi() || orologio_.ora < orologio_.inizioGuida + OreDiGuida()) return false;
         const float volte = std::floor((orologio_.ora - orologio_.inizioGuida).Valore() / OreDiGuida().Valore());
-        orologio_.ora += convertiti_.riposo * volte;
+        orologio_.ora += orario_.Riposo() * volte;
         orologio_.inizioGuida += OreDiGuida() * volte;
         return volte > 0;
     }
@@ -183,7 +183,7 @@ class Simulazione {
         Durata& sosta = passata_.soste[static_cast<std::size_t>(indice)];
         const Durata prevista = sosta;
         const EsitoSosta esito = CalcolaLaSosta(
-            {sosta, tabella.fineGiorno, tabella.tappa.Traghetto(), richiesta_.fattoreSoste}, convertiti_, orologio_);
+            {sosta, tabella.fineGiorno, tabella.tappa.Traghetto(), richiesta_.fattoreSoste}, orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
         orologio_ = esito.orologio;
         orologio_.inizioGuida = orologio_.ora;
@@ -203,7 +203,7 @@ class Simulazione {
     }
 
     const RichiestaPassata& richiesta_;
-    const ParametriConvertiti& convertiti_;
+    const OrarioCorretto& orario_;
     const ParametriViaggio& p_;
     int tolleranza_;
     Orologio orologio_;
@@ -213,9 +213,7 @@ class Simulazione {
 
 }  // namespace
 
-int Tolleranza(const ParametriConvertiti& convertiti) {
-    return std::max(static_cast<int>(convertiti.riposo.Valore()) + 1, 10);
-}
+int Tolleranza(const OrarioCorretto& orario) { return std::max(static_cast<int>(orario.Riposo().Valore()) + 1, 10); }
 
 Passata SimulaPassata(const RichiestaPassata& richiesta, Progress& progress) {
     return Simulazione(richiesta).Esegui(progress);

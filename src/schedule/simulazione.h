@@ -15,7 +15,7 @@ struct RichiestaPassata {
     std::span<const Durata> soste;  ///< the stop of each stage, as the pass before left it
     NumeroGiorno dataPartenza;
     Centesimi oraPartenza;
-    const ParametriConvertiti& convertiti;
+    const OrarioCorretto& orario;
     float fattoreSoste = 1;  ///< scales every stop
 };
 
@@ -30,7 +30,7 @@ struct Passata {
 };
 
 /// Tolerance around meals and the night, in hundredths.
-int Tolleranza(const ParametriConvertiti& convertiti);
+int Tolleranza(const OrarioCorretto& orario);
 
 /// Walks the stages on a clock that starts with the trip. Every road type in use needs a speed, the visiting hours must
 /// not be empty. The same input gives the same rows.

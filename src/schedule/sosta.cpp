@@ -50,15 +50,14 @@ void Orologio::NuovoGiorno(Centesimi ripresa) {
     cenaFatta = false;
 }
 
-EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const ParametriConvertiti& convertiti,
-                          const Orologio& inizio) {
-    const ParametriViaggio& p = convertiti.parametri;
-    const Centesimi scalata = Scalata(richiesta, convertiti.visitaGiorno);
+EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio) {
+    const ParametriViaggio& p = orario.Parametri();
+    const Centesimi scalata = Scalata(richiesta, orario.VisitaGiorno());
     EsitoSosta esito{inizio, Motivo::Nessuno, richiesta.sosta};
     if (scalata == 0_cent && !richiesta.traghetto) return esito;
 
     esito.motivo = MotivoDi(richiesta);
-    esito.sosta = InDurata(scalata, convertiti.visitaGiorno);
+    esito.sosta = InDurata(scalata, orario.VisitaGiorno());
     const Centesimi durata = scalata + (richiesta.traghetto ? p.oreTraghetti : 0_cent);
     Orologio& orologio = esito.orologio;
     if (orologio.ora < p.inizioVisita) orologio.ora = p.inizioVisita;
@@ -70,7 +69,7 @@ EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const ParametriConver
     }
     PastoPassato(p.oraPranzo, p.durataPranzo, orologio.pranzoFatto, orologio.ora);
     PastoPassato(p.oraCena, p.durataCena, orologio.cenaFatta, orologio.ora);
-    if (durata >= convertiti.visitaGiorno) orologio.ultimoRiposo = orologio.data;
+    if (durata >= orario.VisitaGiorno()) orologio.ultimoRiposo = orologio.data;
     return esito;
 }
 

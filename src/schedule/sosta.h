@@ -34,7 +34,6 @@ struct EsitoSosta {
 };
 
 /// Takes the clock through a stop. The visiting hours must not be empty.
-EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const ParametriConvertiti& convertiti,
-                          const Orologio& inizio);
+EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio);
 
 }  // namespace cronovia

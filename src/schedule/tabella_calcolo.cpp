@@ -40,10 +40,10 @@ Soste ApplicaCalcoloSoste(CalcoloSoste calcolo, Soste soste) {
 
 }  // namespace
 
-TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, const ParametriConvertiti& convertiti,
+TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                                 LettoreGuida& guida, Progress& progress) {
     progress.Title(u"Elaborazione delle soste e guida città"_s);
-    const Centesimi giorno = convertiti.visitaGiorno;
+    const Centesimi giorno = orario.VisitaGiorno();
     TabellaCalcolo tabella;
     tabella.righe.reserve(tappe.size());
     for (const Tappa& tappa : tappe) {
@@ -54,7 +54,7 @@ TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, co
         Soste soste{InCentesimi(tappa.sosta, giorno), guida.PrendiTempoVisite(tappa.localita), tappa.fineGiorno};
         riga.tappa.guida = InDurata(soste.guida, giorno);
         if (soste.itinerario > 0_cent || soste.guida > 0_cent) {
-            soste = ApplicaCalcoloSoste(convertiti.parametri.calcoloSoste, soste);
+            soste = ApplicaCalcoloSoste(orario.Parametri().calcoloSoste, soste);
         }
         riga.fineGiorno = soste.fineGiorno;
         riga.sostaItinerario = InDurata(soste.itinerario, giorno);

@@ -28,7 +28,7 @@ struct TabellaCalcolo {
 };
 
 /// Joins the stages with the guide and applies the stop policy. A locality gets its guide time at its first stage only.
-TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, const ParametriConvertiti& convertiti,
+TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                                 LettoreGuida& guida, Progress& progress);
 
 }  // namespace cronovia

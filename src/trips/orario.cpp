@@ -54,28 +54,24 @@ Centesimi NelleListe(Centesimi orario) {
 
 }  // namespace
 
-ParametriConvertiti ControllaVariabiliConvertite(const ParametriViaggio& parametri) {
-    ParametriViaggio p = parametri;
+ParametriViaggio InOrdine(const ParametriViaggio& digitati) {
+    ParametriViaggio p = digitati;
     for (ParametriViaggio corretti = GiroDiControllo(p); !(corretti == p); corretti = GiroDiControllo(p)) p = corretti;
     LimitaVisite(p);
-    ParametriConvertiti convertiti;
-    convertiti.guidaGiorno = (p.oraPranzo - p.oraColazione) + (p.oraCena - p.oraPranzo - p.durataPranzo) +
-                             (p.oraNotte - p.oraCena - p.durataCena);
-    convertiti.visitaGiorno = p.fineVisita - p.inizioVisita;
-    convertiti.riposo = Centesimi(std::floor(p.riposoMinuti * 100.0 / 60.0 + 0.5));
-    convertiti.parametri = p;
-    return convertiti;
+    return p;
 }
 
-ParametriConvertiti Aggiorna(const ParametriViaggio& parametri) {
-    ParametriConvertiti convertiti = ControllaVariabiliConvertite(parametri);
-    ParametriViaggio& p = convertiti.parametri;
+OrarioCorretto::OrarioCorretto(const ParametriViaggio& digitati) : parametri_(InOrdine(digitati)) {
+    ParametriViaggio& p = parametri_;
+    guidaGiorno_ = (p.oraPranzo - p.oraColazione) + (p.oraCena - p.oraPranzo - p.durataPranzo) +
+                   (p.oraNotte - p.oraCena - p.durataCena);
+    visitaGiorno_ = p.fineVisita - p.inizioVisita;
+    riposo_ = Centesimi(std::floor(p.riposoMinuti * 100.0 / 60.0 + 0.5));
     LimitaOrari(p);
     for (Centesimi* orario : {&p.oraColazione, &p.oraPranzo, &p.durataPranzo, &p.oraCena, &p.durataCena, &p.oraNotte,
                               &p.inizioVisita, &p.fineVisita, &p.oreTraghetti}) {
         *orario = NelleListe(*orario);
     }
-    return convertiti;
 }
 
 }  // namespace cronovia

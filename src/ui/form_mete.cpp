@@ -338,7 +338,7 @@ void FormMete::Mostra() {
     periodo_->Mostra(meta, riepilogo);
     periodo_->MostraFine(cronovia ? TestiFine(*cronovia) : std::array<QString, 7>());
     velocita_->Mostra(meta.parametri);
-    velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->guidaGiorno)
+    velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->orario.GuidaGiorno())
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
     tempi_->Mostra(meta.parametri);
     const bool campiLiberi =

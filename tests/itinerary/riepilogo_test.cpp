@@ -76,8 +76,8 @@ TEST(Riepilogo, ARoadTypeInUseWithoutASpeedIsNamed) {
     ParametriViaggio parametri;
     parametri.mediaKm = {0, 65, 50, 0};
     const std::vector<Tappa> vuoto = {Tratto(0, u"A"), Tratto(5, u""), Tratto(5, u"A")};
-    EXPECT_EQ(TipoSenzaMedia(vuoto, parametri), TipoStrada::Locale);
-    const RiepilogoItinerario r = CalcolaKmTempiItinerario(vuoto, parametri, 0);
+    EXPECT_EQ(TipoSenzaMedia(vuoto, OrarioCorretto(parametri)), TipoStrada::Locale);
+    const RiepilogoItinerario r = CalcolaKmTempiItinerario(vuoto, OrarioCorretto(parametri), 0);
     EXPECT_FALSE(r.tappe[2].tempo.has_value());
     EXPECT_EQ(r.totali.km[kTuttiITipi], 10);
 }

@@ -14,7 +14,7 @@ using prova::Viaggio;
 QStringList Limiti(const Viaggio& viaggio) {
     Passata passata = viaggio.Simula();
     Progress progress;
-    SegnaRientro(passata.righe, passata.data, passata.ora, Aggiorna(viaggio.parametri).parametri, progress);
+    SegnaRientro(passata.righe, passata.data, passata.ora, OrarioCorretto(viaggio.parametri), progress);
     QStringList limiti;
     for (const RigaGriglia& testi : prova::Testi(viaggio, passata.righe)) limiti += testi[Colonna::LimiteRitorno];
     return limiti;

@@ -16,7 +16,7 @@ EsitoSosta Sosta(Centesimi arrivo, const RichiestaSosta& richiesta) {
     inizio.ora = arrivo;
     inizio.pranzoFatto = arrivo > 1300_cent;
     inizio.ultimoRiposo = kSabato + -5;
-    return CalcolaLaSosta(richiesta, Aggiorna(prova::ParametriSemplici()), inizio);
+    return CalcolaLaSosta(richiesta, OrarioCorretto(prova::ParametriSemplici()), inizio);
 }
 
 TEST(CalcolaLaSosta, TakesTheClockToItsEnd) {

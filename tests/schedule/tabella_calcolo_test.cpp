@@ -25,7 +25,7 @@ class TabellaCalcoloTest : public testing::Test {
         parametri.calcoloSoste = calcolo;
         LettoreGuida guida(archive_);
         Progress progress;
-        return PreparaTabellaPerCalcoloCronovia(tappe, ControllaVariabiliConvertite(parametri), guida, progress);
+        return PreparaTabellaPerCalcoloCronovia(tappe, OrarioCorretto(parametri), guida, progress);
     }
 
     prova::CartellaDiProva cartella_;

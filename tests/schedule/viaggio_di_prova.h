@@ -52,7 +52,7 @@ struct Viaggio {
         std::vector<Durata> soste;
         for (const RigaCalcolo& riga : tabella.righe) soste.push_back(riga.sosta);
         Progress progress;
-        return SimulaPassata({tabella, soste, dataInizio, oraInizio, Aggiorna(parametri), fattore}, progress);
+        return SimulaPassata({tabella, soste, dataInizio, oraInizio, OrarioCorretto(parametri), fattore}, progress);
     }
 };
 
@@ -61,7 +61,7 @@ inline std::vector<RigaGriglia> Testi(const Viaggio& viaggio, const std::vector<
     Cronovia cronovia;
     cronovia.tabella = viaggio.tabella;
     cronovia.righe = righe;
-    cronovia.riposoMinuti = viaggio.parametri.riposoMinuti;
+    cronovia.orario = OrarioCorretto(viaggio.parametri);
     std::vector<RigaGriglia> testi;
     for (std::size_t i = 0; i < righe.size(); ++i) testi.push_back(ColonneCronovia(cronovia, i));
     return testi;

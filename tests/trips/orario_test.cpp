@@ -33,11 +33,11 @@ struct Caso {
 };
 
 TEST(Orario, TheStandardTimetableStandsAsItIs) {
-    const ParametriConvertiti convertiti = Aggiorna(Orari(kStandard));
-    EXPECT_EQ(convertiti.parametri, ParametriViaggio());
-    EXPECT_EQ(convertiti.guidaGiorno, 925_cent);   // 3:30 + 5:00 + 0:45
-    EXPECT_EQ(convertiti.visitaGiorno, 900_cent);  // 9:00 to 18:00
-    EXPECT_EQ(convertiti.riposo, 25_cent);
+    const OrarioCorretto orario(Orari(kStandard));
+    EXPECT_EQ(orario.Parametri(), ParametriViaggio());
+    EXPECT_EQ(orario.GuidaGiorno(), 925_cent);   // 3:30 + 5:00 + 0:45
+    EXPECT_EQ(orario.VisitaGiorno(), 900_cent);  // 9:00 to 18:00
+    EXPECT_EQ(orario.Riposo(), 25_cent);
 }
 
 TEST(Orario, AnOrderThatCannotBeKeptIsReset) {
@@ -51,7 +51,7 @@ TEST(Orario, AnOrderThatCannotBeKeptIsReset) {
         {"visits outside the day", u"0900 1230+0230 2000+0145 2230 0800-2400"_s,
          u"0900 1230+0230 2000+0145 2230 0900-2230"_s}};
     for (const Caso& caso : casi) {
-        EXPECT_EQ(ControllaVariabiliConvertite(Orari(caso.prima)).parametri, Orari(caso.dopo)) << caso.regola;
+        EXPECT_EQ(InOrdine(Orari(caso.prima)), Orari(caso.dopo)) << caso.regola;
     }
 }
 
@@ -74,15 +74,15 @@ TEST(Orario, LimitsOfTheSingleHours) {
         {"the longest ferry of the lists", u"0900 1230+0230 2000+0145 2230 0900-1800 2445"_s,
          u"0900 1230+0230 2000+0145 2230 0900-1800 2445"_s}};
     for (const Caso& caso : casi) {
-        EXPECT_EQ(Aggiorna(Orari(caso.prima)).parametri, Orari(caso.dopo)) << caso.regola;
+        EXPECT_EQ(OrarioCorretto(Orari(caso.prima)).Parametri(), Orari(caso.dopo)) << caso.regola;
     }
 }
 
 TEST(Orario, DayLengthsAreThoseBeforeTheLimits) {
-    const ParametriConvertiti convertiti = Aggiorna(Orari(u"0900 1630+0230 2000+0145 2230 0800-2300"_s));
-    EXPECT_EQ(convertiti.parametri.oraPranzo, 1600_cent);
-    EXPECT_EQ(convertiti.guidaGiorno, 750_cent + 100_cent + 75_cent);
-    EXPECT_EQ(convertiti.visitaGiorno, 1350_cent);  // 9:00 to 22:30
+    const OrarioCorretto orario(Orari(u"0900 1630+0230 2000+0145 2230 0800-2300"_s));
+    EXPECT_EQ(orario.Parametri().oraPranzo, 1600_cent);
+    EXPECT_EQ(orario.GuidaGiorno(), 750_cent + 100_cent + 75_cent);
+    EXPECT_EQ(orario.VisitaGiorno(), 1350_cent);  // 9:00 to 22:30
 }
 
 }  // namespace
