@@ -20,6 +20,7 @@ DatiStampa RigheGenerate(int numero) {
     dati.meta.nazione = u"NORVEGIA"_s;
     dati.meta.dataInizio = NumeroGiorno(740000);
     for (int i = 0; i < numero; ++i) {
+        const GenereRiga genere = i % 3 == 2 ? GenereRiga::Guida : i % 3 == 1 ? GenereRiga::Sosta : GenereRiga::Tratto;
         RigaGriglia riga;
         riga[Colonna::Numero] = QString::number(i + 1);
         if (i % 3 == 2) {
@@ -35,7 +36,7 @@ DatiStampa RigheGenerate(int numero) {
             riga[Colonna::Ora] = u"12:%1"_s.arg(i % 60);
             riga[Colonna::LimiteRitorno] = u">15/07-11:%1"_s.arg(i % 60);
         }
-        dati.righe.push_back(riga);
+        dati.righe.push_back({genere, false, riga});
     }
     return dati;
 }

@@ -26,7 +26,7 @@ TabellaTesti ColonneDelGiorno(const std::vector<RigaGriglia>& righe, const Crono
         for (const Colonna colonna : colonne) scelti += testi[colonna];
         return scelti;
     };
-    TabellaTesti tabella{scegli(IntestazioniCronovia()), {}, {0, 3, 4, 6}};
+    TabellaTesti tabella{scegli(Intestazioni(Vista::Cronovia)), {}, {0, 3, 4, 6}};
     for (std::size_t i = 0; i < righe.size(); ++i) {
         const bool guida = cronovia.righe[i].genere == GenereRiga::Guida;
         tabella.righe.push_back(scegli(guida ? RigaGriglia() : righe[i]));
@@ -90,7 +90,7 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
-    const std::vector<RigaGriglia> righe = ColonneCronovia(cronovia);
+    const std::vector<RigaGriglia> righe = TestiDellaCronovia(cronovia);
     const TestiTotali totali = Testi(cronovia.totali, cronovia.orario.GuidaGiorno());
     const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());
@@ -98,7 +98,7 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
         ScriviTesto(aperta, esito, righe, totali, uscita);
         if (tabella) uscita << RigaTabellaScritta(sessione.Cartella());
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TestiDellaGriglia(IntestazioniCronovia(), righe), uscita);
+        ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), righe), uscita);
     } else {
         QJsonArray jsonRighe;
         for (const RigaGriglia& riga : righe) jsonRighe.append(JsonDeiTesti(riga));

@@ -13,7 +13,7 @@ namespace {
 std::vector<RigaGriglia> RigheDellItinerario(const MetaAperta& aperta) {
     std::vector<RigaGriglia> righe;
     for (std::size_t i = 0; i < aperta.tappe.size(); ++i) {
-        righe.push_back(ColonneTappa(static_cast<int>(i) + 1, aperta.tappe[i], aperta.riepilogo.tappe[i]));
+        righe.push_back(TestiDellaTappa(static_cast<int>(i) + 1, aperta.tappe[i], aperta.riepilogo.tappe[i]));
     }
     return righe;
 }
@@ -39,7 +39,7 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     const std::vector<RigaGriglia> righe = RigheDellItinerario(aperta);
     const TestiTotali totali = Testi(aperta.riepilogo.totali, aperta.riepilogo.guidaGiorno);
-    const TabellaTesti tabella = TestiDellaGriglia(IntestazioniItinerario(), righe);
+    const TabellaTesti tabella = TestiDellaGriglia(Intestazioni(Vista::Itinerario), righe);
     if (richiesta.formato == Formato::Testo) {
         ScriviTesto(aperta, tabella, totali, uscita);
     } else if (richiesta.formato == Formato::Tsv) {

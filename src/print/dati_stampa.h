@@ -12,14 +12,23 @@
 
 namespace cronovia {
 
-struct DatiStampa {
-    Meta meta;
-    OrarioCorretto orario;           ///< as the calculation took it
-    std::vector<RigaGriglia> righe;  ///< rows of the grid; one without a locality is not printed
-    std::array<QString, 7> fine;     ///< as `TestiFine`
-    TestiTotali totali;
+/// A row of the schedule: what it is, and its texts as the grid shows them.
+struct RigaStampata {
+    GenereRiga genere = GenereRiga::Tratto;
+    bool riposo = false;  ///< a short rest follows
+    RigaGriglia testi;    ///< without a locality the row is not printed
 };
 
+/// A snapshot: nothing in it changes with the trip.
+struct DatiStampa {
+    Meta meta;
+    OrarioCorretto orario;  ///< as the calculation took it
+    std::vector<RigaStampata> righe;
+    std::array<QString, 7> fine;  ///< as `TestiFine`; empty texts without any driving
+    TestiTotali totali;           ///< of the schedule, by road type
+};
+
+/// What is printed of a trip and its schedule.
 DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia);
 
 }  // namespace cronovia

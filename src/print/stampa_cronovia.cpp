@@ -19,25 +19,24 @@ constexpr double kScarto = 0.5;        // that keeps two texts apart
 using enum Allineamento;
 
 struct ColonnaStampa {
-    QStringView intestazione;
     Allineamento allineamentoIntestazione;
     Colonna valore;
     Allineamento allineamentoValore;
 };
 
 constexpr std::array<ColonnaStampa, kColonneStampate> kColonne = {{
-    {u"N.", Centro, Colonna::Numero, Destra},
-    {u"Localita", Sinistra, Colonna::Tappa, Sinistra},
-    {u"N.Strada", Centro, Colonna::NumeroStrada, Centro},
-    {u"Km", Centro, Colonna::Km, Destra},
-    {u"Ts", Centro, Colonna::TipoStrada, Centro},
-    {u"", Destra, Colonna::KmProgressivi, Destra},
-    {u"Tempo", Centro, Colonna::Tempo, Centro},
-    {u"Sosta", Centro, Colonna::Sosta, Centro},
-    {u"G.S.", Centro, Colonna::GiornoSettimana, Centro},
-    {u"Data", Centro, Colonna::Data, Centro},
-    {u"Ora", Centro, Colonna::Ora, Sinistra},
-    {u"Motivo/Note", Sinistra, Colonna::Note, Sinistra},
+    {Centro, Colonna::Numero, Destra},
+    {Sinistra, Colonna::Tappa, Sinistra},
+    {Centro, Colonna::NumeroStrada, Centro},
+    {Centro, Colonna::Km, Destra},
+    {Centro, Colonna::TipoStrada, Centro},
+    {Centro, Colonna::KmProgressivi, Destra},
+    {Centro, Colonna::Tempo, Centro},
+    {Centro, Colonna::Sosta, Centro},
+    {Centro, Colonna::GiornoSettimana, Centro},
+    {Centro, Colonna::Data, Centro},
+    {Centro, Colonna::Ora, Sinistra},
+    {Sinistra, Colonna::Note, Sinistra},
 }};
 
 QString LavoroCronovia() { return u"Stampa della cronovia"_s; }
@@ -51,9 +50,26 @@ std::optional<QString> CodiceDiario(const QString& valore) {
     return lettere;
 }
 
-bool InEvidenza(const QString& valore) {
-    const QString scritto = valore.trimmed();
-    return CodiceDiario(scritto) || (!scritto.isEmpty() && u">\\a\\*\\"_s.contains(scritto.front()));
+// What a person marked: with a code for the logbook, or with a first character that stands for "look here".
+bool Segnato(const QString& scritto) {
+    return CodiceDiario(scritto) || (!scritto.isEmpty() && u">\\a*"_s.contains(scritto.front()));
+}
+
+// Type of the texts: the locality larger, what one looks for bold.
+Carattere CarattereDi(Colonna colonna, const RigaStampata& riga, const QString& testo, bool sostaDopo) {
+    const bool localita = colonna == Colonna::Tappa;
+    const bool note = colonna == Colonna::Note;
+    const bool luogoDiSosta = localita && (riga.genere == GenereRiga::Sosta || riga.genere == GenereRiga::Guida);
+    Carattere carattere{Famiglia::Times, localita ? 9 : 8};
+    if (luogoDiSosta || ((localita || note) && Segnato(testo))) {
+        carattere = {Famiglia::Times, 8, true};
+    } else if (colonna == Colonna::Sosta) {
+        carattere.grassetto = riga.genere == GenereRiga::Guida;
+    } else if (note) {
+        carattere.grassetto = riga.riposo;
+    }
+    if (localita && sostaDopo && !CodiceDiario(testo)) carattere.famiglia = Famiglia::Arial;
+    return carattere;
 }
 
 class StampaRighe {
@@ -62,7 +78,7 @@ class StampaRighe {
         : dati_(dati), foglio_(u"Cronovia: "_s + dati.meta.localita, piede, LavoroCronovia()) {}
 
     /// `sostaDopo`: a stop, or a visit, stands in the row that follows.
-    void Stampa(const RigaGriglia& riga, bool sostaDopo) {
+    void Stampa(const RigaStampata& riga, bool sostaDopo) {
         if (foglio_.PaginaPiena()) {
             StampaFinePagina();
             StampaIntestaPagina();
@@ -71,8 +87,8 @@ class StampaRighe {
             Traversa(foglio_.RigaStampa() - kAltezzaRiga + kSottoIlTesto, Tratto::Sottile, Bordo(15));
         }
         for (int i = 0; i < kColonneStampate; ++i) StampaValore(i, riga, sostaDopo);
-        StampaLimite(riga[Colonna::LimiteRitorno].trimmed());
-        StampaCodice(riga);
+        StampaLimite(riga.testi[Colonna::LimiteRitorno].trimmed());
+        StampaCodice(riga.testi);
         foglio_.Avanza(kAltezzaRiga);
     }
 
@@ -99,10 +115,9 @@ class StampaRighe {
                              carattere, allineamento});
     }
 
-    void StampaValore(int colonna, const RigaGriglia& riga, bool sostaDopo);
+    void StampaValore(int colonna, const RigaStampata& riga, bool sostaDopo);
     void StampaLocalita(const QString& testo, const Carattere& carattere, const QString& strada);
     void StampaRistretto(int colonna, const QString& testo, const Carattere& carattere, Allineamento allineamento);
-    QString TestoValore(Colonna colonna, const RigaGriglia& riga);
     void StampaLimite(const QString& limite);
     void StampaCodice(const RigaGriglia& riga);
 
@@ -147,44 +162,29 @@ void StampaRighe::StampaIntestazioni() {
     const Carattere grande{Famiglia::Times, 9, true};
     const Carattere piccolo{Famiglia::Times, 8, true};
     const double yPiccolo = foglio_.RigaDaBase(foglio_.BaseDaRiga(y, grande), piccolo);
+    const RigaGriglia testi = Intestazioni(Vista::Carta);
     for (int i = 0; i < kColonneStampate; ++i) {
         const ColonnaStampa& colonna = kColonne[static_cast<std::size_t>(i)];
-        foglio_.StampaTesto(
-            {colonna.intestazione.toString(), y, Bordo(i), Bordo(i + 1), grande, colonna.allineamentoIntestazione});
-        if (colonna.valore == Colonna::KmProgressivi) {
-            foglio_.StampaTesto({u"Pr/km"_s, yPiccolo, Bordo(i) - 5, Bordo(i + 1) + 5, piccolo, Centro});
-        }
+        const bool larga = colonna.valore == Colonna::KmProgressivi;  // wider than the column of its numbers
+        const double oltre = larga ? 5 : 0;
+        foglio_.StampaTesto({testi[colonna.valore], larga ? yPiccolo : y, Bordo(i) - oltre, Bordo(i + 1) + oltre,
+                             larga ? piccolo : grande, colonna.allineamentoIntestazione});
     }
-    foglio_.StampaTesto({u"Limite ritorno"_s, yPiccolo, Bordo(12), Bordo(15), piccolo, Centro});
+    foglio_.StampaTesto({testi[Colonna::LimiteRitorno], yPiccolo, Bordo(12), Bordo(15), piccolo, Centro});
     Traversa(y + 1.1, Tratto::Spesso, Bordo(15));
 }
 
-// The day without its year, which stands in the header; the visit beside the stop where there is room for both.
-QString StampaRighe::TestoValore(Colonna colonna, const RigaGriglia& riga) {
-    if (colonna == Colonna::Data) return riga[colonna].trimmed().left(5);
-    if (colonna != Colonna::Sosta) return riga[colonna].trimmed();
-    const QString sosta = riga[Colonna::Sosta].trimmed();
-    const QString visita = riga[Colonna::Guida].trimmed();
-    if (sosta.isEmpty() || visita.isEmpty()) return sosta + visita;
-    const QString insieme = sosta + u' ' + visita;
-    return foglio_.Entra(insieme, {Famiglia::Times, 8}, Bordo(8) - Bordo(7)) ? insieme : sosta;
-}
-
-void StampaRighe::StampaValore(int colonna, const RigaGriglia& riga, bool sostaDopo) {
+void StampaRighe::StampaValore(int colonna, const RigaStampata& riga, bool sostaDopo) {
     const ColonnaStampa& descrizione = kColonne[static_cast<std::size_t>(colonna)];
-    const QString testo = TestoValore(descrizione.valore, riga);
-    const bool localita = descrizione.valore == Colonna::Tappa;
-    const bool note = descrizione.valore == Colonna::Note;
-    Carattere carattere{Famiglia::Times, localita ? 9 : 8};
-    if (descrizione.valore == Colonna::Sosta) carattere.grassetto = riga[Colonna::Sosta].trimmed().size() == 5;
-    if (note) carattere.grassetto = testo.contains("Riposo"_L1);
-    if ((localita || note) && InEvidenza(testo)) carattere = {Famiglia::Times, 8, true};
-    if (localita) {
-        if (sostaDopo && !CodiceDiario(testo)) carattere.famiglia = Famiglia::Arial;
-        return StampaLocalita(testo, carattere, riga[Colonna::NumeroStrada].trimmed());
+    QString testo = riga.testi[descrizione.valore].trimmed();
+    if (descrizione.valore == Colonna::Data) testo.truncate(5);  // the year stands in the header
+    const Carattere carattere = CarattereDi(descrizione.valore, riga, testo, sostaDopo);
+    if (descrizione.valore == Colonna::Tappa) {
+        return StampaLocalita(testo, carattere, riga.testi[Colonna::NumeroStrada].trimmed());
     }
     // Road numbers, and what else would run into the column behind: notes, and the hour that a mark precedes.
-    if (note || descrizione.valore == Colonna::NumeroStrada || descrizione.valore == Colonna::Ora) {
+    if (descrizione.valore == Colonna::Note || descrizione.valore == Colonna::NumeroStrada ||
+        descrizione.valore == Colonna::Ora) {
         return StampaRistretto(colonna, testo, carattere, descrizione.allineamentoValore);
     }
     StampaNellaColonna(colonna, testo, carattere, descrizione.allineamentoValore);
@@ -239,8 +239,8 @@ Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progre
     int pagina = 0;
     for (std::size_t i = 0; i < totale; ++i) {
         progress.Advance(static_cast<double>(i + 1), static_cast<double>(totale));
-        if (dati.righe[i][Colonna::Tappa].trimmed().isEmpty()) continue;
-        const RigaGriglia& dopo = dati.righe[std::min(i + 1, totale - 1)];
+        if (dati.righe[i].testi[Colonna::Tappa].trimmed().isEmpty()) continue;
+        const RigaGriglia& dopo = dati.righe[std::min(i + 1, totale - 1)].testi;
         stampa.Stampa(dati.righe[i], !dopo[Colonna::Sosta].trimmed().isEmpty());
         if (stampa.NumeroPagina() == pagina) continue;
         pagina = stampa.NumeroPagina();

@@ -51,11 +51,12 @@ void RifiutaFileTabella(const QString& path, const QString& cartella) {
 
 QByteArray TabellaCronovia(const DatiStampa& dati) {
     QString testo = SuUnaRiga(dati.meta.localita) + kFineRiga + kFineRiga;
-    testo +=
-        u"Num.\tLocalita\tN.Str\tKm.\tTs\tPr/Km\tTempo\tSosta\tG.Sett\tData\tOra\tMotivo/Note\tLimite per ritorno"_s +
-        kFineRiga;
-    for (const RigaGriglia& riga : dati.righe) {
-        if (!riga[Colonna::Tappa].trimmed().isEmpty()) testo += RigaTabella(riga);
+    const RigaGriglia intestazioni = Intestazioni(Vista::FileTabella);
+    QStringList scritte(intestazioni.begin(), intestazioni.end());
+    scritte.removeAll(QString());
+    testo += scritte.join(u'\t') + kFineRiga;
+    for (const RigaStampata& riga : dati.righe) {
+        if (!riga.testi[Colonna::Tappa].trimmed().isEmpty()) testo += RigaTabella(riga.testi);
     }
     return InWindows1252(testo).byte;
 }

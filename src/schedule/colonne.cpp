@@ -11,6 +11,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct Intestazione {
+    QStringView griglia;
+    QStringView file;
+    QStringView carta;
+};
+
+// By `Colonna`. In the table file the visits of the guide have none, so that the headings behind stand one further
+// left.
+constexpr std::array<Intestazione, kColonne> kIntestazioni = {{
+    {u"Num.", u"Num.", u"N."},
+    {u"Tappa", u"Localita", u"Localita"},
+    {u"Num. Strada", u"N.Str", u"N.Strada"},
+    {u"Km.", u"Km.", u"Km"},
+    {u"Ts", u"Ts", u"Ts"},
+    {u"Km/pr", u"Pr/Km", u"Pr/km"},
+    {u"Tempo", u"Tempo", u"Tempo"},
+    {u"Itinerario", u"Sosta", u"Sosta"},
+    {u"Guida", u"", u""},
+    {u"Gs", u"G.Sett", u"G.S."},
+    {u"Data", u"Data", u"Data"},
+    {u"Ore", u"Ora", u"Ora"},
+    {u"Note", u"Motivo/Note", u"Motivo/Note"},
+    {u"Limite ritorno", u"Limite per ritorno", u"Limite ritorno"},
+}};
+
 // Long enough that the hours of a leg need no days.
 constexpr Centesimi kGiornoDelleTratte = 9900_cent;
 
@@ -78,18 +103,20 @@ void ScriviGuida(const VoceGuida& voce, RigaGriglia& testi) {
 
 }  // namespace
 
-RigaGriglia IntestazioniItinerario() {
-    return {{u"Num."_s, u"Tappa"_s, u"Num. Strada"_s, u"Km."_s, u"Ts"_s, u"Km/pr"_s, u"Tempo"_s, u"Itinerario"_s,
-             u"Guida"_s, u"Gs"_s, u"Data"_s, u"Ore"_s, u"Note"_s, u"Limite ritorno"_s}};
-}
-
-RigaGriglia IntestazioniCronovia() {
-    RigaGriglia intestazioni = IntestazioniItinerario();
-    intestazioni[Colonna::Sosta] = u"Sosta"_s;
+RigaGriglia Intestazioni(Vista vista) {
+    RigaGriglia intestazioni;
+    for (std::size_t i = 0; i < kColonne; ++i) {
+        const Intestazione& intestazione = kIntestazioni[i];
+        const bool cronovia = vista == Vista::Cronovia && static_cast<Colonna>(i) == Colonna::Sosta;
+        intestazioni[i] = (vista == Vista::Carta                     ? intestazione.carta
+                           : vista == Vista::FileTabella || cronovia ? intestazione.file
+                                                                     : intestazione.griglia)
+                              .toString();
+    }
     return intestazioni;
 }
 
-RigaGriglia ColonneTappa(int numero, const Tappa& tappa, const TempiTappa& tempi) {
+RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& tempi) {
     RigaGriglia testi;
     testi[Colonna::Numero] = QString::number(numero);
     testi[Colonna::Tappa] = tappa.localita;
@@ -103,7 +130,7 @@ RigaGriglia ColonneTappa(int numero, const Tappa& tappa, const TempiTappa& tempi
     return testi;
 }
 
-RigaGriglia ColonneCronovia(const Cronovia& cronovia, std::size_t posizione) {
+RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione) {
     const RigaCronovia& riga = cronovia.righe[posizione];
     const RigaCalcolo& tabella = cronovia.tabella.righe[static_cast<std::size_t>(riga.tappa)];
     RigaGriglia testi;
@@ -127,10 +154,10 @@ RigaGriglia ColonneCronovia(const Cronovia& cronovia, std::size_t posizione) {
     return testi;
 }
 
-std::vector<RigaGriglia> ColonneCronovia(const Cronovia& cronovia) {
+std::vector<RigaGriglia> TestiDellaCronovia(const Cronovia& cronovia) {
     std::vector<RigaGriglia> righe;
     righe.reserve(cronovia.righe.size());
-    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) righe.push_back(ColonneCronovia(cronovia, i));
+    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) righe.push_back(TestiDellaRiga(cronovia, i));
     return righe;
 }
 

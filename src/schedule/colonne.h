@@ -1,4 +1,5 @@
-// The columns of the main grid: the one place where stages and schedule rows become texts.
+// The columns of the main grid: the one place where stages and schedule rows become texts, and where columns have
+// their headings.
 #pragma once
 
 #include <QString>
@@ -12,20 +13,20 @@
 namespace cronovia {
 
 enum class Colonna {
-    Numero,
-    Tappa,
-    NumeroStrada,
-    Km,
-    TipoStrada,
-    KmProgressivi,
-    Tempo,
-    Sosta,
-    Guida,
-    GiornoSettimana,
-    Data,
-    Ora,
-    Note,
-    LimiteRitorno,
+    Numero,         ///< of the row, from 1
+    Tappa,          ///< locality; in the schedule "verso: X" on the way there, "a: X" at a stop, " > text" of the guide
+    NumeroStrada,   ///< road numbers, as typed
+    Km,             ///< of the stage or piece, "1.234"; empty for 0
+    TipoStrada,     ///< letter of the road's type
+    KmProgressivi,  ///< from the start, "12.345"
+    Tempo,          ///< driving time, "hh:mm", hours beyond 24 too
+    Sosta,          ///< "gg:hh:mm" in visiting days, a leading "*" when the day ends; "hh:mm" of a guide entry
+    Guida,          ///< of the itinerary alone: visit times of the guide, "gg:hh:mm"
+    GiornoSettimana,  ///< "Lun"; this and what follows is of the schedule alone
+    Data,             ///< "gg/mm/aaaa", when the row ends
+    Ora,              ///< "hh:mm", empty at midnight; a leading "* " when whole rest days follow
+    Note,             ///< meals, night, rests; the kind of a stop; the type of a guide entry
+    LimiteRitorno,    ///< ">gg/mm-hh:mm" to drive on, "<gg/mm-hh:mm" to turn back
 };
 inline constexpr std::size_t kColonne = 14;
 
@@ -37,17 +38,19 @@ class RigaGriglia : public std::array<QString, kColonne> {
     const QString& operator[](Colonna colonna) const { return (*this)[static_cast<std::size_t>(colonna)]; }
 };
 
-/// Column headers; the one of the stop differs between the itinerary and the schedule.
-RigaGriglia IntestazioniItinerario();
-RigaGriglia IntestazioniCronovia();
+/// Where columns have headings: the grid with the itinerary or the schedule, the table file, paper.
+enum class Vista { Itinerario, Cronovia, FileTabella, Carta };
 
-/// A stage of the itinerary, `numero` counted from 1.
-RigaGriglia ColonneTappa(int numero, const Tappa& tappa, const TempiTappa& tempi);
+/// The headings, by `Colonna`; empty where the view has none.
+RigaGriglia Intestazioni(Vista vista);
 
-/// A row of the schedule, by its position from 0.
-RigaGriglia ColonneCronovia(const Cronovia& cronovia, std::size_t posizione);
+/// The texts of a stage of the itinerary, `numero` counted from 1.
+RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& tempi);
 
-/// All rows of the schedule.
-std::vector<RigaGriglia> ColonneCronovia(const Cronovia& cronovia);
+/// The texts of a row of the schedule, by its position from 0, which must be one of its rows.
+RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione);
+
+/// The texts of all rows of the schedule.
+std::vector<RigaGriglia> TestiDellaCronovia(const Cronovia& cronovia);
 
 }  // namespace cronovia

@@ -17,11 +17,12 @@ constexpr double kPrimaRiga = 50;  // above it: the header
 
 inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
 
-inline RigaGriglia Riga(const QString& localita, const QString& sosta = {}, const QString& note = {}) {
-    RigaGriglia riga;
-    riga[Colonna::Tappa] = localita;
-    riga[Colonna::Sosta] = sosta;
-    riga[Colonna::Note] = note;
+inline RigaStampata Riga(const QString& localita, const QString& sosta = {}, const QString& note = {},
+                         GenereRiga genere = GenereRiga::Tratto) {
+    RigaStampata riga{genere, note.contains(u"Riposo"_s), {}};
+    riga.testi[Colonna::Tappa] = localita;
+    riga.testi[Colonna::Sosta] = sosta;
+    riga.testi[Colonna::Note] = note;
     return riga;
 }
 
@@ -38,19 +39,22 @@ inline DatiStampa Viaggio(int righe) {
     dati.totali.traghetti = u"2"_s;
     for (int i = 1; i <= righe; ++i) {
         dati.righe.push_back(Riga(u"Tappa n%1x"_s.arg(i)));
-        dati.righe.back()[Colonna::Numero] = QString::number(i);
+        dati.righe.back().testi[Colonna::Numero] = QString::number(i);
     }
     return dati;
 }
 
-inline DatiStampa CapoNord() {
+/// The schedule of trip 1 of an exchange file.
+inline DatiStampa DallArchivio(const QString& path) {
     const CartellaDiProva cartella;
     Sessione sessione(cartella.Percorso());
     Progress progress;
-    ImportaMete({sessione.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/capo-nord.iei"), {}}, progress);
+    ImportaMete({sessione.Archivio(), path, {}}, progress);
     const MetaAperta aperta = sessione.ApriMeta(u"1"_s);
     return PreparaStampa(aperta.meta, *sessione.Calcola(aperta, {}, progress).cronovia);
 }
+
+inline DatiStampa CapoNord() { return DallArchivio(QStringLiteral(CRONOVIA_EXAMPLES "/capo-nord.iei")); }
 
 inline Stampato Stampa(const DatiStampa& dati) {
     Progress progress;

@@ -72,7 +72,7 @@ TEST_F(CalcolaCronoviaTest, WithoutKilometresDoesNotScale) {
     meta_.giorniAdeguamento = 5;
     const EsitoCalcolo esito = Calcola();
     EXPECT_EQ(esito.messaggio, u"Elaborazione impossibile! (tentativi effettuati n. 1)"_s);
-    EXPECT_EQ(ColonneCronovia(*esito.cronovia, 0)[Colonna::Sosta], u"02:00:00"_s);
+    EXPECT_EQ(TestiDellaRiga(*esito.cronovia, 0)[Colonna::Sosta], u"02:00:00"_s);
     for (const QString& testo : TestiFine(*esito.cronovia)) EXPECT_EQ(testo, QString());
 }
 

@@ -63,7 +63,7 @@ inline std::vector<RigaGriglia> Testi(const Viaggio& viaggio, const std::vector<
     cronovia.righe = righe;
     cronovia.orario = OrarioCorretto(viaggio.parametri);
     std::vector<RigaGriglia> testi;
-    for (std::size_t i = 0; i < righe.size(); ++i) testi.push_back(ColonneCronovia(cronovia, i));
+    for (std::size_t i = 0; i < righe.size(); ++i) testi.push_back(TestiDellaRiga(cronovia, i));
     return testi;
 }
 

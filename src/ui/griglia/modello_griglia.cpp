@@ -88,10 +88,10 @@ int ModelloGriglia::columnCount(const QModelIndex& parent) const {
 
 RigaGriglia ModelloGriglia::Testi(int riga) const {
     const auto posto = static_cast<std::size_t>(riga);
-    if (cronovia_) return ColonneCronovia(*cronovia_, posto);
+    if (cronovia_) return TestiDellaRiga(*cronovia_, posto);
     if (posto >= righe_.size()) return {};
     if (righe_[posto].localita.isEmpty()) return {{QString::number(riga + 1)}};
-    return ColonneTappa(riga + 1, righe_[posto], riepilogo_.tappe[posto]);
+    return TestiDellaTappa(riga + 1, righe_[posto], riepilogo_.tappe[posto]);
 }
 
 Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
@@ -139,7 +139,7 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
 QVariant ModelloGriglia::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal) return {};
     const auto colonna = static_cast<Colonna>(section);
-    if (role == Qt::DisplayRole) return (cronovia_ ? IntestazioniCronovia() : IntestazioniItinerario())[colonna];
+    if (role == Qt::DisplayRole) return Intestazioni(cronovia_ ? Vista::Cronovia : Vista::Itinerario)[colonna];
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AllineamentoColonna(colonna));
     return {};
 }

@@ -1,0 +1,114 @@
+// Pages as reviewed: tests/data/pagine holds what stands where on them, a line for each text, rule, box and picture, in
+// millimetres. After a change they are written anew by
+//     CRONOVIA_RIGENERA=1 build/dev/tests/print/print_test --gtest_filter='Pagine*'
+// which fails on purpose, so that it cannot pass unnoticed; look at a PDF file before keeping them.
+#include <gtest/gtest.h>
+
+#include "print/stampa_guida.h"
+#include "stampa.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+using prova::Riga;
+
+QString Posto(const QRectF& area) {
+    QStringList numeri;
+    for (const double n : {area.x(), area.y(), area.width(), area.height()}) numeri += QString::number(n, 'f', 1);
+    return numeri.join(u' ').replace("-0.0"_L1, "0.0"_L1);
+}
+
+QString Stile(const Carattere& c) {
+    static const QStringList famiglie = {u"times"_s, u"arial"_s, u"narrow"_s};
+    return famiglie[static_cast<int>(c.famiglia)] + QString::number(c.dimensione) + (c.grassetto ? u"b"_s : QString()) +
+           (c.corsivo ? u"i"_s : QString());
+}
+
+QString Testo(const Documento& documento) {
+    static const QStringList tratti = {u"sottile"_s, u"medio"_s, u"spesso"_s};
+    const auto tratto = [](Tratto t) { return tratti[static_cast<int>(t)]; };
+    QString testo = documento.titolo + u'\n';
+    for (const Pagina& pagina : documento.pagine) {
+        testo += u"\npagina\n"_s;
+        for (const Riquadro& r : pagina.riquadri) {
+            testo += u"riquadro %1 %2\n"_s.arg(Posto(r.area), r.sfondo ? u"sfondo"_s : tratto(r.tratto));
+        }
+        for (const Linea& l : pagina.linee) {
+            testo += u"linea %1 %2\n"_s.arg(Posto({l.x1, l.y1, l.x2 - l.x1, l.y2 - l.y1}), tratto(l.tratto));
+        }
+        for (const Immagine& i : pagina.immagini) testo += u"immagine %1 %2\n"_s.arg(Posto(i.area), i.sorgente);
+        for (const TestoPosto& t : pagina.testi) {
+            testo += u"%1 %2|%3\n"_s.arg(Posto({t.x, t.base, t.larghezza, 0}).chopped(4), Stile(t.carattere), t.testo);
+        }
+    }
+    return testo;
+}
+
+// Rows of every kind, and what a person can have written into them.
+DatiStampa Tipi() {
+    DatiStampa dati = prova::Viaggio(0);
+    const QString largo(30, u'W');
+    using enum GenereRiga;
+    dati.righe = {
+        Riga(u"BARI"_s),
+        Riga(u"a: Bari"_s, u"*00:01:30"_s, u"Visita/f.g."_s, Sosta),
+        Riga(u" > Museo"_s, u"01:30"_s, u"Interessante"_s, Guida),
+        Riga(u" > Gas"_s, {}, u"Gpl"_s, Guida),
+        Riga(u"verso: Aosta"_s, {}, u"Pranzo + Riposo 15''"_s),
+        Riga(u"*Ostia"_s),
+        Riga(u"P"_s, {}, {}, Tappa),
+        Riga(u"Ps Porto"_s),
+        Riga(u"a: Ps Porto"_s, u"00:00:45"_s, u"Visita"_s, Sosta),
+        Riga(u"CS Porto"_s, {}, u"cm Campi"_s),
+        Riga(u"  "_s, u"non stampata"_s),
+        Riga(largo, {}, largo),
+        Riga(largo, {}, u"Notte"_s),
+        Riga(largo),
+    };
+    for (std::size_t i : {0U, 4U, 12U}) {
+        RigaGriglia& testi = dati.righe[i].testi;
+        testi[Colonna::Numero] = u"9999"_s;
+        testi[Colonna::NumeroStrada] = i == 12 ? largo : u"A22/A13/SS12bis"_s;
+        testi[Colonna::Km] = u"1.234"_s;
+        testi[Colonna::TipoStrada] = u"A"_s;
+        testi[Colonna::KmProgressivi] = u"12.345"_s;
+        testi[Colonna::Tempo] = u"12:34"_s;
+        testi[Colonna::GiornoSettimana] = u"Sab"_s;
+        testi[Colonna::Data] = u"05/06/2027"_s;
+        testi[Colonna::Ora] = i == 4 ? u"* 22:00"_s : u"11:52"_s;
+        testi[Colonna::LimiteRitorno] = u">15/07-11:55"_s;
+    }
+    return dati;
+}
+
+Documento Guida(bool dettaglio) {
+    DatiStampaGuida dati{{false, dettaglio}, u"LUCCA"_s, {}};
+    for (int i = 1; i <= 7; ++i) {
+        const QString nome = i == 7 ? u"NOME DI LOCALITA MOLTO LUNGO"_s : u"LOC%1"_s.arg(i);
+        dati.localita.push_back({nome, {{i, nome, u"03"_s, u"Interessante"_s, u"Museo %1"_s.arg(i), {0, 1, i}}}});
+    }
+    dati.localita.back().voci.push_back({8, u"Nome"_s, u"09"_s, u"Gpl"_s, u"Museo "_s + QString(90, u'n'), {}});
+    Progress progress;
+    return StampaGuida(dati, prova::kPiede, progress);
+}
+
+TEST(Pagine, AreAsReviewed) {
+    const std::pair<const char*, Documento> casi[] = {
+        {"tipi", prova::Stampa(Tipi())},
+        {"cronovia", prova::Stampa(prova::DallArchivio(QStringLiteral(CRONOVIA_TEST_DATA "/journeys/politica_3.iei")))},
+        {"guida-nomi", Guida(false)},
+        {"guida-voci", Guida(true)}};
+    for (const auto& [nome, documento] : casi) {
+        const QString path = QStringLiteral(CRONOVIA_TEST_DATA "/pagine/%1.txt").arg(QString::fromLatin1(nome));
+        const QString testo = Testo(documento);
+        if (qEnvironmentVariableIsSet("CRONOVIA_RIGENERA")) {
+            prova::ScriviFile(path, testo.toUtf8());
+            ADD_FAILURE() << "written anew: " << nome;
+        }
+        EXPECT_EQ(QString::fromUtf8(prova::LeggiFile(path)).toStdString(), testo.toStdString()) << nome;
+    }
+}
+
+}  // namespace
+}  // namespace cronovia
