@@ -2,57 +2,38 @@
 
 #include <gtest/gtest.h>
 
-#include "support/prova.h"
+#include "righe.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-Tappa Riga(const QString& localita, const QString& strada = {}, int km = 0) {
-    Tappa tappa;
-    tappa.localita = localita;
-    tappa.numStrada = strada;
-    tappa.km = km;
-    if (km != 0) tappa.tipo = TipoStrada::Autostrada;
-    return tappa;
-}
+using prova::Righe;
+using prova::Testo;
 
-QString Nomi(const RigheItinerario& righe) {
-    QStringList nomi;
-    for (const Tappa& tappa : righe) nomi += tappa.localita.isEmpty() ? u"-"_s : tappa.localita;
-    return nomi.join(u' ');
-}
+const RigheItinerario kTre = Righe(u"A B/A1/90 C/A4/20/*"_s);
 
-const RigheItinerario kTre = {Riga(u"A"_s), Riga(u"B"_s, u"A1"_s, 90), Riga(u"C"_s, u"A4"_s, 20)};
-
-TEST(Modifiche, RowsOpenCloseAndAreOverwritten) {
-    EXPECT_EQ(Nomi(InserisciRigheItinerario(kTre, 1, 1)), u"- A B C"_s);
-    EXPECT_EQ(Nomi(InserisciRigheItinerario(kTre, 3, 2)), u"A B - - C"_s);
-    EXPECT_EQ(Nomi(CancellaRiga(kTre, 1)), u"B C"_s);
-    EXPECT_EQ(Nomi(CancellaRiga(kTre, 4)), u"A B C"_s);
-    EXPECT_EQ(Nomi(InserisceTappa(kTre, 2, {u"X"_s, {}, 5, TipoStrada::Locale, {}, false})), u"A X C"_s);
-    EXPECT_EQ(Nomi(InserisceTappa(kTre, 5, {u"X"_s, {}, 5, TipoStrada::Locale, {}, false})), u"A B C - X"_s);
-}
-
-TEST(Modifiche, AStageWithoutKilometresHasNoRoadType) {
-    const RigheItinerario righe = InserisceTappa(kTre, 2, {u"X"_s, {}, 0, TipoStrada::Locale, {1, 2, 15}, true});
-    EXPECT_EQ(righe[1].tipo, std::nullopt);
-    EXPECT_EQ(TestoSosta(righe[1].sosta, righe[1].fineGiorno), u"*01:02:15"_s);
-    EXPECT_EQ(TestoSosta({}, true), u"*"_s);
-}
-
-TEST(Modifiche, TheLastStageIsTheLastRowWithALocality) {
+TEST(Modifiche, TheVerbsThatChangeRows) {
+    const CampiTappa x{u"X"_s, u"S1"_s, 5, TipoStrada::Locale, {0, 0, 15}, true};
+    const CampiTappa senzaKm{u"X"_s, {}, 0, TipoStrada::Locale, {}, false};
+    for (const auto& [righe, attese] : std::vector<std::pair<RigheItinerario, QString>>{
+             {InserisciRigheItinerario(kTre, 1, 1), u"- A B/A1/90 C/A4/20/*"_s},
+             {InserisciRigheItinerario(kTre, 3, 2), u"A B/A1/90 - - C/A4/20/*"_s},
+             {CancellaRiga(kTre, 1), u"B/A1/90 C/A4/20/*"_s},
+             {CancellaRiga(kTre, 4), u"A B/A1/90 C/A4/20/*"_s},
+             {AzzeraSoste(kTre), u"A B/A1/90 C/A4/20"_s},
+             {InserisceTappa(kTre, 2, x), u"A X/S1/5/* C/A4/20/*"_s},
+             {InserisceTappa(kTre, 5, x), u"A B/A1/90 C/A4/20/* - X/S1/5/*"_s},
+             {InserisceTappa(kTre, 2, senzaKm), u"A X C/A4/20/*"_s},
+         }) {
+        EXPECT_EQ(Testo(righe), attese);
+    }
     EXPECT_EQ(NumeroTappe({}), 0);
-    EXPECT_EQ(NumeroTappe(InserisciRigheItinerario(kTre, 2, 3)), 6);
-    EXPECT_EQ(NumeroTappe(RigheItinerario{Riga(u"A"_s), Riga(u"  "_s)}), 1);
-}
-
-TEST(Modifiche, AFreeRowProposesTheRoadAboveAndALocalRoad) {
-    const CampiTappa libera = CampiDellaRiga(kTre, 4);
-    EXPECT_EQ(libera.localita, u""_s);
-    EXPECT_EQ(libera.numStrada, u"A4"_s);
-    EXPECT_EQ(libera.tipo, TipoStrada::Locale);
+    EXPECT_EQ(NumeroTappe(Righe(u"A - - B -"_s)), 4);
+    const CampiTappa libera = CampiDellaRiga(kTre, 4);  // proposes the road above, and a local one
+    EXPECT_EQ(libera, (CampiTappa{{}, u"A4"_s, 0, TipoStrada::Locale, {}, false}));
+    EXPECT_EQ(CampiDellaRiga(kTre, 3), (CampiTappa{u"C"_s, u"A4"_s, 20, TipoStrada::Autostrada, {0, 1, 30}, true}));
 }
 
 TEST(Modifiche, ProgressiveKilometresBecomeTheDifference) {

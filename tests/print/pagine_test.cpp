@@ -25,7 +25,7 @@ QString Stile(const Carattere& c) {
            (c.corsivo ? u"i"_s : QString());
 }
 
-QString Testo(const Documento& documento) {
+QString Testo(const Stampato& documento) {
     static const QStringList tratti = {u"sottile"_s, u"medio"_s, u"spesso"_s};
     const auto tratto = [](Tratto t) { return tratti[static_cast<int>(t)]; };
     QString testo = documento.titolo + u'\n';
@@ -45,10 +45,26 @@ QString Testo(const Documento& documento) {
     return testo;
 }
 
+void NienteSiTocca(const Pagina& pagina) {
+    for (auto posto = pagina.testi.begin(); posto != pagina.testi.end(); ++posto) {
+        EXPECT_GT(posto->x, 2) << posto->testo.toStdString();
+        EXPECT_LT(posto->x + posto->larghezza, 197) << posto->testo.toStdString();
+        for (auto altro = pagina.testi.begin(); altro != posto; ++altro) {
+            EXPECT_FALSE(prova::Corpo(*posto).intersects(prova::Corpo(*altro)))
+                << posto->testo.toStdString() << " on " << altro->testo.toStdString();
+        }
+    }
+}
+
 // Rows of every kind, and what a person can have written into them.
 DatiStampa Tipi() {
-    DatiStampa dati = prova::Viaggio(0);
     const QString largo(30, u'W');
+    DatiStampa dati = prova::Viaggio(0);
+    dati.meta.localita = largo;
+    dati.meta.nazione = QString(18, u'W');
+    dati.totali.km.fill(u"9.999.999"_s);
+    dati.totali.tempo.fill(u"99:23:59"_s);
+    dati.fine = {u"31"_s, u"12"_s, u"2099"_s, u"23"_s, u"59"_s, u"Mer"_s, u"36500"_s};
     using enum GenereRiga;
     dati.righe = {
         Riga(u"BARI"_s),
@@ -70,7 +86,7 @@ DatiStampa Tipi() {
         RigaGriglia& testi = dati.righe[i].testi;
         testi[Colonna::Numero] = u"9999"_s;
         testi[Colonna::NumeroStrada] = i == 12 ? largo : u"A22/A13/SS12bis"_s;
-        testi[Colonna::Km] = u"1.234"_s;
+        testi[Colonna::Km] = u"999"_s;
         testi[Colonna::TipoStrada] = u"A"_s;
         testi[Colonna::KmProgressivi] = u"12.345"_s;
         testi[Colonna::Tempo] = u"12:34"_s;
@@ -82,7 +98,7 @@ DatiStampa Tipi() {
     return dati;
 }
 
-Documento Guida(bool dettaglio) {
+Stampato Guida(bool dettaglio) {
     DatiStampaGuida dati{{false, dettaglio}, u"LUCCA"_s, {}};
     for (int i = 1; i <= 7; ++i) {
         const QString nome = i == 7 ? u"NOME DI LOCALITA MOLTO LUNGO"_s : u"LOC%1"_s.arg(i);
@@ -94,7 +110,7 @@ Documento Guida(bool dettaglio) {
 }
 
 TEST(Pagine, AreAsReviewed) {
-    const std::pair<const char*, Documento> casi[] = {
+    const std::pair<const char*, Stampato> casi[] = {
         {"tipi", prova::Stampa(Tipi())},
         {"cronovia", prova::Stampa(prova::DallArchivio(QStringLiteral(CRONOVIA_TEST_DATA "/journeys/politica_3.iei")))},
         {"guida-nomi", Guida(false)},
@@ -107,7 +123,9 @@ TEST(Pagine, AreAsReviewed) {
             ADD_FAILURE() << "written anew: " << nome;
         }
         EXPECT_EQ(QString::fromUtf8(prova::LeggiFile(path)).toStdString(), testo.toStdString()) << nome;
+        for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina);
     }
+    for (const Pagina& pagina : prova::Stampa(prova::CapoNord()).pagine) NienteSiTocca(pagina);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include "app/sessione.h"
 #include "exchange/importa_mete.h"
+#include "itinerary/itinerari.h"
 #include "schedule/colonne.h"
 #include "support/prova.h"
 
@@ -29,15 +30,22 @@ class Viaggi : public testing::Test {
   protected:
     // The archive holds the trip of one file at a time.
     MetaAperta Importa(const QString& path, const QString& codice) {
+        Transaction transaction(sessione_.Archivio());
         for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
             sessione_.Archivio().CancellaTabella(tabella, {}, progress_);
         }
+        transaction.Commit();
         ImportaMete({sessione_.Archivio(), path, {}}, progress_);
         return sessione_.ApriMeta(codice);
     }
 
     QString Risposta(const QString& path, const QString& codice) {
-        const MetaAperta aperta = Importa(path, codice);
+        MetaAperta aperta = Importa(path, codice);
+        const std::vector<Tappa> importate = aperta.tappe;
+        MemorizzaTappeItinerario(sessione_.Archivio(), codice, importate, OrarioCorretto(aperta.meta.parametri),
+                                 progress_);
+        aperta = sessione_.ApriMeta(codice);
+        EXPECT_EQ(aperta.tappe, importate) << "saved and read again";
         QString testo = codice + u'\n';
         for (std::size_t i = 0; i < aperta.tappe.size(); ++i) {
             testo += Riga(TestiDellaTappa(static_cast<int>(i) + 1, aperta.tappe[i], aperta.riepilogo.tappe[i]));
