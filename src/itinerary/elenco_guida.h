@@ -19,10 +19,12 @@ struct RigaGuida {
     std::optional<VoceGuida> voce;  ///< nothing on the locality's row
 };
 
+/// The columns of the guide list.
 enum class ColonnaGuida { Numero, Tappa, Sosta, Descrizione, Tempo, TipoNota };
 inline constexpr std::size_t kColonneGuida = 6;
 using TestiGuida = std::array<QString, kColonneGuida>;
 
+/// The headings of the columns.
 TestiGuida IntestazioniGuida();
 
 /// The texts of a row, `numero` counted from 1.
@@ -32,7 +34,7 @@ TestiGuida ColonneGuida(int numero, const RigaGuida& riga);
 /// the same. With each the stop of its first stage.
 struct LocalitaDellaMeta {
     std::vector<QString> nomi;
-    std::vector<QString> soste;
+    std::vector<QString> soste;  ///< "gg:hh:mm", as many as the names
 };
 LocalitaDellaMeta LocalitaDellItinerario(Archive& archive, const QString& codiceMeta);
 

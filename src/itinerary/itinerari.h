@@ -18,7 +18,7 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
 /// The stages of a trip in travel order. The guide's visit times stand at the first stage of their locality.
 std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario);
 
-/// Puts the guide's visit times anew, after stages changed.
+/// Puts the guide's visit times anew, after stages changed; a locality that occurs again gets none there.
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario);
 
 /// The stages with the guide's visit times added to their stops; a locality that occurs again gets none there. The ends
@@ -35,7 +35,8 @@ struct EsitoMemorizzazione {
 /// What the person is told when names were shortened.
 QString TestoNomiAccorciati(const EsitoMemorizzazione& esito);
 
-/// Replaces the stored itinerary of a trip, whole or not at all. Refused when it takes more than 9,999 rows.
+/// Replaces the stored itinerary of a trip, whole or not at all; free rows are left out. A `Failure` when it takes more
+/// than 9,999 rows.
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                                              const OrarioCorretto& orario, Progress& progress);
 

@@ -11,6 +11,7 @@
 
 namespace cronovia {
 
+/// An itinerary with its free rows, as the grid shows it.
 using RigheItinerario = std::vector<Tappa>;
 
 /// Number of the last row that holds a stage; 0 for an empty itinerary.
@@ -20,9 +21,9 @@ int NumeroTappe(std::span<const Tappa> righe);
 struct CampiTappa {
     QString localita;
     QString numStrada;
-    int km = 0;
+    int km = 0;  ///< as typed: of the stage, or progressive ones (`KmDellaTappa`)
     std::optional<TipoStrada> tipo;
-    Durata sosta;
+    Durata sosta;  ///< days are visiting days
     bool fineGiorno = false;
     bool kmDigitati = false;  ///< the kilometres were typed since the row was shown: progressive ones are meant
 
@@ -41,13 +42,13 @@ int KmDellaTappa(int km, std::int64_t precedenti, int riga);
 /// Why the fields cannot become row `riga`, in the order in which the person reads it; empty when they can.
 std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga);
 
-/// Writes a stage into a row, beyond the last row too.
+/// Writes a stage into a row, beyond the last row too, with free rows between; without kilometres it has no road type.
 RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa& campi);
 
-/// Opens free rows before a row.
+/// Opens `numero` free rows before a row; beyond the last row at the end.
 RigheItinerario InserisciRigheItinerario(RigheItinerario righe, int riga, int numero);
 
-/// Takes a row away.
+/// Takes a row away; nothing when there is none with that number.
 RigheItinerario CancellaRiga(RigheItinerario righe, int riga);
 
 /// Takes all stops away, with the ends of days.

@@ -16,11 +16,13 @@ namespace cronovia {
 /// Totals by road type; the last element is all types together.
 struct Totali {
     std::array<std::int64_t, kTipiStrada + 1> km{};
-    std::array<Centesimi, kTipiStrada + 1> tempo{};
-    int traghetti = 0;
+    std::array<Centesimi, kTipiStrada + 1> tempo{};  ///< driving alone
+    int traghetti = 0;                               ///< legs by ferry, with kilometres or without
 
+    /// Adds a driven piece to its type and to all types.
     void Aggiunge(TipoStrada tipo, int kmTratto, Centesimi tempoTratto);
 };
+/// The place of all types together.
 inline constexpr std::size_t kTuttiITipi = kTipiStrada;
 
 /// The totals as their boxes show them; empty where there is nothing. Times are "gg:hh:mm" with days of driving.
@@ -29,16 +31,18 @@ struct TestiTotali {
     std::array<QString, kTipiStrada + 1> tempo;
     QString traghetti;
 };
+/// `guidaGiorno` is the driving time of one day.
 TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno);
 
 /// What one leg adds up to.
 struct TempiTappa {
-    std::int64_t kmProgressivi = 0;
+    std::int64_t kmProgressivi = 0;  ///< from the start to the end of the leg
     std::optional<Centesimi> tempo;  ///< nothing without kilometres or without a speed for its road
 
     friend bool operator==(const TempiTappa&, const TempiTappa&) = default;
 };
 
+/// What an itinerary adds up to.
 struct RiepilogoItinerario {
     std::vector<TempiTappa> tappe;  ///< as many as the stages
     Totali totali;
@@ -47,10 +51,12 @@ struct RiepilogoItinerario {
     int giorniAdeguamento = 0;  ///< the days wanted, raised to the least ones
 };
 
+/// Adds up all rows; a free row has a leg of 0 km. `giorniAdeguamento` are the days wanted, 0 for as many as needed.
 RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                              int giorniAdeguamento);
 
-/// The trip lengths on offer: 0 for "as many as needed", then from the least days on in widening steps.
+/// The trip lengths on offer: 0 for "as many as needed", then 31 from the least days on, from 30 to 100 in steps of 5,
+/// from 110 to 200 in tens; only 0 without kilometres.
 std::vector<int> GiorniProposti(const RiepilogoItinerario& riepilogo);
 
 /// The first road type that a stage uses although its average speed is 0; nothing when all is well.

@@ -11,7 +11,7 @@ namespace cronovia {
 
 /// One stage: the locality reached, the road to it, the stop there. The first stage is the departure place.
 struct Tappa {
-    QString localita;
+    QString localita;                ///< empty in a free row
     QString numStrada;               ///< road numbers; a text with "TRAGH" is a ferry leg
     int km = 0;                      ///< from the previous stage
     std::optional<TipoStrada> tipo;  ///< nothing when blank; counts as a local road then
@@ -36,7 +36,7 @@ QString LetteraTipoStrada(std::optional<TipoStrada> tipo);
 /// The planned stop as the itinerary shows it: "gg:hh:mm", with a leading "*" when the day ends.
 QString TestoSosta(const Durata& sosta, bool fineGiorno);
 
-/// Driving time in whole hundredths, km at km/h, rounded half up. The speed must not be 0.
+/// Driving time in whole hundredths of an hour, km at km/h, rounded half up. The speed must not be 0.
 Centesimi TempoDiGuida(int km, int mediaKm);
 
 }  // namespace cronovia

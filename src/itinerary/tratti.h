@@ -23,7 +23,7 @@ EsitoTratto Ritorno(std::span<const Tappa> righe);
 /// Rows of the trip that is copied from, `da` first; `da` beyond `a` is the stretch driven the other way.
 struct Percorso {
     int da = 1;
-    int a = 1;
+    int a = 1;  ///< included
 
     friend bool operator==(const Percorso&, const Percorso&) = default;
 };

@@ -25,12 +25,13 @@ inline constexpr double kRientroCentro = 1;
 /// How far a text may reach over its column.
 inline constexpr double kEccedenza = 2;
 
+/// Where a text stands in its column.
 enum class Allineamento { Sinistra, Centro, Destra };
 
 /// A text for a column: its bottom line and the two borders of the column.
 struct TestoColonna {
     QString testo;
-    double y = 0;
+    double y = 0;  ///< millimetres, as the borders
     double x1 = 0;
     double x2 = 0;
     Carattere carattere;
@@ -43,17 +44,21 @@ struct PieDiPagina {
     QString destra;  ///< text at the right margin: the window's title
 };
 
+/// Writes a document from top to bottom. Lengths are millimetres of the page model. Texts and rules need an open page.
 class Foglio {
   public:
+    /// `titolo` of the document; `lavoro`: what painting it is called, the title when empty.
     Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro = {});
 
     /// Bottom line of the texts being written; beyond any page when none is open.
     [[nodiscard]] int RigaStampa() const { return rigaStampa_; }
+    /// Goes to a line, or on by so much.
     void RigaStampa(int riga) { rigaStampa_ = riga; }
     void Avanza(int millimetri) { rigaStampa_ += millimetri; }
     [[nodiscard]] bool PaginaAperta() const { return rigaStampa_ < kNessunaPagina; }
     /// The next line needs a new page.
     [[nodiscard]] bool PaginaPiena() const { return rigaStampa_ > kUltimaRiga; }
+    /// Of the page being written, from 1; 0 before the first.
     [[nodiscard]] int NumeroPagina() const { return static_cast<int>(documento_.pagine.size()); }
 
     /// Opens a page whose first line has its bottom there.
@@ -79,9 +84,10 @@ class Foglio {
     /// The longest beginning of the text that is narrower than that.
     QString Tagliato(const QString& testo, const Carattere& carattere, double larghezza);
 
+    /// A rule or a box of the open page.
     void Traccia(const Linea& linea) { PaginaCorrente().linee.push_back(linea); }
     void Traccia(const Riquadro& riquadro) { PaginaCorrente().riquadri.push_back(riquadro); }
-    /// The program's picture.
+    /// The program's picture, within that area of the open page.
     void StampaLogo(const QRectF& area);
 
     /// Ends the page, if one is open: the date under its last line and the text of the window at the right margin, then

@@ -31,6 +31,7 @@ class FontStampa {
 /// Measures texts, in millimetres.
 class Misure {
   public:
+    /// How far the text takes the pen, blanks at its ends with it.
     double Larghezza(const QString& testo, const Carattere& carattere);
     /// From the baseline to the bottom of a line, which has the leading below it.
     double Discesa(const Carattere& carattere);

@@ -11,6 +11,7 @@ namespace cronovia {
 /// Families of the printouts: "Times New Roman", "Arial" and "Arial Narrow", or fonts of the same metrics.
 enum class Famiglia : std::uint8_t { Times, Arial, ArialNarrow };
 
+/// A type in its size and style.
 struct Carattere {
     Famiglia famiglia = Famiglia::Times;
     int dimensione = 8;  ///< points
@@ -29,8 +30,10 @@ struct TestoPosto {
     double larghezza = 0;  ///< as measured
 };
 
+/// How thick a rule is; thin ones are grey.
 enum class Tratto : std::uint8_t { Sottile, Medio, Spesso };
 
+/// A straight rule between two points.
 struct Linea {
     double x1 = 0;
     double y1 = 0;
@@ -46,11 +49,13 @@ struct Riquadro {
     bool sfondo = false;
 };
 
+/// A picture in its place.
 struct Immagine {
     QRectF area;
     QString sorgente;  ///< a file in SVG; drawn within the area, its proportions kept
 };
 
+/// One sheet; painted in the order of the lists.
 struct Pagina {
     std::vector<Riquadro> riquadri;
     std::vector<Linea> linee;

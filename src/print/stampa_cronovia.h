@@ -16,7 +16,9 @@ inline constexpr std::array<int, 16> kBordiCronovia = {5,   11,  71,  86,  94,  
 /// Where the frames and rules begin: left of the first border, for numbers reach over it.
 inline constexpr double kSinistraCronovia = 2;
 
-/// The pages of a schedule; none when no row is filled.
+/// The pages of a schedule; none when no row has a locality. Bold are stops, guide entries, rests and what a person
+/// marked in a name: with a code of the logbook (Ps, Cs, Rs, Cm, Gp), which also gets a box to tick, or with a first
+/// character of `> \ a *`.
 Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress);
 
 /// The trip's characteristics in the page header, from the open page's line on; leaves the line at their end.

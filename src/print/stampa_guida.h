@@ -11,6 +11,7 @@
 
 namespace cronovia {
 
+/// What of the guide is printed.
 struct OpzioniStampaGuida {
     bool tutte = false;      ///< all localities of the guide; else those that the trip passes
     bool dettaglio = false;  ///< with their entries
@@ -34,7 +35,7 @@ struct DatiStampaGuida {
 DatiStampaGuida PreparaStampaGuida(Archive& archive, const QString& codiceMeta, const QString& destinazione,
                                    const OpzioniStampaGuida& opzioni);
 
-/// The pages; none without localities.
+/// The pages; none without localities. Texts too wide for their column become smaller, down to the sheet's floor.
 Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress);
 
 /// What is said when there are no localities.

@@ -11,6 +11,7 @@
 
 namespace cronovia {
 
+/// A print run; `dati` must outlive it.
 struct RichiestaStampa {
     const DatiStampa& dati;
     PieDiPagina piede;

@@ -16,15 +16,18 @@ namespace cronovia {
 /// The passes made at most to fit a trip to its days.
 inline constexpr int kMassimoTentativi = 11;
 
+/// What a calculation came to.
 struct EsitoCalcolo {
     std::optional<Cronovia> cronovia;  ///< nothing when the person stopped the calculation
     int tentativi = 0;                 ///< passes made
-    QString messaggio;                 ///< closing message, empty when no days were wanted
+    QString messaggio;                 ///< closing message for the person; empty when no days were wanted
 };
 
-/// Computes the schedule of a trip with the start, the parameters and `giorniAdeguamento` of `meta`. When days are
-/// wanted, the stops are scaled from pass to pass until the trip takes that long. A `Failure` names what is missing:
-/// the start date, the speed of a road type in use, visiting hours.
+/// Computes the schedule of a trip with the start, the parameters and `giorniAdeguamento` of `meta`, whose timetable is
+/// corrected here. When days are wanted and the stages have kilometres, all stops are scaled before each pass by
+/// days wanted / days of the pass before, cut to three decimals, until the trip takes that long; before the first pass
+/// its days are guessed from driving and stops. After `kMassimoTentativi` the last pass stays. A `Failure` names what
+/// is missing: the start date, the speed of a road type in use, visiting hours.
 EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress);
 
 }  // namespace cronovia

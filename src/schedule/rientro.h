@@ -11,8 +11,10 @@ namespace cronovia {
 
 /// Marks the rows of a finished schedule. First from its end (`data`, `ora`: the clock there) upwards: each driving row
 /// gets the latest moment at which, driving on without stops, the trip still ends when the schedule ends. Then, with
-/// the clock that reached the top, downwards: rows from which turning back at once still reaches home in time get that
-/// latest moment instead, until the first row whose mark's day, with the row's own hour, is not before the clock.
+/// the clock that reached the top and the meals that are still to come by it, downwards: rows from which turning back
+/// at once still reaches home in time get that latest moment instead, until the first row whose mark's day, with the
+/// row's own hour, is not before the clock. Times count as the rows show them, to the minute; both ways the clock runs
+/// backwards through meals and nights.
 void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const OrarioCorretto& orario,
                   Progress& progress);
 

@@ -14,6 +14,7 @@
 
 namespace cronovia {
 
+/// What a row tells of.
 enum class GenereRiga : std::uint8_t {
     Tappa,   ///< a stage without driving or stop: only its name
     Tratto,  ///< a driving piece
@@ -28,11 +29,12 @@ constexpr bool ConMomento(GenereRiga genere) { return genere == GenereRiga::Trat
 struct Eventi {
     bool pranzo : 1 = false;
     bool cena : 1 = false;
-    bool notte : 1 = false;
-    bool riposo : 1 = false;
+    bool notte : 1 = false;         ///< driving goes on the next morning
+    bool riposo : 1 = false;        ///< one short rest or several
     bool notteTardiva : 1 = false;  ///< the night begins only after all this, because it ended past the night hour
 };
 
+/// Why a row stops; none: it does not.
 enum class Motivo : std::uint8_t { Nessuno, Visita, VisitaFineGiorno, TraghettoVisita };
 
 /// The latest moment of being here and still reaching the end in time.
@@ -42,6 +44,7 @@ struct LimiteRitorno {
     Centesimi ora;
 };
 
+/// A row of the schedule. What does not belong to its kind is empty or 0.
 struct RigaCronovia {
     GenereRiga genere = GenereRiga::Tratto;
     bool verso = false;       ///< the leg goes on after this piece
@@ -76,7 +79,8 @@ struct Cronovia {
     OrarioCorretto orario;  ///< as the last pass took it
 };
 
-/// Day, month, year, hour, minutes, weekday and number of days of the trip's end; empty without any driving.
+/// Day, month, year, hour, minutes, weekday and number of days of the trip's end, as "05", "07", "2027", "17", "35",
+/// "Lun" and "10"; empty texts without any driving.
 std::array<QString, 7> TestiFine(const Cronovia& cronovia);
 
 }  // namespace cronovia

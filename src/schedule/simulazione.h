@@ -10,26 +10,28 @@
 
 namespace cronovia {
 
+/// What one pass works on; all of it must outlive the pass.
 struct RichiestaPassata {
     const TabellaCalcolo& tabella;
-    std::span<const Durata> soste;  ///< the stop of each stage, as the pass before left it
+    std::span<const Durata> soste;  ///< the stop of each stage, as the pass before left it; as many as the table's rows
     NumeroGiorno dataPartenza;
-    Centesimi oraPartenza;
+    Centesimi oraPartenza;  ///< time of day
     const OrarioCorretto& orario;
-    float fattoreSoste = 1;  ///< scales every stop
+    float fattoreSoste = 1;  ///< scales every stop; 0 leaves none
 };
 
+/// What one pass came to.
 struct Passata {
-    std::vector<RigaCronovia> righe;
-    std::vector<Durata> soste;  ///< after scaling
+    std::vector<RigaCronovia> righe;  ///< without marks of the return
+    std::vector<Durata> soste;        ///< after scaling, as many as the table's rows; where the next pass starts from
     std::optional<FineViaggio> fine;
-    Totali totali;
+    Totali totali;      ///< of what was driven, piece by piece: times may differ from the itinerary's by rounding
     NumeroGiorno data;  ///< the clock where the simulation ended
     Centesimi ora;
     bool interrotta = false;  ///< a stop was requested; nothing else counts then
 };
 
-/// Tolerance around meals and the night, in hundredths.
+/// How near to its hour a meal or the night is taken, in hundredths of an hour: a short rest and one more, at least 10.
 int Tolleranza(const OrarioCorretto& orario);
 
 /// Walks the stages on a clock that starts with the trip. Every road type in use needs a speed, the visiting hours must

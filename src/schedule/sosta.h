@@ -20,20 +20,25 @@ struct Orologio {
     void NuovoGiorno(Centesimi ripresa);
 };
 
+/// A stop to be made.
 struct RichiestaSosta {
-    Durata sosta;  ///< before scaling; its days are visiting days
-    bool fineGiorno = false;
-    bool traghetto = false;
-    float fattore = 1;
+    Durata sosta;             ///< before scaling; its days are visiting days
+    bool fineGiorno = false;  ///< the journey goes on the next morning
+    bool traghetto = false;   ///< the average time of a ferry comes on top, not scaled
+    float fattore = 1;        ///< what the stop is multiplied by; no stop grows beyond 999 visiting days
 };
 
+/// The clock after a stop.
 struct EsitoSosta {
     Orologio orologio;
     Motivo motivo = Motivo::Nessuno;  ///< none: nothing happened, the clock stands as before
     Durata sosta;                     ///< after scaling, without the ferry; what the next pass starts from
 };
 
-/// Takes the clock through a stop. The visiting hours must not be empty.
+/// Takes the clock through a stop: visits wait for the beginning of the visiting hours, after their end for the next
+/// day, and fill as many days as they take; within 2 hundredths of the end the day's visits are over. Meals whose hour
+/// passed meanwhile count as taken. A stop of a visiting day or more, with its ferry, counts as a rest. The end of the
+/// day alone, without stop or ferry, does nothing. The visiting hours must not be empty.
 EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio);
 
 }  // namespace cronovia

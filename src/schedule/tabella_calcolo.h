@@ -22,12 +22,15 @@ struct RigaCalcolo {
     std::shared_ptr<const VociGuida> voci;  ///< guide entries to list at this stage; never null
 };
 
+/// The stages of a calculation.
 struct TabellaCalcolo {
-    std::vector<RigaCalcolo> righe;
-    Centesimi totaleSoste;  ///< sum of all retained stops
+    std::vector<RigaCalcolo> righe;  ///< one for each stage with a locality, in travel order
+    Centesimi totaleSoste;           ///< sum of all retained stops
 };
 
-/// Joins the stages with the guide and applies the stop policy. A locality gets its guide time at its first stage only.
+/// Joins the stages with the guide and applies the stop policy. A locality gets its guide time at its first stage only,
+/// its entries at every one. Where neither itinerary nor guide has a stop, every policy leaves the end of the day as it
+/// is; else the guide's alone and no stops at all take it away.
 TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                                 LettoreGuida& guida, Progress& progress);
 

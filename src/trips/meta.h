@@ -15,6 +15,7 @@ namespace cronovia {
 enum class TipoStrada { Autostrada, SuperStrada, Principale, Locale };
 inline constexpr int kTipiStrada = 4;
 
+/// The place of a type in such an array, 0 to 3.
 constexpr std::size_t Indice(TipoStrada tipo) { return static_cast<std::size_t>(tipo); }
 
 /// "Autostrada", "SuperStrada", "Principale" or "Locale"; the first letter is the type's letter.
@@ -51,21 +52,22 @@ struct ParametriViaggio {
     friend bool operator==(const ParametriViaggio&, const ParametriViaggio&) = default;
 };
 
-/// A trip ("mèta").
+/// A trip ("mèta"), as typed or stored: nothing in it is corrected yet.
 struct Meta {
-    QString codice;  ///< six digits; empty for a trip not saved yet
-    QString localita;
+    QString codice;    ///< six digits; empty for a trip not saved yet
+    QString localita;  ///< the destination, which no other trip has
     QString nazione;
     std::optional<NumeroGiorno> dataInizio;  ///< nothing when the stored text is no date
-    Centesimi oraInizio;
-    int giorniAdeguamento = 0;  ///< days that the trip shall last; 0 = as many as it needs
+    Centesimi oraInizio;                     ///< time of day at which the journey begins
+    int giorniAdeguamento = 0;               ///< days that the trip shall last; 0 = as many as it needs
     ParametriViaggio parametri;
 };
 
 /// The most days that a trip can be asked to last.
 inline constexpr int kMassimoGiorniAdeguamento = 997;
 
-/// A time of day or a duration from its stored form "hhmm", and back.
+/// A time of day or a duration from its stored form "hhmm", what is no number counting as 0, and back, to the
+/// minute and with hours beyond 24.
 Centesimi LeggiOrario(QStringView hhmm);
 QString TestoOrario(Centesimi orario);
 
