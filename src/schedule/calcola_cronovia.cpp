@@ -89,6 +89,8 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
 
     SegnaRientro(passata.righe, passata.data, passata.ora, orario, progress);
     cronovia.righe = std::move(passata.righe);
+    cronovia.fasce = std::move(passata.fasce);
+    cronovia.rinvii = std::move(passata.rinvii);
     cronovia.fine = passata.fine;
     cronovia.totali = passata.totali;
     cronovia.orario = orario;

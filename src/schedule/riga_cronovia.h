@@ -63,6 +63,35 @@ struct RigaCronovia {
     std::optional<LimiteRitorno> limite;
 };
 
+/// What time is spent on.
+enum class GenereFascia : std::uint8_t { Guida, Visita, Traghetto, Pranzo, Cena, Riposo };
+
+/// A time of one day spent on one thing. What lies between two of them is the night, a wait or a day of rest.
+struct Fascia {
+    GenereFascia genere = GenereFascia::Guida;
+    int riga = 0;       ///< position of the schedule's row that it belongs to
+    NumeroGiorno data;  ///< the day on which it begins
+    Centesimi da;       ///< hours of that day; an end beyond 24 hours lies in the next
+    Centesimi a;
+};
+
+/// Why something happens later than a traveller would expect.
+enum class GenereRinvio : std::uint8_t {
+    ArrivoTardivo,     ///< reached after the end of the visiting hours: the stop begins the next day
+    TraghettoPerso,    ///< the same of a ferry
+    SostaSuPiuGiorni,  ///< the stop does not fit into the visiting hours of one day
+    NotteTardiva,      ///< a meal or rests ran past the night hour: the night begins behind them
+    GiorniDiRiposo,    ///< whole rest days were due before driving on
+};
+
+struct Rinvio {
+    GenereRinvio genere = GenereRinvio::ArrivoTardivo;
+    NumeroGiorno data;  ///< the day on which it turns out; of rest days the first
+    int tappa = 0;      ///< position of the stage in the calculation table: where the stop is, or the driving goes
+    Centesimi ritardo;  ///< how far past the visiting hours, or the night hour; 0 for the other kinds
+    int giorni = 0;     ///< days that the stop is spread over, or of rest; 0 for the other kinds
+};
+
 /// End of the trip as of the last driving piece.
 struct FineViaggio {
     NumeroGiorno data;  ///< the day on which the journey would go on
@@ -74,6 +103,8 @@ struct FineViaggio {
 struct Cronovia {
     TabellaCalcolo tabella;
     std::vector<RigaCronovia> righe;
+    std::vector<Fascia> fasce;        ///< in the order of time
+    std::vector<Rinvio> rinvii;       ///< in the order of time
     std::optional<FineViaggio> fine;  ///< nothing without any driving
     Totali totali;
     OrarioCorretto orario;  ///< as the last pass took it

@@ -88,7 +88,8 @@ class Simulazione {
         if (orologio_.ora > p_.oraNotte + Centesimi(tolleranza_)) NotteTardiva();
         const TipoStrada tipo = Riga(indice).tappa.TipoEffettivo();
         const Pezzo pezzo = Taglia(resto, p_.mediaKm[Indice(tipo)]);
-        GiornoDiRiposo();
+        GiornoDiRiposo(indice);
+        const Centesimi inizio = orologio_.ora;
         orologio_.ora += pezzo.tempo;
         kmProgressivi_ += pezzo.km;
         passata_.totali.Aggiunge(tipo, pezzo.km, pezzo.tempo);
@@ -99,6 +100,7 @@ class Simulazione {
         riga.tempo = pezzo.tempo;
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;
+        Annota(GenereFascia::Guida, inizio);
         PastiENotte(riga.eventi);
         riga.eventi.riposo = Riposi();
         passata_.fine = {orologio_.data, riga.ora, orologio_.data - richiesta_.dataPartenza + 1};
@@ -130,24 +132,27 @@ class Simulazione {
         return km < 1 ? 1 : static_cast<int>(std::min<double>(km, massimo));
     }
 
-    void GiornoDiRiposo() {
+    void GiornoDiRiposo(int tappa) {
         if (p_.riposoGiorno <= 0 || p_.riposoDopoGiorni <= 0) return;
         if (orologio_.ultimoRiposo + p_.riposoDopoGiorni > orologio_.data) return;
+        passata_.rinvii.push_back({GenereRinvio::GiorniDiRiposo, orologio_.data, tappa, {}, p_.riposoGiorno});
         orologio_.data += p_.riposoGiorno;
         orologio_.ultimoRiposo = orologio_.data;
         if (!passata_.righe.empty()) passata_.righe.back().riposoDopo = true;
     }
 
     void PastiENotte(Eventi& eventi) {
-        eventi.pranzo = Pasto(p_.oraPranzo, p_.durataPranzo, orologio_.pranzoFatto);
-        eventi.cena = Pasto(p_.oraCena, p_.durataCena, orologio_.cenaFatta);
+        eventi.pranzo = Pasto(GenereFascia::Pranzo, p_.oraPranzo, p_.durataPranzo, orologio_.pranzoFatto);
+        eventi.cena = Pasto(GenereFascia::Cena, p_.oraCena, p_.durataCena, orologio_.cenaFatta);
         eventi.notte = QuasiUguale(p_.oraNotte, orologio_.ora, tolleranza_);
         if (eventi.notte) Notte();
     }
 
-    bool Pasto(Centesimi pasto, Centesimi durata, bool& fatto) {
+    bool Pasto(GenereFascia genere, Centesimi pasto, Centesimi durata, bool& fatto) {
         if (!QuasiUguale(pasto, orologio_.ora, tolleranza_)) return false;
+        const Centesimi inizio = orologio_.ora;
         orologio_.ora += durata;
+        Annota(genere, inizio);
         orologio_.inizioGuida = orologio_.ora;
         fatto = true;
         return true;
@@ -162,7 +167,11 @@ class Simulazione {
     void NotteTardiva() {
         const auto ultima = std::find_if(passata_.righe.rbegin(), passata_.righe.rend(),
                                          [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
-        if (ultima != passata_.righe.rend()) ultima->eventi.notteTardiva = true;
+        if (ultima != passata_.righe.rend()) {
+            ultima->eventi.notteTardiva = true;
+            const Centesimi ritardo = orologio_.ora - p_.oraNotte;
+            passata_.rinvii.push_back({GenereRinvio::NotteTardiva, orologio_.data, ultima->tappa, ritardo, 0});
+        }
         Notte();
     }
 
@@ -173,7 +182,9 @@ class Simulazione {
     bool Riposi() {
         if (!ConRiposi() || orologio_.ora < orologio_.inizioGuida + OreDiGuida()) return false;
         const float volte = std::floor((orologio_.ora - orologio_.inizioGuida).Valore() / OreDiGuida().Valore());
+        const Centesimi inizio = orologio_.ora;
         orologio_.ora += orario_.Riposo() * volte;
+        Annota(GenereFascia::Riposo, inizio);
         orologio_.inizioGuida += OreDiGuida() * volte;
         return volte > 0;
     }
@@ -185,6 +196,7 @@ class Simulazione {
         const EsitoSosta esito = CalcolaLaSosta(
             {sosta, tabella.fineGiorno, tabella.tappa.Traghetto(), richiesta_.fattoreSoste}, orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
+        AnnotaSosta(esito, indice);
         orologio_ = esito.orologio;
         orologio_.inizioGuida = orologio_.ora;
         sosta = esito.sosta;
@@ -195,6 +207,29 @@ class Simulazione {
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;
         return true;
+    }
+
+    // The time since `inizio`, spent on the last row.
+    void Annota(GenereFascia genere, Centesimi inizio) {
+        const auto riga = static_cast<int>(passata_.righe.size()) - 1;
+        passata_.fasce.push_back({genere, riga, orologio_.data, inizio, orologio_.ora});
+    }
+
+    // What a stop, whose row comes next, spends its time on and puts off.
+    void AnnotaSosta(const EsitoSosta& esito, int indice) {
+        for (Fascia fascia : esito.fasce) {
+            fascia.riga = static_cast<int>(passata_.righe.size());
+            passata_.fasce.push_back(fascia);
+        }
+        if (esito.ritardo > 0_cent) {
+            const bool traghetto = Riga(indice).tappa.Traghetto();
+            passata_.rinvii.push_back({traghetto ? GenereRinvio::TraghettoPerso : GenereRinvio::ArrivoTardivo,
+                                       orologio_.data, indice, esito.ritardo, 0});
+        }
+        if (esito.giorni > 1) {
+            passata_.rinvii.push_back(
+                {GenereRinvio::SostaSuPiuGiorni, esito.fasce.front().data, indice, {}, esito.giorni});
+        }
     }
 
     void ElencaGuida(int indice) {

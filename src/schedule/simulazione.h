@@ -23,7 +23,9 @@ struct RichiestaPassata {
 /// What one pass came to.
 struct Passata {
     std::vector<RigaCronovia> righe;  ///< without marks of the return
-    std::vector<Durata> soste;        ///< after scaling, as many as the table's rows; where the next pass starts from
+    std::vector<Fascia> fasce;
+    std::vector<Rinvio> rinvii;
+    std::vector<Durata> soste;  ///< after scaling, as many as the table's rows; where the next pass starts from
     std::optional<FineViaggio> fine;
     Totali totali;      ///< of what was driven, piece by piece: times may differ from the itinerary's by rounding
     NumeroGiorno data;  ///< the clock where the simulation ended

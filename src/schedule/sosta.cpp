@@ -17,24 +17,62 @@ Centesimi Scalata(const RichiestaSosta& richiesta, Centesimi giorno) {
     return std::min(InCentesimi(richiesta.sosta, giorno) * richiesta.fattore, giorno * kMassimoGiorni);
 }
 
-void DistribuisciSuiGiorni(Centesimi resto, const ParametriViaggio& p, Orologio& orologio) {
-    while (resto > 0_cent) {
-        Centesimi parte = resto;
-        if (orologio.ora + parte > p.fineVisita) parte = p.fineVisita - orologio.ora;
-        orologio.ora += parte;
-        if (orologio.ora >= p.fineVisita - kFineVisiteVicina) {
-            orologio.data += 1;
-            orologio.ora = parte == resto ? p.oraColazione : p.inizioVisita;
-        }
-        resto -= parte;
-    }
-}
+// Takes the clock through a stop and notes what its time is spent on.
+class Percorrenza {
+  public:
+    Percorrenza(const OrarioCorretto& orario, Centesimi traghetto, EsitoSosta& esito)
+        : p_(orario.Parametri()), traghetto_(traghetto), esito_(esito), orologio_(esito.orologio) {}
 
-void PastoPassato(Centesimi pasto, Centesimi durata, bool& fatto, Centesimi& ora) {
-    if (ora <= pasto) return;
-    if (ora < pasto + durata && !fatto) ora = pasto + durata;
-    fatto = true;
-}
+    void AspettaLeVisite() {
+        if (orologio_.ora < p_.inizioVisita) orologio_.ora = p_.inizioVisita;
+        if (orologio_.ora <= p_.fineVisita) return;
+        esito_.ritardo = orologio_.ora - p_.fineVisita;
+        orologio_.NuovoGiorno(p_.inizioVisita);
+    }
+
+    void DistribuisciSuiGiorni(Centesimi resto) {
+        while (resto > 0_cent) {
+            Centesimi parte = resto;
+            if (orologio_.ora + parte > p_.fineVisita) parte = p_.fineVisita - orologio_.ora;
+            Annota(parte);
+            orologio_.ora += parte;
+            if (orologio_.ora >= p_.fineVisita - kFineVisiteVicina) {
+                orologio_.data += 1;
+                orologio_.ora = parte == resto ? p_.oraColazione : p_.inizioVisita;
+            }
+            resto -= parte;
+        }
+    }
+
+    void PastoPassato(GenereFascia pasto, Centesimi inizio, Centesimi durata, bool& fatto) {
+        if (orologio_.ora <= inizio) return;
+        if (orologio_.ora < inizio + durata && !fatto) {
+            esito_.fasce.push_back({pasto, 0, orologio_.data, orologio_.ora, inizio + durata});
+            orologio_.ora = inizio + durata;
+        }
+        fatto = true;
+    }
+
+  private:
+    // The ferry comes before the visits.
+    void Annota(Centesimi parte) {
+        if (parte <= 0_cent) return;
+        const Centesimi inMare = std::min(parte, traghetto_);
+        const Centesimi sbarco = orologio_.ora + inMare;
+        if (inMare > 0_cent)
+            esito_.fasce.push_back({GenereFascia::Traghetto, 0, orologio_.data, orologio_.ora, sbarco});
+        if (parte > inMare) {
+            esito_.fasce.push_back({GenereFascia::Visita, 0, orologio_.data, sbarco, orologio_.ora + parte});
+        }
+        traghetto_ -= inMare;
+        ++esito_.giorni;
+    }
+
+    const ParametriViaggio& p_;
+    Centesimi traghetto_;  // still to come
+    EsitoSosta& esito_;
+    Orologio& orologio_;
+};
 
 Motivo MotivoDi(const RichiestaSosta& richiesta) {
     if (richiesta.traghetto) return Motivo::TraghettoVisita;
@@ -53,22 +91,23 @@ void Orologio::NuovoGiorno(Centesimi ripresa) {
 EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio) {
     const ParametriViaggio& p = orario.Parametri();
     const Centesimi scalata = Scalata(richiesta, orario.VisitaGiorno());
-    EsitoSosta esito{inizio, Motivo::Nessuno, richiesta.sosta};
+    EsitoSosta esito{inizio, Motivo::Nessuno, richiesta.sosta, {}, {}, 0};
     if (scalata == 0_cent && !richiesta.traghetto) return esito;
 
     esito.motivo = MotivoDi(richiesta);
     esito.sosta = InDurata(scalata, orario.VisitaGiorno());
-    const Centesimi durata = scalata + (richiesta.traghetto ? p.oreTraghetti : 0_cent);
+    const Centesimi traghetto = richiesta.traghetto ? p.oreTraghetti : 0_cent;
+    const Centesimi durata = scalata + traghetto;
     Orologio& orologio = esito.orologio;
-    if (orologio.ora < p.inizioVisita) orologio.ora = p.inizioVisita;
-    if (orologio.ora > p.fineVisita) orologio.NuovoGiorno(p.inizioVisita);
-    DistribuisciSuiGiorni(durata, p, orologio);
+    Percorrenza percorrenza(orario, traghetto, esito);
+    percorrenza.AspettaLeVisite();
+    percorrenza.DistribuisciSuiGiorni(durata);
     if (richiesta.fineGiorno) {
         orologio.data += 1;
         orologio.ora = p.oraColazione;
     }
-    PastoPassato(p.oraPranzo, p.durataPranzo, orologio.pranzoFatto, orologio.ora);
-    PastoPassato(p.oraCena, p.durataCena, orologio.cenaFatta, orologio.ora);
+    percorrenza.PastoPassato(GenereFascia::Pranzo, p.oraPranzo, p.durataPranzo, orologio.pranzoFatto);
+    percorrenza.PastoPassato(GenereFascia::Cena, p.oraCena, p.durataCena, orologio.cenaFatta);
     if (durata >= orario.VisitaGiorno()) orologio.ultimoRiposo = orologio.data;
     return esito;
 }

@@ -1,6 +1,8 @@
 // The stop at a stage, spread over the visiting hours of as many days as it takes.
 #pragma once
 
+#include <vector>
+
 #include "calendar/date.h"
 #include "schedule/riga_cronovia.h"
 #include "trips/orario.h"
@@ -33,6 +35,9 @@ struct EsitoSosta {
     Orologio orologio;
     Motivo motivo = Motivo::Nessuno;  ///< none: nothing happened, the clock stands as before
     Durata sosta;                     ///< after scaling, without the ferry; what the next pass starts from
+    std::vector<Fascia> fasce;        ///< the ferry first, then the visits, day by day; a meal that the stop ran into
+    Centesimi ritardo;                ///< past the visiting hours, when it had to wait for the next day; else 0
+    int giorni = 0;                   ///< days on which the ferry or visits are
 };
 
 /// Takes the clock through a stop: visits wait for the beginning of the visiting hours, after their end for the next

@@ -1,5 +1,6 @@
 // Whole journeys against reviewed answers: tests/data/journeys holds exchange files, and beside each what its trip's
-// itinerary and schedule are. After a change the answers are written anew by
+// itinerary and schedule are; tests/data/giornate the days of some of them, and of the examples. After a change the
+// answers are written anew by
 //     CRONOVIA_RIGENERA=1 build/dev/tests/schedule/viaggi_test
 // which fails on purpose, so that it cannot pass unnoticed; review the differences before keeping them.
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 #include "exchange/importa_mete.h"
 #include "itinerary/itinerari.h"
 #include "schedule/colonne.h"
+#include "schedule/giornate.h"
 #include "support/prova.h"
 
 namespace cronovia {
@@ -25,6 +27,54 @@ QString Riga(const Testi& testi) {
 }
 
 QString RigaTotali(const TestiTotali& t) { return u"totali\t"_s + t.traghetti + u'\t' + Riga(t.km) + Riga(t.tempo); }
+
+QString TestoRinvio(const Rinvio& rinvio, const Cronovia& cronovia) {
+    static const QStringList nomi = {u"arrivo tardivo"_s, u"traghetto perso"_s, u"sosta su più giorni"_s,
+                                     u"notte tardiva"_s, u"giorni di riposo"_s};
+    const QString quanto = rinvio.giorni > 0 ? QString::number(rinvio.giorni) : TestoOrologio(rinvio.ritardo);
+    const Tappa& tappa = cronovia.tabella.righe[static_cast<std::size_t>(rinvio.tappa)].tappa;
+    return u"%1 (%2) %3"_s.arg(nomi[static_cast<int>(rinvio.genere)], quanto, tappa.localita);
+}
+
+QString TestoGiornata(const Giornata& g, const Cronovia& cronovia) {
+    QStringList parti = {QString::number(g.numero), TestoData(g.data), g.risveglio + u" > "_s + g.notte};
+    parti += g.partenza ? TestoOrologio(*g.partenza) + u'-' + TestoOrologio(*g.arrivo) : u"fermo"_s;
+    parti += u"%1 km"_s.arg(g.km);
+    for (const auto& [nome, tempo] :
+         {std::pair(u"guida "_s, g.guida), {u"visite "_s, g.visite}, {u"mare "_s, g.traghetto}}) {
+        if (tempo > 0_cent) parti += nome + TestoOrologio(tempo);
+    }
+    if (g.pranzo) parti += u"pranzo"_s;
+    if (g.cena) parti += u"cena"_s;
+    if (g.riposi > 0) parti += u"riposi %1"_s.arg(g.riposi);
+    if (g.riposo) parti += u"riposo"_s;
+    for (const Rinvio& rinvio : g.rinvii) parti += TestoRinvio(rinvio, cronovia);
+    return parti.join(u'\t') + u'\n';
+}
+
+// What holds for the days of every journey.
+void Coerenti(const std::vector<Giornata>& giornate, const Cronovia& cronovia) {
+    std::int64_t km = 0;
+    double guida = 0;
+    std::vector<int> righe;
+    for (std::size_t i = 0; i < giornate.size(); ++i) {
+        EXPECT_EQ(giornate[i].data, giornate[0].data + static_cast<int>(i));
+        EXPECT_TRUE(i == 0 || giornate[i].risveglio == giornate[i - 1].notte);
+        km += giornate[i].km;
+        guida += giornate[i].guida.Valore();
+        righe.insert(righe.end(), giornate[i].righe.begin(), giornate[i].righe.end());
+    }
+    EXPECT_EQ(km, cronovia.totali.km[kTuttiITipi]);
+    EXPECT_NEAR(guida, cronovia.totali.tempo[kTuttiITipi].Valore(), 1);
+    ASSERT_EQ(righe.size(), cronovia.righe.size());
+    for (std::size_t i = 0; i < righe.size(); ++i) ASSERT_EQ(righe[i], static_cast<int>(i));
+    for (std::size_t i = 1; i < cronovia.fasce.size(); ++i) {
+        const Fascia& prima = cronovia.fasce[i - 1];
+        const Fascia& dopo = cronovia.fasce[i];
+        EXPECT_TRUE(prima.data < dopo.data || (prima.data == dopo.data && prima.a <= dopo.da)) << i;
+        EXPECT_LE(dopo.da, dopo.a);  // a meal can take no time
+    }
+}
 
 class Viaggi : public testing::Test {
   protected:
@@ -55,6 +105,7 @@ class Viaggi : public testing::Test {
 
         const EsitoCalcolo esito = sessione_.Calcola(aperta, {}, progress_);
         const Cronovia& cronovia = *esito.cronovia;
+        Coerenti(Giornate(cronovia, *aperta.meta.dataInizio), cronovia);
         for (const RigaGriglia& riga : TestiDellaCronovia(cronovia)) testo += Riga(riga);
         testo += RigaTotali(Testi(cronovia.totali, cronovia.orario.GuidaGiorno()));
         return testo + u"fine\t"_s + Riga(TestiFine(cronovia)) +
@@ -82,6 +133,29 @@ TEST_F(Viaggi, AreAsReviewed) {
             EXPECT_EQ(righe.value(i), attese.value(i)) << viaggio.toStdString() << ", line " << i + 1;
             if (HasFailure()) break;
         }
+    }
+}
+
+TEST_F(Viaggi, HaveTheirDays) {
+    const QDir cartella(QStringLiteral(CRONOVIA_TEST_DATA));
+    for (const QString& nome :
+         QDir(cartella.filePath(u"giornate"_s)).entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
+        SCOPED_TRACE(nome.toStdString());
+        const QString attese = QString::fromUtf8(prova::LeggiFile(cartella.filePath(u"giornate/"_s + nome)));
+        const QString viaggio = nome.chopped(4) + u".iei"_s;
+        const QString esempio = QStringLiteral(CRONOVIA_EXAMPLES "/") + viaggio;
+        const MetaAperta aperta =
+            Importa(QFile::exists(esempio) ? esempio : cartella.filePath(u"journeys/"_s + viaggio),
+                    attese.section(u'\n', 0, 0));
+        const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
+        QString ottenute = aperta.meta.codice + u'\n';
+        for (const Giornata& giornata : Giornate(cronovia, *aperta.meta.dataInizio)) {
+            ottenute += TestoGiornata(giornata, cronovia);
+        }
+        if (qEnvironmentVariableIsSet("CRONOVIA_RIGENERA") && ottenute != attese) {
+            prova::ScriviFile(cartella.filePath(u"giornate/"_s + nome), ottenute.toUtf8());
+        }
+        EXPECT_EQ(ottenute.toStdString(), attese.toStdString());
     }
 }
 
