@@ -47,9 +47,11 @@ ISTRUZIONE = re.compile(r"^(\s+)(?:(?:if \([^;]*\) )?(?:return|continue|break|th
                         r"[\w:.>*\[\]()-]+(?:\(.*\)|(?: [-+|]?= |\+\+|--).*);)$")
 
 
-# Looks and speed only: no test should pin them down.
-ASPETTO = re.compile(r"Margins|Spacing|Stretch|setMinimum|setMaximum|Policy|Alignment|setFont|setFrame|reserve\(|kLarghezz|"
-                     r"Row\(|layout(?:\.|->)add|setColumnWidth|resize\(|Colors\(|Palette|palette|setIconSize")
+# Looks and speed only: no test should pin them down. Where something is placed counts as such, that it is placed does not.
+ASPETTO = re.compile(r"Margins|Spacing|Stretch|setMinimum|setMaximum|Policy|Alignment|[fF]ont\b|setFont|setFrame|reserve\(|"
+                     r"Larghezz|Row\(|setColumnWidth|resize\(|Colors\(|[pP]alette|setIconSize|Highlight|ScrollMode|AutoFill|"
+                     r"Point|Rect|Poly|Ellipse|Arc\(|lineTo|Subpath|painter|\bp\.|horizontalAdvance|\{\d+, u\"|raise\(\)")
+POSTO = re.compile(r"add(?:Widget|Layout|Item)\(")
 
 
 def righe_di_codice(testo):
@@ -77,7 +79,7 @@ def luoghi(stanze):
         for numero, riga in righe_di_codice(file.read_text()):
             nuda = fuori_dalle_stringhe(riga)
             dato = {"stanza": stanza, "file": nome, "riga": riga, "numero": numero + 1}
-            for cerca, metti in SCAMBI:
+            for cerca, metti in [] if POSTO.search(riga) else SCAMBI:
                 for trovato in re.finditer(cerca, nuda):
                     originale = re.compile(cerca).match(riga, trovato.start())
                     if originale:
