@@ -1,7 +1,7 @@
 // Whole journeys against reviewed answers: tests/data/journeys holds exchange files, and beside each what its trip's
 // itinerary and schedule are; tests/data/giornate the days of some of them, and of the examples. After a change the
 // answers are written anew by
-//     CRONOVIA_RIGENERA=1 build/dev/tests/schedule/viaggi_test
+//     CRONOVIA_RIGENERA=1 build/dev/tests/viaggi/viaggi_test
 // which fails on purpose, so that it cannot pass unnoticed; review the differences before keeping them.
 #include <gtest/gtest.h>
 
