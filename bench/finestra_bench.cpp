@@ -18,7 +18,7 @@
 #include <memory>
 #include <vector>
 
-#include "exchange/importa_mete.h"
+#include "exchange/iei/importa_mete.h"
 #include "schermo_di_prova.h"
 #include "ui/form_mete.h"
 

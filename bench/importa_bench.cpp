@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "calendar/testo.h"
-#include "exchange/importa_mete.h"
-#include "exchange/lettore_iei.h"
+#include "exchange/iei/importa_mete.h"
+#include "exchange/iei/lettore_iei.h"
 
 using namespace cronovia;
 using namespace Qt::StringLiterals;

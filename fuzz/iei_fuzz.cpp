@@ -5,9 +5,9 @@
 #include <QTemporaryDir>
 
 #include "archivio_di_prova.h"
-#include "exchange/elenco_mete.h"
-#include "exchange/importa_mete.h"
-#include "exchange/separa_colonne.h"
+#include "exchange/iei/elenco_mete.h"
+#include "exchange/iei/importa_mete.h"
+#include "exchange/iei/separa_colonne.h"
 #include "interaction/failure.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "archivio_di_prova.h"
-#include "exchange/importa_percorso.h"
+#include "exchange/percorsi/importa_percorso.h"
 #include "interaction/failure.h"
 
 namespace {

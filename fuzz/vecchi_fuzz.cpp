@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 
 #include "archivio_di_prova.h"
-#include "exchange/converti.h"
+#include "exchange/vecchi/converti.h"
 #include "interaction/failure.h"
 
 namespace {

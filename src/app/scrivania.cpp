@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "exchange/vecchi_file.h"
+#include "exchange/vecchi/vecchi_file.h"
 #include "guide/guida_citta.h"
 #include "interaction/failure.h"
 #include "itinerary/itinerari.h"

@@ -13,7 +13,7 @@
 #include "app/sessione.h"
 #include "app/tavolo_guida.h"
 #include "app/tavolo_scambio.h"
-#include "exchange/annulla_import.h"
+#include "exchange/iei/annulla_import.h"
 #include "interaction/interaction.h"
 #include "trips/mete.h"
 

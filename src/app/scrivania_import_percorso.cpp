@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "app/scrivania.h"
-#include "exchange/importa_percorso.h"
+#include "exchange/percorsi/importa_percorso.h"
 
 namespace cronovia {
 

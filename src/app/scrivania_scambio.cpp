@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "app/scrivania.h"
-#include "exchange/annulla_import.h"
-#include "exchange/converti.h"
-#include "exchange/esporta_mete.h"
-#include "exchange/importa_mete.h"
+#include "exchange/iei/annulla_import.h"
+#include "exchange/iei/esporta_mete.h"
+#include "exchange/iei/importa_mete.h"
+#include "exchange/vecchi/converti.h"
 #include "interaction/failure.h"
 #include "itinerary/itinerari.h"
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-#include "exchange/elenco_mete.h"
+#include "exchange/iei/elenco_mete.h"
 
 namespace cronovia {
 

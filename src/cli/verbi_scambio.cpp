@@ -2,9 +2,9 @@
 #include <QDateTime>
 
 #include "cli/verbi.h"
-#include "exchange/converti.h"
-#include "exchange/esporta_mete.h"
-#include "exchange/importa_mete.h"
+#include "exchange/iei/esporta_mete.h"
+#include "exchange/iei/importa_mete.h"
+#include "exchange/vecchi/converti.h"
 
 namespace cronovia {
 

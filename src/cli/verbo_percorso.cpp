@@ -2,7 +2,7 @@
 #include <QDir>
 
 #include "cli/verbi.h"
-#include "exchange/importa_percorso.h"
+#include "exchange/percorsi/importa_percorso.h"
 #include "interaction/failure.h"
 #include "itinerary/itinerari.h"
 

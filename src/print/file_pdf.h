@@ -1,9 +1,9 @@
 // Printouts as PDF files.
 #pragma once
 
+#include "files/file_intero.h"
 #include "interaction/progress.h"
 #include "print/pagina.h"
-#include "store/file_intero.h"
 
 namespace cronovia {
 

@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "calendar/windows1252.h"
+#include "files/file_intero.h"
+#include "files/windows1252.h"
 #include "interaction/failure.h"
-#include "store/file_intero.h"
 
 namespace cronovia {
 

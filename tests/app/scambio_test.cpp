@@ -6,7 +6,7 @@
 
 #include "app/scrivania.h"
 #include "exchange/scambio.h"
-#include "exchange/vecchi_record.h"
+#include "exchange/vecchi/vecchi_record.h"
 #include "support/copione.h"
 
 namespace cronovia {

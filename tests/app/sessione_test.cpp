@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "exchange/importa_mete.h"
+#include "exchange/iei/importa_mete.h"
 #include "support/prova.h"
 
 namespace cronovia {

@@ -4,7 +4,6 @@
 
 #include <limits>
 
-#include "calendar/windows1252.h"
 #include "support/prova.h"
 
 namespace cronovia {
@@ -33,26 +32,6 @@ TEST(Testo, NumbersAreReadAndWritten) {
     EXPECT_EQ(ValoreNumerico(u"-99999999999999999999999999"), -std::numeric_limits<int>::max());
     for (const QString& atteso : {u"0"_s, u"999"_s, u"1.000"_s, u"1.234.567"_s, u"-999"_s, u"-1.000"_s}) {
         EXPECT_EQ(Raggruppa(QString(atteso).remove(u'.').toLongLong()), atteso);
-    }
-}
-
-TEST(Windows1252, EveryByteComesBack) {
-    for (int valore = 0; valore < 256; ++valore) {
-        const QByteArray byte(1, static_cast<char>(valore));
-        const TestoCodificato codificato = InWindows1252(DaWindows1252(byte));
-        EXPECT_EQ(codificato.byte, byte) << valore;
-        EXPECT_EQ(codificato.sostituiti, 0) << valore;
-    }
-    EXPECT_EQ(DaWindows1252("\x80\x92\x9f\xe0\xff"), u"€’Ÿàÿ"_s);
-}
-
-TEST(Windows1252, WhatTheCodePageLacksTravelsAsItsBaseLetter) {
-    // Text, what arrives, how many were replaced.
-    for (const QString& caso : {u"Č č Ř ő ș:C c R o s:5"_s, u"Łódź:Lódz:2"_s, u"Perche\u0300:Perchè:0"_s,
-                                u"Œuvre €:Œuvre €:0"_s, u"Αθ:??:2"_s, u"😀!:?!:1"_s, u"10 − 3:10 - 3:1"_s}) {
-        const TestoCodificato codificato = InWindows1252(caso.section(u':', 0, 0));
-        EXPECT_EQ(DaWindows1252(codificato.byte), caso.section(u':', 1, 1));
-        EXPECT_EQ(QString::number(codificato.sostituiti), caso.section(u':', 2)) << caso.toStdString();
     }
 }
 

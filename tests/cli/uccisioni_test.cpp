@@ -6,7 +6,7 @@
 #include <iostream>
 
 #include "exchange/scambio.h"
-#include "exchange/vecchi_record.h"
+#include "exchange/vecchi/vecchi_record.h"
 #include "programma.h"
 
 namespace cronovia {

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "exchange/importa_mete.h"
+#include "exchange/iei/importa_mete.h"
 #include "store/archive.h"
 #include "support/prova.h"
 

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 #include "app/sessione.h"
-#include "exchange/importa_mete.h"
+#include "exchange/iei/importa_mete.h"
 #include "print/stampa_cronovia.h"
 #include "support/prova.h"
 

@@ -4,7 +4,7 @@
 #include <QAbstractTableModel>
 #include <vector>
 
-#include "exchange/elenco_mete.h"
+#include "exchange/iei/elenco_mete.h"
 
 namespace cronovia {
 

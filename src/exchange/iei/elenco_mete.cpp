@@ -1,0 +1,58 @@
+#include "exchange/iei/elenco_mete.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSet>
+
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Codes have six digits; those of another form are borne with, a whole page of text is not.
+constexpr qsizetype kCodicePiuLungo = 20;
+
+}  // namespace
+
+bool MetaImportabile(const RigaIei& riga) {
+    const QString& codice = riga.valori[mete::CodiceMeta];
+    return !riga.valori[mete::Localita].isEmpty() && !codice.isEmpty() && codice.size() <= kCodicePiuLungo;
+}
+
+void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, Progress& progress,
+                const std::function<void(const RigaIei&)>& visita) {
+    device.seek(0);
+    LettoreIei lettore(device, lettura, progress);
+    RigaIei riga;
+    while (lettore.Leggi(riga)) {
+        if (MetaImportabile(riga)) visita(riga);
+    }
+    if (!lettore.Conosce(Tabella::MeteVandro)) {
+        throw Failure(u"Il file %1 non è un file di scambio: non contiene la sezione delle mète."_s.arg(
+            QDir::toNativeSeparators(path)));
+    }
+}
+
+std::vector<MetaNelFile> LeggiElencoMete(const QString& path, Progress& progress) {
+    const std::unique_ptr<QFile> file = ApriInLettura(path);
+    const std::vector<Campo>& campi = Definizione(Tabella::MeteVandro).campi;
+    std::vector<MetaNelFile> elenco;
+    QSet<QString> codici;
+    progress.Title(u"Esportazione mète"_s);
+    const Lettura lettura{Tabella::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s,
+                          u"Lettura delle mète interrotta."_s};
+    ScorriMete(*file, path, lettura, progress, [&](const RigaIei& riga) {
+        const QString& codice = riga.valori[mete::CodiceMeta];
+        if (codici.contains(codice)) return;
+        codici.insert(codice);
+        elenco.push_back({codice, riga.valori[mete::Localita].left(campi[mete::Localita].larghezza),
+                          riga.valori[mete::Nazione].left(campi[mete::Nazione].larghezza)});
+    });
+    progress.Advance(0, 0);
+    return elenco;
+}
+
+}  // namespace cronovia

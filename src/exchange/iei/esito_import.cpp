@@ -1,0 +1,63 @@
+// What the person reads after an import.
+#include <QStringList>
+
+#include "calendar/testo.h"
+#include "exchange/iei/importa_mete.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Inseriti(const EsitoImport& esito) {
+    return u"Sono stati inseriti:\r\n\r\n%1 mète/itinerari;\r\n%2 tratti stradali;\r\n"
+           "%3 guide/informazioni località.\r\n"_s.arg(Raggruppa(esito.meteInserite), Raggruppa(esito.tappeInserite),
+                                                       Raggruppa(esito.vociInserite));
+}
+
+QString Scartati(const EsitoImport& esito) {
+    if (esito.meteScartate == 0 && esito.vociScartate == 0) return {};
+    return u"Sono stati scartati:\r\n\r\n%1 mète/itinerari;\r\n%2 guide/informazioni località,\r\n"
+           "perchè già presenti nel database con lo stesso nome."_s.arg(Raggruppa(esito.meteScartate),
+                                                                        Raggruppa(esito.vociScartate));
+}
+
+QString Differenze(const EsitoImport& esito) {
+    QStringList righe;
+    const auto conta = [&](const QString& cosa, qint64 quanti) {
+        if (quanti > 0) righe += cosa + u": "_s + Raggruppa(quanti);
+    };
+    for (const auto& [campo, quanti] : esito.accorciati) {
+        const DefinizioneTabella& tabella = Definizione(campo.first);
+        const Campo& nome = tabella.campi.at(static_cast<std::size_t>(campo.second));
+        conta(u"valori accorciati alla larghezza %1 del campo %2 di %3"_s.arg(QString::number(nome.larghezza),
+                                                                              nome.nome, tabella.nome),
+              quanti);
+    }
+    conta(
+        u"mète non inserite perché il loro codice è ripetuto nel file (i loro tratti stanno con quelli della prima)"_s,
+        esito.codiciRipetuti);
+    conta(u"mète non inserite perché senza località o senza un codice valido"_s, esito.meteIncomplete);
+    conta(u"tratti stradali non inseriti perché la loro mèta non è nel file o non è stata inserita"_s,
+          esito.tappeSenzaMeta);
+    conta(u"righe non lette perché prima della prima sezione"_s, esito.lettura.righePrimaDelleSezioni);
+    conta(u"righe non lette perché senza intestazione"_s, esito.lettura.righeNonCapite);
+    conta(u"righe non lette perché troppo lunghe"_s, esito.lettura.righeTroppoLunghe);
+    conta(u"righe con meno valori dell'intestazione"_s, esito.lettura.righeIncomplete);
+    conta(u"valori in più, non letti"_s, esito.lettura.valoriInPiu);
+    conta(u"virgolette e caratteri di controllo tolti"_s, esito.lettura.caratteriTolti);
+    if (righe.isEmpty()) return {};
+    return u"\r\nNon tutto è stato preso com'era nel file:\r\n\r\n"_s + righe.join(u";\r\n"_s) + u"."_s;
+}
+
+}  // namespace
+
+QString TestoEsito(const EsitoImport& esito) {
+    const QString scartati = Scartati(esito);
+    const QString differenze = Differenze(esito);
+    const bool aCapo = !scartati.isEmpty() && !differenze.isEmpty();
+    return Inseriti(esito) + scartati + (aCapo ? u"\r\n"_s : QString()) + differenze;
+}
+
+}  // namespace cronovia

@@ -1,0 +1,162 @@
+#include "exchange/iei/esporta_mete.h"
+
+#include <QSet>
+
+#include "calendar/testo.h"
+#include "exchange/iei/lettore_iei.h"
+#include "files/file_intero.h"
+#include "files/windows1252.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Characters that mean something to the reader of the file or that it drops. A Tab travels well.
+QString CaratteriVietati() {
+    QString vietati = u"ÿþý\""_s;
+    for (char16_t c = 0; c < u' '; ++c) {
+        if (c != u'\t') vietati += QChar(c);
+    }
+    return vietati;
+}
+
+QStringView SenzaBlank(QStringView testo) {
+    while (testo.startsWith(u' ')) testo = testo.sliced(1);
+    while (testo.endsWith(u' ')) testo.chop(1);
+    return testo;
+}
+
+class ScrittoreIei {
+  public:
+    explicit ScrittoreIei(const QString& path) : file_(path) {}
+
+    void Intestazione(Tabella tabella) {
+        for (const Campo& campo : Definizione(tabella).campi) Valore(tabella, campo.nome);
+        FineRiga();
+    }
+
+    void Riga(Tabella tabella, const Record& record) {
+        for (const QString& valore : record.valori) Valore(tabella, valore);
+        FineRiga();
+    }
+
+    /// Lays the file in its place; returns how many characters travel as another one.
+    qint64 Chiudi() {
+        file_.Chiudi();
+        return sostituiti_;
+    }
+
+  private:
+    void Valore(Tabella tabella, QStringView valore) {
+        const TestoCodificato testo = InWindows1252(SenzaBlank(valore), vietati_);
+        sostituiti_ += testo.sostituiti;
+        riga_ += testo.byte;
+        riga_ += SeparatoreSezione(tabella);
+    }
+
+    void FineRiga() {
+        riga_ += "\r\n";
+        file_.Scrivi(riga_);
+        riga_.clear();
+    }
+
+    FileIntero file_;
+    QByteArray riga_;
+    QString vietati_ = CaratteriVietati();
+    qint64 sostituiti_ = 0;
+};
+
+Ricerca PerCodice(Tabella tabella, const QString& codice) { return {tabella, {{0, NamePattern::Exactly(codice)}}}; }
+
+std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
+    std::vector<QString> codici;
+    QSet<QString> presi;
+    const auto aggiungi = [&](const QString& codice) {
+        if (!presi.contains(codice)) codici.push_back(codice);
+        presi.insert(codice);
+    };
+    for (const QString& codice : richiesta.codici) {
+        const bool esiste = richiesta.archive.Exists(PerCodice(Tabella::MeteVandro, codice));
+        if (!esiste && richiesta.saltaMancanti) continue;
+        if (!esiste) {
+            throw Failure(u"Non c'è nessuna mèta con il codice %1: niente è stato esportato."_s.arg(codice));
+        }
+        aggiungi(codice);
+    }
+    if (!codici.empty()) return codici;
+    if (!richiesta.codici.empty()) {
+        throw Failure(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
+    }
+    for (const Record& record : richiesta.archive.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+        aggiungi(record[mete::CodiceMeta]);
+    }
+    if (codici.empty()) throw Failure(u"Non ci sono mète da esportare: niente è stato esportato."_s);
+    return codici;
+}
+
+void RispettaStop(Progress& progress) {
+    if (progress.StopRequested()) throw Failure(u"Esportazione interrotta: il file non è stato scritto."_s);
+}
+
+// One of the two sections that go trip after trip; returns its records.
+qint64 ScriviSezione(Archive& archive, Tabella tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
+                     Progress& progress) {
+    scrittore.Intestazione(tabella);
+    qint64 scritti = 0;
+    double fatte = 0;
+    for (const QString& codice : codici) {
+        RispettaStop(progress);
+        progress.Advance(++fatte, static_cast<double>(codici.size()));
+        for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
+            scrittore.Riga(tabella, record);
+            ++scritti;
+            if (tabella == Tabella::MeteVandro) break;
+        }
+    }
+    return scritti;
+}
+
+qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress) {
+    const auto totale = static_cast<double>(archive.Count(Tabella::GuidaCitta));
+    qint64 scritti = 0;
+    archive.ForEach(Tabella::GuidaCitta, [&](const Record& record) {
+        RispettaStop(progress);
+        if (scritti == 0) scrittore.Intestazione(Tabella::GuidaCitta);
+        scrittore.Riga(Tabella::GuidaCitta, record);
+        progress.Advance(static_cast<double>(++scritti), totale);
+    });
+    return scritti;
+}
+
+}  // namespace
+
+EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
+    const ReadSnapshot momento(richiesta.archive);
+    const std::vector<QString> codici = CodiciDaEsportare(richiesta);
+    RifiutaFileEsistente(richiesta.path, richiesta.sovrascrivi);
+    ScrittoreIei scrittore(richiesta.path);
+    EsitoExport esito{richiesta.path};
+    progress.Title(u"Esportazione mète"_s);
+    esito.mete = ScriviSezione(richiesta.archive, Tabella::MeteVandro, codici, scrittore, progress);
+    progress.Title(u"Esportazione itinerari"_s);
+    esito.tappe = ScriviSezione(richiesta.archive, Tabella::Itinerari, codici, scrittore, progress);
+    progress.Title(u"Esportazione guida città"_s);
+    esito.voci = ScriviGuida(richiesta.archive, scrittore, progress);
+    esito.caratteriSostituiti = scrittore.Chiudi();
+    progress.Advance(0, 0);
+    return esito;
+}
+
+QString TestoEsito(const EsitoExport& esito) {
+    QString testo = u"Le mète esportate si trovano sul file "_s + esito.path;
+    if (esito.caratteriSostituiti > 0) {
+        testo += u"\r\nCaratteri che il file non può contenere, sostituiti con un altro: "_s +
+                 Raggruppa(esito.caratteriSostituiti);
+    }
+    return testo;
+}
+
+}  // namespace cronovia

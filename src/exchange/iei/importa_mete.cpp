@@ -1,0 +1,177 @@
+#include "exchange/iei/importa_mete.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <array>
+
+#include "calendar/testo.h"
+#include "exchange/iei/elenco_mete.h"
+#include "exchange/iei/mappa_codici.h"
+#include "exchange/nomi_presenti.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
+
+QString Adattato(const QString& valore, const Campo& campo) { return valore.left(campo.larghezza); }
+
+class Importatore {
+  public:
+    Importatore(Archive& archive, MappaCodici& codici)
+        : archive_(archive),
+          codici_(codici),
+          mete_(archive, Tabella::MeteVandro, {mete::Localita}),
+          tappe_(archive, Tabella::Itinerari, {itinerari::Localita}),
+          guida_(archive, Tabella::GuidaCitta, {guida::Localita, guida::Descrizione}) {}
+
+    void Importa(RigaIei& riga) {
+        switch (riga.tabella) {
+            case Tabella::MeteVandro:
+                return ImportaMeta(riga);
+            case Tabella::Itinerari:
+                return ImportaTappa(riga);
+            default:
+                return ImportaVoce(riga);
+        }
+    }
+
+    EsitoImport& Esito() { return esito_; }
+
+  private:
+    void ImportaMeta(RigaIei& riga);
+    void ImportaTappa(RigaIei& riga);
+    void ImportaVoce(RigaIei& riga);
+    bool HaTappe(const QString& localita);
+    void Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti);
+
+    Archive& archive_;
+    MappaCodici& codici_;
+    NomiPresenti mete_;
+    NomiPresenti tappe_;
+    NomiPresenti guida_;
+    QHash<QString, bool> conTappe_;  // localities looked up since the last stage was added
+    EsitoImport esito_;
+};
+
+void Importatore::ImportaMeta(RigaIei& riga) {
+    MetaDaImportare* meta = codici_.Trova(riga.valori[mete::CodiceMeta]);
+    if (!MetaImportabile(riga) || meta == nullptr) {
+        ++esito_.meteIncomplete;
+        return;
+    }
+    if (meta->stato == StatoMeta::NonScelta) return;
+    if (meta->stato != StatoMeta::InAttesa) {
+        ++esito_.codiciRipetuti;
+        return;
+    }
+    const Campo& campo = Definizione(Tabella::MeteVandro).campi[mete::Localita];
+    const QString localita = Adattato(riga.valori[mete::Localita], campo);
+    if (mete_.Trova({}, localita)) {
+        meta->stato = StatoMeta::Scartata;
+        ++esito_.meteScartate;
+        return;
+    }
+    meta->stato = StatoMeta::Inserita;
+    ++esito_.meteInserite;
+    Inserisci(riga, meta->codice, mete_);
+}
+
+void Importatore::ImportaTappa(RigaIei& riga) {
+    const MetaDaImportare* meta = codici_.Trova(riga.valori[itinerari::CodiceMeta]);
+    if (meta == nullptr || meta->stato == StatoMeta::InAttesa) {
+        ++esito_.tappeSenzaMeta;
+    } else if (meta->stato == StatoMeta::Inserita) {
+        ++esito_.tappeInserite;
+        Inserisci(riga, meta->codice, tappe_);
+        conTappe_.clear();
+    }
+}
+
+void Importatore::ImportaVoce(RigaIei& riga) {
+    const std::vector<Campo>& campi = Definizione(Tabella::GuidaCitta).campi;
+    const QString localita = Adattato(riga.valori[guida::Localita], campi[guida::Localita]);
+    if (!HaTappe(localita)) return;
+    const QString memorizzata = localita.isEmpty() ? u" "_s : localita;
+    const std::array stessaLocalita = {NamePattern::Exactly(memorizzata)};
+    const QString descrizione = Adattato(riga.valori[guida::Descrizione], campi[guida::Descrizione]);
+    if (guida_.Trova(stessaLocalita, descrizione)) {
+        ++esito_.vociScartate;
+        return;
+    }
+    ++esito_.vociInserite;
+    Inserisci(riga, {}, guida_);
+}
+
+bool Importatore::HaTappe(const QString& localita) {
+    if (const auto nota = conTappe_.constFind(localita); nota != conTappe_.constEnd()) return *nota;
+    if (conTappe_.size() >= kMassimoLocalitaRicordate) conTappe_.clear();
+    const bool esiste = tappe_.Trova({}, localita).has_value();
+    conTappe_.insert(localita, esiste);
+    return esiste;
+}
+
+// The code, which only trips and stages have, is the first field of their tables.
+void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti) {
+    const std::vector<Campo>& campi = Definizione(riga.tabella).campi;
+    if (!codiceMeta.isEmpty()) riga.valori.front() = codiceMeta;
+    for (std::size_t i = 0; i < campi.size(); ++i) {
+        QString& valore = riga.valori[i];
+        if (valore.isEmpty()) valore = u" "_s;
+        if (valore.size() <= campi[i].larghezza) continue;
+        valore.truncate(campi[i].larghezza);
+        ++esito_.accorciati[{riga.tabella, static_cast<int>(i)}];
+    }
+    presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
+}
+
+Lettura LetturaPerImport(std::optional<Tabella> solo) {
+    return {solo, u"Importazione "_s, {}, u"Importazione interrotta: niente è stato inserito."_s};
+}
+
+EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& device, Progress& progress) {
+    device.seek(0);
+    LettoreIei lettore(device, LetturaPerImport(std::nullopt), progress);
+    Importatore importatore(archive, codici);
+    RigaIei riga;
+    while (lettore.Leggi(riga)) {
+        importatore.Importa(riga);
+    }
+    importatore.Esito().lettura = lettore.Scarti();
+    return std::move(importatore.Esito());
+}
+
+}  // namespace
+
+EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
+    RichiestaImport fissata = richiesta;
+    if (!fissata.stato) fissata.stato = StatoDelFile(richiesta.path);
+    const std::unique_ptr<QFile> file = ApriInLettura(richiesta.path);
+    return ImportaMete(fissata, *file, progress);
+}
+
+EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
+    MappaCodici codici;
+    progress.Title(u"Importazione mète"_s);
+    ScorriMete(device, richiesta.path, LetturaPerImport(Tabella::MeteVandro), progress,
+               [&](const RigaIei& riga) { codici.Aggiungi(riga.valori[mete::CodiceMeta]); });
+    Transaction transaction(richiesta.archive);
+    codici.Scegli(richiesta.codici, richiesta.archive);
+    OsservaAggiunte aggiunte(richiesta.archive);
+    EsitoImport esito = ImportaRighe(richiesta.archive, codici, device, progress);
+    if (richiesta.stato && StatoDelFile(richiesta.path) != *richiesta.stato) {
+        throw Failure(u"Il file %1 è cambiato da quando è stato letto: niente è stato inserito."_s.arg(
+            QDir::toNativeSeparators(richiesta.path)));
+    }
+    esito.traccia = aggiunte.Fine();
+    transaction.Commit();
+    progress.Advance(0, 0);
+    return esito;
+}
+
+}  // namespace cronovia

@@ -1,0 +1,54 @@
+// Import: the trips of an exchange file, with their stages, and its city guide join the archive.
+#pragma once
+
+#include <QIODevice>
+#include <QString>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "exchange/iei/annulla_import.h"
+#include "exchange/iei/lettore_iei.h"
+#include "interaction/progress.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+struct RichiestaImport {
+    Archive& archive;
+    QString path;
+    std::vector<QString> codici;  ///< of the trips to import, leading zeros left out or not; none for all of the file
+    std::optional<StatoFile> stato = {};  ///< of the file when its trips were listed; another one is refused
+};
+
+/// What an import did, and what it could not take as it stood.
+struct EsitoImport {
+    qint64 meteInserite = 0;
+    qint64 tappeInserite = 0;
+    qint64 vociInserite = 0;  ///< city-guide entries
+    qint64 meteScartate = 0;  ///< their destination was stored already; their stages are left out too
+    qint64 vociScartate = 0;  ///< were stored already
+
+    std::map<std::pair<Tabella, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
+    qint64 codiciRipetuti = 0;                             ///< trips with the code of one before them
+    qint64 meteIncomplete = 0;  ///< trips without destination, or without a code of at most 20 characters
+    qint64 tappeSenzaMeta = 0;  ///< stages of no trip of the file
+    ScartiLettura lettura;
+
+    TracciaImport traccia;  ///< to take it back by
+};
+
+/// Adds what the archive has not yet, whole or not at all. A trip whose destination is stored, by the rules of name
+/// matching, is left out with its stages; so is a guide entry whose locality and description are stored, and one at
+/// whose locality no stage ends. Empty values and fields that the file lacks are stored as one blank, values too wide
+/// for their field with the characters that fit. Codes that are taken, or that have not six digits, are replaced.
+EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress);
+
+/// The same from a device that can be read twice; without a state the path is only its name in messages.
+EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress);
+
+/// The text of the closing box.
+QString TestoEsito(const EsitoImport& esito);
+
+}  // namespace cronovia

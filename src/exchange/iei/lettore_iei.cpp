@@ -1,0 +1,111 @@
+#include "exchange/iei/lettore_iei.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "files/windows1252.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+namespace {
+
+constexpr std::array<Tabella, 3> kSezioni = {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta};
+
+// Some editors put it at the start of whatever they save.
+constexpr QByteArrayView kSegnoUtf8 = "\xEF\xBB\xBF";
+
+std::size_t Numero(Tabella tabella) { return static_cast<std::size_t>(tabella) - 1; }
+
+// Empty when no column is named as a field. Of two columns of the same name the first one counts.
+std::vector<int> CaricaRiferimentiVettoreCampiTabelleDatabase(Tabella tabella, const Colonne& colonne) {
+    const std::vector<Campo>& campi = Definizione(tabella).campi;
+    std::vector<int> mappa;
+    bool qualcuno = false;
+    for (const QByteArrayView nome : colonne.valori) {
+        const QString testo = DaWindows1252(nome);
+        const auto campo = std::find_if(campi.begin(), campi.end(), [&](const Campo& c) { return c.nome == testo; });
+        const int posto = campo == campi.end() ? -1 : static_cast<int>(campo - campi.begin());
+        const bool nuovo = posto >= 0 && std::find(mappa.begin(), mappa.end(), posto) == mappa.end();
+        mappa.push_back(nuovo ? posto : -1);
+        qualcuno = qualcuno || nuovo;
+    }
+    return qualcuno ? mappa : std::vector<int>();
+}
+
+}  // namespace
+
+LettoreIei::LettoreIei(QIODevice& device, Lettura lettura, Progress& progress)
+    : righe_(device),
+      lettura_(std::move(lettura)),
+      progress_(progress),
+      lunghezza_(static_cast<double>(device.size())) {}
+
+bool LettoreIei::Leggi(RigaIei& riga) {
+    while (righe_.Avanza()) {
+        progress_.Advance(static_cast<double>(righe_.Letti()), lunghezza_);
+        if (progress_.StopRequested()) throw Failure(lettura_.interrotta);
+        if (righe_.TroppoLunga()) ++scarti_.righeTroppoLunghe;
+        QByteArrayView testo = righe_.Riga();
+        if (std::exchange(prima_, false) && testo.startsWith(kSegnoUtf8)) testo = testo.sliced(kSegnoUtf8.size());
+        if (testo.isEmpty()) continue;
+        const bool inizioSezione = CambiaSezione(testo);
+        if (!sezione_) {
+            ++scarti_.righePrimaDelleSezioni;
+        } else if (lettura_.solo.value_or(*sezione_) == *sezione_ && Prendi(testo, inizioSezione, riga)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+const LettoreIei::MappaColonne& LettoreIei::Mappa(Tabella tabella) const { return mappe_.at(Numero(tabella)); }
+
+// A line with the bytes of several sections belongs to the last of them, one without any to the section before it.
+bool LettoreIei::CambiaSezione(QByteArrayView testo) {
+    const std::optional<Tabella> prima = sezione_;
+    for (const Tabella tabella : kSezioni) {
+        if (testo.contains(SeparatoreSezione(tabella))) sezione_ = tabella;
+    }
+    if (sezione_ == prima) return false;
+    progress_.Title(lettura_.titoloPrima + Definizione(*sezione_).nome + lettura_.titoloDopo);
+    return true;
+}
+
+// True for a record. A section may be interrupted by a line whose name happens to hold the byte of another one: what
+// follows then opens the section again, but only a line with names of fields is taken for its head.
+bool LettoreIei::Prendi(QByteArrayView testo, bool inizioSezione, RigaIei& riga) {
+    const Colonne colonne = SeparaColonne(testo);
+    scarti_.caratteriTolti += colonne.tolti;
+    scarti_.valoriInPiu += colonne.inPiu;
+    if (colonne.valori.empty()) return false;
+    MappaColonne& mappa = mappe_.at(Numero(*sezione_));
+    if (inizioSezione || mappa.empty()) {
+        MappaColonne nuova = CaricaRiferimentiVettoreCampiTabelleDatabase(*sezione_, colonne);
+        if (!nuova.empty()) {
+            mappa = std::move(nuova);
+            return false;
+        }
+    }
+    if (mappa.empty()) {
+        ++scarti_.righeNonCapite;
+        return false;
+    }
+    Riempi(colonne, riga);
+    return true;
+}
+
+void LettoreIei::Riempi(const Colonne& colonne, RigaIei& riga) {
+    const MappaColonne& mappa = Mappa(*sezione_);
+    riga.tabella = *sezione_;
+    riga.valori.assign(Definizione(*sezione_).campi.size(), QString());
+    const std::size_t comuni = std::min(mappa.size(), colonne.valori.size());
+    for (std::size_t i = 0; i < comuni; ++i) {
+        if (mappa[i] >= 0) riga.valori[static_cast<std::size_t>(mappa[i])] = DaWindows1252(colonne.valori[i]);
+    }
+    if (colonne.valori.size() < mappa.size()) ++scarti_.righeIncomplete;
+    scarti_.valoriInPiu += std::count_if(colonne.valori.begin() + static_cast<std::ptrdiff_t>(comuni),
+                                         colonne.valori.end(), [](QByteArrayView valore) { return !valore.isEmpty(); });
+}
+
+}  // namespace cronovia

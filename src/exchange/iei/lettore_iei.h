@@ -1,0 +1,75 @@
+// The exchange file: three sections of lines, trips, stages and city guide, each with the names of its fields on top.
+// Every value ends with the section's separator byte, so that the byte tells the section of a line.
+#pragma once
+
+#include <QIODevice>
+#include <QString>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "exchange/iei/separa_colonne.h"
+#include "files/lettore_righe.h"
+#include "interaction/progress.h"
+#include "store/schema.h"
+
+namespace cronovia {
+
+/// The separator of a section, which is numbered as its table: FF trips, FE stages, FD guide.
+constexpr char SeparatoreSezione(Tabella tabella) { return static_cast<char>(0x100 - static_cast<int>(tabella)); }
+
+/// One record of an exchange file.
+struct RigaIei {
+    Tabella tabella = Tabella::MeteVandro;
+    std::vector<QString> valori;  ///< in the order of the table's fields; empty where the file has none
+};
+
+/// What a reader found and could not take as it stood.
+struct ScartiLettura {
+    qint64 righePrimaDelleSezioni = 0;
+    qint64 righeNonCapite = 0;  ///< of a section whose field names were not met before
+    qint64 righeTroppoLunghe = 0;
+    qint64 righeIncomplete = 0;  ///< records with fewer values than field names; they are taken
+    qint64 caratteriTolti = 0;   ///< double quotes and control characters
+    qint64 valoriInPiu = 0;      ///< beyond the field names, or beyond the hundredth
+};
+
+/// What a reading is about.
+struct Lettura {
+    std::optional<Tabella> solo;  ///< the only section to read; nothing for all of them
+    QString titoloPrima;          ///< the title of the progress is this, the table's name and the next text
+    QString titoloDopo;
+    QString interrotta = {};  ///< the message when the person wants it to stop
+};
+
+/// Reads the records of an exchange file one by one, in a bounded amount of memory whatever the file holds.
+class LettoreIei {
+  public:
+    LettoreIei(QIODevice& device, Lettura lettura, Progress& progress);
+
+    /// Reads the next record; false at the end. A `Failure` when the device cannot be read, or on a stop.
+    bool Leggi(RigaIei& riga);
+
+    /// Whether the field names of the section were met.
+    [[nodiscard]] bool Conosce(Tabella tabella) const { return !Mappa(tabella).empty(); }
+    [[nodiscard]] const ScartiLettura& Scarti() const { return scarti_; }
+
+  private:
+    using MappaColonne = std::vector<int>;  // position of the field that each column holds, -1 for none
+
+    [[nodiscard]] const MappaColonne& Mappa(Tabella tabella) const;
+    bool CambiaSezione(QByteArrayView testo);
+    bool Prendi(QByteArrayView testo, bool inizioSezione, RigaIei& riga);
+    void Riempi(const Colonne& colonne, RigaIei& riga);
+
+    LettoreRighe righe_;
+    Lettura lettura_;
+    Progress& progress_;
+    double lunghezza_;
+    bool prima_ = true;  // no line was read yet
+    std::optional<Tabella> sezione_;
+    std::array<MappaColonne, 3> mappe_;
+    ScartiLettura scarti_;
+};
+
+}  // namespace cronovia

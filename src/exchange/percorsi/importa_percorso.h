@@ -1,0 +1,29 @@
+// Import of a route that another program has computed: the stages of a new itinerary.
+#pragma once
+
+#include <QIODevice>
+#include <QString>
+#include <optional>
+#include <span>
+
+#include "exchange/percorsi/tappa_in_corso.h"
+#include "interaction/progress.h"
+#include "itinerary/modifiche.h"
+
+namespace cronovia {
+
+/// The stages of a route planner's export; nothing when the file is none that is known. A `Failure` when it cannot be
+/// read, changes while it is read, or has no stage or more than an itinerary can hold.
+std::optional<RigheItinerario> CaricaDaPacchetto(const QString& path, Progress& progress);
+
+/// The same from a device, which may also have no stage. `path` is its name in messages.
+std::optional<RigheItinerario> CaricaDaPacchetto(QIODevice& device, const QString& path, Progress& progress);
+
+/// The stage as the itinerary holds it: at most two roads, or one and the ferry's mark, those travelled longest.
+Tappa SalvaRigaItinerarioImportato(TappaLetta letta);
+
+/// What was recognised, in two lines: how many stages, from where to where; how far, with how many ferries. There must
+/// be a stage.
+QString RiassuntoPercorso(std::span<const Tappa> tappe);
+
+}  // namespace cronovia

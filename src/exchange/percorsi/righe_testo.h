@@ -1,0 +1,33 @@
+// Lines of a text file as texts, whichever of the usual encodings the file has.
+#pragma once
+
+#include <QIODevice>
+#include <QString>
+#include <memory>
+
+#include "files/lettore_righe.h"
+
+namespace cronovia {
+
+/// UTF-16 in both byte orders, told by its mark or by its bytes; else each line is UTF-8 when it can be, else
+/// Windows-1252. Needs a bounded amount of memory whatever the file holds.
+class RigheTesto {
+  public:
+    explicit RigheTesto(QIODevice& device);
+    RigheTesto(const RigheTesto&) = delete;
+    RigheTesto& operator=(const RigheTesto&) = delete;
+    ~RigheTesto();
+
+    /// Goes to the next line; false after the last one. A `Failure` when the device cannot be read.
+    bool Avanza();
+
+    /// The line: any blank or control character but Tab is one blank, letters are composed. Empty when it is too long.
+    [[nodiscard]] const QString& Testo() const { return testo_; }
+
+  private:
+    std::unique_ptr<QIODevice> utf8_;  // the device's UTF-16 as UTF-8
+    LettoreRighe righe_;
+    QString testo_;
+};
+
+}  // namespace cronovia

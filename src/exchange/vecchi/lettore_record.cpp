@@ -1,0 +1,63 @@
+#include "exchange/vecchi/lettore_record.h"
+
+#include <QDir>
+#include <algorithm>
+#include <numeric>
+
+#include "files/windows1252.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString TestoDelRecord(QByteArrayView byte, bool& guasto) {
+    QByteArray testo = byte.toByteArray();
+    for (char& c : testo) {
+        const auto valore = static_cast<unsigned char>(c);
+        guasto = guasto || (valore < 0x20 && valore != 0);
+        if (valore < 0x20) c = ' ';
+    }
+    while (testo.endsWith(' ')) testo.chop(1);
+    return DaWindows1252(testo);
+}
+
+}  // namespace
+
+int FormaRecord::LunghezzaCampi() const { return std::accumulate(campi.begin(), campi.end(), 0); }
+
+bool LettoreRecord::Interi(const QIODevice& device, const FormaRecord& forma) {
+    const qint64 resto = device.size() % forma.lunghezza;
+    return resto == 0 || resto >= forma.LunghezzaCampi();
+}
+
+LettoreRecord::LettoreRecord(QIODevice& device, FormaRecord forma, const QString& path)
+    : device_(device), forma_(std::move(forma)), path_(QDir::toNativeSeparators(path)) {
+    if (!Interi(device, forma_)) {
+        throw Failure(
+            u"Il file %1 è troncato o non è dell'edizione precedente: non contiene record di %2 caratteri."_s.arg(
+                path_, QString::number(forma_.lunghezza)));
+    }
+    numero_ = (device.size() + forma_.lunghezza - 1) / forma_.lunghezza;
+}
+
+bool LettoreRecord::Leggi(RecordFisso& record) {
+    if (letti_ == numero_) return false;
+    const QByteArray byte = device_.read(forma_.lunghezza);
+    if (byte.size() < forma_.LunghezzaCampi()) {
+        throw Failure(u"Il file %1 non si può leggere fino in fondo."_s.arg(path_));
+    }
+    ++letti_;
+    record.guasto = false;
+    record.campi.clear();
+    qsizetype inizio = 0;
+    for (const int larghezza : forma_.campi) {
+        record.campi.push_back(TestoDelRecord(QByteArrayView(byte).sliced(inizio, larghezza), record.guasto));
+        inizio += larghezza;
+    }
+    return true;
+}
+
+}  // namespace cronovia

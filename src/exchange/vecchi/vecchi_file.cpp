@@ -1,0 +1,103 @@
+#include "exchange/vecchi/vecchi_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "files/file_intero.h"
+#include "files/lettore_righe.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kBloccoConfronto = 256 * 1024;
+
+// The earlier release ran where names have no case: a file may have come from there as "VANDMETE.DAT".
+QHash<QString, QString> NomiDei(const QString& cartella) {
+    QHash<QString, QString> nomi;
+    for (const QString& nome : QDir(cartella).entryList({u"vand*.dat"_s}, QDir::Files)) {
+        nomi.insert(nome.toLower(), nome);
+    }
+    return nomi;
+}
+
+bool Uguali(QFile& a, QFile& b) {
+    if (!a.open(QIODevice::ReadOnly) || !b.open(QIODevice::ReadOnly) || a.size() != b.size()) return false;
+    QByteArray blocco;
+    do {
+        blocco = a.read(kBloccoConfronto);
+        if (blocco != b.read(kBloccoConfronto)) return false;
+    } while (!blocco.isEmpty());
+    return a.atEnd() && b.atEnd();
+}
+
+}  // namespace
+
+bool CiSonoVecchiFile(const QString& cartella) { return NomiDei(cartella).contains(NomeVecchieMete().toLower()); }
+
+QString NomeVecchieMete() { return u"VandMete.dat"_s; }
+QString NomeVecchiaGuida() { return u"VandGuid.dat"_s; }
+QString NomeVecchieTappe(const QString& codiceMeta) { return u"vand"_s + codiceMeta.right(4) + u".dat"_s; }
+
+VecchiFile::VecchiFile(const QString& cartella, const QDateTime& adesso)
+    : cartella_(cartella), adesso_(adesso), nomi_(NomiDei(cartella)) {}
+
+VecchiFile::~VecchiFile() {
+    if (!tenuti_ && !copie_.isEmpty()) QDir(copie_).removeRecursively();
+}
+
+std::optional<QString> VecchiFile::Trova(const QString& nome) const {
+    const auto trovato = nomi_.constFind(nome.toLower());
+    if (trovato == nomi_.constEnd()) return std::nullopt;
+    return QDir(cartella_).filePath(*trovato);
+}
+
+void VecchiFile::CreaCartella() {
+    const QString nome = u"Vecchi file "_s + adesso_.toString(u"yyyy-MM-dd HH.mm.ss"_s);
+    QString libero = nome;
+    for (int numero = 2; QFileInfo::exists(QDir(cartella_).filePath(libero)); ++numero) {
+        libero = nome + u" (%1)"_s.arg(numero);
+    }
+    if (!QDir(cartella_).mkdir(libero)) {
+        throw Failure(
+            u"La cartella %1 per le copie dei vecchi file non si può creare: niente è stato convertito."_s.arg(
+                QDir::toNativeSeparators(QDir(cartella_).filePath(libero))));
+    }
+    copie_ = QDir(cartella_).filePath(libero);
+}
+
+QString VecchiFile::PercorsoCopia(const QString& path) const {
+    return QDir(copie_).filePath(QFileInfo(path).fileName());
+}
+
+QString VecchiFile::Copia(const QString& path) {
+    const std::unique_ptr<QFile> file = ApriInLettura(path);
+    if (copie_.isEmpty()) CreaCartella();
+    FileIntero copia(PercorsoCopia(path));
+    while (!file->atEnd()) {
+        const QByteArray blocco = file->read(kBloccoConfronto);
+        if (blocco.isEmpty()) {
+            throw Failure(u"Il file %1 non si può leggere fino in fondo."_s.arg(QDir::toNativeSeparators(path)));
+        }
+        copia.Scrivi(blocco);
+    }
+    copia.Chiudi();
+    return PercorsoCopia(path);
+}
+
+void VecchiFile::Togli(const QString& copia) {
+    QFile::remove(copia);
+    if (QDir().rmdir(copie_)) copie_.clear();
+}
+
+bool VecchiFile::Cancella(const QString& path) {
+    QFile file(path);
+    QFile copia(PercorsoCopia(path));
+    return Uguali(file, copia) && file.remove();
+}
+
+}  // namespace cronovia

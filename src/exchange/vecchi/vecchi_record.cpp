@@ -1,0 +1,144 @@
+#include "exchange/vecchi/vecchi_record.h"
+
+#include <algorithm>
+#include <array>
+
+#include "calendar/date.h"
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+namespace vecchia {
+constexpr std::size_t kLocalita = 0;
+constexpr std::size_t kDataInizio = 2;
+constexpr std::array<std::size_t, 9> kOrari = {3, 8, 9, 10, 11, 12, 13, 19, 20};
+constexpr std::size_t kNumeroMeta = 14;
+}  // namespace vecchia
+
+bool SoloCifre(QStringView testo) {
+    return std::all_of(testo.begin(), testo.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+bool SoloCifreEBlank(QString testo) { return SoloCifre(testo.remove(u' ')); }
+
+bool TuttoVuoto(const RecordFisso& record) {
+    return !record.guasto &&
+           std::all_of(record.campi.begin(), record.campi.end(), [](const QString& campo) { return campo.isEmpty(); });
+}
+
+QString ConBlank(const QString& testo) { return testo.isEmpty() ? u" "_s : testo; }
+
+// " 5061998" is "05061998": programs of that age wrote digits in their places with blanks for leading zeros.
+QString BlankComeZeri(QString campo) { return campo.replace(u' ', u'0'); }
+
+// Four digits, at most "2400".
+bool Orario(const QString& campo) {
+    const QString cifre = BlankComeZeri(campo);
+    if (cifre.isEmpty()) return true;
+    return cifre.size() == 4 && ValoreNumerico(cifre) <= 2400 && ValoreNumerico(cifre.right(2)) < 60;
+}
+
+bool InPosizione(std::size_t campo) {
+    return campo == vecchia::kDataInizio ||
+           std::find(vecchia::kOrari.begin(), vecchia::kOrari.end(), campo) != vecchia::kOrari.end();
+}
+
+bool DataEOrariValidi(const RecordFisso& record) {
+    const QString& data = record.campi[vecchia::kDataInizio];
+    return (data.isEmpty() || LeggiData(BlankComeZeri(data))) &&
+           std::all_of(vecchia::kOrari.begin(), vecchia::kOrari.end(),
+                       [&](std::size_t campo) { return Orario(record.campi[campo]); });
+}
+
+QString LocalitaDellaTappa(const RecordFisso& record) {
+    const QString testo = record[0];
+    return testo.left(testo.indexOf(u'*')).trimmed();
+}
+
+// "010230" as "01:02:30"; blanks are zeros, those at the end too.
+QString Sosta(const QString& campo) {
+    const QString cifre = BlankComeZeri(AggStr(campo, 6, u'0'));
+    if (!SoloCifre(cifre) || ValoreNumerico(cifre) == 0) return u" "_s;
+    return cifre.left(2) + u':' + cifre.mid(2, 2) + u':' + cifre.mid(4, 2);
+}
+
+}  // namespace
+
+const FormaRecord& FormaVecchieMete() {
+    static const FormaRecord forma{128, {30, 19, 8, 4, 3, 3, 3, 3, 4, 4, 4, 4, 4, 4, 4, 2, 2, 2, 2, 4, 4}};
+    return forma;
+}
+
+StatoRecord StatoVecchiaMeta(const RecordFisso& record) {
+    if (record[vecchia::kLocalita].startsWith(".."_L1) || TuttoVuoto(record)) return StatoRecord::Vuoto;
+    const bool numeri = std::all_of(record.campi.begin() + vecchia::kDataInizio, record.campi.end(), SoloCifreEBlank);
+    const bool completa = !record[vecchia::kLocalita].isEmpty() && ValoreNumerico(record[vecchia::kNumeroMeta]) > 0;
+    return !record.guasto && numeri && completa && DataEOrariValidi(record) ? StatoRecord::Valido : StatoRecord::Guasto;
+}
+
+// The old order is that of the table but for the number, which stands behind the night hour.
+std::vector<QString> ValoriVecchiaMeta(const RecordFisso& record) {
+    std::vector<QString> valori{Zero(ValoreNumerico(record[vecchia::kNumeroMeta]), 6)};
+    for (std::size_t i = 0; i < record.campi.size(); ++i) {
+        if (i == vecchia::kNumeroMeta) continue;
+        valori.push_back(ConBlank(InPosizione(i) ? BlankComeZeri(record.campi[i]) : record[i]));
+    }
+    return valori;
+}
+
+const FormaRecord& FormaVecchieTappe() {
+    static const FormaRecord forma{64, {24, 3, 1, 6}};
+    return forma;
+}
+
+std::optional<int> NumeroVecchieTappe(const RecordFisso& testa) {
+    const bool numeri =
+        !testa[0].isEmpty() && SoloCifre(testa[0]) && !testa[1].isEmpty() && SoloCifre(testa[1]) && !testa.guasto;
+    if (!numeri || ValoreNumerico(testa[0]) != ValoreNumerico(testa[1])) return std::nullopt;
+    return ValoreNumerico(testa[0]);
+}
+
+StatoRecord StatoVecchiaTappa(const RecordFisso& record) {
+    if (record.guasto || !SoloCifre(record[1])) return StatoRecord::Guasto;
+    const QString localita = LocalitaDellaTappa(record);
+    const bool nome = !localita.isEmpty() && localita.front() >= u'A' && localita.front() <= u'Z';
+    return nome ? StatoRecord::Valido : StatoRecord::Vuoto;
+}
+
+std::vector<QString> ValoriVecchiaTappa(const RecordFisso& record) {
+    const QString testo = record[0];
+    const qsizetype asterisco = testo.indexOf(u'*');
+    const QString strada = asterisco < 0 ? QString() : testo.mid(asterisco + 1).trimmed();
+    return {LocalitaDellaTappa(record), record[1].isEmpty() ? u"0"_s : record[1], ConBlank(strada), ConBlank(record[2]),
+            Sosta(record.campi[3])};
+}
+
+const FormaRecord& FormaVecchiaGuida() {
+    static const FormaRecord forma{128, {30, 1, 60, 5, 1}};
+    return forma;
+}
+
+StatoRecord StatoVecchiaVoce(const RecordFisso& record) {
+    if (TuttoVuoto(record)) return StatoRecord::Vuoto;
+    const bool valida = !record.guasto && !record[0].isEmpty() && !record[1].isEmpty() && SoloCifre(record[1]);
+    return valida ? StatoRecord::Valido : StatoRecord::Guasto;
+}
+
+std::vector<QString> ValoriVecchiaVoce(const RecordFisso& record) {
+    return {record[0], u'0' + record[1], ConBlank(record[2]), TempoVisita(record[3]),
+            record[4].isEmpty() ? u"0"_s : record[4]};
+}
+
+QString TempoVisita(const QString& vecchio) {
+    const qsizetype duePunti = vecchio.indexOf(u':');
+    const QString cifre =
+        duePunti < 0 ? AntStr(vecchio, 4, u'0')
+                     : AntStr(vecchio.left(duePunti), 2, u'0') + AntStr(vecchio.mid(duePunti + 1).trimmed(), 2, u'0');
+    return SoloCifre(cifre) ? cifre.left(2) + u':' + cifre.right(2) : u"00:00"_s;
+}
+
+}  // namespace cronovia

@@ -1,0 +1,43 @@
+// The records of the earlier release's three kinds of files, and what becomes of them in the tables.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "exchange/vecchi/lettore_record.h"
+
+namespace cronovia {
+
+/// What a record turned out to be.
+enum class StatoRecord {
+    Valido,
+    Vuoto,   ///< left free or deleted by the earlier release
+    Guasto,  ///< cannot be what it should
+};
+
+/// Trips, one per record.
+const FormaRecord& FormaVecchieMete();
+StatoRecord StatoVecchiaMeta(const RecordFisso& record);
+/// The first fields of `MeteVandro`, from the code to `FineVisita`, as a valid record has them.
+std::vector<QString> ValoriVecchiaMeta(const RecordFisso& record);
+
+/// Stages: a head, then one stage per record.
+const FormaRecord& FormaVecchieTappe();
+/// How many stages the head announces; nothing when it does not tell the same number twice.
+std::optional<int> NumeroVecchieTappe(const RecordFisso& testa);
+/// A record that names no locality in capital letters counts as left free.
+StatoRecord StatoVecchiaTappa(const RecordFisso& record);
+/// The fields of `Itinerari` from `Localita` to `TempoSosta`, as a valid record has them.
+std::vector<QString> ValoriVecchiaTappa(const RecordFisso& record);
+
+/// Guide entries, one per record.
+const FormaRecord& FormaVecchiaGuida();
+StatoRecord StatoVecchiaVoce(const RecordFisso& record);
+/// All fields of `GuidaCitta`, as a valid record has them.
+std::vector<QString> ValoriVecchiaVoce(const RecordFisso& record);
+
+/// A visit time as "hh:mm": "0130", "130" and "1:30" are all "01:30".
+QString TempoVisita(const QString& vecchio);
+
+}  // namespace cronovia

@@ -1,0 +1,136 @@
+// The exchange file that is written, byte by byte, and that nothing else is touched.
+#include "exchange/iei/esporta_mete.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "exchange/scambio.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+using prova::Inserisci;
+using prova::LeggiFile;
+using prova::MessaggioDi;
+
+const QByteArray kCampiMete =
+    "CodiceMeta|Localita|Nazione|DataInizio|OraInizio|MediaAutostrada|MediaSuperStrada|MediaPrincipale|MediaLocale|"
+    "OraColazione|OraPranzo|DurataPranzo|OraCena|DurataCena|OraNotte|RiposoMinuti|RiposoOre|RiposoGiorno|"
+    "RiposoDopoGiorni|InizioVisita|FineVisita|OreTraghetti|GiorniAdeguamento|CalcoloSoste\n";
+const QByteArray kCampiTappe =
+    "CodiceMeta|Sequenza|Localita|Chilometri|NomeStrada|TipoStrada|TempoSosta|SostaGuidaCitta|FineGiorno\n";
+const QByteArray kCampiGuida = "Localita|CodiceGuida|Descrizione|TempoSosta|FlagVisto\n";
+
+QByteArray MetaVuota(const QByteArray& valori) { return valori + QByteArray(21, '|') + "\n"; }
+
+class Export : public ::testing::Test {
+  protected:
+    EsitoExport Esporta(const std::vector<QString>& codici = {}, bool sovrascrivi = false) {
+        return EsportaMete({archive_, file_, codici, sovrascrivi}, progress_);
+    }
+    QString Rifiuto(const std::vector<QString>& codici = {}, bool sovrascrivi = false) {
+        return MessaggioDi([&] { Esporta(codici, sovrascrivi); });
+    }
+    void TreMete() {
+        Inserisci(archive_, Tabella::MeteVandro, {u"000002"_s, u"Zara"_s, u"HR"_s});
+        Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"Évora"_s, u"P"_s});
+        Inserisci(archive_, Tabella::MeteVandro, {u"000005"_s, u"Lugo"_s, u"E"_s});
+        Inserisci(archive_, Tabella::Itinerari, {u"000005"_s, u"0002"_s, u"Ourense"_s});
+        Inserisci(archive_, Tabella::Itinerari, {u"000001"_s, u"0001"_s, u"Elvas"_s});
+        Inserisci(archive_, Tabella::Itinerari, {u"000005"_s, u"0001"_s, u"Nizza"_s, u"210"_s});
+    }
+
+    prova::CartellaDiProva cartella_;
+    Archive archive_ = Archive::Open(cartella_.Percorso());
+    QString file_ = cartella_.Percorso() + u"/viaggi di giugno.iei"_s;
+    Progress progress_;
+};
+
+TEST_F(Export, WritesAllTripsByNameAndStagesAsTheyAreStored) {
+    TreMete();
+    const EsitoExport esito = Esporta();
+    EXPECT_EQ(LeggiFile(file_),
+              prova::Sezione('\xFF', kCampiMete + MetaVuota("000001|\xC9vora|P") + MetaVuota("000005|Lugo|E") +
+                                         MetaVuota("000002|Zara|HR")) +
+                  prova::Sezione('\xFE', kCampiTappe + "000001|0001|Elvas||||||\n" + "000005|0002|Ourense||||||\n" +
+                                             "000005|0001|Nizza|210|||||\n"));
+    EXPECT_EQ(esito.mete, 3);
+    EXPECT_EQ(esito.tappe, 3);
+    EXPECT_EQ(TestoEsito(esito), u"Le mète esportate si trovano sul file "_s + file_);
+}
+
+TEST_F(Export, WritesTheNamedTripsInTheirOrderAndTheWholeGuide) {
+    TreMete();
+    Inserisci(archive_, Tabella::GuidaCitta, {u"Altrove"_s, u"01"_s, u"  Museo  "_s, u"01:30"_s, u"0"_s});
+    EXPECT_EQ(Esporta({u"000002"_s, u"000001"_s, u"000002"_s}).voci, 1);
+    EXPECT_EQ(LeggiFile(file_),
+              prova::Sezione('\xFF', kCampiMete + MetaVuota("000002|Zara|HR") + MetaVuota("000001|\xC9vora|P")) +
+                  prova::Sezione('\xFE', kCampiTappe + "000001|0001|Elvas||||||\n") +
+                  prova::Sezione('\xFD', kCampiGuida + "Altrove|01|Museo|01:30|0\n"));
+}
+
+TEST_F(Export, SendsWhatTheFileCannotHoldAsAnotherLetter) {
+    Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"Čakovec ÿ þ ý “bar”"_s, u"Ł\"i\n–\u4E2D"_s});
+    const EsitoExport esito = Esporta();
+    EXPECT_THAT(LeggiFile(file_).toStdString(), ::testing::HasSubstr("\xFF"
+                                                                     "Cakovec y t y \x93"
+                                                                     "bar\x94\xFF"
+                                                                     "L'i \x96?\xFF"));
+    EXPECT_EQ(esito.caratteriSostituiti, 8);
+    EXPECT_EQ(TestoEsito(esito), u"Le mète esportate si trovano sul file "_s + file_ +
+                                     u"\r\nCaratteri che il file non può contenere, sostituiti con un altro: 8"_s);
+}
+
+TEST_F(Export, IntoAnEmptyFolderAndBackGivesTheSameRows) {
+    TreMete();
+    Inserisci(archive_, Tabella::Itinerari,
+              {u"000005"_s, u"0001"_s, u"L'Hospitalet, [B] #2; ok!"_s, u"999"_s, u"A7\tE15"_s, u"A"_s, u"01:02:03"_s});
+    Inserisci(archive_, Tabella::GuidaCitta,
+              {u"Elvas"_s, u"05"_s, u"Praça – 10 € a notte, «sì»"_s, u"00:00"_s, u"1"_s});
+    Esporta({u"000002"_s, u"000001"_s, u"000005"_s});
+
+    const prova::CartellaDiProva altra;
+    Archive archive = Archive::Open(altra.Percorso());
+    ImportaMete({archive, file_, {}}, progress_);
+    QStringList partite = prova::Tutto(archive_);
+    QStringList arrivate = prova::Tutto(archive);
+    partite.sort();  // stages travel trip by trip
+    arrivate.sort();
+    EXPECT_EQ(arrivate, partite);
+    EXPECT_EQ(ImportaMete({archive_, file_, {}}, progress_).meteScartate, 3);
+}
+
+TEST_F(Export, RefusesBeforeAnythingIsWritten) {
+    EXPECT_EQ(Rifiuto(), u"Non ci sono mète da esportare: niente è stato esportato."_s);
+    TreMete();
+    EXPECT_EQ(Rifiuto({u"000001"_s, u"000009"_s}),
+              u"Non c'è nessuna mèta con il codice 000009: niente è stato esportato."_s);
+    EXPECT_EQ(cartella_.Contenuto(), QStringList{u"VandroCronovia.mdb"_s});
+
+    prova::ScriviFile(file_, "prezioso");
+    EXPECT_EQ(Rifiuto(), u"Il file %1 esiste già: non è stato ricoperto."_s.arg(file_));
+    EXPECT_EQ(LeggiFile(file_), "prezioso");
+    EXPECT_EQ(Esporta({}, true).mete, 3);
+    EXPECT_TRUE(LeggiFile(file_).startsWith("CodiceMeta\xFF"));
+
+    file_ = cartella_.Archivio();
+    EXPECT_EQ(Rifiuto({}, true), u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(file_));
+    file_ = cartella_.Percorso();
+    EXPECT_EQ(Rifiuto({}, true), u"%1 è una cartella, non un file."_s.arg(file_));
+    file_ = cartella_.Percorso() + u"/manca/a.iei"_s;
+    EXPECT_EQ(Rifiuto(), u"Il file %1 non si può scrivere: controlla la cartella e i permessi."_s.arg(file_));
+}
+
+TEST_F(Export, AFullDiskLeavesTheOldFileInPlace) {
+    TreMete();
+    prova::ScriviFile(file_, "prezioso");
+    QString messaggio;
+    prova::ConDiscoPieno(100, [&] { messaggio = Rifiuto({}, true); });
+    EXPECT_EQ(messaggio, u"Il file %1 non è stato scritto: il disco è pieno o non si può scrivere."_s.arg(file_));
+    EXPECT_EQ(LeggiFile(file_), "prezioso");
+    EXPECT_EQ(cartella_.Contenuto().size(), 2);
+}
+
+}  // namespace
+}  // namespace cronovia

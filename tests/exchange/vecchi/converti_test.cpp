@@ -1,0 +1,217 @@
+// The earlier release's files joining an archive: what becomes of each field, what is left alone, what is refused.
+#include "exchange/vecchi/converti.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "exchange/scambio.h"
+#include "exchange/vecchi/vecchi_record.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+using prova::Inserisci;
+using prova::LeggiFile;
+using prova::MessaggioDi;
+using prova::Righe;
+using prova::ScriviFile;
+using ::testing::ElementsAre;
+
+// A record from its fields between "|".
+QByteArray RecordVecchio(const FormaRecord& forma, const QByteArray& campi) {
+    QByteArray record;
+    const QList<QByteArray> testi = campi.split('|');
+    for (std::size_t i = 0; i < forma.campi.size(); ++i) {
+        record += testi.value(static_cast<qsizetype>(i)).leftJustified(forma.campi[i], ' ', true);
+    }
+    return record + QByteArray(forma.lunghezza - record.size(), '\0');
+}
+QByteArray Vecchia(const QByteArray& localita, const QByteArray& numero) {
+    return RecordVecchio(FormaVecchieMete(), localita +
+                                                 "|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|1930|0130|"
+                                                 "2200|" +
+                                                 numero + "|15|02|01|07|0900|1830");
+}
+QByteArray Tappe(const QByteArray& righe) {
+    QByteArray file;
+    for (const QByteArray& riga : righe.split('\n')) file += RecordVecchio(FormaVecchieTappe(), riga);
+    return file;
+}
+QByteArray Voce(const QByteArray& campi) { return RecordVecchio(FormaVecchiaGuida(), campi); }
+
+class Conversione : public ::testing::Test {
+  protected:
+    void Scrivi(const QString& nome, const QByteArray& byte) { ScriviFile(cartella_.Percorso() + u'/' + nome, byte); }
+    EsitoConversione Converti(Progress& progress) {
+        return ConvertiVecchiFile({archive_, cartella_.Percorso(), QDateTime({2027, 6, 5}, {10, 52})}, progress);
+    }
+    EsitoConversione Converti() {
+        Progress progress;
+        return Converti(progress);
+    }
+    QStringList LeMete() { return Righe(archive_, Tabella::MeteVandro, mete::kCampi); }
+    QStringList LeTappe() { return Righe(archive_, Tabella::Itinerari, itinerari::kCampi); }
+    QStringList LaGuida() { return Righe(archive_, Tabella::GuidaCitta, guida::kCampi); }
+
+    prova::CartellaDiProva cartella_;
+    Archive archive_ = Archive::Open(cartella_.Percorso());
+    const QString copie_ = u"Vecchi file 2027-06-05 10.52.00"_s;
+};
+
+TEST_F(Conversione, EveryFieldFindsItsPlace) {
+    Inserisci(archive_, Tabella::TipoGuida, {u"77"_s, u"Mio"_s, u"0"_s});
+    const QByteArray mete =
+        Vecchia("PROVENZA", "7") + Vecchia("..CANCELLATA", "8") + Vecchia("FORL\xCC", " 12").left(117);
+    const QByteArray tappe = Tappe("5|5\nAIX*A8 A7|98|A|010230\nMETZ|7|P|000000\nlucca|1|P\n|||\nNIZZA *|  5|L|  0130");
+    Scrivi(u"VandMete.dat"_s, mete);
+    Scrivi(u"VAND0007.DAT"_s, tappe);
+    Scrivi(u"vand0012.dat"_s, Tappe("0|0"));
+    Scrivi(u"VandGuid.dat"_s, Voce("AIX|2|Cours Mirabeau|0130|0") + Voce("AIX|5||") + Voce("METZ|1|Duomo|01:45|1"));
+    const EsitoConversione esito = Converti();
+    EXPECT_EQ(TestoEsito(esito), u"Conversione eseguita...\r\n\r\nUna copia dei vecchi file è nella cartella "_s +
+                                     cartella_.Percorso() + u'/' + copie_);
+    EXPECT_THAT(LeMete(), ElementsAre(u"000007|PROVENZA|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|1930|0130|"
+                                      "2200|15|02|01|07|0900|1830|0600|000|3"_s,
+                                      u"000012|FORLÌ|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|1930|0130|"
+                                      "2200|15|02|01|07|0900|1830|0600|000|3"_s));
+    EXPECT_THAT(LeTappe(), ElementsAre(u"000007|0001|AIX|98|A8 A7|A|01:02:30| |0"_s, u"000007|0002|METZ|7| |P| | |0"_s,
+                                       u"000007|0005|NIZZA|5| |L|00:01:30| |0"_s));
+    EXPECT_THAT(LaGuida(),
+                ElementsAre(u"AIX|02|Cours Mirabeau|01:30|0"_s, u"AIX|05| |00:00|0"_s, u"METZ|01|Duomo|01:45|1"_s));
+    EXPECT_EQ(Righe(archive_, Tabella::TipoGuida).size(), 9);
+    EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_));
+    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VAND0007.DAT"_s), tappe);
+    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VandMete.dat"_s), mete);
+}
+
+TEST_F(Conversione, DigitsStandInTheirPlacesWithBlanksForZeros) {
+    const auto mete = [](const QByteArray& data, const QByteArray& orari) {
+        return RecordVecchio(FormaVecchieMete(),
+                             " ALBA |ITALIA|" + data + '|' + orari + "|  7|75|55|40| 830|12 0||1930|0130|  30|3|15");
+    };
+    Scrivi(u"VandMete.dat"_s, mete(" 5 61998", " 8 0") + mete("31021998", "0800") + mete("05061998", "0860") +
+                                  mete("05061998", "2401") + mete("0506", "0800") + mete("05061998", "08"));
+    Scrivi(u"vand0003.dat"_s, Tappe("  2|  2\nAIX| 98|A|01\n NIZZA|5|A| 1 230"));
+    EXPECT_EQ(Converti().guasti, 5);
+    EXPECT_THAT(LeMete(), ElementsAre(u"000003|ALBA|ITALIA|05061998|0800|7|75|55|40|0830|1200| |1930|0130|0030|"
+                                      "15| | | | | |0600|000|3"_s));
+    EXPECT_THAT(LeTappe(),
+                ElementsAre(u"000003|0001|AIX|98| |A|01:00:00| |0"_s, u"000003|0002|NIZZA|5| |A|01:02:30| |0"_s));
+}
+
+TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAndTheRestStays) {
+    std::vector<QString> mia(mete::kCampi, u"9"_s);
+    mia[mete::CodiceMeta] = u"000007"_s;
+    archive_.Insert(Tabella::MeteVandro, mia);
+    Inserisci(archive_, Tabella::MeteVandro, {u"010007"_s, u"LONTANA"_s});
+    archive_.Insert(Tabella::Itinerari, std::vector<QString>{u"000007"_s, u"0001"_s, u"X"_s, u"1"_s, u"x"_s, u"A"_s,
+                                                             u"00:01:00"_s, u"00:02:00"_s, u"1"_s});
+    Inserisci(archive_, Tabella::Itinerari, {u"000007"_s, u"0002"_s, u"RESTA"_s});
+    Inserisci(archive_, Tabella::GuidaCitta, {u"L'AQUILA "_s, u"01"_s, u"Fontana "_s});
+    Scrivi(u"VandMete.dat"_s, Vecchia("PROVENZA", "0007"));
+    Scrivi(u"vand0007.dat"_s, Tappe("1|1\nAIX|98|A"));
+    Scrivi(u"VandGuid.dat"_s, Voce("L\"AQUILA|2|FONTANA|0030|0"));
+    Converti();
+    EXPECT_THAT(LeMete().first(), ::testing::Eq(u"000007|PROVENZA|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|"
+                                                "1930|0130|2200|15|02|01|07|0900|1830|9|9|9"_s));
+    EXPECT_THAT(LeTappe(), ElementsAre(u"000007|0001|AIX|98| |A| |00:02:00|0"_s, u"000007|0002|RESTA| | | | | | "_s));
+    EXPECT_EQ(LeMete().size(), 2);
+}
+
+TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
+    const QByteArray diversi = Tappe("2|3\nAIX|98|A\nNIZZA|5|A");
+    Scrivi(u"VandMete.dat"_s, Vecchia("UNO", "1") + Vecchia("DUE", "2") + Vecchia("TRE", "3") + Vecchia("SEI", "6") +
+                                  Vecchia("NOVE", "9") + Vecchia("DIECI", "10") + Vecchia("SENZA NUMERO", "x"));
+    Scrivi(u"vand0001.dat"_s, diversi);
+    Scrivi(u"vand0002.dat"_s, Tappe("9|9\nAIX|98|A"));
+    Scrivi(u"vand0003.dat"_s, "ciao");
+    Scrivi(u"vand0009.dat"_s, Tappe("2|2\nAIX|x|A\nlucca|1|A"));
+    Scrivi(u"vand0010.dat"_s, Tappe("3|3\nAIX|1|A\nNIZZA|1.5|A\nBR\x01|1|A"));
+    const QString testo = TestoEsito(Converti());
+    EXPECT_TRUE(
+        testo.endsWith(u"\r\n\r\nFile da controllare:\r\n"
+                       "vand0001.dat: i due numeri delle tappe non sono uguali\r\n"
+                       "vand0002.dat: ha meno tappe di quante ne annuncia\r\n"
+                       "vand0003.dat: è troncato o non ha record di 64 caratteri\r\n"
+                       "vand0006.dat: non c'è\r\n"
+                       "vand0009.dat: nessuna delle sue tappe è leggibile\r\n\r\n"
+                       "Record illeggibili, non convertiti: 3"_s))
+        << testo.toStdString();
+    EXPECT_THAT(LeTappe(), ElementsAre(u"000010|0001|AIX|1| |A| | |0"_s));
+    EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"vand0001.dat"_s,
+                                                   u"vand0002.dat"_s, u"vand0003.dat"_s, u"vand0009.dat"_s));
+    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/vand0001.dat"_s), diversi);
+    EXPECT_EQ(QDir(cartella_.Percorso() + u'/' + copie_).entryList(QDir::Files),
+              (QStringList{u"vand0010.dat"_s, u"VandMete.dat"_s}));
+}
+
+TEST_F(Conversione, WhatIsNoneOfTheOldFilesIsRefusedWhole) {
+    EXPECT_EQ(MessaggioDi([&] { Converti(); }), u"Non c'è niente da convertire: manca il file VandMete.dat."_s);
+    Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"ALBA"_s});
+    const QByteArray buone = Vecchia("ROMA", "1");
+    const QByteArray binario(12'800, '\x01');
+    struct Rifiutato {
+        QByteArray mete;
+        QByteArray guida;
+        const char* messaggio;
+    };
+    for (const Rifiutato& caso : {
+             Rifiutato{buone.chopped(12), {}, "VandMete.dat è troncato"},
+             Rifiutato{buone + "x", {}, "VandMete.dat è troncato"},
+             Rifiutato{binario, {}, "VandMete.dat non è dell'edizione"},
+             Rifiutato{binario + Vecchia("..CANCELLATA", "1"), {}, "VandMete.dat non è dell'edizione"},
+             Rifiutato{QByteArray(10'000'000, 'x'), {}, "VandMete.dat non è dell'edizione"},
+             Rifiutato{buone, "ciao", "VandGuid.dat è troncato"},
+             Rifiutato{buone, binario, "VandGuid.dat non è dell'edizione"},
+         }) {
+        SCOPED_TRACE(caso.messaggio);
+        Scrivi(u"VandMete.dat"_s, caso.mete);
+        Scrivi(u"VandGuid.dat"_s, caso.guida);
+        const QStringList prima = prova::Tutto(archive_);
+        const QString messaggio = MessaggioDi([&] { Converti(); });
+        EXPECT_TRUE(messaggio.contains(QString::fromUtf8(caso.messaggio))) << messaggio.toStdString();
+        EXPECT_EQ(prova::Tutto(archive_), prima);
+        EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandGuid.dat"_s, u"VandMete.dat"_s, u"VandroCronovia.mdb"_s));
+    }
+    Scrivi(u"VandMete.dat"_s, {});
+    Scrivi(u"VandGuid.dat"_s, QByteArray(1280, '\0'));  // left free by the earlier release
+    EXPECT_EQ(Converti().mete, 0);
+    EXPECT_THAT(LeMete().size(), 1);
+}
+
+// Writes to the file of trips while the guide is read.
+class AltroProgramma : public Progress {
+  public:
+    explicit AltroProgramma(QString file) : file_(std::move(file)) {}
+    void Title(const QString& titolo) override {
+        if (titolo == u"Conversione file guida città"_s) ScriviFile(file_, "nuovo");
+    }
+
+  private:
+    QString file_;
+};
+
+TEST_F(Conversione, AFileThatChangesMeanwhileIsConvertedAsItWasAndStays) {
+    Scrivi(u"VandMete.dat"_s, Vecchia("ROMA", "1"));
+    Scrivi(u"VandGuid.dat"_s, Voce("ROMA|1|Colosseo|0200|0"));
+    AltroProgramma altro(cartella_.Percorso() + u"/VandMete.dat"_s);
+    const QString testo = TestoEsito(Converti(altro));
+    EXPECT_TRUE(testo.endsWith(u"VandMete.dat: è stato convertito ma non si può cancellare"_s)) << testo.toStdString();
+    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/VandMete.dat"_s), "nuovo");
+    EXPECT_EQ(LeMete().size(), 1);
+}
+
+TEST(TempoVisita, ReadsWhatPeopleHadTyped) {
+    for (const auto& [vecchio, tempo] : std::vector<std::pair<QString, QString>>{{u"0130"_s, u"01:30"_s},
+                                                                                 {u"130"_s, u"01:30"_s},
+                                                                                 {u"45"_s, u"00:45"_s},
+                                                                                 {u"1:30"_s, u"01:30"_s},
+                                                                                 {u""_s, u"00:00"_s},
+                                                                                 {u"boh"_s, u"00:00"_s}}) {
+        EXPECT_EQ(TempoVisita(vecchio), tempo) << vecchio.toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace cronovia
