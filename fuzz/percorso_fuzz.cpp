@@ -17,7 +17,7 @@ std::optional<RigheItinerario> Leggi(QByteArray file) {
     QBuffer buffer(&file);
     Pretendi(buffer.open(QIODevice::ReadOnly));
     Progress progress;
-    return CaricaDaPacchetto(buffer, u"prova.txt"_s, progress);
+    return LeggiPercorso(buffer, u"prova.txt"_s, progress);
 }
 
 bool InUnaRiga(const QString& nome) {
@@ -27,8 +27,8 @@ bool InUnaRiga(const QString& nome) {
 
 void PretendiTappa(const Tappa& tappa) {
     Pretendi(!tappa.localita.isEmpty() && InUnaRiga(tappa.localita) && InUnaRiga(tappa.numStrada));
-    Pretendi(tappa.localita.size() <= 3 * Tragitto::kMassimoNome);  // some capitals are three letters
-    Pretendi(tappa.km >= 0 && tappa.km <= Tragitto::kMassimoKm);
+    Pretendi(tappa.localita.size() <= 3 * TappaInCorso::kMassimoNome);  // some capitals are three letters
+    Pretendi(tappa.km >= 0 && tappa.km <= TappaInCorso::kMassimoKm);
     Pretendi(tappa.Traghetto() != tappa.SenzaSosta());
 }
 

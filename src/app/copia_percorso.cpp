@@ -25,9 +25,9 @@ void CopiaPercorso::ElencaMete() {
     rigaCopia_ = std::clamp(rigaCopia_, 1, std::max(1, static_cast<int>(mete_.size())));
 }
 
-std::optional<Percorso> CopiaPercorso::Scelto() const {
+std::optional<Tratto> CopiaPercorso::Scelto() const {
     if (!assegnate_[0] || !assegnate_[1]) return std::nullopt;
-    return Percorso{*assegnate_[0], *assegnate_[1]};
+    return Tratto{*assegnate_[0], *assegnate_[1]};
 }
 
 void CopiaPercorso::ScegliMeta(int riga) {

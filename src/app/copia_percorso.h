@@ -30,9 +30,9 @@ class CopiaPercorso {
     /// Rows of the assigned first and last stage.
     [[nodiscard]] const std::array<std::optional<int>, 2>& Assegnate() const { return assegnate_; }
     /// The rows to highlight.
-    [[nodiscard]] Percorso Evidenziato() const { return TrattoEvidenziato(assegnate_[0], assegnate_[1], rigaCopia_); }
+    [[nodiscard]] Tratto Evidenziato() const { return TrattoEvidenziato(assegnate_[0], assegnate_[1], rigaCopia_); }
     /// The stretch in the direction wanted, once both ends are assigned.
-    [[nodiscard]] std::optional<Percorso> Scelto() const;
+    [[nodiscard]] std::optional<Tratto> Scelto() const;
 
     /// Shows the stages of the trip in a row of the list, if there is such a row; refused when they are gone meanwhile,
     /// and the list is made anew.

@@ -38,7 +38,7 @@ void Scrivania::AltriPacchetti(const std::function<QString()>& scegliFile) {
     modoItinerario_ = u"ZZ"_s;
     volti_.mostra();
     std::optional<RigheItinerario> percorso;
-    const bool letto = Prova([&] { percorso = CaricaDaPacchetto(path, volti_.avanzamento); });
+    const bool letto = Prova([&] { percorso = LeggiPercorso(path, volti_.avanzamento); });
     volti_.avanzamento.Advance(0, 0);
     if (letto && percorso) {
         MettiPercorso(std::move(*percorso));

@@ -43,7 +43,7 @@ void Scrivania::SullaCopia(const std::function<void(CopiaPercorso&)>& comando) {
 }
 
 void Scrivania::InserisciPercorso(bool conSoste) {
-    const std::optional<Percorso> tratto = copia_ ? copia_->Scelto() : std::nullopt;
+    const std::optional<Tratto> tratto = copia_ ? copia_->Scelto() : std::nullopt;
     if (!tratto || !BoxConferma(volti_.interazione, u"IP"_s)) return;
     EsitoTratto esito = CopiaTratto(righe_, rigaCorrente_, *copia_->Tappe(), *tratto, conSoste);
     if (!Modifica(u"copia di un percorso"_s, std::move(esito.righe), esito.rigaCorrente)) return;

@@ -18,7 +18,7 @@ namespace {
 Meta ConInizio(const QDateTime& inizio, const ParametriViaggio& parametri) {
     Meta meta;
     const QDate data = inizio.date();
-    meta.dataInizio = Data2Giul({data.day(), data.month(), data.year()});
+    meta.dataInizio = NumeroDelGiorno({data.day(), data.month(), data.year()});
     meta.oraInizio = InCentesimi({0, inizio.time().hour(), inizio.time().minute()}, kGiornoOrologio);
     meta.parametri = parametri;
     return meta;

@@ -1,6 +1,5 @@
 #include "calendar/date.h"
 
-#include <QStringList>
 #include <algorithm>
 #include <cmath>
 
@@ -14,21 +13,19 @@ int Floor(double valore) { return static_cast<int>(std::floor(valore)); }
 
 }  // namespace
 
-Gma Data2Gma(QStringView data) {
+Gma LeggiGma(QStringView data) {
     return {ValoreNumerico(data.mid(0, 2)), ValoreNumerico(data.mid(2, 2)), ValoreNumerico(data.mid(4))};
 }
 
-QString Gma2Data(const Gma& gma) { return Zero(gma.giorno, 2) + Zero(gma.mese, 2) + Zero(gma.anno, 4); }
+QString TestoGma(const Gma& gma) { return Zero(gma.giorno, 2) + Zero(gma.mese, 2) + Zero(gma.anno, 4); }
 
-NumeroGiorno Data2Giul(const Gma& gma) {
+NumeroGiorno NumeroDelGiorno(const Gma& gma) {
     int numero = gma.giorno + Floor(30.57 * gma.mese) + Floor(365.25 * gma.anno - 395.25);
     if (gma.mese > 2) numero -= gma.anno % 4 == 0 ? 1 : 2;
     return NumeroGiorno(numero);
 }
 
-NumeroGiorno Data2Giul(QStringView data) { return Data2Giul(Data2Gma(data)); }
-
-Gma Giul2Data(NumeroGiorno giorno) {
+Gma GmaDelGiorno(NumeroGiorno giorno) {
     const int n = giorno.Numero();
     int anno = Floor(n / 365.26) + 1;  // 365.26 on purpose: at worst one year too low, mended below
     int resto = n - Floor(365.25 * anno - 395.25);
@@ -43,21 +40,12 @@ Gma Giul2Data(NumeroGiorno giorno) {
     return {giornoDelMese, mese, anno};
 }
 
-QString Giu2Datas(NumeroGiorno giorno) { return Gma2Data(Giul2Data(giorno)); }
+QString DataMemorizzata(NumeroGiorno giorno) { return TestoGma(GmaDelGiorno(giorno)); }
 
-QString Data2Data(QStringView data) {
-    return QStringList{data.mid(0, 2).toString(), data.mid(2, 2).toString(), data.mid(4).toString()}.join(u'/');
+QString TestoData(NumeroGiorno giorno) {
+    const Gma gma = GmaDelGiorno(giorno);
+    return Zero(gma.giorno, 2) + u'/' + Zero(gma.mese, 2) + u'/' + Zero(gma.anno, 4);
 }
-
-QString DataClear(QStringView data) {
-    return (data.left(2).toString() + data.mid(3, 2).toString()) + data.right(4).toString();
-}
-
-QString DataChan(QStringView data) {
-    return (data.mid(4).toString() + data.mid(2, 2).toString()) + data.left(2).toString();
-}
-
-QString TestoData(NumeroGiorno giorno) { return Data2Data(Giu2Datas(giorno)); }
 
 QString TestoGiornoMese(NumeroGiorno giorno) { return TestoData(giorno).left(5); }
 
@@ -85,7 +73,7 @@ int GiorniMese(int anno, int mese) {
 
 QString GiornoSettimana(QStringView data) {
     if (data.size() != 8) return {};
-    return GiornoSettimana(Data2Giul(data));
+    return GiornoSettimana(NumeroDelGiorno(LeggiGma(data)));
 }
 
 QString GiornoSettimana(NumeroGiorno giorno) {
@@ -96,10 +84,10 @@ QString GiornoSettimana(NumeroGiorno giorno) {
 std::optional<NumeroGiorno> LeggiData(QStringView data) {
     const bool soloCifre = std::all_of(data.begin(), data.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (data.size() != 8 || !soloCifre) return std::nullopt;
-    const Gma gma = Data2Gma(data);
+    const Gma gma = LeggiGma(data);
     if (gma.anno < 1901 || gma.anno > 2099 || gma.mese < 1 || gma.mese > 12) return std::nullopt;
     if (gma.giorno < 1 || gma.giorno > GiorniMese(gma.anno, gma.mese)) return std::nullopt;
-    return Data2Giul(gma);
+    return NumeroDelGiorno(gma);
 }
 
 }  // namespace cronovia

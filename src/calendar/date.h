@@ -38,29 +38,23 @@ class NumeroGiorno {
     int numero_ = 0;
 };
 
-/// Splits and joins a text ddmmyyyy.
-Gma Data2Gma(QStringView data);
-QString Gma2Data(const Gma& gma);
+/// The day of a text ddmmyyyy, part by part, whatever its digits tell; and the text of a day.
+Gma LeggiGma(QStringView data);
+QString TestoGma(const Gma& gma);
 
-/// Day number of a date, after the formula d + [30.57 m] + [365.25 y - 395.25], less 1 after February and less another
-/// one after the February of a common year; [] is the floor. `Giul2Data` is its inverse.
-NumeroGiorno Data2Giul(const Gma& gma);
-NumeroGiorno Data2Giul(QStringView data);
-Gma Giul2Data(NumeroGiorno giorno);
+/// Number of a day, after the formula d + [30.57 m] + [365.25 y - 395.25], less 1 after February and less another one
+/// after the February of a common year; [] is the floor. `GmaDelGiorno` is its inverse.
+NumeroGiorno NumeroDelGiorno(const Gma& gma);
+Gma GmaDelGiorno(NumeroGiorno giorno);
 
-/// The day as ddmmyyyy.
-QString Giu2Datas(NumeroGiorno giorno);
-
-QString Data2Data(QStringView data);           ///< ddmmyyyy as dd/mm/yyyy
-QString DataClear(QStringView data);           ///< dd/mm/yyyy as ddmmyyyy
-QString DataChan(QStringView data);            ///< ddmmyyyy as yyyymmdd, which sorts
+QString DataMemorizzata(NumeroGiorno giorno);  ///< the day as ddmmyyyy
 QString TestoData(NumeroGiorno giorno);        ///< the day as dd/mm/yyyy
 QString TestoGiornoMese(NumeroGiorno giorno);  ///< the day as dd/mm
 
 /// Days in a month, after the Gregorian rule; 28 for a month that does not exist.
 int GiorniMese(int anno, int mese);
 
-/// "Sab", "Dom", "Lun", "Mar", "Mer", "Gio" or "Ven"; the empty text when the date has not eight characters.
+/// "Sab", "Dom", "Lun", "Mar", "Mer", "Gio" or "Ven"; the empty text when a date ddmmyyyy has not eight characters.
 QString GiornoSettimana(QStringView data);
 QString GiornoSettimana(NumeroGiorno giorno);
 

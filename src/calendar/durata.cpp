@@ -44,14 +44,7 @@ Durata InDurata(Centesimi centesimi, Centesimi giorno) {
     return durata;
 }
 
-Centesimi ghmStringa2Centesimi(QStringView testo, Centesimi giorno) { return InCentesimi(LeggiDurata(testo), giorno); }
-
-QString ghmCentesimi2Stringa(Centesimi centesimi, Centesimi giorno) { return Testo(InDurata(centesimi, giorno)); }
-
-QString ghmStringa2Stringa2Punti(QStringView compatto) {
-    const QString cifre = AntStr(compatto, 6, u'0');
-    return cifre.left(2) + u':' + cifre.mid(2, 2) + u':' + cifre.right(2);
-}
+QString Testo(Centesimi centesimi, Centesimi giorno) { return Testo(InDurata(centesimi, giorno)); }
 
 QString TestoOrologio(Centesimi ora) { return TestoOre(InDurata(ora, kGiornoOrologio)); }
 

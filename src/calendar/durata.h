@@ -36,12 +36,8 @@ Centesimi InCentesimi(const Durata& durata, Centesimi giorno);
 /// Negative times take the floor, so their days are negative. A day that is not positive counts as 2400.
 Durata InDurata(Centesimi centesimi, Centesimi giorno);
 
-/// `InCentesimi` of a text and `Testo` of hundredths.
-Centesimi ghmStringa2Centesimi(QStringView testo, Centesimi giorno);
-QString ghmCentesimi2Stringa(Centesimi centesimi, Centesimi giorno);
-
-/// A compact "ggHHmm" as "gg:hh:mm": "13015" is "01:30:15".
-QString ghmStringa2Stringa2Punti(QStringView compatto);
+/// "gg:hh:mm" of hundredths, whose days are worth `giorno` each; the empty text below half a minute.
+QString Testo(Centesimi centesimi, Centesimi giorno);
 
 /// A time of day as "hh:mm"; the empty text at hour 0.
 QString TestoOrologio(Centesimi ora);

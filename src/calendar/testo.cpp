@@ -33,20 +33,12 @@ QString PrimoMaiuscolo(QStringView testo) {
     return risultato;
 }
 
-QString LikeTesto(QStringView testo) {
+QString ComeModello(QStringView testo) {
     QString modello = testo.toString();
     for (QChar& c : modello) {
         if (QStringView(u"'\"=\\><").contains(c)) c = u'?';
     }
     return modello;
-}
-
-int ValoreSenzaPunti(QStringView testo) {
-    std::int64_t valore = 0;
-    for (const QChar c : testo) {
-        if (Cifra(c)) valore = std::min(kMassimo, valore * 10 + (c.unicode() - u'0'));
-    }
-    return static_cast<int>(valore);
 }
 
 int ValoreNumerico(QStringView testo) {

@@ -23,11 +23,7 @@ QString AntStr(QStringView testo, int lunghezza, QChar riempimento);
 QString PrimoMaiuscolo(QStringView testo);
 
 /// The text as a name pattern: each ' " = \ > < becomes the one-character wildcard "?".
-QString LikeTesto(QStringView testo);
-
-/// The number that the digits of the text form, all other characters dropped: "1.250" is 1250, no digit is 0.
-/// More digits than fit give the largest number.
-int ValoreSenzaPunti(QStringView testo);
+QString ComeModello(QStringView testo);
 
 /// The whole number with which the text begins (blanks passed over, a sign allowed); 0 when it begins with none.
 int ValoreNumerico(QStringView testo);

@@ -35,7 +35,7 @@ QDateTime LeggiInizio(const QString& testo) {
     const QRegularExpressionMatch parti = forma.match(testo.trimmed());
     const auto numero = [&](int posto) { return parti.captured(posto).toInt(); };
     const QTime ora(numero(4), numero(5));
-    const bool data = LeggiData(Gma2Data({numero(1), numero(2), numero(3)})).has_value();
+    const bool data = LeggiData(TestoGma({numero(1), numero(2), numero(3)})).has_value();
     if (!parti.hasMatch() || !data || !ora.isValid()) {
         throw WrongUsage(u"L'inizio «%1» non è una data con ora: scrivila come \"05/06/2027 08:30\"."_s.arg(testo));
     }

@@ -14,7 +14,7 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
     Sessione sessione = apri();
     Progress progress;
     const QString& path = richiesta.argomenti.at(1);
-    const auto tappe = CaricaDaPacchetto(path, progress);
+    const auto tappe = LeggiPercorso(path, progress);
     if (!tappe) {
         throw Failure(u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
             QDir::toNativeSeparators(path)));

@@ -12,9 +12,9 @@ constexpr int kMassimoKm = 999;
 constexpr int kPrimaRigaConProgressivi = 3;
 constexpr std::int64_t kProgressiviMinimi = 100;
 
-std::size_t Posto(int riga) { return static_cast<std::size_t>(riga - 1); }
+std::size_t Indice(int riga) { return static_cast<std::size_t>(riga - 1); }
 
-bool Esiste(std::span<const Tappa> righe, int riga) { return riga >= 1 && Posto(riga) < righe.size(); }
+bool Esiste(std::span<const Tappa> righe, int riga) { return riga >= 1 && Indice(riga) < righe.size(); }
 
 }  // namespace
 
@@ -25,16 +25,16 @@ int NumeroTappe(std::span<const Tappa> righe) {
 }
 
 CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga) {
-    const Tappa tappa = Esiste(righe, riga) ? righe[Posto(riga)] : Tappa();
+    const Tappa tappa = Esiste(righe, riga) ? righe[Indice(riga)] : Tappa();
     CampiTappa campi{tappa.localita, tappa.numStrada.trimmed(), tappa.km, tappa.tipo, tappa.sosta, tappa.fineGiorno};
-    if (campi.numStrada.isEmpty() && Esiste(righe, riga - 1)) campi.numStrada = righe[Posto(riga - 1)].numStrada;
+    if (campi.numStrada.isEmpty() && Esiste(righe, riga - 1)) campi.numStrada = righe[Indice(riga - 1)].numStrada;
     if (riga > 1 && !campi.tipo) campi.tipo = TipoStrada::Locale;
     return campi;
 }
 
 std::int64_t KmPrecedenti(std::span<const Tappa> righe, const RiepilogoItinerario& riepilogo, int riga) {
-    if (!Esiste(righe, riga - 1) || Posto(riga - 1) >= riepilogo.tappe.size()) return 0;
-    return righe[Posto(riga - 1)].km == 0 ? 0 : riepilogo.tappe[Posto(riga - 1)].kmProgressivi;
+    if (!Esiste(righe, riga - 1) || Indice(riga - 1) >= riepilogo.tappe.size()) return 0;
+    return righe[Indice(riga - 1)].km == 0 ? 0 : riepilogo.tappe[Indice(riga - 1)].kmProgressivi;
 }
 
 int KmDellaTappa(int km, std::int64_t precedenti, int riga) {
@@ -61,7 +61,7 @@ std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga) {
 
 RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa& campi) {
     if (!Esiste(righe, riga)) righe.resize(static_cast<std::size_t>(riga));
-    Tappa& tappa = righe[Posto(riga)];
+    Tappa& tappa = righe[Indice(riga)];
     tappa.localita = campi.localita;
     tappa.numStrada = campi.numStrada;
     tappa.km = campi.km;
@@ -72,7 +72,7 @@ RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa
 }
 
 RigheItinerario InserisciRigheItinerario(RigheItinerario righe, int riga, int numero) {
-    const auto posto = std::min(Posto(riga), righe.size());
+    const auto posto = std::min(Indice(riga), righe.size());
     righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(posto), static_cast<std::size_t>(numero), Tappa());
     return righe;
 }

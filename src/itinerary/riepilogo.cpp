@@ -16,10 +16,10 @@ int GiorniMinimi(const Totali& totali, Centesimi guidaGiorno) {
 
 }  // namespace
 
-void Totali::Aggiunge(TipoStrada tipo, int kmTratto, Centesimi tempoTratto) {
+void Totali::Aggiunge(TipoStrada tipo, int kmTratta, Centesimi tempoTratta) {
     for (const std::size_t posto : {Indice(tipo), kTuttiITipi}) {
-        km[posto] += kmTratto;
-        tempo[posto] += tempoTratto;
+        km[posto] += kmTratta;
+        tempo[posto] += tempoTratta;
     }
 }
 
@@ -27,7 +27,7 @@ TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno) {
     TestiTotali testi;
     for (std::size_t i = 0; i < totali.km.size(); ++i) {
         testi.km[i] = RaggruppaNonZero(totali.km[i]);
-        testi.tempo[i] = ghmCentesimi2Stringa(totali.tempo[i], guidaGiorno);
+        testi.tempo[i] = Testo(totali.tempo[i], guidaGiorno);
     }
     testi.traghetti = QString::number(totali.traghetti);
     return testi;

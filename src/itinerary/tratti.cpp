@@ -41,12 +41,12 @@ EsitoTratto Ritorno(std::span<const Tappa> righe) {
     return esito;
 }
 
-Percorso TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int corrente) {
+Tratto TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int corrente) {
     const auto [primo, ultimo] = std::minmax({inizio.value_or(corrente), fine.value_or(corrente), corrente});
     return {primo, ultimo};
 }
 
-EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Percorso tratto,
+EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto,
                         bool conSoste) {
     const int passo = tratto.da <= tratto.a ? 1 : -1;
     RigheItinerario nuove;

@@ -21,21 +21,20 @@ struct EsitoTratto {
 EsitoTratto Ritorno(std::span<const Tappa> righe);
 
 /// Rows of the trip that is copied from, `da` first; `da` beyond `a` is the stretch driven the other way.
-struct Percorso {
+struct Tratto {
     int da = 1;
     int a = 1;  ///< included
 
-    friend bool operator==(const Percorso&, const Percorso&) = default;
+    friend bool operator==(const Tratto&, const Tratto&) = default;
 };
 
 /// The rows from the assigned first to the assigned last stage, in rising order and widened to hold the row `corrente`,
 /// which stands for an end that is not assigned.
-Percorso TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int corrente);
+Tratto TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int corrente);
 
 /// Puts a stretch after the stage of row `riga`, or before it when that row is free. A leg driven the other way has the
 /// road and kilometres of the stage that follows in the source; behind its last stage there is none. Stops, with the
 /// ends of days, come along with `conSoste`. The first new row is the current one.
-EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Percorso tratto,
-                        bool conSoste);
+EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto, bool conSoste);
 
 }  // namespace cronovia

@@ -63,13 +63,12 @@ void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
     gruppo.VoceGrassetta(u"Inizio:"_s, 1, kRientro);
     if (dati.meta.dataInizio) {
         const NumeroGiorno inizio = *dati.meta.dataInizio;
-        gruppo.Voce(DataEOra(GiornoSettimana(inizio), Data2Data(Giu2Datas(inizio)), Ora(dati.meta.oraInizio)), 2,
-                    kRientro);
+        gruppo.Voce(DataEOra(GiornoSettimana(inizio), TestoData(inizio), Ora(dati.meta.oraInizio)), 2, kRientro);
     }
     gruppo.VoceGrassetta(u"Fine:"_s, 4, kRientro);
     const auto& fine = dati.fine;
     if (fine[5].isEmpty()) return;
-    gruppo.Voce(DataEOra(fine[5], Data2Data(fine[0] + fine[1] + fine[2]), fine[3] + u':' + fine[4]), 5, kRientro);
+    gruppo.Voce(DataEOra(fine[5], fine[0] + u'/' + fine[1] + u'/' + fine[2], fine[3] + u':' + fine[4]), 5, kRientro);
     gruppo.Voce(u"dopo %1 giorni e %2 Km."_s.arg(fine[6], dati.totali.km[kTuttiITipi]), 6, kRientro);
 }
 

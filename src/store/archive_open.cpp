@@ -21,7 +21,7 @@ Archive Archive::Open(const QString& cartella) {
     RefuseForeignFile(path);
     try {
         auto connection = std::make_unique<Connection>(path);
-        DataBaseTabelleAggiorna(connection->Database(), path);
+        UpdateTables(connection->Database(), path);
         return Archive(std::move(connection));
     } catch (const SQLite::Exception& error) {
         throw Failure(opening + u": "_s + DatabaseReason(error) + u"."_s);

@@ -86,7 +86,7 @@ NamePattern NamePattern::Exactly(QStringView text) {
 }
 
 NamePattern NamePattern::ForName(QStringView name) {
-    NamePattern pattern(LikeTesto(name));
+    NamePattern pattern(ComeModello(name));
     if (name.contains(u'#') || name.contains(u'[')) pattern.itself_ = Exactly(name).elements_;
     return pattern;
 }

@@ -19,8 +19,8 @@ class NamePattern {
     /// The pattern that only this text matches, whatever wildcards it holds.
     static NamePattern Exactly(QStringView text);
 
-    /// The way a name looks for itself: as the pattern of `LikeTesto`, but the name itself always matches, even when it
-    /// holds a "#" or a "[".
+    /// The way a name looks for itself: as the pattern of `ComeModello`, but the name itself always matches, even when
+    /// it holds a "#" or a "[".
     static NamePattern ForName(QStringView name);
 
     [[nodiscard]] bool Matches(QStringView text) const;

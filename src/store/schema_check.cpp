@@ -119,7 +119,7 @@ void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabel
     }
 }
 
-void DatabaseTabellaCrea(SQLite::Database& database, const QString& name, const std::vector<Column>& columns) {
+void CreateTable(SQLite::Database& database, const QString& name, const std::vector<Column>& columns) {
     std::string list;
     for (const Column& column : columns) list += (list.empty() ? "" : ", ") + ColumnSql(column);
     database.exec("CREATE TABLE " + Quoted(name) + " (" + list + ")");
@@ -150,7 +150,7 @@ void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, c
         values += ", " + Quoted(column.name);
     }
     const QString temporary = table.nome + u"_nuova"_s;
-    DatabaseTabellaCrea(database, temporary, columns);
+    CreateTable(database, temporary, columns);
     if (!names.empty()) {
         database.exec("INSERT INTO " + Quoted(temporary) + " (rowid, " + names + ") SELECT rowid, " + values +
                       " FROM " + Quoted(table.nome) + " ORDER BY rowid");
@@ -159,7 +159,7 @@ void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, c
     database.exec("ALTER TABLE " + Quoted(temporary) + " RENAME TO " + Quoted(table.nome));
 }
 
-void DataBaseVerificaIndici(SQLite::Database& database, const DefinizioneTabella& table) {
+void MendIndexes(SQLite::Database& database, const DefinizioneTabella& table) {
     for (const QString& campo : table.indici) {
         if (HasIndex(database, table, campo)) continue;
         const std::string name = "\"" + IndexName(table, campo) + "\"";
@@ -252,7 +252,7 @@ void RefuseForeignFile(const QString& path) {
     }
 }
 
-void DataBaseTabelleAggiorna(SQLite::Database& database, const QString& path) {
+void UpdateTables(SQLite::Database& database, const QString& path) {
     RefuseForeignDatabase(database, path);
     if (UpToDate(database)) return;
     CheckEveryTable(database, path);
@@ -262,9 +262,9 @@ void DataBaseTabelleAggiorna(SQLite::Database& database, const QString& path) {
         for (const Tabella tabella : TutteLeTabelle()) {
             const DefinizioneTabella& table = Definizione(tabella);
             const TableState state = StateOf(database, table);
-            if (state.columns.empty()) DatabaseTabellaCrea(database, table.nome, DeclaredColumns(table));
+            if (state.columns.empty()) CreateTable(database, table.nome, DeclaredColumns(table));
             if (state.rebuild) RebuildTable(database, table, state.columns);
-            DataBaseVerificaIndici(database, table);
+            MendIndexes(database, table);
         }
         database.exec("PRAGMA application_id = " + std::to_string(kApplicationId));
         database.exec("PRAGMA user_version = " + std::to_string(kSchemaVersion));

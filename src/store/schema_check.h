@@ -15,6 +15,6 @@ void RefuseForeignFile(const QString& path);
 
 /// Creates missing tables and indexes, adds missing fields and follows changed widths, all in one transaction. Before
 /// an existing table set is changed, a copy of the file is laid beside it. Refused when a value does not fit its field.
-void DataBaseTabelleAggiorna(SQLite::Database& database, const QString& path);
+void UpdateTables(SQLite::Database& database, const QString& path);
 
 }  // namespace cronovia

@@ -103,7 +103,7 @@ std::vector<QString> ValoriDellaMeta(const Meta& meta) {
     std::vector<QString> valori = {
         meta.codice, meta.localita,
         (meta.nazione.trimmed() + u' ').left(Definizione(Tabella::MeteVandro).campi[mete::Nazione].larghezza),
-        meta.dataInizio ? Giu2Datas(*meta.dataInizio) : QString(), TestoOrario(meta.oraInizio)};
+        meta.dataInizio ? DataMemorizzata(*meta.dataInizio) : QString(), TestoOrario(meta.oraInizio)};
     std::vector<QString> comuni = ValoriDeiParametri(meta.parametri);
     comuni.insert(comuni.end() - 1, Zero(meta.giorniAdeguamento, 3));
     valori.insert(valori.end(), comuni.begin(), comuni.end());

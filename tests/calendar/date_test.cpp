@@ -15,26 +15,21 @@ using namespace Qt::StringLiterals;
 // Qt's calendar is the independent witness; one known day fixes where the numbers begin.
 TEST(Date, EveryDayFrom1901To2099IsConsecutiveAndComesBack) {
     const std::array<QString, 7> nomi = {u"Lun"_s, u"Mar"_s, u"Mer"_s, u"Gio"_s, u"Ven"_s, u"Sab"_s, u"Dom"_s};
-    NumeroGiorno atteso = Data2Giul(Gma{1, 1, 1901});
+    NumeroGiorno atteso = NumeroDelGiorno(Gma{1, 1, 1901});
     for (QDate data(1901, 1, 1); data.year() < 2100; data = data.addDays(1), atteso += 1) {
         const Gma gma{data.day(), data.month(), data.year()};
-        SCOPED_TRACE(Gma2Data(gma).toStdString());
-        ASSERT_EQ(Data2Giul(gma), atteso);
-        ASSERT_EQ(Giul2Data(atteso), gma);
+        SCOPED_TRACE(TestoGma(gma).toStdString());
+        ASSERT_EQ(NumeroDelGiorno(gma), atteso);
+        ASSERT_EQ(GmaDelGiorno(atteso), gma);
         ASSERT_EQ(GiornoSettimana(atteso), nomi.at(data.dayOfWeek() - 1));
         ASSERT_EQ(GiorniMese(gma.anno, gma.mese), data.daysInMonth());
         ASSERT_EQ(LeggiData(data.toString(u"ddMMyyyy"_s)), atteso);
+        ASSERT_EQ(DataMemorizzata(atteso), data.toString(u"ddMMyyyy"_s));
     }
-    EXPECT_EQ(Data2Giul(u"05082004").Numero(), 731813);
-    EXPECT_EQ(GiornoSettimana(u"05082004"), u"Gio"_s);
-}
-
-TEST(Date, FormsTurnIntoEachOther) {
-    EXPECT_EQ(Data2Data(u"05082004"), u"05/08/2004"_s);
-    EXPECT_EQ(DataClear(u"05/08/2004"), u"05082004"_s);
-    EXPECT_EQ(DataChan(u"05082004"), u"20040805"_s);
+    EXPECT_EQ(NumeroDelGiorno(Gma{5, 8, 2004}).Numero(), 731813);
     EXPECT_EQ(TestoData(NumeroGiorno(731813)), u"05/08/2004"_s);
     EXPECT_EQ(TestoGiornoMese(NumeroGiorno(731813)), u"05/08"_s);
+    EXPECT_EQ(GiornoSettimana(u"05082004"), u"Gio"_s);
 }
 
 TEST(Date, TextsThatAreNoDayAreRefused) {

@@ -19,14 +19,12 @@ TEST(Testo, TitleCase) {
 }
 
 TEST(Testo, EachOfSixCharactersBecomesTheWildcard) {
-    EXPECT_EQ(LikeTesto(u"L'AQUILA"), u"L?AQUILA"_s);
-    EXPECT_EQ(LikeTesto(u"'=\\><\""), u"??????"_s);
-    EXPECT_EQ(LikeTesto(u"NÎMES (30) [a-z] 100% _*#"), u"NÎMES (30) [a-z] 100% _*#"_s);
+    EXPECT_EQ(ComeModello(u"L'AQUILA"), u"L?AQUILA"_s);
+    EXPECT_EQ(ComeModello(u"'=\\><\""), u"??????"_s);
+    EXPECT_EQ(ComeModello(u"NÎMES (30) [a-z] 100% _*#"), u"NÎMES (30) [a-z] 100% _*#"_s);
 }
 
 TEST(Testo, NumbersAreReadAndWritten) {
-    EXPECT_EQ(ValoreSenzaPunti(u"1.250"), 1250);
-    EXPECT_EQ(ValoreSenzaPunti(u"99999999999999999999999999"), std::numeric_limits<int>::max());
     EXPECT_EQ(ValoreNumerico(u" 42 km"), 42);
     EXPECT_EQ(ValoreNumerico(u"x12"), 0);
     EXPECT_EQ(ValoreNumerico(u"-99999999999999999999999999"), -std::numeric_limits<int>::max());

@@ -39,7 +39,7 @@ TEST(Tratti, AStretchIsCopiedInEitherDirection) {
     struct Caso {
         QString prima;
         int riga;
-        Percorso tratto;
+        Tratto tratto;
         bool soste;
         QString dopo;
         int corrente;

@@ -18,7 +18,7 @@ constexpr QByteArrayView kSegnoUtf8 = "\xEF\xBB\xBF";
 std::size_t Numero(Tabella tabella) { return static_cast<std::size_t>(tabella) - 1; }
 
 // Empty when no column is named as a field. Of two columns of the same name the first one counts.
-std::vector<int> CaricaRiferimentiVettoreCampiTabelleDatabase(Tabella tabella, const Colonne& colonne) {
+std::vector<int> MappaDelleColonne(Tabella tabella, const Colonne& colonne) {
     const std::vector<Campo>& campi = Definizione(tabella).campi;
     std::vector<int> mappa;
     bool qualcuno = false;
@@ -81,7 +81,7 @@ bool LettoreIei::Prendi(QByteArrayView testo, bool inizioSezione, RigaIei& riga)
     if (colonne.valori.empty()) return false;
     MappaColonne& mappa = mappe_.at(Numero(*sezione_));
     if (inizioSezione || mappa.empty()) {
-        MappaColonne nuova = CaricaRiferimentiVettoreCampiTabelleDatabase(*sezione_, colonne);
+        MappaColonne nuova = MappaDelleColonne(*sezione_, colonne);
         if (!nuova.empty()) {
             mappa = std::move(nuova);
             return false;

@@ -27,9 +27,9 @@ bool DiMigliaia(QStringView testo, qsizetype punto) {
 
 }  // namespace
 
-ColonneTappa EstraeColonneTappa(QStringView riga) {
-    ColonneTappa colonne;
-    for (int numero = 1; numero <= ColonneTappa::kMassimo && !riga.isEmpty(); ++numero) {
+CampiPercorso SeparaCampi(QStringView riga) {
+    CampiPercorso colonne;
+    for (int numero = 1; numero <= CampiPercorso::kMassimo && !riga.isEmpty(); ++numero) {
         const qsizetype tab = riga.indexOf(u'\t');
         colonne[numero] = TestoDelCampo(tab < 0 ? riga : riga.first(tab));
         riga = tab < 0 ? QStringView() : riga.sliced(tab + 1);
@@ -37,9 +37,9 @@ ColonneTappa EstraeColonneTappa(QStringView riga) {
     return colonne;
 }
 
-qsizetype Posto(QStringView testo, QStringView parola) { return testo.indexOf(parola, 0, Qt::CaseInsensitive); }
+qsizetype Trova(QStringView testo, QStringView parola) { return testo.indexOf(parola, 0, Qt::CaseInsensitive); }
 
-bool Contiene(QStringView testo, QStringView parola) { return Posto(testo, parola) >= 0; }
+bool Contiene(QStringView testo, QStringView parola) { return Trova(testo, parola) >= 0; }
 
 QStringView PrimaParola(QStringView testo) { return Fino(testo, u' '); }
 

@@ -9,7 +9,7 @@
 namespace cronovia {
 
 /// The fields of one line, numbered from 1 to 20. Missing ones are empty, those beyond are left out.
-class ColonneTappa {
+class CampiPercorso {
   public:
     static constexpr int kMassimo = 20;
 
@@ -22,10 +22,10 @@ class ColonneTappa {
 
 /// Splits a line at its Tabs. Blanks around a field, and all but one between its words, are left out, and so are the
 /// quotes that spreadsheets put around a field with a comma.
-ColonneTappa EstraeColonneTappa(QStringView riga);
+CampiPercorso SeparaCampi(QStringView riga);
 
-/// Where a keyword of the layouts stands in a text, in whichever case; -1 when it does not.
-qsizetype Posto(QStringView testo, QStringView parola);
+/// Where a keyword of the layouts stands in a text, in whichever case; -1 when it does not. Whether it does.
+qsizetype Trova(QStringView testo, QStringView parola);
 bool Contiene(QStringView testo, QStringView parola);
 
 /// The words of a text up to its first blank, and those behind it.
@@ -41,7 +41,7 @@ std::optional<int> LeggiKm(QStringView campo);
 /// The same of a field that names the unit; 0 for any other.
 int KmConUnita(QStringView campo);
 
-/// A road's name: letters, if any, are capitals.
+/// Whether a text can be a road's name: its letters, if any, are capitals.
 bool TuttoMaiuscolo(QStringView testo);
 
 }  // namespace cronovia

@@ -24,7 +24,7 @@ constexpr Durata kSostaTraghetto{0, 2, 0};
 // Goes to the header, which is among the first lines or nowhere.
 std::unique_ptr<LettorePercorso> Riconosci(RigheTesto& righe, const DestinazioneTappe& destinazione) {
     for (int riga = 0; riga < kRigheIntestazione && righe.Avanza(); ++riga) {
-        const ColonneTappa colonne = EstraeColonneTappa(righe.Testo());
+        const CampiPercorso colonne = SeparaCampi(righe.Testo());
         if (auto lettore = LettoreIstruzioni(colonne, destinazione)) return lettore;
         if (auto lettore = LettoreLocalita(colonne, destinazione)) return lettore;
     }
@@ -42,19 +42,30 @@ QString TestoStrade(std::vector<StradaLetta> strade, bool traghetto) {
     return nomi.join(u' ');
 }
 
+// The stage as the itinerary holds it: at most two roads, or one and the ferry's mark, those travelled longest.
+Tappa TappaDellItinerario(TappaLetta letta) {
+    Tappa tappa;
+    tappa.localita = letta.localita;
+    tappa.numStrada = TestoStrade(std::move(letta.strade), letta.traghetto);
+    tappa.km = letta.km;
+    tappa.tipo = tappa.numStrada.startsWith(u'A') ? TipoStrada::Autostrada : TipoStrada::Principale;
+    if (tappa.Traghetto()) tappa.sosta = kSostaTraghetto;
+    return tappa;
+}
+
 }  // namespace
 
-std::optional<RigheItinerario> CaricaDaPacchetto(const QString& path, Progress& progress) {
+std::optional<RigheItinerario> LeggiPercorso(const QString& path, Progress& progress) {
     const StatoFile prima = StatoDelFile(path);
     const auto file = ApriInLettura(path);
-    auto tappe = CaricaDaPacchetto(*file, path, progress);
+    auto tappe = LeggiPercorso(*file, path, progress);
     const QString nome = QDir::toNativeSeparators(path);
     if (StatoDelFile(path) != prima) throw Failure(u"Il file %1 è cambiato mentre veniva letto."_s.arg(nome));
     if (tappe && tappe->empty()) throw Failure(u"Nel percorso del file %1 non c'è nessuna tappa."_s.arg(nome));
     return tappe;
 }
 
-std::optional<RigheItinerario> CaricaDaPacchetto(QIODevice& device, const QString& path, Progress& progress) {
+std::optional<RigheItinerario> LeggiPercorso(QIODevice& device, const QString& path, Progress& progress) {
     if (device.size() < kMinimoByte) return std::nullopt;
     RigheItinerario tappe;
     const auto destinazione = [&](const TappaLetta& letta) {
@@ -62,7 +73,7 @@ std::optional<RigheItinerario> CaricaDaPacchetto(QIODevice& device, const QStrin
             throw Failure(u"Il percorso del file %1 ha più di %2 tappe: un itinerario non può contenerle."_s.arg(
                 QDir::toNativeSeparators(path), Raggruppa(kMassimoTappe)));
         }
-        tappe.push_back(SalvaRigaItinerarioImportato(letta));
+        tappe.push_back(TappaDellItinerario(letta));
     };
     RigheTesto righe(device);
     const auto lettore = Riconosci(righe, destinazione);
@@ -71,19 +82,9 @@ std::optional<RigheItinerario> CaricaDaPacchetto(QIODevice& device, const QStrin
     const auto lunghezza = static_cast<double>(device.size());
     while (righe.Avanza()) {
         progress.Advance(static_cast<double>(device.pos()), lunghezza);
-        lettore->Leggi(EstraeColonneTappa(righe.Testo()));
+        lettore->Leggi(SeparaCampi(righe.Testo()));
     }
     return tappe;
-}
-
-Tappa SalvaRigaItinerarioImportato(TappaLetta letta) {
-    Tappa tappa;
-    tappa.localita = letta.localita;
-    tappa.numStrada = TestoStrade(std::move(letta.strade), letta.traghetto);
-    tappa.km = letta.km;
-    tappa.tipo = tappa.numStrada.startsWith(u'A') ? TipoStrada::Autostrada : TipoStrada::Principale;
-    if (tappa.Traghetto()) tappa.sosta = kSostaTraghetto;
-    return tappa;
 }
 
 QString RiassuntoPercorso(std::span<const Tappa> tappe) {

@@ -6,7 +6,6 @@
 #include <optional>
 #include <span>
 
-#include "exchange/percorsi/tappa_in_corso.h"
 #include "interaction/progress.h"
 #include "itinerary/modifiche.h"
 
@@ -14,13 +13,10 @@ namespace cronovia {
 
 /// The stages of a route planner's export; nothing when the file is none that is known. A `Failure` when it cannot be
 /// read, changes while it is read, or has no stage or more than an itinerary can hold.
-std::optional<RigheItinerario> CaricaDaPacchetto(const QString& path, Progress& progress);
+std::optional<RigheItinerario> LeggiPercorso(const QString& path, Progress& progress);
 
 /// The same from a device, which may also have no stage. `path` is its name in messages.
-std::optional<RigheItinerario> CaricaDaPacchetto(QIODevice& device, const QString& path, Progress& progress);
-
-/// The stage as the itinerary holds it: at most two roads, or one and the ferry's mark, those travelled longest.
-Tappa SalvaRigaItinerarioImportato(TappaLetta letta);
+std::optional<RigheItinerario> LeggiPercorso(QIODevice& device, const QString& path, Progress& progress);
 
 /// What was recognised, in two lines: how many stages, from where to where; how far, with how many ferries. There must
 /// be a stage.

@@ -14,15 +14,15 @@ constexpr int kKm = 2;
 constexpr int kIstruzione = 3;
 constexpr QStringView kVicino = u"vicino";
 
-bool ConIstruzioni(const ColonneTappa& colonne) {
+bool ConIstruzioni(const CampiPercorso& colonne) {
     return colonne[1].endsWith("ora"_L1, Qt::CaseInsensitive) &&
            colonne[kKm].compare("km"_L1, Qt::CaseInsensitive) == 0 &&
            colonne[kIstruzione].compare("istruzioni"_L1, Qt::CaseInsensitive) == 0;
 }
 
 // The further column of the distances on each road; without one, the kilometres so far take its place.
-int ColonnaDistanza(const ColonneTappa& intestazione) {
-    for (int numero = kIstruzione + 1; numero <= ColonneTappa::kMassimo; ++numero) {
+int ColonnaDistanza(const CampiPercorso& intestazione) {
+    for (int numero = kIstruzione + 1; numero <= CampiPercorso::kMassimo; ++numero) {
         if (intestazione[numero].startsWith("km"_L1, Qt::CaseInsensitive)) return numero;
     }
     return kKm;
@@ -37,12 +37,12 @@ QStringView SenzaPunteggiatura(QStringView testo) {
 }
 
 QStringView Partenza(QStringView istruzione) {
-    const qsizetype vicino = Posto(istruzione, kVicino);
+    const qsizetype vicino = Trova(istruzione, kVicino);
     return vicino < 0 ? DopoLaPrimaParola(istruzione) : istruzione.mid(vicino + kVicino.size() + 3);  // "vicino a "
 }
 
 QStringView Arrivo(QStringView istruzione) {
-    const qsizetype vicino = Posto(istruzione, kVicino);
+    const qsizetype vicino = Trova(istruzione, kVicino);
     if (vicino >= 0) istruzione = istruzione.mid(vicino + kVicino.size() + 1);
     return SenzaPunteggiatura(PrimaParola(DopoLaPrimaParola(istruzione)));
 }
@@ -52,16 +52,16 @@ QStringView NomeTraghetto(QStringView istruzione) {
     const qsizetype asterisco = istruzione.indexOf(u'*');
     const QStringView nome = asterisco < 0 ? QStringView() : istruzione.mid(asterisco + 4);
     if (nome.contains(u',')) return Fino(nome, u',').trimmed();
-    const qsizetype su = Posto(istruzione, kSu);
+    const qsizetype su = Trova(istruzione, kSu);
     return su < 0 ? QStringView() : Fino(istruzione.sliced(su + kSu.size()), u'(').trimmed();
 }
 
 class Istruzioni : public LettorePercorso {
   public:
-    Istruzioni(const ColonneTappa& intestazione, DestinazioneTappe destinazione)
-        : tragitto_(std::move(destinazione)), colonnaDistanza_(ColonnaDistanza(intestazione)) {}
+    Istruzioni(const CampiPercorso& intestazione, DestinazioneTappe destinazione)
+        : inCorso_(std::move(destinazione)), colonnaDistanza_(ColonnaDistanza(intestazione)) {}
 
-    void Leggi(const ColonneTappa& colonne) override {
+    void Leggi(const CampiPercorso& colonne) override {
         if (ConIstruzioni(colonne)) {
             colonnaDistanza_ = ColonnaDistanza(colonne);
             return;
@@ -69,7 +69,7 @@ class Istruzioni : public LettorePercorso {
         QStringView istruzione = colonne[kIstruzione];
         if (Uguali(PrimaParola(istruzione), kVicino)) istruzione = DopoLaPrimaParola(istruzione);
         const QStringView localita = Localita(istruzione, colonne[kKm]);
-        if (tragitto_.Nuova(localita)) tragitto_.Arriva(localita);
+        if (inCorso_.Nuova(localita)) inCorso_.Arriva(localita);
         RaccogliStrada(istruzione, colonne[colonnaDistanza_]);
     }
 
@@ -82,40 +82,40 @@ class Istruzioni : public LettorePercorso {
             return Partenza(istruzione);
         }
         const bool traghetto = Contiene(istruzione, u"controllo orari");
-        const QStringView localita = FineTratto(SenzaPunteggiatura(prima), istruzione, traghetto);
+        const QStringView localita = FineTratta(SenzaPunteggiatura(prima), istruzione, traghetto);
         if (localita.isNull()) return localita;
-        if (const auto valore = LeggiKm(km)) tragitto_.Avanza(std::min(*valore, Tragitto::kMassimoKm));
+        if (const auto valore = LeggiKm(km)) inCorso_.Avanza(std::min(*valore, TappaInCorso::kMassimoKm));
         return localita;
     }
 
     // Null for an instruction that ends no leg.
-    QStringView FineTratto(QStringView prima, QStringView istruzione, bool traghetto) {
+    QStringView FineTratta(QStringView prima, QStringView istruzione, bool traghetto) {
         if (Uguali(prima, u"arrivo")) return Arrivo(istruzione);
         if (Uguali(prima, u"a")) return Fino(istruzione.mid(2), u',');
         if (Uguali(prima, u"presso")) return Fino(istruzione.mid(7), u',');
         if (Uguali(prima, u"ingresso")) return istruzione;
         if (!traghetto) return {};
         const QStringView nome = NomeTraghetto(istruzione);
-        if (!nome.isEmpty()) tragitto_.SiImbarca();
+        if (!nome.isEmpty()) inCorso_.SiImbarca();
         return nome;
     }
 
     void RaccogliStrada(QStringView istruzione, QStringView distanza) {
         constexpr QStringView kSu = u" su ";
-        const qsizetype su = Posto(istruzione, kSu);
+        const qsizetype su = Trova(istruzione, kSu);
         if (su < 0) return;
         const QStringView strada = SenzaPunteggiatura(PrimaParola(istruzione.sliced(su + kSu.size())));
-        if (!strada.isEmpty() && TuttoMaiuscolo(strada)) tragitto_.Percorre(strada.toString(), KmConUnita(distanza));
+        if (!strada.isEmpty() && TuttoMaiuscolo(strada)) inCorso_.Percorre(strada.toString(), KmConUnita(distanza));
     }
 
-    Tragitto tragitto_;
+    TappaInCorso inCorso_;
     int colonnaDistanza_;
     bool partito_ = false;
 };
 
 }  // namespace
 
-std::unique_ptr<LettorePercorso> LettoreIstruzioni(const ColonneTappa& intestazione, DestinazioneTappe destinazione) {
+std::unique_ptr<LettorePercorso> LettoreIstruzioni(const CampiPercorso& intestazione, DestinazioneTappe destinazione) {
     if (!ConIstruzioni(intestazione)) return nullptr;
     return std::make_unique<Istruzioni>(intestazione, std::move(destinazione));
 }

@@ -17,7 +17,7 @@ constexpr int kDistanza = 3;
 constexpr qsizetype kMassimoInsieme = 24;  // of a road and a locality side by side
 
 // A mark of two characters may stand before the first title.
-bool ConLocalita(const ColonneTappa& colonne) {
+bool ConLocalita(const CampiPercorso& colonne) {
     const QString titolo = colonne[kLocalita].toLower();
     return (titolo == u"località" || titolo.mid(2) == u"località") &&
            colonne[kDirezione].compare("direzione"_L1, Qt::CaseInsensitive) == 0 &&
@@ -25,8 +25,8 @@ bool ConLocalita(const ColonneTappa& colonne) {
 }
 
 // The column of the kilometres so far; 0, which is always empty, when there is none.
-int ColonnaProgressivi(const ColonneTappa& intestazione) {
-    for (int numero = kDistanza + 1; numero <= ColonneTappa::kMassimo; ++numero) {
+int ColonnaProgressivi(const CampiPercorso& intestazione) {
+    for (int numero = kDistanza + 1; numero <= CampiPercorso::kMassimo; ++numero) {
         if (intestazione[numero].compare("posizione opposta"_L1, Qt::CaseInsensitive) == 0) return numero;
     }
     return 0;
@@ -90,14 +90,14 @@ void TogliNumero(LocalitaStrada& parti) {
 // "REPUBBLICA CECA" is too long beside a road: "REPUBBLIC. CECA".
 QString Abbrevia(const QString& localita) {
     constexpr QStringView kRepubblica = u"REPUBBL";
-    const qsizetype posto = Posto(localita, kRepubblica);
+    const qsizetype posto = Trova(localita, kRepubblica);
     if (posto < 0) return localita;
     const qsizetype taglio = std::min(posto + kRepubblica.size() + 2, localita.size());
     const QStringView resto = DopoLaPrimaParola(QStringView(localita).sliced(taglio));
     return (localita.first(taglio) + u". "_s + resto.toString()).trimmed();
 }
 
-LocalitaStrada EstraeTappaStrada(const ColonneTappa& colonne, const QString& campo) {
+LocalitaStrada EstraeTappaStrada(const CampiPercorso& colonne, const QString& campo) {
     LocalitaStrada parti = SenzaAggiunte(campo);
     TogliNumero(parti);
     parti.localita = Fino(parti.localita, u',').trimmed().toString();
@@ -116,13 +116,13 @@ LocalitaStrada EstraeTappaStrada(const ColonneTappa& colonne, const QString& cam
 // The rest of the text behind a word and a blank; null when it does not hold the word.
 QString Dopo(const QString& testo, QStringView parola) {
     const QString conBlank = u' ' + parola.toString() + u' ';
-    const qsizetype posto = Posto(u' ' + testo, conBlank);
+    const qsizetype posto = Trova(u' ' + testo, conBlank);
     return posto < 0 ? QString() : testo.mid(posto + conBlank.size() - 1);
 }
 
 // The place that a direction names when the line has no locality of its own.
 QString DallaDirezione(const QString& direzione) {
-    const qsizetype confine = Posto(direzione, u"confine");
+    const qsizetype confine = Trova(direzione, u"confine");
     if (confine >= 0) {
         const QString oltre = Dopo(direzione.sliced(confine), u"verso");
         const QString paese = oltre.isEmpty() ? Dopo(direzione, u"verso") : oltre;
@@ -134,40 +134,40 @@ QString DallaDirezione(const QString& direzione) {
 
 class Localita : public LettorePercorso {
   public:
-    Localita(const ColonneTappa& intestazione, DestinazioneTappe destinazione)
-        : tragitto_(std::move(destinazione)), colonnaProgressivi_(ColonnaProgressivi(intestazione)) {}
+    Localita(const CampiPercorso& intestazione, DestinazioneTappe destinazione)
+        : inCorso_(std::move(destinazione)), colonnaProgressivi_(ColonnaProgressivi(intestazione)) {}
 
-    void Leggi(const ColonneTappa& colonne) override {
+    void Leggi(const CampiPercorso& colonne) override {
         if (ConLocalita(colonne)) {
             colonnaProgressivi_ = ColonnaProgressivi(colonne);
             return;
         }
         const QString& km = colonne[colonnaProgressivi_];
-        if (Contiene(km, u"KM")) tragitto_.Avanza(std::min(KmConUnita(km), Tragitto::kMassimoKm));
-        if (Contiene(colonne[kDirezione], u"traghetto")) tragitto_.SiImbarca();
+        if (Contiene(km, u"KM")) inCorso_.Avanza(std::min(KmConUnita(km), TappaInCorso::kMassimoKm));
+        if (Contiene(colonne[kDirezione], u"traghetto")) inCorso_.SiImbarca();
         const bool entrato = Esamina(colonne, colonne[kLocalita]);
         if (!entrato && Contiene(colonne[kDirezione], u"confine")) Esamina(colonne, {});
     }
 
   private:
     // True when the place is the border itself.
-    bool Esamina(const ColonneTappa& colonne, const QString& campo) {
+    bool Esamina(const CampiPercorso& colonne, const QString& campo) {
         LocalitaStrada parti = EstraeTappaStrada(colonne, campo);
         if (parti.localita.isEmpty()) parti.localita = DallaDirezione(colonne[kDirezione]);
-        if (!parti.strada.isEmpty()) tragitto_.Percorre(parti.strada, KmConUnita(colonne[kDistanza]));
+        if (!parti.strada.isEmpty()) inCorso_.Percorre(parti.strada, KmConUnita(colonne[kDistanza]));
         const bool entrato = Contiene(parti.localita, u"ingresso");
-        const bool lontana = tragitto_.AlVia() || tragitto_.KmDallUltimaTappa() >= 1;
-        if (entrato || (lontana && tragitto_.Nuova(parti.localita))) tragitto_.Arriva(parti.localita);
+        const bool lontana = inCorso_.AlVia() || inCorso_.KmDallUltimaTappa() >= 1;
+        if (entrato || (lontana && inCorso_.Nuova(parti.localita))) inCorso_.Arriva(parti.localita);
         return entrato;
     }
 
-    Tragitto tragitto_;
+    TappaInCorso inCorso_;
     int colonnaProgressivi_;
 };
 
 }  // namespace
 
-std::unique_ptr<LettorePercorso> LettoreLocalita(const ColonneTappa& intestazione, DestinazioneTappe destinazione) {
+std::unique_ptr<LettorePercorso> LettoreLocalita(const CampiPercorso& intestazione, DestinazioneTappe destinazione) {
     if (!ConLocalita(intestazione)) return nullptr;
     return std::make_unique<Localita>(intestazione, std::move(destinazione));
 }

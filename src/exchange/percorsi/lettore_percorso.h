@@ -16,13 +16,13 @@ class LettorePercorso {
     LettorePercorso& operator=(const LettorePercorso&) = delete;
     virtual ~LettorePercorso() = default;
 
-    virtual void Leggi(const ColonneTappa& colonne) = 0;
+    virtual void Leggi(const CampiPercorso& colonne) = 0;
 };
 
 /// The reader of a list of instructions with clock times; nothing when the line is not the header of one.
-std::unique_ptr<LettorePercorso> LettoreIstruzioni(const ColonneTappa& intestazione, DestinazioneTappe destinazione);
+std::unique_ptr<LettorePercorso> LettoreIstruzioni(const CampiPercorso& intestazione, DestinazioneTappe destinazione);
 
 /// The reader of a list of localities with directions; nothing when the line is not the header of one.
-std::unique_ptr<LettorePercorso> LettoreLocalita(const ColonneTappa& intestazione, DestinazioneTappe destinazione);
+std::unique_ptr<LettorePercorso> LettoreLocalita(const CampiPercorso& intestazione, DestinazioneTappe destinazione);
 
 }  // namespace cronovia

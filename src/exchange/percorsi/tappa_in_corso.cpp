@@ -14,30 +14,30 @@ QString NomeLocalita(QStringView testo) {
     constexpr QStringView kVicinoA = u"vicino a";
     const bool vicino = nome.startsWith(kVicinoA, Qt::CaseInsensitive);
     if (vicino && (nome.size() == kVicinoA.size() || nome[kVicinoA.size()] == u' ')) nome = nome.mid(kVicinoA.size());
-    return nome.trimmed().left(Tragitto::kMassimoNome).trimmed().toString().toUpper();
+    return nome.trimmed().left(TappaInCorso::kMassimoNome).trimmed().toString().toUpper();
 }
 
 }  // namespace
 
-void Tragitto::Percorre(const QString& strada, int km) {
+void TappaInCorso::Percorre(const QString& strada, int km) {
     std::vector<StradaLetta>& strade = tappa_.strade;
     const QString nome = strada.left(kMassimoNome).trimmed();
     const bool nota = std::any_of(strade.begin(), strade.end(), [&](const StradaLetta& s) { return s.nome == nome; });
     if (!nota && strade.size() < kMassimoStrade) strade.push_back({nome, km});
 }
 
-void Tragitto::Avanza(int km) {
+void TappaInCorso::Avanza(int km) {
     if (km < kmRiga_) kmBase_ += kmRiga_;
     kmRiga_ = km;
 }
 
-bool Tragitto::Nuova(QStringView localita) const {
+bool TappaInCorso::Nuova(QStringView localita) const {
     const QString nome = NomeLocalita(localita);
     return !nome.isEmpty() && nome != tappa_.localita;
 }
 
 // The place stays in the stage under way: it is where that one begins.
-void Tragitto::Arriva(QStringView localita) {
+void TappaInCorso::Arriva(QStringView localita) {
     tappa_.localita = NomeLocalita(localita);
     tappa_.km = static_cast<int>(std::clamp<std::int64_t>(KmDallUltimaTappa(), 0, kMassimoKm));
     destinazione_(tappa_);

@@ -25,13 +25,13 @@ struct TappaLetta {
 using DestinazioneTappe = std::function<void(const TappaLetta&)>;
 
 /// Collects roads, ferries and kilometres until a place is reached.
-class Tragitto {
+class TappaInCorso {
   public:
     static constexpr int kMassimoKm = 32'767;   ///< a larger distance counts as this one
     static constexpr int kMassimoStrade = 101;  ///< of one stage; what comes beyond is left out
     static constexpr int kMassimoNome = 200;    ///< characters of a name; what comes beyond is left out
 
-    explicit Tragitto(DestinazioneTappe destinazione) : destinazione_(std::move(destinazione)) {}
+    explicit TappaInCorso(DestinazioneTappe destinazione) : destinazione_(std::move(destinazione)) {}
 
     void Percorre(const QString& strada, int km);
     void SiImbarca() { tappa_.traghetto = true; }

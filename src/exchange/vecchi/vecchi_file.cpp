@@ -70,14 +70,14 @@ void VecchiFile::CreaCartella() {
     copie_ = QDir(cartella_).filePath(libero);
 }
 
-QString VecchiFile::PercorsoCopia(const QString& path) const {
+QString VecchiFile::FileDellaCopia(const QString& path) const {
     return QDir(copie_).filePath(QFileInfo(path).fileName());
 }
 
 QString VecchiFile::Copia(const QString& path) {
     const std::unique_ptr<QFile> file = ApriInLettura(path);
     if (copie_.isEmpty()) CreaCartella();
-    FileIntero copia(PercorsoCopia(path));
+    FileIntero copia(FileDellaCopia(path));
     while (!file->atEnd()) {
         const QByteArray blocco = file->read(kBloccoConfronto);
         if (blocco.isEmpty()) {
@@ -86,7 +86,7 @@ QString VecchiFile::Copia(const QString& path) {
         copia.Scrivi(blocco);
     }
     copia.Chiudi();
-    return PercorsoCopia(path);
+    return FileDellaCopia(path);
 }
 
 void VecchiFile::Togli(const QString& copia) {
@@ -96,7 +96,7 @@ void VecchiFile::Togli(const QString& copia) {
 
 bool VecchiFile::Cancella(const QString& path) {
     QFile file(path);
-    QFile copia(PercorsoCopia(path));
+    QFile copia(FileDellaCopia(path));
     return Uguali(file, copia) && file.remove();
 }
 

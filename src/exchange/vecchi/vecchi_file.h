@@ -42,7 +42,7 @@ class VecchiFile {
 
   private:
     void CreaCartella();
-    [[nodiscard]] QString PercorsoCopia(const QString& path) const;
+    [[nodiscard]] QString FileDellaCopia(const QString& path) const;
 
     QString cartella_;
     QDateTime adesso_;

@@ -65,7 +65,7 @@ void FrmLista::Mostra(const CopiaPercorso& copia) {
     AdattaLarghezze();
     QItemSelectionModel& selezione = *mfgCopia_->selectionModel();
     selezione.setCurrentIndex(modello_.index(copia.RigaCopia() - 1, 0), QItemSelectionModel::NoUpdate);
-    const Percorso tratto = copia.Tappe() ? copia.Evidenziato() : Percorso{copia.RigaCopia(), copia.RigaCopia()};
+    const Tratto tratto = copia.Tappe() ? copia.Evidenziato() : Tratto{copia.RigaCopia(), copia.RigaCopia()};
     selezione.select(
         QItemSelection(modello_.index(tratto.da - 1, 0), modello_.index(tratto.a - 1, modello_.columnCount() - 1)),
         QItemSelectionModel::ClearAndSelect);

@@ -148,7 +148,7 @@ void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilo
     if (!meta.dataInizio) {
         for (const std::size_t i : {0U, 1U, 2U}) cmbInizio_[i]->setCurrentIndex(-1);
     } else {
-        const Gma gma = Giul2Data(*meta.dataInizio);
+        const Gma gma = GmaDelGiorno(*meta.dataInizio);
         MostraVoce(*cmbInizio_[1], Zero(gma.mese, 2));
         MostraVoce(*cmbInizio_[2], Zero(gma.anno, 4));
         MostraVoce(*cmbInizio_[0], Zero(gma.giorno, 2));

@@ -20,7 +20,7 @@ Percorso Leggi(QByteArray file) {
     QBuffer buffer(&file);
     EXPECT_TRUE(buffer.open(QIODevice::ReadOnly));
     Progress progress;
-    return CaricaDaPacchetto(buffer, u"prova.txt"_s, progress);
+    return LeggiPercorso(buffer, u"prova.txt"_s, progress);
 }
 
 // "PLACE road km type stop" of every stage, one in a line.
@@ -191,7 +191,7 @@ TEST(ImportaPercorso, ExamplesAreAsReviewed) {
     Progress progress;
     QString ottenuto;
     for (const QString& nome : cartella.entryList(QDir::Files, QDir::Name)) {
-        const Percorso percorso = CaricaDaPacchetto(cartella.filePath(nome), progress);
+        const Percorso percorso = LeggiPercorso(cartella.filePath(nome), progress);
         ASSERT_TRUE(percorso.has_value()) << nome.toStdString();
         ottenuto += nome + u'\n' + RiassuntoPercorso(*percorso) + u'\n' + Righe(percorso) + u"\n\n"_s;
     }
@@ -223,7 +223,7 @@ class FileGuasti : public testing::Test {
         Progress muto;
         prova::ScriviFile(percorso_, file);
         return MessaggioDi([&] {
-            if (!CaricaDaPacchetto(percorso_, progress == nullptr ? muto : *progress)) throw Failure(u"sconosciuto"_s);
+            if (!LeggiPercorso(percorso_, progress == nullptr ? muto : *progress)) throw Failure(u"sconosciuto"_s);
         });
     }
     void SetUp() override { cartella_.Crea(); }
@@ -278,7 +278,7 @@ TEST_F(FileGuasti, AFileThatChangesOrGoesWhileItIsRead) {
     Disturbo toglie([&] { QFile::remove(percorso_); });
     EXPECT_EQ(Messaggio(file, &toglie), cambiato);
     Progress progress;
-    EXPECT_EQ(MessaggioDi([&] { CaricaDaPacchetto(percorso_, progress); }), u"Il file %1 non esiste."_s.arg(percorso_));
+    EXPECT_EQ(MessaggioDi([&] { LeggiPercorso(percorso_, progress); }), u"Il file %1 non esiste."_s.arg(percorso_));
 }
 
 }  // namespace
