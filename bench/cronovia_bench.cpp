@@ -50,7 +50,7 @@ void RiempiGuida(Archive& archive, int voci) {
     Transaction transaction(archive);
     for (int i = 0; i < voci; ++i) {
         const QString localita = i < 100 ? u"LOCALITA %1"_s.arg(i * 3) : u"ALTROVE %1"_s.arg(i / 4);
-        archive.Insert(Tabella::GuidaCitta,
+        archive.Insert(Table::GuidaCitta,
                        std::array<QString, 5>{localita, u"0%1"_s.arg(1 + i % 9), u"Museo civico numero %1"_s.arg(i),
                                               u"01:15"_s, u"0"_s});
     }

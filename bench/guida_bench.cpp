@@ -38,7 +38,7 @@ void Riempi(const QString& cartella, int perLocalita) {
         const QString localita = sullaVia ? Nome(i % kLocalita) : u"ALTROVE %1"_s.arg(i / 8);
         const std::array<QString, guida::kCampi> valori = {
             localita, u"0%1"_s.arg(1 + i % 9), u"Museo civico, sala %1"_s.arg(i * 7919 % kVoci), u"00:15"_s, u"0"_s};
-        sessione.Archivio().Insert(Tabella::GuidaCitta, valori);
+        sessione.Archivio().Insert(Table::GuidaCitta, valori);
     }
     transaction.Commit();
 }

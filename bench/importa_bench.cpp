@@ -61,10 +61,10 @@ std::vector<QByteArray> ValoriTappa(int meta, int tappa) {
 
 // Calls `riga` with the values of every row of the section, after the names of the fields.
 template <typename Visita>
-void PerOgniRiga(Tabella tabella, int mete, Visita riga) {
+void PerOgniRiga(Table tabella, int mete, Visita riga) {
     for (int meta = 1; meta <= mete; ++meta) {
-        if (tabella == Tabella::MeteVandro) riga(ValoriMeta(meta));
-        for (int tappa = 1; tabella == Tabella::Itinerari && tappa <= kTappePerMeta; ++tappa) {
+        if (tabella == Table::MeteVandro) riga(ValoriMeta(meta));
+        for (int tappa = 1; tabella == Table::Itinerari && tappa <= kTappePerMeta; ++tappa) {
             riga(ValoriTappa(meta, tappa));
         }
     }
@@ -80,16 +80,16 @@ void ScriviRiga(QFile& file, const std::vector<QByteArray>& valori, char separat
 void ScriviFileDiScambio(const QString& path, int mete) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly)) std::abort();
-    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari}) {
+    for (const Table tabella : {Table::MeteVandro, Table::Itinerari}) {
         const char separatore = SeparatoreSezione(tabella);
         std::vector<QByteArray> nomi;
-        for (const Campo& campo : Definizione(tabella).campi) nomi.push_back(campo.nome.toLatin1());
+        for (const FieldDefinition& campo : Definition(tabella).fields) nomi.push_back(campo.name.toLatin1());
         ScriviRiga(file, nomi, separatore, "\r\n");
         PerOgniRiga(tabella, mete, [&](const auto& valori) { ScriviRiga(file, valori, separatore, "\r\n"); });
     }
 }
 
-void ScriviCsv(const QString& path, Tabella tabella, int mete) {
+void ScriviCsv(const QString& path, Table tabella, int mete) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly)) std::abort();
     PerOgniRiga(tabella, mete, [&](const auto& valori) { ScriviRiga(file, valori, ',', "\n"); });
@@ -139,8 +139,8 @@ void SqliteShell(benchmark::State& state) {
     if (QStandardPaths::findExecutable(u"sqlite3"_s).isEmpty()) return state.SkipWithError("no sqlite3 shell");
     const QTemporaryDir cartella;
     const auto mete = static_cast<int>(state.range(0));
-    ScriviCsv(cartella.filePath(u"mete.csv"_s), Tabella::MeteVandro, mete);
-    ScriviCsv(cartella.filePath(u"tappe.csv"_s), Tabella::Itinerari, mete);
+    ScriviCsv(cartella.filePath(u"mete.csv"_s), Table::MeteVandro, mete);
+    ScriviCsv(cartella.filePath(u"tappe.csv"_s), Table::Itinerari, mete);
     int giro = 0;
     const double prima = SecondiDiCpu(RUSAGE_CHILDREN);
     for (auto _ : state) {

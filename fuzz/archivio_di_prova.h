@@ -17,8 +17,8 @@ inline void Pretendi(bool vero) {
 inline void SvuotaArchivio(Archive& archive) {
     Transaction transaction(archive);
     Progress progress;
-    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
-        archive.CancellaTabella(tabella, std::nullopt, progress);
+    for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta}) {
+        archive.DeleteMatching(tabella, std::nullopt, progress);
     }
     transaction.Commit();
 }

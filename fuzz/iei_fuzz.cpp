@@ -29,7 +29,7 @@ qint64 ContaMete(QByteArray& file) {
     Pretendi(buffer.open(QIODevice::ReadOnly));
     Progress progress;
     qint64 mete = 0;
-    ScorriMete(buffer, u"prova.iei"_s, {Tabella::MeteVandro, {}, {}, {}}, progress, [&](const RigaIei&) { ++mete; });
+    ScorriMete(buffer, u"prova.iei"_s, {Table::MeteVandro, {}, {}, {}}, progress, [&](const RigaIei&) { ++mete; });
     return mete;
 }
 
@@ -46,14 +46,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
         const qint64 mete = ContaMete(file);
         const EsitoImport prima = Importa(archive, file);
         Pretendi(prima.meteInserite + prima.meteScartate + prima.codiciRipetuti == mete);
-        Pretendi(archive.Count(Tabella::MeteVandro) == prima.meteInserite);
-        Pretendi(archive.Count(Tabella::Itinerari) == prima.tappeInserite);
-        Pretendi(archive.Count(Tabella::GuidaCitta) == prima.vociInserite);
+        Pretendi(archive.Count(Table::MeteVandro) == prima.meteInserite);
+        Pretendi(archive.Count(Table::Itinerari) == prima.tappeInserite);
+        Pretendi(archive.Count(Table::GuidaCitta) == prima.vociInserite);
         const EsitoImport dopo = Importa(archive, file);
         Pretendi(dopo.meteInserite == 0 && dopo.tappeInserite == 0);
         SvuotaArchivio(archive);
     } catch (const Failure&) {
-        Pretendi(archive.Count(Tabella::MeteVandro) == 0);
+        Pretendi(archive.Count(Table::MeteVandro) == 0);
     }
     return 0;
 }

@@ -52,7 +52,7 @@ EsitoConversione Converti(Archive& archive, const QDir& cartella) {
 
 std::vector<Record> Tutto(Archive& archive) {
     std::vector<Record> tutto;
-    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari}) {
+    for (const Table tabella : {Table::MeteVandro, Table::Itinerari}) {
         archive.ForEach(tabella, [&](const Record& record) { tutto.push_back(record); });
     }
     return tutto;
@@ -71,18 +71,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
     try {
         const EsitoConversione prima = Converti(archive, cartella);
         const std::vector<Record> tutto = Tutto(archive);
-        const std::int64_t voci = archive.Count(Tabella::GuidaCitta);
-        Pretendi(archive.Count(Tabella::MeteVandro) <= prima.mete && voci <= prima.voci);
+        const std::int64_t voci = archive.Count(Table::GuidaCitta);
+        Pretendi(archive.Count(Table::MeteVandro) <= prima.mete && voci <= prima.voci);
         ScriviFile(cartella, ingresso);
         const EsitoConversione dopo = Converti(archive, cartella);
         Pretendi(dopo.mete == prima.mete && dopo.tappe == prima.tappe && dopo.guasti == prima.guasti);
         const std::vector<Record> ancora = Tutto(archive);
         Pretendi(std::equal(tutto.begin(), tutto.end(), ancora.begin(), ancora.end(),
-                            [](const Record& a, const Record& b) { return a.valori == b.valori; }));
-        Pretendi(archive.Count(Tabella::GuidaCitta) == voci);
+                            [](const Record& a, const Record& b) { return a.values == b.values; }));
+        Pretendi(archive.Count(Table::GuidaCitta) == voci);
         SvuotaArchivio(archive);
     } catch (const Failure&) {
-        Pretendi(archive.Count(Tabella::MeteVandro) == 0 && archive.Count(Tabella::GuidaCitta) == 0);
+        Pretendi(archive.Count(Table::MeteVandro) == 0 && archive.Count(Table::GuidaCitta) == 0);
         Pretendi(cartella.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size() == 4);
     }
     return 0;

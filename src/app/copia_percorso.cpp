@@ -16,10 +16,10 @@ CopiaPercorso::CopiaPercorso(Sessione& sessione) : sessione_(sessione) {
 void CopiaPercorso::ElencaMete() {
     Archive& archivio = sessione_.Archivio();
     mete_.clear();
-    for (const Record& record : archivio.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
-        const Condizione dellaMeta{itinerari::CodiceMeta, NamePattern::Exactly(record[mete::CodiceMeta])};
+    for (const Record& record : archivio.Select({Table::MeteVandro, {}}, {mete::Localita})) {
+        const Condition dellaMeta{itinerari::CodiceMeta, NamePattern::Exactly(record[mete::CodiceMeta])};
         const QString localita = record[mete::Localita].trimmed();
-        if (localita.isEmpty() || !archivio.Exists({Tabella::Itinerari, {dellaMeta}})) continue;
+        if (localita.isEmpty() || !archivio.Exists({Table::Itinerari, {dellaMeta}})) continue;
         mete_.push_back({record[mete::CodiceMeta], localita, record[mete::Nazione].trimmed()});
     }
     rigaCopia_ = std::clamp(rigaCopia_, 1, std::max(1, static_cast<int>(mete_.size())));

@@ -65,7 +65,7 @@ void Scrivania::Export() {
     Prova([&] {
         PreparaExportImport(ModoScambio::Export);
         TavoloScambio::Lista mete;
-        for (const Record& record : sessione_.Archivio().Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+        for (const Record& record : sessione_.Archivio().Select({Table::MeteVandro, {}}, {mete::Localita})) {
             mete.push_back(
                 {record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed()});
         }

@@ -66,7 +66,7 @@ Meta Sessione::MetaProposta(const QDateTime& adesso) {
 }
 
 QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio) {
-    const auto larghezza = Definizione(Tabella::MeteVandro).campi[mete::Nazione].larghezza;
+    const auto larghezza = Width(Table::MeteVandro, mete::Nazione);
     if (nazione.trimmed().size() > larghezza) {
         throw Failure(u"Il nome della nazione è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
     }

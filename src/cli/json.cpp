@@ -6,12 +6,12 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-QJsonArray JsonDeiRecord(Tabella tabella, const std::vector<Record>& record) {
-    const std::vector<Campo>& campi = Definizione(tabella).campi;
+QJsonArray JsonDeiRecord(Table tabella, const std::vector<Record>& record) {
+    const std::vector<FieldDefinition>& campi = Definition(tabella).fields;
     QJsonArray array;
     for (const Record& riga : record) {
         QJsonObject oggetto;
-        for (std::size_t i = 0; i < campi.size(); ++i) oggetto.insert(campi[i].nome, riga.valori[i].trimmed());
+        for (std::size_t i = 0; i < campi.size(); ++i) oggetto.insert(campi[i].name, riga.values[i].trimmed());
         array.append(oggetto);
     }
     return array;

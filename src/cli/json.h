@@ -14,7 +14,7 @@
 namespace cronovia {
 
 /// Records as objects with their field names; blanks at the rim of a value, which only stand for an empty one, go.
-QJsonArray JsonDeiRecord(Tabella tabella, const std::vector<Record>& record);
+QJsonArray JsonDeiRecord(Table tabella, const std::vector<Record>& record);
 
 /// Texts as an array of strings.
 QJsonArray JsonDeiTesti(std::span<const QString> testi);

@@ -2,12 +2,12 @@
 
 namespace cronovia {
 
-TabellaTesti TestiDeiRecord(Tabella tabella, const std::vector<Record>& record) {
+TabellaTesti TestiDeiRecord(Table tabella, const std::vector<Record>& record) {
     TabellaTesti testi;
-    for (const Campo& campo : Definizione(tabella).campi) testi.intestazioni += campo.nome;
+    for (const FieldDefinition& campo : Definition(tabella).fields) testi.intestazioni += campo.name;
     for (const Record& riga : record) {
         QStringList valori;
-        for (const QString& valore : riga.valori) valori += valore.trimmed();
+        for (const QString& valore : riga.values) valori += valore.trimmed();
         testi.righe.push_back(valori);
     }
     return testi;

@@ -9,6 +9,6 @@
 namespace cronovia {
 
 /// All fields of the records under their names; blanks at the rim of a value go.
-TabellaTesti TestiDeiRecord(Tabella tabella, const std::vector<Record>& record);
+TabellaTesti TestiDeiRecord(Table tabella, const std::vector<Record>& record);
 
 }  // namespace cronovia

@@ -46,11 +46,11 @@ QDateTime LeggiInizio(const QString& testo) {
 
 void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    const std::vector<Record> record = sessione.Archivio().Select({Tabella::MeteVandro, {}}, {mete::CodiceMeta});
+    const std::vector<Record> record = sessione.Archivio().Select({Table::MeteVandro, {}}, {mete::CodiceMeta});
     if (richiesta.formato == Formato::Json) {
-        ScriviJson(JsonDeiRecord(Tabella::MeteVandro, record), uscita);
+        ScriviJson(JsonDeiRecord(Table::MeteVandro, record), uscita);
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TestiDeiRecord(Tabella::MeteVandro, record), uscita);
+        ScriviTsv(TestiDeiRecord(Table::MeteVandro, record), uscita);
     } else if (record.empty()) {
         uscita << u"Nessuna mèta nel database!\n"_s;
     } else {

@@ -90,7 +90,7 @@ void Togli(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& us
     Archive& archivio = sessione.Archivio();
     const std::vector<TipoGuida> tipi = CaricaTipiGuida(archivio);
     const NamePattern localita = NamePattern::Exactly(tolta.localita);
-    for (const Record& record : archivio.Select({Tabella::GuidaCitta, {{guida::Localita, localita}}})) {
+    for (const Record& record : archivio.Select({Table::GuidaCitta, {{guida::Localita, localita}}})) {
         const VoceGuida voce = VoceDelRecord(record, tipi);
         if (voce.tipo != tolta.campi.tipo || voce.descrizione != tolta.campi.descrizione) continue;
         if (!CancellaVoce(archivio, localita, voce)) break;
@@ -111,21 +111,21 @@ std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
     modelli.reserve(localita.nomi.size());
     for (const QString& nome : localita.nomi) modelli.push_back(NamePattern::ForName(nome));
     std::map<std::int64_t, Record> trovati;
-    sessione.Archivio().ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t, Record&& record) {
+    sessione.Archivio().ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, [&](std::size_t, Record&& record) {
         trovati.try_emplace(record.id, std::move(record));
     });
     std::vector<Record> record;
     record.reserve(trovati.size());
     for (auto& [id, trovato] : trovati) record.push_back(std::move(trovato));
-    OrdinaRecord(record, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
+    SortRecords(record, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
     return record;
 }
 
 std::vector<Record> RecordDaMostrare(Sessione& sessione, const Richiesta& richiesta) {
     if (richiesta.opzioni.contains(u"meta"_s)) return RecordDellaMeta(sessione, richiesta.opzioni.value(u"meta"_s));
-    Ricerca ricerca{Tabella::GuidaCitta, {}};
+    Search ricerca{Table::GuidaCitta, {}};
     if (!richiesta.argomenti.isEmpty()) {
-        ricerca.condizioni.push_back({guida::Localita, NamePattern::ForName(Composto(richiesta.argomenti.first()))});
+        ricerca.conditions.push_back({guida::Localita, NamePattern::ForName(Composto(richiesta.argomenti.first()))});
     }
     return sessione.Archivio().Select(ricerca, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
 }
@@ -140,9 +140,9 @@ void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStre
     Sessione sessione = apri();
     const std::vector<Record> record = RecordDaMostrare(sessione, richiesta);
     if (richiesta.formato == Formato::Json) {
-        ScriviJson(JsonDeiRecord(Tabella::GuidaCitta, record), uscita);
+        ScriviJson(JsonDeiRecord(Table::GuidaCitta, record), uscita);
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TestiDeiRecord(Tabella::GuidaCitta, record), uscita);
+        ScriviTsv(TestiDeiRecord(Table::GuidaCitta, record), uscita);
     } else if (record.empty()) {
         uscita << u"Nessuna annotazione nella guida.\n"_s;
     } else {

@@ -51,7 +51,7 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
         ScriviJson(QJsonObject{{u"righe"_s, jsonRighe},
                                {u"totali"_s, JsonDeiTotali(totali)},
                                {u"giorni_minimi"_s, aperta.riepilogo.giorniMinimi},
-                               {u"tappe"_s, JsonDeiRecord(Tabella::Itinerari, tappe)}},
+                               {u"tappe"_s, JsonDeiRecord(Table::Itinerari, tappe)}},
                    uscita);
     }
 }

@@ -9,7 +9,7 @@ constexpr std::int64_t kTroppeRighe = 200'000;
 
 }  // namespace
 
-NomiPresenti::NomiPresenti(Archive& archive, Tabella tabella, std::vector<int> posti)
+NomiPresenti::NomiPresenti(Archive& archive, Table tabella, std::vector<int> posti)
     : archive_(archive), tabella_(tabella), posti_(std::move(posti)) {}
 
 std::optional<std::int64_t> NomiPresenti::Trova(std::span<const NamePattern> prime, const QString& nome) {
@@ -25,9 +25,9 @@ std::optional<std::int64_t> NomiPresenti::Trova(std::span<const NamePattern> pri
         }
         return indice_->Find(modello.Then(ultimo));
     }
-    Ricerca ricerca{tabella_, {}};
-    for (std::size_t i = 0; i < prime.size(); ++i) ricerca.condizioni.push_back({posti_[i], prime[i]});
-    ricerca.condizioni.push_back({posti_.back(), ultimo});
+    Search ricerca{tabella_, {}};
+    for (std::size_t i = 0; i < prime.size(); ++i) ricerca.conditions.push_back({posti_[i], prime[i]});
+    ricerca.conditions.push_back({posti_.back(), ultimo});
     const std::int64_t prima = archive_.RowsRead();
     const auto trovata = archive_.Find(ricerca);
     righeLette_ += archive_.RowsRead() - prima;

@@ -17,7 +17,7 @@ namespace cronovia {
 class NomiPresenti {
   public:
     /// Names that lie in these fields of a table.
-    NomiPresenti(Archive& archive, Tabella tabella, std::vector<int> posti);
+    NomiPresenti(Archive& archive, Table tabella, std::vector<int> posti);
 
     /// The id of a row whose first fields match `prime` and whose last one has that name by the rules of name matching.
     /// Other installations store one blank behind a name, or in its place.
@@ -30,7 +30,7 @@ class NomiPresenti {
     std::optional<std::int64_t> Trova(std::span<const NamePattern> prime, const NamePattern& ultimo);
 
     Archive& archive_;
-    Tabella tabella_;
+    Table tabella_;
     std::vector<int> posti_;
     std::int64_t righeLette_ = 0;
     std::optional<NameIndex> indice_;

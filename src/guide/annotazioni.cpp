@@ -20,7 +20,7 @@ bool Mostra(const Record& record, const VoceGuida& voce) {
 // A name looks for itself as a pattern, but the entry's own locality and description must be the very same: one that
 // only resembles them belongs to an entry that nobody pointed at.
 std::optional<Record> VoceMostrata(Archive& archive, const NamePattern& localita, const VoceGuida& voce) {
-    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, localita}}};
+    const Search ricerca{Table::GuidaCitta, {{guida::Localita, localita}}};
     for (Record& record : archive.Select(ricerca)) {
         if (Mostra(record, voce)) return std::move(record);
     }
@@ -29,18 +29,18 @@ std::optional<Record> VoceMostrata(Archive& archive, const NamePattern& localita
 
 // An entry with these values: the very one when it is still there, else the first of those like it.
 std::optional<Record> Uguale(Archive& archive, const Record& cercato) {
-    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, NamePattern::Exactly(cercato[guida::Localita])}}};
+    const Search ricerca{Table::GuidaCitta, {{guida::Localita, NamePattern::Exactly(cercato[guida::Localita])}}};
     std::optional<Record> trovato;
     for (Record& record : archive.Select(ricerca)) {
         // The mark of what was counted is no part of what a person knows of an entry.
         record[guida::FlagVisto] = cercato[guida::FlagVisto];
-        if (record.valori == cercato.valori && (!trovato || record.id == cercato.id)) trovato = std::move(record);
+        if (record.values == cercato.values && (!trovato || record.id == cercato.id)) trovato = std::move(record);
     }
     return trovato;
 }
 
 Record Inserita(Archive& archive, Record record) {
-    record.id = archive.Insert(Tabella::GuidaCitta, record.valori);
+    record.id = archive.Insert(Table::GuidaCitta, record.values);
     return record;
 }
 
@@ -77,7 +77,7 @@ ModificaGuida SalvaVoce(Archive& archive, const QString& localita, const std::op
     record[guida::TempoSosta] = TestoTempoVisita({0, campi.ore, campi.minuti});
     record[guida::FlagVisto] = u"0"_s;
     if (modifica.prima) {
-        archive.Update(Tabella::GuidaCitta, record);
+        archive.Update(Table::GuidaCitta, record);
         modifica.dopo = std::move(record);
     } else {
         modifica.dopo = Inserita(archive, std::move(record));
@@ -90,7 +90,7 @@ std::optional<ModificaGuida> CancellaVoce(Archive& archive, const NamePattern& l
     Transaction transaction(archive);
     std::optional<Record> record = VoceMostrata(archive, localita, mostrata);
     if (!record) return std::nullopt;
-    archive.Delete(Tabella::GuidaCitta, record->id);
+    archive.Delete(Table::GuidaCitta, record->id);
     transaction.Commit();
     return ModificaGuida{std::move(record), std::nullopt};
 }
@@ -104,9 +104,9 @@ std::optional<ModificaGuida> Annulla(Archive& archive, const ModificaGuida& modi
     }
     if (fatta.prima && fatta.dopo) {
         fatta.dopo->id = fatta.prima->id;
-        archive.Update(Tabella::GuidaCitta, *fatta.dopo);
+        archive.Update(Table::GuidaCitta, *fatta.dopo);
     } else if (fatta.prima) {
-        archive.Delete(Tabella::GuidaCitta, fatta.prima->id);
+        archive.Delete(Table::GuidaCitta, fatta.prima->id);
     } else if (fatta.dopo) {
         fatta.dopo = Inserita(archive, std::move(*fatta.dopo));
     }

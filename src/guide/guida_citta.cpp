@@ -31,7 +31,7 @@ std::vector<TipoGuida> TipiPredefiniti() {
 void InserisciTipiPredefiniti(Archive& archive) {
     for (const TipoGuida& tipo : TipiPredefiniti()) {
         const QString obbligatorio = tipo.tempoObbligatorio ? u"1"_s : u"0"_s;
-        archive.Insert(Tabella::TipoGuida, std::array<QString, 3>{tipo.codice, tipo.descrizione, obbligatorio});
+        archive.Insert(Table::TipoGuida, std::array<QString, 3>{tipo.codice, tipo.descrizione, obbligatorio});
     }
 }
 
@@ -44,7 +44,7 @@ void Ordina(VociGuida& voci) {
     std::vector<Chiave> chiavi;
     chiavi.reserve(voci.size());
     for (std::size_t i = 0; i < voci.size(); ++i) {
-        chiavi.push_back({voci[i].codice + u'\0' + ChiaveAlfabetica(voci[i].descrizione), i});
+        chiavi.push_back({voci[i].codice + u'\0' + AlphabeticalKey(voci[i].descrizione), i});
     }
     std::sort(chiavi.begin(), chiavi.end(), [&](const Chiave& a, const Chiave& b) {
         if (const int prima = a.testo.compare(b.testo); prima != 0) return prima < 0;
@@ -79,7 +79,7 @@ QString TestoTempoVisita(const Durata& tempo) { return Zero(tempo.ore, 2) + u':'
 
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive) {
     std::vector<TipoGuida> tipi;
-    for (const Record& record : archive.Select({Tabella::TipoGuida, {}}, {tipoguida::CodiceGuida})) {
+    for (const Record& record : archive.Select({Table::TipoGuida, {}}, {tipoguida::CodiceGuida})) {
         tipi.push_back({record[tipoguida::CodiceGuida], record[tipoguida::Descrizione],
                         record[tipoguida::TempoObbligatorio] == "1"_L1});
     }
@@ -87,14 +87,14 @@ std::vector<TipoGuida> CaricaTipiGuida(Archive& archive) {
 }
 
 void CompletaTipiGuida(Archive& archive) {
-    if (archive.Count(Tabella::TipoGuida) > 0) return;
+    if (archive.Count(Table::TipoGuida) > 0) return;
     Transaction transaction(archive);
-    if (archive.Count(Tabella::TipoGuida) == 0) InserisciTipiPredefiniti(archive);
+    if (archive.Count(Table::TipoGuida) == 0) InserisciTipiPredefiniti(archive);
     transaction.Commit();
 }
 
 void RipristinaTipiGuida(Archive& archive, Progress& progress) {
-    archive.CancellaTabella(Tabella::TipoGuida, std::nullopt, progress);
+    archive.DeleteMatching(Table::TipoGuida, std::nullopt, progress);
     InserisciTipiPredefiniti(archive);
 }
 
@@ -118,7 +118,7 @@ std::shared_ptr<const VociGuida> LettoreGuida::Voci(const QString& localita) {
     std::shared_ptr<const VociGuida>& letta = letture_[localita];
     if (letta) return letta;
     auto voci = std::make_shared<VociGuida>();
-    const Ricerca ricerca{Tabella::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}};
+    const Search ricerca{Table::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}};
     for (const Record& record : archive_.Select(ricerca, {guida::CodiceGuida, guida::Descrizione})) {
         voci->push_back(VoceDelRecord(record, tipi_));
     }
@@ -141,7 +141,7 @@ std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QStri
     modelli.reserve(localita.size());
     for (const QString& nome : localita) modelli.push_back(NamePattern::ForName(nome));
     std::vector<VociGuida> voci(localita.size());
-    archive.ForEachMatch(Tabella::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
+    archive.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
         VociGuida& trovate = voci[quale];
         // Texts that are alike are held once.
         if (!trovate.empty() && trovate.back().localita == record[guida::Localita]) {

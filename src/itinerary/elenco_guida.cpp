@@ -18,7 +18,7 @@ TestiGuida ColonneGuida(int numero, const RigaGuida& riga) {
 
 LocalitaDellaMeta LocalitaDellItinerario(Archive& archive, const QString& codiceMeta) {
     LocalitaDellaMeta localita;
-    const Ricerca ricerca{Tabella::Itinerari, {{itinerari::CodiceMeta, NamePattern::Exactly(codiceMeta)}}};
+    const Search ricerca{Table::Itinerari, {{itinerari::CodiceMeta, NamePattern::Exactly(codiceMeta)}}};
     std::set<QString> viste;
     const std::vector<Record> tappe = archive.Select(ricerca, {itinerari::Localita, itinerari::Sequenza});
     for (const Record& tappa : tappe) {

@@ -16,9 +16,9 @@ namespace {
 constexpr int kMassimoKmPerRecord = 999;
 constexpr int kMassimoRecord = 9999;
 
-Condizione DellaMeta(const QString& codiceMeta) { return {itinerari::CodiceMeta, NamePattern::Exactly(codiceMeta)}; }
+Condition DellaMeta(const QString& codiceMeta) { return {itinerari::CodiceMeta, NamePattern::Exactly(codiceMeta)}; }
 
-int Larghezza(itinerari::Posto posto) { return Definizione(Tabella::Itinerari).campi[posto].larghezza; }
+int Larghezza(itinerari::Field campo) { return Width(Table::Itinerari, campo); }
 
 bool Vuota(const Tappa& tappa) { return tappa.localita.trimmed().isEmpty(); }
 
@@ -31,7 +31,7 @@ std::int64_t RecordNecessari(std::span<const Tappa> tappe) {
 }
 
 // Empty values are stored as one blank, as every installation does.
-QString ConBlank(const QString& testo, itinerari::Posto posto) { return (testo + u' ').left(Larghezza(posto)); }
+QString ConBlank(const QString& testo, itinerari::Field campo) { return (testo + u' ').left(Larghezza(campo)); }
 
 // The rows of one stage; `sequenza` counts on.
 void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& tappa, const QString& soggiornoGuida,
@@ -49,7 +49,7 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
         const int parte = std::min(resto, kMassimoKmPerRecord);
         valori[itinerari::Sequenza] = Zero(++sequenza, 4);
         valori[itinerari::Chilometri] = QString::number(parte);
-        archive.Insert(Tabella::Itinerari, valori);
+        archive.Insert(Table::Itinerari, valori);
         valori[itinerari::SostaGuidaCitta] = u" "_s;
         resto -= parte;
     } while (resto > 0);
@@ -58,7 +58,7 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
 }  // namespace
 
 std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta) {
-    return archive.Select({Tabella::Itinerari, {DellaMeta(codiceMeta)}}, {itinerari::Sequenza});
+    return archive.Select({Table::Itinerari, {DellaMeta(codiceMeta)}}, {itinerari::Sequenza});
 }
 
 std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario) {
@@ -117,7 +117,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
     }
     Transaction transaction(archive);
     LettoreGuida guida(archive);
-    archive.CancellaTabella(Tabella::Itinerari, DellaMeta(codiceMeta), progress);
+    archive.DeleteMatching(Table::Itinerari, DellaMeta(codiceMeta), progress);
     progress.Title(u"Memorizza tappe itinerario"_s);
     EsitoMemorizzazione esito;
     double fatte = 0;

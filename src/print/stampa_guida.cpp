@@ -45,7 +45,7 @@ std::vector<LocalitaStampata> TutteLeLocalita(Archive& archive) {
     std::map<QString, std::size_t> posti;
     std::vector<LocalitaStampata> localita;
     for (const Record& record :
-         archive.Select({Tabella::GuidaCitta, {}}, {guida::Localita, guida::CodiceGuida, guida::Descrizione})) {
+         archive.Select({Table::GuidaCitta, {}}, {guida::Localita, guida::CodiceGuida, guida::Descrizione})) {
         const QString nome = record[guida::Localita].trimmed();
         const auto [posto, nuova] = posti.try_emplace(nome.toCaseFolded(), localita.size());
         if (nuova) localita.push_back({nome, {}});

@@ -20,71 +20,72 @@ namespace {
 
 std::string Name(const QString& name) { return (u'"' + name + u'"').toStdString(); }
 
-std::string ColumnNames(const DefinizioneTabella& table) {
+std::string ColumnNames(const TableDefinition& table) {
     std::string names;
-    for (const Campo& campo : table.campi) names += (names.empty() ? "" : ", ") + Name(campo.nome);
+    for (const FieldDefinition& field : table.fields) names += (names.empty() ? "" : ", ") + Name(field.name);
     return names;
 }
 
-std::string MakeInsertSql(const DefinizioneTabella& table) {
+std::string MakeInsertSql(const TableDefinition& table) {
     std::string marks;
-    for (std::size_t i = 0; i < table.campi.size(); ++i) marks += marks.empty() ? "?" : ", ?";
-    return "INSERT INTO " + Name(table.nome) + " (" + ColumnNames(table) + ") VALUES (" + marks + ")";
+    for (std::size_t i = 0; i < table.fields.size(); ++i) marks += marks.empty() ? "?" : ", ?";
+    return "INSERT INTO " + Name(table.name) + " (" + ColumnNames(table) + ") VALUES (" + marks + ")";
 }
 
-std::string MakeUpdateSql(const DefinizioneTabella& table) {
+std::string MakeUpdateSql(const TableDefinition& table) {
     std::string changes;
-    for (const Campo& campo : table.campi) changes += (changes.empty() ? "" : ", ") + Name(campo.nome) + " = ?";
-    return "UPDATE " + Name(table.nome) + " SET " + changes + " WHERE rowid = ?";
+    for (const FieldDefinition& field : table.fields)
+        changes += (changes.empty() ? "" : ", ") + Name(field.name) + " = ?";
+    return "UPDATE " + Name(table.name) + " SET " + changes + " WHERE rowid = ?";
 }
 
-std::string MakeSelectSql(const DefinizioneTabella& table) {
-    return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.nome);
+std::string MakeSelectSql(const TableDefinition& table) {
+    return "SELECT rowid, " + ColumnNames(table) + " FROM " + Name(table.name);
 }
 
 // The text of a statement for each table, put together once: an import asks and adds by the hundred thousand.
 template <auto Make>
-const std::string& SqlFor(Tabella tabella) {
+const std::string& SqlFor(Table table) {
     static const std::vector<std::string> texts = [] {
         std::vector<std::string> all;
-        for (const Tabella t : TutteLeTabelle()) all.push_back(Make(Definizione(t)));
+        for (const Table t : AllTables()) all.push_back(Make(Definition(t)));
         return all;
     }();
-    return texts.at(static_cast<std::size_t>(tabella) - 1);
+    return texts.at(static_cast<std::size_t>(table) - 1);
 }
 
-const std::string& SelectSql(Tabella tabella) { return SqlFor<MakeSelectSql>(tabella); }
-const std::string& InsertSql(Tabella tabella) { return SqlFor<MakeInsertSql>(tabella); }
+const std::string& SelectSql(Table table) { return SqlFor<MakeSelectSql>(table); }
+const std::string& InsertSql(Table table) { return SqlFor<MakeInsertSql>(table); }
 
 Record ReadRecord(const SQLite::Statement& statement, std::size_t fields) {
     Record record;
     record.id = statement.getColumn(0).getInt64();
-    record.valori.reserve(fields);
-    for (std::size_t i = 0; i < fields; ++i) record.valori.push_back(ColumnText(statement, static_cast<int>(i) + 1));
+    record.values.reserve(fields);
+    for (std::size_t i = 0; i < fields; ++i) record.values.push_back(ColumnText(statement, static_cast<int>(i) + 1));
     return record;
 }
 
-bool Fulfils(const Record& record, const std::vector<Condizione>& condizioni) {
-    return std::all_of(condizioni.begin(), condizioni.end(),
-                       [&](const Condizione& c) { return c.modello.Matches(record[c.posto]); });
+bool Fulfils(const Record& record, const std::vector<Condition>& conditions) {
+    return std::all_of(conditions.begin(), conditions.end(),
+                       [&](const Condition& c) { return c.pattern.Matches(record[c.field]); });
 }
 
-void CheckWidths(const DefinizioneTabella& table, std::span<const QString> valori) {
-    for (std::size_t i = 0; i < table.campi.size(); ++i) {
-        const Campo& campo = table.campi[i];
-        if (campo.larghezza == 0 || valori[i].size() <= campo.larghezza) continue;
+void CheckWidths(const TableDefinition& table, std::span<const QString> values) {
+    for (std::size_t i = 0; i < table.fields.size(); ++i) {
+        const FieldDefinition& field = table.fields[i];
+        if (field.width == 0 || values[i].size() <= field.width) continue;
         throw Failure(u"Il valore «%1» è troppo lungo per il campo %2 di %3: al massimo %4 caratteri."_s.arg(
-            valori[i], campo.nome, table.nome, QString::number(campo.larghezza)));
+            values[i], field.name, table.name, QString::number(field.width)));
     }
 }
 
-void BindValues(SQLite::Statement& statement, const DefinizioneTabella& table, std::span<const QString> valori) {
-    for (std::size_t i = 0; i < table.campi.size(); ++i) {
+void BindValues(SQLite::Statement& statement, const TableDefinition& table, std::span<const QString> values) {
+    for (std::size_t i = 0; i < table.fields.size(); ++i) {
         const int index = static_cast<int>(i) + 1;
-        if (table.campi[i].larghezza == 0) {
-            statement.bind(index, valori[i] == "1"_L1 ? 1 : 0);
+        if (table.fields[i].width == 0) {
+            statement.bind(index, values[i] == "1"_L1 ? 1 : 0);
         } else {
-            BindText(statement, index, valori[i]);
+            BindText(statement, index, values[i]);
         }
     }
 }
@@ -160,11 +161,11 @@ class Matcher {
 }  // namespace
 
 // Base letters without case or accents.
-QString ChiaveAlfabetica(QStringView testo) {
-    if (std::all_of(testo.begin(), testo.end(), [](QChar c) { return c < QChar(0x80); })) {
-        return testo.toString().toLower();
+QString AlphabeticalKey(QStringView text) {
+    if (std::all_of(text.begin(), text.end(), [](QChar c) { return c < QChar(0x80); })) {
+        return text.toString().toLower();
     }
-    const QString decomposed = testo.toString().normalized(QString::NormalizationForm_KD);
+    const QString decomposed = text.toString().normalized(QString::NormalizationForm_KD);
     QString key;
     key.reserve(decomposed.size());
     for (const QChar c : decomposed) {
@@ -173,28 +174,23 @@ QString ChiaveAlfabetica(QStringView testo) {
     return key;
 }
 
-bool PrimaNellAlfabeto(QStringView a, QStringView b) {
-    const int keys = ChiaveAlfabetica(a).compare(ChiaveAlfabetica(b));
-    return keys != 0 ? keys < 0 : a.compare(b) < 0;
-}
-
 // The keys are made once, not for each comparison.
-void OrdinaRecord(std::vector<Record>& record, std::initializer_list<int> ordine) {
-    struct ConChiavi {
-        std::vector<std::pair<QString, QString>> chiavi;  // a field's place in the alphabet, then the field itself
+void SortRecords(std::vector<Record>& records, std::initializer_list<int> order) {
+    struct Keyed {
+        std::vector<std::pair<QString, QString>> keys;  // a field's place in the alphabet, then the field itself
         Record record;
     };
-    std::vector<ConChiavi> righe;
-    righe.reserve(record.size());
-    for (Record& riga : record) {
-        std::vector<std::pair<QString, QString>> chiavi;
-        for (const int posto : ordine) chiavi.emplace_back(ChiaveAlfabetica(riga[posto]), riga[posto]);
-        righe.push_back({std::move(chiavi), std::move(riga)});
+    std::vector<Keyed> rows;
+    rows.reserve(records.size());
+    for (Record& record : records) {
+        std::vector<std::pair<QString, QString>> keys;
+        for (const int field : order) keys.emplace_back(AlphabeticalKey(record[field]), record[field]);
+        rows.push_back({std::move(keys), std::move(record)});
     }
-    std::sort(righe.begin(), righe.end(), [](const ConChiavi& a, const ConChiavi& b) {
-        return std::tie(a.chiavi, a.record.id) < std::tie(b.chiavi, b.record.id);
+    std::sort(rows.begin(), rows.end(), [](const Keyed& a, const Keyed& b) {
+        return std::tie(a.keys, a.record.id) < std::tie(b.keys, b.record.id);
     });
-    std::transform(righe.begin(), righe.end(), record.begin(), [](ConChiavi& riga) { return std::move(riga.record); });
+    std::transform(rows.begin(), rows.end(), records.begin(), [](Keyed& row) { return std::move(row.record); });
 }
 
 Archive::Archive(std::unique_ptr<Connection> connection) : connection_(std::move(connection)) {}
@@ -202,32 +198,32 @@ Archive::Archive(Archive&&) noexcept = default;
 Archive& Archive::operator=(Archive&&) noexcept = default;
 Archive::~Archive() = default;
 
-void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& visit) {
-    const DefinizioneTabella& table = Definizione(ricerca.tabella);
+void Archive::Scan(const Search& search, const std::function<bool(Record&&)>& visit) {
+    const TableDefinition& definition = Definition(search.table);
     const auto run = [&](SQLite::Statement& statement) {
         bool goOn = true;
         while (goOn && statement.executeStep()) {
-            Record record = ReadRecord(statement, table.campi.size());
+            Record record = ReadRecord(statement, definition.fields.size());
             ++rowsRead_;
-            if (Fulfils(record, ricerca.condizioni)) goOn = visit(std::move(record));
+            if (Fulfils(record, search.conditions)) goOn = visit(std::move(record));
         }
         statement.reset();
         return goOn;
     };
     const auto ranges =
-        ricerca.condizioni.empty() ? std::vector<NamePattern::Range>() : ricerca.condizioni.front().modello.Ranges();
+        search.conditions.empty() ? std::vector<NamePattern::Range>() : search.conditions.front().pattern.Ranges();
     Guarded(connection_->Path(), [&] {
         if (ranges.empty()) {
-            SQLite::Statement statement(connection_->Database(), SelectSql(ricerca.tabella) + " ORDER BY rowid");
+            SQLite::Statement statement(connection_->Database(), SelectSql(search.table) + " ORDER BY rowid");
             run(statement);
             return;
         }
-        const auto posto = static_cast<std::size_t>(ricerca.condizioni.front().posto);
+        const auto leading = static_cast<std::size_t>(search.conditions.front().field);
         // The ranges are those of this order, whatever order a table made elsewhere gives its field.
-        const std::string field = Name(table.campi.at(posto).nome) + " COLLATE NOCASE";
+        const std::string column = Name(definition.fields.at(leading).name) + " COLLATE NOCASE";
         for (const NamePattern::Range& range : ranges) {
-            const std::string test = range.single ? " = ?1" : " >= ?1 AND " + field + " < ?2";
-            SQLite::Statement& statement = connection_->Prepared(SelectSql(ricerca.tabella) + " WHERE " + field + test);
+            const std::string test = range.single ? " = ?1" : " >= ?1 AND " + column + " < ?2";
+            SQLite::Statement& statement = connection_->Prepared(SelectSql(search.table) + " WHERE " + column + test);
             BindText(statement, 1, range.from);
             if (!range.single) BindText(statement, 2, range.to);
             if (!run(statement)) return;
@@ -235,126 +231,126 @@ void Archive::Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& 
     });
 }
 
-void Archive::ForEach(Tabella tabella, const std::function<void(const Record&)>& visit) {
-    Scan({tabella, {}}, [&](Record&& record) {
+void Archive::ForEach(Table table, const std::function<void(const Record&)>& visit) {
+    Scan({table, {}}, [&](Record&& record) {
         visit(record);
         return true;
     });
 }
 
-void Archive::ForEachMatch(Tabella tabella, int posto, std::span<const NamePattern> modelli,
+void Archive::ForEachMatch(Table table, int field, std::span<const NamePattern> patterns,
                            const std::function<void(std::size_t, Record&&)>& visit) {
-    const DefinizioneTabella& table = Definizione(tabella);
-    const std::string field = Name(table.campi.at(static_cast<std::size_t>(posto)).nome) + " COLLATE NOCASE";
+    const TableDefinition& definition = Definition(table);
+    const std::string column = Name(definition.fields.at(static_cast<std::size_t>(field)).name) + " COLLATE NOCASE";
     const auto hand = [&](const std::vector<std::size_t>& matching, Record&& record) {
         for (std::size_t i = 1; i < matching.size(); ++i) visit(matching[i], Record(record));
         if (!matching.empty()) visit(matching.front(), std::move(record));
     };
-    const std::vector<Stretch> stretches = StretchesOf(modelli);
+    const std::vector<Stretch> stretches = StretchesOf(patterns);
     Guarded(connection_->Path(), [&] {
         // Taken apart once: each row found would do it again.
         SQLite::Statement& statement = connection_->Prepared(
             "WITH stretch AS MATERIALIZED"
             " (SELECT key AS place, value ->> 0 AS first, value ->> 1 AS last FROM json_each(?1)) SELECT " +
-            Name(table.nome) + ".rowid, " + ColumnNames(table) + ", place FROM stretch CROSS JOIN " + Name(table.nome) +
-            " WHERE " + field + " BETWEEN first AND last");
+            Name(definition.name) + ".rowid, " + ColumnNames(definition) + ", place FROM stretch CROSS JOIN " +
+            Name(definition.name) + " WHERE " + column + " BETWEEN first AND last");
         BindText(statement, 1, AsJson(stretches));
-        Matcher matcher(modelli);
-        const auto place = static_cast<int>(table.campi.size()) + 1;
+        Matcher matcher(patterns);
+        const auto place = static_cast<int>(definition.fields.size()) + 1;
         while (statement.executeStep()) {
-            Record record = ReadRecord(statement, table.campi.size());
+            Record record = ReadRecord(statement, definition.fields.size());
             const Stretch& stretch = stretches[static_cast<std::size_t>(statement.getColumn(place).getInt64())];
-            hand(matcher.Matching(record[posto], stretch.patterns), std::move(record));
+            hand(matcher.Matching(record[field], stretch.patterns), std::move(record));
         }
         statement.reset();
     });
     std::vector<std::size_t> anywhere;  // patterns without a literal beginning
-    for (std::size_t i = 0; i < modelli.size(); ++i) {
-        if (modelli[i].Ranges().empty()) anywhere.push_back(i);
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+        if (patterns[i].Ranges().empty()) anywhere.push_back(i);
     }
     if (anywhere.empty()) return;
-    Matcher matcher(modelli);
-    ForEach(tabella, [&](const Record& record) { hand(matcher.Matching(record[posto], anywhere), Record(record)); });
+    Matcher matcher(patterns);
+    ForEach(table, [&](const Record& record) { hand(matcher.Matching(record[field], anywhere), Record(record)); });
 }
 
-std::vector<Record> Archive::Select(const Ricerca& ricerca, std::initializer_list<int> ordine) {
+std::vector<Record> Archive::Select(const Search& search, std::initializer_list<int> order) {
     std::vector<Record> records;
-    Scan(ricerca, [&](Record&& record) {
+    Scan(search, [&](Record&& record) {
         records.push_back(std::move(record));
         return true;
     });
-    OrdinaRecord(records, ordine);
+    SortRecords(records, order);
     return records;
 }
 
-std::optional<Record> Archive::SelectFirst(const Ricerca& ricerca) {
+std::optional<Record> Archive::SelectFirst(const Search& search) {
     std::optional<Record> first;
-    Scan(ricerca, [&](Record&& record) {
+    Scan(search, [&](Record&& record) {
         if (!first || record.id < first->id) first = std::move(record);
         return true;
     });
     return first;
 }
 
-std::optional<std::int64_t> Archive::Find(const Ricerca& ricerca) {
+std::optional<std::int64_t> Archive::Find(const Search& search) {
     std::optional<std::int64_t> found;
-    Scan(ricerca, [&](Record&& record) {
+    Scan(search, [&](Record&& record) {
         found = record.id;
         return false;
     });
     return found;
 }
 
-std::int64_t Archive::Count(Tabella tabella) {
-    return connection_->Number("SELECT COUNT(*) FROM " + Name(Definizione(tabella).nome));
+std::int64_t Archive::Count(Table table) {
+    return connection_->Number("SELECT COUNT(*) FROM " + Name(Definition(table).name));
 }
 
-std::int64_t Archive::LastId(Tabella tabella) {
-    return connection_->Number("SELECT COALESCE(MAX(rowid), 0) FROM " + Name(Definizione(tabella).nome));
+std::int64_t Archive::LastId(Table table) {
+    return connection_->Number("SELECT COALESCE(MAX(rowid), 0) FROM " + Name(Definition(table).name));
 }
 
 Archive::Mark Archive::PresentMark() { return {connection_->Number("PRAGMA data_version"), OwnChanges()}; }
 
 std::int64_t Archive::OwnChanges() const { return connection_->Database().getTotalChanges(); }
 
-std::int64_t Archive::Insert(Tabella tabella, std::span<const QString> valori) {
-    const DefinizioneTabella& table = Definizione(tabella);
-    CheckWidths(table, valori);
+std::int64_t Archive::Insert(Table table, std::span<const QString> values) {
+    const TableDefinition& definition = Definition(table);
+    CheckWidths(definition, values);
     return Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement = connection_->ForWriting(InsertSql(tabella));
-        BindValues(statement, table, valori);
+        SQLite::Statement& statement = connection_->ForWriting(InsertSql(table));
+        BindValues(statement, definition, values);
         statement.exec();
         statement.reset();
         return connection_->Database().getLastInsertRowid();
     });
 }
 
-void Archive::Update(Tabella tabella, const Record& record) {
-    const DefinizioneTabella& table = Definizione(tabella);
-    CheckWidths(table, record.valori);
+void Archive::Update(Table table, const Record& record) {
+    const TableDefinition& definition = Definition(table);
+    CheckWidths(definition, record.values);
     Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement = connection_->ForWriting(SqlFor<MakeUpdateSql>(tabella));
-        BindValues(statement, table, record.valori);
-        statement.bind(static_cast<int>(table.campi.size()) + 1, record.id);
+        SQLite::Statement& statement = connection_->ForWriting(SqlFor<MakeUpdateSql>(table));
+        BindValues(statement, definition, record.values);
+        statement.bind(static_cast<int>(definition.fields.size()) + 1, record.id);
         statement.exec();
         statement.reset();
     });
 }
 
-void Archive::Delete(Tabella tabella, std::int64_t id) {
+void Archive::Delete(Table table, std::int64_t id) {
     Guarded(connection_->Path(), [&] {
         SQLite::Statement& statement =
-            connection_->ForWriting("DELETE FROM " + Name(Definizione(tabella).nome) + " WHERE rowid = ?");
+            connection_->ForWriting("DELETE FROM " + Name(Definition(table).name) + " WHERE rowid = ?");
         statement.bind(1, id);
         statement.exec();
         statement.reset();
     });
 }
 
-void Archive::DeleteRange(Tabella tabella, std::int64_t after, std::int64_t last) {
+void Archive::DeleteRange(Table table, std::int64_t after, std::int64_t last) {
     Guarded(connection_->Path(), [&] {
-        SQLite::Statement& statement = connection_->ForWriting("DELETE FROM " + Name(Definizione(tabella).nome) +
-                                                               " WHERE rowid > ? AND rowid <= ?");
+        SQLite::Statement& statement =
+            connection_->ForWriting("DELETE FROM " + Name(Definition(table).name) + " WHERE rowid > ? AND rowid <= ?");
         statement.bind(1, after);
         statement.bind(2, last);
         statement.exec();
@@ -362,18 +358,18 @@ void Archive::DeleteRange(Tabella tabella, std::int64_t after, std::int64_t last
     });
 }
 
-int Archive::CancellaTabella(Tabella tabella, const std::optional<Condizione>& condizione, Progress& progress) {
-    progress.Title(u"Cancellazione tabella "_s + Definizione(tabella).nome);
+int Archive::DeleteMatching(Table table, const std::optional<Condition>& condition, Progress& progress) {
+    progress.Title(u"Cancellazione tabella "_s + Definition(table).name);
     std::vector<std::int64_t> ids;
-    const auto conditions = condizione ? std::vector<Condizione>{*condizione} : std::vector<Condizione>();
-    Scan({tabella, conditions}, [&](Record&& record) {
+    const auto conditions = condition ? std::vector<Condition>{*condition} : std::vector<Condition>();
+    Scan({table, conditions}, [&](Record&& record) {
         ids.push_back(record.id);
         return true;
     });
     double done = 0;
     for (const std::int64_t id : ids) {
         progress.Advance(++done, static_cast<double>(ids.size()));
-        Delete(tabella, id);
+        Delete(table, id);
     }
     return static_cast<int>(ids.size());
 }

@@ -20,32 +20,31 @@ namespace cronovia {
 /// One row of a table: all its fields as texts, in the table's order. A yes/no field is "1" or "0".
 struct Record {
     std::int64_t id = 0;
-    std::vector<QString> valori;
+    std::vector<QString> values;
 
-    [[nodiscard]] const QString& operator[](int posto) const { return valori[static_cast<std::size_t>(posto)]; }
-    [[nodiscard]] QString& operator[](int posto) { return valori[static_cast<std::size_t>(posto)]; }
+    [[nodiscard]] const QString& operator[](int field) const { return values[static_cast<std::size_t>(field)]; }
+    [[nodiscard]] QString& operator[](int field) { return values[static_cast<std::size_t>(field)]; }
 };
 
 /// One condition on a field, by its position in the table.
-struct Condizione {
-    int posto = 0;
-    NamePattern modello;
+struct Condition {
+    int field = 0;
+    NamePattern pattern;
 };
 
 /// Which rows of a table: those that fulfil every condition. The first condition leads the search, through an index
 /// when its field has one and its pattern a literal beginning.
-struct Ricerca {
-    Tabella tabella = Tabella::MeteVandro;
-    std::vector<Condizione> condizioni;
+struct Search {
+    Table table = Table::MeteVandro;
+    std::vector<Condition> conditions;
 };
 
-/// Compares texts for lists that people read: letters before case, base letters before accents.
-bool PrimaNellAlfabeto(QStringView a, QStringView b);
-/// What decides first in that order, for long lists that are compared again and again.
-QString ChiaveAlfabetica(QStringView testo);
+/// What decides first in the order of lists that people read: base letters without case or accents. Texts with the
+/// same key stand in the order of their characters.
+QString AlphabeticalKey(QStringView text);
 
 /// Sorts rows by these fields, the first one leading, as `Archive::Select` does.
-void OrdinaRecord(std::vector<Record>& record, std::initializer_list<int> ordine);
+void SortRecords(std::vector<Record>& records, std::initializer_list<int> order);
 
 /// The open database file. Every failure is a `Failure` with its message. Only `Transaction` makes several changes one,
 /// only `ReadSnapshot` several readings.
@@ -54,33 +53,33 @@ class Archive {
     /// Opens the archive of a data folder, which is made when it does not exist, as is the file. Missing tables, fields
     /// and indexes are added and changed widths followed, after a copy of the file was laid beside it; a file that
     /// cannot be used is refused and left as it was.
-    static Archive Open(const QString& cartella);
+    static Archive Open(const QString& folder);
 
     /// Path of the database file in a data folder.
-    static QString FilePath(const QString& cartella);
+    static QString FilePath(const QString& folder);
 
     Archive(Archive&&) noexcept;
     Archive& operator=(Archive&&) noexcept;
     ~Archive();
 
-    /// The rows in the alphabetical order of the fields in `ordine`, the first one leading; rows alike in them, and all
+    /// The rows in the alphabetical order of the fields in `order`, the first one leading; rows alike in them, and all
     /// rows without such fields, in the order in which they were added.
-    std::vector<Record> Select(const Ricerca& ricerca, std::initializer_list<int> ordine = {});
+    std::vector<Record> Select(const Search& search, std::initializer_list<int> order = {});
     /// Of the rows found, the one that was added first.
-    std::optional<Record> SelectFirst(const Ricerca& ricerca);
+    std::optional<Record> SelectFirst(const Search& search);
     /// The id of one of the rows found, whichever comes up first.
-    std::optional<std::int64_t> Find(const Ricerca& ricerca);
-    bool Exists(const Ricerca& ricerca) { return Find(ricerca).has_value(); }
+    std::optional<std::int64_t> Find(const Search& search);
+    bool Exists(const Search& search) { return Find(search).has_value(); }
 
     /// Hands over row after row of a table, in the order in which they were added, without holding more than one.
-    void ForEach(Tabella tabella, const std::function<void(const Record&)>& visit);
+    void ForEach(Table table, const std::function<void(const Record&)>& visit);
 
     /// Hands over the rows whose field matches one of many patterns, with the place of that pattern in the list; a row
     /// comes once for each that it matches, in no order. Two queries, however many patterns there are.
-    void ForEachMatch(Tabella tabella, int posto, std::span<const NamePattern> modelli,
+    void ForEachMatch(Table table, int field, std::span<const NamePattern> patterns,
                       const std::function<void(std::size_t, Record&&)>& visit);
 
-    std::int64_t Count(Tabella tabella);
+    std::int64_t Count(Table table);
 
     /// Rows that searches have looked at so far, found or not.
     [[nodiscard]] std::int64_t RowsRead() const { return rowsRead_; }
@@ -96,18 +95,18 @@ class Archive {
     [[nodiscard]] std::int64_t OwnChanges() const;
 
     /// The highest id of a table, 0 when it is empty. A new row gets the next one.
-    std::int64_t LastId(Tabella tabella);
+    std::int64_t LastId(Table table);
 
-    /// Adds a row and returns its id, changes the row with that id; `valori` has a value for every field. One wider
+    /// Adds a row and returns its id, changes the row with that id; `values` has a value for every field. One wider
     /// than its field is refused.
-    std::int64_t Insert(Tabella tabella, std::span<const QString> valori);
-    void Update(Tabella tabella, const Record& record);
-    void Delete(Tabella tabella, std::int64_t id);
+    std::int64_t Insert(Table table, std::span<const QString> values);
+    void Update(Table table, const Record& record);
+    void Delete(Table table, std::int64_t id);
     /// Deletes the rows whose ids are greater than `after` and at most `last`.
-    void DeleteRange(Tabella tabella, std::int64_t after, std::int64_t last);
+    void DeleteRange(Table table, std::int64_t after, std::int64_t last);
 
     /// Deletes the rows whose field matches the pattern, all rows without a condition; returns how many.
-    int CancellaTabella(Tabella tabella, const std::optional<Condizione>& condizione, Progress& progress);
+    int DeleteMatching(Table table, const std::optional<Condition>& condition, Progress& progress);
 
   private:
     friend class ReadSnapshot;
@@ -116,7 +115,7 @@ class Archive {
     class Connection;
 
     explicit Archive(std::unique_ptr<Connection> connection);
-    void Scan(const Ricerca& ricerca, const std::function<bool(Record&&)>& visit);
+    void Scan(const Search& search, const std::function<bool(Record&&)>& visit);
 
     std::unique_ptr<Connection> connection_;
     std::int64_t rowsRead_ = 0;

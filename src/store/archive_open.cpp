@@ -12,12 +12,12 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-QString Archive::FilePath(const QString& cartella) { return QDir(cartella).filePath(u"VandroCronovia.mdb"_s); }
+QString Archive::FilePath(const QString& folder) { return QDir(folder).filePath(u"VandroCronovia.mdb"_s); }
 
-Archive Archive::Open(const QString& cartella) {
-    const QString path = FilePath(cartella);
+Archive Archive::Open(const QString& folder) {
+    const QString path = FilePath(folder);
     const QString opening = u"Errore apertura database "_s + QDir::toNativeSeparators(path);
-    if (!QDir().mkpath(cartella)) throw Failure(opening + u": la cartella non si può creare."_s);
+    if (!QDir().mkpath(folder)) throw Failure(opening + u": la cartella non si può creare."_s);
     RefuseForeignFile(path);
     try {
         auto connection = std::make_unique<Connection>(path);

@@ -18,15 +18,15 @@ QString FromItsEnd(const QString& text) {
 
 }  // namespace
 
-NameIndex::NameIndex(Archive& archive, Tabella tabella, std::vector<int> posti)
+NameIndex::NameIndex(Archive& archive, Table table, std::vector<int> fields)
     : connection_(*archive.connection_),
-      table_("temp.nomi_" + Definizione(tabella).nome.toStdString()),
-      posti_(std::move(posti)) {
+      table_("temp.nomi_" + Definition(table).name.toStdString()),
+      fields_(std::move(fields)) {
     Guarded(connection_.Path(), [&] {
         const std::string bare = table_.substr(table_.find('.') + 1);
         connection_.Database().exec("DROP TABLE IF EXISTS " + table_ + "; CREATE TABLE " + table_ +
                                     " (id INTEGER, nome TEXT COLLATE NOCASE, rovescio TEXT COLLATE NOCASE)");
-        archive.ForEach(tabella, [&](const Record& record) { Add(record.id, record.valori); });
+        archive.ForEach(table, [&](const Record& record) { Add(record.id, record.values); });
         connection_.Database().exec("CREATE INDEX temp." + bare + "_n ON " + bare + " (nome); CREATE INDEX temp." +
                                     bare + "_r ON " + bare + " (rovescio)");
     });
@@ -34,11 +34,11 @@ NameIndex::NameIndex(Archive& archive, Tabella tabella, std::vector<int> posti)
 
 NameIndex::~NameIndex() { connection_.Database().tryExec("DROP TABLE IF EXISTS " + table_); }
 
-void NameIndex::Add(std::int64_t id, const std::vector<QString>& valori) {
+void NameIndex::Add(std::int64_t id, const std::vector<QString>& values) {
     QString name;
-    for (const int posto : posti_) {
-        if (posto != posti_.front()) name += kJoin;
-        name += valori[static_cast<std::size_t>(posto)];
+    for (const int field : fields_) {
+        if (field != fields_.front()) name += kJoin;
+        name += values[static_cast<std::size_t>(field)];
     }
     Guarded(connection_.Path(), [&] {
         SQLite::Statement& statement = connection_.Prepared("INSERT INTO " + table_ + " VALUES (?, ?, ?)");

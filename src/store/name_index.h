@@ -15,15 +15,15 @@ namespace cronovia {
 /// told with `Add`. For long runs of questions whose patterns find no help in the table's own indexes.
 class NameIndex {
   public:
-    /// A name is the fields at `posti` of a row, put together with `kJoin`.
-    NameIndex(Archive& archive, Tabella tabella, std::vector<int> posti);
+    /// A name is the fields at `fields` of a row, put together with `kJoin`.
+    NameIndex(Archive& archive, Table table, std::vector<int> fields);
     NameIndex(const NameIndex&) = delete;
     NameIndex& operator=(const NameIndex&) = delete;
     ~NameIndex();
 
     static constexpr QChar kJoin{0x1F};
 
-    void Add(std::int64_t id, const std::vector<QString>& valori);
+    void Add(std::int64_t id, const std::vector<QString>& values);
 
     /// The id of a row whose name matches.
     std::optional<std::int64_t> Find(const NamePattern& pattern);
@@ -33,7 +33,7 @@ class NameIndex {
 
     Archive::Connection& connection_;
     std::string table_;
-    std::vector<int> posti_;
+    std::vector<int> fields_;
 };
 
 }  // namespace cronovia

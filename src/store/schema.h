@@ -7,7 +7,7 @@
 namespace cronovia {
 
 /// The tables by their numbers.
-enum class Tabella {
+enum class Table {
     MeteVandro = 1,  ///< one row per trip
     Itinerari,       ///< one row per stage of a trip, or several for a stage longer than 999 km
     GuidaCitta,      ///< one row per entry of the city guide
@@ -16,104 +16,102 @@ enum class Tabella {
     Parametri,       ///< at most one row: the personal default travel parameters
 };
 
-/// Width 0 marks a yes/no field; all other fields are text of at most so many characters.
-struct Campo {
-    QString nome;
-    int larghezza = 0;
+// The fields of the tables with their widths, in the order of their columns. What else is told of fields (their
+// positions, the definitions of the tables) is made from these lists. Width 0 marks a yes/no field, all others are
+// texts.
+#define CRONOVIA_SHARED_PARAMETER_FIELDS(FIELD) \
+    FIELD(MediaAutostrada, 3)                   \
+    FIELD(MediaSuperStrada, 3)                  \
+    FIELD(MediaPrincipale, 3)                   \
+    FIELD(MediaLocale, 3)                       \
+    FIELD(OraColazione, 4)                      \
+    FIELD(OraPranzo, 4)                         \
+    FIELD(DurataPranzo, 4)                      \
+    FIELD(OraCena, 4)                           \
+    FIELD(DurataCena, 4)                        \
+    FIELD(OraNotte, 4)                          \
+    FIELD(RiposoMinuti, 2)                      \
+    FIELD(RiposoOre, 2)                         \
+    FIELD(RiposoGiorno, 2)                      \
+    FIELD(RiposoDopoGiorni, 2)                  \
+    FIELD(InizioVisita, 4)                      \
+    FIELD(FineVisita, 4)                        \
+    FIELD(OreTraghetti, 4)
+#define CRONOVIA_METE_FIELDS(FIELD)         \
+    FIELD(CodiceMeta, 6)                    \
+    FIELD(Localita, 30)                     \
+    FIELD(Nazione, 19)                      \
+    FIELD(DataInizio, 8)                    \
+    FIELD(OraInizio, 4)                     \
+    CRONOVIA_SHARED_PARAMETER_FIELDS(FIELD) \
+    FIELD(GiorniAdeguamento, 4)             \
+    FIELD(CalcoloSoste, 1)
+#define CRONOVIA_ITINERARI_FIELDS(FIELD) \
+    FIELD(CodiceMeta, 6)                 \
+    FIELD(Sequenza, 4)                   \
+    FIELD(Localita, 30)                  \
+    FIELD(Chilometri, 4)                 \
+    FIELD(NomeStrada, 64)                \
+    FIELD(TipoStrada, 1)                 \
+    FIELD(TempoSosta, 8)                 \
+    FIELD(SostaGuidaCitta, 8)            \
+    FIELD(FineGiorno, 1)
+#define CRONOVIA_GUIDA_FIELDS(FIELD) \
+    FIELD(Localita, 30)              \
+    FIELD(CodiceGuida, 2)            \
+    FIELD(Descrizione, 96)           \
+    FIELD(TempoSosta, 5)             \
+    FIELD(FlagVisto, 1)
+#define CRONOVIA_TIPOGUIDA_FIELDS(FIELD) \
+    FIELD(CodiceGuida, 2)                \
+    FIELD(Descrizione, 32)               \
+    FIELD(TempoObbligatorio, 0)
+#define CRONOVIA_METACORRENTE_FIELDS(FIELD) FIELD(MetaCorrente, 6)
+#define CRONOVIA_PARAMETRI_FIELDS(FIELD)    \
+    CRONOVIA_SHARED_PARAMETER_FIELDS(FIELD) \
+    FIELD(CalcoloSoste, 1)
+
+// Positions of the fields in their tables' records; `kCampi` is how many there are.
+#define CRONOVIA_POSITION(name, width) name,
+namespace mete {
+enum Field { CRONOVIA_METE_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace mete
+namespace itinerari {
+enum Field { CRONOVIA_ITINERARI_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace itinerari
+namespace guida {
+enum Field { CRONOVIA_GUIDA_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace guida
+namespace tipoguida {
+enum Field { CRONOVIA_TIPOGUIDA_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace tipoguida
+namespace metacorrente {
+enum Field { CRONOVIA_METACORRENTE_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace metacorrente
+namespace parametri {
+enum Field { CRONOVIA_PARAMETRI_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace parametri
+#undef CRONOVIA_POSITION
+
+/// A field: 0 for yes/no, else a text of at most so many characters.
+struct FieldDefinition {
+    QString name;
+    int width = 0;
 };
 
-struct DefinizioneTabella {
-    QString nome;
-    std::vector<Campo> campi;     ///< in the order of the table's columns
-    std::vector<QString> indici;  ///< the fields that have an index, each a single-field one
+struct TableDefinition {
+    QString name;
+    std::vector<FieldDefinition> fields;  ///< in the order of the table's columns
+    std::vector<QString> indexes;         ///< names of the fields that have an index, each a single-field one
 };
 
-const DefinizioneTabella& Definizione(Tabella tabella);
+/// What a table is declared as.
+const TableDefinition& Definition(Table table);
+
+/// Characters that a text field holds, 0 for a yes/no field; `field` is its position in the table.
+int Width(Table table, int field);
 
 /// All tables, in the order of their numbers.
-const std::vector<Tabella>& TutteLeTabelle();
-
-/// Positions of the fields in their tables' records.
-namespace mete {
-enum Posto {
-    CodiceMeta,
-    Localita,
-    Nazione,
-    DataInizio,
-    OraInizio,
-    MediaAutostrada,
-    MediaSuperStrada,
-    MediaPrincipale,
-    MediaLocale,
-    OraColazione,
-    OraPranzo,
-    DurataPranzo,
-    OraCena,
-    DurataCena,
-    OraNotte,
-    RiposoMinuti,
-    RiposoOre,
-    RiposoGiorno,
-    RiposoDopoGiorni,
-    InizioVisita,
-    FineVisita,
-    OreTraghetti,
-    GiorniAdeguamento,
-    CalcoloSoste,
-    kCampi
-};
-}  // namespace mete
-
-namespace itinerari {
-enum Posto {
-    CodiceMeta,
-    Sequenza,
-    Localita,
-    Chilometri,
-    NomeStrada,
-    TipoStrada,
-    TempoSosta,
-    SostaGuidaCitta,
-    FineGiorno,
-    kCampi
-};
-}  // namespace itinerari
-
-namespace guida {
-enum Posto { Localita, CodiceGuida, Descrizione, TempoSosta, FlagVisto, kCampi };
-}  // namespace guida
-
-namespace tipoguida {
-enum Posto { CodiceGuida, Descrizione, TempoObbligatorio, kCampi };
-}  // namespace tipoguida
-
-namespace metacorrente {
-enum Posto { MetaCorrente, kCampi };
-}  // namespace metacorrente
-
-/// The travel parameters stand in the order in which `MeteVandro` has them, without `GiorniAdeguamento`.
-namespace parametri {
-enum Posto {
-    MediaAutostrada,
-    MediaSuperStrada,
-    MediaPrincipale,
-    MediaLocale,
-    OraColazione,
-    OraPranzo,
-    DurataPranzo,
-    OraCena,
-    DurataCena,
-    OraNotte,
-    RiposoMinuti,
-    RiposoOre,
-    RiposoGiorno,
-    RiposoDopoGiorni,
-    InizioVisita,
-    FineVisita,
-    OreTraghetti,
-    CalcoloSoste,
-    kCampi
-};
-}  // namespace parametri
+const std::vector<Table>& AllTables();
 
 }  // namespace cronovia

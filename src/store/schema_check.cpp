@@ -35,7 +35,9 @@ struct Column {
 
 std::string Quoted(const QString& name) { return (u'"' + name + u'"').toStdString(); }
 
-QString TypeOf(const Campo& campo) { return campo.larghezza == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(campo.larghezza); }
+QString TypeOf(const FieldDefinition& field) {
+    return field.width == 0 ? u"BOOLEAN"_s : u"TEXT(%1)"_s.arg(field.width);
+}
 
 std::string ColumnSql(const Column& column) {
     std::string sql = Quoted(column.name) + " " + column.type.toStdString();
@@ -56,19 +58,19 @@ std::vector<Column> ColumnsOf(SQLite::Database& database, const QString& table) 
     return columns;
 }
 
-std::string IndexName(const DefinizioneTabella& table, const QString& campo) {
-    return table.nome.toStdString() + "_" + campo.toStdString();
+std::string IndexName(const TableDefinition& table, const QString& field) {
+    return table.name.toStdString() + "_" + field.toStdString();
 }
 
 // An index by that name alone is not enough: it must be on the field, and know no difference of case.
-bool HasIndex(SQLite::Database& database, const DefinizioneTabella& table, const QString& campo) {
+bool HasIndex(SQLite::Database& database, const TableDefinition& table, const QString& field) {
     SQLite::Statement statement(
         database,
         "SELECT 1 FROM pragma_index_list(?1) AS list, pragma_index_xinfo(list.name) AS field "
         "WHERE list.name = ?2 AND field.seqno = 0 AND field.name = ?3 AND field.coll = 'NOCASE'");
-    statement.bind(1, table.nome.toStdString());
-    statement.bind(2, IndexName(table, campo));
-    statement.bind(3, campo.toStdString());
+    statement.bind(1, table.name.toStdString());
+    statement.bind(2, IndexName(table, field));
+    statement.bind(3, field.toStdString());
     return statement.executeStep();
 }
 
@@ -79,18 +81,18 @@ struct TableState {
     bool complete = false;
 };
 
-TableState StateOf(SQLite::Database& database, const DefinizioneTabella& table) {
+TableState StateOf(SQLite::Database& database, const TableDefinition& table) {
     TableState state;
-    state.columns = ColumnsOf(database, table.nome);
+    state.columns = ColumnsOf(database, table.name);
     if (state.columns.empty()) return state;
-    state.rebuild = std::any_of(table.campi.begin(), table.campi.end(), [&](const Campo& campo) {
+    state.rebuild = std::any_of(table.fields.begin(), table.fields.end(), [&](const FieldDefinition& field) {
         const auto found = std::find_if(state.columns.begin(), state.columns.end(),
-                                        [&](const Column& column) { return column.name == campo.nome; });
-        return found == state.columns.end() || (campo.larghezza > 0 && found->type != TypeOf(campo));
+                                        [&](const Column& column) { return column.name == field.name; });
+        return found == state.columns.end() || (field.width > 0 && found->type != TypeOf(field));
     });
-    state.complete = !state.rebuild && std::all_of(table.indici.begin(), table.indici.end(), [&](const QString& campo) {
-        return HasIndex(database, table, campo);
-    });
+    state.complete =
+        !state.rebuild && std::all_of(table.indexes.begin(), table.indexes.end(),
+                                      [&](const QString& field) { return HasIndex(database, table, field); });
     return state;
 }
 
@@ -101,20 +103,20 @@ const Column* FindColumn(const std::vector<Column>& columns, const QString& name
     return found == columns.end() ? nullptr : &*found;
 }
 
-void RefuseValuesThatDoNotFit(SQLite::Database& database, const DefinizioneTabella& table,
+void RefuseValuesThatDoNotFit(SQLite::Database& database, const TableDefinition& table,
                               const std::vector<Column>& columns, const QString& path) {
-    for (const Campo& campo : table.campi) {
-        if (campo.larghezza == 0 || FindColumn(columns, campo.nome) == nullptr) continue;
-        SQLite::Statement statement(database, "SELECT COUNT(*), MAX(length(" + Quoted(campo.nome) + ")) FROM " +
-                                                  Quoted(table.nome) + " WHERE length(" + Quoted(campo.nome) + ") > ?");
-        statement.bind(1, campo.larghezza);
+    for (const FieldDefinition& field : table.fields) {
+        if (field.width == 0 || FindColumn(columns, field.name) == nullptr) continue;
+        SQLite::Statement statement(database, "SELECT COUNT(*), MAX(length(" + Quoted(field.name) + ")) FROM " +
+                                                  Quoted(table.name) + " WHERE length(" + Quoted(field.name) + ") > ?");
+        statement.bind(1, field.width);
         statement.executeStep();
         const int count = statement.getColumn(0).getInt();
         if (count == 0) continue;
         throw Failure(
             u"Errore apertura database %1: nella tabella %2 il campo %3 dev'essere di %4 caratteri, ma non bastano "
             "(valori più lunghi: %5, fino a %6 caratteri). Il file non è stato modificato."_s.arg(
-                QDir::toNativeSeparators(path), table.nome, campo.nome, QString::number(campo.larghezza),
+                QDir::toNativeSeparators(path), table.name, field.name, QString::number(field.width),
                 QString::number(count), QString::number(statement.getColumn(1).getInt())));
     }
 }
@@ -125,15 +127,15 @@ void CreateTable(SQLite::Database& database, const QString& name, const std::vec
     database.exec("CREATE TABLE " + Quoted(name) + " (" + list + ")");
 }
 
-std::vector<Column> DeclaredColumns(const DefinizioneTabella& table) {
+std::vector<Column> DeclaredColumns(const TableDefinition& table) {
     std::vector<Column> columns;
-    columns.reserve(table.campi.size());
-    for (const Campo& campo : table.campi) columns.push_back({campo.nome, TypeOf(campo)});
+    columns.reserve(table.fields.size());
+    for (const FieldDefinition& field : table.fields) columns.push_back({field.name, TypeOf(field)});
     return columns;
 }
 
 // A table with today's fields in today's order and the rows of the old one; fields that are not ours stay behind ours.
-void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, const std::vector<Column>& existing) {
+void RebuildTable(SQLite::Database& database, const TableDefinition& table, const std::vector<Column>& existing) {
     std::vector<Column> columns = DeclaredColumns(table);
     std::string names;
     std::string values;
@@ -149,22 +151,22 @@ void RebuildTable(SQLite::Database& database, const DefinizioneTabella& table, c
         names += ", " + Quoted(column.name);
         values += ", " + Quoted(column.name);
     }
-    const QString temporary = table.nome + u"_nuova"_s;
+    const QString temporary = table.name + u"_nuova"_s;
     CreateTable(database, temporary, columns);
     if (!names.empty()) {
         database.exec("INSERT INTO " + Quoted(temporary) + " (rowid, " + names + ") SELECT rowid, " + values +
-                      " FROM " + Quoted(table.nome) + " ORDER BY rowid");
+                      " FROM " + Quoted(table.name) + " ORDER BY rowid");
     }
-    database.exec("DROP TABLE " + Quoted(table.nome));
-    database.exec("ALTER TABLE " + Quoted(temporary) + " RENAME TO " + Quoted(table.nome));
+    database.exec("DROP TABLE " + Quoted(table.name));
+    database.exec("ALTER TABLE " + Quoted(temporary) + " RENAME TO " + Quoted(table.name));
 }
 
-void MendIndexes(SQLite::Database& database, const DefinizioneTabella& table) {
-    for (const QString& campo : table.indici) {
-        if (HasIndex(database, table, campo)) continue;
-        const std::string name = "\"" + IndexName(table, campo) + "\"";
+void MendIndexes(SQLite::Database& database, const TableDefinition& table) {
+    for (const QString& field : table.indexes) {
+        if (HasIndex(database, table, field)) continue;
+        const std::string name = "\"" + IndexName(table, field) + "\"";
         database.exec("DROP INDEX IF EXISTS " + name);
-        database.exec("CREATE INDEX " + name + " ON " + Quoted(table.nome) + " (" + Quoted(campo) + " COLLATE NOCASE)");
+        database.exec("CREATE INDEX " + name + " ON " + Quoted(table.name) + " (" + Quoted(field) + " COLLATE NOCASE)");
     }
 }
 
@@ -204,14 +206,14 @@ bool AnyTable(SQLite::Database& database) {
 }
 
 bool UpToDate(SQLite::Database& database) {
-    const std::vector<Tabella>& tables = TutteLeTabelle();
+    const std::vector<Table>& tables = AllTables();
     return std::all_of(tables.begin(), tables.end(),
-                       [&](Tabella table) { return StateOf(database, Definizione(table)).complete; });
+                       [&](Table table) { return StateOf(database, Definition(table)).complete; });
 }
 
 void CheckEveryTable(SQLite::Database& database, const QString& path) {
-    for (const Tabella tabella : TutteLeTabelle()) {
-        const DefinizioneTabella& table = Definizione(tabella);
+    for (const Table each : AllTables()) {
+        const TableDefinition& table = Definition(each);
         const TableState state = StateOf(database, table);
         if (state.rebuild) RefuseValuesThatDoNotFit(database, table, state.columns, path);
     }
@@ -222,10 +224,10 @@ void RefuseForeignDatabase(SQLite::Database& database, const QString& path) {
         throw Failure(u"Errore apertura database %1: l'archivio è di una versione più recente di Cronovia."_s.arg(
             QDir::toNativeSeparators(path)));
     }
-    const std::vector<Tabella>& tables = TutteLeTabelle();
+    const std::vector<Table>& tables = AllTables();
     const bool ours = IntegerOf(database, "PRAGMA application_id") == kApplicationId || !AnyTable(database) ||
                       std::any_of(tables.begin(), tables.end(),
-                                  [&](Tabella t) { return !ColumnsOf(database, Definizione(t).nome).empty(); });
+                                  [&](Table t) { return !ColumnsOf(database, Definition(t).name).empty(); });
     if (!ours) {
         throw Failure(u"Errore apertura database %1: il file è un archivio di un altro programma."_s.arg(
             QDir::toNativeSeparators(path)));
@@ -259,10 +261,10 @@ void UpdateTables(SQLite::Database& database, const QString& path) {
     if (AnyTable(database)) KeepCopy(database, path);
     database.exec("BEGIN IMMEDIATE");
     try {
-        for (const Tabella tabella : TutteLeTabelle()) {
-            const DefinizioneTabella& table = Definizione(tabella);
+        for (const Table each : AllTables()) {
+            const TableDefinition& table = Definition(each);
             const TableState state = StateOf(database, table);
-            if (state.columns.empty()) CreateTable(database, table.nome, DeclaredColumns(table));
+            if (state.columns.empty()) CreateTable(database, table.name, DeclaredColumns(table));
             if (state.rebuild) RebuildTable(database, table, state.columns);
             MendIndexes(database, table);
         }

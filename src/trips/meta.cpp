@@ -12,7 +12,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The parameters in the order of their fields, which both tables share up to `OreTraghetti`.
+// Which field of `Parametri` holds which parameter; the averages stand in the order of the road types.
+struct CampoOrario {
+    parametri::Field campo;
+    Centesimi ParametriViaggio::*valore;
+};
+constexpr std::array<CampoOrario, 9> kOrari = {{
+    {parametri::OraColazione, &ParametriViaggio::oraColazione},
+    {parametri::OraPranzo, &ParametriViaggio::oraPranzo},
+    {parametri::DurataPranzo, &ParametriViaggio::durataPranzo},
+    {parametri::OraCena, &ParametriViaggio::oraCena},
+    {parametri::DurataCena, &ParametriViaggio::durataCena},
+    {parametri::OraNotte, &ParametriViaggio::oraNotte},
+    {parametri::InizioVisita, &ParametriViaggio::inizioVisita},
+    {parametri::FineVisita, &ParametriViaggio::fineVisita},
+    {parametri::OreTraghetti, &ParametriViaggio::oreTraghetti},
+}};
+struct CampoRiposo {
+    parametri::Field campo;
+    int ParametriViaggio::*valore;
+};
+constexpr std::array<CampoRiposo, 4> kRiposi = {{
+    {parametri::RiposoMinuti, &ParametriViaggio::riposoMinuti},
+    {parametri::RiposoOre, &ParametriViaggio::riposoOre},
+    {parametri::RiposoGiorno, &ParametriViaggio::riposoGiorno},
+    {parametri::RiposoDopoGiorni, &ParametriViaggio::riposoDopoGiorni},
+}};
+
+// Up to it the fields of both tables are the same.
 constexpr std::size_t kCampiComuni = parametri::OreTraghetti + 1;
 
 CalcoloSoste LeggiCalcoloSoste(QStringView testo) {
@@ -24,20 +51,10 @@ int NonNegativo(QStringView testo) { return std::max(0, ValoreNumerico(testo)); 
 
 ParametriViaggio LeggiParametri(std::span<const QString> campi, QStringView calcoloSoste) {
     ParametriViaggio p;
-    for (std::size_t i = 0; i < p.mediaKm.size(); ++i) p.mediaKm[i] = NonNegativo(campi[i]);
-    p.oraColazione = LeggiOrario(campi[parametri::OraColazione]);
-    p.oraPranzo = LeggiOrario(campi[parametri::OraPranzo]);
-    p.durataPranzo = LeggiOrario(campi[parametri::DurataPranzo]);
-    p.oraCena = LeggiOrario(campi[parametri::OraCena]);
-    p.durataCena = LeggiOrario(campi[parametri::DurataCena]);
-    p.oraNotte = LeggiOrario(campi[parametri::OraNotte]);
-    p.riposoMinuti = NonNegativo(campi[parametri::RiposoMinuti]);
-    p.riposoOre = NonNegativo(campi[parametri::RiposoOre]);
-    p.riposoGiorno = NonNegativo(campi[parametri::RiposoGiorno]);
-    p.riposoDopoGiorni = NonNegativo(campi[parametri::RiposoDopoGiorni]);
-    p.inizioVisita = LeggiOrario(campi[parametri::InizioVisita]);
-    p.fineVisita = LeggiOrario(campi[parametri::FineVisita]);
-    p.oreTraghetti = LeggiOrario(campi[parametri::OreTraghetti]);
+    for (std::size_t i = 0; i < p.mediaKm.size(); ++i)
+        p.mediaKm[i] = NonNegativo(campi[parametri::MediaAutostrada + i]);
+    for (const auto& [campo, valore] : kOrari) p.*valore = LeggiOrario(campi[campo]);
+    for (const auto& [campo, valore] : kRiposi) p.*valore = NonNegativo(campi[campo]);
     p.calcoloSoste = LeggiCalcoloSoste(calcoloSoste);
     return p;
 }
@@ -68,22 +85,18 @@ QString TestoOrario(Centesimi orario) {
 }
 
 std::vector<QString> ValoriDeiParametri(const ParametriViaggio& p) {
-    std::vector<QString> valori;
-    valori.reserve(parametri::kCampi);
-    for (const int media : p.mediaKm) valori.push_back(QString::number(media));
-    for (const Centesimi orario : {p.oraColazione, p.oraPranzo, p.durataPranzo, p.oraCena, p.durataCena, p.oraNotte}) {
-        valori.push_back(TestoOrario(orario));
+    std::vector<QString> valori(parametri::kCampi);
+    for (std::size_t i = 0; i < p.mediaKm.size(); ++i) {
+        valori[parametri::MediaAutostrada + i] = QString::number(p.mediaKm[i]);
     }
-    for (const int riposo : {p.riposoMinuti, p.riposoOre, p.riposoGiorno, p.riposoDopoGiorni}) {
-        valori.push_back(Zero(riposo, 2));
-    }
-    for (const Centesimi orario : {p.inizioVisita, p.fineVisita, p.oreTraghetti}) valori.push_back(TestoOrario(orario));
-    valori.push_back(QString::number(static_cast<int>(p.calcoloSoste)));
+    for (const auto& [campo, valore] : kOrari) valori[campo] = TestoOrario(p.*valore);
+    for (const auto& [campo, valore] : kRiposi) valori[campo] = Zero(p.*valore, 2);
+    valori[parametri::CalcoloSoste] = QString::number(static_cast<int>(p.calcoloSoste));
     return valori;
 }
 
 ParametriViaggio ParametriDaRecord(const Record& record) {
-    return LeggiParametri(record.valori, record[parametri::CalcoloSoste]);
+    return LeggiParametri(record.values, record[parametri::CalcoloSoste]);
 }
 
 Meta MetaDaRecord(const Record& record) {
@@ -94,15 +107,14 @@ Meta MetaDaRecord(const Record& record) {
     meta.dataInizio = LeggiData(record[mete::DataInizio]);
     meta.oraInizio = LeggiOrario(record[mete::OraInizio]);
     meta.giorniAdeguamento = std::clamp(ValoreNumerico(record[mete::GiorniAdeguamento]), 0, kMassimoGiorniAdeguamento);
-    const std::span<const QString> campi(record.valori);
+    const std::span<const QString> campi(record.values);
     meta.parametri = LeggiParametri(campi.subspan(mete::MediaAutostrada, kCampiComuni), record[mete::CalcoloSoste]);
     return meta;
 }
 
 std::vector<QString> ValoriDellaMeta(const Meta& meta) {
     std::vector<QString> valori = {
-        meta.codice, meta.localita,
-        (meta.nazione.trimmed() + u' ').left(Definizione(Tabella::MeteVandro).campi[mete::Nazione].larghezza),
+        meta.codice, meta.localita, (meta.nazione.trimmed() + u' ').left(Width(Table::MeteVandro, mete::Nazione)),
         meta.dataInizio ? DataMemorizzata(*meta.dataInizio) : QString(), TestoOrario(meta.oraInizio)};
     std::vector<QString> comuni = ValoriDeiParametri(meta.parametri);
     comuni.insert(comuni.end() - 1, Zero(meta.giorniAdeguamento, 3));

@@ -11,15 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Ricerca PerCodice(QStringView codice) {
-    return {Tabella::MeteVandro, {{mete::CodiceMeta, NamePattern::Exactly(codice)}}};
-}
+Search PerCodice(QStringView codice) { return {Table::MeteVandro, {{mete::CodiceMeta, NamePattern::Exactly(codice)}}}; }
 
 // Puts the only row that a table has.
-void ScriviRigaUnica(Archive& archive, Tabella tabella, std::vector<QString> valori) {
+void ScriviRigaUnica(Archive& archive, Table tabella, std::vector<QString> valori) {
     std::optional<Record> record = archive.SelectFirst({tabella, {}});
     if (record) {
-        record->valori = std::move(valori);
+        record->values = std::move(valori);
         archive.Update(tabella, *record);
     } else {
         archive.Insert(tabella, valori);
@@ -28,7 +26,7 @@ void ScriviRigaUnica(Archive& archive, Tabella tabella, std::vector<QString> val
 
 void RifiutaIncompleta(const Meta& meta) {
     if (meta.localita.trimmed().isEmpty()) throw Failure(u"Campo Località: obbligatorio!"_s);
-    const int larghezza = Definizione(Tabella::MeteVandro).campi[mete::Localita].larghezza;
+    const int larghezza = Width(Table::MeteVandro, mete::Localita);
     if (meta.localita.trimmed().size() > larghezza) {
         throw Failure(u"Il nome della località è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
     }
@@ -36,8 +34,7 @@ void RifiutaIncompleta(const Meta& meta) {
 }
 
 std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
-    return archive.SelectFirst(
-        {Tabella::MeteVandro, {{mete::Localita, NamePattern::ForName(meta.localita.trimmed())}}});
+    return archive.SelectFirst({Table::MeteVandro, {{mete::Localita, NamePattern::ForName(meta.localita.trimmed())}}});
 }
 
 // Within a transaction of the caller. A code that another window took meanwhile is left to it.
@@ -49,10 +46,10 @@ QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvatagg
     std::optional<Record> record = archive.SelectFirst(PerCodice(meta.codice));
     if (record && salvataggio.nuova) meta.codice = NuovoCodiceMeta(CodiciDelleMete(archive));
     if (record && !salvataggio.nuova) {
-        record->valori = ValoriDellaMeta(meta);
-        archive.Update(Tabella::MeteVandro, *record);
+        record->values = ValoriDellaMeta(meta);
+        archive.Update(Table::MeteVandro, *record);
     } else {
-        archive.Insert(Tabella::MeteVandro, ValoriDellaMeta(meta));
+        archive.Insert(Table::MeteVandro, ValoriDellaMeta(meta));
     }
     SalvaIlCodiceMetaCorrente(archive, meta.codice);
     return meta.codice;
@@ -82,7 +79,7 @@ QString NuovoCodiceMeta(std::span<const QString> codici) {
 
 std::vector<QString> CodiciDelleMete(Archive& archive) {
     std::vector<QString> codici;
-    archive.ForEach(Tabella::MeteVandro, [&](const Record& record) { codici.push_back(record[mete::CodiceMeta]); });
+    archive.ForEach(Table::MeteVandro, [&](const Record& record) { codici.push_back(record[mete::CodiceMeta]); });
     std::sort(codici.begin(), codici.end());
     return codici;
 }
@@ -116,7 +113,7 @@ QString InserisciMeta(Archive& archive, const Meta& nuova) {
 
 std::vector<MetaInElenco> ElencoMete(Archive& archive) {
     std::vector<MetaInElenco> elenco;
-    for (const Record& record : archive.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+    for (const Record& record : archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
         elenco.push_back({record[mete::CodiceMeta], record[mete::Localita].trimmed()});
     }
     std::stable_partition(elenco.begin(), elenco.end(),
@@ -127,14 +124,14 @@ std::vector<MetaInElenco> ElencoMete(Archive& archive) {
 void CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
     Transaction transaction(archive);
     const NamePattern questa = NamePattern::Exactly(codice);
-    archive.CancellaTabella(Tabella::Itinerari, Condizione{itinerari::CodiceMeta, questa}, progress);
-    archive.CancellaTabella(Tabella::MeteVandro, Condizione{mete::CodiceMeta, questa}, progress);
+    archive.DeleteMatching(Table::Itinerari, Condition{itinerari::CodiceMeta, questa}, progress);
+    archive.DeleteMatching(Table::MeteVandro, Condition{mete::CodiceMeta, questa}, progress);
     transaction.Commit();
     progress.Advance(0, 0);
 }
 
 ParametriViaggio CaricaDefaultMeta(Archive& archive) {
-    const std::optional<Record> record = archive.SelectFirst({Tabella::Parametri, {}});
+    const std::optional<Record> record = archive.SelectFirst({Table::Parametri, {}});
     return record ? ParametriDaRecord(*record) : ParametriViaggio();
 }
 
@@ -145,17 +142,17 @@ ParametriViaggio RipristinaDefaultMeta(Archive& archive) {
 }
 
 void CompletaDefaultMeta(Archive& archive) {
-    if (archive.Count(Tabella::Parametri) == 0) MemorizzaVariabiliMeta(archive, ParametriViaggio());
+    if (archive.Count(Table::Parametri) == 0) MemorizzaVariabiliMeta(archive, ParametriViaggio());
 }
 
 void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri) {
     Transaction transaction(archive);
-    ScriviRigaUnica(archive, Tabella::Parametri, ValoriDeiParametri(parametri));
+    ScriviRigaUnica(archive, Table::Parametri, ValoriDeiParametri(parametri));
     transaction.Commit();
 }
 
 QString RicercaMetaCorrente(Archive& archive) {
-    if (const std::optional<Record> corrente = archive.SelectFirst({Tabella::MetaCorrente, {}})) {
+    if (const std::optional<Record> corrente = archive.SelectFirst({Table::MetaCorrente, {}})) {
         const QString& codice = (*corrente)[metacorrente::MetaCorrente];
         if (archive.Exists(PerCodice(codice))) return codice;
     }
@@ -164,7 +161,7 @@ QString RicercaMetaCorrente(Archive& archive) {
 }
 
 void SalvaIlCodiceMetaCorrente(Archive& archive, const QString& codice) {
-    ScriviRigaUnica(archive, Tabella::MetaCorrente, {codice});
+    ScriviRigaUnica(archive, Table::MetaCorrente, {codice});
 }
 
 }  // namespace cronovia

@@ -49,12 +49,12 @@ class PercorsiGuidaTest : public testing::Test {
         return codice;
     }
     void NellaGuida(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        Archivio().Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
+        Archivio().Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
     }
     /// The guide as another window finds it.
     QString Guida() {
         QStringList voci;
-        for (const Record& r : Archivio().Select({Tabella::GuidaCitta, {}})) {
+        for (const Record& r : Archivio().Select({Table::GuidaCitta, {}})) {
             voci += r[guida::Localita] + u'/' + r[guida::CodiceGuida] + u'/' + r[guida::Descrizione] + u'/' +
                     r[guida::TempoSosta];
         }
@@ -162,19 +162,19 @@ TEST_F(PercorsiGuidaTest, WhatASecondWindowDidMeanwhile) {
     scrivania_->GuidaCitta();
     Vai(3);
     ASSERT_EQ(Tavolo().Corrente().voce->descrizione, u"Foro *"_s);
-    Archivio().Delete(Tabella::GuidaCitta, 1);
+    Archivio().Delete(Table::GuidaCitta, 1);
     copione_.Messaggio(
         u"L'annotazione mostrata era stata cambiata o cancellata nel frattempo:\ni dati sono stati inseriti come nuova annotazione."_s);
     EXPECT_TRUE(Salva({u"Foro di Nerva"_s, u"Ottimo"_s, 1, 0}));
     EXPECT_EQ(Guida(), u"ROMA/01/Foro Romano/01:00 ROMA/01/Foro di Nerva/01:00"_s);
-    Archivio().Delete(Tabella::GuidaCitta, 3);
+    Archivio().Delete(Table::GuidaCitta, 3);
     copione_.Messaggio(
         u"Impossibile: l'annotazione è stata cambiata o cancellata nel frattempo\n"
         "(inserimento di «Foro di Nerva»)."_s);
     scrivania_->Annulla();
     EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
     Vai(3);
-    Archivio().Delete(Tabella::GuidaCitta, 2);
+    Archivio().Delete(Table::GuidaCitta, 2);
     CancellaRiga();  // gone already: nothing is said, nothing else goes
     EXPECT_EQ(Elenco(Tavolo()), u"ASTI: ROMA:00:01:00"_s);
     CancellaMeta(Archivio(), codice, avanzamento_);

@@ -85,7 +85,7 @@ TEST_F(ScambioTest, AnImportCanBeTakenBackFromItsClosingBox) {
 TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
     {
         Archive archive = AltraFinestra();
-        prova::Inserisci(archive, Tabella::MeteVandro, {u"000001"_s, u"ALBA"_s});
+        prova::Inserisci(archive, Table::MeteVandro, {u"000001"_s, u"ALBA"_s});
     }
     prova::ScriviFile(file_, amici_);
     const QStringList prima = Archivio();
@@ -126,7 +126,7 @@ TEST_F(ScambioTest, WhatAnotherWindowWroteSinceIsNotTakenBack) {
     Importa(Answer::No);
     {
         Archive archive = AltraFinestra();
-        prova::Inserisci(archive, Tabella::Itinerari, {u"000001"_s, u"0001"_s, u"NARNI"_s});
+        prova::Inserisci(archive, Table::Itinerari, {u"000001"_s, u"0001"_s, u"NARNI"_s});
     }
     const QStringList prima = Archivio();
     copione_.Messaggio(u"L'importazione non si può più annullare: dopo di essa l'archivio è stato modificato."_s);
@@ -161,8 +161,8 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     ImExp(altro);
     {
         Archive archive = AltraFinestra();
-        archive.CancellaTabella(Tabella::MeteVandro, Condizione{mete::Localita, NamePattern::Exactly(u"PISA"_s)},
-                                avanzamento_);
+        archive.DeleteMatching(Table::MeteVandro, Condition{mete::Localita, NamePattern::Exactly(u"PISA"_s)},
+                               avanzamento_);
     }
     copione_.Domanda(esiste, u"File %1 esistente"_s.arg(altro), Answer::Yes);
     copione_.Domanda(u"Confermi export delle mète selezionate?"_s, kExport, Answer::Yes);

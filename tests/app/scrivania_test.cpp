@@ -156,7 +156,7 @@ TEST_F(ScrivaniaTest, DeletingATripFallsBackToTheHighestCode) {
         EXPECT_EQ(Modo(), modo);
     }
     EXPECT_EQ(Righe(), u""_s);
-    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Tabella::Itinerari), 0);
+    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
 }
 
 TEST_F(ScrivaniaTest, AnItineraryIsDeletedAfterTwoQuestions) {
@@ -430,7 +430,7 @@ TEST_F(ScrivaniaTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsC
     copione_.Messaggio(u"L'itinerario non è stato salvato.\n\nNon esiste nessuna mèta con il codice 000002."_s);
     scrivania_->Fine();
     EXPECT_EQ(Righe(), u"A"_s);
-    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Tabella::Itinerari), 0);
+    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
     Esce(Answer::No);
     EXPECT_EQ(scrivania_->MetaInCorso().localita, u"UNO"_s);
 }

@@ -16,9 +16,9 @@ class SessioneTest : public testing::Test {
         ImportaMete({sessione_.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), {}}, progress_);
     }
     void CambiaMeta(int posto, const QString& valore) {
-        Record record = *sessione_.Archivio().SelectFirst({Tabella::MeteVandro, {}});
+        Record record = *sessione_.Archivio().SelectFirst({Table::MeteVandro, {}});
         record[posto] = valore;
-        sessione_.Archivio().Update(Tabella::MeteVandro, record);
+        sessione_.Archivio().Update(Table::MeteVandro, record);
     }
     int Giorni(const MetaAperta& aperta, const OpzioniCalcolo& opzioni = {}) {
         return sessione_.Calcola(aperta, opzioni, progress_).cronovia->fine->giorni;
@@ -30,15 +30,15 @@ class SessioneTest : public testing::Test {
 };
 
 TEST_F(SessioneTest, ANewArchiveGetsStandardParametersAndLaterOnesKeepTheirs) {
-    Record record = *sessione_.Archivio().SelectFirst({Tabella::Parametri, {}});
+    Record record = *sessione_.Archivio().SelectFirst({Table::Parametri, {}});
     EXPECT_EQ(ParametriDaRecord(record), ParametriViaggio());
     ParametriViaggio miei;
     miei.mediaKm = {90, 80, 60, 45};
-    record.valori = ValoriDeiParametri(miei);
-    sessione_.Archivio().Update(Tabella::Parametri, record);
+    record.values = ValoriDeiParametri(miei);
+    sessione_.Archivio().Update(Table::Parametri, record);
     Sessione dopo(cartella_.Percorso());
-    EXPECT_EQ(dopo.Archivio().Count(Tabella::TipoGuida), 9);
-    EXPECT_EQ(dopo.Archivio().Count(Tabella::Parametri), 1);
+    EXPECT_EQ(dopo.Archivio().Count(Table::TipoGuida), 9);
+    EXPECT_EQ(dopo.Archivio().Count(Table::Parametri), 1);
     const QString codice = dopo.NuovaMeta(u"corsica"_s, u"francia"_s, QDate(2027, 6, 5).startOfDay());
     EXPECT_EQ(dopo.ApriMeta(codice).meta.parametri, miei);
 }

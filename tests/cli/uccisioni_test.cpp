@@ -81,8 +81,8 @@ class Uccisore {
 // An archive with one trip.
 void Comincia(const prova::CartellaDiProva& cartella) {
     Archive archive = Archive::Open(cartella.Percorso());
-    prova::Inserisci(archive, Tabella::MeteVandro, {u"000001"_s, u"ALBA"_s});
-    prova::Inserisci(archive, Tabella::Itinerari, {u"000001"_s, u"0001"_s, u"BRA"_s});
+    prova::Inserisci(archive, Table::MeteVandro, {u"000001"_s, u"ALBA"_s});
+    prova::Inserisci(archive, Table::Itinerari, {u"000001"_s, u"0001"_s, u"BRA"_s});
 }
 
 TEST(Uccisioni, AnImportIsWholeOrAbsent) {

@@ -24,23 +24,23 @@ inline QByteArray Guida(const QByteArray& righe) {
 }
 
 /// The first `campi` fields of every row, joined by "|", in the order in which the rows were added.
-inline QStringList Righe(Archive& archive, Tabella tabella, int campi = 3) {
+inline QStringList Righe(Archive& archive, Table tabella, int campi = 3) {
     QStringList righe;
     archive.ForEach(tabella, [&](const Record& record) {
-        righe += QStringList(record.valori.begin(), record.valori.begin() + campi).join(u'|');
+        righe += QStringList(record.values.begin(), record.values.begin() + campi).join(u'|');
     });
     return righe;
 }
 
 /// Every field of the three tables that travel.
 inline QStringList Tutto(Archive& archive) {
-    return Righe(archive, Tabella::MeteVandro, mete::kCampi) + Righe(archive, Tabella::Itinerari, itinerari::kCampi) +
-           Righe(archive, Tabella::GuidaCitta, guida::kCampi);
+    return Righe(archive, Table::MeteVandro, mete::kCampi) + Righe(archive, Table::Itinerari, itinerari::kCampi) +
+           Righe(archive, Table::GuidaCitta, guida::kCampi);
 }
 
 /// Adds a row whose remaining fields are one blank each.
-inline void Inserisci(Archive& archive, Tabella tabella, std::vector<QString> valori) {
-    valori.resize(Definizione(tabella).campi.size(), QStringLiteral(" "));
+inline void Inserisci(Archive& archive, Table tabella, std::vector<QString> valori) {
+    valori.resize(Definition(tabella).fields.size(), QStringLiteral(" "));
     archive.Insert(tabella, valori);
 }
 

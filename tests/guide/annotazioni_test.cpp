@@ -14,13 +14,13 @@ using namespace Qt::StringLiterals;
 class AnnotazioniTest : public ::testing::Test {
   protected:
     void Aggiungi(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        archive_.Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"1"_s});
+        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"1"_s});
     }
     /// The whole guide, in the order in which its entries were added.
     QString Guida() {
         QStringList voci;
-        for (const Record& r : archive_.Select({Tabella::GuidaCitta, {}}))
-            voci += QStringList(r.valori.begin(), r.valori.end()).join(u'|');
+        for (const Record& r : archive_.Select({Table::GuidaCitta, {}}))
+            voci += QStringList(r.values.begin(), r.values.end()).join(u'|');
         return voci.join(u'\n');
     }
     /// The entry with that place in the list of a locality.

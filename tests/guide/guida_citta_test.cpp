@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 class GuidaTest : public ::testing::Test {
   protected:
     void Aggiungi(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        archive_.Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
+        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
     }
 
     prova::CartellaDiProva cartella_;
@@ -30,11 +30,11 @@ TEST_F(GuidaTest, AnArchiveWithoutTypesHasTheNineStandardOnes) {
     EXPECT_EQ(tipi.join(u", "_s),
               u"01 Ottimo!, 02 Da vedere!, 03 Interessante!, 04 Vedibile!, 05 Punto Sosta, 06 PS e CS, 07 Campeggio, "
               "08 Ristorante, 09 Gpl"_s);
-    EXPECT_EQ(archive_.Count(Tabella::TipoGuida), 0);  // who reads does not write
+    EXPECT_EQ(archive_.Count(Table::TipoGuida), 0);  // who reads does not write
     CompletaTipiGuida(archive_);
     CompletaTipiGuida(archive_);
-    EXPECT_EQ(archive_.Count(Tabella::TipoGuida), 9);
-    archive_.Delete(Tabella::TipoGuida, 1);
+    EXPECT_EQ(archive_.Count(Table::TipoGuida), 9);
+    archive_.Delete(Table::TipoGuida, 1);
     EXPECT_EQ(CaricaTipiGuida(archive_).size(), 8U);  // types of one's own stay alone
 }
 

@@ -18,7 +18,7 @@ using prova::Testo;
 class ItinerariTest : public ::testing::Test {
   protected:
     void Aggiungi(const QString& localita, const QString& tempo) {
-        archive_.Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, u"Duomo"_s, tempo, u"0"_s});
+        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, u"Duomo"_s, tempo, u"0"_s});
     }
     EsitoMemorizzazione Memorizza(const RigheItinerario& tappe) {
         return MemorizzaTappeItinerario(archive_, u"000001"_s, tappe, {}, progresso_);

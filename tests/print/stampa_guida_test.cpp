@@ -25,7 +25,7 @@ DatiStampaGuida Nomi(int numero) {
 class StampaGuidaTest : public testing::Test {
   protected:
     void NellaGuida(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        Archivio().Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
+        Archivio().Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
     }
     Archive& Archivio() { return sessione_.Archivio(); }
     DatiStampaGuida Dati(bool tutte, bool dettaglio) {

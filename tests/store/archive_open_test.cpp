@@ -48,9 +48,9 @@ class ArchiveOpen : public ::testing::Test {
         Archive archive = Archive::Open(cartella_.Percorso());
         std::vector<QString> meta(mete::kCampi);
         meta[mete::CodiceMeta] = u"000007"_s;
-        archive.Insert(Tabella::MeteVandro, meta);
+        archive.Insert(Table::MeteVandro, meta);
         for (const QString& localita : {u"Alba"_s, u"L'Aquila"_s}) {
-            archive.Insert(Tabella::GuidaCitta,
+            archive.Insert(Table::GuidaCitta,
                            std::array<QString, 5>{localita, u"01"_s, u"Fontana"_s, u"01:30"_s, u"0"_s});
         }
     }
@@ -58,11 +58,11 @@ class ArchiveOpen : public ::testing::Test {
     QString Copia() { return cartella_.Percorso() + u"/VandroCronovia-copia1.mdb"_s; }
     void AttendiDati(const QString& flagVisto = u"0"_s) {
         Archive archive = Archive::Open(cartella_.Percorso());
-        EXPECT_EQ(archive.SelectFirst({Tabella::MeteVandro, {}}).value()[mete::CodiceMeta], u"000007"_s);
-        EXPECT_EQ(archive.Count(Tabella::GuidaCitta), 2);
-        const auto aquila = archive.SelectFirst({Tabella::GuidaCitta, {{guida::Localita, NamePattern(u"l?AQUILA")}}});
+        EXPECT_EQ(archive.SelectFirst({Table::MeteVandro, {}}).value()[mete::CodiceMeta], u"000007"_s);
+        EXPECT_EQ(archive.Count(Table::GuidaCitta), 2);
+        const auto aquila = archive.SelectFirst({Table::GuidaCitta, {{guida::Localita, NamePattern(u"l?AQUILA")}}});
         ASSERT_TRUE(aquila.has_value());
-        EXPECT_EQ(aquila->valori, (std::vector<QString>{u"L'Aquila"_s, u"01"_s, u"Fontana"_s, u"01:30"_s, flagVisto}));
+        EXPECT_EQ(aquila->values, (std::vector<QString>{u"L'Aquila"_s, u"01"_s, u"Fontana"_s, u"01:30"_s, flagVisto}));
     }
     // Opening must fail with a message that holds `parola` and leave the folder as it was.
     void AttendiRifiuto(const QString& parola) {
@@ -220,8 +220,8 @@ TEST_F(ArchiveOpen, AnArchiveLockedByAnotherProgramIsRefused) {
     AttendiRifiuto(u"in uso da un altro programma"_s);
     altro.exec("ROLLBACK; BEGIN IMMEDIATE");
     Archive archive = Archive::Open(cartella_.Percorso());  // reading goes on beside a writer
-    EXPECT_EQ(archive.Count(Tabella::GuidaCitta), 2);
-    const QString messaggio = prova::MessaggioDi([&] { archive.Delete(Tabella::GuidaCitta, 1); });
+    EXPECT_EQ(archive.Count(Table::GuidaCitta), 2);
+    const QString messaggio = prova::MessaggioDi([&] { archive.Delete(Table::GuidaCitta, 1); });
     EXPECT_TRUE(messaggio.contains(u"in uso da un altro programma"_s)) << messaggio.toStdString();
 }
 

@@ -18,11 +18,11 @@ using namespace Qt::StringLiterals;
 class ArchiveTest : public ::testing::Test {
   protected:
     void Aggiungi(const QString& localita) {
-        archive_.Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, u"Duomo"_s, u"01:00"_s, u"0"_s});
+        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, u"Duomo"_s, u"01:00"_s, u"0"_s});
     }
     QStringList Localita(bool alfabetico = false) {
         QStringList localita;
-        const Ricerca tutte{Tabella::GuidaCitta, {}};
+        const Search tutte{Table::GuidaCitta, {}};
         const auto records = alfabetico ? archive_.Select(tutte, {guida::Localita}) : archive_.Select(tutte);
         for (const Record& record : records) localita += record[guida::Localita];
         return localita;
@@ -34,18 +34,18 @@ class ArchiveTest : public ::testing::Test {
 
 TEST_F(ArchiveTest, ValuesComeBackAsTheyWere) {
     const std::array<QString, 5> valori = {u"L'Île-d'Œuf \"à\"; --"_s, u"09"_s, u"a\0b"_s, u"  :  "_s, u""_s};
-    archive_.Insert(Tabella::GuidaCitta, valori);
-    const Record record = archive_.SelectFirst({Tabella::GuidaCitta, {}}).value();
-    EXPECT_EQ(record.valori, std::vector<QString>(valori.begin(), valori.end()));
+    archive_.Insert(Table::GuidaCitta, valori);
+    const Record record = archive_.SelectFirst({Table::GuidaCitta, {}}).value();
+    EXPECT_EQ(record.values, std::vector<QString>(valori.begin(), valori.end()));
 }
 
 TEST_F(ArchiveTest, UpdateAndDeleteTouchOneRow) {
     for (const QString& nome : {u"Alba"_s, u"Bra"_s, u"Cuneo"_s}) Aggiungi(nome);
-    Record bra = archive_.SelectFirst({Tabella::GuidaCitta, {{guida::Localita, NamePattern(u"bra")}}}).value();
+    Record bra = archive_.SelectFirst({Table::GuidaCitta, {{guida::Localita, NamePattern(u"bra")}}}).value();
     bra[guida::Localita] = u"Dronero"_s;
-    archive_.Update(Tabella::GuidaCitta, bra);
+    archive_.Update(Table::GuidaCitta, bra);
     EXPECT_EQ(Localita(), (QStringList{u"Alba"_s, u"Dronero"_s, u"Cuneo"_s}));
-    archive_.Delete(Tabella::GuidaCitta, bra.id);
+    archive_.Delete(Table::GuidaCitta, bra.id);
     EXPECT_EQ(Localita(), (QStringList{u"Alba"_s, u"Cuneo"_s}));
 }
 
@@ -61,14 +61,14 @@ TEST_F(ArchiveTest, ATransactionHappensWholeOrNotAtAll) {
     {
         const Transaction transaction(archive_);
         Aggiungi(u"Bra"_s);
-        archive_.Delete(Tabella::GuidaCitta, 1);
+        archive_.Delete(Table::GuidaCitta, 1);
         EXPECT_EQ(Localita(), QStringList{u"Bra"_s});
     }
     EXPECT_EQ(Localita(), QStringList{u"Alba"_s});
     Transaction transaction(archive_);
     Aggiungi(u"Bra"_s);
     transaction.Commit();
-    EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Tabella::GuidaCitta), 2);
+    EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Table::GuidaCitta), 2);
 }
 
 // Another program, which writes as soon as it may.
@@ -77,7 +77,7 @@ class Altro {
     explicit Altro(const QString& cartella)
         : filo_([this, cartella] {
               try {
-                  Archive::Open(cartella).Delete(Tabella::GuidaCitta, 1);
+                  Archive::Open(cartella).Delete(Table::GuidaCitta, 1);
                   scritto_ = true;
               } catch (const Failure&) {
               }
@@ -102,7 +102,7 @@ TEST_F(ArchiveTest, ReadingsTogetherSeeOneMomentAndAWriterWaitsForTheirEnd) {
     std::optional<Altro> altro;
     {
         const ReadSnapshot momento(archive_);
-        EXPECT_EQ(archive_.Count(Tabella::GuidaCitta), 2);
+        EXPECT_EQ(archive_.Count(Table::GuidaCitta), 2);
         altro.emplace(cartella_.Percorso());
         { const ReadSnapshot dentro(archive_); }  // part of the outer one, which goes on
         EXPECT_FALSE(altro->HaScritto());
@@ -148,13 +148,13 @@ class ProgressoAnnotato : public Progress {
 TEST_F(ArchiveTest, DeletingByPatternTellsItsProgress) {
     for (const QString& nome : {u"SANT'ANNA"_s, u"Sant anna"_s, u"SANTANNA"_s, u"Alba"_s}) Aggiungi(nome);
     ProgressoAnnotato progresso;
-    const Condizione sant{guida::Localita, NamePattern(u"SANT?ANNA")};
-    EXPECT_EQ(archive_.CancellaTabella(Tabella::GuidaCitta, sant, progresso), 2);
+    const Condition sant{guida::Localita, NamePattern(u"SANT?ANNA")};
+    EXPECT_EQ(archive_.DeleteMatching(Table::GuidaCitta, sant, progresso), 2);
     EXPECT_EQ(Localita(), (QStringList{u"SANTANNA"_s, u"Alba"_s}));
     EXPECT_EQ(progresso.titolo, u"Cancellazione tabella GuidaCitta"_s);
     EXPECT_EQ(progresso.percentuali, (std::vector<double>{50, 100}));
-    EXPECT_EQ(archive_.CancellaTabella(Tabella::GuidaCitta, std::nullopt, progresso), 2);
-    EXPECT_EQ(archive_.Count(Tabella::GuidaCitta), 0);
+    EXPECT_EQ(archive_.DeleteMatching(Table::GuidaCitta, std::nullopt, progresso), 2);
+    EXPECT_EQ(archive_.Count(Table::GuidaCitta), 0);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 void AggiungiVoce(Archive& archive, const QString& localita, const QString& descrizione) {
-    archive.Insert(Tabella::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, descrizione, u"01:00"_s, u"0"_s});
+    archive.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, descrizione, u"01:00"_s, u"0"_s});
 }
 
 // Names and patterns out of few letters that are hard to compare: both cases, accents, letters with three forms,
@@ -66,10 +66,10 @@ TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
     Transaction transaction(archive);
     for (const QString& nome : nomi) AggiungiVoce(archive, nome, nome);
     transaction.Commit();
-    std::vector<Record> tutti = archive.Select({Tabella::GuidaCitta, {}});
+    std::vector<Record> tutti = archive.Select({Table::GuidaCitta, {}});
     ASSERT_EQ(tutti.size(), nomi.size());
 
-    NameIndex indice(archive, Tabella::GuidaCitta, {guida::Localita});
+    NameIndex indice(archive, Table::GuidaCitta, {guida::Localita});
     std::size_t trovati = 0;
     for (int giro = 0; giro < 1500; ++giro) {
         const QString testo = generatore.Modello(nomi.at(static_cast<std::size_t>(generatore.Numero(300))));
@@ -78,7 +78,7 @@ TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
         for (const Record& record : tutti) {
             if (modello.Matches(record[guida::Localita])) attesi.insert(record.id);
         }
-        const std::vector<Record> risultato = archive.Select({Tabella::GuidaCitta, {{guida::Localita, modello}}});
+        const std::vector<Record> risultato = archive.Select({Table::GuidaCitta, {{guida::Localita, modello}}});
         ASSERT_EQ(Id(risultato), attesi) << testo.toStdString();
         ASSERT_EQ(risultato.size(), attesi.size()) << "a row came twice: " << testo.toStdString();
         const auto uno = indice.Find(modello);
@@ -122,7 +122,7 @@ TEST(Search, ALiteralBeginningUsesTheIndex) {
     const auto cerca = [&](const QString& modello) {
         ContaRigheSenzaIndice::Preleva();
         const std::size_t trovati =
-            archive.Select({Tabella::GuidaCitta, {{guida::Localita, NamePattern(modello)}}}).size();
+            archive.Select({Table::GuidaCitta, {{guida::Localita, NamePattern(modello)}}}).size();
         return std::pair(trovati, ContaRigheSenzaIndice::Preleva());
     };
     using Esito = std::pair<std::size_t, int>;

@@ -21,8 +21,8 @@ class MeteTest : public ::testing::Test {
         return InserisciMeta(archive_, meta);
     }
     void Cancella(const QString& codice) {
-        const Condizione condizione{mete::CodiceMeta, NamePattern::Exactly(codice)};
-        archive_.CancellaTabella(Tabella::MeteVandro, condizione, progresso_);
+        const Condition condizione{mete::CodiceMeta, NamePattern::Exactly(codice)};
+        archive_.DeleteMatching(Table::MeteVandro, condizione, progresso_);
     }
 
     prova::CartellaDiProva cartella_;
@@ -71,14 +71,14 @@ TEST_F(MeteTest, WhatCannotBeSavedChangesNothing) {
     EXPECT_EQ(prova::MessaggioDi([&] { Inserisci(u"  "_s); }), u"Campo Località: obbligatorio!"_s);
     EXPECT_EQ(prova::MessaggioDi([&] { Inserisci(u"ROMA"_s, u" "_s); }), u"Campo Nazione: obbligatorio!"_s);
     EXPECT_TRUE(prova::MessaggioDi([&] { Inserisci(QString(31, u'X')); }).contains(u"troppo lungo"_s));
-    EXPECT_EQ(archive_.Count(Tabella::MeteVandro), 0);
-    EXPECT_EQ(archive_.Count(Tabella::MetaCorrente), 0);
+    EXPECT_EQ(archive_.Count(Table::MeteVandro), 0);
+    EXPECT_EQ(archive_.Count(Table::MetaCorrente), 0);
 }
 
 TEST_F(MeteTest, PersonalDefaultsAreKeptAndCanBeReset) {
     const ParametriViaggio standard;
     EXPECT_EQ(CaricaDefaultMeta(archive_), standard);
-    EXPECT_EQ(archive_.Count(Tabella::Parametri), 0);  // who reads does not write
+    EXPECT_EQ(archive_.Count(Table::Parametri), 0);  // who reads does not write
     ParametriViaggio personali;
     personali.mediaKm = {100, 80, 60, 40};
     personali.oraNotte = 2400_cent;
@@ -88,7 +88,7 @@ TEST_F(MeteTest, PersonalDefaultsAreKeptAndCanBeReset) {
     EXPECT_EQ(CaricaDefaultMeta(archive_), personali);
     EXPECT_EQ(RipristinaDefaultMeta(archive_), standard);
     EXPECT_EQ(CaricaDefaultMeta(archive_), standard);
-    EXPECT_EQ(archive_.Count(Tabella::Parametri), 1);
+    EXPECT_EQ(archive_.Count(Table::Parametri), 1);
 }
 
 }  // namespace

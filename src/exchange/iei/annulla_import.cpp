@@ -18,7 +18,7 @@ void AnnullaImport(Archive& archive, const TracciaImport& traccia) {
 }
 
 OsservaAggiunte::OsservaAggiunte(Archive& archive) : archive_(archive) {
-    for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
+    for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta}) {
         const std::int64_t ultima = archive.LastId(tabella);
         traccia_.aggiunte.push_back({tabella, ultima, ultima});
     }

@@ -11,7 +11,7 @@ namespace cronovia {
 /// What an import added, which is all that it changed, and how the archive looked right after it.
 struct TracciaImport {
     struct Righe {
-        Tabella tabella = Tabella::MeteVandro;
+        Table tabella = Table::MeteVandro;
         std::int64_t dopo = 0;  ///< the rows have greater ids than this
         std::int64_t ultima = 0;
     };

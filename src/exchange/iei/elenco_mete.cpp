@@ -30,7 +30,7 @@ void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, 
     while (lettore.Leggi(riga)) {
         if (MetaImportabile(riga)) visita(riga);
     }
-    if (!lettore.Conosce(Tabella::MeteVandro)) {
+    if (!lettore.Conosce(Table::MeteVandro)) {
         throw Failure(u"Il file %1 non è un file di scambio: non contiene la sezione delle mète."_s.arg(
             QDir::toNativeSeparators(path)));
     }
@@ -38,18 +38,18 @@ void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, 
 
 std::vector<MetaNelFile> LeggiElencoMete(const QString& path, Progress& progress) {
     const std::unique_ptr<QFile> file = ApriInLettura(path);
-    const std::vector<Campo>& campi = Definizione(Tabella::MeteVandro).campi;
+    const std::vector<FieldDefinition>& campi = Definition(Table::MeteVandro).fields;
     std::vector<MetaNelFile> elenco;
     QSet<QString> codici;
     progress.Title(u"Esportazione mète"_s);
-    const Lettura lettura{Tabella::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s,
+    const Lettura lettura{Table::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s,
                           u"Lettura delle mète interrotta."_s};
     ScorriMete(*file, path, lettura, progress, [&](const RigaIei& riga) {
         const QString& codice = riga.valori[mete::CodiceMeta];
         if (codici.contains(codice)) return;
         codici.insert(codice);
-        elenco.push_back({codice, riga.valori[mete::Localita].left(campi[mete::Localita].larghezza),
-                          riga.valori[mete::Nazione].left(campi[mete::Nazione].larghezza)});
+        elenco.push_back({codice, riga.valori[mete::Localita].left(campi[mete::Localita].width),
+                          riga.valori[mete::Nazione].left(campi[mete::Nazione].width)});
     });
     progress.Advance(0, 0);
     return elenco;

@@ -29,10 +29,10 @@ QString Differenze(const EsitoImport& esito) {
         if (quanti > 0) righe += cosa + u": "_s + Raggruppa(quanti);
     };
     for (const auto& [campo, quanti] : esito.accorciati) {
-        const DefinizioneTabella& tabella = Definizione(campo.first);
-        const Campo& nome = tabella.campi.at(static_cast<std::size_t>(campo.second));
-        conta(u"valori accorciati alla larghezza %1 del campo %2 di %3"_s.arg(QString::number(nome.larghezza),
-                                                                              nome.nome, tabella.nome),
+        const TableDefinition& tabella = Definition(campo.first);
+        const FieldDefinition& definizione = tabella.fields.at(static_cast<std::size_t>(campo.second));
+        conta(u"valori accorciati alla larghezza %1 del campo %2 di %3"_s.arg(QString::number(definizione.width),
+                                                                              definizione.name, tabella.name),
               quanti);
     }
     conta(

@@ -33,13 +33,13 @@ class ScrittoreIei {
   public:
     explicit ScrittoreIei(const QString& path) : file_(path) {}
 
-    void Intestazione(Tabella tabella) {
-        for (const Campo& campo : Definizione(tabella).campi) Valore(tabella, campo.nome);
+    void Intestazione(Table tabella) {
+        for (const FieldDefinition& campo : Definition(tabella).fields) Valore(tabella, campo.name);
         FineRiga();
     }
 
-    void Riga(Tabella tabella, const Record& record) {
-        for (const QString& valore : record.valori) Valore(tabella, valore);
+    void Riga(Table tabella, const Record& record) {
+        for (const QString& valore : record.values) Valore(tabella, valore);
         FineRiga();
     }
 
@@ -50,7 +50,7 @@ class ScrittoreIei {
     }
 
   private:
-    void Valore(Tabella tabella, QStringView valore) {
+    void Valore(Table tabella, QStringView valore) {
         const TestoCodificato testo = InWindows1252(SenzaBlank(valore), vietati_);
         sostituiti_ += testo.sostituiti;
         riga_ += testo.byte;
@@ -69,7 +69,7 @@ class ScrittoreIei {
     qint64 sostituiti_ = 0;
 };
 
-Ricerca PerCodice(Tabella tabella, const QString& codice) { return {tabella, {{0, NamePattern::Exactly(codice)}}}; }
+Search PerCodice(Table tabella, const QString& codice) { return {tabella, {{0, NamePattern::Exactly(codice)}}}; }
 
 std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     std::vector<QString> codici;
@@ -79,7 +79,7 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
         presi.insert(codice);
     };
     for (const QString& codice : richiesta.codici) {
-        const bool esiste = richiesta.archive.Exists(PerCodice(Tabella::MeteVandro, codice));
+        const bool esiste = richiesta.archive.Exists(PerCodice(Table::MeteVandro, codice));
         if (!esiste && richiesta.saltaMancanti) continue;
         if (!esiste) {
             throw Failure(u"Non c'è nessuna mèta con il codice %1: niente è stato esportato."_s.arg(codice));
@@ -90,7 +90,7 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     if (!richiesta.codici.empty()) {
         throw Failure(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
     }
-    for (const Record& record : richiesta.archive.Select({Tabella::MeteVandro, {}}, {mete::Localita})) {
+    for (const Record& record : richiesta.archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
         aggiungi(record[mete::CodiceMeta]);
     }
     if (codici.empty()) throw Failure(u"Non ci sono mète da esportare: niente è stato esportato."_s);
@@ -102,7 +102,7 @@ void RispettaStop(Progress& progress) {
 }
 
 // One of the two sections that go trip after trip; returns its records.
-qint64 ScriviSezione(Archive& archive, Tabella tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
+qint64 ScriviSezione(Archive& archive, Table tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
                      Progress& progress) {
     scrittore.Intestazione(tabella);
     qint64 scritti = 0;
@@ -113,19 +113,19 @@ qint64 ScriviSezione(Archive& archive, Tabella tabella, const std::vector<QStrin
         for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
             scrittore.Riga(tabella, record);
             ++scritti;
-            if (tabella == Tabella::MeteVandro) break;
+            if (tabella == Table::MeteVandro) break;
         }
     }
     return scritti;
 }
 
 qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress) {
-    const auto totale = static_cast<double>(archive.Count(Tabella::GuidaCitta));
+    const auto totale = static_cast<double>(archive.Count(Table::GuidaCitta));
     qint64 scritti = 0;
-    archive.ForEach(Tabella::GuidaCitta, [&](const Record& record) {
+    archive.ForEach(Table::GuidaCitta, [&](const Record& record) {
         RispettaStop(progress);
-        if (scritti == 0) scrittore.Intestazione(Tabella::GuidaCitta);
-        scrittore.Riga(Tabella::GuidaCitta, record);
+        if (scritti == 0) scrittore.Intestazione(Table::GuidaCitta);
+        scrittore.Riga(Table::GuidaCitta, record);
         progress.Advance(static_cast<double>(++scritti), totale);
     });
     return scritti;
@@ -140,9 +140,9 @@ EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
     ScrittoreIei scrittore(richiesta.path);
     EsitoExport esito{richiesta.path};
     progress.Title(u"Esportazione mète"_s);
-    esito.mete = ScriviSezione(richiesta.archive, Tabella::MeteVandro, codici, scrittore, progress);
+    esito.mete = ScriviSezione(richiesta.archive, Table::MeteVandro, codici, scrittore, progress);
     progress.Title(u"Esportazione itinerari"_s);
-    esito.tappe = ScriviSezione(richiesta.archive, Tabella::Itinerari, codici, scrittore, progress);
+    esito.tappe = ScriviSezione(richiesta.archive, Table::Itinerari, codici, scrittore, progress);
     progress.Title(u"Esportazione guida città"_s);
     esito.voci = ScriviGuida(richiesta.archive, scrittore, progress);
     esito.caratteriSostituiti = scrittore.Chiudi();

@@ -19,22 +19,22 @@ namespace {
 
 constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
 
-QString Adattato(const QString& valore, const Campo& campo) { return valore.left(campo.larghezza); }
+QString Adattato(const QString& valore, const FieldDefinition& campo) { return valore.left(campo.width); }
 
 class Importatore {
   public:
     Importatore(Archive& archive, MappaCodici& codici)
         : archive_(archive),
           codici_(codici),
-          mete_(archive, Tabella::MeteVandro, {mete::Localita}),
-          tappe_(archive, Tabella::Itinerari, {itinerari::Localita}),
-          guida_(archive, Tabella::GuidaCitta, {guida::Localita, guida::Descrizione}) {}
+          mete_(archive, Table::MeteVandro, {mete::Localita}),
+          tappe_(archive, Table::Itinerari, {itinerari::Localita}),
+          guida_(archive, Table::GuidaCitta, {guida::Localita, guida::Descrizione}) {}
 
     void Importa(RigaIei& riga) {
         switch (riga.tabella) {
-            case Tabella::MeteVandro:
+            case Table::MeteVandro:
                 return ImportaMeta(riga);
-            case Tabella::Itinerari:
+            case Table::Itinerari:
                 return ImportaTappa(riga);
             default:
                 return ImportaVoce(riga);
@@ -70,7 +70,7 @@ void Importatore::ImportaMeta(RigaIei& riga) {
         ++esito_.codiciRipetuti;
         return;
     }
-    const Campo& campo = Definizione(Tabella::MeteVandro).campi[mete::Localita];
+    const FieldDefinition& campo = Definition(Table::MeteVandro).fields[mete::Localita];
     const QString localita = Adattato(riga.valori[mete::Localita], campo);
     if (mete_.Trova({}, localita)) {
         meta->stato = StatoMeta::Scartata;
@@ -94,7 +94,7 @@ void Importatore::ImportaTappa(RigaIei& riga) {
 }
 
 void Importatore::ImportaVoce(RigaIei& riga) {
-    const std::vector<Campo>& campi = Definizione(Tabella::GuidaCitta).campi;
+    const std::vector<FieldDefinition>& campi = Definition(Table::GuidaCitta).fields;
     const QString localita = Adattato(riga.valori[guida::Localita], campi[guida::Localita]);
     if (!HaTappe(localita)) return;
     const QString memorizzata = localita.isEmpty() ? u" "_s : localita;
@@ -118,19 +118,19 @@ bool Importatore::HaTappe(const QString& localita) {
 
 // The code, which only trips and stages have, is the first field of their tables.
 void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti) {
-    const std::vector<Campo>& campi = Definizione(riga.tabella).campi;
+    const std::vector<FieldDefinition>& campi = Definition(riga.tabella).fields;
     if (!codiceMeta.isEmpty()) riga.valori.front() = codiceMeta;
     for (std::size_t i = 0; i < campi.size(); ++i) {
         QString& valore = riga.valori[i];
         if (valore.isEmpty()) valore = u" "_s;
-        if (valore.size() <= campi[i].larghezza) continue;
-        valore.truncate(campi[i].larghezza);
+        if (valore.size() <= campi[i].width) continue;
+        valore.truncate(campi[i].width);
         ++esito_.accorciati[{riga.tabella, static_cast<int>(i)}];
     }
     presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
 }
 
-Lettura LetturaPerImport(std::optional<Tabella> solo) {
+Lettura LetturaPerImport(std::optional<Table> solo) {
     return {solo, u"Importazione "_s, {}, u"Importazione interrotta: niente è stato inserito."_s};
 }
 
@@ -158,7 +158,7 @@ EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
 EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
     MappaCodici codici;
     progress.Title(u"Importazione mète"_s);
-    ScorriMete(device, richiesta.path, LetturaPerImport(Tabella::MeteVandro), progress,
+    ScorriMete(device, richiesta.path, LetturaPerImport(Table::MeteVandro), progress,
                [&](const RigaIei& riga) { codici.Aggiungi(riga.valori[mete::CodiceMeta]); });
     Transaction transaction(richiesta.archive);
     codici.Scegli(richiesta.codici, richiesta.archive);

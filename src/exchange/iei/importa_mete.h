@@ -30,8 +30,8 @@ struct EsitoImport {
     qint64 meteScartate = 0;  ///< their destination was stored already; their stages are left out too
     qint64 vociScartate = 0;  ///< were stored already
 
-    std::map<std::pair<Tabella, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
-    qint64 codiciRipetuti = 0;                             ///< trips with the code of one before them
+    std::map<std::pair<Table, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
+    qint64 codiciRipetuti = 0;                           ///< trips with the code of one before them
     qint64 meteIncomplete = 0;  ///< trips without destination, or without a code of at most 20 characters
     qint64 tappeSenzaMeta = 0;  ///< stages of no trip of the file
     ScartiLettura lettura;

@@ -10,21 +10,22 @@ namespace cronovia {
 
 namespace {
 
-constexpr std::array<Tabella, 3> kSezioni = {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta};
+constexpr std::array<Table, 3> kSezioni = {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta};
 
 // Some editors put it at the start of whatever they save.
 constexpr QByteArrayView kSegnoUtf8 = "\xEF\xBB\xBF";
 
-std::size_t Numero(Tabella tabella) { return static_cast<std::size_t>(tabella) - 1; }
+std::size_t Numero(Table tabella) { return static_cast<std::size_t>(tabella) - 1; }
 
 // Empty when no column is named as a field. Of two columns of the same name the first one counts.
-std::vector<int> MappaDelleColonne(Tabella tabella, const Colonne& colonne) {
-    const std::vector<Campo>& campi = Definizione(tabella).campi;
+std::vector<int> MappaDelleColonne(Table tabella, const Colonne& colonne) {
+    const std::vector<FieldDefinition>& campi = Definition(tabella).fields;
     std::vector<int> mappa;
     bool qualcuno = false;
     for (const QByteArrayView nome : colonne.valori) {
         const QString testo = DaWindows1252(nome);
-        const auto campo = std::find_if(campi.begin(), campi.end(), [&](const Campo& c) { return c.nome == testo; });
+        const auto campo =
+            std::find_if(campi.begin(), campi.end(), [&](const FieldDefinition& c) { return c.name == testo; });
         const int posto = campo == campi.end() ? -1 : static_cast<int>(campo - campi.begin());
         const bool nuovo = posto >= 0 && std::find(mappa.begin(), mappa.end(), posto) == mappa.end();
         mappa.push_back(nuovo ? posto : -1);
@@ -59,16 +60,16 @@ bool LettoreIei::Leggi(RigaIei& riga) {
     return false;
 }
 
-const LettoreIei::MappaColonne& LettoreIei::Mappa(Tabella tabella) const { return mappe_.at(Numero(tabella)); }
+const LettoreIei::MappaColonne& LettoreIei::Mappa(Table tabella) const { return mappe_.at(Numero(tabella)); }
 
 // A line with the bytes of several sections belongs to the last of them, one without any to the section before it.
 bool LettoreIei::CambiaSezione(QByteArrayView testo) {
-    const std::optional<Tabella> prima = sezione_;
-    for (const Tabella tabella : kSezioni) {
+    const std::optional<Table> prima = sezione_;
+    for (const Table tabella : kSezioni) {
         if (testo.contains(SeparatoreSezione(tabella))) sezione_ = tabella;
     }
     if (sezione_ == prima) return false;
-    progress_.Title(lettura_.titoloPrima + Definizione(*sezione_).nome + lettura_.titoloDopo);
+    progress_.Title(lettura_.titoloPrima + Definition(*sezione_).name + lettura_.titoloDopo);
     return true;
 }
 
@@ -98,7 +99,7 @@ bool LettoreIei::Prendi(QByteArrayView testo, bool inizioSezione, RigaIei& riga)
 void LettoreIei::Riempi(const Colonne& colonne, RigaIei& riga) {
     const MappaColonne& mappa = Mappa(*sezione_);
     riga.tabella = *sezione_;
-    riga.valori.assign(Definizione(*sezione_).campi.size(), QString());
+    riga.valori.assign(Definition(*sezione_).fields.size(), QString());
     const std::size_t comuni = std::min(mappa.size(), colonne.valori.size());
     for (std::size_t i = 0; i < comuni; ++i) {
         if (mappa[i] >= 0) riga.valori[static_cast<std::size_t>(mappa[i])] = DaWindows1252(colonne.valori[i]);

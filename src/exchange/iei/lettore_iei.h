@@ -16,11 +16,11 @@
 namespace cronovia {
 
 /// The separator of a section, which is numbered as its table: FF trips, FE stages, FD guide.
-constexpr char SeparatoreSezione(Tabella tabella) { return static_cast<char>(0x100 - static_cast<int>(tabella)); }
+constexpr char SeparatoreSezione(Table tabella) { return static_cast<char>(0x100 - static_cast<int>(tabella)); }
 
 /// One record of an exchange file.
 struct RigaIei {
-    Tabella tabella = Tabella::MeteVandro;
+    Table tabella = Table::MeteVandro;
     std::vector<QString> valori;  ///< in the order of the table's fields; empty where the file has none
 };
 
@@ -36,8 +36,8 @@ struct ScartiLettura {
 
 /// What a reading is about.
 struct Lettura {
-    std::optional<Tabella> solo;  ///< the only section to read; nothing for all of them
-    QString titoloPrima;          ///< the title of the progress is this, the table's name and the next text
+    std::optional<Table> solo;  ///< the only section to read; nothing for all of them
+    QString titoloPrima;        ///< the title of the progress is this, the table's name and the next text
     QString titoloDopo;
     QString interrotta = {};  ///< the message when the person wants it to stop
 };
@@ -51,13 +51,13 @@ class LettoreIei {
     bool Leggi(RigaIei& riga);
 
     /// Whether the field names of the section were met.
-    [[nodiscard]] bool Conosce(Tabella tabella) const { return !Mappa(tabella).empty(); }
+    [[nodiscard]] bool Conosce(Table tabella) const { return !Mappa(tabella).empty(); }
     [[nodiscard]] const ScartiLettura& Scarti() const { return scarti_; }
 
   private:
     using MappaColonne = std::vector<int>;  // position of the field that each column holds, -1 for none
 
-    [[nodiscard]] const MappaColonne& Mappa(Tabella tabella) const;
+    [[nodiscard]] const MappaColonne& Mappa(Table tabella) const;
     bool CambiaSezione(QByteArrayView testo);
     bool Prendi(QByteArrayView testo, bool inizioSezione, RigaIei& riga);
     void Riempi(const Colonne& colonne, RigaIei& riga);
@@ -67,7 +67,7 @@ class LettoreIei {
     Progress& progress_;
     double lunghezza_;
     bool prima_ = true;  // no line was read yet
-    std::optional<Tabella> sezione_;
+    std::optional<Table> sezione_;
     std::array<MappaColonne, 3> mappe_;
     ScartiLettura scarti_;
 };

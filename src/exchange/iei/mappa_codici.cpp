@@ -25,7 +25,7 @@ std::optional<int> NumeroDelCodice(const QString& codice) {
 class CodiciOccupati {
   public:
     explicit CodiciOccupati(Archive& archive) {
-        archive.ForEach(Tabella::MeteVandro, [&](const Record& record) {
+        archive.ForEach(Table::MeteVandro, [&](const Record& record) {
             const std::optional<int> numero = NumeroDelCodice(record[mete::CodiceMeta]);
             if (!numero) return;
             occupati_[static_cast<std::size_t>(*numero)] = true;

@@ -145,13 +145,13 @@ void Convertitore::ConvertiMete(const QString& path) {
 void Convertitore::ConvertiMeta(const RecordFisso& record, const std::vector<QString>& altri) {
     std::vector<QString> valori = ValoriVecchiaMeta(record);
     const QString codice = valori[mete::CodiceMeta];
-    std::optional<Record> gia = archive_.SelectFirst({Tabella::MeteVandro, {{mete::CodiceMeta, Codice(codice)}}});
+    std::optional<Record> gia = archive_.SelectFirst({Table::MeteVandro, {{mete::CodiceMeta, Codice(codice)}}});
     if (gia) {
-        std::copy(valori.begin(), valori.end(), gia->valori.begin());
-        archive_.Update(Tabella::MeteVandro, *gia);
+        std::copy(valori.begin(), valori.end(), gia->values.begin());
+        archive_.Update(Table::MeteVandro, *gia);
     } else {
         valori.insert(valori.end(), altri.begin(), altri.end());
-        archive_.Insert(Tabella::MeteVandro, valori);
+        archive_.Insert(Table::MeteVandro, valori);
     }
     convertite_.insert(codice);
     ++esito_.mete;
@@ -192,18 +192,18 @@ void Convertitore::ConvertiItinerario(const QString& codice, const QString& nome
 
 void Convertitore::MemorizzaTappe(const QString& codice, const std::map<QString, std::vector<QString>>& tappe) {
     QHash<QString, Record> memorizzate;
-    for (const Record& record : archive_.Select({Tabella::Itinerari, {{itinerari::CodiceMeta, Codice(codice)}}})) {
+    for (const Record& record : archive_.Select({Table::Itinerari, {{itinerari::CodiceMeta, Codice(codice)}}})) {
         memorizzate.insert(record[itinerari::Sequenza], record);
     }
     for (const auto& [sequenza, valori] : tappe) {
         const bool gia = memorizzate.contains(sequenza);
         Record record = gia ? memorizzate[sequenza] : Record{0, {codice, sequenza, {}, {}, {}, {}, {}, u" "_s, {}}};
-        std::copy(valori.begin(), valori.end(), record.valori.begin() + itinerari::Localita);
+        std::copy(valori.begin(), valori.end(), record.values.begin() + itinerari::Localita);
         record[itinerari::FineGiorno] = u"0"_s;
         if (gia) {
-            archive_.Update(Tabella::Itinerari, record);
+            archive_.Update(Table::Itinerari, record);
         } else {
-            archive_.Insert(Tabella::Itinerari, record.valori);
+            archive_.Insert(Table::Itinerari, record.values);
         }
         ++esito_.tappe;
     }
@@ -211,7 +211,7 @@ void Convertitore::MemorizzaTappe(const QString& codice, const std::map<QString,
 
 void Convertitore::ConvertiGuida(const QString& path) {
     progress_.Title(u"Conversione file guida città"_s);
-    NomiPresenti presenti(archive_, Tabella::GuidaCitta, {guida::Localita, guida::Descrizione});
+    NomiPresenti presenti(archive_, Table::GuidaCitta, {guida::Localita, guida::Descrizione});
     ScorriRecord(path, FormaVecchiaGuida(), [&](const RecordFisso& record) {
         const StatoRecord stato = StatoVecchiaVoce(record);
         if (stato == StatoRecord::Valido) MemorizzaVoce(ValoriVecchiaVoce(record), presenti);
@@ -223,9 +223,9 @@ void Convertitore::MemorizzaVoce(const std::vector<QString>& valori, NomiPresent
     const std::array localita = {NamePattern::ForName(valori[guida::Localita])};
     std::optional<std::int64_t> id = presenti.Trova(localita, valori[guida::Descrizione].trimmed());
     if (id) {
-        archive_.Update(Tabella::GuidaCitta, {*id, valori});
+        archive_.Update(Table::GuidaCitta, {*id, valori});
     } else {
-        id = archive_.Insert(Tabella::GuidaCitta, valori);
+        id = archive_.Insert(Table::GuidaCitta, valori);
     }
     presenti.Scritta(*id, valori);
     ++esito_.voci;

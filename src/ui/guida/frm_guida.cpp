@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int LarghezzaCampo(guida::Posto posto) { return Definizione(Tabella::GuidaCitta).campi[posto].larghezza; }
+int LarghezzaCampo(guida::Field campo) { return Width(Table::GuidaCitta, campo); }
 
 }  // namespace
 

@@ -33,12 +33,12 @@ class Export : public ::testing::Test {
         return MessaggioDi([&] { Esporta(codici, sovrascrivi); });
     }
     void TreMete() {
-        Inserisci(archive_, Tabella::MeteVandro, {u"000002"_s, u"Zara"_s, u"HR"_s});
-        Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"Évora"_s, u"P"_s});
-        Inserisci(archive_, Tabella::MeteVandro, {u"000005"_s, u"Lugo"_s, u"E"_s});
-        Inserisci(archive_, Tabella::Itinerari, {u"000005"_s, u"0002"_s, u"Ourense"_s});
-        Inserisci(archive_, Tabella::Itinerari, {u"000001"_s, u"0001"_s, u"Elvas"_s});
-        Inserisci(archive_, Tabella::Itinerari, {u"000005"_s, u"0001"_s, u"Nizza"_s, u"210"_s});
+        Inserisci(archive_, Table::MeteVandro, {u"000002"_s, u"Zara"_s, u"HR"_s});
+        Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"Évora"_s, u"P"_s});
+        Inserisci(archive_, Table::MeteVandro, {u"000005"_s, u"Lugo"_s, u"E"_s});
+        Inserisci(archive_, Table::Itinerari, {u"000005"_s, u"0002"_s, u"Ourense"_s});
+        Inserisci(archive_, Table::Itinerari, {u"000001"_s, u"0001"_s, u"Elvas"_s});
+        Inserisci(archive_, Table::Itinerari, {u"000005"_s, u"0001"_s, u"Nizza"_s, u"210"_s});
     }
 
     prova::CartellaDiProva cartella_;
@@ -62,7 +62,7 @@ TEST_F(Export, WritesAllTripsByNameAndStagesAsTheyAreStored) {
 
 TEST_F(Export, WritesTheNamedTripsInTheirOrderAndTheWholeGuide) {
     TreMete();
-    Inserisci(archive_, Tabella::GuidaCitta, {u"Altrove"_s, u"01"_s, u"  Museo  "_s, u"01:30"_s, u"0"_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"Altrove"_s, u"01"_s, u"  Museo  "_s, u"01:30"_s, u"0"_s});
     EXPECT_EQ(Esporta({u"000002"_s, u"000001"_s, u"000002"_s}).voci, 1);
     EXPECT_EQ(LeggiFile(file_),
               prova::Sezione('\xFF', kCampiMete + MetaVuota("000002|Zara|HR") + MetaVuota("000001|\xC9vora|P")) +
@@ -71,7 +71,7 @@ TEST_F(Export, WritesTheNamedTripsInTheirOrderAndTheWholeGuide) {
 }
 
 TEST_F(Export, SendsWhatTheFileCannotHoldAsAnotherLetter) {
-    Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"Čakovec ÿ þ ý “bar”"_s, u"Ł\"i\n–\u4E2D"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"Čakovec ÿ þ ý “bar”"_s, u"Ł\"i\n–\u4E2D"_s});
     const EsitoExport esito = Esporta();
     EXPECT_THAT(LeggiFile(file_).toStdString(), ::testing::HasSubstr("\xFF"
                                                                      "Cakovec y t y \x93"
@@ -84,10 +84,9 @@ TEST_F(Export, SendsWhatTheFileCannotHoldAsAnotherLetter) {
 
 TEST_F(Export, IntoAnEmptyFolderAndBackGivesTheSameRows) {
     TreMete();
-    Inserisci(archive_, Tabella::Itinerari,
+    Inserisci(archive_, Table::Itinerari,
               {u"000005"_s, u"0001"_s, u"L'Hospitalet, [B] #2; ok!"_s, u"999"_s, u"A7\tE15"_s, u"A"_s, u"01:02:03"_s});
-    Inserisci(archive_, Tabella::GuidaCitta,
-              {u"Elvas"_s, u"05"_s, u"Praça – 10 € a notte, «sì»"_s, u"00:00"_s, u"1"_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"Elvas"_s, u"05"_s, u"Praça – 10 € a notte, «sì»"_s, u"00:00"_s, u"1"_s});
     Esporta({u"000002"_s, u"000001"_s, u"000005"_s});
 
     const prova::CartellaDiProva altra;

@@ -21,17 +21,17 @@ using ::testing::ElementsAre;
 
 class Import : public ::testing::Test {
   protected:
-    QStringList LeMete() { return Righe(archive_, Tabella::MeteVandro); }
-    QStringList LeTappe() { return Righe(archive_, Tabella::Itinerari); }
-    QStringList LaGuida() { return Righe(archive_, Tabella::GuidaCitta); }
+    QStringList LeMete() { return Righe(archive_, Table::MeteVandro); }
+    QStringList LeTappe() { return Righe(archive_, Table::Itinerari); }
+    QStringList LaGuida() { return Righe(archive_, Table::GuidaCitta); }
 
     prova::CartellaDiProva cartella_;
     Archive archive_ = Archive::Open(cartella_.Percorso());
 };
 
 TEST_F(Import, NewCodesClashNeitherWithStoredNorWithKeptOnes) {
-    Inserisci(archive_, Tabella::MeteVandro, {u"000003"_s, u"Alba"_s});
-    Inserisci(archive_, Tabella::MeteVandro, {u"000007"_s, u"Bari"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000003"_s, u"Alba"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000007"_s, u"Bari"_s});
     Importa(archive_,
             Mete("000003|Como|I\n000008|Dolo|I\n12|Este|I\n") + Tappe("000003|0001|x\n000008|0001|y\n12|0001|z\n"));
     EXPECT_THAT(LeMete(), ElementsAre(u"000003|Alba| "_s, u"000007|Bari| "_s, u"000009|Como|I"_s, u"000008|Dolo|I"_s,
@@ -40,7 +40,7 @@ TEST_F(Import, NewCodesClashNeitherWithStoredNorWithKeptOnes) {
 }
 
 TEST_F(Import, ATripWithAStoredDestinationStaysOutWithItsStages) {
-    Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"Sant\"Anna"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"Sant\"Anna"_s});
     const EsitoImport esito = Importa(archive_, Mete("000001|SANT'ANNA|I\n000002|Pisa|I\n000003|pisa|I\n") +
                                                     Tappe("000001|0001|a\n000002|0001|b\n000003|0001|c\n"));
     EXPECT_THAT(LeMete(), ElementsAre(u"000001|Sant\"Anna| "_s, u"000002|Pisa|I"_s));
@@ -53,10 +53,10 @@ TEST_F(Import, ATripWithAStoredDestinationStaysOutWithItsStages) {
 }
 
 TEST_F(Import, GuideEntriesNeedAStageAndANewDescription) {
-    Inserisci(archive_, Tabella::Itinerari, {u"000009"_s, u"0001"_s, u"L'Aquila"_s});
-    Inserisci(archive_, Tabella::GuidaCitta, {u"L'Aquila"_s, u"01"_s, u"Fontana delle 99 cannelle"_s});
-    Inserisci(archive_, Tabella::GuidaCitta, {u"L'Aquila"_s, u"05"_s, u""_s});
-    Inserisci(archive_, Tabella::GuidaCitta, {u"L'Aquila"_s, u"07"_s, u"Camping "_s});
+    Inserisci(archive_, Table::Itinerari, {u"000009"_s, u"0001"_s, u"L'Aquila"_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"L'Aquila"_s, u"01"_s, u"Fontana delle 99 cannelle"_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"L'Aquila"_s, u"05"_s, u""_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"L'Aquila"_s, u"07"_s, u"Camping "_s});
     const EsitoImport esito =
         Importa(archive_, Mete("") + Guida("l'aquila|01|FONTANA DELLE 99 CANNELLE\nL'Aquila|05|\nL'Aquila|07|Camping\n"
                                            "L'Aquila|01|Forte spagnolo\nL\xB4"
@@ -142,7 +142,7 @@ class Interruzione : public Progress {
 };
 
 TEST_F(Import, InterruptedHalfWayLeavesTheArchiveAsItWas) {
-    Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"Alba"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"Alba"_s});
     const QString file = cartella_.Percorso() + u"/a.iei"_s;
     prova::ScriviFile(file, Mete("000001|Bari|I\n") + Tappe("000001|0001|a\n000001|0002|b\n000001|0003|c\n"));
     Interruzione interruzione;

@@ -50,9 +50,9 @@ class Conversione : public ::testing::Test {
         Progress progress;
         return Converti(progress);
     }
-    QStringList LeMete() { return Righe(archive_, Tabella::MeteVandro, mete::kCampi); }
-    QStringList LeTappe() { return Righe(archive_, Tabella::Itinerari, itinerari::kCampi); }
-    QStringList LaGuida() { return Righe(archive_, Tabella::GuidaCitta, guida::kCampi); }
+    QStringList LeMete() { return Righe(archive_, Table::MeteVandro, mete::kCampi); }
+    QStringList LeTappe() { return Righe(archive_, Table::Itinerari, itinerari::kCampi); }
+    QStringList LaGuida() { return Righe(archive_, Table::GuidaCitta, guida::kCampi); }
 
     prova::CartellaDiProva cartella_;
     Archive archive_ = Archive::Open(cartella_.Percorso());
@@ -60,7 +60,7 @@ class Conversione : public ::testing::Test {
 };
 
 TEST_F(Conversione, EveryFieldFindsItsPlace) {
-    Inserisci(archive_, Tabella::TipoGuida, {u"77"_s, u"Mio"_s, u"0"_s});
+    Inserisci(archive_, Table::TipoGuida, {u"77"_s, u"Mio"_s, u"0"_s});
     const QByteArray mete =
         Vecchia("PROVENZA", "7") + Vecchia("..CANCELLATA", "8") + Vecchia("FORL\xCC", " 12").left(117);
     const QByteArray tappe = Tappe("5|5\nAIX*A8 A7|98|A|010230\nMETZ|7|P|000000\nlucca|1|P\n|||\nNIZZA *|  5|L|  0130");
@@ -79,7 +79,7 @@ TEST_F(Conversione, EveryFieldFindsItsPlace) {
                                        u"000007|0005|NIZZA|5| |L|00:01:30| |0"_s));
     EXPECT_THAT(LaGuida(),
                 ElementsAre(u"AIX|02|Cours Mirabeau|01:30|0"_s, u"AIX|05| |00:00|0"_s, u"METZ|01|Duomo|01:45|1"_s));
-    EXPECT_EQ(Righe(archive_, Tabella::TipoGuida).size(), 9);
+    EXPECT_EQ(Righe(archive_, Table::TipoGuida).size(), 9);
     EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_));
     EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VAND0007.DAT"_s), tappe);
     EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VandMete.dat"_s), mete);
@@ -103,12 +103,12 @@ TEST_F(Conversione, DigitsStandInTheirPlacesWithBlanksForZeros) {
 TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAndTheRestStays) {
     std::vector<QString> mia(mete::kCampi, u"9"_s);
     mia[mete::CodiceMeta] = u"000007"_s;
-    archive_.Insert(Tabella::MeteVandro, mia);
-    Inserisci(archive_, Tabella::MeteVandro, {u"010007"_s, u"LONTANA"_s});
-    archive_.Insert(Tabella::Itinerari, std::vector<QString>{u"000007"_s, u"0001"_s, u"X"_s, u"1"_s, u"x"_s, u"A"_s,
-                                                             u"00:01:00"_s, u"00:02:00"_s, u"1"_s});
-    Inserisci(archive_, Tabella::Itinerari, {u"000007"_s, u"0002"_s, u"RESTA"_s});
-    Inserisci(archive_, Tabella::GuidaCitta, {u"L'AQUILA "_s, u"01"_s, u"Fontana "_s});
+    archive_.Insert(Table::MeteVandro, mia);
+    Inserisci(archive_, Table::MeteVandro, {u"010007"_s, u"LONTANA"_s});
+    archive_.Insert(Table::Itinerari, std::vector<QString>{u"000007"_s, u"0001"_s, u"X"_s, u"1"_s, u"x"_s, u"A"_s,
+                                                           u"00:01:00"_s, u"00:02:00"_s, u"1"_s});
+    Inserisci(archive_, Table::Itinerari, {u"000007"_s, u"0002"_s, u"RESTA"_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"L'AQUILA "_s, u"01"_s, u"Fontana "_s});
     Scrivi(u"VandMete.dat"_s, Vecchia("PROVENZA", "0007"));
     Scrivi(u"vand0007.dat"_s, Tappe("1|1\nAIX|98|A"));
     Scrivi(u"VandGuid.dat"_s, Voce("L\"AQUILA|2|FONTANA|0030|0"));
@@ -148,7 +148,7 @@ TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
 
 TEST_F(Conversione, WhatIsNoneOfTheOldFilesIsRefusedWhole) {
     EXPECT_EQ(MessaggioDi([&] { Converti(); }), u"Non c'è niente da convertire: manca il file VandMete.dat."_s);
-    Inserisci(archive_, Tabella::MeteVandro, {u"000001"_s, u"ALBA"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"ALBA"_s});
     const QByteArray buone = Vecchia("ROMA", "1");
     const QByteArray binario(12'800, '\x01');
     struct Rifiutato {
