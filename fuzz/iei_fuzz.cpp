@@ -29,7 +29,7 @@ qint64 ContaMete(QByteArray& file) {
     Pretendi(buffer.open(QIODevice::ReadOnly));
     Progress progress;
     qint64 mete = 0;
-    ScorriMete(buffer, u"prova.iei"_s, {Table::MeteVandro, {}, {}, {}}, progress, [&](const RigaIei&) { ++mete; });
+    ScorriMete(buffer, u"prova.iei"_s, {Table::MeteVandro, {}, {}}, progress, [&](const RigaIei&) { ++mete; });
     return mete;
 }
 

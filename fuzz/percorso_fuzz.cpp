@@ -6,6 +6,7 @@
 
 #include "archivio_di_prova.h"
 #include "exchange/percorsi/importa_percorso.h"
+#include "exchange/percorsi/tappa_in_corso.h"
 #include "interaction/failure.h"
 
 namespace {

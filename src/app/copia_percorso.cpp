@@ -14,14 +14,7 @@ CopiaPercorso::CopiaPercorso(Sessione& sessione) : sessione_(sessione) {
 }
 
 void CopiaPercorso::ElencaMete() {
-    Archive& archivio = sessione_.Archivio();
-    mete_.clear();
-    for (const Record& record : archivio.Select({Table::MeteVandro, {}}, {mete::Localita})) {
-        const Condition dellaMeta{itinerari::CodiceMeta, NamePattern::Exactly(record[mete::CodiceMeta])};
-        const QString localita = record[mete::Localita].trimmed();
-        if (localita.isEmpty() || !archivio.Exists({Table::Itinerari, {dellaMeta}})) continue;
-        mete_.push_back({record[mete::CodiceMeta], localita, record[mete::Nazione].trimmed()});
-    }
+    mete_ = ElencoMete(sessione_.Archivio(), QualiMete::ConTappe);
     rigaCopia_ = std::clamp(rigaCopia_, 1, std::max(1, static_cast<int>(mete_.size())));
 }
 
@@ -32,7 +25,7 @@ std::optional<Tratto> CopiaPercorso::Scelto() const {
 
 void CopiaPercorso::ScegliMeta(int riga) {
     if (riga < 1 || riga > std::ssize(mete_)) return;
-    const MetaDaCopiare scelta = mete_.at(static_cast<std::size_t>(riga - 1));
+    const MetaInElenco scelta = mete_.at(static_cast<std::size_t>(riga - 1));
     try {
         RigheItinerario tappe = sessione_.ApriMeta(scelta.codice).tappe;
         if (tappe.empty()) throw Failure(u"La mèta «%1» non ha più tappe memorizzate."_s.arg(scelta.localita));

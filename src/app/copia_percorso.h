@@ -8,22 +8,16 @@
 
 #include "app/sessione.h"
 #include "itinerary/tratti.h"
+#include "trips/mete.h"
 
 namespace cronovia {
-
-/// A trip that has stages to copy.
-struct MetaDaCopiare {
-    QString codice;
-    QString localita;
-    QString nazione;
-};
 
 class CopiaPercorso {
   public:
     /// Lists the trips with stored stages by their destinations; refused when there is none.
     explicit CopiaPercorso(Sessione& sessione);
 
-    [[nodiscard]] const std::vector<MetaDaCopiare>& Mete() const { return mete_; }
+    [[nodiscard]] const std::vector<MetaInElenco>& Mete() const { return mete_; }
     /// The stages of the trip chosen; nothing while the trips are listed.
     [[nodiscard]] const std::optional<RigheItinerario>& Tappe() const { return tappe_; }
     [[nodiscard]] int RigaCopia() const { return rigaCopia_; }
@@ -45,7 +39,7 @@ class CopiaPercorso {
     void ElencaMete();
 
     Sessione& sessione_;
-    std::vector<MetaDaCopiare> mete_;
+    std::vector<MetaInElenco> mete_;
     std::optional<RigheItinerario> tappe_;
     int rigaCopia_ = 1;
     std::array<std::optional<int>, 2> assegnate_;

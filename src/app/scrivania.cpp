@@ -107,7 +107,7 @@ void Scrivania::Nuovo() {
 
 void Scrivania::Ricerca() {
     Prova([&] {
-        std::vector<MetaInElenco> elenco = ElencoMete(sessione_.Archivio());
+        std::vector<MetaInElenco> elenco = AutostradeInFondo(ElencoMete(sessione_.Archivio()));
         if (elenco.empty()) {
             ApplicaModo(u"NuImEs"_s);
             volti_.interazione.Show({u"Nessuna mèta nel database!"_s, u"Database vuoto"_s, Icon::Exclamation});

@@ -64,11 +64,7 @@ bool Scrivania::SenzaMeta() {
 void Scrivania::Export() {
     Prova([&] {
         PreparaExportImport(ModoScambio::Export);
-        TavoloScambio::Lista mete;
-        for (const Record& record : sessione_.Archivio().Select({Table::MeteVandro, {}}, {mete::Localita})) {
-            mete.push_back(
-                {record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed()});
-        }
+        TavoloScambio::Lista mete = ElencoMete(sessione_.Archivio());
         const bool nessuna = mete.empty();
         scambio_.emplace(ModoScambio::Export, QString(), std::move(mete));
         if (!nessuna) return;
@@ -82,11 +78,15 @@ void Scrivania::Import(const std::function<QString()>& scegliFile) {
         PreparaExportImport(ModoScambio::Import);
         volti_.mostra();
         const QString file = scegliFile();
-        const bool letto = !file.isEmpty() && Corsa([&] {
-            const StatoFile stato = StatoDelFile(file);
-            scambio_.emplace(ModoScambio::Import, file, LeggiElencoMete(file, volti_.avanzamento), stato);
-        });
-        if (!letto) EsciExportImport();
+        const StatoFile stato = StatoDelFile(file);
+        std::optional<TavoloScambio::Lista> mete;
+        const bool letto = !file.isEmpty() && Corsa([&] { mete = LeggiElencoMete(file, volti_.avanzamento); });
+        if (mete) {
+            scambio_.emplace(ModoScambio::Import, file, std::move(*mete), stato);
+            return;
+        }
+        EsciExportImport();
+        if (letto) volti_.interazione.Show({u"Lettura delle mète interrotta."_s, {}, Icon::Exclamation});
     });
 }
 
@@ -132,7 +132,7 @@ void Scrivania::Esporta(const QString& file) {
     FinisciScambio();
     if (!esportate) return;
     volti_.mostra();
-    volti_.interazione.Show({TestoEsito(esito), {}, Icon::Information});
+    volti_.interazione.Show({TestoEsito(esito), {}, esito.interrotta ? Icon::Exclamation : Icon::Information});
 }
 
 void Scrivania::Importa() {
@@ -143,8 +143,9 @@ void Scrivania::Importa() {
                                                     scambio_->StatoDelFileLetto()},
                                                    volti_.avanzamento);
                            });
-    if (!importate) {
+    if (!importate || esito.interrotta) {
         FinisciScambio();
+        if (esito.interrotta) volti_.interazione.Show({TestoEsito(esito), {}, Icon::Exclamation});
         return;
     }
     const bool qualcosa = esito.meteInserite + esito.tappeInserite + esito.vociInserite > 0;
@@ -217,8 +218,9 @@ void Scrivania::Converte() {
             esito =
                 ConvertiVecchiFile({sessione_.Archivio(), sessione_.Cartella(), volti_.adesso()}, volti_.avanzamento);
         });
-        if (!convertiti) {
+        if (!convertiti || esito.interrotta) {
             converteOfferto_ = true;
+            if (esito.interrotta) volti_.interazione.Show({TestoEsito(esito), {}, Icon::Exclamation});
             return;
         }
         CaricaMetaCorrente();

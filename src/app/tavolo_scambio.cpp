@@ -14,7 +14,7 @@ TavoloScambio::TavoloScambio(ModoScambio modo, QString file, Lista mete, StatoFi
 std::vector<QString> TavoloScambio::CodiciScelti() const {
     std::vector<QString> codici;
     codici.reserve(Scelte().size());
-    for (const MetaNelFile& meta : Scelte()) codici.push_back(meta.codice);
+    for (const MetaInElenco& meta : Scelte()) codici.push_back(meta.codice);
     return codici;
 }
 

@@ -15,7 +15,7 @@ enum class ModoScambio { Export, Import };
 /// from list 1 to list 0.
 class TavoloScambio {
   public:
-    using Lista = std::vector<MetaNelFile>;
+    using Lista = std::vector<MetaInElenco>;
 
     /// For an import `file` is the one that the trips are in, `stato` its state before they were read.
     TavoloScambio(ModoScambio modo, QString file, Lista mete, StatoFile stato = {});

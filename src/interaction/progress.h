@@ -20,4 +20,13 @@ class Progress {
     virtual bool StopRequested() { return false; }
 };
 
+/// How a procedure is left from deep inside when the person wants it to stop. It does not leave the command, whose
+/// result tells of it: to stop is no failure.
+struct Stopped {};
+
+/// Throws `Stopped` when the person wants the procedure to stop.
+inline void HeedStop(Progress& progress) {
+    if (progress.StopRequested()) throw Stopped();
+}
+
 }  // namespace cronovia

@@ -13,6 +13,10 @@ namespace {
 
 Search PerCodice(QStringView codice) { return {Table::MeteVandro, {{mete::CodiceMeta, NamePattern::Exactly(codice)}}}; }
 
+bool HaTappe(Archive& archive, const QString& codice) {
+    return archive.Exists({Table::Itinerari, {{itinerari::CodiceMeta, NamePattern::Exactly(codice)}}});
+}
+
 // Puts the only row that a table has.
 void ScriviRigaUnica(Archive& archive, Table tabella, std::vector<QString> valori) {
     std::optional<Record> record = archive.SelectFirst({tabella, {}});
@@ -111,11 +115,19 @@ QString InserisciMeta(Archive& archive, const Meta& nuova) {
     return codice;
 }
 
-std::vector<MetaInElenco> ElencoMete(Archive& archive) {
+std::vector<MetaInElenco> ElencoMete(Archive& archive, QualiMete quali) {
+    const ReadSnapshot momento(archive);
     std::vector<MetaInElenco> elenco;
     for (const Record& record : archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
-        elenco.push_back({record[mete::CodiceMeta], record[mete::Localita].trimmed()});
+        MetaInElenco meta{record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed()};
+        if (quali == QualiMete::Tutte || (!meta.localita.isEmpty() && HaTappe(archive, meta.codice))) {
+            elenco.push_back(std::move(meta));
+        }
     }
+    return elenco;
+}
+
+std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco) {
     std::stable_partition(elenco.begin(), elenco.end(),
                           [](const MetaInElenco& meta) { return !meta.localita.contains("autostrada"_L1); });
     return elenco;

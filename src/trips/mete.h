@@ -38,14 +38,22 @@ QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvata
 /// Saves a new trip, makes it the current one and returns its code. Refused when a trip has that destination already.
 QString InserisciMeta(Archive& archive, const Meta& nuova);
 
-/// A trip in the list to choose from.
+/// A trip in a list to choose from, of the archive or of a file.
 struct MetaInElenco {
     QString codice;
     QString localita;
+    QString nazione;
+
+    friend bool operator==(const MetaInElenco&, const MetaInElenco&) = default;
 };
 
-/// All trips by their destinations; those that name a motorway come last.
-std::vector<MetaInElenco> ElencoMete(Archive& archive);
+enum class QualiMete { Tutte, ConTappe };
+
+/// The trips by their destinations, all of them or those that have a destination and stored stages.
+std::vector<MetaInElenco> ElencoMete(Archive& archive, QualiMete quali = QualiMete::Tutte);
+
+/// The same list with the trips that name a motorway behind the others.
+std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco);
 
 /// Deletes a trip with its itinerary, whole or not at all.
 void CancellaMeta(Archive& archive, const QString& codice, Progress& progress);

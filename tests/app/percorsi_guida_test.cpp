@@ -240,7 +240,7 @@ TEST_F(PercorsiGuidaTest, AStretchOfAnotherTripIsCopied) {
     EXPECT_EQ(scrivania_->Comandi().modoItinerario, u"Fi"_s);
     EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
     QStringList mete;
-    for (const MetaDaCopiare& meta : scrivania_->Copia()->Mete()) mete += meta.localita + u' ' + meta.nazione;
+    for (const MetaInElenco& meta : scrivania_->Copia()->Mete()) mete += meta.localita + u' ' + meta.nazione;
     EXPECT_EQ(mete.join(u'|'), u"BARI ITALIA|ZARA ITALIA"_s);
     Copia([](CopiaPercorso& copia) { copia.ScegliMeta(2); });
     Assegna(0, 4);

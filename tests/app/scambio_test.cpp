@@ -37,7 +37,7 @@ class ScambioTest : public testing::Test {
     }
     QString Lista(int lista) {
         QStringList nomi;
-        for (const MetaNelFile& meta : scrivania_->Scambio()->Mete(lista)) nomi += meta.localita;
+        for (const MetaInElenco& meta : scrivania_->Scambio()->Mete(lista)) nomi += meta.localita;
         return nomi.join(u' ');
     }
     void Sposta(int lista, int riga) {
@@ -169,7 +169,7 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     copione_.Messaggio(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
     ImExp(altro);
     EXPECT_EQ(Lista(1), u"PISA"_s);  // the screen stays as it was
-    EXPECT_EQ(LeggiElencoMete(altro, avanzamento_).size(), 1U);
+    EXPECT_EQ(LeggiElencoMete(altro, avanzamento_).value().size(), 1U);
     scrivania_->FineScambio();
     EXPECT_FALSE(scrivania_->Scambio());
 }

@@ -44,6 +44,11 @@ inline void Inserisci(Archive& archive, Table tabella, std::vector<QString> valo
     archive.Insert(tabella, valori);
 }
 
+/// A person who wants everything to stop at once.
+class Fermata : public Progress {
+    bool StopRequested() override { return true; }
+};
+
 inline EsitoImport Importa(Archive& archive, QByteArray file, const std::vector<QString>& codici = {}) {
     QBuffer buffer(&file);
     EXPECT_TRUE(buffer.open(QIODevice::ReadOnly));

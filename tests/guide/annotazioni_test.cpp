@@ -59,7 +59,9 @@ TEST_F(AnnotazioniTest, TheEntryThatARowShowsIsTheOneThatChanges) {
     Aggiungi(u"Sant'Anna [LU] #1"_s, u"01"_s, u"Bar \"Da Piero\""_s, u"01:00"_s);
     Aggiungi(u"SANT'ANNA [LU] #1"_s, u"01"_s, u"Bar \"Da Piero\""_s, u"01:00"_s);  // as the second one
     Aggiungi(u"SANT'ANNA [LU] #1"_s, u"77"_s, u"*"_s, u""_s);                      // of a type that is gone
+    Aggiungi(u"Sant'Anna [LU] #1"_s, u"01"_s, u"Bar \"Da Piero\""_s, u"02:00"_s);  // but for the time
     const QString localita = u"SANT'ANNA [LU] #1"_s;
+    CancellaVoce(archive_, NamePattern::ForName(localita), Voce(localita, 2));
     Salva(localita, Voce(localita, 1), {u"Torre"_s, u"Da vedere"_s, 0, 45});
     CancellaVoce(archive_, NamePattern::ForName(localita), Voce(localita, 3));
     EXPECT_EQ(Guida(),

@@ -2,9 +2,11 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <QStringList>
 #include <array>
+#include <memory>
 
 #include "store/archive.h"
 #include "support/prova.h"
@@ -192,6 +194,37 @@ TEST_F(ArchiveOpen, NothingIsMendedWithoutACopy) {
     Esegui(cartella_.Archivio(), "DROP TABLE Parametri");
     ASSERT_TRUE(QDir().mkpath(Copia() + u".parziale"_s));  // in the way of the copy
     AttendiRifiuto(u"controlla i permessi e la cartella"_s);
+}
+
+// Locks each copy as soon as it is begun, as another program may.
+class BloccaCopie {
+  public:
+    BloccaCopie() { sqlite3_auto_extension(reinterpret_cast<void (*)()>(&Blocca)); }
+    ~BloccaCopie() {
+        sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(&Blocca));
+        altro.reset();
+    }
+    BloccaCopie(const BloccaCopie&) = delete;
+    BloccaCopie& operator=(const BloccaCopie&) = delete;
+
+  private:
+    static int Blocca(sqlite3* database, char** /*errore*/, const sqlite3_api_routines* /*api*/) {
+        const std::string path = sqlite3_db_filename(database, "main");
+        if (!path.ends_with(".parziale") || std::exchange(apre, true)) return 0;
+        altro = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE);
+        altro->exec("BEGIN EXCLUSIVE");
+        apre = false;
+        return 0;
+    }
+    static inline std::unique_ptr<SQLite::Database> altro;
+    static inline bool apre = false;
+};
+
+TEST_F(ArchiveOpen, NothingIsMendedWhenTheCopyIsNotWhole) {
+    CreaArchivio();
+    Esegui(cartella_.Archivio(), "DROP TABLE Parametri");
+    const BloccaCopie blocca;
+    AttendiRifiuto(u"in uso da un altro programma"_s);
 }
 
 TEST_F(ArchiveOpen, OtherFilesUnderTheNameAreRefused) {

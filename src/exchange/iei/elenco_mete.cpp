@@ -36,21 +36,23 @@ void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, 
     }
 }
 
-std::vector<MetaNelFile> LeggiElencoMete(const QString& path, Progress& progress) {
+std::optional<std::vector<MetaInElenco>> LeggiElencoMete(const QString& path, Progress& progress) {
     const std::unique_ptr<QFile> file = ApriInLettura(path);
-    const std::vector<FieldDefinition>& campi = Definition(Table::MeteVandro).fields;
-    std::vector<MetaNelFile> elenco;
+    std::vector<MetaInElenco> elenco;
     QSet<QString> codici;
     progress.Title(u"Esportazione mète"_s);
-    const Lettura lettura{Table::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s,
-                          u"Lettura delle mète interrotta."_s};
-    ScorriMete(*file, path, lettura, progress, [&](const RigaIei& riga) {
-        const QString& codice = riga.valori[mete::CodiceMeta];
-        if (codici.contains(codice)) return;
-        codici.insert(codice);
-        elenco.push_back({codice, riga.valori[mete::Localita].left(campi[mete::Localita].width),
-                          riga.valori[mete::Nazione].left(campi[mete::Nazione].width)});
-    });
+    const Lettura lettura{Table::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s};
+    try {
+        ScorriMete(*file, path, lettura, progress, [&](const RigaIei& riga) {
+            const QString& codice = riga.valori[mete::CodiceMeta];
+            if (codici.contains(codice)) return;
+            codici.insert(codice);
+            elenco.push_back({codice, riga.valori[mete::Localita].left(Width(Table::MeteVandro, mete::Localita)),
+                              riga.valori[mete::Nazione].left(Width(Table::MeteVandro, mete::Nazione))});
+        });
+    } catch (const Stopped&) {
+        return std::nullopt;
+    }
     progress.Advance(0, 0);
     return elenco;
 }

@@ -4,29 +4,24 @@
 #include <QIODevice>
 #include <QString>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "exchange/iei/lettore_iei.h"
 #include "interaction/progress.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 
-/// A trip of an exchange file, its code as the file has it.
-struct MetaNelFile {
-    QString codice;
-    QString localita;
-    QString nazione;
-
-    friend bool operator==(const MetaNelFile&, const MetaNelFile&) = default;
-};
-
-/// The trips that can be imported, in the file's order. A `Failure` when the file is no exchange file.
-std::vector<MetaNelFile> LeggiElencoMete(const QString& path, Progress& progress);
+/// The trips that can be imported, in the file's order, their codes as the file has them; nothing when the person
+/// stopped the reading. A `Failure` when the file is no exchange file.
+std::optional<std::vector<MetaInElenco>> LeggiElencoMete(const QString& path, Progress& progress);
 
 /// Whether a record of the trips section can be imported: it has a destination and a code of a bearable length.
 bool MetaImportabile(const RigaIei& riga);
 
-/// Visits those records, from the beginning of the device. `path` is its name in messages.
+/// Visits those records, from the beginning of the device. `path` is its name in messages. A `Failure` when it is no
+/// exchange file, `Stopped` on a stop.
 void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, Progress& progress,
                 const std::function<void(const RigaIei&)>& visita);
 

@@ -54,6 +54,7 @@ QString Differenze(const EsitoImport& esito) {
 }  // namespace
 
 QString TestoEsito(const EsitoImport& esito) {
+    if (esito.interrotta) return u"Importazione interrotta: niente è stato inserito."_s;
     const QString scartati = Scartati(esito);
     const QString differenze = Differenze(esito);
     const bool aCapo = !scartati.isEmpty() && !differenze.isEmpty();

@@ -7,6 +7,7 @@
 #include "files/file_intero.h"
 #include "files/windows1252.h"
 #include "interaction/failure.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 
@@ -90,15 +91,9 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     if (!richiesta.codici.empty()) {
         throw Failure(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
     }
-    for (const Record& record : richiesta.archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
-        aggiungi(record[mete::CodiceMeta]);
-    }
+    for (const MetaInElenco& meta : ElencoMete(richiesta.archive)) aggiungi(meta.codice);
     if (codici.empty()) throw Failure(u"Non ci sono mète da esportare: niente è stato esportato."_s);
     return codici;
-}
-
-void RispettaStop(Progress& progress) {
-    if (progress.StopRequested()) throw Failure(u"Esportazione interrotta: il file non è stato scritto."_s);
 }
 
 // One of the two sections that go trip after trip; returns its records.
@@ -108,7 +103,7 @@ qint64 ScriviSezione(Archive& archive, Table tabella, const std::vector<QString>
     qint64 scritti = 0;
     double fatte = 0;
     for (const QString& codice : codici) {
-        RispettaStop(progress);
+        HeedStop(progress);
         progress.Advance(++fatte, static_cast<double>(codici.size()));
         for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
             scrittore.Riga(tabella, record);
@@ -123,7 +118,7 @@ qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress
     const auto totale = static_cast<double>(archive.Count(Table::GuidaCitta));
     qint64 scritti = 0;
     archive.ForEach(Table::GuidaCitta, [&](const Record& record) {
-        RispettaStop(progress);
+        HeedStop(progress);
         if (scritti == 0) scrittore.Intestazione(Table::GuidaCitta);
         scrittore.Riga(Table::GuidaCitta, record);
         progress.Advance(static_cast<double>(++scritti), totale);
@@ -131,14 +126,14 @@ qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress
     return scritti;
 }
 
-}  // namespace
-
-EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
+// `Stopped` on a stop: the file, never closed, is not there.
+EsitoExport Esportate(const RichiestaExport& richiesta, Progress& progress) {
     const ReadSnapshot momento(richiesta.archive);
     const std::vector<QString> codici = CodiciDaEsportare(richiesta);
     RifiutaFileEsistente(richiesta.path, richiesta.sovrascrivi);
     ScrittoreIei scrittore(richiesta.path);
-    EsitoExport esito{richiesta.path};
+    EsitoExport esito;
+    esito.path = richiesta.path;
     progress.Title(u"Esportazione mète"_s);
     esito.mete = ScriviSezione(richiesta.archive, Table::MeteVandro, codici, scrittore, progress);
     progress.Title(u"Esportazione itinerari"_s);
@@ -150,7 +145,21 @@ EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
     return esito;
 }
 
+}  // namespace
+
+EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
+    try {
+        return Esportate(richiesta, progress);
+    } catch (const Stopped&) {
+        EsitoExport esito;
+        esito.path = richiesta.path;
+        esito.interrotta = true;
+        return esito;
+    }
+}
+
 QString TestoEsito(const EsitoExport& esito) {
+    if (esito.interrotta) return u"Esportazione interrotta: il file non è stato scritto."_s;
     QString testo = u"Le mète esportate si trovano sul file "_s + esito.path;
     if (esito.caratteriSostituiti > 0) {
         testo += u"\r\nCaratteri che il file non può contenere, sostituiti con un altro: "_s +

@@ -19,6 +19,7 @@ struct RichiestaExport {
 
 struct EsitoExport {
     QString path;
+    bool interrotta = false;  ///< the person stopped it: no file was written, all that follows is 0
     qint64 mete = 0;
     qint64 tappe = 0;
     qint64 voci = 0;                 ///< of the city guide

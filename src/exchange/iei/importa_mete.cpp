@@ -130,9 +130,7 @@ void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresen
     presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
 }
 
-Lettura LetturaPerImport(std::optional<Table> solo) {
-    return {solo, u"Importazione "_s, {}, u"Importazione interrotta: niente è stato inserito."_s};
-}
+Lettura LetturaPerImport(std::optional<Table> solo) { return {solo, u"Importazione "_s, {}}; }
 
 EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& device, Progress& progress) {
     device.seek(0);
@@ -146,16 +144,8 @@ EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& devic
     return std::move(importatore.Esito());
 }
 
-}  // namespace
-
-EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
-    RichiestaImport fissata = richiesta;
-    if (!fissata.stato) fissata.stato = StatoDelFile(richiesta.path);
-    const std::unique_ptr<QFile> file = ApriInLettura(richiesta.path);
-    return ImportaMete(fissata, *file, progress);
-}
-
-EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
+// `Stopped` on a stop.
+EsitoImport Importate(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
     MappaCodici codici;
     progress.Title(u"Importazione mète"_s);
     ScorriMete(device, richiesta.path, LetturaPerImport(Table::MeteVandro), progress,
@@ -172,6 +162,25 @@ EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Pro
     transaction.Commit();
     progress.Advance(0, 0);
     return esito;
+}
+
+}  // namespace
+
+EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
+    RichiestaImport fissata = richiesta;
+    if (!fissata.stato) fissata.stato = StatoDelFile(richiesta.path);
+    const std::unique_ptr<QFile> file = ApriInLettura(richiesta.path);
+    return ImportaMete(fissata, *file, progress);
+}
+
+EsitoImport ImportaMete(const RichiestaImport& richiesta, QIODevice& device, Progress& progress) {
+    try {
+        return Importate(richiesta, device, progress);
+    } catch (const Stopped&) {
+        EsitoImport esito;
+        esito.interrotta = true;
+        return esito;
+    }
 }
 
 }  // namespace cronovia

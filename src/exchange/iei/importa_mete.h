@@ -29,6 +29,7 @@ struct EsitoImport {
     qint64 vociInserite = 0;  ///< city-guide entries
     qint64 meteScartate = 0;  ///< their destination was stored already; their stages are left out too
     qint64 vociScartate = 0;  ///< were stored already
+    bool interrotta = false;  ///< the person stopped it: nothing was added, all else is 0
 
     std::map<std::pair<Table, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
     qint64 codiciRipetuti = 0;                           ///< trips with the code of one before them
@@ -42,7 +43,9 @@ struct EsitoImport {
 /// Adds what the archive has not yet, whole or not at all. A trip whose destination is stored, by the rules of name
 /// matching, is left out with its stages; so is a guide entry whose locality and description are stored, and one at
 /// whose locality no stage ends. Empty values and fields that the file lacks are stored as one blank, values too wide
-/// for their field with the characters that fit. Codes that are taken, or that have not six digits, are replaced.
+/// for their field with the characters that fit. Codes that are taken, or that have not six digits, are replaced. A
+/// `Failure` when the file is no exchange file, when it changed since its trips were listed, or when a code is not in
+/// it.
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress);
 
 /// The same from a device that can be read twice; without a state the path is only its name in messages.

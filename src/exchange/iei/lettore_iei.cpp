@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "files/windows1252.h"
-#include "interaction/failure.h"
 
 namespace cronovia {
 
@@ -45,7 +44,7 @@ LettoreIei::LettoreIei(QIODevice& device, Lettura lettura, Progress& progress)
 bool LettoreIei::Leggi(RigaIei& riga) {
     while (righe_.Avanza()) {
         progress_.Advance(static_cast<double>(righe_.Letti()), lunghezza_);
-        if (progress_.StopRequested()) throw Failure(lettura_.interrotta);
+        HeedStop(progress_);
         if (righe_.TroppoLunga()) ++scarti_.righeTroppoLunghe;
         QByteArrayView testo = righe_.Riga();
         if (std::exchange(prima_, false) && testo.startsWith(kSegnoUtf8)) testo = testo.sliced(kSegnoUtf8.size());

@@ -39,7 +39,6 @@ struct Lettura {
     std::optional<Table> solo;  ///< the only section to read; nothing for all of them
     QString titoloPrima;        ///< the title of the progress is this, the table's name and the next text
     QString titoloDopo;
-    QString interrotta = {};  ///< the message when the person wants it to stop
 };
 
 /// Reads the records of an exchange file one by one, in a bounded amount of memory whatever the file holds.
@@ -47,7 +46,7 @@ class LettoreIei {
   public:
     LettoreIei(QIODevice& device, Lettura lettura, Progress& progress);
 
-    /// Reads the next record; false at the end. A `Failure` when the device cannot be read, or on a stop.
+    /// Reads the next record; false at the end. A `Failure` when the device cannot be read, `Stopped` on a stop.
     bool Leggi(RigaIei& riga);
 
     /// Whether the field names of the section were met.

@@ -74,9 +74,6 @@ class Convertitore {
     void ScorriRecord(const QString& path, const FormaRecord& forma, Visita&& visita);
     void Lascia(const QString& nome, const QString& perche) { esito_.lasciati.push_back({nome, perche}); }
     void CancellaConvertiti();
-    void RispettaStop() {
-        if (progress_.StopRequested()) throw Failure(u"Conversione interrotta: niente è stato convertito."_s);
-    }
 
     Archive& archive_;
     VecchiFile file_;
@@ -116,7 +113,7 @@ void Convertitore::ScorriRecord(const QString& path, const FormaRecord& forma, V
     qint64 validi = 0;
     qint64 guasti = 0;
     while (lettore.Leggi(record)) {
-        RispettaStop();
+        HeedStop(progress_);
         progress_.Advance(static_cast<double>(lettore.Letti()), static_cast<double>(lettore.NumeroRecord()));
         const StatoRecord stato = visita(record);
         if (stato == StatoRecord::Valido) ++validi;
@@ -163,7 +160,7 @@ void Convertitore::ConvertiItinerari() {
     QSet<QString> visti;  // longer codes may end alike; a file belongs to the first trip of its name
     double fatti = 0;
     for (const QString& codice : codici) {
-        RispettaStop();
+        HeedStop(progress_);
         progress_.Advance(++fatti, static_cast<double>(codici.size()));
         const QString nome = NomeVecchieTappe(codice);
         if (visti.contains(nome.toLower())) continue;
@@ -241,10 +238,17 @@ void Convertitore::CancellaConvertiti() {
 }  // namespace
 
 EsitoConversione ConvertiVecchiFile(const RichiestaConversione& richiesta, Progress& progress) {
-    return Convertitore(richiesta, progress).Esegui();
+    try {
+        return Convertitore(richiesta, progress).Esegui();
+    } catch (const Stopped&) {
+        EsitoConversione esito;
+        esito.interrotta = true;
+        return esito;
+    }
 }
 
 QString TestoEsito(const EsitoConversione& esito) {
+    if (esito.interrotta) return u"Conversione interrotta: niente è stato convertito."_s;
     QString testo = u"Conversione eseguita..."_s;
     if (!esito.cartellaCopie.isEmpty()) {
         testo +=

@@ -17,6 +17,7 @@ struct RichiestaConversione {
 };
 
 struct EsitoConversione {
+    bool interrotta = false;  ///< the person stopped it: nothing was converted, all that follows is empty
     qint64 mete = 0;
     qint64 tappe = 0;
     qint64 voci = 0;    ///< of the city guide

@@ -15,10 +15,10 @@ constexpr Qt::Alignment kDestra = Qt::AlignRight | Qt::AlignVCenter;
 
 }  // namespace
 
-void ModelloCopia::Mostra(const std::vector<MetaDaCopiare>& mete) {
+void ModelloCopia::Mostra(const std::vector<MetaInElenco>& mete) {
     std::vector<QStringList> righe;
     righe.reserve(mete.size());
-    for (const MetaDaCopiare& meta : mete) {
+    for (const MetaInElenco& meta : mete) {
         righe.push_back({QString::number(righe.size() + 1), meta.localita, meta.nazione});
     }
     Mostra({u"Num."_s, u"Denominazione della mèta"_s, u"Nazione"_s}, std::move(righe), {kDestra, kSinistra, kSinistra});

@@ -15,7 +15,7 @@ class ModelloCopia : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void Mostra(const std::vector<MetaDaCopiare>& mete);
+    void Mostra(const std::vector<MetaInElenco>& mete);
     void Mostra(const RigheItinerario& tappe);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

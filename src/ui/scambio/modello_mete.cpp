@@ -17,7 +17,7 @@ QVariant AllineamentoColonna(int colonna) {
 
 }  // namespace
 
-void ModelloMete::Mostra(const std::vector<MetaNelFile>& mete) {
+void ModelloMete::Mostra(const std::vector<MetaInElenco>& mete) {
     const auto [prima, dopo] = std::mismatch(mete_.begin(), mete_.end(), mete.begin(), mete.end());
     const auto riga = static_cast<int>(prima - mete_.begin());
     if (prima == mete_.end() && dopo == mete.end()) return;
@@ -55,7 +55,7 @@ int ModelloMete::columnCount(const QModelIndex& parent) const { return parent.is
 
 QVariant ModelloMete::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    const MetaNelFile& meta = mete_[static_cast<std::size_t>(index.row())];
+    const MetaInElenco& meta = mete_[static_cast<std::size_t>(index.row())];
     if (role == Qt::TextAlignmentRole) return AllineamentoColonna(index.column());
     if (role != Qt::DisplayRole) return {};
     switch (index.column()) {

@@ -17,7 +17,7 @@ class ModelloMete : public QAbstractTableModel {
     enum Colonna { Num, Meta, Nazione, RecordMeta, kColonneMete };
 
     /// A list that differs by one trip leaves the view where it is.
-    void Mostra(const std::vector<MetaNelFile>& mete);
+    void Mostra(const std::vector<MetaInElenco>& mete);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -27,7 +27,7 @@ class ModelloMete : public QAbstractTableModel {
   private:
     void Rinumera();
 
-    std::vector<MetaNelFile> mete_;
+    std::vector<MetaInElenco> mete_;
     std::vector<int> numeri_;  // change with the rows only once these are told of
 };
 

@@ -121,10 +121,13 @@ TEST_F(Export, RefusesBeforeAnythingIsWritten) {
     EXPECT_EQ(Rifiuto(), u"Il file %1 non si può scrivere: controlla la cartella e i permessi."_s.arg(file_));
 }
 
-TEST_F(Export, AFullDiskLeavesTheOldFileInPlace) {
+TEST_F(Export, AStopOrAFullDiskLeavesTheOldFileInPlace) {
     TreMete();
     prova::ScriviFile(file_, "prezioso");
     QString messaggio;
+    prova::Fermata fermata;
+    EXPECT_EQ(TestoEsito(EsportaMete({archive_, file_, {}, true}, fermata)),
+              u"Esportazione interrotta: il file non è stato scritto."_s);
     prova::ConDiscoPieno(100, [&] { messaggio = Rifiuto({}, true); });
     EXPECT_EQ(messaggio, u"Il file %1 non è stato scritto: il disco è pieno o non si può scrivere."_s.arg(file_));
     EXPECT_EQ(LeggiFile(file_), "prezioso");

@@ -147,6 +147,9 @@ TEST_F(Import, InterruptedHalfWayLeavesTheArchiveAsItWas) {
     prova::ScriviFile(file, Mete("000001|Bari|I\n") + Tappe("000001|0001|a\n000001|0002|b\n000001|0003|c\n"));
     Interruzione interruzione;
     EXPECT_EQ(MessaggioDi([&] { ImportaMete({archive_, file, {}}, interruzione); }), u"interrotto"_s);
+    prova::Fermata fermata;
+    EXPECT_EQ(TestoEsito(ImportaMete({archive_, file, {}}, fermata)),
+              u"Importazione interrotta: niente è stato inserito."_s);
     Progress progress;
     const StatoFile altro{1, {}};
     EXPECT_EQ(MessaggioDi([&] {

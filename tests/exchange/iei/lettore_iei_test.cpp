@@ -66,6 +66,11 @@ TEST(LettoreIei, RecordsAndCounts) {
         {"separator of a later section in a value",
          Mete("") + Guida("") + Mete("000001|N\xFD|\x80\n").mid(Mete("").size()),
          {u"3|000001|Ný|€"_s}},
+        {"sections that interleave, each with its field names once",
+         kRoma + Guida("Roma|01|Foro\n") + Mete("000002|Pisa|I\n").mid(Mete("").size()) + Tappe("000002|0001|Lucca\n") +
+             Guida("Pisa|01|Torre\n").mid(Guida("").size()),
+         kLetta +
+             QStringList{u"3|Roma|01|Foro"_s, u"1|000002|Pisa|I"_s, u"2|000002|0001|Lucca"_s, u"3|Pisa|01|Torre"_s}},
         {"records without field names",
          prova::Sezione('\xFE', "000001|0001|Roma\n000001|0002|Pisa\n"),
          {},
@@ -94,9 +99,11 @@ TEST(LeggiElencoMete, NamesTheTripsThatCanBeImported) {
     prova::ScriviFile(file, Mete("000007|Roma|Italia\n|Senza codice|I\n000008||I\n000007|Di nuovo|I\nX1|Nizza|F\n") +
                                 Tappe("000007|0001|Lucca\n"));
     Progress progress;
-    EXPECT_THAT(LeggiElencoMete(file, progress),
-                ::testing::ElementsAre(MetaNelFile{u"000007"_s, u"Roma"_s, u"Italia"_s},
-                                       MetaNelFile{u"X1"_s, u"Nizza"_s, u"F"_s}));
+    EXPECT_THAT(LeggiElencoMete(file, progress).value(),
+                ::testing::ElementsAre(MetaInElenco{u"000007"_s, u"Roma"_s, u"Italia"_s},
+                                       MetaInElenco{u"X1"_s, u"Nizza"_s, u"F"_s}));
+    prova::Fermata fermata;
+    EXPECT_FALSE(LeggiElencoMete(file, fermata).has_value());
 }
 
 }  // namespace
