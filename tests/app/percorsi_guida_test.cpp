@@ -2,11 +2,11 @@
 #include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
-#include <array>
 #include <memory>
 
 #include "app/scrivania.h"
 #include "itinerary/itinerari.h"
+#include "support/archivio.h"
 #include "support/copione.h"
 #include "trips/mete.h"
 
@@ -49,7 +49,7 @@ class PercorsiGuidaTest : public testing::Test {
         return codice;
     }
     void NellaGuida(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        Archivio().Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
+        prova::NellaGuida(Archivio(), localita, codice, descrizione, tempo);
     }
     /// The guide as another window finds it.
     QString Guida() {

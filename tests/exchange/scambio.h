@@ -8,8 +8,7 @@
 #include <vector>
 
 #include "exchange/iei/importa_mete.h"
-#include "store/archive.h"
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia::prova {
 
@@ -23,25 +22,10 @@ inline QByteArray Guida(const QByteArray& righe) {
     return Sezione('\xFD', "Localita|CodiceGuida|Descrizione\n" + righe);
 }
 
-/// The first `campi` fields of every row, joined by "|", in the order in which the rows were added.
-inline QStringList Righe(Archive& archive, Table tabella, int campi = 3) {
-    QStringList righe;
-    archive.ForEach(tabella, [&](const Record& record) {
-        righe += QStringList(record.values.begin(), record.values.begin() + campi).join(u'|');
-    });
-    return righe;
-}
-
 /// Every field of the three tables that travel.
 inline QStringList Tutto(Archive& archive) {
     return Righe(archive, Table::MeteVandro, mete::kCampi) + Righe(archive, Table::Itinerari, itinerari::kCampi) +
            Righe(archive, Table::GuidaCitta, guida::kCampi);
-}
-
-/// Adds a row whose remaining fields are one blank each.
-inline void Inserisci(Archive& archive, Table tabella, std::vector<QString> valori) {
-    valori.resize(Definition(tabella).fields.size(), QStringLiteral(" "));
-    archive.Insert(tabella, valori);
 }
 
 /// A person who wants everything to stop at once.

@@ -2,27 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class AnnotazioniTest : public ::testing::Test {
+class AnnotazioniTest : public prova::ConArchivio {
   protected:
     void Aggiungi(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"1"_s});
+        prova::NellaGuida(archive_, localita, codice, descrizione, tempo, u"1"_s);
     }
     /// The whole guide, in the order in which its entries were added.
-    QString Guida() {
-        QStringList voci;
-        for (const Record& r : archive_.Select({Table::GuidaCitta, {}}))
-            voci += QStringList(r.values.begin(), r.values.end()).join(u'|');
-        return voci.join(u'\n');
-    }
+    QString Guida() { return prova::Righe(archive_, Table::GuidaCitta, guida::kCampi).join(u'\n'); }
     /// The entry with that place in the list of a locality.
     VoceGuida Voce(const QString& localita, std::size_t posto = 0) {
         return LettoreGuida(archive_).Voci(localita)->at(posto);
@@ -31,8 +24,6 @@ class AnnotazioniTest : public ::testing::Test {
         return SalvaVoce(archive_, localita, mostrata, tipi_, campi);
     }
 
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
     std::vector<TipoGuida> tipi_ = CaricaTipiGuida(archive_);
 };
 

@@ -3,23 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
-#include <array>
 
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class GuidaTest : public ::testing::Test {
+class GuidaTest : public prova::ConArchivio {
   protected:
     void Aggiungi(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
+        prova::NellaGuida(archive_, localita, codice, descrizione, tempo);
     }
-
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
 };
 
 TEST_F(GuidaTest, AnArchiveWithoutTypesHasTheNineStandardOnes) {

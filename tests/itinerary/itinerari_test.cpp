@@ -15,10 +15,10 @@ using namespace Qt::StringLiterals;
 using prova::Righe;
 using prova::Testo;
 
-class ItinerariTest : public ::testing::Test {
+class ItinerariTest : public prova::ConArchivio {
   protected:
     void Aggiungi(const QString& localita, const QString& tempo) {
-        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, u"Duomo"_s, tempo, u"0"_s});
+        prova::NellaGuida(archive_, localita, u"01"_s, u"Duomo"_s, tempo);
     }
     EsitoMemorizzazione Memorizza(const RigheItinerario& tappe) {
         return MemorizzaTappeItinerario(archive_, u"000001"_s, tappe, {}, progresso_);
@@ -31,10 +31,6 @@ class ItinerariTest : public ::testing::Test {
         }
         return righe;
     }
-
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
-    Progress progresso_;
 };
 
 TEST_F(ItinerariTest, ALongStageTakesSeveralRowsAndTheGuideTimesStandAtTheFirst) {

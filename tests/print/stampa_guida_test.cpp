@@ -5,6 +5,7 @@
 
 #include "itinerary/itinerari.h"
 #include "stampa.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
@@ -25,7 +26,7 @@ DatiStampaGuida Nomi(int numero) {
 class StampaGuidaTest : public testing::Test {
   protected:
     void NellaGuida(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
-        Archivio().Insert(Table::GuidaCitta, std::array<QString, 5>{localita, codice, descrizione, tempo, u"0"_s});
+        prova::NellaGuida(Archivio(), localita, codice, descrizione, tempo);
     }
     Archive& Archivio() { return sessione_.Archivio(); }
     DatiStampaGuida Dati(bool tutte, bool dettaglio) {

@@ -5,11 +5,9 @@
 #include <sqlite3.h>
 
 #include <QStringList>
-#include <array>
 #include <memory>
 
-#include "store/archive.h"
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
@@ -52,8 +50,7 @@ class ArchiveOpen : public ::testing::Test {
         meta[mete::CodiceMeta] = u"000007"_s;
         archive.Insert(Table::MeteVandro, meta);
         for (const QString& localita : {u"Alba"_s, u"L'Aquila"_s}) {
-            archive.Insert(Table::GuidaCitta,
-                           std::array<QString, 5>{localita, u"01"_s, u"Fontana"_s, u"01:30"_s, u"0"_s});
+            prova::NellaGuida(archive, localita, u"01"_s, u"Fontana"_s, u"01:30"_s);
         }
     }
     void Apri() { Archive::Open(cartella_.Percorso()); }
@@ -79,31 +76,6 @@ class ArchiveOpen : public ::testing::Test {
 
     prova::CartellaDiProva cartella_;
 };
-
-TEST_F(ArchiveOpen, AFreshFolderGetsAllTablesAndIndexes) {
-    Apri();
-    const QString file = cartella_.Archivio();
-    EXPECT_EQ(cartella_.Contenuto(), QStringList{u"VandroCronovia.mdb"_s});
-    EXPECT_EQ(Elenco(file, kIndici), kAttesi);
-    QStringList campi;
-    for (const auto* tabella : {"MeteVandro", "Itinerari", "GuidaCitta", "TipoGuida", "MetaCorrente", "Parametri"}) {
-        campi += Campi(file, tabella);
-    }
-    const QString parametri =
-        u"MediaAutostrada TEXT(3),MediaSuperStrada TEXT(3),MediaPrincipale TEXT(3),MediaLocale TEXT(3),"
-        "OraColazione TEXT(4),OraPranzo TEXT(4),DurataPranzo TEXT(4),OraCena TEXT(4),DurataCena TEXT(4),"
-        "OraNotte TEXT(4),RiposoMinuti TEXT(2),RiposoOre TEXT(2),RiposoGiorno TEXT(2),RiposoDopoGiorni TEXT(2),"
-        "InizioVisita TEXT(4),FineVisita TEXT(4),OreTraghetti TEXT(4),"_s;
-    EXPECT_EQ(campi.join(u','),
-              u"CodiceMeta TEXT(6),Localita TEXT(30),Nazione TEXT(19),DataInizio TEXT(8),OraInizio TEXT(4),"_s +
-                  parametri +
-                  u"GiorniAdeguamento TEXT(4),CalcoloSoste TEXT(1),"
-                  "CodiceMeta TEXT(6),Sequenza TEXT(4),Localita TEXT(30),Chilometri TEXT(4),NomeStrada TEXT(64),"
-                  "TipoStrada TEXT(1),TempoSosta TEXT(8),SostaGuidaCitta TEXT(8),FineGiorno TEXT(1),"
-                  "Localita TEXT(30),CodiceGuida TEXT(2),Descrizione TEXT(96),TempoSosta TEXT(5),FlagVisto TEXT(1),"
-                  "CodiceGuida TEXT(2),Descrizione TEXT(32),TempoObbligatorio BOOLEAN,MetaCorrente TEXT(6),"_s +
-                  parametri + u"CalcoloSoste TEXT(1)"_s);
-}
 
 TEST_F(ArchiveOpen, AnArchiveInOrderIsNotWritten) {
     CreaArchivio();
@@ -223,8 +195,13 @@ class BloccaCopie {
 TEST_F(ArchiveOpen, NothingIsMendedWhenTheCopyIsNotWhole) {
     CreaArchivio();
     Esegui(cartella_.Archivio(), "DROP TABLE Parametri");
-    const BloccaCopie blocca;
-    AttendiRifiuto(u"in uso da un altro programma"_s);
+    {
+        const BloccaCopie blocca;
+        EXPECT_TRUE(prova::MessaggioDi([this] { Apri(); }).contains(u"in uso da un altro programma"_s));
+    }
+    EXPECT_EQ(cartella_.Contenuto(), QStringList{u"VandroCronovia.mdb"_s});
+    AttendiDati();
+    EXPECT_EQ(Elenco(Copia(), "SELECT Localita FROM GuidaCitta"), (QStringList{u"Alba"_s, u"L'Aquila"_s}));
 }
 
 TEST_F(ArchiveOpen, OtherFilesUnderTheNameAreRefused) {

@@ -8,18 +8,16 @@
 #include <stdexcept>
 #include <thread>
 
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class ArchiveTest : public ::testing::Test {
+class ArchiveTest : public prova::ConArchivio {
   protected:
-    void Aggiungi(const QString& localita) {
-        archive_.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, u"Duomo"_s, u"01:00"_s, u"0"_s});
-    }
+    void Aggiungi(const QString& localita) { prova::NellaGuida(archive_, localita); }
     QStringList Localita(bool alfabetico = false) {
         QStringList localita;
         const Search tutte{Table::GuidaCitta, {}};
@@ -27,9 +25,6 @@ class ArchiveTest : public ::testing::Test {
         for (const Record& record : records) localita += record[guida::Localita];
         return localita;
     }
-
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
 };
 
 TEST_F(ArchiveTest, ValuesComeBackAsTheyWere) {

@@ -2,22 +2,16 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <array>
 #include <random>
 #include <set>
 
-#include "store/archive.h"
 #include "store/name_index.h"
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-void AggiungiVoce(Archive& archive, const QString& localita, const QString& descrizione) {
-    archive.Insert(Table::GuidaCitta, std::array<QString, 5>{localita, u"01"_s, descrizione, u"01:00"_s, u"0"_s});
-}
 
 // Names and patterns out of few letters that are hard to compare: both cases, accents, letters with three forms,
 // letters whose other case is an ASCII one, characters beyond the basic plane, wildcards.
@@ -64,7 +58,7 @@ TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
     std::vector<QString> nomi = {u""_s, u"SANT'ANNA"_s};
     while (nomi.size() < 300) nomi.push_back(generatore.Nome());
     Transaction transaction(archive);
-    for (const QString& nome : nomi) AggiungiVoce(archive, nome, nome);
+    for (const QString& nome : nomi) prova::NellaGuida(archive, nome);
     transaction.Commit();
     std::vector<Record> tutti = archive.Select({Table::GuidaCitta, {}});
     ASSERT_EQ(tutti.size(), nomi.size());
@@ -116,7 +110,7 @@ TEST(Search, ALiteralBeginningUsesTheIndex) {
     Archive archive = Archive::Open(cartella.Percorso());
     Transaction transaction(archive);
     for (int i = 0; i < 1000; ++i) {
-        AggiungiVoce(archive, u"%1 %2"_s.arg(i % 2 == 0 ? u"Örebro"_s : u"Roma"_s).arg(i), u"Duomo"_s);
+        prova::NellaGuida(archive, u"%1 %2"_s.arg(i % 2 == 0 ? u"Örebro"_s : u"Roma"_s).arg(i));
     }
     transaction.Commit();
     const auto cerca = [&](const QString& modello) {

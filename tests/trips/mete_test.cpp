@@ -4,14 +4,14 @@
 
 #include <array>
 
-#include "support/prova.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class MeteTest : public ::testing::Test {
+class MeteTest : public prova::ConArchivio {
   protected:
     QString Inserisci(const QString& localita, const QString& nazione = u"ITALIA"_s) {
         Meta meta;
@@ -22,12 +22,8 @@ class MeteTest : public ::testing::Test {
     }
     void Cancella(const QString& codice) {
         const Condition condizione{mete::CodiceMeta, NamePattern::Exactly(codice)};
-        archive_.DeleteMatching(Table::MeteVandro, condizione, progresso_);
+        archive_.DeleteMatching(Table::MeteVandro, condizione, progress_);
     }
-
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
-    Progress progresso_;
 };
 
 TEST(NuovoCodiceMeta, IsTheLowestFreeNumber) {

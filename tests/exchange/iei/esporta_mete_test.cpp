@@ -24,7 +24,7 @@ const QByteArray kCampiGuida = "Localita|CodiceGuida|Descrizione|TempoSosta|Flag
 
 QByteArray MetaVuota(const QByteArray& valori) { return valori + QByteArray(21, '|') + "\n"; }
 
-class Export : public ::testing::Test {
+class Export : public prova::ConArchivio {
   protected:
     EsitoExport Esporta(const std::vector<QString>& codici = {}, bool sovrascrivi = false) {
         return EsportaMete({archive_, file_, codici, sovrascrivi}, progress_);
@@ -41,10 +41,7 @@ class Export : public ::testing::Test {
         Inserisci(archive_, Table::Itinerari, {u"000005"_s, u"0001"_s, u"Nizza"_s, u"210"_s});
     }
 
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
     QString file_ = cartella_.Percorso() + u"/viaggi di giugno.iei"_s;
-    Progress progress_;
 };
 
 TEST_F(Export, WritesAllTripsByNameAndStagesAsTheyAreStored) {

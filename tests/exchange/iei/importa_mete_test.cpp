@@ -19,14 +19,11 @@ using prova::Righe;
 using prova::Tappe;
 using ::testing::ElementsAre;
 
-class Import : public ::testing::Test {
+class Import : public prova::ConArchivio {
   protected:
     QStringList LeMete() { return Righe(archive_, Table::MeteVandro); }
     QStringList LeTappe() { return Righe(archive_, Table::Itinerari); }
     QStringList LaGuida() { return Righe(archive_, Table::GuidaCitta); }
-
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
 };
 
 TEST_F(Import, NewCodesClashNeitherWithStoredNorWithKeptOnes) {

@@ -40,22 +40,17 @@ QByteArray Tappe(const QByteArray& righe) {
 }
 QByteArray Voce(const QByteArray& campi) { return RecordVecchio(FormaVecchiaGuida(), campi); }
 
-class Conversione : public ::testing::Test {
+class Conversione : public prova::ConArchivio {
   protected:
     void Scrivi(const QString& nome, const QByteArray& byte) { ScriviFile(cartella_.Percorso() + u'/' + nome, byte); }
     EsitoConversione Converti(Progress& progress) {
         return ConvertiVecchiFile({archive_, cartella_.Percorso(), QDateTime({2027, 6, 5}, {10, 52})}, progress);
     }
-    EsitoConversione Converti() {
-        Progress progress;
-        return Converti(progress);
-    }
+    EsitoConversione Converti() { return Converti(progress_); }
     QStringList LeMete() { return Righe(archive_, Table::MeteVandro, mete::kCampi); }
     QStringList LeTappe() { return Righe(archive_, Table::Itinerari, itinerari::kCampi); }
     QStringList LaGuida() { return Righe(archive_, Table::GuidaCitta, guida::kCampi); }
 
-    prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
     const QString copie_ = u"Vecchi file 2027-06-05 10.52.00"_s;
 };
 
@@ -196,6 +191,9 @@ TEST_F(Conversione, AFileThatChangesMeanwhileIsConvertedAsItWasAndStays) {
     Scrivi(u"VandMete.dat"_s, Vecchia("ROMA", "1"));
     Scrivi(u"VandGuid.dat"_s, Voce("ROMA|1|Colosseo|0200|0"));
     AltroProgramma altro(cartella_.Percorso() + u"/VandMete.dat"_s);
+    prova::Fermata fermata;
+    EXPECT_EQ(TestoEsito(Converti(fermata)), u"Conversione interrotta: niente è stato convertito."_s);
+    EXPECT_EQ(LeMete().size(), 0);
     const QString testo = TestoEsito(Converti(altro));
     EXPECT_TRUE(testo.endsWith(u"VandMete.dat: è stato convertito ma non si può cancellare"_s)) << testo.toStdString();
     EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/VandMete.dat"_s), "nuovo");
