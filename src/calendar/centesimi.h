@@ -10,12 +10,15 @@ namespace cronovia {
 class Centesimi {
   public:
     constexpr Centesimi() = default;
+    /// So many hundredths; fractions of them are kept.
     constexpr explicit Centesimi(float valore) : valore_(valore) {}
     constexpr explicit Centesimi(double valore) : valore_(static_cast<float>(valore)) {}
     constexpr explicit Centesimi(int valore) : valore_(static_cast<float>(valore)) {}
 
+    /// The hundredths.
     [[nodiscard]] constexpr float Valore() const { return valore_; }
 
+    /// Times add, subtract and scale; none of it rounds to whole hundredths or ends at midnight.
     constexpr Centesimi& operator+=(Centesimi altro) {
         valore_ += altro.valore_;
         return *this;
@@ -34,6 +37,7 @@ class Centesimi {
 };
 
 inline namespace literals {
+/// `900_cent` is 9 hours.
 constexpr Centesimi operator""_cent(unsigned long long valore) { return Centesimi(static_cast<float>(valore)); }
 }  // namespace literals
 

@@ -21,10 +21,12 @@ struct Gma {
 class NumeroGiorno {
   public:
     constexpr NumeroGiorno() = default;
+    /// The day of that number, whether the calendar has it or not.
     constexpr explicit NumeroGiorno(int numero) : numero_(numero) {}
 
     [[nodiscard]] constexpr int Numero() const { return numero_; }
 
+    /// A day and a number of days make a day, two days the number of days between them.
     constexpr NumeroGiorno& operator+=(int giorni) {
         numero_ += giorni;
         return *this;

@@ -15,6 +15,7 @@ struct Durata {
     int ore = 0;
     int minuti = 0;
 
+    /// No time at all.
     [[nodiscard]] bool Nulla() const { return giorni == 0 && ore == 0 && minuti == 0; }
     friend bool operator==(const Durata&, const Durata&) = default;
 };

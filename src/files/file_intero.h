@@ -11,6 +11,7 @@ namespace cronovia {
 /// that was there stays. What goes wrong is a `Failure`.
 class FileIntero {
   public:
+    /// Begins the file beside its place.
     explicit FileIntero(const QString& path);
 
     /// For who writes through a device; what goes wrong there turns up in `Completa`.

@@ -23,6 +23,7 @@ struct StatoFile {
     friend bool operator==(const StatoFile&, const StatoFile&) = default;
 };
 
+/// Size and time of a file; never a `Failure`.
 StatoFile StatoDelFile(const QString& path);
 
 /// Hands over line after line, ended by CR LF or by LF alone, in a bounded amount of memory.
@@ -31,6 +32,7 @@ class LettoreRighe {
     /// A longer line is passed over.
     static constexpr qsizetype kMassimo = 64 * 1024;
 
+    /// Reads from where the device stands, which must outlive the reader.
     explicit LettoreRighe(QIODevice& device) : device_(device) {}
 
     /// Goes to the next line; false after the last one. A `Failure` when the device cannot be read.

@@ -63,6 +63,7 @@ std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QStri
 /// handed out once, to the first stage that asks for it.
 class LettoreGuida {
   public:
+    /// Reads the types now, the entries when they are asked for.
     explicit LettoreGuida(Archive& archive);
 
     /// The entries of all localities that the name, taken as a pattern, matches; by type code, then description.

@@ -9,8 +9,10 @@ namespace cronovia {
 /// Carries one Italian sentence, ready for the person. Whoever throws it has changed nothing.
 class Failure : public std::runtime_error {
   public:
+    /// Takes that sentence.
     explicit Failure(const QString& message) : std::runtime_error(message.toStdString()), message_(message) {}
 
+    /// The sentence.
     [[nodiscard]] const QString& Message() const { return message_; }
 
   private:

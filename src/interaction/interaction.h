@@ -5,6 +5,7 @@
 
 namespace cronovia {
 
+/// The picture beside the text of a box.
 enum class Icon { None, Information, Exclamation };
 
 /// A box with text and an OK button. Without a title, the face puts the program's name.
@@ -14,6 +15,7 @@ struct Message {
     Icon icon = Icon::None;
 };
 
+/// What a question was answered with; `Cancel` only where it was offered.
 enum class Answer { Yes, No, Cancel };
 
 /// A box with Yes and No, and with Cancel when that is offered.
@@ -31,7 +33,9 @@ class Interaction {
     Interaction& operator=(const Interaction&) = delete;
     virtual ~Interaction() = default;
 
+    /// Returns when the message was read.
     virtual void Show(const Message& message) = 0;
+    /// Returns with the answer.
     virtual Answer Ask(const Question& question) = 0;
     /// A message with a second button of that caption, which takes back what it tells of; true when it was pressed.
     virtual bool ShowUndoable(const Message& message, const QString& caption) = 0;

@@ -14,9 +14,11 @@ class Progress {
     Progress& operator=(const Progress&) = delete;
     virtual ~Progress() = default;
 
+    /// What is being done, for the person.
     virtual void Title(const QString& /*title*/) {}
     /// `count` of `total` items are done; both 0 when the procedure has ended.
     virtual void Advance(double /*count*/, double /*total*/) {}
+    /// Whether the person wants it to stop; asked often, so it must be cheap.
     virtual bool StopRequested() { return false; }
 };
 

@@ -22,6 +22,7 @@ struct Record {
     std::int64_t id = 0;
     std::vector<QString> values;
 
+    /// The value of a field, by its position in the table.
     [[nodiscard]] const QString& operator[](int field) const { return values[static_cast<std::size_t>(field)]; }
     [[nodiscard]] QString& operator[](int field) { return values[static_cast<std::size_t>(field)]; }
 };
@@ -69,6 +70,7 @@ class Archive {
     std::optional<Record> SelectFirst(const Search& search);
     /// The id of one of the rows found, whichever comes up first.
     std::optional<std::int64_t> Find(const Search& search);
+    /// Whether there is such a row.
     bool Exists(const Search& search) { return Find(search).has_value(); }
 
     /// Hands over row after row of a table, in the order in which they were added, without holding more than one.
@@ -79,6 +81,7 @@ class Archive {
     void ForEachMatch(Table table, int field, std::span<const NamePattern> patterns,
                       const std::function<void(std::size_t, Record&&)>& visit);
 
+    /// How many rows a table has.
     std::int64_t Count(Table table);
 
     /// Rows that searches have looked at so far, found or not.
@@ -90,6 +93,7 @@ class Archive {
         std::int64_t own = 0;
         friend bool operator==(const Mark&, const Mark&) = default;
     };
+    /// The mark of this moment.
     Mark PresentMark();
     /// Its part about this object, known without asking the file.
     [[nodiscard]] std::int64_t OwnChanges() const;
@@ -101,6 +105,7 @@ class Archive {
     /// than its field is refused.
     std::int64_t Insert(Table table, std::span<const QString> values);
     void Update(Table table, const Record& record);
+    /// Deletes the row with that id, if there is one.
     void Delete(Table table, std::int64_t id);
     /// Deletes the rows whose ids are greater than `after` and at most `last`.
     void DeleteRange(Table table, std::int64_t after, std::int64_t last);
@@ -126,6 +131,7 @@ class Archive {
 /// it is part of that. Nothing can be written within it: that is an error of the program, a `std::logic_error`.
 class ReadSnapshot {
   public:
+    /// The moment is that of the first reading.
     explicit ReadSnapshot(Archive& archive);
     ReadSnapshot(const ReadSnapshot&) = delete;
     ReadSnapshot& operator=(const ReadSnapshot&) = delete;

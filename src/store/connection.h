@@ -30,12 +30,14 @@ auto Guarded(const QString& path, Action&& action) {
     }
 }
 
+/// The text of a column of the row under way, counted from 0; empty for NULL.
 inline QString ColumnText(const SQLite::Statement& statement, int column) {
     const SQLite::Column value = statement.getColumn(column);
     const char* text = value.getText("");
     return QString::fromUtf8(text, value.getBytes());
 }
 
+/// Binds a text to the parameter of that number, counted from 1.
 inline void BindText(SQLite::Statement& statement, int index, QStringView text) {
     const QByteArray utf8 = text.toUtf8();
     statement.bind(index, std::string(utf8.constData(), static_cast<std::size_t>(utf8.size())));
@@ -43,9 +45,12 @@ inline void BindText(SQLite::Statement& statement, int index, QStringView text) 
 
 class Archive::Connection {
   public:
+    /// Opens the file, which is made when it is missing. Throws what the database throws.
     explicit Connection(const QString& path);
 
+    /// The file, for messages.
     [[nodiscard]] const QString& Path() const { return path_; }
+    /// For what `Prepared` is not made for.
     SQLite::Database& Database() { return database_; }
 
     /// A statement ready to be bound; it stays prepared for the next time.
@@ -54,7 +59,9 @@ class Archive::Connection {
     /// The same for a statement that changes the archive; a `std::logic_error` while one moment of it is being read.
     SQLite::Statement& ForWriting(const std::string& sql);
 
+    /// Whether a transaction or a read snapshot is open.
     [[nodiscard]] bool InTransaction() const;
+    /// The two ends of a read snapshot, the outermost one.
     void BeginReading();
     void EndReading();
 

@@ -23,6 +23,7 @@ class NameIndex {
 
     static constexpr QChar kJoin{0x1F};
 
+    /// Tells of a row that was written; `values` has a value for every field of the table.
     void Add(std::int64_t id, const std::vector<QString>& values);
 
     /// The id of a row whose name matches.

@@ -14,6 +14,7 @@ namespace cronovia {
 /// case are the same in every script, accents count.
 class NamePattern {
   public:
+    /// Every text is a pattern.
     explicit NamePattern(QStringView pattern);
 
     /// The pattern that only this text matches, whatever wildcards it holds.
@@ -23,6 +24,7 @@ class NamePattern {
     /// it holds a "#" or a "[".
     static NamePattern ForName(QStringView name);
 
+    /// Whether the whole text is one that the pattern stands for.
     [[nodiscard]] bool Matches(QStringView text) const;
 
     /// The pattern of the texts that begin with one of this pattern's and end with one of `next`.

@@ -99,6 +99,7 @@ struct FieldDefinition {
     int width = 0;
 };
 
+/// A table as it is declared in the file.
 struct TableDefinition {
     QString name;
     std::vector<FieldDefinition> fields;  ///< in the order of the table's columns

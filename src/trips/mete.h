@@ -47,6 +47,7 @@ struct MetaInElenco {
     friend bool operator==(const MetaInElenco&, const MetaInElenco&) = default;
 };
 
+/// Which trips a list has.
 enum class QualiMete { Tutte, ConTappe };
 
 /// The trips by their destinations, all of them or those that have a destination and stored stages.
@@ -69,6 +70,7 @@ void CompletaDefaultMeta(Archive& archive);
 
 /// Code of the trip that was current last; when it is gone, the highest code; the empty text without any trip.
 QString RicercaMetaCorrente(Archive& archive);
+/// Remembers which trip is current; within a transaction of the caller, or as a change of its own.
 void SalvaIlCodiceMetaCorrente(Archive& archive, const QString& codice);
 
 }  // namespace cronovia

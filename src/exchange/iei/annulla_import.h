@@ -10,6 +10,7 @@ namespace cronovia {
 
 /// What an import added, which is all that it changed, and how the archive looked right after it.
 struct TracciaImport {
+    /// The rows that one table got.
     struct Righe {
         Table tabella = Table::MeteVandro;
         std::int64_t dopo = 0;  ///< the rows have greater ids than this
@@ -25,7 +26,9 @@ void AnnullaImport(Archive& archive, const TracciaImport& traccia);
 /// Notes the rows that are added within a transaction of the caller, between construction and `Fine`.
 class OsservaAggiunte {
   public:
+    /// From here on.
     explicit OsservaAggiunte(Archive& archive);
+    /// What was added up to now; asked once.
     TracciaImport Fine();
 
   private:

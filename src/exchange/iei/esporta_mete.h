@@ -9,6 +9,7 @@
 
 namespace cronovia {
 
+/// What to export and whereto.
 struct RichiestaExport {
     Archive& archive;
     QString path;
@@ -17,6 +18,7 @@ struct RichiestaExport {
     bool saltaMancanti = false;   ///< codes of trips that are no more are passed over, as long as one is left
 };
 
+/// What an export did.
 struct EsitoExport {
     QString path;
     bool interrotta = false;  ///< the person stopped it: no file was written, all that follows is 0

@@ -15,6 +15,7 @@
 
 namespace cronovia {
 
+/// What to import.
 struct RichiestaImport {
     Archive& archive;
     QString path;

@@ -17,6 +17,7 @@ enum class StatoMeta {
     Scartata,  ///< its destination was stored already
 };
 
+/// A trip on its way from the file into the archive.
 struct MetaDaImportare {
     QString codice;  ///< in the archive
     StatoMeta stato = StatoMeta::NonScelta;

@@ -13,6 +13,7 @@ class CampiPercorso {
   public:
     static constexpr int kMassimo = 20;
 
+    /// The field of a number from 1 to 20.
     [[nodiscard]] const QString& operator[](int numero) const { return campi_[static_cast<std::size_t>(numero)]; }
     [[nodiscard]] QString& operator[](int numero) { return campi_[static_cast<std::size_t>(numero)]; }
 

@@ -16,6 +16,7 @@ class LettorePercorso {
     LettorePercorso& operator=(const LettorePercorso&) = delete;
     virtual ~LettorePercorso() = default;
 
+    /// Takes the next line; its stage, when it ends one, goes to the destination.
     virtual void Leggi(const CampiPercorso& colonne) = 0;
 };
 

@@ -13,6 +13,7 @@ namespace cronovia {
 /// Windows-1252. Needs a bounded amount of memory whatever the file holds.
 class RigheTesto {
   public:
+    /// Looks at the beginning of the device, which must outlive it.
     explicit RigheTesto(QIODevice& device);
     RigheTesto(const RigheTesto&) = delete;
     RigheTesto& operator=(const RigheTesto&) = delete;

@@ -9,6 +9,7 @@
 
 namespace cronovia {
 
+/// A road that a stage was reached by.
 struct StradaLetta {
     QString nome;
     int km = 0;  ///< travelled on it, as far as the export tells
@@ -31,15 +32,19 @@ class TappaInCorso {
     static constexpr int kMassimoStrade = 101;  ///< of one stage; what comes beyond is left out
     static constexpr int kMassimoNome = 200;    ///< characters of a name; what comes beyond is left out
 
+    /// Stages go to the destination, in their order.
     explicit TappaInCorso(DestinazioneTappe destinazione) : destinazione_(std::move(destinazione)) {}
 
+    /// Notes a road of the stage under way, with its kilometres; one that was met before counts once.
     void Percorre(const QString& strada, int km);
+    /// The stage under way is reached by a ferry.
     void SiImbarca() { tappa_.traghetto = true; }
 
     /// The cumulative distance of a line. One smaller than the last restarted from zero and is added to it.
     void Avanza(int km);
 
     [[nodiscard]] bool AlVia() const { return alVia_; }  ///< no stage was reached yet
+    /// Kilometres since the last stage, whatever `Avanza` was told.
     [[nodiscard]] std::int64_t KmDallUltimaTappa() const { return kmBase_ + kmRiga_ - kmUltimaTappa_; }
     /// Whether the text names a place, and not that of the last stage.
     [[nodiscard]] bool Nuova(QStringView localita) const;

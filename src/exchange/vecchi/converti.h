@@ -10,18 +10,21 @@
 
 namespace cronovia {
 
+/// What to convert.
 struct RichiestaConversione {
     Archive& archive;
     QString cartella;  ///< of the old files; their copies stay in a folder in it
     QDateTime adesso;
 };
 
+/// What a conversion did.
 struct EsitoConversione {
     bool interrotta = false;  ///< the person stopped it: nothing was converted, all that follows is empty
     qint64 mete = 0;
     qint64 tappe = 0;
     qint64 voci = 0;    ///< of the city guide
     qint64 guasti = 0;  ///< records left out
+    /// A file that the person should look after, and why.
     struct FileLasciato {
         QString nome;
         QString perche;

@@ -13,9 +13,11 @@ struct FormaRecord {
     int lunghezza = 0;
     std::vector<int> campi;
 
+    /// Characters of all fields together.
     [[nodiscard]] int LunghezzaCampi() const;
 };
 
+/// A record as it was read.
 struct RecordFisso {
     std::vector<QString> campi;  ///< character by character, but for the blanks at their end; zero bytes are blanks
     bool guasto = false;         ///< holds characters that no program writes into a text

@@ -35,6 +35,7 @@ class VecchiFile {
 
     /// The copies stay; their folder is empty when there are none.
     void Tieni() { tenuti_ = true; }
+    /// Path of the folder of the copies; empty before the first one.
     [[nodiscard]] const QString& CartellaCopie() const { return copie_; }
 
     /// Removes a file that is still what its copy is; else it stays and false is returned.

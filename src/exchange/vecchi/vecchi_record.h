@@ -16,7 +16,7 @@ enum class StatoRecord {
     Guasto,  ///< cannot be what it should
 };
 
-/// Trips, one per record.
+/// Trips, one per record: the form of their records, and what one of them is.
 const FormaRecord& FormaVecchieMete();
 StatoRecord StatoVecchiaMeta(const RecordFisso& record);
 /// The first fields of `MeteVandro`, from the code to `FineVisita`, as a valid record has them.
@@ -31,7 +31,7 @@ StatoRecord StatoVecchiaTappa(const RecordFisso& record);
 /// The fields of `Itinerari` from `Localita` to `TempoSosta`, as a valid record has them.
 std::vector<QString> ValoriVecchiaTappa(const RecordFisso& record);
 
-/// Guide entries, one per record.
+/// Guide entries, one per record: the form of their records, and what one of them is.
 const FormaRecord& FormaVecchiaGuida();
 StatoRecord StatoVecchiaVoce(const RecordFisso& record);
 /// All fields of `GuidaCitta`, as a valid record has them.
