@@ -119,9 +119,9 @@ void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {
 // One box around all, a light band behind the captions, a rule between two groups.
 void TracciaCornice(Foglio& foglio, double alto, double basso) {
     const double larghezza = kGruppi.back() - kGruppi.front();
-    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, 4.1}, Tratto::Sottile, true});
-    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, basso - alto}, Tratto::Medio});
-    for (const std::size_t i : {1U, 2U}) foglio.Traccia(Linea{kGruppi[i], alto, kGruppi[i], basso, Tratto::Sottile});
+    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, 4.1}, Filetto::Sottile, true});
+    foglio.Traccia(Riquadro{{kGruppi.front(), alto, larghezza, basso - alto}, Filetto::Medio});
+    for (const std::size_t i : {1U, 2U}) foglio.Traccia(Linea{kGruppi[i], alto, kGruppi[i], basso, Filetto::Sottile});
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ void Foglio::StampaFinePagina(std::span<const int> bordi) {
     StampaTesto({piede_.oggi.toString(u"dd/MM/yyyy"_s), y, primo, static_cast<double>(bordi[3]), data});
     StampaTesto({piede_.destra, y, primo, ultimo + kRientroDestra, kCarattereDelPiede, Allineamento::Destra});
     rigaStampa_ -= kAltezzaRiga;
-    Traccia(Linea{primo, static_cast<double>(rigaStampa_), ultimo, static_cast<double>(rigaStampa_), Tratto::Spesso});
+    Traccia(Linea{primo, static_cast<double>(rigaStampa_), ultimo, static_cast<double>(rigaStampa_), Filetto::Spesso});
     rigaStampa_ = kNessunaPagina;
 }
 

@@ -39,13 +39,13 @@ struct Linea {
     double y1 = 0;
     double x2 = 0;
     double y2 = 0;
-    Tratto tratto = Tratto::Sottile;
+    Filetto filetto = Filetto::Sottile;
 };
 
 /// An outlined rectangle, or a light filled one without outline.
 struct Riquadro {
     QRectF area;
-    Tratto tratto = Tratto::Sottile;
+    Filetto filetto = Filetto::Sottile;
     bool sfondo = false;
 };
 

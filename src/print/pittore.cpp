@@ -15,20 +15,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-double Spessore(Tratto tratto) {
-    switch (tratto) {
-        case Tratto::Spesso:
+double Spessore(Filetto filetto) {
+    switch (filetto) {
+        case Filetto::Spesso:
             return 0.35;
-        case Tratto::Medio:
+        case Filetto::Medio:
             return 0.2;
-        case Tratto::Sottile:
+        case Filetto::Sottile:
             break;
     }
     return 0.1;
 }
 
 // Thin rules are grey: they lead the eye and leave the texts the word.
-QColor Colore(Tratto tratto) { return tratto == Tratto::Sottile ? QColor(120, 120, 120) : QColor(Qt::black); }
+QColor Colore(Filetto filetto) { return filetto == Filetto::Sottile ? QColor(120, 120, 120) : QColor(Qt::black); }
 
 // In the units of the fonts: one coordinate system for texts and lines.
 double Unita(double millimetri) { return millimetri * kUnitaMillimetro; }
@@ -72,7 +72,7 @@ class Pittore {
     void Dipingi(const Pagina& pagina) {
         for (const Riquadro& riquadro : pagina.riquadri) Dipingi(riquadro);
         for (const Linea& linea : pagina.linee) {
-            Penna(linea.tratto);
+            Penna(linea.filetto);
             pennello_.drawLine(Punto(linea.x1, linea.y1), Punto(linea.x2, linea.y2));
         }
         for (const Immagine& immagine : pagina.immagini) Dipingi(immagine);
@@ -88,8 +88,8 @@ class Pittore {
     }
 
   private:
-    void Penna(Tratto tratto) {
-        pennello_.setPen(QPen(Colore(tratto), Unita(Spessore(tratto)), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    void Penna(Filetto filetto) {
+        pennello_.setPen(QPen(Colore(filetto), Unita(Spessore(filetto)), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     }
 
     void Dipingi(const Riquadro& riquadro) {
@@ -97,7 +97,7 @@ class Pittore {
             pennello_.fillRect(Area(riquadro.area), QColor(235, 235, 235));
             return;
         }
-        Penna(riquadro.tratto);
+        Penna(riquadro.filetto);
         pennello_.drawRect(Area(riquadro.area));
     }
 

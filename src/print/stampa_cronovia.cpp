@@ -84,7 +84,7 @@ class StampaRighe {
             StampaIntestaPagina();
         } else {
             // Under the row before: the last one of a page has the closing rule.
-            Traversa(foglio_.RigaStampa() - kAltezzaRiga + kSottoIlTesto, Tratto::Sottile, Bordo(15));
+            Traversa(foglio_.RigaStampa() - kAltezzaRiga + kSottoIlTesto, Filetto::Sottile, Bordo(15));
         }
         for (int i = 0; i < kColonneStampate; ++i) StampaValore(i, riga, sostaDopo);
         StampaLimite(riga.testi[Colonna::LimiteRitorno].trimmed());
@@ -94,7 +94,7 @@ class StampaRighe {
 
     // The closing rule begins at the first border; what stands left of it is closed as well.
     void StampaFinePagina() {
-        if (foglio_.PaginaAperta()) Traversa(foglio_.RigaStampa() - kAltezzaRiga, Tratto::Spesso, Bordo(0));
+        if (foglio_.PaginaAperta()) Traversa(foglio_.RigaStampa() - kAltezzaRiga, Filetto::Spesso, Bordo(0));
         foglio_.StampaFinePagina(kBordiCronovia);
     }
 
@@ -102,8 +102,8 @@ class StampaRighe {
     [[nodiscard]] const Stampato& Scritto() const { return foglio_.Scritto(); }
 
   private:
-    void Traversa(double y, Tratto tratto, double fine) {
-        foglio_.Traccia(Linea{kSinistraCronovia, y, fine, y, tratto});
+    void Traversa(double y, Filetto filetto, double fine) {
+        foglio_.Traccia(Linea{kSinistraCronovia, y, fine, y, filetto});
     }
 
     void StampaIntestaPagina();
@@ -139,7 +139,7 @@ void StampaRighe::StampaTitolo() {
     constexpr double kNome = 29;
     constexpr double kNazione = 124;
     constexpr double kPagina = 170;
-    foglio_.Traccia(Riquadro{{kSinistraCronovia, 3, Bordo(15) - kSinistraCronovia, 12}, Tratto::Medio});
+    foglio_.Traccia(Riquadro{{kSinistraCronovia, 3, Bordo(15) - kSinistraCronovia, 12}, Filetto::Medio});
     foglio_.StampaLogo({kSinistraCronovia + 1.5, 3.75, 21, 10.5});
     foglio_.Avanza(8);
     const Carattere nome{Famiglia::Times, 11, true};
@@ -225,7 +225,7 @@ void StampaRighe::StampaCodice(const RigaGriglia& riga) {
     if (!codice) return;
     constexpr double kLato = 4;
     const double y = foglio_.RigaStampa();
-    foglio_.Traccia(Riquadro{{Bordo(15), y - kAltezzaRiga, kLato, static_cast<double>(kAltezzaRiga)}, Tratto::Medio});
+    foglio_.Traccia(Riquadro{{Bordo(15), y - kAltezzaRiga, kLato, static_cast<double>(kAltezzaRiga)}, Filetto::Medio});
     foglio_.StampaTesto({*codice, y - 1, Bordo(15) + 1, Bordo(15) + kLato + 1, {Famiglia::ArialNarrow, 7}, Centro});
 }
 

@@ -98,7 +98,7 @@ void StampaPagine::StampaIntestaPagina() {
     const double primo = bordi_.front();
     const double ultimo = bordi_.back();
     foglio_.ApriPagina(kRigaTitolo);
-    foglio_.Traccia(Riquadro{{primo, 3, ultimo - primo, kRigaTitolo - 3}, Tratto::Medio});
+    foglio_.Traccia(Riquadro{{primo, 3, ultimo - primo, kRigaTitolo - 3}, Filetto::Medio});
     foglio_.StampaLogo({primo + 1.5, 3.75, 21, 10.5});
     const QString titolo = TitoloStampaGuida(dati_);
     const double x1 = primo + 24;
@@ -116,7 +116,7 @@ void StampaPagine::StampaIntestaPagina() {
     }
     const double y = foglio_.RigaStampa();
     foglio_.Traccia(Linea{primo, static_cast<double>(cimaTabella_), ultimo, static_cast<double>(cimaTabella_)});
-    foglio_.Traccia(Linea{primo, y, ultimo, y, Tratto::Spesso});
+    foglio_.Traccia(Linea{primo, y, ultimo, y, Filetto::Spesso});
     foglio_.Avanza(kAltezzaRiga);
     colonna_ = 0;
 }

@@ -139,7 +139,7 @@ RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione) {
         case GenereRiga::Tappa:
             testi[Colonna::Tappa] = tabella.tappa.localita;
             break;
-        case GenereRiga::Tratto:
+        case GenereRiga::Marcia:
             ScriviTratto(cronovia, riga, tabella.tappa, testi);
             break;
         case GenereRiga::Sosta:

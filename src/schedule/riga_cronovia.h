@@ -17,13 +17,13 @@ namespace cronovia {
 /// What a row tells of.
 enum class GenereRiga : std::uint8_t {
     Tappa,   ///< a stage without driving or stop: only its name
-    Tratto,  ///< a driving piece
+    Marcia,  ///< a driving piece
     Sosta,   ///< a stop, a visit or a ferry
     Guida,   ///< an entry of the city guide
 };
 
 /// Whether rows of this kind have a day and an hour.
-constexpr bool ConMomento(GenereRiga genere) { return genere == GenereRiga::Tratto || genere == GenereRiga::Sosta; }
+constexpr bool ConMomento(GenereRiga genere) { return genere == GenereRiga::Marcia || genere == GenereRiga::Sosta; }
 
 /// What happens at the end of a driving piece, in the order in which it happens.
 struct Eventi {
@@ -46,7 +46,7 @@ struct LimiteRitorno {
 
 /// A row of the schedule. What does not belong to its kind is empty or 0.
 struct RigaCronovia {
-    GenereRiga genere = GenereRiga::Tratto;
+    GenereRiga genere = GenereRiga::Marcia;
     bool verso = false;       ///< the leg goes on after this piece
     bool riposoDopo = false;  ///< whole rest days follow
     bool fineGiorno = false;  ///< the stop lasts until the day's end

@@ -93,7 +93,7 @@ class Simulazione {
         orologio_.ora += pezzo.tempo;
         kmProgressivi_ += pezzo.km;
         passata_.totali.Aggiunge(tipo, pezzo.km, pezzo.tempo);
-        RigaCronovia& riga = NuovaRiga(GenereRiga::Tratto, indice);
+        RigaCronovia& riga = NuovaRiga(GenereRiga::Marcia, indice);
         riga.verso = pezzo.km < resto;
         riga.km = pezzo.km;
         riga.kmProgressivi = kmProgressivi_;
