@@ -20,7 +20,7 @@ DatiStampa RigheGenerate(int numero) {
     dati.meta.nazione = u"NORVEGIA"_s;
     dati.meta.dataInizio = NumeroGiorno(740000);
     for (int i = 0; i < numero; ++i) {
-        const GenereRiga genere = i % 3 == 2 ? GenereRiga::Guida : i % 3 == 1 ? GenereRiga::Sosta : GenereRiga::Tratto;
+        const GenereRiga genere = i % 3 == 2 ? GenereRiga::Guida : i % 3 == 1 ? GenereRiga::Sosta : GenereRiga::Marcia;
         RigaGriglia riga;
         riga[Colonna::Numero] = QString::number(i + 1);
         if (i % 3 == 2) {

@@ -126,7 +126,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
         if (Vuota(tappa)) continue;
         if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
         if (tappa.numStrada.size() > Larghezza(itinerari::NomeStrada)) ++esito.nomiAccorciati;
-        const QString visite = ghmCentesimi2Stringa(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
+        const QString visite = Testo(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
         MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
     }
     transaction.Commit();

@@ -20,7 +20,7 @@ struct Totali {
     int traghetti = 0;                               ///< legs by ferry, with kilometres or without
 
     /// Adds a driven piece to its type and to all types.
-    void Aggiunge(TipoStrada tipo, int kmTratto, Centesimi tempoTratto);
+    void Aggiunge(TipoStrada tipo, int kmTratta, Centesimi tempoTratta);
 };
 /// The place of all types together.
 inline constexpr std::size_t kTuttiITipi = kTipiStrada;

@@ -14,7 +14,7 @@ namespace cronovia {
 
 /// A row of the schedule: what it is, and its texts as the grid shows them.
 struct RigaStampata {
-    GenereRiga genere = GenereRiga::Tratto;
+    GenereRiga genere = GenereRiga::Marcia;
     bool riposo = false;  ///< a short rest follows
     RigaGriglia testi;    ///< without a locality the row is not printed
 };

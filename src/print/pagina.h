@@ -31,7 +31,7 @@ struct TestoPosto {
 };
 
 /// How thick a rule is; thin ones are grey.
-enum class Tratto : std::uint8_t { Sottile, Medio, Spesso };
+enum class Filetto : std::uint8_t { Sottile, Medio, Spesso };
 
 /// A straight rule between two points.
 struct Linea {

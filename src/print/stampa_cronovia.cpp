@@ -171,7 +171,7 @@ void StampaRighe::StampaIntestazioni() {
                              larga ? piccolo : grande, colonna.allineamentoIntestazione});
     }
     foglio_.StampaTesto({testi[Colonna::LimiteRitorno], yPiccolo, Bordo(12), Bordo(15), piccolo, Centro});
-    Traversa(y + 1.1, Tratto::Spesso, Bordo(15));
+    Traversa(y + 1.1, Filetto::Spesso, Bordo(15));
 }
 
 void StampaRighe::StampaValore(int colonna, const RigaStampata& riga, bool sostaDopo) {

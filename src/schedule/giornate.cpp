@@ -11,7 +11,7 @@ namespace {
 // Where one is when a row with a moment has ended.
 QString Luogo(const Cronovia& cronovia, const RigaCronovia& riga) {
     const QString& localita = cronovia.tabella.righe[static_cast<std::size_t>(riga.tappa)].tappa.localita;
-    return riga.genere == GenereRiga::Tratto && riga.verso ? u"verso "_s + localita : localita;
+    return riga.genere == GenereRiga::Marcia && riga.verso ? u"verso "_s + localita : localita;
 }
 
 // Where the schedule ends: with its last moment, though nothing happens any more on that day.

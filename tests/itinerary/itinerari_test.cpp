@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "righe.h"
+#include "support/archivio.h"
 
 namespace cronovia {
 namespace {
@@ -21,13 +22,13 @@ class ItinerariTest : public prova::ConArchivio {
         prova::NellaGuida(archive_, localita, u"01"_s, u"Duomo"_s, tempo);
     }
     EsitoMemorizzazione Memorizza(const RigheItinerario& tappe) {
-        return MemorizzaTappeItinerario(archive_, u"000001"_s, tappe, {}, progresso_);
+        return MemorizzaTappeItinerario(archive_, u"000001"_s, tappe, {}, progress_);
     }
     std::vector<Tappa> Carica() { return CaricaTappeItinerario(archive_, u"000001"_s, {}); }
     QStringList Record() {
         QStringList righe;
         for (const auto& record : RecordDellItinerario(archive_, u"000001"_s)) {
-            righe += QStringList(record.valori.begin() + 1, record.valori.end()).join(u'|');
+            righe += QStringList(record.values.begin() + 1, record.values.end()).join(u'|');
         }
         return righe;
     }
@@ -37,7 +38,7 @@ TEST_F(ItinerariTest, ALongStageTakesSeveralRowsAndTheGuideTimesStandAtTheFirst)
     Aggiungi(u"SANT'ANNA"_s, u"08:00"_s);
     Aggiungi(u"Sant'Anna"_s, u"02:30"_s);
     Aggiungi(u"ROMA"_s, u"00:20"_s);
-    MemorizzaTappeItinerario(archive_, u"000002"_s, Righe(u"ALTROVE"_s), {}, progresso_);
+    MemorizzaTappeItinerario(archive_, u"000002"_s, Righe(u"ALTROVE"_s), {}, progress_);
     const RigheItinerario righe = Righe(u"roma SANT?ANNA/S1/2500/* ALTA//999 - BODØ//1000 SANT'ANNA ROMA/TRAGH/0"_s);
     EXPECT_EQ(Memorizza(righe).record, 9);
     EXPECT_EQ(Record(),
@@ -82,7 +83,7 @@ TEST_F(ItinerariTest, StoredRowsOfOtherHandsAreRead) {
           {u"0001"_s, u"Bra"_s},
           {u"0003"_s, u" "_s, u"77"_s}}) {
         const std::array<QString, 9> valori = {u"000001"_s, sequenza, localita, km, strada, u"a"_s, sosta};
-        archive_.Insert(Tabella::Itinerari, valori);
+        archive_.Insert(Table::Itinerari, valori);
     }
     const std::vector<Tappa> tappe = Carica();
     ASSERT_EQ(tappe.size(), 2U);

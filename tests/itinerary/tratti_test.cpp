@@ -63,7 +63,7 @@ TEST(Tratti, TheHighlightWidensToTheRowThatIsClicked) {
     struct Caso {
         std::optional<int> inizio, fine;
         int corrente;
-        Percorso evidenziato;
+        Tratto evidenziato;
     };
     for (const Caso& c : {Caso{{}, {}, 4, {4, 4}}, {3, {}, 6, {3, 6}}, {{}, 6, 2, {2, 6}}, {5, 2, 1, {1, 5}}}) {
         EXPECT_EQ(TrattoEvidenziato(c.inizio, c.fine, c.corrente), c.evidenziato);

@@ -27,15 +27,15 @@ QString Stile(const Carattere& c) {
 
 QString Testo(const Stampato& documento) {
     static const QStringList tratti = {u"sottile"_s, u"medio"_s, u"spesso"_s};
-    const auto tratto = [](Tratto t) { return tratti[static_cast<int>(t)]; };
+    const auto filetto = [](Filetto t) { return tratti[static_cast<int>(t)]; };
     QString testo = documento.titolo + u'\n';
     for (const Pagina& pagina : documento.pagine) {
         testo += u"\npagina\n"_s;
         for (const Riquadro& r : pagina.riquadri) {
-            testo += u"riquadro %1 %2\n"_s.arg(Posto(r.area), r.sfondo ? u"sfondo"_s : tratto(r.tratto));
+            testo += u"riquadro %1 %2\n"_s.arg(Posto(r.area), r.sfondo ? u"sfondo"_s : filetto(r.filetto));
         }
         for (const Linea& l : pagina.linee) {
-            testo += u"linea %1 %2\n"_s.arg(Posto({l.x1, l.y1, l.x2 - l.x1, l.y2 - l.y1}), tratto(l.tratto));
+            testo += u"linea %1 %2\n"_s.arg(Posto({l.x1, l.y1, l.x2 - l.x1, l.y2 - l.y1}), filetto(l.filetto));
         }
         for (const Immagine& i : pagina.immagini) testo += u"immagine %1 %2\n"_s.arg(Posto(i.area), i.sorgente);
         for (const TestoPosto& t : pagina.testi) {

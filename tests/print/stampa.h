@@ -18,7 +18,7 @@ constexpr double kPrimaRiga = 50;  // above it: the header
 inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
 
 inline RigaStampata Riga(const QString& localita, const QString& sosta = {}, const QString& note = {},
-                         GenereRiga genere = GenereRiga::Tratto) {
+                         GenereRiga genere = GenereRiga::Marcia) {
     RigaStampata riga{genere, note.contains(u"Riposo"_s), {}};
     riga.testi[Colonna::Tappa] = localita;
     riga.testi[Colonna::Sosta] = sosta;

@@ -8,7 +8,7 @@
 #include <QDir>
 
 #include "app/sessione.h"
-#include "exchange/importa_mete.h"
+#include "exchange/iei/importa_mete.h"
 #include "itinerary/itinerari.h"
 #include "schedule/colonne.h"
 #include "schedule/giornate.h"
@@ -81,8 +81,8 @@ class Viaggi : public testing::Test {
     // The archive holds the trip of one file at a time.
     MetaAperta Importa(const QString& path, const QString& codice) {
         Transaction transaction(sessione_.Archivio());
-        for (const Tabella tabella : {Tabella::MeteVandro, Tabella::Itinerari, Tabella::GuidaCitta}) {
-            sessione_.Archivio().CancellaTabella(tabella, {}, progress_);
+        for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta}) {
+            sessione_.Archivio().DeleteMatching(tabella, {}, progress_);
         }
         transaction.Commit();
         ImportaMete({sessione_.Archivio(), path, {}}, progress_);
