@@ -13,7 +13,13 @@ constexpr std::int64_t kMassimo = std::numeric_limits<int>::max();
 
 bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 
-QString Zero(int valore, int lunghezza) { return AntStr(QString::number(valore), lunghezza, u'0'); }
+QString Zero(int valore, int lunghezza) {
+    if (valore < 0) return AntStr(QString::number(valore), lunghezza, u'0');
+    QString cifre(lunghezza, u'0');
+    QChar* cifra = cifre.data() + lunghezza;
+    for (; valore > 0 && cifra != cifre.data(); valore /= 10) *--cifra = QChar(u'0' + valore % 10);
+    return cifre;
+}
 
 QString AggStr(QStringView testo, int lunghezza, QChar riempimento) {
     return (testo.toString() + QString(lunghezza, riempimento)).left(lunghezza);

@@ -15,6 +15,12 @@ TabellaTesti TestiDellaGriglia(const RigaGriglia& intestazioni, const std::vecto
     return tabella;
 }
 
+void ScriviRighe(const std::vector<RigaGriglia>& righe, ScrittoreJson& json) {
+    json.ApreArray();
+    for (const RigaGriglia& riga : righe) json.Testi(riga);
+    json.ChiudeArray();
+}
+
 QString TitoloMeta(const Meta& meta) {
     QString titolo = meta.localita;
     if (!meta.nazione.isEmpty()) titolo += u" (%1)"_s.arg(meta.nazione);

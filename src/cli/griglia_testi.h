@@ -4,6 +4,7 @@
 #include <QString>
 #include <vector>
 
+#include "cli/json.h"
 #include "cli/uscita.h"
 #include "schedule/colonne.h"
 #include "trips/meta.h"
@@ -12,6 +13,9 @@ namespace cronovia {
 
 /// All columns of the grid, in its order.
 TabellaTesti TestiDellaGriglia(const RigaGriglia& intestazioni, const std::vector<RigaGriglia>& righe);
+
+/// The same rows as an array of arrays of texts.
+void ScriviRighe(const std::vector<RigaGriglia>& righe, ScrittoreJson& json);
 
 /// "CAPO NORD (NORVEGIA), partenza Sab 05/06/2027 ore 08:30".
 QString TitoloMeta(const Meta& meta);

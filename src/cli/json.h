@@ -1,9 +1,8 @@
 // Results as JSON.
 #pragma once
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QJsonValue>
+#include <QString>
+#include <QStringView>
 #include <QTextStream>
 #include <span>
 #include <vector>
@@ -13,14 +12,44 @@
 
 namespace cronovia {
 
+/// Writes a document as it goes, a value to a line, four blanks deeper within each bracket. The caller names the
+/// members of an object in the order of the alphabet, and closes what it opened.
+class ScrittoreJson {
+  public:
+    explicit ScrittoreJson(QTextStream& uscita) : uscita_(uscita) {}
+    ScrittoreJson(const ScrittoreJson&) = delete;
+    ScrittoreJson& operator=(const ScrittoreJson&) = delete;
+    ~ScrittoreJson();
+
+    void ApreOggetto() { Apre(u'{'); }
+    void ChiudeOggetto() { Chiude(u'}'); }
+    void ApreArray() { Apre(u'['); }
+    void ChiudeArray() { Chiude(u']'); }
+
+    /// Before the value of a member.
+    void Nome(QStringView nome);
+    void Testo(QStringView testo);
+    void Numero(int numero);
+
+    /// Texts as an array of strings.
+    void Testi(std::span<const QString> testi);
+
+  private:
+    void Apre(QChar parentesi);
+    void Chiude(QChar parentesi);
+    void Posto();
+    void FraVirgolette(QStringView testo);
+
+    QTextStream& uscita_;
+    QString scritto_;
+    int rientro_ = 0;
+    bool primo_ = true;      // of its array or object
+    bool dopoNome_ = false;  // a value on the line of its name
+};
+
 /// Records as objects with their field names; blanks at the rim of a value, which only stand for an empty one, go.
-QJsonArray JsonDeiRecord(Table tabella, const std::vector<Record>& record);
+void ScriviRecord(Table tabella, const std::vector<Record>& record, ScrittoreJson& json);
 
-/// Texts as an array of strings.
-QJsonArray JsonDeiTesti(std::span<const QString> testi);
-
-QJsonObject JsonDeiTotali(const TestiTotali& totali);
-
-void ScriviJson(const QJsonValue& valore, QTextStream& uscita);
+void ScriviTotali(const TestiTotali& totali, ScrittoreJson& json);
 
 }  // namespace cronovia

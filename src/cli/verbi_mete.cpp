@@ -48,7 +48,8 @@ void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
     Sessione sessione = apri();
     const std::vector<Record> record = sessione.Archivio().Select({Table::MeteVandro, {}}, {mete::CodiceMeta});
     if (richiesta.formato == Formato::Json) {
-        ScriviJson(JsonDeiRecord(Table::MeteVandro, record), uscita);
+        ScrittoreJson json(uscita);
+        ScriviRecord(Table::MeteVandro, record, json);
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(TestiDeiRecord(Table::MeteVandro, record), uscita);
     } else if (record.empty()) {

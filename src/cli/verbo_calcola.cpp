@@ -82,6 +82,25 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
     if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
 }
 
+// Each row is written when its texts are made: a long trip is never held twice.
+void ScriviJson(const Cronovia& cronovia, const EsitoCalcolo& esito, const TestiTotali& totali, QTextStream& uscita) {
+    ScrittoreJson json(uscita);
+    json.ApreOggetto();
+    json.Nome(u"fine");
+    json.Testi(TestiFine(cronovia));
+    json.Nome(u"messaggio");
+    json.Testo(esito.messaggio);
+    json.Nome(u"righe");
+    json.ApreArray();
+    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) json.Testi(TestiDellaRiga(cronovia, i));
+    json.ChiudeArray();
+    json.Nome(u"tentativi");
+    json.Numero(esito.tentativi);
+    json.Nome(u"totali");
+    ScriviTotali(totali, json);
+    json.ChiudeOggetto();
+}
+
 }  // namespace
 
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
@@ -90,24 +109,16 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
-    const std::vector<RigaGriglia> righe = TestiDellaCronovia(cronovia);
     const TestiTotali totali = Testi(cronovia.totali, cronovia.orario.GuidaGiorno());
     const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());
     if (richiesta.formato == Formato::Testo) {
-        ScriviTesto(aperta, esito, righe, totali, uscita);
+        ScriviTesto(aperta, esito, TestiDellaCronovia(cronovia), totali, uscita);
         if (tabella) uscita << RigaTabellaScritta(sessione.Cartella());
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), righe), uscita);
+        ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), TestiDellaCronovia(cronovia)), uscita);
     } else {
-        QJsonArray jsonRighe;
-        for (const RigaGriglia& riga : righe) jsonRighe.append(JsonDeiTesti(riga));
-        ScriviJson(QJsonObject{{u"righe"_s, jsonRighe},
-                               {u"fine"_s, JsonDeiTesti(TestiFine(cronovia))},
-                               {u"totali"_s, JsonDeiTotali(totali)},
-                               {u"tentativi"_s, esito.tentativi},
-                               {u"messaggio"_s, esito.messaggio}},
-                   uscita);
+        ScriviJson(cronovia, esito, totali, uscita);
     }
 }
 

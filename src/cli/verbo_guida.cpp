@@ -140,7 +140,8 @@ void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStre
     Sessione sessione = apri();
     const std::vector<Record> record = RecordDaMostrare(sessione, richiesta);
     if (richiesta.formato == Formato::Json) {
-        ScriviJson(JsonDeiRecord(Table::GuidaCitta, record), uscita);
+        ScrittoreJson json(uscita);
+        ScriviRecord(Table::GuidaCitta, record, json);
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(TestiDeiRecord(Table::GuidaCitta, record), uscita);
     } else if (record.empty()) {

@@ -45,14 +45,17 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(tabella, uscita);
     } else {
-        QJsonArray jsonRighe;
-        for (const RigaGriglia& riga : righe) jsonRighe.append(JsonDeiTesti(riga));
-        const std::vector<Record> tappe = RecordDellItinerario(sessione.Archivio(), aperta.meta.codice);
-        ScriviJson(QJsonObject{{u"righe"_s, jsonRighe},
-                               {u"totali"_s, JsonDeiTotali(totali)},
-                               {u"giorni_minimi"_s, aperta.riepilogo.giorniMinimi},
-                               {u"tappe"_s, JsonDeiRecord(Table::Itinerari, tappe)}},
-                   uscita);
+        ScrittoreJson json(uscita);
+        json.ApreOggetto();
+        json.Nome(u"giorni_minimi");
+        json.Numero(aperta.riepilogo.giorniMinimi);
+        json.Nome(u"righe");
+        ScriviRighe(righe, json);
+        json.Nome(u"tappe");
+        ScriviRecord(Table::Itinerari, RecordDellItinerario(sessione.Archivio(), aperta.meta.codice), json);
+        json.Nome(u"totali");
+        ScriviTotali(totali, json);
+        json.ChiudeOggetto();
     }
 }
 

@@ -117,13 +117,31 @@ LettoreGuida::LettoreGuida(Archive& archive) : archive_(archive), tipi_(CaricaTi
 std::shared_ptr<const VociGuida> LettoreGuida::Voci(const QString& localita) {
     std::shared_ptr<const VociGuida>& letta = letture_[localita];
     if (letta) return letta;
-    auto voci = std::make_shared<VociGuida>();
-    const Search ricerca{Table::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}};
-    for (const Record& record : archive_.Select(ricerca, {guida::CodiceGuida, guida::Descrizione})) {
-        voci->push_back(VoceDelRecord(record, tipi_));
-    }
-    letta = std::move(voci);
+    letta = Ordinate(archive_.Select({Table::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}}));
     return letta;
+}
+
+void LettoreGuida::Anticipa(std::span<const QString> localita) {
+    std::vector<QString> nuove;
+    std::vector<NamePattern> modelli;
+    for (const QString& nome : localita) {
+        if (letture_.contains(nome)) continue;
+        letture_.insert(nome, nullptr);
+        nuove.push_back(nome);
+        modelli.push_back(NamePattern::ForName(nome));
+    }
+    std::vector<std::vector<Record>> trovati(nuove.size());
+    archive_.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli,
+                          [&](std::size_t quale, Record&& record) { trovati[quale].push_back(std::move(record)); });
+    for (std::size_t i = 0; i < nuove.size(); ++i) letture_[nuove[i]] = Ordinate(std::move(trovati[i]));
+}
+
+std::shared_ptr<const VociGuida> LettoreGuida::Ordinate(std::vector<Record> record) const {
+    SortRecords(record, {guida::CodiceGuida, guida::Descrizione});
+    auto voci = std::make_shared<VociGuida>();
+    voci->reserve(record.size());
+    for (const Record& riga : record) voci->push_back(VoceDelRecord(riga, tipi_));
+    return voci;
 }
 
 Centesimi LettoreGuida::PrendiTempoVisite(const QString& localita) {

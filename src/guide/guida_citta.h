@@ -66,6 +66,9 @@ class LettoreGuida {
     /// Reads the types now, the entries when they are asked for.
     explicit LettoreGuida(Archive& archive);
 
+    /// Looks many localities up at once, where one by one would ask as many times.
+    void Anticipa(std::span<const QString> localita);
+
     /// The entries of all localities that the name, taken as a pattern, matches; by type code, then description.
     std::shared_ptr<const VociGuida> Voci(const QString& localita);
 
@@ -73,6 +76,8 @@ class LettoreGuida {
     Centesimi PrendiTempoVisite(const QString& localita);
 
   private:
+    std::shared_ptr<const VociGuida> Ordinate(std::vector<Record> record) const;
+
     Archive& archive_;
     std::vector<TipoGuida> tipi_;
     QHash<QString, std::shared_ptr<const VociGuida>> letture_;

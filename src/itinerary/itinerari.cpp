@@ -82,6 +82,7 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario) {
     const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
+    guida.Anticipa(LocalitaDelleTappe(tappe));
     for (Tappa& tappa : tappe) {
         tappa.guida = tappa.localita.isEmpty()
                           ? Durata()
@@ -117,6 +118,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
     }
     Transaction transaction(archive);
     LettoreGuida guida(archive);
+    guida.Anticipa(LocalitaDelleTappe(tappe));
     archive.DeleteMatching(Table::Itinerari, DellaMeta(codiceMeta), progress);
     progress.Title(u"Memorizza tappe itinerario"_s);
     EsitoMemorizzazione esito;

@@ -14,6 +14,15 @@ std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera) {
 
 QString LetteraTipoStrada(std::optional<TipoStrada> tipo) { return tipo ? NomeTipoStrada(*tipo).left(1) : QString(); }
 
+std::vector<QString> LocalitaDelleTappe(std::span<const Tappa> tappe) {
+    std::vector<QString> localita;
+    localita.reserve(tappe.size());
+    for (const Tappa& tappa : tappe) {
+        if (!tappa.localita.isEmpty()) localita.push_back(tappa.localita);
+    }
+    return localita;
+}
+
 QString TestoSosta(const Durata& sosta, bool fineGiorno) { return (fineGiorno ? u"*"_s : QString()) + Testo(sosta); }
 
 Centesimi TempoDiGuida(int km, int mediaKm) {

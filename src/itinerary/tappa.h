@@ -3,6 +3,8 @@
 
 #include <QString>
 #include <optional>
+#include <span>
+#include <vector>
 
 #include "calendar/durata.h"
 #include "trips/meta.h"
@@ -32,6 +34,9 @@ std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera);
 
 /// The type's letter; empty for no type.
 QString LetteraTipoStrada(std::optional<TipoStrada> tipo);
+
+/// The localities that the stages name, in their order.
+std::vector<QString> LocalitaDelleTappe(std::span<const Tappa> tappe);
 
 /// The planned stop as the itinerary shows it: "gg:hh:mm", with a leading "*" when the day ends.
 QString TestoSosta(const Durata& sosta, bool fineGiorno);

@@ -46,6 +46,7 @@ TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, co
     const Centesimi giorno = orario.VisitaGiorno();
     TabellaCalcolo tabella;
     tabella.righe.reserve(tappe.size());
+    guida.Anticipa(LocalitaDelleTappe(tappe));
     for (const Tappa& tappa : tappe) {
         if (tappa.localita.isEmpty()) continue;
         RigaCalcolo riga;
