@@ -119,10 +119,12 @@ class Banco:
         elenco = subprocess.run(["git", "ls-files"], cwd=RADICE, capture_output=True, text=True, check=True).stdout
         voluti = {nome for nome in elenco.splitlines() if (RADICE / nome).is_file()}
         for nome in voluti:
-            da, a = RADICE / nome, self.albero / nome
-            if not a.exists() or a.read_bytes() != da.read_bytes():
+            contenuto, a = (RADICE / nome).read_bytes(), self.albero / nome
+            if nome == "tests/CMakeLists.txt":  # only what is changed has to stand by itself
+                contenuto = b"set(CRONOVIA_UNITY ON)\n" + contenuto
+            if not a.exists() or a.read_bytes() != contenuto:
                 a.parent.mkdir(parents=True, exist_ok=True)
-                shutil.copy(da, a)
+                a.write_bytes(contenuto)
         for file in list(self.albero.rglob("*")):
             if file.is_file() and str(file.relative_to(self.albero)) not in voluti:
                 file.unlink()
@@ -185,7 +187,7 @@ class Banco:
         comando = [self.build / "tests" / prova / f"{prova}_test", "--gtest_fail_fast", "--gtest_brief=1"]
         with tempfile.TemporaryFile() as uscita:
             processo = subprocess.Popen(comando, stdout=uscita, stderr=subprocess.STDOUT, cwd=self.temporanea,
-                                        env=os.environ | {"TMPDIR": str(self.temporanea)}, preexec_fn=limita,
+                                        env=os.environ | {"TMPDIR": str(self.temporanea), "CRONOVIA_UCCISIONI": "1"}, preexec_fn=limita,
                                         start_new_session=True)
             try:
                 codice = processo.wait(limite)
