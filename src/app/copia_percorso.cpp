@@ -8,13 +8,13 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-CopiaPercorso::CopiaPercorso(Sessione& sessione) : sessione_(sessione) {
+CopiaPercorso::CopiaPercorso(Sessione& sessione) : sessione_(&sessione) {
     ElencaMete();
     if (mete_.empty()) throw Failure(u"Non trovate mète memorizzate"_s);
 }
 
 void CopiaPercorso::ElencaMete() {
-    mete_ = ElencoMete(sessione_.Archivio(), QualiMete::ConTappe);
+    mete_ = ElencoMete(sessione_->Archivio(), QualiMete::ConTappe);
     rigaCopia_ = std::clamp(rigaCopia_, 1, std::max(1, static_cast<int>(mete_.size())));
 }
 
@@ -27,7 +27,7 @@ void CopiaPercorso::ScegliMeta(int riga) {
     if (riga < 1 || riga > std::ssize(mete_)) return;
     const MetaInElenco scelta = mete_.at(static_cast<std::size_t>(riga - 1));
     try {
-        RigheItinerario tappe = sessione_.ApriMeta(scelta.codice).tappe;
+        RigheItinerario tappe = sessione_->ApriMeta(scelta.codice).tappe;
         if (tappe.empty()) throw Failure(u"La mèta «%1» non ha più tappe memorizzate."_s.arg(scelta.localita));
         tappe_ = std::move(tappe);
     } catch (const Failure&) {

@@ -38,7 +38,7 @@ class CopiaPercorso {
   private:
     void ElencaMete();
 
-    Sessione& sessione_;
+    Sessione* sessione_;  // never null
     std::vector<MetaInElenco> mete_;
     std::optional<RigheItinerario> tappe_;
     int rigaCopia_ = 1;

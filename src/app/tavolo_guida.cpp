@@ -9,11 +9,15 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-TavoloGuida::TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta)
-    : archive_(archive), interaction_(interaction), codiceMeta_(codiceMeta), tipi_(CaricaTipiGuida(archive)) {
+TavoloGuida::TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta, Storia& storia)
+    : archive_(archive),
+      interaction_(interaction),
+      codiceMeta_(codiceMeta),
+      tipi_(CaricaTipiGuida(archive)),
+      storia_(storia) {
     CreaElenco();
     if (senzaTappe_) throw Failure(SenzaTappeMemorizzate().text);
-    InserisciGuida(1);
+    VaiAllaRiga(1);
 }
 
 // The list stays as it was when another window has taken the stages away.
@@ -23,15 +27,7 @@ void TavoloGuida::CreaElenco() {
     if (!senzaTappe_) elenco_ = std::move(elenco);
 }
 
-std::optional<QString> TavoloGuida::DaAnnullare() const {
-    return fatti_ == 0 ? std::nullopt : std::optional(passi_[fatti_ - 1].nome);
-}
-
-std::optional<QString> TavoloGuida::DaRipetere() const {
-    return fatti_ == passi_.size() ? std::nullopt : std::optional(passi_[fatti_].nome);
-}
-
-void TavoloGuida::InserisciGuida(int riga) {
+void TavoloGuida::VaiAllaRiga(int riga) {
     rigaCorrente_ = std::clamp(riga, 1, static_cast<int>(elenco_->size()));
     const std::optional<VoceGuida>& voce = Corrente().voce;
     campi_ = voce ? CampiDellaVoce(*voce) : CampiVoce();
@@ -52,12 +48,6 @@ int TavoloGuida::RigaDi(const QString& localita, const std::optional<Record>& vo
     return trovata;
 }
 
-void TavoloGuida::Ricorda(Passo passo) {
-    passi_.resize(fatti_);
-    passi_.push_back(std::move(passo));
-    ++fatti_;
-}
-
 bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
     if (const auto errore = ControllaVoce(tipi_, campi)) {
         interaction_.Show(*errore);
@@ -68,10 +58,10 @@ bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
     const bool persa = riga.voce && !modifica.prima;
     const QString nome = modifica.prima ? u"modifica di «%1»"_s : u"inserimento di «%1»"_s;
     const std::optional<Record> voce = riga.voce ? modifica.dopo : std::nullopt;
-    Ricorda({nome.arg(campi.descrizione.trimmed()), std::move(modifica)});
+    storia_.Ricorda(PassoDi(nome.arg(campi.descrizione.trimmed()), std::move(modifica)));
     CreaElenco();
     // From a locality's row one goes on adding; an entry is followed to where it is listed now.
-    InserisciGuida(RigaDi(riga.localita, voce));
+    VaiAllaRiga(RigaDi(riga.localita, voce));
     if (!riga.voce) {
         campi_ = campi;
         campi_.descrizione.clear();
@@ -90,52 +80,39 @@ void TavoloGuida::CancellaRiga() {
     const RigaGuida riga = Corrente();
     if (!riga.voce) return;
     std::optional<ModificaGuida> modifica = CancellaVoce(archive_, NamePattern::ForName(riga.localita), *riga.voce);
-    if (modifica) Ricorda({u"cancellazione di «%1»"_s.arg(riga.voce->descrizione), std::move(*modifica)});
+    if (modifica)
+        storia_.Ricorda(PassoDi(u"cancellazione di «%1»"_s.arg(riga.voce->descrizione), std::move(*modifica)));
     CreaElenco();
-    InserisciGuida(rigaCorrente_);
+    VaiAllaRiga(rigaCorrente_);
     // Never over to another locality, where the next entry would be typed by mistake.
-    if (Corrente().localita != riga.localita) InserisciGuida(rigaCorrente_ - 1);
+    if (Corrente().localita != riga.localita) VaiAllaRiga(rigaCorrente_ - 1);
 }
 
 void TavoloGuida::ScegliLocalita(int riga) {
     cerca_ = false;
-    InserisciGuida(riga);
+    VaiAllaRiga(riga);
 }
 
-// Takes a step back, or forward when it was taken back before. False when somebody else has been at its entry: it is of
-// no use any more then.
-bool TavoloGuida::Disfa(Passo& passo) {
-    std::optional<ModificaGuida> fatta = cronovia::Annulla(archive_, passo.modifica);
-    if (!fatta) {
-        interaction_.Show(
-            {u"Impossibile: l'annotazione è stata cambiata o cancellata nel frattempo\n(%1)."_s.arg(passo.nome),
-             {},
-             Icon::Exclamation});
-        CreaElenco();
-        InserisciGuida(rigaCorrente_);
-        return false;
-    }
-    passo.modifica = std::move(*fatta);
+Passo TavoloGuida::PassoDi(const QString& nome, ModificaGuida modifica) {
+    return {nome,
+            Ambito::Guida,
+            [this, modifica = std::move(modifica)](const Passo& passo) {
+                return std::optional(PassoDi(passo.nome, Disfa(passo.nome, modifica)));
+            },
+            {}};
+}
+
+// Takes a change back and shows the row where it was; the change that this was.
+ModificaGuida TavoloGuida::Disfa(const QString& nome, const ModificaGuida& modifica) {
+    std::optional<ModificaGuida> fatta = cronovia::Annulla(archive_, modifica);
     CreaElenco();
-    const ModificaGuida& modifica = passo.modifica;
-    InserisciGuida(RigaDi((modifica.dopo ? *modifica.dopo : *modifica.prima)[guida::Localita], modifica.dopo));
-    return true;
-}
-
-void TavoloGuida::Annulla() {
-    if (fatti_ == 0) return;
-    const bool disfatto = Disfa(passi_[fatti_ - 1]);
-    --fatti_;
-    if (!disfatto) passi_.erase(passi_.begin() + static_cast<std::ptrdiff_t>(fatti_));
-}
-
-void TavoloGuida::Ripeti() {
-    if (fatti_ == passi_.size()) return;
-    if (Disfa(passi_[fatti_])) {
-        ++fatti_;
-    } else {
-        passi_.erase(passi_.begin() + static_cast<std::ptrdiff_t>(fatti_));
+    if (!fatta) {
+        VaiAllaRiga(rigaCorrente_);
+        throw PassoPerduto(
+            u"Impossibile: l'annotazione è stata cambiata o cancellata nel frattempo\n(%1)."_s.arg(nome));
     }
+    VaiAllaRiga(RigaDi((fatta->dopo ? *fatta->dopo : *fatta->prima)[guida::Localita], fatta->dopo));
+    return std::move(*fatta);
 }
 
 }  // namespace cronovia

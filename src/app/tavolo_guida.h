@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/storia.h"
 #include "guide/annotazioni.h"
 #include "interaction/interaction.h"
 #include "itinerary/elenco_guida.h"
@@ -17,8 +18,11 @@ class TavoloGuida {
   public:
     using Righe = std::shared_ptr<const std::vector<RigaGuida>>;
 
-    /// Lays out the guide of a trip, which has stored stages.
-    TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta);
+    /// Lays out the guide of a trip, which has stored stages. Its changes are steps of the history, which outlives it.
+    TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta, Storia& storia);
+    TavoloGuida(const TavoloGuida&) = delete;
+    TavoloGuida& operator=(const TavoloGuida&) = delete;
+    ~TavoloGuida() { storia_.Dimentica(Ambito::Guida); }
 
     /// Another list after every change.
     [[nodiscard]] const Righe& Elenco() const { return elenco_; }
@@ -32,12 +36,9 @@ class TavoloGuida {
     [[nodiscard]] Archive& Archivio() const { return archive_; }
     [[nodiscard]] const QString& CodiceMeta() const { return codiceMeta_; }
     [[nodiscard]] bool ElencoLocalitaVisibile() const { return cerca_; }
-    /// Names of the changes to undo and to do again.
-    [[nodiscard]] std::optional<QString> DaAnnullare() const;
-    [[nodiscard]] std::optional<QString> DaRipetere() const;
 
-    /// Loads the fields from a row; from the last one when there are not so many.
-    void InserisciGuida(int riga);
+    /// Makes a row the current one, the last when there are not so many, and loads the fields from it.
+    void VaiAllaRiga(int riga);
     /// Saves the fields in the place of the entry of the current row, or as a new one from a locality's row. Tells why
     /// they cannot be saved; false then.
     bool SalvaRiga(const CampiVoce& campi);
@@ -45,17 +46,11 @@ class TavoloGuida {
     void Cerca() { cerca_ = true; }
     void ScegliLocalita(int riga);
     void ChiudiElenco() { cerca_ = false; }
-    void Annulla();
-    void Ripeti();
 
   private:
-    struct Passo {
-        QString nome;
-        ModificaGuida modifica;
-    };
     void CreaElenco();
-    void Ricorda(Passo passo);
-    bool Disfa(Passo& passo);
+    [[nodiscard]] Passo PassoDi(const QString& nome, ModificaGuida modifica);
+    ModificaGuida Disfa(const QString& nome, const ModificaGuida& modifica);
     [[nodiscard]] int RigaDi(const QString& localita, const std::optional<Record>& voce) const;
 
     Archive& archive_;
@@ -67,8 +62,7 @@ class TavoloGuida {
     int rigaCorrente_ = 1;
     CampiVoce campi_;
     bool cerca_ = false;
-    std::vector<Passo> passi_;  // the first `fatti_` are done, the others were undone
-    std::size_t fatti_ = 0;
+    Storia& storia_;
 };
 
 }  // namespace cronovia

@@ -61,6 +61,8 @@ struct Meta {
     Centesimi oraInizio;                     ///< time of day at which the journey begins
     int giorniAdeguamento = 0;               ///< days that the trip shall last; 0 = as many as it needs
     ParametriViaggio parametri;
+
+    friend bool operator==(const Meta&, const Meta&) = default;
 };
 
 /// The most days that a trip can be asked to last.

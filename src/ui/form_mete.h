@@ -1,35 +1,40 @@
-// The main window: places the frames and passes their wishes on to the desk.
+// The main window: places the screens and panels, has commands run, and shows the state after each.
 #pragma once
 
+#include <QDockWidget>
 #include <QMainWindow>
-#include <QPushButton>
 #include <QSettings>
 #include <functional>
-#include <memory>
-#include <optional>
-#include <utility>
 
-#include "app/scrivania.h"
+#include "app/comandi.h"
 #include "ui/comuni/avanzamento.h"
 #include "ui/comuni/azioni_modifica.h"
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/interazione_finestra.h"
 #include "ui/copia/schermo_copia.h"
-#include "ui/griglia/modello_griglia.h"
-#include "ui/griglia/vista_griglia.h"
+#include "ui/griglia/schermo_griglia.h"
 #include "ui/guida/schermo_guida.h"
-#include "ui/inserimento/frm_input_box.h"
-#include "ui/scambio/frm_export.h"
+#include "ui/inserimento/schermo_inserimento.h"
+#include "ui/scambio/schermo_scambio.h"
 #include "ui/stampa/comando_stampa.h"
 #include "ui/viaggio/frm_bottoni.h"
-#include "ui/viaggio/frm_mete_periodo.h"
-#include "ui/viaggio/frm_mete_tempi.h"
-#include "ui/viaggio/frm_mete_velocita.h"
+#include "ui/viaggio/schermo_viaggio.h"
 
 class QGridLayout;
 class QSessionManager;
 
 namespace cronovia {
+
+/// A panel beside the grid. It is named by its object name, under which its place is remembered.
+class Pannello : public QDockWidget {
+    Q_OBJECT
+
+  public:
+    using QDockWidget::QDockWidget;
+
+    /// Called whenever the state is shown anew.
+    virtual void Mostra(const Postazione& postazione) = 0;
+};
 
 class FormMete : public QMainWindow {
     Q_OBJECT
@@ -43,31 +48,26 @@ class FormMete : public QMainWindow {
 
     /// Opens the import of an exchange file.
     void ApriFile(const QString& file);
+    /// Puts a panel, which then belongs to the window, where the person had it last, else on that side.
+    void AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    [[nodiscard]] Volti NuoviVolti(std::function<QDateTime()> adesso);
     void Disponi();
-    QWidget* CreaMete();
-    QWidget* CreaGriglia();
+    QWidget* CreaAreaGriglia();
+    void CreaStampe(QGridLayout& area);
     void Collega();
     void Raccogli();
     /// Runs a command on what the fields hold, then shows the state anew.
     void Esegui(const std::function<void()>& comando);
-    void Mostra();
-    void MostraGriglia();
-    void DistendiGuida();
-    void MostraElenchi();
-    void MostraInserimento(const StatoComandi& stato);
-    void CollegaScambio();
-    void Scambio(Comando comando);
-    void MostraScambio();
     void EseguiComando(Comando comando);
-    void EseguiComando(ComandoItinerario comando);
-    void Inserisci();
-    void Esci();
+    void MettiIlFuoco(Comando dopo);
+    [[nodiscard]] QString ScegliFile(FileChiesto quale);
+    void Mostra();
     bool PossoChiudere();
     void FineSessione(QSessionManager& sessione);
     void RipristinaAspetto();
@@ -76,25 +76,21 @@ class FormMete : public QMainWindow {
     QSettings aspetto_;
     Avanzamento* avanzamento_;
     InterazioneFinestra interazione_;
-    FrmMetePeriodo* periodo_;
-    FrmMeteVelocita* velocita_;
-    FrmMeteTempi* tempi_;
-    FrmBottoni* bottoni_;
-    FrmInputBox* inserimento_;
-    FrmExport* export_;
-    VistaGriglia* griglia_;
-    ModelloGriglia modello_;
-    ElencoScelta* cmbRicerca_;
+    Postazione postazione_;
     ElencoScelta* cmbRicercaTappa_;
-    Scrivania scrivania_;
-    AzioniModifica* azioni_ = nullptr;
+    SchermoViaggio* viaggio_;
+    FrmBottoni* bottoni_;
+    SchermoGriglia griglia_;
+    SchermoInserimento inserimento_;
+    SchermoCopia copia_;
+    SchermoGuida guida_;
+    SchermoScambio scambio_;
+    QWidget* areaGriglia_ = nullptr;
     ComandoStampa* stampa_ = nullptr;
+    AzioniModifica* azioni_ = nullptr;
+    QList<Pannello*> pannelli_;
     bool mostrando_ = false;
-    std::optional<std::pair<int, CampiTappa>> campiMostrati_;  // row and fields last put into the entry frame
-    bool inCorso_ = false;                                     // a command has begun and not ended
-    bool cronoviaInGriglia_ = false;
-    std::unique_ptr<SchermoGuida> guida_;
-    std::unique_ptr<SchermoCopia> copia_;
+    bool inCorso_ = false;  // a command has begun and not ended
 };
 
 }  // namespace cronovia

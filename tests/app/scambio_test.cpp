@@ -1,57 +1,46 @@
 // The exchange screen without a widget, taking an import back, and the earlier release's data from the window.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <memory>
-
-#include "app/scrivania.h"
 #include "exchange/scambio.h"
 #include "exchange/vecchi/vecchi_record.h"
-#include "support/copione.h"
+#include "support/postazione.h"
 
 namespace cronovia {
 namespace {
 
 using namespace Qt::StringLiterals;
-using prova::Righe;
 using prova::Tutto;
 
 const QString kExport = u"Export delle mète selezionate"_s;
 const QString kImport = u"Import delle mète selezionate nei propri archivi"_s;
 const QString kAnnulla = u"|Annulla importazione"_s;
 
-class ScambioTest : public testing::Test {
+class ScambioTest : public prova::PostazioneTest {
   protected:
-    std::unique_ptr<Scrivania> NuovaScrivania() {
-        return std::make_unique<Scrivania>(cartella_.Percorso(),
-                                           Scrivania::Volti{copione_, avanzamento_,
-                                                            [] {
-                                                                return QDateTime({2027, 6, 5}, {10, 52});
-                                                            },
-                                                            [] {}});
-    }
     Archive AltraFinestra() { return Archive::Open(cartella_.Percorso()); }
     QStringList Archivio() {
         Archive archive = AltraFinestra();
         return Tutto(archive);
     }
+    [[nodiscard]] const TavoloScambio& Tavolo() const { return postazione_->Su<schermata::Scambio>()->tavolo; }
     QString Lista(int lista) {
         QStringList nomi;
-        for (const MetaInElenco& meta : scrivania_->Scambio()->Mete(lista)) nomi += meta.localita;
+        for (const MetaInElenco& meta : Tavolo().Mete(lista)) nomi += meta.localita;
         return nomi.join(u' ');
     }
     void Sposta(int lista, int riga) {
-        scrivania_->SulloScambio([&](TavoloScambio& tavolo) { tavolo.TrasferisceMeta(lista, riga); });
+        comandi::SulloScambio(*postazione_, [&](TavoloScambio& tavolo) { tavolo.TrasferisceMeta(lista, riga); });
     }
     void Tutte(int lista) {
-        scrivania_->SulloScambio([&](TavoloScambio& tavolo) { tavolo.TrasferisceTutte(lista); });
+        comandi::SulloScambio(*postazione_, [&](TavoloScambio& tavolo) { tavolo.TrasferisceTutte(lista); });
     }
     void ImExp(const QString& file = {}) {
-        scrivania_->ImExp([&] { return file; });
+        file_ = file;
+        comandi::ImExp(*postazione_);
     }
     /// Imports all trips of the file; the closing box tells this and is answered so.
     void Importa(Answer annulla) {
-        scrivania_->ApriFile(file_);
+        comandi::ApriFile(*postazione_, amiciIei_);
         Tutte(1);
         copione_.Domanda(u"Confermi import delle mète selezionate nei propri archivi?"_s, kImport, Answer::Yes);
         copione_.Domanda(
@@ -62,24 +51,19 @@ class ScambioTest : public testing::Test {
         if (annulla == Answer::Yes) copione_.Messaggio(u"L'importazione di amici.iei è stata annullata."_s);
         ImExp();
     }
-    [[nodiscard]] QString Modo() const { return scrivania_->Comandi().modoComandi; }
 
-    prova::CartellaDiProva cartella_;
-    prova::Copione copione_;
-    Progress avanzamento_;
-    std::unique_ptr<Scrivania> scrivania_ = NuovaScrivania();
-    const QString file_ = cartella_.Percorso() + u"/amici.iei"_s;
+    const QString amiciIei_ = cartella_.Percorso() + u"/amici.iei"_s;
     const QByteArray amici_ = prova::Mete("000001|ROMA|ITALIA\n000002|PISA|ITALIA\n") +
                               prova::Tappe("000002|0001|LUCCA\n") + prova::Guida("LUCCA|01|Mura\n");
 };
 
 TEST_F(ScambioTest, AnImportCanBeTakenBackFromItsClosingBox) {
-    prova::ScriviFile(file_, amici_);
+    prova::ScriviFile(amiciIei_, amici_);
     const QStringList prima = Archivio();
     Importa(Answer::Yes);
     EXPECT_EQ(Archivio(), prima);
-    EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
-    EXPECT_EQ(Modo(), u"NuImEs"_s);
+    EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
+    EXPECT_EQ(Schermo(), u"vuota"_s);
 }
 
 TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
@@ -87,42 +71,42 @@ TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
         Archive archive = AltraFinestra();
         prova::Inserisci(archive, Table::MeteVandro, {u"000001"_s, u"ALBA"_s});
     }
-    prova::ScriviFile(file_, amici_);
+    prova::ScriviFile(amiciIei_, amici_);
     const QStringList prima = Archivio();
     Importa(Answer::No);
-    EXPECT_EQ(scrivania_->CodiceMetaCorrente(), u""_s);
-    EXPECT_EQ(Modo(), u"NuRiSaCmCaStItGcCiEsImEx"_s);
+    EXPECT_EQ(postazione_->documento.Codice(), u""_s);
+    EXPECT_EQ(Schermo(), u"lasciata"_s);
     copione_.Messaggio(u"Nessuna mèta è aperta: sceglila con «Ricerca mèta»."_s);
-    scrivania_->Itinerario();
-    scrivania_->Ricerca();
-    scrivania_->ScegliMeta(u"000002"_s);  // looking at a trip changes nothing
-    EXPECT_EQ(scrivania_->DaAnnullare(), u"importazione di amici.iei"_s);
+    comandi::Itinerario(*postazione_);
+    comandi::Ricerca(*postazione_);
+    comandi::ScegliMeta(*postazione_, u"000002"_s);  // looking at a trip changes nothing
+    EXPECT_EQ(postazione_->DaAnnullare(), u"importazione di amici.iei"_s);
     copione_.Messaggio(u"L'importazione di amici.iei è stata annullata."_s);
-    scrivania_->Annulla();
+    comandi::Annulla(*postazione_);
     EXPECT_EQ(Archivio(), prima);
-    EXPECT_EQ(scrivania_->CodiceMetaCorrente(), u"000001"_s);
+    EXPECT_EQ(postazione_->documento.Codice(), u"000001"_s);
 
     Importa(Answer::No);
     copione_.Domanda(u"Vuoi salvare i dati di default?"_s, u"Dati di default"_s, Answer::Yes);
     copione_.Messaggio(u"Operazione eseguita!"_s, u"Dati di default"_s);
-    scrivania_->SalvaDefault();
-    EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
+    comandi::SalvaDefault(*postazione_);
+    EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
 }
 
 TEST_F(ScambioTest, TakingAnImportBackLeavesANewTripThatIsBeingTyped) {
-    prova::ScriviFile(file_, amici_);
+    prova::ScriviFile(amiciIei_, amici_);
     Importa(Answer::No);
-    Meta nuova = scrivania_->MetaInCorso();
+    Meta nuova = postazione_->documento.Campi();
     nuova.localita = u"NARVIK"_s;
-    scrivania_->ImpostaMeta(nuova);
+    postazione_->documento.ImpostaCampi(nuova);
     copione_.Messaggio(u"L'importazione di amici.iei è stata annullata."_s);
-    scrivania_->Annulla();
-    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"NARVIK"_s);
-    EXPECT_EQ(scrivania_->DaAnnullare(), std::nullopt);
+    comandi::Annulla(*postazione_);
+    EXPECT_EQ(postazione_->documento.Campi().localita, u"NARVIK"_s);
+    EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
 }
 
 TEST_F(ScambioTest, WhatAnotherWindowWroteSinceIsNotTakenBack) {
-    prova::ScriviFile(file_, amici_);
+    prova::ScriviFile(amiciIei_, amici_);
     Importa(Answer::No);
     {
         Archive archive = AltraFinestra();
@@ -130,22 +114,21 @@ TEST_F(ScambioTest, WhatAnotherWindowWroteSinceIsNotTakenBack) {
     }
     const QStringList prima = Archivio();
     copione_.Messaggio(u"L'importazione non si può più annullare: dopo di essa l'archivio è stato modificato."_s);
-    scrivania_->Annulla();
+    comandi::Annulla(*postazione_);
     EXPECT_EQ(Archivio(), prima);
 }
 
 TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
-    prova::ScriviFile(file_, amici_);
+    prova::ScriviFile(amiciIei_, amici_);
     Importa(Answer::No);
-    scrivania_->Export();
-    const auto& scambio = scrivania_->Scambio();
+    comandi::Export(*postazione_);
     EXPECT_EQ(Lista(0), u"PISA ROMA"_s);
-    EXPECT_EQ(scambio->ScrittaTutto(0) + scambio->ScrittaTutto(1), u"[2] Tutti ---><--- Tutti [0]"_s);
+    EXPECT_EQ(Tavolo().ScrittaTutto(0) + Tavolo().ScrittaTutto(1), u"[2] Tutti ---><--- Tutti [0]"_s);
     ImExp(u"mai.iei"_s);  // nothing is chosen
     Sposta(0, 0);
     Sposta(0, 7);  // a free row
     EXPECT_EQ(Lista(0) + u"|"_s + Lista(1), u"ROMA|PISA"_s);
-    EXPECT_EQ(Modo(), u"zz"_s);
+    EXPECT_EQ(Schermo(), u"scambio"_s);
     const QString altro = cartella_.Percorso() + u"/altro.iei"_s;
     prova::ScriviFile(altro, "mio");
     const QString esiste = u"Il file %1 esiste già: ricopro?"_s.arg(altro);
@@ -170,47 +153,48 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     ImExp(altro);
     EXPECT_EQ(Lista(1), u"PISA"_s);  // the screen stays as it was
     EXPECT_EQ(LeggiElencoMete(altro, avanzamento_).value().size(), 1U);
-    scrivania_->FineScambio();
-    EXPECT_FALSE(scrivania_->Scambio());
+    comandi::FineScambio(*postazione_);
+    EXPECT_NE(Schermo(), u"scambio"_s);
 }
 
 TEST_F(ScambioTest, WhatCannotBeOpenedLeavesTheTripOnTheDesk) {
-    prova::ScriviFile(file_, amici_);
+    prova::ScriviFile(amiciIei_, amici_);
     Importa(Answer::No);
-    scrivania_->ScegliMeta(u"000001"_s);
-    scrivania_->Import([] { return QString(); });
-    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"ROMA"_s);
-    prova::ScriviFile(file_, "ciao");
-    copione_.Messaggio(u"Il file %1 non è un file di scambio: non contiene la sezione delle mète."_s.arg(file_));
-    scrivania_->ApriFile(file_);
-    EXPECT_FALSE(scrivania_->Scambio());
-    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"ROMA"_s);
-    scrivania_->Itinerario();
-    copione_.Messaggio(u"Per importare %1 torna prima alla schermata della mèta."_s.arg(file_));
-    scrivania_->ApriFile(file_);
-    EXPECT_TRUE(scrivania_->InserimentoVisibile());
+    comandi::ScegliMeta(*postazione_, u"000001"_s);
+    file_.clear();
+    comandi::Import(*postazione_);
+    EXPECT_EQ(postazione_->documento.Campi().localita, u"ROMA"_s);
+    prova::ScriviFile(amiciIei_, "ciao");
+    copione_.Messaggio(u"Il file %1 non è un file di scambio: non contiene la sezione delle mète."_s.arg(amiciIei_));
+    comandi::ApriFile(*postazione_, amiciIei_);
+    EXPECT_NE(Schermo(), u"scambio"_s);
+    EXPECT_EQ(postazione_->documento.Campi().localita, u"ROMA"_s);
+    comandi::Itinerario(*postazione_);
+    copione_.Messaggio(u"Per importare %1 torna prima alla schermata della mèta."_s.arg(amiciIei_));
+    comandi::ApriFile(*postazione_, amiciIei_);
+    EXPECT_EQ(Schermo(), u"inserimento"_s);
 }
 
 TEST_F(ScambioTest, OldDataIsConvertedAfterAQuestion) {
-    EXPECT_FALSE(scrivania_->ConverteOfferto());
+    EXPECT_FALSE(postazione_->ConverteOfferto());
     QByteArray record = QByteArray("PROVENZA").leftJustified(97) + "0007";
     record = record.leftJustified(FormaVecchieMete().LunghezzaCampi()).leftJustified(128, '\0');
     prova::ScriviFile(cartella_.Percorso() + u"/VANDMETE.DAT"_s, record);
     prova::ScriviFile(cartella_.Percorso() + u"/vand0007.dat"_s, "guasto");
-    scrivania_ = NuovaScrivania();
-    EXPECT_TRUE(scrivania_->ConverteOfferto());
+    postazione_ = NuovaPostazione();
+    EXPECT_TRUE(postazione_->ConverteOfferto());
     const QString vuoi =
         u"Vuoi convertire i vecchi file nel corrente database?\n\n"
         "I dati già presenti nel database saranno integrati e non cancellati.\n\nProcedo?"_s;
     copione_.Domanda(vuoi, u"Conversione file"_s, Answer::No);
-    scrivania_->Converte();
-    EXPECT_TRUE(scrivania_->ConverteOfferto());
+    comandi::Converte(*postazione_);
+    EXPECT_TRUE(postazione_->ConverteOfferto());
     copione_.Domanda(vuoi, u"Conversione file"_s, Answer::Yes);
     copione_.Messaggio(u"Conversione eseguita...…"_s);
-    scrivania_->Converte();
-    EXPECT_FALSE(scrivania_->ConverteOfferto());
-    EXPECT_EQ(scrivania_->MetaInCorso().localita, u"PROVENZA"_s);
-    EXPECT_EQ(Modo(), u"NuRiSaCmCaStItGcCiEsImEx"_s);
+    comandi::Converte(*postazione_);
+    EXPECT_FALSE(postazione_->ConverteOfferto());
+    EXPECT_EQ(postazione_->documento.Campi().localita, u"PROVENZA"_s);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ class Avanzamento : public QFrame, public Progress {
     void Advance(double count, double total) override;
     bool StopRequested() override;
 
+    /// The person wants the run to stop; the next run has begun.
     void ChiediStop() { stop_ = true; }
     void NuovaOperazione() { stop_ = false; }
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QAction>
-#include <functional>
 
-#include "app/scrivania.h"
+#include "app/postazione.h"
+#include "ui/comuni/esegui.h"
 
 namespace cronovia {
 
@@ -13,14 +13,13 @@ class AzioniModifica : public QObject {
 
   public:
     /// The actions work in the window and stand in the menus of the other widgets.
-    AzioniModifica(QWidget& finestra, const QList<QWidget*>& altri, Scrivania& scrivania,
-                   const std::function<void(const std::function<void()>&)>& esegui);
+    AzioniModifica(QWidget& finestra, const QList<QWidget*>& altri, Postazione& postazione, const Esegui& esegui);
 
     /// What can be undone and done again; nothing of it unless `libere`.
     void Mostra(bool libere);
 
   private:
-    Scrivania& scrivania_;
+    Postazione& postazione_;
     QAction* annulla_;
     QAction* ripeti_;
 };

@@ -141,9 +141,11 @@ QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzi
     return casella;
 }
 
-QPushButton* NuovoPulsante(const TestiPulsante& testi) {
-    return NuovoPulsante(QString::fromUtf16(testi.nome), QString::fromUtf16(testi.scritta),
-                         QString::fromUtf16(testi.istruzione));
+QPushButton* NuovoPulsante(const DescrizioneComando& comando) {
+    QPushButton* pulsante = NuovoPulsante(QString::fromUtf16(comando.nome), QString::fromUtf16(comando.scritta),
+                                          QString::fromUtf16(comando.istruzione));
+    if (comando.tasti != nullptr) pulsante->setShortcut(QKeySequence(QString::fromUtf16(comando.tasti)));
+    return pulsante;
 }
 
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione) {

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "app/comandi.h"
+
 class QLayout;
 
 namespace cronovia {
@@ -34,6 +36,7 @@ QString TestoPiano(const QString& testo);
 /// Shows a text in a list, as a further item when it has none of that text.
 void MostraVoce(QComboBox& elenco, const QString& testo);
 
+/// A box that takes so many characters.
 QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString& istruzione);
 
 /// Leaves the keys of undo and redo to the window while a box has nothing of its own to undo.
@@ -42,14 +45,9 @@ void LasciaAnnullare(QLineEdit& casella);
 /// A box that shows a result and takes no focus.
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione);
 
-/// A button's name, caption and tooltip, as tables of buttons hold them.
-struct TestiPulsante {
-    const char16_t* nome;
-    const char16_t* scritta;
-    const char16_t* istruzione;
-};
-
-QPushButton* NuovoPulsante(const TestiPulsante& testi);
+/// The button of a command, with its keys.
+QPushButton* NuovoPulsante(const DescrizioneComando& comando);
+/// A button that is no command of the table.
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione);
 
 /// A label that leads to its control by its mnemonic and names it.

@@ -9,9 +9,11 @@ class ElencoScelta : public QListWidget {
     Q_OBJECT
 
   public:
+    /// Hidden at first; `descrizione` names it.
     ElencoScelta(const QString& nome, const QString& descrizione);
 
   Q_SIGNALS:
+    /// Never null.
     void Scelta(QListWidgetItem* voce);
 
   protected:

@@ -17,12 +17,14 @@ class FrmPercorso : public QGroupBox {
   public:
     explicit FrmPercorso(QWidget* parent = nullptr);
 
+    /// Shows the stages assigned; the copy can be made once both are.
     void Mostra(const CopiaPercorso& copia);
     /// No stops, until the person wants them.
     void Azzera() { chkInsSoste_->setChecked(false); }
     [[nodiscard]] bool ConSoste() const { return chkInsSoste_->isChecked(); }
 
   Q_SIGNALS:
+    /// The current stage shall be the first (0) or the last (1) of the stretch.
     void Assegna(int estremo);
     void Esegui();
     void Rinuncia();

@@ -15,6 +15,7 @@ class ModelloCopia : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// Shows trips, with their number in the list; stages, with their row.
     void Mostra(const std::vector<MetaInElenco>& mete);
     void Mostra(const RigheItinerario& tappe);
 

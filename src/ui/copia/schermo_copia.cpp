@@ -3,10 +3,12 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "app/comandi_copia.h"
+
 namespace cronovia {
 
-SchermoCopia::SchermoCopia(Scrivania& scrivania, QWidget& inserimento, Esegui esegui)
-    : scrivania_(scrivania),
+SchermoCopia::SchermoCopia(Postazione& postazione, QWidget& inserimento, Esegui esegui)
+    : postazione_(postazione),
       inserimento_(inserimento),
       esegui_(std::move(esegui)),
       lista_(new FrmLista),
@@ -18,7 +20,8 @@ SchermoCopia::SchermoCopia(Scrivania& scrivania, QWidget& inserimento, Esegui es
 
 void SchermoCopia::Collega() {
     connect(lista_, &FrmLista::Cliccata, this, [this](int riga) {
-        if (scrivania_.Copia() && !scrivania_.Copia()->Tappe()) Scegli(riga);
+        const auto* copia = postazione_.Su<schermata::Copia>();
+        if (copia != nullptr && !copia->percorso.Tappe()) Scegli(riga);
     });
     connect(lista_, &FrmLista::Corrente, this,
             [this](int riga) { Comanda([riga](CopiaPercorso& copia) { copia.SelezionaRiga(riga); }); });
@@ -27,25 +30,23 @@ void SchermoCopia::Collega() {
         lista_->Fuoco();
     });
     connect(percorso_, &FrmPercorso::Esegui, this,
-            [this] { Chiude([this] { scrivania_.InserisciPercorso(percorso_->ConSoste()); }); });
+            [this] { Chiude([this] { comandi::InserisciPercorso(postazione_, percorso_->ConSoste()); }); });
     connect(percorso_, &FrmPercorso::Rinuncia, this,
-            [this] { Chiude([this] { scrivania_.RinunciaDuplicaItinerario(); }); });
+            [this] { Chiude([this] { comandi::RinunciaDuplicaItinerario(postazione_); }); });
 }
 
-void SchermoCopia::Apri() {
-    percorso_->Azzera();
-    esegui_([this] { scrivania_.Duplica(); });
-    if (scrivania_.Copia()) lista_->Fuoco();
+void SchermoCopia::Fuoco() {
+    if (aperto_) lista_->Fuoco();
 }
 
 void SchermoCopia::Comanda(const std::function<void(CopiaPercorso&)>& comando) {
-    if (scrivania_.Copia()) esegui_([&] { scrivania_.SullaCopia(comando); });
+    if (aperto_) esegui_([&] { comandi::SullaCopia(postazione_, comando); });
 }
 
 // A command that may close the lists.
 void SchermoCopia::Chiude(const std::function<void()>& comando) {
     esegui_(comando);
-    if (!scrivania_.Copia()) Q_EMIT Chiusa();
+    if (!aperto_) Q_EMIT Chiusa();
 }
 
 void SchermoCopia::Scegli(int riga) {
@@ -54,29 +55,31 @@ void SchermoCopia::Scegli(int riga) {
 }
 
 void SchermoCopia::Mostra() {
-    const std::optional<CopiaPercorso>& copia = scrivania_.Copia();
-    const bool tratto = copia && copia->Tappe();
-    if (copia) {
-        lista_->Mostra(*copia);
-        percorso_->Mostra(*copia);
+    const auto* copia = postazione_.Su<schermata::Copia>();
+    const bool tratto = copia != nullptr && copia->percorso.Tappe();
+    if (copia != nullptr) {
+        if (!aperto_) percorso_->Azzera();
+        lista_->Mostra(copia->percorso);
+        percorso_->Mostra(copia->percorso);
     }
-    lista_->setVisible(copia.has_value());
+    aperto_ = copia != nullptr;
+    lista_->setVisible(aperto_);
     percorso_->setVisible(tratto);
-    inserimento_.setVisible(scrivania_.InserimentoVisibile() && !tratto);
+    inserimento_.setVisible(postazione_.InInserimento() && !tratto);
     inserimento_.setEnabled(!tratto);
 }
 
 // Enter chooses the trip that the keyboard is on, Escape closes the lists.
 bool SchermoCopia::Tasto(const QKeyEvent& tasto) {
-    const std::optional<CopiaPercorso>& copia = scrivania_.Copia();
-    if (!copia) return false;
+    const auto* copia = postazione_.Su<schermata::Copia>();
+    if (copia == nullptr) return false;
     if (tasto.key() == Qt::Key_Escape) {
-        Chiude([this] { scrivania_.RinunciaDuplicaItinerario(); });
+        Chiude([this] { comandi::RinunciaDuplicaItinerario(postazione_); });
         return true;
     }
     const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
     if (!invio || !lista_->ConFuoco()) return false;
-    if (!copia->Tappe()) Scegli(lista_->Riga());
+    if (!copia->percorso.Tappe()) Scegli(lista_->Riga());
     return true;
 }
 

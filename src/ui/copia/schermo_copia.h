@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
 
-#include "app/scrivania.h"
+#include "app/postazione.h"
+#include "ui/comuni/esegui.h"
 #include "ui/copia/frm_lista.h"
 #include "ui/copia/frm_percorso.h"
 
@@ -16,16 +16,14 @@ class SchermoCopia : public QObject {
     Q_OBJECT
 
   public:
-    /// Runs a command of the desk and shows the state anew.
-    using Esegui = std::function<void(const std::function<void()>&)>;
-
     /// `inserimento` gives way while a stretch is chosen.
-    SchermoCopia(Scrivania& scrivania, QWidget& inserimento, Esegui esegui);
+    SchermoCopia(Postazione& postazione, QWidget& inserimento, Esegui esegui);
 
     [[nodiscard]] FrmLista& Lista() const { return *lista_; }
     [[nodiscard]] FrmPercorso& Percorso() const { return *percorso_; }
-    void Apri();
+    /// Shows the lists and the stretch while the screen is open, the entry frame else.
     void Mostra();
+    void Fuoco();
     /// The keys that mean something on this screen; false for all others, and while it is closed.
     bool Tasto(const QKeyEvent& tasto);
 
@@ -39,11 +37,12 @@ class SchermoCopia : public QObject {
     void Scegli(int riga);
     void Chiude(const std::function<void()>& comando);
 
-    Scrivania& scrivania_;
+    Postazione& postazione_;
     QWidget& inserimento_;
     Esegui esegui_;
     FrmLista* lista_;
     FrmPercorso* percorso_;
+    bool aperto_ = false;
 };
 
 }  // namespace cronovia

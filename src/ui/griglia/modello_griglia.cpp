@@ -87,19 +87,19 @@ int ModelloGriglia::columnCount(const QModelIndex& parent) const {
 }
 
 RigaGriglia ModelloGriglia::Testi(int riga) const {
-    const auto posto = static_cast<std::size_t>(riga);
-    if (cronovia_) return TestiDellaRiga(*cronovia_, posto);
-    if (posto >= righe_.size()) return {};
-    if (righe_[posto].localita.isEmpty()) return {{QString::number(riga + 1)}};
-    return TestiDellaTappa(riga + 1, righe_[posto], riepilogo_.tappe[posto]);
+    const auto indice = static_cast<std::size_t>(riga);
+    if (cronovia_) return TestiDellaRiga(*cronovia_, indice);
+    if (indice >= righe_.size()) return {};
+    if (righe_[indice].localita.isEmpty()) return {{QString::number(riga + 1)}};
+    return TestiDellaTappa(riga + 1, righe_[indice], riepilogo_.tappe[indice]);
 }
 
 Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
-    const auto posto = static_cast<std::size_t>(riga);
+    const auto indice = static_cast<std::size_t>(riga);
     if (!cronovia_) {
-        return posto < righe_.size() && righe_[posto].fineGiorno ? Segno::FineGiorno : Segno::Nessuno;
+        return indice < righe_.size() && righe_[indice].fineGiorno ? Segno::FineGiorno : Segno::Nessuno;
     }
-    const RigaCronovia& dati = cronovia_->righe[posto];
+    const RigaCronovia& dati = cronovia_->righe[indice];
     if (dati.riposoDopo) return Segno::Riposo;
     switch (dati.genere) {
         case GenereRiga::Guida:

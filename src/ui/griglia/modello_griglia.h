@@ -22,6 +22,7 @@ class ModelloGriglia : public QAbstractTableModel {
     void MostraCronovia(const Cronovia& cronovia);
 
     [[nodiscard]] bool MostraUnaCronovia() const { return cronovia_.has_value(); }
+    /// The sign of a row, counted from 0; a free row has none.
     [[nodiscard]] Segno SegnoDellaRiga(int riga) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -13,12 +13,14 @@ class VistaGriglia : public QTableView {
 
     /// While stages are entered the arrow and page keys move the current stage; else they move through the rows.
     void ImpostaSelezione(bool diTappe) { diTappe_ = diTappe; }
+    /// Selects a row, counted from 0, and scrolls to it; a row that is not there changes nothing.
     void SelezionaRiga(int riga);
 
     /// Shows the guide, with columns of its own; shows stages and schedules again.
     void MostraGuida(QAbstractItemModel& guida);
     void MostraTappe(QAbstractItemModel& tappe);
 
+    /// The widths of the columns of stages that the person chose, to be remembered; empty while there are none.
     [[nodiscard]] QByteArray Larghezze() const;
     void RipristinaLarghezze(const QByteArray& larghezze);
 

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 
+#include "app/comandi_guida.h"
 #include "interaction/failure.h"
 #include "print/tabella_testo.h"
 #include "ui/stampa/stampanti.h"
@@ -52,12 +53,12 @@ void ComandoStampaGuida::Chiudi() {
 // Nothing, and the person hears why, when there is nothing to print.
 std::optional<Stampato> ComandoStampaGuida::Prepara() {
     std::optional<Stampato> documento;
-    volti_.scrivania.SullaGuida([&](const TavoloGuida& tavolo) {
-        const DatiStampaGuida dati = PreparaStampaGuida(tavolo.Archivio(), tavolo.CodiceMeta(),
-                                                        volti_.scrivania.MetaInCorso().localita, opzioni_->Opzioni());
+    comandi::SullaGuida(volti_.postazione, [&](const TavoloGuida& tavolo) {
+        const DatiStampaGuida dati = PreparaStampaGuida(
+            tavolo.Archivio(), tavolo.CodiceMeta(), volti_.postazione.documento.Campi().localita, opzioni_->Opzioni());
         if (dati.localita.empty()) throw Failure(NienteDaStampare(dati.opzioni));
-        documento =
-            StampaGuida(dati, {volti_.scrivania.Adesso().date(), volti_.finestra.windowTitle()}, volti_.avanzamento);
+        documento = StampaGuida(dati, {volti_.postazione.volti.adesso().date(), volti_.finestra.windowTitle()},
+                                volti_.avanzamento);
     });
     return documento;
 }
@@ -74,11 +75,11 @@ void ComandoStampaGuida::Stampa() {
         return;
     }
     Chiudi();
-    volti_.scrivania.SullaGuida([&](const TavoloGuida&) {
+    comandi::SullaGuida(volti_.postazione, [&](const TavoloGuida&) {
         if (path.isEmpty()) {
             StampaSuStampante(*documento, stampante, volti_.interazione, volti_.avanzamento);
         } else {
-            RifiutaFileTabella(path, volti_.scrivania.Cartella());
+            RifiutaFileTabella(path, volti_.postazione.sessione.Cartella());
             StampaSuFile(*documento, path, volti_.avanzamento);
         }
         volti_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});

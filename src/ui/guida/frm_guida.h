@@ -17,9 +17,11 @@ class FrmGuida : public QGroupBox {
   public:
     explicit FrmGuida(QWidget* parent = nullptr);
 
+    /// The types on offer; what is typed stays.
     void MostraTipi(const std::vector<TipoGuida>& tipi);
     /// Shows the fields of a row; only a row with an entry can be deleted.
     void Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile);
+    /// What the fields hold, as it was typed.
     [[nodiscard]] CampiVoce Campi() const;
     void FuocoSullaDescrizione();
     /// What Enter does where nothing was typed.

@@ -15,6 +15,7 @@ class FrmGuidaStampa : public RiquadroSovrapposto {
   public:
     FrmGuidaStampa();
 
+    /// Shown, in use, with the focus on its first button.
     void Apri();
     [[nodiscard]] OpzioniStampaGuida Opzioni() const;
 

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "app/comandi_guida.h"
 #include "calendar/testo.h"
 
 namespace cronovia {
@@ -17,8 +18,8 @@ constexpr int kCaratteriLocalita = 22;
 
 }  // namespace
 
-SchermoGuida::SchermoGuida(Scrivania& scrivania, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui)
-    : scrivania_(scrivania), griglia_(griglia), elenco_(elenco), esegui_(std::move(esegui)), riquadro_(new FrmGuida) {
+SchermoGuida::SchermoGuida(Postazione& postazione, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui)
+    : postazione_(postazione), griglia_(griglia), elenco_(elenco), esegui_(std::move(esegui)), riquadro_(new FrmGuida) {
     riquadro_->hide();
     Collega();
 }
@@ -34,16 +35,16 @@ void SchermoGuida::Collega() {
         elenco_.setFocus();
     });
     connect(riquadro_, &FrmGuida::Fine, this, [this] {
-        esegui_([this] { scrivania_.FineGuida(); });
+        esegui_([this] { comandi::FineGuida(postazione_); });
         griglia_.setFocus();
     });
     connect(&griglia_, &VistaGriglia::RigaCorrente, this,
-            [this](int riga) { Comanda([riga](TavoloGuida& tavolo) { tavolo.InserisciGuida(riga + 1); }); });
+            [this](int riga) { Comanda([riga](TavoloGuida& tavolo) { tavolo.VaiAllaRiga(riga + 1); }); });
     connect(&griglia_, &QTableView::clicked, this, [this] {
-        if (scrivania_.Guida()) riquadro_->FuocoSullaDescrizione();
+        if (Tavolo()) riquadro_->FuocoSullaDescrizione();
     });
     connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
-        if (!scrivania_.Guida()) return;
+        if (!Tavolo()) return;
         const int riga = voce->data(Qt::UserRole).toInt();
         Comanda([riga](TavoloGuida& tavolo) { tavolo.ScegliLocalita(riga); });
         riquadro_->FuocoSullaDescrizione();
@@ -54,21 +55,24 @@ void SchermoGuida::ImpostaStampa(ComandoStampaGuida& stampa) {
     stampa_ = &stampa;
     connect(riquadro_, &FrmGuida::Stampa, stampa_, &ComandoStampaGuida::Apri);
     connect(stampa_, &ComandoStampaGuida::Cambiato, this, [this] {
-        if (!scrivania_.Guida()) return;
-        Abilita(*scrivania_.Guida());
+        if (!Tavolo()) return;
+        Abilita(*Tavolo());
         esegui_([] {});  // what else is free now
         if (!stampa_->Aperto()) riquadro_->FuocoSullaDescrizione();
     });
 }
 
-void SchermoGuida::Apri() {
-    mostrato_.reset();
-    esegui_([this] { scrivania_.GuidaCitta(); });
-    if (scrivania_.Guida()) riquadro_->FuocoSullaDescrizione();
+const TavoloGuida* SchermoGuida::Tavolo() const {
+    const auto* guida = postazione_.Su<schermata::Guida>();
+    return guida == nullptr ? nullptr : guida->tavolo.get();
+}
+
+void SchermoGuida::Fuoco() {
+    if (Tavolo()) riquadro_->FuocoSullaDescrizione();
 }
 
 void SchermoGuida::Comanda(const std::function<void(TavoloGuida&)>& comando) {
-    if (scrivania_.Guida()) esegui_([&] { scrivania_.SullaGuida(comando); });
+    if (Tavolo()) esegui_([&] { comandi::SullaGuida(postazione_, comando); });
 }
 
 void SchermoGuida::Salva() {
@@ -82,9 +86,9 @@ bool SchermoGuida::StampaAperta() const { return stampa_ != nullptr && stampa_->
 bool SchermoGuida::CampiCambiati() const { return mostrato_ && riquadro_->Campi() != mostrato_->campi; }
 
 bool SchermoGuida::Mostra(int righeMinime) {
-    const std::optional<TavoloGuida>& tavolo = scrivania_.Guida();
-    riquadro_->setVisible(tavolo.has_value());
-    if (!tavolo) {
+    const TavoloGuida* tavolo = Tavolo();
+    riquadro_->setVisible(tavolo != nullptr);
+    if (tavolo == nullptr) {
         mostrato_.reset();
         return false;
     }
@@ -130,8 +134,8 @@ void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
 
 // Enter saves what was typed and leaves otherwise; Escape goes back one step.
 bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
-    const std::optional<TavoloGuida>& tavolo = scrivania_.Guida();
-    if (!tavolo) return false;
+    const TavoloGuida* tavolo = Tavolo();
+    if (tavolo == nullptr) return false;
     const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
     const bool esc = tasto.key() == Qt::Key_Escape;
     if (!invio && !esc) return false;
@@ -150,7 +154,7 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
         Salva();
     } else if (esc && CampiCambiati()) {
         mostrato_.reset();
-        Comanda([](TavoloGuida& t) { t.InserisciGuida(t.RigaCorrente()); });
+        Comanda([](TavoloGuida& t) { t.VaiAllaRiga(t.RigaCorrente()); });
         riquadro_->FuocoSullaDescrizione();
     } else {
         riquadro_->PulsanteFine().click();

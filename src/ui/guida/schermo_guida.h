@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
 #include <optional>
 
-#include "app/scrivania.h"
+#include "app/postazione.h"
 #include "ui/comuni/elenco_scelta.h"
+#include "ui/comuni/esegui.h"
 #include "ui/griglia/vista_griglia.h"
 #include "ui/guida/comando_stampa_guida.h"
 #include "ui/guida/frm_guida.h"
@@ -20,14 +20,12 @@ class SchermoGuida : public QObject {
     Q_OBJECT
 
   public:
-    /// Runs a command of the desk and shows the state anew.
-    using Esegui = std::function<void(const std::function<void()>&)>;
-
-    SchermoGuida(Scrivania& scrivania, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui);
+    SchermoGuida(Postazione& postazione, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui);
 
     [[nodiscard]] FrmGuida& Riquadro() const { return *riquadro_; }
     void ImpostaStampa(ComandoStampaGuida& stampa);
-    void Apri();
+    /// To the entry of a description, while the screen is open.
+    void Fuoco();
     /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
     bool Mostra(int righeMinime);
     /// The choices of the printout lie over the screen.
@@ -37,6 +35,8 @@ class SchermoGuida : public QObject {
 
   private:
     void Collega();
+    /// Null while the screen is closed.
+    [[nodiscard]] const TavoloGuida* Tavolo() const;
     void Comanda(const std::function<void(TavoloGuida&)>& comando);
     void Salva();
     void MostraElenco(const TavoloGuida& tavolo);
@@ -49,7 +49,7 @@ class SchermoGuida : public QObject {
         CampiVoce campi;
     };
 
-    Scrivania& scrivania_;
+    Postazione& postazione_;
     VistaGriglia& griglia_;
     ElencoScelta& elenco_;
     Esegui esegui_;

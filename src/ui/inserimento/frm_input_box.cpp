@@ -17,25 +17,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<TestiPulsante, kComandiItinerario> kTesti = {{
-    {u"cmdInserisce", u"&Inserisce tappa", u"Inserisce la tappa nella riga corrente"},
-    {u"cmdAggiunge", u"&Aggiunge riga vuota", u"Apre una riga vuota prima di quella corrente"},
-    {u"cmdCancella", u"&Cancella riga/tappa", u"Cancella la riga corrente"},
-    {u"cmdRicalcola", u"Ricalc&ola", u"Calcola la cronovia con le modifiche in corso"},
-    {u"cmdRitorno", u"Ri&torno a start", u"Inserisce il ritorno alla località di partenza, dalla località più vicina"},
-    {u"cmdCerca", u"C&erca località", u"Cerca una località dell'itinerario"},
-    {u"cmdFine", u"&Fine inser.", u"Chiude l'inserimento dell'itinerario"},
-    {u"cmdMemorizza", u"&Salva Reset", u"Salva l'itinerario o recupera quello memorizzato"},
-    {u"cmdDuplica", u"&Copia da altre mète", u"Duplica da altra meta"},
-    {u"cmdAzzeraSoste", u"A&zzera soste itiner.", u"Toglie tutte le soste dell'itinerario"},
-    {u"cmdTrasferisce", u"Copia soste guida ->itin.", u"Aggiunge alle soste i tempi di visita della guida"},
-}};
-
-constexpr std::array<ComandoItinerario, kComandiItinerario> kDisposizione = {
-    ComandoItinerario::Inserisce,   ComandoItinerario::Aggiunge,    ComandoItinerario::Cancella,
-    ComandoItinerario::Cerca,       ComandoItinerario::Ritorno,     ComandoItinerario::Duplica,
-    ComandoItinerario::AzzeraSoste, ComandoItinerario::Trasferisce, ComandoItinerario::Ricalcola,
-    ComandoItinerario::Memorizza,   ComandoItinerario::Fine};
+// The order on screen, two in a row.
+constexpr std::array<Comando, 12> kDisposizione = {Comando::Inserisce,      Comando::Aggiunge,    Comando::Cancella,
+                                                   Comando::Cerca,          Comando::Ritorno,     Comando::Duplica,
+                                                   Comando::AltriPacchetti, Comando::AzzeraSoste, Comando::Trasferisce,
+                                                   Comando::Ricalcola,      Comando::Memorizza,   Comando::Fine};
 
 }  // namespace
 
@@ -70,11 +56,11 @@ QWidget* FrmInputBox::CreaCampi() {
     const std::array<QStringList, 3> voci = {Numeri(0, 15, 2), Numeri(0, 23, 2), Quarti()};
     const std::array<QString, 3> nomi = {u"Giorni di sosta"_s, u"Ore di sosta"_s, u"Minuti di sosta"_s};
     for (int i = 0; i < 3; ++i) {
-        const auto posto = static_cast<std::size_t>(i);
-        cmbSosta_[posto] = NuovoElenco(NomeDiSerie(u"cmbSosta"_s, i), voci[posto],
-                                       u"Indicare l'eventuale sosta (gg:hh:mm, obbligatorio con km. 0)"_s);
-        cmbSosta_[posto]->setAccessibleName(nomi[posto]);
-        soste->addWidget(cmbSosta_[posto]);
+        const auto indice = static_cast<std::size_t>(i);
+        cmbSosta_[indice] = NuovoElenco(NomeDiSerie(u"cmbSosta"_s, i), voci[indice],
+                                        u"Indicare l'eventuale sosta (gg:hh:mm, obbligatorio con km. 0)"_s);
+        cmbSosta_[indice]->setAccessibleName(nomi[indice]);
+        soste->addWidget(cmbSosta_[indice]);
     }
     chkEndDay_ = new QCheckBox(u"Fine giornata"_s);
     chkEndDay_->setObjectName(u"chkEndDay"_s);
@@ -110,25 +96,13 @@ QWidget* FrmInputBox::CreaComandi() {
     auto* layout = new QGridLayout(gruppo);
     layout->setContentsMargins({});
     layout->setSpacing(3);
-    int posto = 0;
-    const auto aggiungi = [&](QPushButton* pulsante) {
-        layout->addWidget(pulsante, posto / 2, posto % 2);
-        ++posto;
-    };
-    for (const ComandoItinerario comando : kDisposizione) {
-        QPushButton* pulsante = NuovoPulsante(kTesti[static_cast<std::size_t>(comando)]);
+    int indice = 0;
+    for (const Comando comando : kDisposizione) {
+        QPushButton* pulsante = NuovoPulsante(Descrizione(comando));
         connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
         pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
-        // Its letter is that of the command that takes a row away.
-        if (comando == ComandoItinerario::Duplica) pulsante->setShortcut({});
-        aggiungi(pulsante);
-        if (comando == ComandoItinerario::Duplica) {
-            cmdMapPoint_ = NuovoPulsante(u"cmdMapPoint"_s, u"&Altri &Pacch."_s,
-                                         u"Recepisce dati forniti da pacchetti commerciali"_s);
-            connect(cmdMapPoint_, &QPushButton::clicked, this, &FrmInputBox::AltriPacchetti);
-            cmdMapPoint_->setShortcut({});  // its letters are taken too
-            aggiungi(cmdMapPoint_);
-        }
+        layout->addWidget(pulsante, indice / 2, indice % 2);
+        ++indice;
     }
     return gruppo;
 }
@@ -151,8 +125,7 @@ void FrmInputBox::MostraKmProgressivi(std::optional<bool> attivi) {
 }
 
 void FrmInputBox::Applica(const StatoComandi& stato) {
-    for (std::size_t i = 0; i < kComandiItinerario; ++i) pulsanti_[i]->setEnabled(stato.itinerario[i]);
-    cmdMapPoint_->setEnabled(stato.altriPacchetti && stato.Abilitato(ComandoItinerario::Inserisce));
+    for (const Comando comando : kDisposizione) Pulsante(comando).setEnabled(stato.Abilitato(comando));
 }
 
 CampiTappa FrmInputBox::Campi() const {

@@ -9,7 +9,7 @@
 #include <array>
 #include <optional>
 
-#include "app/modi_comandi.h"
+#include "app/comandi.h"
 #include "itinerary/modifiche.h"
 
 namespace cronovia {
@@ -20,18 +20,20 @@ class FrmInputBox : public QGroupBox {
   public:
     explicit FrmInputBox(QWidget* parent = nullptr);
 
+    /// Puts a row, counted from 1, and its fields into the controls; without a type that of the road stays.
     void Mostra(int riga, const CampiTappa& campi);
+    /// Whether kilometres are taken for progressive ones; nothing: not shown.
     void MostraKmProgressivi(std::optional<bool> attivi);
+    /// Enables the commands.
     void Applica(const StatoComandi& stato);
+    /// What the controls hold, trimmed; kilometres that are no number are 0.
     [[nodiscard]] CampiTappa Campi() const;
     void FuocoSullaTappa();
-    [[nodiscard]] QPushButton& Pulsante(ComandoItinerario comando) const {
-        return *pulsanti_[static_cast<std::size_t>(comando)];
-    }
+    /// The button of one of the itinerary's commands.
+    [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
 
   Q_SIGNALS:
-    void Premuto(ComandoItinerario comando);
-    void AltriPacchetti();
+    void Premuto(Comando comando);
 
   private:
     QWidget* CreaCampi();
@@ -45,8 +47,7 @@ class FrmInputBox : public QGroupBox {
     std::array<QComboBox*, 3> cmbSosta_{};
     QCheckBox* chkEndDay_;
     QCheckBox* chkKm_;
-    std::array<QPushButton*, kComandiItinerario> pulsanti_{};
-    QPushButton* cmdMapPoint_;
+    std::array<QPushButton*, kComandi> pulsanti_{};
 };
 
 }  // namespace cronovia

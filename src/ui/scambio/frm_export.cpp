@@ -25,12 +25,12 @@ FrmExport::FrmExport(QWidget* parent) : QFrame(parent) {
     layout->addWidget(titolo, 0, 0);
     layout->addWidget(istruzioni, 0, 2);
     for (int i = 0; i < 2; ++i) {
-        const auto posto = static_cast<std::size_t>(i);
-        mfgImExp_[posto] = NuovaGriglia(i);
-        etichette_[posto] = NuovaEtichetta({}, *mfgImExp_[posto]);
-        etichette_[posto]->setObjectName(i == 0 ? u"lblExLista"_s : u"lblExSelez"_s);
-        layout->addWidget(etichette_[posto], 1, 2 * i);
-        layout->addWidget(mfgImExp_[posto], 2, 2 * i);
+        const auto indice = static_cast<std::size_t>(i);
+        mfgImExp_[indice] = NuovaGriglia(i);
+        etichette_[indice] = NuovaEtichetta({}, *mfgImExp_[indice]);
+        etichette_[indice]->setObjectName(i == 0 ? u"lblExLista"_s : u"lblExSelez"_s);
+        layout->addWidget(etichette_[indice], 1, 2 * i);
+        layout->addWidget(mfgImExp_[indice], 2, 2 * i);
         layout->setColumnStretch(2 * i, 1);
     }
     layout->addWidget(CreaPulsanti(), 2, 1);
@@ -90,13 +90,13 @@ QWidget* FrmExport::CreaPulsanti() {
 
 void FrmExport::Mostra(const TavoloScambio& tavolo, bool inCorso) {
     for (int i = 0; i < 2; ++i) {
-        const auto posto = static_cast<std::size_t>(i);
-        modelli_[posto].Mostra(tavolo.Mete(i));
-        mfgImExp_[posto]->setEnabled(!inCorso);
-        etichette_[posto]->setText(tavolo.Etichetta(i));
-        mfgImExp_[posto]->setAccessibleName(tavolo.Etichetta(i));
-        cmdTutto_[posto]->setText(tavolo.ScrittaTutto(i));
-        cmdTutto_[posto]->setEnabled(!inCorso && !tavolo.Mete(i).empty());
+        const auto indice = static_cast<std::size_t>(i);
+        modelli_[indice].Mostra(tavolo.Mete(i));
+        mfgImExp_[indice]->setEnabled(!inCorso);
+        etichette_[indice]->setText(tavolo.Etichetta(i));
+        mfgImExp_[indice]->setAccessibleName(tavolo.Etichetta(i));
+        cmdTutto_[indice]->setText(tavolo.ScrittaTutto(i));
+        cmdTutto_[indice]->setEnabled(!inCorso && !tavolo.Mete(i).empty());
     }
     cmdImExp_[0]->setText(tavolo.ScrittaImExp());
     cmdImExp_[0]->setEnabled(!inCorso && !tavolo.Scelte().empty());

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "app/comandi_cronovia.h"
 #include "print/moduli.h"
 #include "print/stampa_cronovia.h"
 #include "print/stampa_itinerario.h"
@@ -60,18 +61,18 @@ ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
     });
 }
 
-void ComandoStampa::Apri() {
-    if (!volti_.scrivania.PreparaStampa()) return;
-    stampante_->hide();
-    opzioni_->Apri();
+void ComandoStampa::Mostra() {
+    const auto* stampa = volti_.postazione.Su<schermata::Stampa>();
+    const bool aperta = stampa != nullptr && !stampa->inCorso;
+    if (aperta == opzioni_->isVisible()) return;
+    Chiudi();
+    if (aperta) opzioni_->Apri();
 }
 
 void ComandoStampa::Fuoco() {
-    if (opzioni_->isVisible() && !stampante_->isVisible()) opzioni_->Apri();
-}
-
-void ComandoStampa::Aggiorna() {
-    if (!volti_.scrivania.CronoviaMostrata() && opzioni_->isVisible()) Chiudi();
+    if (!opzioni_->isVisible()) return;
+    stampante_->hide();
+    opzioni_->Apri();
 }
 
 // From the printers back to the options, from there back to the schedule.
@@ -82,7 +83,7 @@ void ComandoStampa::Rinuncia() {
         return;
     }
     Chiudi();
-    volti_.esegui([this] { volti_.scrivania.FineStampa(); });
+    volti_.esegui([this] { comandi::FineStampa(volti_.postazione); });
 }
 
 void ComandoStampa::Chiudi() {
@@ -104,13 +105,13 @@ void ComandoStampa::Stampa() {
         });
         return;
     }
-    const QString path = ChiediFilePdf(volti_.finestra, u"Cronovia "_s + volti_.scrivania.MetaInCorso().localita);
+    const QString path = ChiediFilePdf(volti_.finestra, u"Cronovia "_s + volti_.postazione.documento.Campi().localita);
     if (path.isEmpty()) {
         volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
         return;
     }
     EseguiStampa([&](const Stampato& documento) {
-        RifiutaFileTabella(path, volti_.scrivania.Cartella());
+        RifiutaFileTabella(path, volti_.postazione.sessione.Cartella());
         StampaSuFile(documento, path, volti_.avanzamento);
     });
 }
@@ -118,11 +119,11 @@ void ComandoStampa::Stampa() {
 void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& stampa) {
     const DatiStampa dati = Dati();
     Chiudi();
-    volti_.scrivania.StampaInCorso();
-    StampaDellItinerario({dati, Piede(), volti_.scrivania.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(), stampa,
-                          [&] { AvviaModuli(dati); }},
+    comandi::StampaInCorso(volti_.postazione);
+    StampaDellItinerario({dati, Piede(), volti_.postazione.sessione.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(),
+                          stampa, [&] { AvviaModuli(dati); }},
                          volti_.interazione, volti_.avanzamento);
-    volti_.scrivania.FineStampa();
+    comandi::FineStampa(volti_.postazione);
 }
 
 void ComandoStampa::AvviaModuli(const DatiStampa& dati) {
@@ -137,13 +138,15 @@ void ComandoStampa::AvviaModuli(const DatiStampa& dati) {
         ~Cartello() { riquadro_.hide(); }
         QWidget& riquadro_;
     } const cartello(*inCorso_);
-    cronovia::AvviaModuli(dati, {QCoreApplication::applicationDirPath(), volti_.scrivania.Cartella()});
+    cronovia::AvviaModuli(dati, {QCoreApplication::applicationDirPath(), volti_.postazione.sessione.Cartella()});
 }
 
 DatiStampa ComandoStampa::Dati() const {
-    return PreparaStampa(volti_.scrivania.MetaInCorso(), *volti_.scrivania.CronoviaMostrata());
+    return PreparaStampa(volti_.postazione.documento.Campi(), *volti_.postazione.documento.Calcolata());
 }
 
-PieDiPagina ComandoStampa::Piede() const { return {volti_.scrivania.Adesso().date(), volti_.finestra.windowTitle()}; }
+PieDiPagina ComandoStampa::Piede() const {
+    return {volti_.postazione.volti.adesso().date(), volti_.finestra.windowTitle()};
+}
 
 }  // namespace cronovia

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
 
-#include "app/scrivania.h"
+#include "app/postazione.h"
 #include "print/dati_stampa.h"
 #include "print/foglio.h"
+#include "ui/comuni/esegui.h"
 #include "ui/stampa/frm_sel_stampa.h"
 #include "ui/stampa/frm_stampa.h"
 
@@ -19,22 +19,20 @@ class ComandoStampa : public QObject {
 
   public:
     struct Volti {
-        Scrivania& scrivania;
+        Postazione& postazione;
         Interaction& interazione;
         Progress& avanzamento;
         QWidget& finestra;
-        std::function<void(const std::function<void()>&)> esegui;  ///< runs a command of the window
+        Esegui esegui;
     };
 
     /// Puts its frames over the area.
     ComandoStampa(Volti volti, QGridLayout& area);
 
-    /// Computes the schedule when none is on screen, then asks what to print.
-    void Apri();
-    /// To the frame in front, if one is open.
+    /// Shows what is to be printed while that is chosen; to be called whenever the state is shown anew.
+    void Mostra();
+    /// Back to what is to be printed, if that is chosen.
     void Fuoco();
-    /// The frames that the state of the desk allows; to be called whenever it is shown anew.
-    void Aggiorna();
     [[nodiscard]] bool Aperto() const { return opzioni_->isVisible() || stampante_->isVisible(); }
     void Rinuncia();
     /// The choice of the printer, of which there is one for all printouts.

@@ -15,6 +15,7 @@ class FrmSelStampa : public RiquadroSovrapposto {
 
     /// Fills the list with the printers that there are now, the PDF file as the last, and shows it.
     void VisualizzaListaStampanti();
+    /// Name of the current entry; empty without one.
     [[nodiscard]] QString Scelta() const;
     /// The PDF file is chosen; a printer that bears its name is not.
     [[nodiscard]] bool SceltoFilePdf() const;

@@ -15,6 +15,7 @@ class FrmStampa : public RiquadroSovrapposto {
 
     /// Shown, in use, with the focus on its first button.
     void Apri();
+    /// What is ticked: the schedule, the forms of the logbook.
     [[nodiscard]] bool Tabella() const { return chkTabella_->isChecked(); }
     [[nodiscard]] bool Moduli() const { return chkModuli_->isChecked(); }
 

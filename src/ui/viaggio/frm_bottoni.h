@@ -5,8 +5,7 @@
 #include <QPushButton>
 #include <array>
 
-#include "app/modi_comandi.h"
-#include "ui/comuni/controlli.h"
+#include "app/comandi.h"
 
 namespace cronovia {
 
@@ -16,12 +15,13 @@ class FrmBottoni : public QFrame {
   public:
     explicit FrmBottoni(QWidget* parent = nullptr);
 
-    void Applica(const StatoComandi& stato, bool daSbloccare, bool converte);
+    /// Enabled, captions and keys as they are at this moment.
+    void Applica(const StatoComandi& stato);
+    /// The button of one of the main commands.
     [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
 
   Q_SIGNALS:
     void Premuto(Comando comando);
-    void Converte();
 
   private:
     std::array<QPushButton*, kComandi> pulsanti_{};

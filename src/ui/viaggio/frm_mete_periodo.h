@@ -17,14 +17,18 @@ class FrmMetePeriodo : public QGroupBox {
     Q_OBJECT
 
   public:
+    /// Years are on offer from 1998 to some years after the current one.
     explicit FrmMetePeriodo(int annoCorrente, QWidget* parent = nullptr);
 
     void Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo);
+    /// Day, month, year, hour, minutes, weekday and number of days of the end; empty texts without a schedule.
     void MostraFine(const std::array<QString, 7>& fine);
+    /// Puts what the fields hold into the trip; a start that is no date becomes nothing.
     void Leggi(Meta& meta) const;
     void FuocoSullaLocalita();
 
   Q_SIGNALS:
+    /// The person changed a field; a part of the start.
     void Cambiata();
     void InizioCambiato();
 

@@ -16,11 +16,13 @@ class FrmMeteTempi : public QGroupBox {
     Q_OBJECT
 
   public:
+    /// Hours with minutes, in the order of `cmbOra_0` to `cmbOra_8`.
     static constexpr std::size_t kOrari = 9;
 
     explicit FrmMeteTempi(QWidget* parent = nullptr);
 
     void Mostra(const ParametriViaggio& parametri);
+    /// Puts what the fields hold into the parameters; speeds and policy stay.
     void Leggi(ParametriViaggio& parametri) const;
 
   Q_SIGNALS:

@@ -27,22 +27,22 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
     layout->addWidget(new QLabel(u"Km."_s), 0, 2, Qt::AlignCenter);
     layout->addWidget(new QLabel(u"Tempo"_s), 0, 3, Qt::AlignCenter);
     for (int i = 0; i <= kTipiStrada; ++i) {
-        const auto posto = static_cast<std::size_t>(i);
+        const auto indice = static_cast<std::size_t>(i);
         const bool tutti = i == kTipiStrada;
         const QString tipo = tutti ? u"Totale"_s : NomeTipoStrada(static_cast<TipoStrada>(i));
-        txtKmTot_[posto] = NuovoRisultato(NomeDiSerie(u"txtKmTot"_s, i), 7, u"Chilometri: %1"_s.arg(tipo));
-        txtTempo_[posto] =
+        txtKmTot_[indice] = NuovoRisultato(NomeDiSerie(u"txtKmTot"_s, i), 7, u"Chilometri: %1"_s.arg(tipo));
+        txtTempo_[indice] =
             NuovoRisultato(NomeDiSerie(u"txtTempo"_s, i), 8, u"Tempo di guida (gg:hh:mm): %1"_s.arg(tipo));
-        layout->addWidget(txtKmTot_[posto], i + 1, 2);
-        layout->addWidget(txtTempo_[posto], i + 1, 3);
+        layout->addWidget(txtKmTot_[indice], i + 1, 2);
+        layout->addWidget(txtTempo_[indice], i + 1, 3);
         if (tutti) {
             layout->addWidget(new QLabel(tipo), i + 1, 0);
             continue;
         }
-        cmbMediaKm_[posto] =
-            NuovoElenco(NomeDiSerie(u"cmbMediaKm"_s, i), Numeri(kMedie[posto].da, kMedie[posto].a, 0, 5),
+        cmbMediaKm_[indice] =
+            NuovoElenco(NomeDiSerie(u"cmbMediaKm"_s, i), Numeri(kMedie[indice].da, kMedie[indice].a, 0, 5),
                         u"Velocità media in km/h: %1"_s.arg(tipo));
-        QComboBox& media = *cmbMediaKm_[posto];
+        QComboBox& media = *cmbMediaKm_[indice];
         LasciaScrivereCifre(media, 3);
         connect(&media, &QComboBox::editTextChanged, this, &FrmMeteVelocita::Cambiata);
         QLabel* etichetta = NuovaEtichetta(tipo, media);

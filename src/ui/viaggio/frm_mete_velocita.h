@@ -18,7 +18,9 @@ class FrmMeteVelocita : public QGroupBox {
     explicit FrmMeteVelocita(QWidget* parent = nullptr);
 
     void Mostra(const ParametriViaggio& parametri);
+    /// Kilometres, driving times and ferries, by type of road.
     void MostraTotali(const TestiTotali& totali);
+    /// Puts the speeds, in km/h, into the parameters; an emptied one is 0.
     void Leggi(ParametriViaggio& parametri) const;
 
   Q_SIGNALS:

@@ -1,0 +1,46 @@
+#include "app/comandi_copia.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/comandi_inserimento.h"
+
+namespace cronovia::comandi {
+
+using namespace Qt::StringLiterals;
+
+void Duplica(Postazione& p) {
+    const RigheItinerario& righe = p.documento.Righe();
+    int riga = std::min(p.documento.RigaCorrente(), NumeroTappe(righe));
+    while (riga > 1 && righe[static_cast<std::size_t>(riga - 1)].localita.isEmpty()) --riga;
+    SelezionaRiga(p, riga);
+    p.Prova([&] {
+        CopiaPercorso percorso(p.sessione);
+        const auto* inserimento = p.Su<schermata::Inserimento>();
+        p.schermata.emplace<schermata::Copia>(std::move(percorso),
+                                              inserimento ? *inserimento : schermata::Inserimento());
+    });
+}
+
+void SullaCopia(Postazione& p, const std::function<void(CopiaPercorso&)>& comando) {
+    auto* copia = p.Su<schermata::Copia>();
+    if (copia == nullptr) return;
+    p.Prova([&] { comando(copia->percorso); });
+    if (copia->percorso.Mete().empty()) RinunciaDuplicaItinerario(p);
+}
+
+void InserisciPercorso(Postazione& p, bool conSoste) {
+    auto* copia = p.Su<schermata::Copia>();
+    const std::optional<Tratto> tratto = copia ? copia->percorso.Scelto() : std::nullopt;
+    if (!tratto || !BoxConferma(p.volti.interazione, u"IP"_s)) return;
+    EsitoTratto esito =
+        CopiaTratto(p.documento.Righe(), p.documento.RigaCorrente(), *copia->percorso.Tappe(), *tratto, conSoste);
+    if (!Modifica(p, u"copia di un percorso"_s, std::move(esito.righe), esito.rigaCorrente)) return;
+    p.schermata = NuovoInserimento(p.documento);
+}
+
+void RinunciaDuplicaItinerario(Postazione& p) {
+    if (auto* copia = p.Su<schermata::Copia>()) p.schermata = schermata::Inserimento{copia->da};
+}
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,16 @@
+// The commands of the copy screen.
+#pragma once
+
+#include "app/postazione.h"
+
+namespace cronovia::comandi {
+
+/// Lists the trips to copy from, beside the entry of stages.
+void Duplica(Postazione& p);
+/// Does something on the screen; it closes when nothing is left to choose from.
+void SullaCopia(Postazione& p, const std::function<void(CopiaPercorso&)>& comando);
+/// Copies the stretch that was chosen, after a question; nothing before both its ends are.
+void InserisciPercorso(Postazione& p, bool conSoste);
+void RinunciaDuplicaItinerario(Postazione& p);
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,73 @@
+#include "app/comandi_cronovia.h"
+
+#include <utility>
+
+#include "app/comandi_inserimento.h"
+
+namespace cronovia::comandi {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Back to where the schedule was computed. The entry fields show what the row has.
+void TornaDa(Postazione& p, schermata::Cronovia cronovia) {
+    p.documento.Ricomponi();
+    if (const auto* viaggio = std::get_if<schermata::Viaggio>(&cronovia.da)) {
+        p.schermata = schermata::Viaggio{viaggio->fase};
+    } else {
+        p.schermata = NuovoInserimento(p.documento);
+    }
+}
+
+// The screen that a schedule is computed from; nothing when one is there or cannot be.
+std::optional<schermata::Cronovia> Partenza(const Postazione& p) {
+    if (const auto* viaggio = p.Su<schermata::Viaggio>()) return schermata::Cronovia{*viaggio};
+    if (const auto* inserimento = p.Su<schermata::Inserimento>()) return schermata::Cronovia{*inserimento};
+    return std::nullopt;
+}
+
+// While it is computed, the schedule's screen is in front already. The reason why it is as it is, or empty.
+QString Esegui(Postazione& p) {
+    const std::optional<schermata::Cronovia> da = Partenza(p);
+    if (!da) return {};
+    p.schermata = *da;
+    QString messaggio;
+    p.MentreCorre([&] { messaggio = p.documento.Calcola(p.volti.avanzamento); });
+    if (p.documento.Calcolata()) return messaggio;
+    TornaDa(p, *da);
+    return {};
+}
+
+void EseguiERacconta(Postazione& p) {
+    const QString messaggio = Esegui(p);
+    if (messaggio.isEmpty()) return;
+    p.volti.mostra();
+    p.Mostra(messaggio, u"Calcolo cronovia"_s, Icon::Information);
+}
+
+}  // namespace
+
+void Calcola(Postazione& p) {
+    if (auto* stampa = p.Su<schermata::Stampa>()) return TornaDa(p, stampa->da);
+    if (auto* cronovia = p.Su<schermata::Cronovia>()) return TornaDa(p, *cronovia);
+    EseguiERacconta(p);
+}
+
+void Ricalcola(Postazione& p) { EseguiERacconta(p); }
+
+void Stampa(Postazione& p) {
+    Esegui(p);
+    if (auto* cronovia = p.Su<schermata::Cronovia>()) p.schermata = schermata::Stampa{*cronovia};
+}
+
+void StampaInCorso(Postazione& p) {
+    if (auto* stampa = p.Su<schermata::Stampa>()) stampa->inCorso = true;
+    p.volti.mostra();
+}
+
+void FineStampa(Postazione& p) {
+    if (auto* stampa = p.Su<schermata::Stampa>()) p.schermata = schermata::Cronovia{stampa->da};
+}
+
+}  // namespace cronovia::comandi

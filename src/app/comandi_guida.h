@@ -1,0 +1,15 @@
+// The commands that lead into the guide screen and out of it; those on it are `TavoloGuida`'s.
+#pragma once
+
+#include "app/postazione.h"
+
+namespace cronovia::comandi {
+
+/// Opens the guide of the trip; tells when it has no stored stages.
+void GuidaCitta(Postazione& p);
+/// Does something on the screen; it closes when another window took the stages away.
+void SullaGuida(Postazione& p, const std::function<void(TavoloGuida&)>& comando);
+/// The itinerary comes back as it is stored, with the visits that the guide now has.
+void FineGuida(Postazione& p);
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,192 @@
+#include "app/comandi_inserimento.h"
+
+#include <utility>
+
+#include "app/comandi_copia.h"
+#include "app/comandi_viaggio.h"
+#include "exchange/percorsi/importa_percorso.h"
+#include "itinerary/tratti.h"
+
+namespace cronovia::comandi {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The entry fields follow the row: what is being typed stays, unless another stage has come into it.
+void SegueLaRiga(Postazione& p) {
+    auto* inserimento = p.Su<schermata::Inserimento>();
+    if (inserimento == nullptr) return;
+    schermata::Inserimento nuovo = NuovoInserimento(p.documento);
+    if (nuovo.riga == inserimento->riga && nuovo.proposti == inserimento->proposti) nuovo.campi = inserimento->campi;
+    *inserimento = std::move(nuovo);
+}
+
+QString CiSonoTappe() {
+    return u"Impossibile: sono presenti delle tappe!\n\nE' ammesso solo con itinerario vuoto.\n\n"
+           "Se vuoi procedere con l'import da MapPoint,\nè necessario cancellare l'itinerario."_s;
+}
+
+QString NonRiconosciuto() {
+    return u"Attenzione!\n\nFile non riconosciuto!\n\nAttualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
+           ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."_s;
+}
+
+void MettiPercorso(Postazione& p, RigheItinerario percorso) {
+    if (!p.Chiede(RiassuntoPercorso(percorso) + u"\n\nVuoi riportarle nell'itinerario?"_s, u"Import del percorso"_s)) {
+        return;
+    }
+    const auto prossima = static_cast<int>(percorso.size()) + 1;
+    Modifica(p, u"import del percorso"_s, std::move(percorso), prossima);
+}
+
+}  // namespace
+
+schermata::Inserimento NuovoInserimento(const Documento& documento) {
+    const CampiTappa campi = documento.CampiCorrenti();
+    return {campi, campi, documento.RigaCorrente()};
+}
+
+std::optional<bool> KmProgressivi(const Postazione& p) {
+    const int riga = p.documento.RigaCorrente();
+    if (!p.InInserimento() || riga <= 2) return std::nullopt;
+    return KmPrecedenti(p.documento.Righe(), p.documento.Riepilogo(), riga) > 100;
+}
+
+void Itinerario(Postazione& p) {
+    if (SenzaMeta(p)) return;
+    p.documento.SelezionaRiga(p.documento.RigaCorrente());
+    p.schermata = NuovoInserimento(p.documento);
+}
+
+void SelezionaRiga(Postazione& p, int riga) {
+    p.documento.SelezionaRiga(riga);
+    SegueLaRiga(p);
+}
+
+bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga) {
+    if (!p.Prova([&] { p.documento.Modifica(nome, std::move(nuove), riga); })) return false;
+    SegueLaRiga(p);
+    return true;
+}
+
+void Inserisce(Postazione& p) {
+    auto* inserimento = p.Su<schermata::Inserimento>();
+    if (inserimento == nullptr) return;
+    const RigheItinerario& righe = p.documento.Righe();
+    const int riga = p.documento.RigaCorrente();
+    CampiTappa campi = inserimento->campi;
+    if (campi.kmDigitati) campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe, p.documento.Riepilogo(), riga), riga);
+    const std::vector<Message> rifiuti = ControllaTappa(campi, riga);
+    for (const Message& rifiuto : rifiuti) p.volti.interazione.Show(rifiuto);
+    if (!rifiuti.empty()) return;
+    const bool nuova =
+        riga > static_cast<int>(righe.size()) || righe[static_cast<std::size_t>(riga - 1)].localita.isEmpty();
+    const QString nome = (nuova ? u"inserimento di %1"_s : u"modifica di %1"_s).arg(campi.localita);
+    if (Modifica(p, nome, InserisceTappa(righe, riga, campi), riga + 1)) inserimento->appenaInserita = true;
+}
+
+void Aggiunge(Postazione& p) {
+    const int riga = p.documento.RigaCorrente();
+    Modifica(p, u"apertura di una riga"_s, InserisciRigheItinerario(p.documento.Righe(), riga, 1), riga);
+}
+
+void Cancella(Postazione& p) {
+    const int riga = p.documento.RigaCorrente();
+    Modifica(p, u"cancellazione di una riga"_s, CancellaRiga(p.documento.Righe(), riga), riga);
+}
+
+void AzzeraSoste(Postazione& p) {
+    if (!p.Chiede(u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
+                  "I tempi traghetto e riposi non sono influenzati e la\n"
+                  "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
+                  u"Azzera soste itinerario"_s)) {
+        return;
+    }
+    Modifica(p, u"azzeramento delle soste"_s, cronovia::AzzeraSoste(p.documento.Righe()), p.documento.RigaCorrente());
+}
+
+void Ritorno(Postazione& p) {
+    EsitoTratto esito = cronovia::Ritorno(p.documento.Righe());
+    Modifica(p, u"ritorno alla partenza"_s, std::move(esito.righe), esito.rigaCorrente);
+}
+
+void Trasferisce(Postazione& p) {
+    if (!p.Chiede(u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
+                  "I tempi traghetto e riposi non sono influenzati e la\n"
+                  "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
+                  u"Copia soste Guida -> Itinerario"_s)) {
+        return;
+    }
+    RigheItinerario righe;
+    const bool lette = p.Prova([&] {
+        righe = ConSosteDellaGuida(p.sessione.Archivio(), p.documento.Righe(),
+                                   OrarioCorretto(p.documento.Campi().parametri), p.volti.avanzamento);
+    });
+    if (lette) Modifica(p, u"copia delle soste della guida"_s, std::move(righe), p.documento.RigaCorrente());
+    p.volti.avanzamento.Advance(0, 0);
+}
+
+void AltriPacchetti(Postazione& p) {
+    if (NumeroTappe(p.documento.Righe()) > 0) return p.Mostra(CiSonoTappe());
+    const QString path = p.volti.scegliFile(FileChiesto::Percorso);
+    if (path.isEmpty()) return;
+    std::optional<RigheItinerario> percorso;
+    const bool letto = p.MentreScrive({}, [&] { percorso = LeggiPercorso(path, p.volti.avanzamento); });
+    p.volti.avanzamento.Advance(0, 0);
+    if (letto && percorso) {
+        MettiPercorso(p, std::move(*percorso));
+    } else if (letto) {
+        p.Mostra(NonRiconosciuto());
+    }
+}
+
+void Cerca(Postazione& p) {
+    if (auto* inserimento = p.Su<schermata::Inserimento>()) inserimento->elencoTappe = true;
+}
+
+void ScegliTappa(Postazione& p, int riga) { SelezionaRiga(p, riga); }
+
+bool SalvaTappe(Postazione& p) {
+    return p.MentreScrive(u"L'itinerario non è stato salvato."_s, [&] {
+        const EsitoMemorizzazione esito = p.documento.SalvaTappe(p.volti.avanzamento);
+        if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
+    });
+}
+
+Answer ChiedeSeSalvare(Postazione& p) {
+    return p.volti.interazione.Ask(
+        {u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
+         "Vuoi salvare le eventuali modifiche?"_s,
+         u"Fine inserimento"_s, true});
+}
+
+void Memorizza(Postazione& p) {
+    const QString titolo = u"Salvataggio itinerario"_s;
+    const Answer risposta = p.volti.interazione.Ask({u"Vuoi salvare l'itinerario?"_s, titolo, true});
+    if (risposta == Answer::Cancel) return;
+    if (risposta == Answer::Yes) {
+        SalvaTappe(p);
+        return;
+    }
+    if (!p.Chiede(u"Vuoi recuperare l'itinerario originale?"_s, titolo)) return;
+    p.Prova([&] {
+        p.documento.Ricarica(p.volti.adesso());
+        p.schermata = NuovoInserimento(p.documento);
+    });
+}
+
+void Fine(Postazione& p) {
+    if (p.Su<schermata::Copia>()) return RinunciaDuplicaItinerario(p);
+    auto* inserimento = p.Su<schermata::Inserimento>();
+    if (inserimento != nullptr && inserimento->elencoTappe) {
+        inserimento->elencoTappe = false;
+        return;
+    }
+    const Answer risposta = ChiedeSeSalvare(p);
+    if (risposta == Answer::Cancel) return;
+    if (risposta == Answer::Yes && !SalvaTappe(p)) return;
+    p.Prova([&] { p.VaiAlViaggio(); });
+}
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,51 @@
+// The commands of the entry screen.
+#pragma once
+
+#include "app/postazione.h"
+
+namespace cronovia::comandi {
+
+/// The entry of stages as it opens, with what the current row proposes.
+[[nodiscard]] schermata::Inserimento NuovoInserimento(const Documento& documento);
+
+/// Opens the entry of stages.
+void Itinerario(Postazione& p);
+/// Goes to a row, counted from 1.
+void SelezionaRiga(Postazione& p, int riga);
+
+/// Writes the entry fields into the current row and goes to the next; tells why that cannot be, and then the fields
+/// stay as they are.
+void Inserisce(Postazione& p);
+/// Opens a free row before the current one; takes the current one away.
+void Aggiunge(Postazione& p);
+void Cancella(Postazione& p);
+/// Takes all stops away, after a question.
+void AzzeraSoste(Postazione& p);
+/// Goes back to the start of the trip.
+void Ritorno(Postazione& p);
+/// Adds the guide's visit times to the stops, after a question.
+void Trasferisce(Postazione& p);
+/// Puts the stages of a route planner's export into an empty itinerary.
+void AltriPacchetti(Postazione& p);
+
+/// Opens the list of places to go to; goes to the row of one.
+void Cerca(Postazione& p);
+void ScegliTappa(Postazione& p, int riga);
+
+/// Saves the stages, or takes them back as they are stored.
+void Memorizza(Postazione& p);
+/// Closes the list that is open, else the screen, after the question whether to save.
+void Fine(Postazione& p);
+
+/// The question that leaving the entry asks.
+[[nodiscard]] Answer ChiedeSeSalvare(Postazione& p);
+/// Saves the stages and tells what was shortened, or what went wrong: false then.
+bool SalvaTappe(Postazione& p);
+
+/// Whether progressive kilometres are meant in the current row; nothing when that cannot be.
+[[nodiscard]] std::optional<bool> KmProgressivi(const Postazione& p);
+
+/// Replaces the stages in one step and goes to a row. Tells what went wrong; false then.
+bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga);
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,24 @@
+// The commands of the exchange screen, and the conversion of the earlier release's data.
+#pragma once
+
+#include "app/postazione.h"
+
+namespace cronovia::comandi {
+
+/// Open the screen, over an empty trip: with the trips of the archive; with those of a file that the person names. An
+/// import without a file leaves the trip as it was.
+void Export(Postazione& p);
+void Import(Postazione& p);
+/// The import of a file that came from outside; refused where an import cannot be begun.
+void ApriFile(Postazione& p, const QString& file);
+
+/// Does something on the screen; nothing while a run is on.
+void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& comando);
+/// Exports or imports the trips that are chosen, after a question. No trip is open afterwards.
+void ImExp(Postazione& p);
+void FineScambio(Postazione& p);
+
+/// Brings over the earlier release's data, after a question.
+void Converte(Postazione& p);
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,157 @@
+#include "app/comandi_viaggio.h"
+
+#include <utility>
+
+#include "app/comandi_guida.h"
+#include "app/comandi_inserimento.h"
+
+namespace cronovia::comandi {
+
+using namespace Qt::StringLiterals;
+using Fase = schermata::Viaggio::Fase;
+
+namespace {
+
+void Default(Postazione& p, const QString& verbo, const std::function<void()>& azione) {
+    p.Prova([&] {
+        const QString titolo = u"Dati di default"_s;
+        if (!p.Chiede(u"Vuoi %1 i dati di default?"_s.arg(verbo), titolo)) return;
+        azione();
+        p.Mostra(u"Operazione eseguita!"_s, titolo, Icon::Information);
+    });
+}
+
+// A new trip is in the archive only after it was saved.
+bool LasciaNuovaMeta(Postazione& p) {
+    if (!p.documento.NuovaDigitata()) return true;
+    return p.Chiede(
+        u"La nuova mèta «%1» non è stata salvata: vuoi rinunciarvi?"_s.arg(p.documento.Campi().localita.trimmed()),
+        u"Fine Lavoro"_s);
+}
+
+// The screen in front after a step was taken back or made again.
+void Segue(Postazione& p) {
+    if (p.Su<schermata::Inserimento>()) SelezionaRiga(p, p.documento.RigaCorrente());
+    SullaGuida(p, [](TavoloGuida&) {});
+}
+
+}  // namespace
+
+bool SenzaMeta(Postazione& p) {
+    if (!p.documento.Codice().isEmpty()) return false;
+    p.Mostra(u"Nessuna mèta è aperta: sceglila con «Ricerca mèta»."_s);
+    return true;
+}
+
+void Nuovo(Postazione& p) {
+    p.Prova([&] {
+        p.documento.Proponi(p.volti.adesso());
+        p.schermata = schermata::Viaggio{Fase::Nuova};
+    });
+}
+
+void Ricerca(Postazione& p) {
+    auto* viaggio = p.Su<schermata::Viaggio>();
+    if (viaggio == nullptr) return;
+    p.Prova([&] {
+        std::vector<MetaInElenco> elenco = AutostradeInFondo(ElencoMete(p.sessione.Archivio()));
+        if (elenco.empty()) {
+            *viaggio = {Fase::Vuota};
+            p.Mostra(u"Nessuna mèta nel database!"_s, u"Database vuoto"_s);
+            return;
+        }
+        p.schermata = schermata::ElencoMete{std::move(elenco), {viaggio->fase}};
+    });
+}
+
+void ScegliMeta(Postazione& p, const QString& codice) {
+    p.Prova([&] {
+        p.documento.Apri(codice);
+        p.schermata = schermata::Viaggio{Fase::Aperta};
+    });
+}
+
+void ChiudiElencoMete(Postazione& p) {
+    if (auto* elenco = p.Su<schermata::ElencoMete>()) p.schermata = schermata::Viaggio{elenco->da};
+}
+
+void Salva(Postazione& p) {
+    Salvataggio salvataggio;
+    if (!p.Prova([&] { salvataggio = p.documento.DecidiSalvataggio(); })) return;
+    if (!BoxConferma(p.volti.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
+    p.MentreScrive(u"La mèta non è stata salvata."_s, [&] {
+        p.documento.SalvaCampi(salvataggio, p.volti.adesso());
+        p.schermata = schermata::Viaggio{Fase::Aperta};
+    });
+}
+
+void CancMeta(Postazione& p) {
+    p.Prova([&] {
+        p.VaiAlViaggio();
+        p.volti.mostra();
+        if (p.documento.Codice().isEmpty() || !BoxConferma(p.volti.interazione, u"A"_s)) return;
+        p.MentreScrive(u"La mèta non è stata cancellata."_s, [&] {
+            p.documento.Cancella(p.volti.avanzamento);
+            p.VaiAlViaggio();
+        });
+    });
+}
+
+void CancItin(Postazione& p) {
+    if (SenzaMeta(p)) return;
+    p.Prova([&] {
+        if (!BoxConferma(p.volti.interazione, u"AI"_s)) return;
+        if (!p.Chiede(u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più "
+                      "recuperabile!"_s,
+                      u"Annullamento itinerario"_s)) {
+            return;
+        }
+        p.MentreScrive(u"L'itinerario non è stato cancellato."_s, [&] {
+            p.documento.CancellaTappe(p.volti.avanzamento);
+            p.VaiAlViaggio();
+        });
+    });
+}
+
+void SalvaDefault(Postazione& p) {
+    Default(p, u"salvare"_s, [&] { MemorizzaVariabiliMeta(p.sessione.Archivio(), p.documento.Campi().parametri); });
+}
+
+void CaricaDefault(Postazione& p) {
+    Default(p, u"caricare"_s, [&] { p.documento.ImpostaParametri(CaricaDefaultMeta(p.sessione.Archivio())); });
+}
+
+void RipristinaDefault(Postazione& p) {
+    Default(p, u"ripristinare"_s, [&] { p.documento.ImpostaParametri(RipristinaDefaultMeta(p.sessione.Archivio())); });
+}
+
+void Esce(Postazione& p) {
+    const QString titolo = u"Fine Lavoro"_s;
+    if (!p.InCorsa()) {
+        if (p.Chiede(u"Vuoi chiudere la procedura?"_s, titolo)) p.volti.chiudi();
+    } else if (p.Chiede(u"Vuoi interrompere l'elaborazione?"_s, titolo)) {
+        p.volti.ferma();
+    }
+}
+
+bool PossoChiudere(Postazione& p) {
+    if (p.InCorsa()) return false;
+    if (!p.documento.TappeModificate()) return LasciaNuovaMeta(p);
+    const Answer risposta = ChiedeSeSalvare(p);
+    if (risposta == Answer::Cancel) return false;
+    return risposta == Answer::No || SalvaTappe(p);
+}
+
+void Annulla(Postazione& p) {
+    if (!p.DaAnnullare()) return;
+    p.Prova([&] { p.documento.Modifiche().Annulla(*p.AmbitoInVista()); });
+    Segue(p);
+}
+
+void Ripeti(Postazione& p) {
+    if (!p.DaRipetere()) return;
+    p.Prova([&] { p.documento.Modifiche().Ripeti(*p.AmbitoInVista()); });
+    Segue(p);
+}
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,37 @@
+// The commands of the trip screen and of the list of trips.
+#pragma once
+
+#include "app/postazione.h"
+
+namespace cronovia::comandi {
+
+/// Begins a new trip.
+void Nuovo(Postazione& p);
+/// Opens the list of trips; tells when there is none.
+void Ricerca(Postazione& p);
+void ScegliMeta(Postazione& p, const QString& codice);
+/// What was on screen before the search is there still.
+void ChiudiElencoMete(Postazione& p);
+
+void Salva(Postazione& p);
+void CancMeta(Postazione& p);
+void CancItin(Postazione& p);
+
+// The personal defaults, each after a question.
+void SalvaDefault(Postazione& p);
+void CaricaDefault(Postazione& p);
+void RipristinaDefault(Postazione& p);
+
+/// Leaves the program after a question; while a run is on, stops that.
+void Esce(Postazione& p);
+/// Asks before unsaved stages, or a new trip that was typed, are lost; false when the person wants to stay.
+[[nodiscard]] bool PossoChiudere(Postazione& p);
+
+/// Tells that no trip is open, which happens after an exchange; false when one is.
+[[nodiscard]] bool SenzaMeta(Postazione& p);
+
+/// Take the last change back that the screen in front is about, and make it again.
+void Annulla(Postazione& p);
+void Ripeti(Postazione& p);
+
+}  // namespace cronovia::comandi

@@ -1,0 +1,149 @@
+#include "app/documento.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "interaction/failure.h"
+#include "trips/orario.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+void Documento::Metti(Meta campi, RigheItinerario righe) {
+    campi_ = std::move(campi);
+    righe_ = std::move(righe);
+    cronovia_.reset();
+    rigaCorrente_ = 1;
+    storia_.Dimentica(Ambito::Viaggio);
+    RicalcolaTempi();
+    caricati_ = campi_;
+    caricate_ = righe_;
+}
+
+void Documento::Apri(const QString& codice) {
+    MetaAperta scelta = sessione_.ApriMeta(codice);  // refused here when another window deleted it
+    Archive& archivio = sessione_.Archivio();
+    Transaction transaction(archivio);
+    const Archive::Mark prima = archivio.PresentMark();
+    SalvaIlCodiceMetaCorrente(archivio, codice);
+    const Archive::Mark adesso = archivio.PresentMark();
+    transaction.Commit();
+    storia_.SegueArchivio(prima, adesso);
+    Metti(std::move(scelta.meta), std::move(scelta.tappe));
+    codice_ = codice;
+}
+
+void Documento::Ricarica(const QDateTime& adesso) {
+    Archive& archivio = sessione_.Archivio();
+    const bool esiste = CaricaDatiAnagraficiMeta(archivio, codice_).has_value();
+    const QString codice = esiste ? codice_ : RicercaMetaCorrente(archivio);
+    if (codice.isEmpty()) {
+        Proponi(adesso);
+    } else {
+        MetaAperta aperta = sessione_.ApriMeta(codice);
+        Metti(std::move(aperta.meta), std::move(aperta.tappe));
+    }
+    codice_ = codice;
+}
+
+void Documento::Proponi(const QDateTime& adesso) { Metti(sessione_.MetaProposta(adesso), {}); }
+
+void Documento::RileggiVisite() {
+    RigheItinerario righe = righe_;
+    RicalcolaVisite(sessione_.Archivio(), righe, OrarioCorretto(campi_.parametri));
+    const bool intatte = !TappeModificate();
+    righe_ = std::move(righe);
+    RicalcolaTempi();
+    if (intatte) caricate_ = righe_;
+}
+
+// What the program puts right by itself is no change of the person's.
+void Documento::Correggi(const ParametriViaggio& parametri) {
+    const bool intatti = !CampiModificati();
+    campi_.parametri = parametri;
+    if (intatti) caricati_ = campi_;
+}
+
+void Documento::ControllaOrari() { Correggi(InOrdine(campi_.parametri)); }
+
+void Documento::AggiornaOrari() { Correggi(OrarioCorretto(campi_.parametri).Parametri()); }
+
+void Documento::RicalcolaTempi() {
+    riepilogo_ = CalcolaKmTempiItinerario(righe_, OrarioCorretto(campi_.parametri), campi_.giorniAdeguamento);
+    campi_.giorniAdeguamento = riepilogo_.giorniAdeguamento;
+}
+
+void Documento::SelezionaRiga(int riga) {
+    const int tappe = NumeroTappe(righe_);
+    rigaCorrente_ = std::max(1, riga > tappe ? tappe + 1 : riga);
+}
+
+// Takes over changed stages: times and visits are computed afresh.
+void Documento::Mostra(Stato stato) {
+    RicalcolaVisite(sessione_.Archivio(), stato.righe, OrarioCorretto(campi_.parametri));
+    righe_ = std::move(stato.righe);
+    RicalcolaTempi();
+    SelezionaRiga(stato.rigaCorrente);
+}
+
+Passo Documento::PassoVerso(const QString& nome, Stato prima) {
+    return {nome,
+            Ambito::Viaggio,
+            [this, prima = std::move(prima)](const Passo& passo) {
+                Stato presente{righe_, rigaCorrente_};
+                Mostra(prima);
+                return std::optional(PassoVerso(passo.nome, std::move(presente)));
+            },
+            {}};
+}
+
+void Documento::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
+    nuove.resize(static_cast<std::size_t>(NumeroTappe(nuove)));
+    if (nuove == righe_) {
+        SelezionaRiga(riga);
+        return;
+    }
+    Stato prima{righe_, rigaCorrente_};
+    Mostra({std::move(nuove), riga});
+    storia_.Ricorda(PassoVerso(nome, std::move(prima)));
+}
+
+QString Documento::Calcola(Progress& progress) {
+    AggiornaOrari();
+    EsitoCalcolo esito = sessione_.Calcola({campi_, righe_, riepilogo_}, {}, progress);
+    cronovia_ = std::move(esito.cronovia);
+    return esito.messaggio;
+}
+
+void Documento::Ricomponi() {
+    cronovia_.reset();
+    RicalcolaTempi();
+}
+
+void Documento::SalvaCampi(const Salvataggio& salvataggio, const QDateTime& adesso) {
+    codice_ = SalvaMeta(sessione_.Archivio(), campi_, salvataggio);
+    Ricarica(adesso);
+    AggiornaOrari();
+}
+
+EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
+    // Another window may have deleted the trip, or given its code to another one since: the stages would turn up there.
+    const Meta memorizzata = sessione_.ApriMeta(codice_).meta;
+    if (memorizzata.localita != caricati_.localita) {
+        throw Failure(u"La mèta con il codice %1 non è più «%2», ma «%3»: un'altra finestra l'ha cambiata."_s.arg(
+            codice_, caricati_.localita.trimmed(), memorizzata.localita.trimmed()));
+    }
+    const EsitoMemorizzazione esito =
+        MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, OrarioCorretto(campi_.parametri), progress);
+    caricate_ = righe_;
+    return esito;
+}
+
+void Documento::CancellaTappe(Progress& progress) {
+    MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, OrarioCorretto(campi_.parametri), progress);
+}
+
+void Documento::Cancella(Progress& progress) { CancellaMeta(sessione_.Archivio(), codice_, progress); }
+
+}  // namespace cronovia

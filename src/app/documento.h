@@ -1,0 +1,112 @@
+// The open trip: its fields, stages and schedule, what was loaded, and the changes since.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <optional>
+
+#include "app/sessione.h"
+#include "app/storia.h"
+#include "itinerary/itinerari.h"
+#include "itinerary/modifiche.h"
+#include "trips/mete.h"
+
+namespace cronovia {
+
+/// Loading, changing and saving a trip happen here and nowhere else. Knows no screen and asks nobody: what goes wrong
+/// is a `Failure`, and the document stays as it was.
+class Documento {
+  public:
+    /// Empty until a trip is loaded. The session must outlive the document.
+    explicit Documento(Sessione& sessione) : sessione_(sessione) {}
+    Documento(const Documento&) = delete;
+    Documento& operator=(const Documento&) = delete;
+
+    // What is open.
+    [[nodiscard]] const Meta& Campi() const { return campi_; }
+    [[nodiscard]] const RigheItinerario& Righe() const { return righe_; }
+    /// Leg times and totals of the stages, as many legs as stages.
+    [[nodiscard]] const RiepilogoItinerario& Riepilogo() const { return riepilogo_; }
+    /// The schedule computed from it, until that is dropped.
+    [[nodiscard]] const std::optional<Cronovia>& Calcolata() const { return cronovia_; }
+    /// Code of the stored trip that was opened last, also while a new one is filled in; empty when there is none.
+    [[nodiscard]] const QString& Codice() const { return codice_; }
+    /// The row that changes are made at, from 1 to the first row behind the last stage.
+    [[nodiscard]] int RigaCorrente() const { return rigaCorrente_; }
+    /// What the entry fields propose for it.
+    [[nodiscard]] CampiTappa CampiCorrenti() const { return CampiDellaRiga(righe_, rigaCorrente_); }
+
+    // What differs from what was loaded.
+    [[nodiscard]] bool Modificato() const { return CampiModificati() || TappeModificate(); }
+    [[nodiscard]] bool CampiModificati() const { return campi_ != caricati_; }
+    [[nodiscard]] bool TappeModificate() const { return righe_ != caricate_; }
+    /// A trip that is in no archive yet has got a destination.
+    [[nodiscard]] bool NuovaDigitata() const { return campi_.codice.isEmpty() && !campi_.localita.trimmed().isEmpty(); }
+
+    // Loading: all is read before anything is replaced, since what is open may exist nowhere else.
+    /// The stored trip with that code becomes the open and the current one.
+    void Apri(const QString& codice);
+    /// The open trip as it is stored; the one that is current in the archive when it is gone, a proposal without any.
+    void Ricarica(const QDateTime& adesso);
+    /// A trip to be filled in, with the personal defaults, starting now.
+    void Proponi(const QDateTime& adesso);
+    /// No trip counts as opened any more.
+    void LasciaCodice() { codice_.clear(); }
+    /// The guide changed underneath: visits are read anew, fields stay.
+    void RileggiVisite();
+
+    // Changing.
+    void ImpostaCampi(const Meta& campi) { campi_ = campi; }
+    void ImpostaParametri(const ParametriViaggio& parametri) { campi_.parametri = parametri; }
+    /// Put hours that disagree right, after one was changed; and all that depends on the start of the trip.
+    void ControllaOrari();
+    void AggiornaOrari();
+    /// Goes to a row; beyond the last stage, to the first one behind it.
+    void SelezionaRiga(int riga);
+    /// Replaces the stages as one step that can be taken back, and goes to a row. Free rows behind the last stage go;
+    /// what changes nothing is no step.
+    void Modifica(const QString& nome, RigheItinerario nuove, int riga);
+    [[nodiscard]] Storia& Modifiche() { return storia_; }
+    [[nodiscard]] const Storia& Modifiche() const { return storia_; }
+
+    // Computing.
+    /// The reason why the schedule is as it is, or empty; no schedule is there afterwards when it was stopped.
+    QString Calcola(Progress& progress);
+    /// Drops the schedule; leg times are computed afresh.
+    void Ricomponi();
+
+    // Saving.
+    [[nodiscard]] Salvataggio DecidiSalvataggio() { return cronovia::DecidiSalvataggio(sessione_.Archivio(), campi_); }
+    /// Saves the fields as was decided and loads the trip anew, which may have got another code.
+    void SalvaCampi(const Salvataggio& salvataggio, const QDateTime& adesso);
+    /// Replaces the stored stages by those that are open. Refused when the trip was deleted meanwhile, or its code is
+    /// that of a trip with another destination.
+    EsitoMemorizzazione SalvaTappe(Progress& progress);
+    /// Delete the stored stages, and the stored trip with them; what is open stays as it is until it is loaded anew.
+    void CancellaTappe(Progress& progress);
+    void Cancella(Progress& progress);
+
+  private:
+    struct Stato {
+        RigheItinerario righe;
+        int rigaCorrente = 1;
+    };
+    void Metti(Meta campi, RigheItinerario righe);
+    void Mostra(Stato stato);
+    void RicalcolaTempi();
+    void Correggi(const ParametriViaggio& parametri);
+    [[nodiscard]] Passo PassoVerso(const QString& nome, Stato prima);
+
+    Sessione& sessione_;
+    Meta campi_;
+    RigheItinerario righe_;
+    RiepilogoItinerario riepilogo_;
+    std::optional<Cronovia> cronovia_;
+    QString codice_;
+    int rigaCorrente_ = 1;
+    Meta caricati_;
+    RigheItinerario caricate_;
+    Storia storia_;
+};
+
+}  // namespace cronovia

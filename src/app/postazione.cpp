@@ -1,0 +1,93 @@
+#include "app/postazione.h"
+
+#include <utility>
+
+#include "exchange/vecchi/vecchi_file.h"
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+Postazione::Postazione(const QString& cartella, Volti facce) : volti(std::move(facce)), sessione(cartella) {
+    VaiAlViaggio();
+    Su<schermata::Viaggio>()->converteOfferto = CiSonoVecchiFile(cartella);
+}
+
+bool Postazione::ConverteOfferto() const {
+    const auto* viaggio = Su<schermata::Viaggio>();
+    return viaggio != nullptr && viaggio->converteOfferto;
+}
+
+StatoComandi Postazione::Comandi() const {
+    return StatoDeiComandi({NumeroTappe(documento.Righe()), !documento.Codice().isEmpty(), attivita}, schermata);
+}
+
+bool Postazione::Prova(const std::function<void()>& azione, const QString& mancato) {
+    try {
+        azione();
+        return true;
+    } catch (const Failure& failure) {
+        const QString inizio = mancato.isEmpty() ? QString() : mancato + QStringLiteral("\n\n");
+        Mostra(inizio + failure.Message());
+        return false;
+    }
+}
+
+bool Postazione::MentreScrive(const QString& mancato, const std::function<void()>& azione) {
+    if (auto* viaggio = Su<schermata::Viaggio>()) viaggio->converteOfferto = false;
+    attivita = Attivita::Scrittura;
+    volti.mostra();
+    const bool riuscita = Prova(azione, mancato);
+    attivita = Attivita::Nessuna;
+    return riuscita;
+}
+
+bool Postazione::MentreCorre(const std::function<void()>& azione) {
+    if (auto* viaggio = Su<schermata::Viaggio>()) viaggio->converteOfferto = false;
+    attivita = Attivita::Corsa;
+    volti.mostra();
+    const bool riuscita = Prova(azione);
+    attivita = Attivita::Nessuna;
+    volti.avanzamento.Advance(0, 0);
+    return riuscita;
+}
+
+void Postazione::VaiAlViaggio() {
+    using Fase = schermata::Viaggio::Fase;
+    documento.Ricarica(volti.adesso());
+    schermata = schermata::Viaggio{documento.Codice().isEmpty() ? Fase::Vuota : Fase::Aperta};
+}
+
+void Postazione::Mostra(const QString& testo, const QString& titolo, Icon icona) {
+    volti.interazione.Show({testo, titolo, icona});
+}
+
+bool Postazione::Chiede(const QString& testo, const QString& titolo) {
+    return volti.interazione.Ask({testo, titolo}) == Answer::Yes;
+}
+
+std::optional<Ambito> Postazione::AmbitoInVista() const {
+    if (const auto* guida = Su<schermata::Guida>()) {
+        return guida->tavolo->ElencoLocalitaVisibile() ? std::nullopt : std::optional(Ambito::Guida);
+    }
+    if (const auto* inserimento = Su<schermata::Inserimento>()) {
+        return inserimento->elencoTappe ? std::nullopt : std::optional(Ambito::Viaggio);
+    }
+    return Comandi().Abilitato(Comando::Import) ? std::optional(Ambito::Archivio) : std::nullopt;
+}
+
+std::optional<QString> Postazione::DaAnnullare() const {
+    const std::optional<Ambito> ambito = AmbitoInVista();
+    const Passo* passo = ambito ? documento.Modifiche().DaAnnullare(*ambito) : nullptr;
+    if (passo == nullptr) return std::nullopt;
+    // What this window wrote since is known without asking the file; another one's changes are found when it is tried.
+    const bool ancora = !passo->archivio || passo->archivio->own == sessione.Archivio().OwnChanges();
+    return ancora ? std::optional(passo->nome) : std::nullopt;
+}
+
+std::optional<QString> Postazione::DaRipetere() const {
+    const std::optional<Ambito> ambito = AmbitoInVista();
+    const Passo* passo = ambito ? documento.Modifiche().DaRipetere(*ambito) : nullptr;
+    return passo == nullptr ? std::nullopt : std::optional(passo->nome);
+}
+
+}  // namespace cronovia

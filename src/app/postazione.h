@@ -1,0 +1,76 @@
+// What every command works on: the archive, the open trip, the screen in front, and the faces to ask and tell.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "app/documento.h"
+#include "app/schermate.h"
+#include "app/stato_comandi.h"
+#include "interaction/interaction.h"
+
+namespace cronovia {
+
+/// Which file a command asks for.
+enum class FileChiesto { Import, Export, Percorso };
+
+/// The window as the commands see it; tests put scripts in its place.
+struct Volti {
+    Interaction& interazione;
+    Progress& avanzamento;
+    std::function<QDateTime()> adesso;
+    std::function<void()> mostra;                         ///< shows the state in the middle of a command
+    std::function<QString(FileChiesto)> scegliFile = {};  ///< an empty path when the person wants none
+    std::function<void()> chiudi = {};                    ///< closes the window
+    std::function<void()> ferma = {};                     ///< has `avanzamento` request the stop
+};
+
+/// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.
+struct Postazione {
+    /// Opens the archive of a data folder and the trip that was current last. A `Failure` when it cannot be opened.
+    Postazione(const QString& cartella, Volti facce);
+    Postazione(const Postazione&) = delete;
+    Postazione& operator=(const Postazione&) = delete;
+
+    Volti volti;
+    Sessione sessione;
+    Documento documento{sessione};
+    Schermata schermata;
+    Attivita attivita = Attivita::Nessuna;
+
+    /// The screen in front when it is that one, else null.
+    template <typename Quale>
+    [[nodiscard]] Quale* Su() {
+        return std::get_if<Quale>(&schermata);
+    }
+    template <typename Quale>
+    [[nodiscard]] const Quale* Su() const {
+        return std::get_if<Quale>(&schermata);
+    }
+    /// The stages are being entered, alone or beside the list to copy from.
+    [[nodiscard]] bool InInserimento() const { return Su<schermata::Inserimento>() || Su<schermata::Copia>(); }
+    /// A run that can be stopped is on.
+    [[nodiscard]] bool InCorsa() const { return attivita == Attivita::Corsa; }
+    [[nodiscard]] bool ConverteOfferto() const;
+    [[nodiscard]] StatoComandi Comandi() const;
+
+    /// Names of the changes that undo and redo are about on the screen in front; nothing when there is none.
+    [[nodiscard]] std::optional<QString> DaAnnullare() const;
+    [[nodiscard]] std::optional<QString> DaRipetere() const;
+    /// What can be taken back there; nothing beside a list to choose from.
+    [[nodiscard]] std::optional<Ambito> AmbitoInVista() const;
+
+    /// Runs an action that may fail. Tells what was not done (`mancato`, may be empty) and what went wrong; false then.
+    bool Prova(const std::function<void()>& azione, const QString& mancato = {});
+    /// The same while no other command can be given; while only the stop can.
+    bool MentreScrive(const QString& mancato, const std::function<void()>& azione);
+    bool MentreCorre(const std::function<void()>& azione);
+    /// The stored trip that is current, in front on the trip screen.
+    void VaiAlViaggio();
+    void Mostra(const QString& testo, const QString& titolo = {}, Icon icona = Icon::Exclamation);
+    [[nodiscard]] bool Chiede(const QString& testo, const QString& titolo);
+};
+
+}  // namespace cronovia

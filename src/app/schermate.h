@@ -1,0 +1,78 @@
+// The screens of the window as values: each has what exists only while it is open.
+#pragma once
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+#include "app/copia_percorso.h"
+#include "app/tavolo_guida.h"
+#include "app/tavolo_scambio.h"
+#include "itinerary/modifiche.h"
+#include "trips/mete.h"
+
+namespace cronovia::schermata {
+
+/// The trip's fields and its itinerary.
+struct Viaggio {
+    enum class Fase {
+        Vuota,     ///< the archive has no trip, none was begun
+        Nuova,     ///< a new trip is filled in
+        Aperta,    ///< a stored trip is open
+        Lasciata,  ///< the trip was put away for an exchange: one has to be chosen
+    };
+    Fase fase = Fase::Vuota;
+    bool converteOfferto = false;  ///< data of the earlier release lies in the folder, and no command was given yet
+};
+
+/// The trips to choose from, over the trip screen.
+struct ElencoMete {
+    std::vector<MetaInElenco> mete;
+    Viaggio da;  ///< where it leads back to
+};
+
+/// Entry of the stages.
+struct Inserimento {
+    CampiTappa campi;             ///< what the entry fields hold
+    CampiTappa proposti = campi;  ///< what the row proposed for them
+    int riga = 0;                 ///< that row
+    bool appenaInserita = false;  ///< the row before the current one was inserted by the last command
+    bool elencoTappe = false;     ///< the list of places to go to is open
+};
+
+/// A schedule in the place of the itinerary.
+struct Cronovia {
+    std::variant<Viaggio, Inserimento> da;  ///< where it was computed, and where unlocking leads back to
+};
+
+/// What is to be printed of the schedule, and the run.
+struct Stampa {
+    Cronovia da;
+    bool inCorso = false;
+};
+
+/// The guide list of the trip.
+struct Guida {
+    std::unique_ptr<TavoloGuida> tavolo;  ///< never null; its address does not change while the screen is open
+};
+
+/// A stretch of another trip is chosen, beside the entry of stages.
+struct Copia {
+    CopiaPercorso percorso;
+    Inserimento da;  ///< where it leads back to
+};
+
+/// Export or import of trips.
+struct Scambio {
+    TavoloScambio tavolo;
+};
+
+}  // namespace cronovia::schermata
+
+namespace cronovia {
+
+/// The screen in front. Just one is.
+using Schermata = std::variant<schermata::Viaggio, schermata::ElencoMete, schermata::Inserimento, schermata::Cronovia,
+                               schermata::Stampa, schermata::Guida, schermata::Copia, schermata::Scambio>;
+
+}  // namespace cronovia

@@ -1,0 +1,63 @@
+#include "app/storia.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace cronovia {
+
+namespace {
+
+void Togli(std::vector<Passo>& passi, Ambito ambito) {
+    std::erase_if(passi, [ambito](const Passo& passo) { return passo.ambito == ambito; });
+}
+
+auto Ultimo(auto& passi, Ambito ambito) {
+    return std::find_if(passi.rbegin(), passi.rend(), [ambito](const Passo& p) { return p.ambito == ambito; });
+}
+
+const Passo* Prossimo(const std::vector<Passo>& passi, Ambito ambito) {
+    const auto ultimo = Ultimo(passi, ambito);
+    return ultimo == passi.rend() ? nullptr : &*ultimo;
+}
+
+// The step is in neither list while it works, which may add and forget others.
+void Sposta(std::vector<Passo>& da, std::vector<Passo>& a, Ambito ambito) {
+    const auto ultimo = Ultimo(da, ambito);
+    if (ultimo == da.rend()) return;
+    const Passo passo = std::move(*ultimo);
+    da.erase(std::prev(ultimo.base()));
+    try {
+        if (std::optional<Passo> inverso = passo.disfa(passo)) a.push_back(std::move(*inverso));
+    } catch (const PassoPerduto&) {
+        throw;
+    } catch (...) {
+        da.push_back(passo);
+        throw;
+    }
+}
+
+}  // namespace
+
+void Storia::Ricorda(Passo passo) {
+    Togli(annullati_, passo.ambito);
+    fatti_.push_back(std::move(passo));
+}
+
+void Storia::Dimentica(Ambito ambito) {
+    Togli(fatti_, ambito);
+    Togli(annullati_, ambito);
+}
+
+const Passo* Storia::DaAnnullare(Ambito ambito) const { return Prossimo(fatti_, ambito); }
+const Passo* Storia::DaRipetere(Ambito ambito) const { return Prossimo(annullati_, ambito); }
+
+void Storia::Annulla(Ambito ambito) { Sposta(fatti_, annullati_, ambito); }
+void Storia::Ripeti(Ambito ambito) { Sposta(annullati_, fatti_, ambito); }
+
+void Storia::SegueArchivio(const Archive::Mark& prima, const Archive::Mark& adesso) {
+    for (Passo& passo : fatti_) {
+        if (passo.archivio == prima) passo.archivio = adesso;
+    }
+}
+
+}  // namespace cronovia

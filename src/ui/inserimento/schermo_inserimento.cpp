@@ -1,0 +1,76 @@
+#include "ui/inserimento/schermo_inserimento.h"
+
+#include "app/comandi_inserimento.h"
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kColonneLocalita = 31;
+
+}  // namespace
+
+SchermoInserimento::SchermoInserimento(Postazione& postazione, ElencoScelta& elenco, Esegui esegui)
+    : postazione_(postazione),
+      elenco_(elenco),
+      esegui_(std::move(esegui)),
+      riquadro_(new FrmInputBox),
+      area_(new QScrollArea) {
+    area_->setWidget(riquadro_);
+    area_->setWidgetResizable(true);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setFocusPolicy(Qt::NoFocus);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area_->setMinimumWidth(riquadro_->minimumSizeHint().width() + 20);
+    area_->setObjectName(u"areaInserimento"_s);
+    connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
+        if (!postazione_.Su<schermata::Inserimento>()) return;
+        esegui_([&] { comandi::ScegliTappa(postazione_, voce->data(Qt::UserRole).toInt()); });
+        FuocoSullaTappa();
+    });
+}
+
+void SchermoInserimento::Raccogli() {
+    if (auto* inserimento = postazione_.Su<schermata::Inserimento>()) inserimento->campi = riquadro_->Campi();
+}
+
+// What is being typed stays, unless another stage has come into its row.
+void SchermoInserimento::Mostra(const StatoComandi& stato) {
+    riquadro_->Applica(stato);
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    MostraElenco(inserimento != nullptr && inserimento->elencoTappe);
+    if (!postazione_.InInserimento()) {
+        mostrati_.reset();
+        return;
+    }
+    std::pair<int, CampiTappa> campi{postazione_.documento.RigaCorrente(), postazione_.documento.CampiCorrenti()};
+    if (mostrati_ != campi) riquadro_->Mostra(campi.first, campi.second);
+    mostrati_ = std::move(campi);
+    riquadro_->MostraKmProgressivi(comandi::KmProgressivi(postazione_));
+}
+
+void SchermoInserimento::MostraElenco(bool aperto) {
+    if (postazione_.Su<schermata::Guida>()) return;  // it has the list
+    if (aperto && !elenco_.isVisible()) {
+        elenco_.clear();
+        const RigheItinerario& righe = postazione_.documento.Righe();
+        for (std::size_t i = 0; i < righe.size(); ++i) {
+            if (righe[i].localita.isEmpty()) continue;
+            const auto riga = static_cast<int>(i) + 1;
+            auto* voce =
+                new QListWidgetItem(AggStr(righe[i].localita, kColonneLocalita, u' ') + Zero(riga, 4), &elenco_);
+            voce->setData(Qt::UserRole, riga);
+            if (riga == postazione_.documento.RigaCorrente()) elenco_.setCurrentItem(voce);
+        }
+    }
+    elenco_.setVisible(aperto);
+}
+
+void SchermoInserimento::FuocoSullaTappa() {
+    if (postazione_.InInserimento()) riquadro_->FuocoSullaTappa();
+}
+
+}  // namespace cronovia

@@ -1,0 +1,43 @@
+// The entry screen: its frame beside the grid, and the list of places to go to.
+#pragma once
+
+#include <QObject>
+#include <QScrollArea>
+#include <optional>
+#include <utility>
+
+#include "app/postazione.h"
+#include "ui/comuni/elenco_scelta.h"
+#include "ui/comuni/esegui.h"
+#include "ui/inserimento/frm_input_box.h"
+
+namespace cronovia {
+
+class SchermoInserimento : public QObject {
+    Q_OBJECT
+
+  public:
+    /// The list is shared with the guide screen.
+    SchermoInserimento(Postazione& postazione, ElencoScelta& elenco, Esegui esegui);
+
+    /// The frame as it is placed, in an area that scrolls; the copy screen shows and hides it.
+    [[nodiscard]] QScrollArea& Area() const { return *area_; }
+    [[nodiscard]] FrmInputBox& Riquadro() const { return *riquadro_; }
+    /// What the entry fields hold goes to the screen's state.
+    void Raccogli();
+    void Mostra(const StatoComandi& stato);
+    /// Puts the focus on the place to be typed, while stages are entered.
+    void FuocoSullaTappa();
+
+  private:
+    void MostraElenco(bool aperto);
+
+    Postazione& postazione_;
+    ElencoScelta& elenco_;
+    Esegui esegui_;
+    FrmInputBox* riquadro_;
+    QScrollArea* area_;
+    std::optional<std::pair<int, CampiTappa>> mostrati_;  // row and fields last put into the frame
+};
+
+}  // namespace cronovia

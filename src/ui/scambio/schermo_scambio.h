@@ -1,0 +1,34 @@
+// The exchange screen in the window, and the files that are dropped on it.
+#pragma once
+
+#include <QObject>
+
+#include "app/postazione.h"
+#include "ui/comuni/esegui.h"
+#include "ui/scambio/frm_export.h"
+
+namespace cronovia {
+
+class SchermoScambio : public QObject {
+    Q_OBJECT
+
+  public:
+    SchermoScambio(Postazione& postazione, Esegui esegui);
+
+    /// The frame, for the window to place.
+    [[nodiscard]] FrmExport& Riquadro() const { return *riquadro_; }
+    void Mostra();
+    /// Puts the focus on the list to choose from, while the screen is open.
+    void Fuoco();
+
+  Q_SIGNALS:
+    /// The person has left the screen.
+    void Chiuso();
+
+  private:
+    Postazione& postazione_;
+    Esegui esegui_;
+    FrmExport* riquadro_;
+};
+
+}  // namespace cronovia

@@ -1,0 +1,87 @@
+#include "ui/viaggio/schermo_viaggio.h"
+
+#include <QHBoxLayout>
+#include <array>
+#include <utility>
+
+#include "app/comandi_viaggio.h"
+#include "ui/comuni/controlli.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+SchermoViaggio::SchermoViaggio(Postazione& postazione, Esegui esegui)
+    : postazione_(postazione),
+      esegui_(std::move(esegui)),
+      periodo_(new FrmMetePeriodo(postazione.volti.adesso().date().year())),
+      velocita_(new FrmMeteVelocita),
+      tempi_(new FrmMeteTempi),
+      cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)) {
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(3);
+    layout->addWidget(periodo_, 1);
+    layout->addWidget(velocita_);
+    layout->addWidget(tempi_);
+    for (QLineEdit* casella : findChildren<QLineEdit*>()) LasciaAnnullare(*casella);
+    Collega();
+}
+
+void SchermoViaggio::Collega() {
+    connect(periodo_, &FrmMetePeriodo::Cambiata, this, &SchermoViaggio::Cambiata);
+    connect(velocita_, &FrmMeteVelocita::Cambiata, this, &SchermoViaggio::Cambiata);
+    connect(tempi_, &FrmMeteTempi::Cambiata, this, &SchermoViaggio::Cambiata);
+    connect(periodo_, &FrmMetePeriodo::InizioCambiato, this,
+            [this] { esegui_([this] { postazione_.documento.AggiornaOrari(); }); });
+    connect(tempi_, &FrmMeteTempi::OrarioLasciato, this,
+            [this] { esegui_([this] { postazione_.documento.ControllaOrari(); }); });
+    connect(tempi_, &FrmMeteTempi::Default, this, [this](int quale) {
+        constexpr std::array kDefault = {&comandi::SalvaDefault, &comandi::CaricaDefault, &comandi::RipristinaDefault};
+        esegui_([&] { kDefault.at(static_cast<std::size_t>(quale))(postazione_); });
+    });
+    connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
+        esegui_([&] { comandi::ScegliMeta(postazione_, voce->data(Qt::UserRole).toString()); });
+    });
+}
+
+void SchermoViaggio::Raccogli() {
+    Meta meta = postazione_.documento.Campi();
+    periodo_->Leggi(meta);
+    velocita_->Leggi(meta.parametri);
+    tempi_->Leggi(meta.parametri);
+    postazione_.documento.ImpostaCampi(meta);
+}
+
+void SchermoViaggio::Mostra(bool liberi) {
+    const Documento& documento = postazione_.documento;
+    const auto& cronovia = documento.Calcolata();
+    const RiepilogoItinerario& riepilogo = documento.Riepilogo();
+    const ParametriViaggio& parametri = documento.Campi().parametri;
+    periodo_->Mostra(documento.Campi(), riepilogo);
+    periodo_->MostraFine(cronovia ? TestiFine(*cronovia) : std::array<QString, 7>());
+    velocita_->Mostra(parametri);
+    velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->orario.GuidaGiorno())
+                                     : Testi(riepilogo.totali, riepilogo.guidaGiorno));
+    tempi_->Mostra(parametri);
+    for (QWidget* riquadro :
+         {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
+        riquadro->setEnabled(liberi);
+    }
+    MostraElenco();
+}
+
+void SchermoViaggio::MostraElenco() {
+    const auto* elenco = postazione_.Su<schermata::ElencoMete>();
+    if (elenco != nullptr && !cmbRicerca_->isVisible()) {
+        cmbRicerca_->clear();
+        for (const MetaInElenco& meta : elenco->mete) {
+            auto* voce = new QListWidgetItem(meta.localita, cmbRicerca_);
+            voce->setData(Qt::UserRole, meta.codice);
+            if (meta.codice == postazione_.documento.Codice()) cmbRicerca_->setCurrentItem(voce);
+        }
+    }
+    cmbRicerca_->setVisible(elenco != nullptr);
+}
+
+}  // namespace cronovia

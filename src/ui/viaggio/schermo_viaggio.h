@@ -1,0 +1,45 @@
+// The trip screen: the fields of the trip, and the list of trips over the grid.
+#pragma once
+
+#include <QWidget>
+
+#include "app/postazione.h"
+#include "ui/comuni/elenco_scelta.h"
+#include "ui/comuni/esegui.h"
+#include "ui/viaggio/frm_mete_periodo.h"
+#include "ui/viaggio/frm_mete_tempi.h"
+#include "ui/viaggio/frm_mete_velocita.h"
+
+namespace cronovia {
+
+class SchermoViaggio : public QWidget {
+    Q_OBJECT
+
+  public:
+    SchermoViaggio(Postazione& postazione, Esegui esegui);
+
+    /// The list of trips, for the window to place.
+    [[nodiscard]] ElencoScelta& Elenco() const { return *cmbRicerca_; }
+    /// What the fields hold goes to the document.
+    void Raccogli();
+    /// Shows the document in the fields, which can be used when they are `liberi`, and the list while it is open.
+    void Mostra(bool liberi);
+    void FuocoSullaLocalita() { periodo_->FuocoSullaLocalita(); }
+
+  Q_SIGNALS:
+    /// The person changed a field.
+    void Cambiata();
+
+  private:
+    void Collega();
+    void MostraElenco();
+
+    Postazione& postazione_;
+    Esegui esegui_;
+    FrmMetePeriodo* periodo_;
+    FrmMeteVelocita* velocita_;
+    FrmMeteTempi* tempi_;
+    ElencoScelta* cmbRicerca_;
+};
+
+}  // namespace cronovia

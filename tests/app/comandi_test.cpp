@@ -1,0 +1,409 @@
+// The commands of the trip screen, the entry and the schedule, without a window.
+#include <SQLiteCpp/Database.h>
+
+#include "support/postazione.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ComandiTest : public prova::PostazioneTest {
+  protected:
+    /// Does not save, and answers this to the question whether to go back to what is saved.
+    void Recupera(Answer risposta) {
+        const QString titolo = u"Salvataggio itinerario"_s;
+        copione_.Domanda(u"Vuoi salvare l'itinerario?"_s, titolo, Answer::No, true);
+        copione_.Domanda(u"Vuoi recuperare l'itinerario originale?"_s, titolo, risposta);
+        comandi::Memorizza(*postazione_);
+    }
+    [[nodiscard]] QString Archivio(const QString& fatto) const {
+        return u"Archivio %1: %2"_s.arg(QDir::toNativeSeparators(cartella_.Archivio()), fatto);
+    }
+    SQLite::Database AltroProgramma(const char* sql) {
+        SQLite::Database altro(cartella_.Archivio().toStdString(), SQLite::OPEN_READWRITE);
+        altro.exec(sql);
+        return altro;
+    }
+};
+
+TEST_F(ComandiTest, ATripIsSavedOnYesOnly) {
+    EXPECT_EQ(Schermo(), u"vuota"_s);
+    comandi::Nuovo(*postazione_);
+    EXPECT_EQ(Schermo(), u"nuova"_s);
+    copione_.Messaggio(u"Campo Località: obbligatorio!"_s);
+    comandi::Salva(*postazione_);
+    Destinazione(u"LUCCA"_s, u" "_s);
+    copione_.Messaggio(u"Campo Nazione: obbligatorio!"_s);
+    comandi::Salva(*postazione_);
+    Destinazione(u"LUCCA"_s, u"ITALIA"_s);
+    Salva(Answer::No);
+    EXPECT_EQ(NuovaPostazione()->documento.Codice(), u""_s);
+    EXPECT_EQ(postazione_->documento.Campi().localita, u"LUCCA"_s);
+    Salva(Answer::Yes);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+    comandi::Nuovo(*postazione_);
+    EXPECT_EQ(Schermo(), u"nuova"_s);
+    Destinazione(u"Lucca"_s, u"FRANCIA"_s);
+    copione_.Domanda(u"Confermi modifica dati mèta?"_s, u"Modifica dati mèta"_s, Answer::Yes);
+    comandi::Salva(*postazione_);
+    EXPECT_EQ(postazione_->documento.Campi().codice, u"000001"_s);
+    EXPECT_EQ(NuovaPostazione()->documento.Campi().nazione.trimmed(), u"FRANCIA"_s);
+}
+
+TEST_F(ComandiTest, TheListOfTripsAndTheTripChosenFromIt) {
+    copione_.Messaggio(u"Nessuna mèta nel database!"_s, u"Database vuoto"_s);
+    comandi::Ricerca(*postazione_);
+    EXPECT_EQ(Schermo(), u"vuota"_s);
+    for (const auto& nome : {u"AOSTA AUTOSTRADA"_s, u"ZARA"_s, u"BARI"_s}) NuovaMeta(nome);
+    comandi::Ricerca(*postazione_);
+    EXPECT_EQ(Schermo(), u"elenco"_s);
+    QStringList nomi;
+    for (const MetaInElenco& meta : postazione_->Su<schermata::ElencoMete>()->mete) nomi += meta.localita;
+    EXPECT_EQ(nomi.join(u','), u"BARI,ZARA,aosta autostrada"_s);
+    comandi::ScegliMeta(*postazione_, u"000002"_s);
+    EXPECT_EQ(postazione_->documento.Campi().localita, u"ZARA"_s);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+    EXPECT_EQ(NuovaPostazione()->documento.Codice(), u"000002"_s);
+}
+
+TEST_F(ComandiTest, DeletingATripFallsBackToTheHighestCode) {
+    for (const auto& nome : {u"UNO"_s, u"DUE"_s, u"TRE"_s}) {
+        MetaConTappe(nome, {nome, u"X"_s});
+        Esce(Answer::Yes);
+    }
+    comandi::ScegliMeta(*postazione_, u"000002"_s);
+    CancMeta(Answer::No);
+    EXPECT_EQ(Righe(), u"DUE X"_s);
+    for (const auto& [resta, schermo] :
+         {std::pair{u"000003"_s, u"aperta"_s}, {u"000001"_s, u"aperta"_s}, {u""_s, u"vuota"_s}}) {
+        CancMeta(Answer::Yes);
+        EXPECT_EQ(postazione_->documento.Codice(), resta);
+        EXPECT_EQ(Schermo(), schermo);
+    }
+    EXPECT_EQ(Righe(), u""_s);
+    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
+}
+
+TEST_F(ComandiTest, AnItineraryIsDeletedAfterTwoQuestions) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Esce(Answer::Yes);
+    const QString sicuro =
+        u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più recuperabile!"_s;
+    const QString titolo = u"Annullamento itinerario"_s;
+    const QString confermi = u"Confermi annullamento itinerario?"_s;
+    copione_.Domanda(confermi, titolo, Answer::No);
+    comandi::CancItin(*postazione_);
+    for (const auto& [risposta, restano] : {std::pair{Answer::No, u"A B"_s}, {Answer::Yes, u""_s}}) {
+        EXPECT_EQ(Memorizzate(), u"A B"_s);
+        copione_.Domanda(confermi, titolo, Answer::Yes).Domanda(sicuro, titolo, risposta);
+        comandi::CancItin(*postazione_);
+        EXPECT_EQ(Memorizzate(), restano);
+        EXPECT_EQ(Righe(), restano);
+    }
+}
+
+TEST_F(ComandiTest, EveryVerbIsUndoneAndDoneAgainByName) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    ASSERT_TRUE(Inserisce(u"C"_s, 0, {0, 1, 0}));
+    const QString titolo = u"Azzera soste itinerario"_s;
+    const QString azzera =
+        u"Vuoi azzerare le soste indicate nell'itinerario?\n\nI tempi traghetto e riposi non sono "
+        "influenzati e la\ncancellazione sarà effettiva dopo il salvataggio dell'itinerario."
+        "\n\nProcedo?"_s;
+    struct Passo {
+        QString nome;
+        std::function<void()> verbo;
+        QString righe;
+        RigheItinerario dopo = {};
+    };
+    std::vector<Passo> passi = {
+        {u"azzeramento delle soste"_s, [&] { comandi::AzzeraSoste(*postazione_); }, u"A B C"_s},
+        {u"modifica di BB"_s, [&] { comandi::SelezionaRiga(*postazione_, 2), Inserisce(u"BB"_s, 7); }, u"A BB C"_s},
+        {u"apertura di una riga"_s, [&] { comandi::Aggiunge(*postazione_); }, u"A BB - C"_s},
+        {u"inserimento di N"_s, [&] { Inserisce(u"N"_s, 8); }, u"A BB N C"_s},
+        {u"cancellazione di una riga"_s, [&] { comandi::Cancella(*postazione_); }, u"A BB N"_s},
+    };
+    copione_.Domanda(azzera, titolo, Answer::No);
+    comandi::AzzeraSoste(*postazione_);
+    const RigheItinerario prima = postazione_->documento.Righe();
+    EXPECT_EQ(prima[2].sosta.ore, 1);
+    copione_.Domanda(azzera, titolo, Answer::Yes);
+    for (Passo& passo : passi) {
+        passo.verbo();
+        EXPECT_EQ(Righe(), passo.righe);
+        EXPECT_EQ(postazione_->DaAnnullare(), passo.nome);
+        passo.dopo = postazione_->documento.Righe();
+    }
+    for (std::size_t i = passi.size(); i > 0; --i) {
+        comandi::Annulla(*postazione_);
+        EXPECT_TRUE(postazione_->documento.Righe() == (i > 1 ? passi[i - 2].dopo : prima))
+            << passi[i - 1].nome.toStdString();
+        EXPECT_EQ(postazione_->DaRipetere(), passi[i - 1].nome);
+    }
+    for (const Passo& passo : passi) {
+        comandi::Ripeti(*postazione_);
+        EXPECT_TRUE(postazione_->documento.Righe() == passo.dopo) << passo.nome.toStdString();
+    }
+    comandi::Annulla(*postazione_);
+    Inserisce(u"Z"_s, 9);
+    EXPECT_EQ(postazione_->DaRipetere(), std::nullopt);  // a new change forgets what was undone
+    Memorizza(Answer::Yes);
+    EXPECT_EQ(postazione_->DaAnnullare(), u"modifica di Z"_s);  // saving takes nothing back
+}
+
+TEST_F(ComandiTest, SaveOrReset) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Memorizza(Answer::Cancel);
+    EXPECT_EQ(Memorizzate(), u""_s);
+    Memorizza(Answer::Yes);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+    EXPECT_EQ(Schermo(), u"inserimento"_s);
+    ASSERT_TRUE(Inserisce(u"C"_s, 5));
+    Recupera(Answer::No);
+    EXPECT_EQ(Righe(), u"A B C"_s);
+    Recupera(Answer::Yes);
+    EXPECT_EQ(Righe(), u"A B"_s);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+}
+
+TEST_F(ComandiTest, LeavingTheEntryScreen) {
+    MetaConTappe(u"UNO"_s, {u"A"_s});
+    EXPECT_EQ(Schermo(), u"inserimento"_s);
+    Esce(Answer::Cancel);
+    EXPECT_EQ(Schermo(), u"inserimento"_s);
+    Esce(Answer::Yes);
+    EXPECT_NE(Schermo(), u"inserimento"_s);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+    comandi::Itinerario(*postazione_);
+    Inserisce(u"Z"_s, 1);
+    Esce(Answer::No);
+    EXPECT_EQ(Righe(), u"A"_s);
+    EXPECT_EQ(Memorizzate(), u"A"_s);
+}
+
+TEST_F(ComandiTest, RecalculatingAndUnlockingKeepsUnsavedEdits) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    comandi::Ricalcola(*postazione_);
+    ASSERT_TRUE(postazione_->documento.Calcolata().has_value());
+    EXPECT_EQ(Schermo(), u"cronovia"_s);
+    DomandaDiUscita(Answer::Cancel);
+    EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
+    comandi::Calcola(*postazione_);
+    EXPECT_FALSE(postazione_->documento.Calcolata().has_value());
+    EXPECT_EQ(Schermo(), u"inserimento"_s);
+    EXPECT_EQ(Righe(), u"A B"_s);
+    Esce(Answer::Yes);
+    // From the trip screen, unlocking leads back there.
+    comandi::Calcola(*postazione_);
+    comandi::Calcola(*postazione_);
+    EXPECT_NE(Schermo(), u"inserimento"_s);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+}
+
+TEST_F(ComandiTest, DaysWantedStopAndWhatCannotBeComputed) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Esce(Answer::Yes);
+    const auto calcola = [&](int giorni, int media, const QString& messaggio, const QString& titolo) {
+        Meta meta = postazione_->documento.Campi();
+        meta.giorniAdeguamento = giorni;
+        meta.parametri.mediaKm[0] = media;
+        postazione_->documento.ImpostaCampi(meta);
+        if (!messaggio.isEmpty()) copione_.Messaggio(messaggio, titolo);
+        comandi::Calcola(*postazione_);
+        return postazione_->documento.Calcolata().has_value();
+    };
+    const QString titolo = u"Calcolo cronovia"_s;
+    // There is no stop to stretch.
+    EXPECT_TRUE(calcola(5, 75, u"Elaborazione impossibile! (tentativi effettuati n. 11)"_s, titolo));
+    comandi::Calcola(*postazione_);
+    avanzamento_.stop = true;
+    EXPECT_FALSE(calcola(5, 75, {}, {}));
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+    avanzamento_.stop = false;
+    const QString ferma = u"Calcolo impossibile: la velocità media per le strade di tipo «Autostrada» è 0."_s;
+    EXPECT_FALSE(calcola(1, 0, ferma, {}));
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+    EXPECT_TRUE(calcola(1, 75, u"Elaborazione conclusa in 1 tentativi!"_s, titolo));
+}
+
+TEST_F(ComandiTest, PersonalDefaults) {
+    struct Passo {
+        QString verbo;
+        Answer risposta;
+        void (*comando)(Postazione&);
+        int media, proposta;  ///< on the screen and for the next trip, afterwards
+    };
+    const std::vector<Passo> passi = {{u"salvare"_s, Answer::No, &comandi::SalvaDefault, 90, 75},
+                                      {u"salvare"_s, Answer::Yes, &comandi::SalvaDefault, 90, 90},
+                                      {u"ripristinare"_s, Answer::Yes, &comandi::RipristinaDefault, 75, 75}};
+    const auto media = [](const Postazione& p) { return p.documento.Campi().parametri.mediaKm[0]; };
+    Meta meta = postazione_->documento.Campi();
+    meta.parametri.mediaKm[0] = 90;
+    postazione_->documento.ImpostaCampi(meta);
+    for (const Passo& passo : passi) {
+        copione_.Domanda(u"Vuoi %1 i dati di default?"_s.arg(passo.verbo), u"Dati di default"_s, passo.risposta);
+        if (passo.risposta == Answer::Yes) copione_.Messaggio(u"Operazione eseguita!"_s, u"Dati di default"_s);
+        Fai(passo.comando);
+        EXPECT_EQ(media(*postazione_), passo.media);
+        EXPECT_EQ(media(*NuovaPostazione()), passo.proposta);
+    }
+}
+
+TEST_F(ComandiTest, ClosingAsksWhenThereAreUnsavedChanges) {
+    MetaConTappe(u"UNO"_s, {u"A"_s});
+    const std::vector<std::pair<Answer, bool>> casi = {
+        {Answer::Cancel, false}, {Answer::No, true}, {Answer::Yes, true}};
+    for (const auto& [risposta, chiude] : casi) {
+        EXPECT_EQ(Memorizzate(), u""_s);
+        DomandaDiUscita(risposta);
+        EXPECT_EQ(comandi::PossoChiudere(*postazione_), chiude);
+    }
+    EXPECT_EQ(Memorizzate(), u"A"_s);
+    EXPECT_TRUE(comandi::PossoChiudere(*postazione_));
+    ASSERT_TRUE(Inserisce(u"B"_s, 5));
+    comandi::Annulla(*postazione_);
+    EXPECT_TRUE(comandi::PossoChiudere(*postazione_));  // nothing differs from what is saved
+    Esce(Answer::No);
+    comandi::Nuovo(*postazione_);
+    EXPECT_TRUE(comandi::PossoChiudere(*postazione_));
+    Destinazione(u"DUE"_s, {});
+    const QString domanda = u"La nuova mèta «DUE» non è stata salvata: vuoi rinunciarvi?"_s;
+    copione_.Domanda(domanda, u"Fine Lavoro"_s, Answer::No);
+    EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
+}
+
+TEST_F(ComandiTest, WhatCannotBeSavedStaysOnScreen) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    Memorizza(Answer::Yes);
+    ASSERT_TRUE(Inserisce(u"C"_s, 5));
+    {
+        const SQLite::Database altro = AltroProgramma("BEGIN EXCLUSIVE");
+        copione_.Messaggio(Archivio(u"l'archivio è in uso da un altro programma; riprova tra poco."_s));
+        EXPECT_FALSE(Inserisce(u"D"_s, 5));
+    }
+    EXPECT_EQ(Righe(), u"A B C"_s);
+    EXPECT_EQ(postazione_->documento.Riepilogo().tappe.size(), 3U);
+    EXPECT_EQ(postazione_->DaAnnullare(), u"inserimento di C"_s);
+    // A disk that is full in the midst of it.
+    const SQLite::Database altro = AltroProgramma(
+        "CREATE TRIGGER pieno BEFORE INSERT ON Itinerari WHEN NEW.Sequenza = '0003' "
+        "BEGIN SELECT RAISE(ABORT, 'pieno'); END");
+    DomandaDiUscita(Answer::Yes);
+    copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + Archivio(u"…"_s));
+    EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
+    EXPECT_EQ(Righe(), u"A B C"_s);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+    // Nor is a trip lost whose deletion fails.
+    Esce(Answer::No);
+    AltroProgramma("CREATE TRIGGER fermo BEFORE DELETE ON MeteVandro BEGIN SELECT RAISE(ABORT, 'fermo'); END");
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+    copione_.Messaggio(u"La mèta non è stata cancellata.\n\n"_s + Archivio(u"…"_s));
+    comandi::CancMeta(*postazione_);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
+    EXPECT_EQ(Righe(), u"A B"_s);
+    EXPECT_EQ(Memorizzate(), u"A B"_s);
+}
+
+TEST_F(ComandiTest, ARouteIsPutIntoAnEmptyItineraryAndTakenAwayAgain) {
+    NuovaMeta(u"UNO"_s);
+    comandi::Itinerario(*postazione_);
+    comandi::Aggiunge(*postazione_);
+    const auto altriPacchetti = [this](const QString& nome) {
+        file_ = nome.isEmpty() ? nome : u"" CRONOVIA_EXAMPLES "/"_s + nome;
+        comandi::AltriPacchetti(*postazione_);
+    };
+    const QString percorso = u"percorsi/torino-messina.txt"_s;
+    const auto domanda = [&](Answer risposta) {
+        copione_.Domanda(
+            u"Tappe riconosciute: 9, da TORINO a MESSINA.\nChilometri: 405; traghetti: 1.\n\nVuoi riportarle nell'itinerario?"_s,
+            u"Import del percorso"_s, risposta);
+    };
+    altriPacchetti({});
+    copione_.Messaggio(
+        u"Attenzione!\n\nFile non riconosciuto!\n\nAttualmente sono riconosciuti:\n. MapPoint\n"
+        ". Autoroute 66\n. Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."_s);
+    altriPacchetti(u"sicilia.iei"_s);
+    copione_.Messaggio(u"Il file …"_s);
+    altriPacchetti(u"manca.txt"_s);
+    domanda(Answer::No);
+    altriPacchetti(percorso);
+    EXPECT_EQ(NumeroTappe(postazione_->documento.Righe()), 0);
+    EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
+    EXPECT_TRUE(postazione_->Comandi().Abilitato(Comando::Inserisce));
+    domanda(Answer::Yes);
+    altriPacchetti(percorso);
+    EXPECT_EQ(Righe(), u"TORINO CEVA SAVONA GENOVA GENOVA-PALERMO PALERMO CEFALÙ MILAZZO MESSINA"_s);
+    EXPECT_EQ(postazione_->documento.RigaCorrente(), 10);
+    EXPECT_EQ(postazione_->documento.Riepilogo().totali.traghetti, 1);
+    EXPECT_FALSE(postazione_->Comandi().Abilitato(Comando::AltriPacchetti));
+    EXPECT_EQ(Memorizzate(), u""_s);
+    copione_.Messaggio(
+        u"Impossibile: sono presenti delle tappe!\n\nE' ammesso solo con itinerario vuoto.\n\n"
+        "Se vuoi procedere con l'import da MapPoint,\nè necessario cancellare l'itinerario."_s);
+    altriPacchetti(percorso);
+    EXPECT_EQ(postazione_->DaAnnullare(), u"import del percorso"_s);
+    comandi::Annulla(*postazione_);
+    EXPECT_EQ(NumeroTappe(postazione_->documento.Righe()), 0);
+    comandi::Ripeti(*postazione_);
+    Memorizza(Answer::Yes);
+    EXPECT_EQ(Memorizzate(), Righe());
+}
+
+TEST_F(ComandiTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsCode) {
+    NuovaMeta(u"UNO"_s);
+    MetaConTappe(u"DUE"_s, {u"A"_s});
+    const std::unique_ptr<Postazione> altra = NuovaPostazione();
+    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+    comandi::CancMeta(*altra);
+    const auto rifiutata = [this](const QString& perche) {
+        DomandaDiUscita(Answer::Yes);
+        copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + perche);
+        comandi::Fine(*postazione_);
+        EXPECT_EQ(Righe(), u"A"_s);
+        EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
+    };
+    rifiutata(u"Non esiste nessuna mèta con il codice 000002."_s);
+    altra->sessione.NuovaMeta(u"TRE"_s, u"ITALIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
+    rifiutata(u"La mèta con il codice 000002 non è più «DUE», ma «TRE»: un'altra finestra l'ha cambiata."_s);
+    Esce(Answer::No);
+    EXPECT_EQ(Viaggio().Campi().localita, u"TRE"_s);
+}
+
+TEST_F(ComandiTest, TheHistoryOfATripGoesWithIt) {
+    NuovaMeta(u"DUE"_s);
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    comandi::Annulla(*postazione_);
+    ASSERT_TRUE(postazione_->DaAnnullare() && postazione_->DaRipetere());
+    Esce(Answer::No);
+    // The same trip, loaded anew, and another one.
+    for (const auto& codice : {u"000002"_s, u"000001"_s}) {
+        comandi::ScegliMeta(*postazione_, codice);
+        comandi::Itinerario(*postazione_);
+        EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
+        EXPECT_EQ(postazione_->DaRipetere(), std::nullopt);
+        comandi::Annulla(*postazione_);
+        comandi::Ripeti(*postazione_);
+        EXPECT_EQ(Righe(), u""_s);
+        EXPECT_FALSE(Viaggio().Modificato());
+        Esce(Answer::No);
+    }
+}
+
+TEST_F(ComandiTest, FieldsAndStagesAreComparedWithWhatWasLoaded) {
+    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
+    EXPECT_TRUE(Viaggio().TappeModificate() && !Viaggio().CampiModificati());
+    Esce(Answer::Yes);
+    EXPECT_FALSE(Viaggio().Modificato());
+    Meta meta = Viaggio().Campi();
+    meta.parametri.oraCena = 2100_cent;  // too late for the night
+    Viaggio().ImpostaCampi(meta);
+    EXPECT_TRUE(Viaggio().CampiModificati() && !Viaggio().TappeModificate());
+    copione_.Domanda(u"Confermi modifica dati mèta?"_s, u"Modifica dati mèta"_s, Answer::Yes);
+    comandi::Salva(*postazione_);
+    EXPECT_NE(Viaggio().Campi().parametri.oraCena, 2100_cent);
+    EXPECT_FALSE(Viaggio().Modificato());  // what the program put right is no change of the person's
+}
+
+}  // namespace
+}  // namespace cronovia

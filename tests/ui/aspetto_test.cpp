@@ -1,0 +1,54 @@
+// What the window remembers of its looks from one start to the next.
+#include <QHeaderView>
+
+#include "ui/finestra.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PannelloDiProva : public Pannello {
+  public:
+    PannelloDiProva() : Pannello(u"Giornate"_s) { setObjectName(u"pannelloDiProva"_s); }
+    void Mostra(const Postazione& postazione) override { mostrata_ = postazione.documento.Campi().localita; }
+    QString mostrata_;
+};
+
+class AspettoTest : public prova::FinestraTest {
+  protected:
+    PannelloDiProva& AggiungiPannello() {
+        auto* pannello = new PannelloDiProva;
+        form_->AggiungiPannello(*pannello, Qt::RightDockWidgetArea);
+        return *pannello;
+    }
+    QHeaderView& Colonne() { return *Trova<QTableView>(u"mfgTab"_s).horizontalHeader(); }
+};
+
+TEST_F(AspettoTest, SizeColumnsAndPanelsComeBack) {
+    Apri();
+    PannelloDiProva& pannello = AggiungiPannello();
+    EXPECT_EQ(form_->dockWidgetArea(&pannello), Qt::RightDockWidgetArea);
+    form_->addDockWidget(Qt::LeftDockWidgetArea, &pannello);
+    form_->resize(1111, 700);
+    const int larga = Colonne().sectionSize(2) + 37;
+    Colonne().resizeSection(2, larga);
+    ASSERT_TRUE(form_->close());
+
+    Apri();
+    EXPECT_EQ(form_->size(), QSize(1111, 700));
+    EXPECT_EQ(Colonne().sectionSize(2), larga);
+    PannelloDiProva& ancora = AggiungiPannello();
+    EXPECT_EQ(form_->dockWidgetArea(&ancora), Qt::LeftDockWidgetArea);
+    Premi(u"cmdNuovo"_s);
+    Scrivi(u"txtLocalita"_s, u"lucca"_s);
+    Attesa box;
+    box.testo = u"Campo Nazione: obbligatorio!"_s;
+    Attendi(box);
+    Premi(u"cmdSalva"_s);
+    EXPECT_EQ(ancora.mostrata_, u"LUCCA"_s);
+    TuttoVenuto();
+}
+
+}  // namespace
+}  // namespace cronovia
