@@ -10,11 +10,15 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
 QString ArgomentoModuli(const DatiStampa& dati) {
     const QString inizio = dati.meta.dataInizio ? TestoData(*dati.meta.dataInizio) : QString();
     const QStringList fine = {dati.fine[0], dati.fine[1], dati.fine[2]};
     return dati.meta.localita + u',' + inizio + u',' + fine.join(u'/');
 }
+
+}  // namespace
 
 void AvviaModuli(const DatiStampa& dati, const QStringList& cartelle) {
     QString programma = QStandardPaths::findExecutable(u"Fogliax.exe"_s, cartelle);

@@ -54,6 +54,13 @@ std::vector<LocalitaStampata> TutteLeLocalita(Archive& archive) {
     return localita;
 }
 
+// The captions of the choices, without their mnemonics.
+QString TitoloStampaGuida(const DatiStampaGuida& dati) {
+    const QString dettaglio = dati.opzioni.dettaglio ? u"Località e Guida"_s : u"Località"_s;
+    const QString lista = dati.opzioni.tutte ? u"Tutte"_s : u"Inerenti la Meta: "_s + dati.destinazione.trimmed();
+    return u"Guida Città: - %1 - %2"_s.arg(dettaglio, lista);
+}
+
 class StampaPagine {
   public:
     StampaPagine(const DatiStampaGuida& dati, const PieDiPagina& piede)
@@ -173,12 +180,6 @@ DatiStampaGuida PreparaStampaGuida(Archive& archive, const QString& codiceMeta, 
 QString NienteDaStampare(const OpzioniStampaGuida& opzioni) {
     return opzioni.tutte ? u"Niente da stampare: la guida non ha ancora annotazioni."_s
                          : u"Niente da stampare: la guida non ha annotazioni per le località di questa mèta."_s;
-}
-
-QString TitoloStampaGuida(const DatiStampaGuida& dati) {
-    const QString dettaglio = dati.opzioni.dettaglio ? u"Località e Guida"_s : u"Località"_s;
-    const QString lista = dati.opzioni.tutte ? u"Tutte"_s : u"Inerenti la Meta: "_s + dati.destinazione.trimmed();
-    return u"Guida Città: - %1 - %2"_s.arg(dettaglio, lista);
 }
 
 Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress) {

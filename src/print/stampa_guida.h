@@ -41,7 +41,4 @@ Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Prog
 /// What is said when there are no localities.
 QString NienteDaStampare(const OpzioniStampaGuida& opzioni);
 
-/// The captions of the choices, without their mnemonics: what the title is made of.
-QString TitoloStampaGuida(const DatiStampaGuida& dati);
-
 }  // namespace cronovia

@@ -38,17 +38,6 @@ QString Posto(const QString& path) {
     return posto.isEmpty() ? info.dir().canonicalPath() + u'/' + info.fileName() : posto;
 }
 
-}  // namespace
-
-QString FileTabella(const QString& cartella) { return QDir(cartella).filePath(u"Vandtabl.txt"_s); }
-
-// Some file systems take capitals and small letters for the same.
-void RifiutaFileTabella(const QString& path, const QString& cartella) {
-    if (Posto(path).compare(Posto(FileTabella(cartella)), Qt::CaseInsensitive) != 0) return;
-    throw Failure(u"Il file %1 è la tabella della cronovia: per le pagine scegli un altro nome."_s.arg(
-        QDir::toNativeSeparators(path)));
-}
-
 QByteArray TabellaCronovia(const DatiStampa& dati) {
     QString testo = SuUnaRiga(dati.meta.localita) + kFineRiga + kFineRiga;
     const RigaGriglia intestazioni = Intestazioni(Vista::FileTabella);
@@ -59,6 +48,17 @@ QByteArray TabellaCronovia(const DatiStampa& dati) {
         if (!riga.testi[Colonna::Tappa].trimmed().isEmpty()) testo += RigaTabella(riga.testi);
     }
     return InWindows1252(testo).byte;
+}
+
+}  // namespace
+
+QString FileTabella(const QString& cartella) { return QDir(cartella).filePath(u"Vandtabl.txt"_s); }
+
+// Some file systems take capitals and small letters for the same.
+void RifiutaFileTabella(const QString& path, const QString& cartella) {
+    if (Posto(path).compare(Posto(FileTabella(cartella)), Qt::CaseInsensitive) != 0) return;
+    throw Failure(u"Il file %1 è la tabella della cronovia: per le pagine scegli un altro nome."_s.arg(
+        QDir::toNativeSeparators(path)));
 }
 
 void ScriviTabella(const DatiStampa& dati, const QString& cartella) {

@@ -15,6 +15,9 @@ struct Pezzo {
     Centesimi tempo;
 };
 
+// How near to its hour a meal or the night is taken, in hundredths of an hour: a short rest and one more, at least 10.
+int Tolleranza(const OrarioCorretto& orario) { return std::max(static_cast<int>(orario.Riposo().Valore()) + 1, 10); }
+
 class Simulazione {
   public:
     explicit Simulazione(const RichiestaPassata& richiesta)
@@ -247,8 +250,6 @@ class Simulazione {
 };
 
 }  // namespace
-
-int Tolleranza(const OrarioCorretto& orario) { return std::max(static_cast<int>(orario.Riposo().Valore()) + 1, 10); }
 
 Passata SimulaPassata(const RichiestaPassata& richiesta, Progress& progress) {
     return Simulazione(richiesta).Esegui(progress);

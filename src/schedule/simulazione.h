@@ -33,9 +33,6 @@ struct Passata {
     bool interrotta = false;  ///< a stop was requested; nothing else counts then
 };
 
-/// How near to its hour a meal or the night is taken, in hundredths of an hour: a short rest and one more, at least 10.
-int Tolleranza(const OrarioCorretto& orario);
-
 /// Walks the stages on a clock that starts with the trip. Every road type in use needs a speed, the visiting hours must
 /// not be empty. The same input gives the same rows.
 Passata SimulaPassata(const RichiestaPassata& richiesta, Progress& progress);

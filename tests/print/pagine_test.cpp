@@ -64,6 +64,7 @@ DatiStampa Tipi() {
     dati.meta.nazione = QString(18, u'W');
     dati.totali.km.fill(u"9.999.999"_s);
     dati.totali.tempo.fill(u"99:23:59"_s);
+    dati.totali.traghetti = u"2"_s;
     dati.fine = {u"31"_s, u"12"_s, u"2099"_s, u"23"_s, u"59"_s, u"Mer"_s, u"36500"_s};
     using enum GenereRiga;
     dati.righe = {
@@ -126,6 +127,38 @@ TEST(Pagine, AreAsReviewed) {
         for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina);
     }
     for (const Pagina& pagina : prova::Stampa(prova::CapoNord()).pagine) NienteSiTocca(pagina);
+}
+
+TEST(Pagine, TurnBehindTheLastLineOnlyAndHoldEveryRowOnce) {
+    EXPECT_TRUE(prova::Stampa(prova::Viaggio(0)).pagine.empty());
+    EXPECT_EQ(prova::Stampa(prova::Viaggio(46)).pagine.size(), 1U);
+    const Stampato documento = prova::Stampa(prova::Viaggio(46 * 39 + 1));
+    ASSERT_EQ(documento.pagine.size(), 40U);
+    int riga = 0;
+    for (const Pagina& pagina : documento.pagine) {
+        for (const Linea& linea : pagina.linee) EXPECT_LE(linea.y1, 280) << "no rule behind the closing one";
+        for (const TestoPosto& posto : pagina.testi) {
+            if (!posto.testo.startsWith("Tappa"_L1)) continue;
+            EXPECT_EQ(posto.testo, u"Tappa n%1x"_s.arg(++riga));
+        }
+    }
+    EXPECT_EQ(riga, 46 * 39 + 1);
+    for (const auto& [localita, pagine] : {std::pair(0, 0U), {255, 1U}, {256, 2U}}) {
+        DatiStampaGuida guida{{false, false}, u"LUCCA"_s, {}};
+        guida.localita.resize(static_cast<std::size_t>(localita), {u"LOC"_s, {}});
+        Progress progress;
+        EXPECT_EQ(StampaGuida(guida, prova::kPiede, progress).pagine.size(), pagine) << localita;
+    }
+}
+
+TEST(Pagine, ATextIsNotCutWithinACharacter) {
+    Foglio foglio(u"Prova"_s, prova::kPiede);
+    const QString camper = u"\U0001F690\U0001F690"_s;
+    const Carattere nove{Famiglia::Times, 9};
+    for (double larghezza = 0; larghezza < foglio.Larghezza(camper, nove) + 1; larghezza += 0.5) {
+        const QString tagliato = foglio.Tagliato(camper, nove, larghezza);
+        EXPECT_FALSE(!tagliato.isEmpty() && tagliato.back().isHighSurrogate()) << larghezza;
+    }
 }
 
 }  // namespace

@@ -13,8 +13,6 @@ namespace cronovia::prova {
 
 using namespace Qt::StringLiterals;
 
-constexpr double kPrimaRiga = 50;  // above it: the header
-
 inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
 
 inline RigaStampata Riga(const QString& localita, const QString& sosta = {}, const QString& note = {},
@@ -34,9 +32,6 @@ inline DatiStampa Viaggio(int righe) {
     dati.meta.dataInizio = NumeroGiorno(730135);
     dati.meta.oraInizio = 850_cent;
     dati.fine = {u"05"_s, u"01"_s, u"2000"_s, u"17"_s, u"45"_s, u"Mer"_s, u"5"_s};
-    dati.totali.km = {u"100"_s, {}, u"1.200"_s, {}, u"1.300"_s};
-    dati.totali.tempo = {u"00:01:20"_s, {}, u"01:02:00"_s, {}, u"01:03:20"_s};
-    dati.totali.traghetti = u"2"_s;
     for (int i = 1; i <= righe; ++i) {
         dati.righe.push_back(Riga(u"Tappa n%1x"_s.arg(i)));
         dati.righe.back().testi[Colonna::Numero] = QString::number(i);
@@ -59,16 +54,6 @@ inline DatiStampa CapoNord() { return DallArchivio(QStringLiteral(CRONOVIA_EXAMP
 inline Stampato Stampa(const DatiStampa& dati) {
     Progress progress;
     return StampaCronovia(dati, kPiede, progress);
-}
-
-/// The text that reads so; a test failure when it is not there exactly once.
-inline TestoPosto Trova(const Pagina& pagina, const QString& testo) {
-    std::vector<TestoPosto> trovati;
-    for (const TestoPosto& posto : pagina.testi) {
-        if (posto.testo == testo) trovati.push_back(posto);
-    }
-    EXPECT_EQ(trovati.size(), 1U) << testo.toStdString();
-    return trovati.empty() ? TestoPosto() : trovati.front();
 }
 
 /// From the capitals' height to the baseline.

@@ -12,17 +12,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-Stampato Stampata(const DatiStampaGuida& dati) {
-    Progress progress;
-    return StampaGuida(dati, prova::kPiede, progress);
-}
-
-DatiStampaGuida Nomi(int numero) {
-    DatiStampaGuida dati{{false, false}, u"LUCCA"_s, {}};
-    for (int i = 1; i <= numero; ++i) dati.localita.push_back({u"LOC%1"_s.arg(i), {}});
-    return dati;
-}
-
 class StampaGuidaTest : public testing::Test {
   protected:
     void NellaGuida(const QString& localita, const QString& codice, const QString& descrizione, const QString& tempo) {
@@ -60,14 +49,6 @@ TEST_F(StampaGuidaTest, TheLocalitiesOfTheTripOrAll) {
     MemorizzaTappeItinerario(Archivio(), u"000001"_s, tappe, {}, progress);
     EXPECT_EQ(Localita(false), u"Sant'Anna=Torre+Pieve+Osteria ALTROVE=Molo Sant'Anna=Torre+Pieve+Osteria"_s);
     EXPECT_EQ(Localita(true), u"ÀGORDO=Gpl ALTROVE=Molo SANT ANNA=Osteria SANT'ANNA=Pieve+Torre"_s);
-}
-
-TEST_F(StampaGuidaTest, APageThatIsFullToItsLastLineHasNoEmptyOneBehindIt) {
-    EXPECT_TRUE(Stampata(Nomi(0)).pagine.empty());
-    EXPECT_EQ(Stampata(Nomi(255)).pagine.size(), 1U);
-    const Stampato due = Stampata(Nomi(256));
-    ASSERT_EQ(due.pagine.size(), 2U);
-    prova::Trova(due.pagine[1], u"LOC256"_s);
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ QString TestoRinvio(const Rinvio& rinvio, const Cronovia& cronovia) {
 
 QString TestoGiornata(const Giornata& g, const Cronovia& cronovia) {
     QStringList parti = {QString::number(g.numero), TestoData(g.data), g.risveglio + u" > "_s + g.notte};
+    QStringList margini;  // in hours
     parti += g.partenza ? TestoOrologio(*g.partenza) + u'-' + TestoOrologio(*g.arrivo) : u"fermo"_s;
     parti += u"%1 km"_s.arg(g.km);
     for (const auto& [nome, tempo] :
@@ -48,6 +49,11 @@ QString TestoGiornata(const Giornata& g, const Cronovia& cronovia) {
     if (g.cena) parti += u"cena"_s;
     if (g.riposi > 0) parti += u"riposi %1"_s.arg(g.riposi);
     if (g.riposo) parti += u"riposo"_s;
+    for (const int riga : g.righe) {
+        const auto margine = MargineRientro(cronovia.righe[static_cast<std::size_t>(riga)]);
+        if (margine) margini += QString::number(qRound(margine->Valore() / 10) / 10.0, 'f', 1);
+    }
+    parti += u"margini "_s + margini.join(u' ');
     for (const Rinvio& rinvio : g.rinvii) parti += TestoRinvio(rinvio, cronovia);
     return parti.join(u'\t') + u'\n';
 }

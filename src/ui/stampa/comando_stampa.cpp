@@ -9,7 +9,7 @@
 #include "app/comandi_cronovia.h"
 #include "print/moduli.h"
 #include "print/stampa_cronovia.h"
-#include "print/stampa_itinerario.h"
+#include "print/stampa_tutto.h"
 #include "print/tabella_testo.h"
 #include "ui/stampa/stampanti.h"
 
@@ -120,9 +120,9 @@ void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& sta
     const DatiStampa dati = Dati();
     Chiudi();
     comandi::StampaInCorso(volti_.postazione);
-    StampaDellItinerario({dati, Piede(), volti_.postazione.sessione.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(),
-                          stampa, [&] { AvviaModuli(dati); }},
-                         volti_.interazione, volti_.avanzamento);
+    StampaTutto({dati, Piede(), volti_.postazione.sessione.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(), stampa,
+                 [&] { AvviaModuli(dati); }},
+                volti_.interazione, volti_.avanzamento);
     comandi::FineStampa(volti_.postazione);
 }
 

@@ -1,5 +1,5 @@
 // The print run: table file, printer, logbook program, and what the person hears of them.
-#include "print/stampa_itinerario.h"
+#include "print/stampa_tutto.h"
 
 #include <gtest/gtest.h>
 
@@ -13,22 +13,22 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class StampaItinerario : public testing::Test {
+class StampaTuttoTest : public testing::Test {
   protected:
-    StampaItinerario() {
+    StampaTuttoTest() {
         cartella_.Crea();
         dati_.righe.push_back(prova::Riga(u" > Čaj\tbar “Łódź” "_s, u"00:45"_s, u"Ristorante"_s));
         dati_.righe.push_back({});
     }
     void Esegui(bool tabella, bool moduli) {
         Progress progress;
-        StampaDellItinerario({dati_, prova::kPiede, cartella_.Percorso(), tabella, moduli,
-                              [this](const Stampato& documento) {
-                                  pagine_ = static_cast<int>(documento.pagine.size());
-                                  if (guasto_) throw Failure(u"La stampante tace."_s);
-                              },
-                              [this] { AvviaModuli(dati_, {cartella_.Percorso()}); }},
-                             copione_, progress);
+        StampaTutto({dati_, prova::kPiede, cartella_.Percorso(), tabella, moduli,
+                     [this](const Stampato& documento) {
+                         pagine_ = static_cast<int>(documento.pagine.size());
+                         if (guasto_) throw Failure(u"La stampante tace."_s);
+                     },
+                     [this] { AvviaModuli(dati_, {cartella_.Percorso()}); }},
+                    copione_, progress);
         EXPECT_TRUE(copione_.Finito());
     }
     [[nodiscard]] QString Completata() const {
@@ -47,7 +47,7 @@ class StampaItinerario : public testing::Test {
     bool guasto_ = false;
 };
 
-TEST_F(StampaItinerario, WritesTheTableByteForByteWhateverIsTicked) {
+TEST_F(StampaTuttoTest, WritesTheTableByteForByteWhateverIsTicked) {
     copione_.Messaggio(Completata());
     Esegui(false, false);
     EXPECT_EQ(pagine_, 0);
@@ -65,7 +65,7 @@ TEST_F(StampaItinerario, WritesTheTableByteForByteWhateverIsTicked) {
     EXPECT_EQ(pagine_, 0);
 }
 
-TEST_F(StampaItinerario, TellsWhatWasPrintedAndOneFaultDoesNotDisturbTheRest) {
+TEST_F(StampaTuttoTest, TellsWhatWasPrintedAndOneFaultDoesNotDisturbTheRest) {
     copione_
         .Messaggio(
             u"I moduli per il diario di bordo non si possono stampare: nella cartella %1 manca il programma "

@@ -1,4 +1,4 @@
-#include "print/stampa_itinerario.h"
+#include "print/stampa_tutto.h"
 
 #include <QDir>
 
@@ -10,7 +10,7 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-void StampaDellItinerario(const RichiestaStampa& richiesta, Interaction& interaction, Progress& progress) {
+void StampaTutto(const RichiestaStampa& richiesta, Interaction& interaction, Progress& progress) {
     const auto prova = [&](bool voluta, const auto& azione) {
         if (!voluta) return false;
         try {

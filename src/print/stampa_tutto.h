@@ -24,6 +24,6 @@ struct RichiestaStampa {
 
 /// Always writes the table file. What goes wrong with one of the three is told and does not keep the others from being
 /// done; at the end the person hears what was done.
-void StampaDellItinerario(const RichiestaStampa& richiesta, Interaction& interaction, Progress& progress);
+void StampaTutto(const RichiestaStampa& richiesta, Interaction& interaction, Progress& progress);
 
 }  // namespace cronovia
