@@ -66,10 +66,6 @@ Meta Sessione::MetaProposta(const QDateTime& adesso) {
 }
 
 QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio) {
-    const auto larghezza = Width(Table::MeteVandro, mete::Nazione);
-    if (nazione.trimmed().size() > larghezza) {
-        throw Failure(u"Il nome della nazione è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
-    }
     Meta meta = ConInizio(inizio, CaricaDefaultMeta(archive_));
     meta.localita = localita.normalized(QString::NormalizationForm_C).toUpper();
     meta.nazione = nazione.toUpper();

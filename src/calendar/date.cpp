@@ -11,6 +11,13 @@ namespace {
 
 int Floor(double valore) { return static_cast<int>(std::floor(valore)); }
 
+// The number that so many digits make, when it is one within the limits.
+std::optional<int> Parte(QStringView testo, int cifre, int minimo, int massimo) {
+    if (testo.size() != cifre || !std::all_of(testo.begin(), testo.end(), Cifra)) return std::nullopt;
+    const int numero = ValoreNumerico(testo);
+    return numero >= minimo && numero <= massimo ? std::optional(numero) : std::nullopt;
+}
+
 }  // namespace
 
 Gma LeggiGma(QStringView data) {
@@ -82,12 +89,28 @@ QString GiornoSettimana(NumeroGiorno giorno) {
 }
 
 std::optional<NumeroGiorno> LeggiData(QStringView data) {
-    const bool soloCifre = std::all_of(data.begin(), data.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    if (data.size() != 8 || !soloCifre) return std::nullopt;
-    const Gma gma = LeggiGma(data);
-    if (gma.anno < 1901 || gma.anno > 2099 || gma.mese < 1 || gma.mese > 12) return std::nullopt;
-    if (gma.giorno < 1 || gma.giorno > GiorniMese(gma.anno, gma.mese)) return std::nullopt;
-    return NumeroDelGiorno(gma);
+    if (data.size() != 8) return std::nullopt;
+    const PartiData parti = LeggiPartiData(data);
+    if (!parti.giorno || *parti.giorno != ValoreNumerico(data.left(2))) return std::nullopt;
+    return parti.Giorno();
+}
+
+std::optional<NumeroGiorno> PartiData::Giorno() const {
+    if (!giorno || !mese || !anno) return std::nullopt;
+    return NumeroDelGiorno({*giorno, *mese, *anno});
+}
+
+PartiData LeggiPartiData(QStringView data) {
+    PartiData parti;
+    parti.mese = Parte(data.mid(2, 2), 2, 1, 12);
+    parti.anno = Parte(data.mid(4), 4, kPrimoGiorno.anno, kUltimoGiorno.anno);
+    parti.giorno = Parte(data.left(2), 2, 0, 99);
+    if (parti.giorno) {
+        constexpr int kBisestile = 2000;
+        const int ultimo = GiorniMese(parti.anno.value_or(kBisestile), parti.mese.value_or(1));
+        parti.giorno = std::clamp(*parti.giorno, 1, ultimo);
+    }
+    return parti;
 }
 
 }  // namespace cronovia

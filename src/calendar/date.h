@@ -60,7 +60,27 @@ int GiorniMese(int anno, int mese);
 QString GiornoSettimana(QStringView data);
 QString GiornoSettimana(NumeroGiorno giorno);
 
+/// The first and the last day that a journey may have.
+inline constexpr Gma kPrimoGiorno{1, 1, 1901};
+inline constexpr Gma kUltimoGiorno{31, 12, 2099};
+
 /// The day of a text ddmmyyyy, or nothing when it is no day of the years 1901 to 2099.
 std::optional<NumeroGiorno> LeggiData(QStringView data);
+
+/// What a text ddmmyyyy tells of a date, be it one or not. Each part is within its own limits, the day within those of
+/// the month: it ends with the longest one that is possible where month or year is missing.
+struct PartiData {
+    std::optional<int> giorno;
+    std::optional<int> mese;
+    std::optional<int> anno;
+
+    /// The day that all three of them make; nothing when one is missing.
+    [[nodiscard]] std::optional<NumeroGiorno> Giorno() const;
+    friend bool operator==(const PartiData&, const PartiData&) = default;
+};
+
+/// The parts of a text: "31022027" has the day 28, "15002027" no month, an empty one none at all. A day below 1 is 1,
+/// one behind the month's end is the last of the month; a month or year outside its limits is missing.
+PartiData LeggiPartiData(QStringView data);
 
 }  // namespace cronovia

@@ -47,6 +47,15 @@ CalcoloSoste LeggiCalcoloSoste(QStringView testo) {
     return numero >= 1 && numero <= 5 ? static_cast<CalcoloSoste>(numero) : CalcoloSoste::SostaMaggiore;
 }
 
+bool TroppoLungo(const QString& testo, mete::Field campo) {
+    return testo.trimmed().size() > Width(Table::MeteVandro, campo);
+}
+
+QString MessaggioLungo(const QString& cosa, mete::Field campo) {
+    return u"Il nome della %1 è troppo lungo: al massimo %2 caratteri."_s.arg(
+        cosa, QString::number(Width(Table::MeteVandro, campo)));
+}
+
 int NonNegativo(QStringView testo) { return std::max(0, ValoreNumerico(testo)); }
 
 ParametriViaggio LeggiParametri(std::span<const QString> campi, QStringView calcoloSoste) {
@@ -105,11 +114,43 @@ Meta MetaDaRecord(const Record& record) {
     meta.localita = record[mete::Localita].trimmed();
     meta.nazione = record[mete::Nazione].trimmed();
     meta.dataInizio = LeggiData(record[mete::DataInizio]);
+    if (!meta.dataInizio) meta.partiInizio = LeggiPartiData(record[mete::DataInizio]);
     meta.oraInizio = LeggiOrario(record[mete::OraInizio]);
     meta.giorniAdeguamento = std::clamp(ValoreNumerico(record[mete::GiorniAdeguamento]), 0, kMassimoGiorniAdeguamento);
     const std::span<const QString> campi(record.values);
     meta.parametri = LeggiParametri(campi.subspan(mete::MediaAutostrada, kCampiComuni), record[mete::CalcoloSoste]);
     return meta;
+}
+
+QString MessaggioData() {
+    return u"La data d'inizio dev'essere un giorno dal %1 al %2."_s.arg(TestoData(NumeroDelGiorno(kPrimoGiorno)),
+                                                                        TestoData(NumeroDelGiorno(kUltimoGiorno)));
+}
+
+std::optional<DifettoMeta> DifettoDeiParametri(const ParametriViaggio& parametri) {
+    for (std::size_t i = 0; i < parametri.mediaKm.size(); ++i) {
+        if (parametri.mediaKm[i] >= kMinimaMedia && parametri.mediaKm[i] <= kMassimaMedia) continue;
+        return DifettoMeta{static_cast<mete::Field>(mete::MediaAutostrada + i),
+                           u"La velocità media su %1 dev'essere da %2 a %3 km/h."_s.arg(
+                               NomeTipoStrada(static_cast<TipoStrada>(i)), QString::number(kMinimaMedia),
+                               QString::number(kMassimaMedia))};
+    }
+    return std::nullopt;
+}
+
+std::optional<DifettoMeta> DifettoDellaMeta(const Meta& meta) {
+    if (meta.localita.trimmed().isEmpty()) return DifettoMeta{mete::Localita, u"Campo Località: obbligatorio!"_s};
+    if (TroppoLungo(meta.localita, mete::Localita)) {
+        return DifettoMeta{mete::Localita, MessaggioLungo(u"località"_s, mete::Localita)};
+    }
+    if (meta.nazione.trimmed().isEmpty()) return DifettoMeta{mete::Nazione, u"Campo Nazione: obbligatorio!"_s};
+    if (TroppoLungo(meta.nazione, mete::Nazione)) {
+        return DifettoMeta{mete::Nazione, MessaggioLungo(u"nazione"_s, mete::Nazione)};
+    }
+    const bool data = meta.dataInizio && *meta.dataInizio >= NumeroDelGiorno(kPrimoGiorno) &&
+                      *meta.dataInizio <= NumeroDelGiorno(kUltimoGiorno);
+    if (!data) return DifettoMeta{mete::DataInizio, MessaggioData()};
+    return DifettoDeiParametri(meta.parametri);
 }
 
 std::vector<QString> ValoriDellaMeta(const Meta& meta) {

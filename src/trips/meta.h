@@ -58,6 +58,7 @@ struct Meta {
     QString localita;  ///< the destination, which no other trip has
     QString nazione;
     std::optional<NumeroGiorno> dataInizio;  ///< nothing when the stored text is no date
+    PartiData partiInizio;                   ///< what that text tells all the same; none when it is a date
     Centesimi oraInizio;                     ///< time of day at which the journey begins
     int giorniAdeguamento = 0;               ///< days that the trip shall last; 0 = as many as it needs
     ParametriViaggio parametri;
@@ -67,6 +68,26 @@ struct Meta {
 
 /// The most days that a trip can be asked to last.
 inline constexpr int kMassimoGiorniAdeguamento = 997;
+
+/// The average speeds that a road can have, in km/h.
+inline constexpr int kMinimaMedia = 1;
+inline constexpr int kMassimaMedia = 200;
+
+/// Why a trip cannot be saved, and the field of `MeteVandro` that it is about.
+struct DifettoMeta {
+    mete::Field campo = mete::Localita;
+    QString messaggio;
+};
+
+/// The first reason why a trip cannot be saved: without destination or country, either too wide for its field, no date
+/// or one out of the calendar, a speed out of its limits.
+std::optional<DifettoMeta> DifettoDellaMeta(const Meta& meta);
+
+/// The part of it that is about the parameters.
+std::optional<DifettoMeta> DifettoDeiParametri(const ParametriViaggio& parametri);
+
+/// The message about a date that is none, or out of the calendar.
+QString MessaggioData();
 
 /// A time of day or a duration from its stored form "hhmm", what is no number counting as 0, and back, to the
 /// minute and with hours beyond 24.

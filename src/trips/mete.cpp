@@ -28,13 +28,8 @@ void ScriviRigaUnica(Archive& archive, Table tabella, std::vector<QString> valor
     }
 }
 
-void RifiutaIncompleta(const Meta& meta) {
-    if (meta.localita.trimmed().isEmpty()) throw Failure(u"Campo Località: obbligatorio!"_s);
-    const int larghezza = Width(Table::MeteVandro, mete::Localita);
-    if (meta.localita.trimmed().size() > larghezza) {
-        throw Failure(u"Il nome della località è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
-    }
-    if (meta.nazione.trimmed().isEmpty()) throw Failure(u"Campo Nazione: obbligatorio!"_s);
+void Rifiuta(const std::optional<DifettoMeta>& difetto) {
+    if (difetto) throw Failure(difetto->messaggio);
 }
 
 std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
@@ -89,13 +84,14 @@ std::vector<QString> CodiciDelleMete(Archive& archive) {
 }
 
 Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta) {
-    RifiutaIncompleta(meta);
+    Rifiuta(DifettoDellaMeta(meta));
     if (ValoreNumerico(meta.codice) != 0) return {false, meta.codice};
     if (const auto gia = StessaLocalita(archive, meta)) return {false, (*gia)[mete::CodiceMeta]};
     return {true, NuovoCodiceMeta(CodiciDelleMete(archive))};
 }
 
 QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio) {
+    Rifiuta(DifettoDellaMeta(meta));
     Transaction transaction(archive);
     QString codice = Scrivi(archive, meta, salvataggio);
     transaction.Commit();
@@ -103,7 +99,7 @@ QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvata
 }
 
 QString InserisciMeta(Archive& archive, const Meta& nuova) {
-    RifiutaIncompleta(nuova);
+    Rifiuta(DifettoDellaMeta(nuova));
     Transaction transaction(archive);
     if (const auto gia = StessaLocalita(archive, nuova)) {
         throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*gia)[mete::Localita].trimmed(),
@@ -158,6 +154,7 @@ void CompletaDefaultMeta(Archive& archive) {
 }
 
 void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri) {
+    Rifiuta(DifettoDeiParametri(parametri));
     Transaction transaction(archive);
     ScriviRigaUnica(archive, Table::Parametri, ValoriDeiParametri(parametri));
     transaction.Commit();

@@ -28,7 +28,7 @@ struct Salvataggio {
 };
 
 /// A trip with a code is changed. One without is new, unless a trip with its destination is stored: then that one is
-/// changed. Refused without destination or country.
+/// changed. Refused with the message of `DifettoDellaMeta`, as by all that save.
 Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta);
 
 /// Carries it out, makes the trip the current one and returns its code, another one when a second window took that of
@@ -61,7 +61,7 @@ void CancellaMeta(Archive& archive, const QString& codice, Progress& progress);
 
 /// The personal defaults; the standard ones when none are stored.
 ParametriViaggio CaricaDefaultMeta(Archive& archive);
-/// Stores personal defaults in the place of those before.
+/// Stores personal defaults in the place of those before. Refused with the message of `DifettoDeiParametri`.
 void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri);
 /// Makes the standard defaults the personal ones and returns them.
 ParametriViaggio RipristinaDefaultMeta(Archive& archive);

@@ -39,5 +39,21 @@ TEST(Date, TextsThatAreNoDayAreRefused) {
     }
 }
 
+TEST(Date, PartsAreKeptAndTheDayStaysInItsMonth) {
+    const auto nulla = std::nullopt;
+    for (const auto& [testo, parti] : std::vector<std::pair<QString, PartiData>>{{u"31022027"_s, {28, 2, 2027}},
+                                                                                 {u"31022028"_s, {29, 2, 2028}},
+                                                                                 {u"00042027"_s, {1, 4, 2027}},
+                                                                                 {u"30132027"_s, {30, nulla, 2027}},
+                                                                                 {u"31021900"_s, {29, 2, nulla}},
+                                                                                 {u"-1022027"_s, {nulla, 2, 2027}},
+                                                                                 {u"3104"_s, {30, 4, nulla}},
+                                                                                 {u""_s, {}}}) {
+        EXPECT_EQ(LeggiPartiData(testo), parti) << testo.toStdString();
+    }
+    EXPECT_FALSE(LeggiPartiData(u"30132027").Giorno().has_value());
+    EXPECT_EQ(DataMemorizzata(LeggiPartiData(u"31022027").Giorno().value()), u"28022027"_s);
+}
+
 }  // namespace
 }  // namespace cronovia

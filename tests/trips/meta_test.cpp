@@ -57,6 +57,7 @@ TEST(Meta, EmptyAndWrongFieldsAreUnknownNotInvented) {
     valori[mete::CalcoloSoste] = u"7"_s;
     const Meta guasta = MetaDaRecord({1, valori});
     EXPECT_FALSE(guasta.dataInizio.has_value());
+    EXPECT_EQ(guasta.partiInizio, (PartiData{29, 2, 2004}));
     EXPECT_EQ(guasta.parametri.mediaKm[3], 0);
     EXPECT_EQ(guasta.giorniAdeguamento, 997);
     EXPECT_EQ(guasta.parametri.calcoloSoste, CalcoloSoste::SostaMaggiore);

@@ -64,11 +64,47 @@ TEST_F(MeteTest, ADestinationThatExistsAlreadyIsRefused) {
 }
 
 TEST_F(MeteTest, WhatCannotBeSavedChangesNothing) {
-    EXPECT_EQ(prova::MessaggioDi([&] { Inserisci(u"  "_s); }), u"Campo Località: obbligatorio!"_s);
-    EXPECT_EQ(prova::MessaggioDi([&] { Inserisci(u"ROMA"_s, u" "_s); }), u"Campo Nazione: obbligatorio!"_s);
-    EXPECT_TRUE(prova::MessaggioDi([&] { Inserisci(QString(31, u'X')); }).contains(u"troppo lungo"_s));
-    EXPECT_EQ(archive_.Count(Table::MeteVandro), 0);
-    EXPECT_EQ(archive_.Count(Table::MetaCorrente), 0);
+    struct Rifiutata {
+        QString localita;
+        QString nazione;
+        std::optional<NumeroGiorno> data;
+        std::array<int, kTipiStrada> medie;
+        QString messaggio;
+    };
+    const std::array medie = ParametriViaggio().mediaKm;
+    const NumeroGiorno giorno(731813);
+    const QString data = u"La data d'inizio dev'essere un giorno dal 01/01/1901 al 31/12/2099."_s;
+    for (const Rifiutata& caso : std::vector<Rifiutata>{
+             {u"  "_s, u"ITALIA"_s, giorno, medie, u"Campo Località: obbligatorio!"_s},
+             {u"ROMA"_s, u" "_s, giorno, medie, u"Campo Nazione: obbligatorio!"_s},
+             {QString(31, u'X'), u"I"_s, giorno, medie,
+              u"Il nome della località è troppo lungo: al massimo 30 caratteri."_s},
+             {u"ROMA"_s, QString(20, u'X'), giorno, medie,
+              u"Il nome della nazione è troppo lungo: al massimo 19 caratteri."_s},
+             {u"ROMA"_s, u"I"_s, std::nullopt, medie, data},
+             {u"ROMA"_s, u"I"_s, NumeroDelGiorno({31, 12, 1900}), medie, data},
+             {u"ROMA"_s, u"I"_s, NumeroDelGiorno({1, 1, 2100}), medie, data},
+             {u"ROMA"_s,
+              u"I"_s,
+              giorno,
+              {1, 200, 0, 30},
+              u"La velocità media su Principale dev'essere da 1 a 200 km/h."_s},
+             {u"ROMA"_s,
+              u"I"_s,
+              giorno,
+              {201, 65, 50, 0},
+              u"La velocità media su Autostrada dev'essere da 1 a 200 km/h."_s},
+         }) {
+        Meta meta{{}, caso.localita, caso.nazione, caso.data, {}, {}, 0, {}};
+        meta.parametri.mediaKm = caso.medie;
+        EXPECT_EQ(prova::MessaggioDi([&] { InserisciMeta(archive_, meta); }), caso.messaggio);
+        EXPECT_EQ(prova::MessaggioDi([&] { DecidiSalvataggio(archive_, meta); }), caso.messaggio);
+        EXPECT_EQ(prova::MessaggioDi([&] { SalvaMeta(archive_, meta, {true, u"000001"_s}); }), caso.messaggio);
+        if (caso.medie == medie) continue;
+        EXPECT_EQ(prova::MessaggioDi([&] { MemorizzaVariabiliMeta(archive_, meta.parametri); }), caso.messaggio);
+    }
+    EXPECT_EQ(archive_.Count(Table::MeteVandro) + archive_.Count(Table::MetaCorrente), 0);
+    EXPECT_EQ(archive_.Count(Table::Parametri), 0);
 }
 
 TEST_F(MeteTest, PersonalDefaultsAreKeptAndCanBeReset) {
