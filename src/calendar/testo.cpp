@@ -34,7 +34,7 @@ QString PrimoMaiuscolo(QStringView testo) {
     QString risultato = maiuscolo;
     for (qsizetype i = 1; i < maiuscolo.size(); ++i) {
         const QChar precedente = maiuscolo.at(i - 1);
-        if (precedente >= u'A' && precedente <= u'Z') risultato[i] = maiuscolo.at(i).toLower();
+        if (precedente.isLetter() || precedente.isMark()) risultato[i] = maiuscolo.at(i).toLower();
     }
     return risultato;
 }

@@ -19,7 +19,8 @@ QString AggStr(QStringView testo, int lunghezza, QChar riempimento);
 /// Pads on the left: the last `lunghezza` characters of fill characters followed by the text.
 QString AntStr(QStringView testo, int lunghezza, QChar riempimento);
 
-/// Title case: a letter that follows one of A-Z becomes small, every other one capital ("SANT'ANNA" is "Sant'Anna").
+/// Title case: a letter that follows a letter of any alphabet becomes small, every other one capital: "SANT'ANNA" is
+/// "Sant'Anna", "NÎMES-2A" is "Nîmes-2A".
 QString PrimoMaiuscolo(QStringView testo);
 
 /// The text as a name pattern: each ' " = \ > < becomes the one-character wildcard "?".

@@ -47,9 +47,10 @@ struct LimiteRitorno {
 /// A row of the schedule. What does not belong to its kind is empty or 0.
 struct RigaCronovia {
     GenereRiga genere = GenereRiga::Marcia;
-    bool verso = false;       ///< the leg goes on after this piece
-    bool riposoDopo = false;  ///< whole rest days follow
-    bool fineGiorno = false;  ///< the stop lasts until the day's end
+    bool verso = false;         ///< the leg goes on after this piece
+    bool riposoDopo = false;    ///< whole rest days follow, spent here; never on a guide entry
+    bool fineGiorno = false;    ///< the stop lasts until the day's end
+    bool cambiaGiorno = false;  ///< a night or a change of day falls in it, or right behind it
     Eventi eventi;
     Motivo motivo = Motivo::Nessuno;
     int tappa = 0;  ///< position of the stage in the calculation table

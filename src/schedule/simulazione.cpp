@@ -105,6 +105,7 @@ class Simulazione {
         riga.ora = orologio_.ora;
         Annota(GenereFascia::Guida, inizio);
         PastiENotte(riga.eventi);
+        riga.cambiaGiorno = orologio_.data > riga.data;
         riga.eventi.riposo = Riposi();
         passata_.fine = {orologio_.data, riga.ora, orologio_.data - richiesta_.dataPartenza + 1};
         return pezzo.km;
@@ -141,7 +142,9 @@ class Simulazione {
         passata_.rinvii.push_back({GenereRinvio::GiorniDiRiposo, orologio_.data, tappa, {}, p_.riposoGiorno});
         orologio_.data += p_.riposoGiorno;
         orologio_.ultimoRiposo = orologio_.data;
-        if (!passata_.righe.empty()) passata_.righe.back().riposoDopo = true;
+        const auto qui = std::find_if(passata_.righe.rbegin(), passata_.righe.rend(),
+                                      [](const RigaCronovia& riga) { return riga.genere != GenereRiga::Guida; });
+        if (qui != passata_.righe.rend()) qui->riposoDopo = true;
     }
 
     void PastiENotte(Eventi& eventi) {
@@ -172,6 +175,7 @@ class Simulazione {
                                          [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
         if (ultima != passata_.righe.rend()) {
             ultima->eventi.notteTardiva = true;
+            ultima->cambiaGiorno = true;
             const Centesimi ritardo = orologio_.ora - p_.oraNotte;
             passata_.rinvii.push_back({GenereRinvio::NotteTardiva, orologio_.data, ultima->tappa, ritardo, 0});
         }
@@ -200,12 +204,14 @@ class Simulazione {
             {sosta, tabella.fineGiorno, tabella.tappa.Traghetto(), richiesta_.fattoreSoste}, orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
         AnnotaSosta(esito, indice);
+        const bool cambiaGiorno = esito.orologio.data > orologio_.data;
         orologio_ = esito.orologio;
         orologio_.inizioGuida = orologio_.ora;
         sosta = esito.sosta;
         RigaCronovia& riga = NuovaRiga(GenereRiga::Sosta, indice);
         riga.sosta = prevista;
         riga.fineGiorno = tabella.fineGiorno;
+        riga.cambiaGiorno = cambiaGiorno;
         riga.motivo = esito.motivo;
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;

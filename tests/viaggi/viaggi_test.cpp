@@ -82,6 +82,25 @@ void Coerenti(const std::vector<Giornata>& giornate, const Cronovia& cronovia) {
     }
 }
 
+// Where the date changes a row says so: the one in which it does, or the one before, behind which the night falls.
+void SegnanoIGiorni(const Cronovia& cronovia, NumeroGiorno partenza) {
+    const RigaCronovia* prima = nullptr;
+    bool segnato = false;  // since the last row with a moment, that one included
+    for (const RigaCronovia& riga : cronovia.righe) {
+        EXPECT_FALSE(riga.genere == GenereRiga::Guida && (riga.riposoDopo || riga.cambiaGiorno));
+        if (!ConMomento(riga.genere)) {
+            segnato = segnato || riga.riposoDopo;
+            continue;
+        }
+        const NumeroGiorno ieri = prima != nullptr ? prima->data : partenza;
+        const bool cambia = ieri < riga.data;
+        EXPECT_TRUE(!cambia || prima == nullptr || segnato || riga.cambiaGiorno) << riga.tappa;
+        EXPECT_TRUE(cambia || !riga.cambiaGiorno || riga.genere != GenereRiga::Sosta || riga.eventi.notteTardiva);
+        segnato = riga.cambiaGiorno || riga.riposoDopo;
+        prima = &riga;
+    }
+}
+
 class Viaggi : public testing::Test {
   protected:
     // The archive holds the trip of one file at a time.
@@ -112,6 +131,7 @@ class Viaggi : public testing::Test {
         const EsitoCalcolo esito = sessione_.Calcola(aperta, {}, progress_);
         const Cronovia& cronovia = *esito.cronovia;
         Coerenti(Giornate(cronovia, *aperta.meta.dataInizio), cronovia);
+        SegnanoIGiorni(cronovia, *aperta.meta.dataInizio);
         for (const RigaGriglia& riga : TestiDellaCronovia(cronovia)) testo += Riga(riga);
         testo += RigaTotali(Testi(cronovia.totali, cronovia.orario.GuidaGiorno()));
         return testo + u"fine\t"_s + Riga(TestiFine(cronovia)) +

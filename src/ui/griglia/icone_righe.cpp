@@ -33,8 +33,16 @@ void DisegnaTazza(QPainter& p) {
     tazza.closeSubpath();
     p.drawPath(tazza);
     p.drawArc(QRectF(9.5, 7, 4, 4), 90 * 16, -180 * 16);
-    p.drawLine(QPointF(5.5, 2), QPointF(5.5, 4));
-    p.drawLine(QPointF(8.5, 2), QPointF(8.5, 4));
+}
+
+// The days of rest begin with a night.
+void DisegnaRiposo(QPainter& p) {
+    DisegnaTazza(p);
+    p.save();
+    p.translate(8, -1);
+    p.scale(0.5, 0.5);
+    DisegnaLuna(p);
+    p.restore();
 }
 
 void DisegnaBandiera(QPainter& p) {
@@ -59,7 +67,7 @@ void Disegna(Segno segno, QPainter& p) {
         case Segno::Pasto:
             return DisegnaPiatto(p);
         case Segno::Riposo:
-            return DisegnaTazza(p);
+            return DisegnaRiposo(p);
         case Segno::Sosta:
             return DisegnaBandiera(p);
         case Segno::Guida:

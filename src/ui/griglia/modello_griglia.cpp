@@ -26,8 +26,6 @@ Qt::Alignment AllineamentoColonna(Colonna colonna) {
 }
 
 Segno SegnoDelTratto(const RigaCronovia& riga) {
-    if (riga.riposoDopo) return Segno::Riposo;
-    if (riga.eventi.notte || riga.eventi.notteTardiva) return Segno::FineGiorno;
     return riga.eventi.pranzo || riga.eventi.cena ? Segno::Pasto : Segno::Nessuno;
 }
 
@@ -101,11 +99,12 @@ Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
     }
     const RigaCronovia& dati = cronovia_->righe[indice];
     if (dati.riposoDopo) return Segno::Riposo;
+    if (dati.cambiaGiorno) return Segno::FineGiorno;
     switch (dati.genere) {
         case GenereRiga::Guida:
             return Segno::Guida;
         case GenereRiga::Sosta:
-            return dati.fineGiorno || dati.eventi.notteTardiva ? Segno::FineGiorno : Segno::Sosta;
+            return Segno::Sosta;
         default:
             return SegnoDelTratto(dati);
     }

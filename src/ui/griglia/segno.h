@@ -6,7 +6,7 @@ namespace cronovia {
 /// What makes a row different at a glance.
 enum class Segno {
     Nessuno,
-    FineGiorno,  ///< the day ends here, or the night begins
+    FineGiorno,  ///< a night or a change of day falls in the row or right behind it
     Pasto,
     Riposo,  ///< whole rest days follow
     Sosta,
