@@ -51,10 +51,8 @@ QString DataMemorizzata(NumeroGiorno giorno) { return TestoGma(GmaDelGiorno(gior
 
 QString TestoData(NumeroGiorno giorno) {
     const Gma gma = GmaDelGiorno(giorno);
-    return Zero(gma.giorno, 2) + u'/' + Zero(gma.mese, 2) + u'/' + Zero(gma.anno, 4);
+    return ConNumeri(u"00/00/0000", {gma.giorno, gma.mese, gma.anno});
 }
-
-QString TestoGiornoMese(NumeroGiorno giorno) { return TestoData(giorno).left(5); }
 
 int GiorniMese(int anno, int mese) {
     switch (mese) {

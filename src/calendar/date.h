@@ -51,7 +51,6 @@ Gma GmaDelGiorno(NumeroGiorno giorno);
 
 QString DataMemorizzata(NumeroGiorno giorno);  ///< the day as ddmmyyyy
 QString TestoData(NumeroGiorno giorno);        ///< the day as dd/mm/yyyy
-QString TestoGiornoMese(NumeroGiorno giorno);  ///< the day as dd/mm
 
 /// Days in a month, after the Gregorian rule; 28 for a month that does not exist.
 int GiorniMese(int anno, int mese);

@@ -20,10 +20,12 @@ Durata LeggiDurata(QStringView testo) {
 
 QString Testo(const Durata& durata) {
     if (durata.Nulla()) return {};
-    return Zero(durata.giorni, 2) + u':' + Zero(durata.ore, 2) + u':' + Zero(durata.minuti, 2);
+    return ConNumeri(u"00:00:00", {durata.giorni, durata.ore, durata.minuti});
 }
 
-QString TestoOre(const Durata& durata) { return Testo(durata).mid(3); }
+QString TestoOre(const Durata& durata) {
+    return durata.Nulla() ? QString() : ConNumeri(u"00:00", {durata.ore, durata.minuti});
+}
 
 Centesimi InCentesimi(const Durata& durata, Centesimi giorno) {
     return Centesimi(durata.ore * 100.0 + durata.giorni * double{giorno.Valore()} + MinutiInCentesimi(durata.minuti));

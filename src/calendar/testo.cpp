@@ -9,16 +9,36 @@ namespace {
 
 constexpr std::int64_t kMassimo = std::numeric_limits<int>::max();
 
+void ScriviCifre(int valore, QChar* inizio, QChar* fine) {
+    for (; fine != inizio; valore /= 10) *--fine = QChar(u'0' + valore % 10);
+}
+
 }  // namespace
 
 bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 
 QString Zero(int valore, int lunghezza) {
     if (valore < 0) return AntStr(QString::number(valore), lunghezza, u'0');
-    QString cifre(lunghezza, u'0');
-    QChar* cifra = cifre.data() + lunghezza;
-    for (; valore > 0 && cifra != cifre.data(); valore /= 10) *--cifra = QChar(u'0' + valore % 10);
+    QString cifre(lunghezza, Qt::Uninitialized);
+    ScriviCifre(valore, cifre.begin(), cifre.end());
     return cifre;
+}
+
+QString ConNumeri(QStringView forma, std::initializer_list<int> numeri) {
+    QString testo = forma.toString();
+    QChar* inizio = testo.begin();
+    for (const int numero : numeri) {
+        inizio = std::find(inizio, testo.end(), u'0');
+        QChar* fine = std::find_if(inizio, testo.end(), [](QChar c) { return c != u'0'; });
+        if (numero < 0) {
+            const QString cifre = Zero(numero, static_cast<int>(fine - inizio));
+            std::copy(cifre.begin(), cifre.end(), inizio);
+        } else {
+            ScriviCifre(numero, inizio, fine);
+        }
+        inizio = fine;
+    }
+    return testo;
 }
 
 QString AggStr(QStringView testo, int lunghezza, QChar riempimento) {
@@ -26,7 +46,10 @@ QString AggStr(QStringView testo, int lunghezza, QChar riempimento) {
 }
 
 QString AntStr(QStringView testo, int lunghezza, QChar riempimento) {
-    return (QString(lunghezza, riempimento) + testo.toString()).right(lunghezza);
+    QString pieno(lunghezza, riempimento);
+    const QStringView fine = testo.last(std::min<qsizetype>(testo.size(), lunghezza));
+    std::copy(fine.begin(), fine.end(), pieno.end() - fine.size());
+    return pieno;
 }
 
 QString PrimoMaiuscolo(QStringView testo) {

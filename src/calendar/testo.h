@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringView>
 #include <cstdint>
+#include <initializer_list>
 
 namespace cronovia {
 
@@ -12,6 +13,9 @@ bool Cifra(QChar c);
 
 /// The last `lunghezza` digits of `valore`, filled on the left with zeros: 7 with 2 is "07", 123 with 2 is "23".
 QString Zero(int valore, int lunghezza);
+
+/// The form with numbers in the places of its runs of "0", each as `Zero` writes it: "00:00" with 7 and 5 is "07:05".
+QString ConNumeri(QStringView forma, std::initializer_list<int> numeri);
 
 /// Pads on the right: the first `lunghezza` characters of the text followed by fill characters.
 QString AggStr(QStringView testo, int lunghezza, QChar riempimento);

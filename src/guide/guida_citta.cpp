@@ -75,7 +75,7 @@ VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi
             LeggiTempoVisita(record[guida::TempoSosta])};
 }
 
-QString TestoTempoVisita(const Durata& tempo) { return Zero(tempo.ore, 2) + u':' + Zero(tempo.minuti, 2); }
+QString TestoTempoVisita(const Durata& tempo) { return ConNumeri(u"00:00", {tempo.ore, tempo.minuti}); }
 
 std::vector<TipoGuida> CaricaTipiGuida(Archive& archive) {
     std::vector<TipoGuida> tipi;

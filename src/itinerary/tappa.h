@@ -21,7 +21,7 @@ struct Tappa {
     bool fineGiorno = false;         ///< the day ends here
     Durata guida;                    ///< visit times of the guide at this stage; days as in `sosta`
 
-    [[nodiscard]] bool Traghetto() const { return numStrada.contains(QLatin1String("TRAGH")); }
+    [[nodiscard]] bool Traghetto() const { return numStrada.contains(QStringView(u"TRAGH")); }
     [[nodiscard]] TipoStrada TipoEffettivo() const { return tipo.value_or(TipoStrada::Locale); }
     /// Nothing is planned here, neither a stop nor the day's end.
     [[nodiscard]] bool SenzaSosta() const { return sosta.Nulla() && !fineGiorno; }

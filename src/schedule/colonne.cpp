@@ -66,9 +66,10 @@ QString TestoMotivo(Motivo motivo) {
 }
 
 QString TestoLimite(const LimiteRitorno& limite) {
-    const QString ora = TestoOrologio(limite.ora);
-    return (limite.prosecuzione ? u">"_s : u"<"_s) + TestoGiornoMese(limite.data) + u'-' +
-           (ora.isEmpty() ? u"00:00"_s : ora);
+    const Gma gma = GmaDelGiorno(limite.data);
+    const Durata ora = InDurata(limite.ora, kGiornoOrologio);
+    return ConNumeri(limite.prosecuzione ? u">00/00-00:00" : u"<00/00-00:00",
+                     {gma.giorno, gma.mese, ora.ore, ora.minuti});
 }
 
 void ScriviMomento(const RigaCronovia& riga, RigaGriglia& testi) {

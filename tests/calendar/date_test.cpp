@@ -28,7 +28,6 @@ TEST(Date, EveryDayFrom1901To2099IsConsecutiveAndComesBack) {
     }
     EXPECT_EQ(NumeroDelGiorno(Gma{5, 8, 2004}).Numero(), 731813);
     EXPECT_EQ(TestoData(NumeroGiorno(731813)), u"05/08/2004"_s);
-    EXPECT_EQ(TestoGiornoMese(NumeroGiorno(731813)), u"05/08"_s);
     EXPECT_EQ(GiornoSettimana(u"05082004"), u"Gio"_s);
 }
 

@@ -32,6 +32,7 @@ TEST(Testo, NumbersAreReadAndWritten) {
     for (const QString& atteso : {u"0"_s, u"999"_s, u"1.000"_s, u"1.234.567"_s, u"-999"_s, u"-1.000"_s}) {
         EXPECT_EQ(Raggruppa(QString(atteso).remove(u'.').toLongLong()), atteso);
     }
+    EXPECT_EQ(ConNumeri(u"<00/00-0000>", {7, 123, -5}), u"<07/23-00-5>"_s);
 }
 
 }  // namespace
