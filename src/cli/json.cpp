@@ -7,34 +7,37 @@ namespace cronovia {
 
 namespace {
 
-constexpr int kRientro = 4;
-constexpr qsizetype kBlocco = 8 * 1024;
-
-QChar Esadecimale(unsigned int cifra) { return QChar(cifra < 10 ? u'0' + cifra : u'a' + cifra - 10); }
+constexpr std::size_t kRientro = 4;
+constexpr std::size_t kBlocco = 8 * 1024;
 
 // What may stand in a text only under another name; surrogates are looked at in their pairs elsewhere.
 bool DaNascondere(char16_t c) { return c < 0x20 || c == u'"' || c == u'\\' || QChar::isSurrogate(c); }
 
-void Nascondi(char16_t c, QString& testo) {
-    constexpr QStringView kCaratteri = u"\"\\\b\f\n\r\t";
-    constexpr QStringView kNomi = u"\"\\bfnrt";
+void Nascondi(char16_t c, std::u16string& testo) {
+    constexpr std::u16string_view kCaratteri = u"\"\\\b\f\n\r\t";
+    constexpr std::u16string_view kNomi = u"\"\\bfnrt";
     testo += u'\\';
-    if (const qsizetype posto = kCaratteri.indexOf(c); posto >= 0) {
+    if (const std::size_t posto = kCaratteri.find(c); posto != kCaratteri.npos) {
         testo += kNomi[posto];
         return;
     }
     testo += u'u';
-    for (const int bit : {12, 8, 4, 0}) testo += Esadecimale((c >> bit) & 0xFU);
+    for (const int bit : {12, 8, 4, 0}) testo += u"0123456789abcdef"[(c >> bit) & 0xF];
 }
+
+std::u16string_view Caratteri(QStringView testo) { return {testo.utf16(), static_cast<std::size_t>(testo.size())}; }
 
 }  // namespace
 
-ScrittoreJson::~ScrittoreJson() { uscita_ << scritto_ << '\n'; }
+ScrittoreJson::~ScrittoreJson() {
+    scritto_ += u'\n';
+    Consegna();
+}
 
 void ScrittoreJson::Nome(QStringView nome) {
     Posto();
     FraVirgolette(nome);
-    scritto_ += QStringView(u": ");
+    scritto_ += u": ";
     dopoNome_ = true;
 }
 
@@ -45,7 +48,7 @@ void ScrittoreJson::Testo(QStringView testo) {
 
 void ScrittoreJson::Numero(int numero) {
     Posto();
-    scritto_ += QString::number(numero);
+    scritto_ += Caratteri(QString::number(numero));
 }
 
 void ScrittoreJson::Testi(std::span<const QString> testi) {
@@ -54,7 +57,7 @@ void ScrittoreJson::Testi(std::span<const QString> testi) {
     ChiudeArray();
 }
 
-void ScrittoreJson::Apre(QChar parentesi) {
+void ScrittoreJson::Apre(char16_t parentesi) {
     Posto();
     scritto_ += parentesi;
     scritto_ += u'\n';
@@ -62,15 +65,13 @@ void ScrittoreJson::Apre(QChar parentesi) {
     primo_ = true;
 }
 
-void ScrittoreJson::Chiude(QChar parentesi) {
+void ScrittoreJson::Chiude(char16_t parentesi) {
     rientro_ -= kRientro;
     if (!primo_) scritto_ += u'\n';
-    scritto_.resize(scritto_.size() + rientro_, u' ');
+    scritto_.append(rientro_, u' ');
     scritto_ += parentesi;
     primo_ = false;
-    if (scritto_.size() < kBlocco) return;
-    uscita_ << scritto_;
-    scritto_.resize(0);
+    if (scritto_.size() >= kBlocco) Consegna();
 }
 
 // The place of the next value: behind its name, else on a line of its own.
@@ -79,28 +80,34 @@ void ScrittoreJson::Posto() {
         dopoNome_ = false;
         return;
     }
-    if (!primo_) scritto_ += QStringView(u",\n");
-    scritto_.resize(scritto_.size() + rientro_, u' ');
+    if (!primo_) scritto_ += u",\n";
+    scritto_.append(rientro_, u' ');
     primo_ = false;
 }
 
-void ScrittoreJson::FraVirgolette(QStringView testo) {
+void ScrittoreJson::FraVirgolette(QStringView valore) {
+    const std::u16string_view testo = Caratteri(valore);
     scritto_ += u'"';
-    qsizetype inizio = 0;
-    for (qsizetype i = 0; i < testo.size(); ++i) {
-        const char16_t c = testo[i].unicode();
+    std::size_t inizio = 0;
+    for (std::size_t i = 0; i < testo.size(); ++i) {
+        const char16_t c = testo[i];
         if (!DaNascondere(c)) continue;
-        const bool coppia = QChar::isHighSurrogate(c) && i + 1 < testo.size() && testo[i + 1].isLowSurrogate();
+        const bool coppia = QChar::isHighSurrogate(c) && i + 1 < testo.size() && QChar::isLowSurrogate(testo[i + 1]);
         if (coppia) {
             ++i;
             continue;
         }
-        scritto_ += testo.sliced(inizio, i - inizio);
+        scritto_ += testo.substr(inizio, i - inizio);
         Nascondi(c, scritto_);
         inizio = i + 1;
     }
-    scritto_ += testo.sliced(inizio);
+    scritto_ += testo.substr(inizio);
     scritto_ += u'"';
+}
+
+void ScrittoreJson::Consegna() {
+    uscita_ << QStringView(scritto_);
+    scritto_.clear();
 }
 
 void ScriviRecord(Table tabella, const std::vector<Record>& record, ScrittoreJson& json) {

@@ -5,6 +5,7 @@
 #include <QStringView>
 #include <QTextStream>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "itinerary/riepilogo.h"
@@ -35,14 +36,15 @@ class ScrittoreJson {
     void Testi(std::span<const QString> testi);
 
   private:
-    void Apre(QChar parentesi);
-    void Chiude(QChar parentesi);
+    void Apre(char16_t parentesi);
+    void Chiude(char16_t parentesi);
     void Posto();
     void FraVirgolette(QStringView testo);
+    void Consegna();
 
     QTextStream& uscita_;
-    QString scritto_;
-    int rientro_ = 0;
+    std::u16string scritto_;
+    std::size_t rientro_ = 0;
     bool primo_ = true;      // of its array or object
     bool dopoNome_ = false;  // a value on the line of its name
 };
