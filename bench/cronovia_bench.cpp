@@ -93,7 +93,9 @@ void CaricaItinerario(benchmark::State& state) {
     MemorizzaTappeItinerario(archivio.archive, meta.codice, TappeGenerate(1'000), OrarioCorretto(meta.parametri),
                              archivio.progress);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(CaricaTappeItinerario(archivio.archive, meta.codice, OrarioCorretto(meta.parametri)));
+        LettoreGuida guida(archivio.archive);
+        benchmark::DoNotOptimize(
+            CaricaTappeItinerario(archivio.archive, meta.codice, OrarioCorretto(meta.parametri), guida));
     }
 }
 BENCHMARK(CaricaItinerario)->Unit(benchmark::kMillisecond);

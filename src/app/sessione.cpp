@@ -32,32 +32,43 @@ Sessione::Sessione(const QString& cartella) : cartella_(cartella), archive_(Arch
 }
 
 MetaAperta Sessione::ApriMeta(const QString& codice) {
-    const QString completo = CodiceCompleto(codice);
     const ReadSnapshot momento(archive_);
+    LettoreGuida guida(archive_);
+    return ApriMeta(codice, guida);
+}
+
+MetaAperta Sessione::ApriMeta(const QString& codice, LettoreGuida& guida) {
+    const QString completo = CodiceCompleto(codice);
     std::optional<Meta> meta = CaricaDatiAnagraficiMeta(archive_, completo);
     if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
     aperta.meta = std::move(*meta);
     const OrarioCorretto orario(aperta.meta.parametri);
-    aperta.tappe = CaricaTappeItinerario(archive_, completo, orario);
+    aperta.tappe = CaricaTappeItinerario(archive_, completo, orario, guida);
     aperta.riepilogo = CalcolaKmTempiItinerario(aperta.tappe, orario, aperta.meta.giorniAdeguamento);
     aperta.meta.giorniAdeguamento = aperta.riepilogo.giorniAdeguamento;
     return aperta;
 }
 
 EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress) {
+    const ReadSnapshot momento(archive_);
+    LettoreGuida guida(archive_);
+    return Calcola(aperta, opzioni, guida, progress);
+}
+
+EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, LettoreGuida& guida,
+                               Progress& progress) {
     Meta meta = aperta.meta;
     meta.giorniAdeguamento = opzioni.giorni.value_or(meta.giorniAdeguamento);
     meta.parametri.calcoloSoste = opzioni.soste.value_or(meta.parametri.calcoloSoste);
-    const ReadSnapshot momento(archive_);
-    LettoreGuida guida(archive_);
     return CalcolaCronovia(meta, aperta.tappe, guida, progress);
 }
 
 MetaCalcolata Sessione::ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress) {
     const ReadSnapshot momento(archive_);
-    MetaAperta aperta = ApriMeta(codice);
-    EsitoCalcolo esito = Calcola(aperta, opzioni, progress);
+    LettoreGuida guida(archive_);
+    MetaAperta aperta = ApriMeta(codice, guida);
+    EsitoCalcolo esito = Calcola(aperta, opzioni, guida, progress);
     return {std::move(aperta), std::move(esito)};
 }
 

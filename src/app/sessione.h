@@ -59,6 +59,10 @@ class Sessione {
     QString NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio);
 
   private:
+    MetaAperta ApriMeta(const QString& codice, LettoreGuida& guida);
+    static EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, LettoreGuida& guida,
+                                Progress& progress);
+
     QString cartella_;
     Archive archive_;
 };

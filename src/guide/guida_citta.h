@@ -59,8 +59,8 @@ QString TestoTempoVisita(const Durata& tempo);
 /// The entries of many localities, each as `LettoreGuida::Voci` finds them, with no more queries than for one.
 std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita);
 
-/// Reads the guide on behalf of one computation: each locality is looked up once, and the visit time of each entry is
-/// handed out once, to the first stage that asks for it.
+/// Reads the guide on behalf of computations on one moment of it: each locality is looked up once, and each computation
+/// gets the visit time of an entry once, at the first stage that asks for it.
 class LettoreGuida {
   public:
     /// Reads the types now, the entries when they are asked for.
@@ -71,6 +71,9 @@ class LettoreGuida {
 
     /// The entries of all localities that the name, taken as a pattern, matches; by type code, then description.
     std::shared_ptr<const VociGuida> Voci(const QString& localita);
+
+    /// A computation begins: no visit time counts as handed out.
+    void Ricomincia() { contate_.clear(); }
 
     /// Sum of the visit times of the locality's entries that were not handed out yet.
     Centesimi PrendiTempoVisite(const QString& localita);

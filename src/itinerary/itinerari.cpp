@@ -33,6 +33,16 @@ std::int64_t RecordNecessari(std::span<const Tappa> tappe) {
 // Empty values are stored as one blank, as every installation does.
 QString ConBlank(const QString& testo, itinerari::Field campo) { return (testo + u' ').left(Larghezza(campo)); }
 
+void MettiVisite(LettoreGuida& guida, std::span<Tappa> tappe, const OrarioCorretto& orario) {
+    guida.Anticipa(LocalitaDelleTappe(tappe));
+    guida.Ricomincia();
+    for (Tappa& tappa : tappe) {
+        tappa.guida = tappa.localita.isEmpty()
+                          ? Durata()
+                          : InDurata(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
+    }
+}
+
 // The rows of one stage; `sequenza` counts on.
 void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& tappa, const QString& soggiornoGuida,
                     int& sequenza) {
@@ -61,7 +71,8 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
     return archive.Select({Table::Itinerari, {DellaMeta(codiceMeta)}}, {itinerari::Sequenza});
 }
 
-std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario) {
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario,
+                                         LettoreGuida& guida) {
     const ReadSnapshot momento(archive);
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
@@ -75,19 +86,14 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
         tappe.push_back(std::move(tappa));
     }
-    RicalcolaVisite(archive, tappe, orario);
+    MettiVisite(guida, tappe, orario);
     return tappe;
 }
 
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario) {
     const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
-    guida.Anticipa(LocalitaDelleTappe(tappe));
-    for (Tappa& tappa : tappe) {
-        tappa.guida = tappa.localita.isEmpty()
-                          ? Durata()
-                          : InDurata(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
-    }
+    MettiVisite(guida, tappe, orario);
 }
 
 std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe, const OrarioCorretto& orario,

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "guide/guida_citta.h"
 #include "interaction/progress.h"
 #include "itinerary/tappa.h"
 #include "store/archive.h"
@@ -15,8 +16,9 @@ namespace cronovia {
 /// The rows of a trip's itinerary in travel order, as they are stored.
 std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta);
 
-/// The stages of a trip in travel order. The guide's visit times stand at the first stage of their locality.
-std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario);
+/// The stages of a trip in travel order. `guida`'s visit times stand at the first stage of their locality.
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario,
+                                         LettoreGuida& guida);
 
 /// Puts the guide's visit times anew, after stages changed; a locality that occurs again gets none there.
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario);

@@ -47,6 +47,7 @@ TabellaCalcolo PreparaTabellaPerCalcoloCronovia(std::span<const Tappa> tappe, co
     TabellaCalcolo tabella;
     tabella.righe.reserve(tappe.size());
     guida.Anticipa(LocalitaDelleTappe(tappe));
+    guida.Ricomincia();
     for (const Tappa& tappa : tappe) {
         if (tappa.localita.isEmpty()) continue;
         RigaCalcolo riga;

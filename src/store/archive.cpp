@@ -3,8 +3,6 @@
 #include <SQLiteCpp/Exception.h>
 
 #include <QHash>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <algorithm>
 #include <iterator>
 #include <tuple>
@@ -92,14 +90,14 @@ void BindValues(SQLite::Statement& statement, const TableDefinition& table, std:
 
 // A stretch of the keys' order, both ends included, and the patterns that may match what lies in it.
 struct Stretch {
-    QByteArray from;
-    QByteArray to;
+    std::string from;
+    std::string to;
     std::vector<std::size_t> patterns;
 };
 
 // The text as the order of the keys sees it.
-QByteArray OrderKey(const QString& text) {
-    QByteArray key = text.toUtf8();
+std::string OrderKey(const QString& text) {
+    std::string key = text.toStdString();
     for (char& c : key) {
         if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 'a' - 'A');
     }
@@ -111,7 +109,9 @@ std::vector<Stretch> StretchesOf(std::span<const NamePattern> patterns) {
     std::vector<Stretch> all;
     for (std::size_t i = 0; i < patterns.size(); ++i) {
         for (const NamePattern::Range& range : patterns[i].Ranges()) {
-            all.push_back({OrderKey(range.from), OrderKey(range.single ? range.from : range.to), {i}});
+            std::string from = OrderKey(range.from);
+            std::string to = range.single ? from : OrderKey(range.to);
+            all.push_back({std::move(from), std::move(to), {i}});
         }
     }
     std::sort(all.begin(), all.end(), [](const Stretch& a, const Stretch& b) { return a.from < b.from; });
@@ -130,13 +130,6 @@ std::vector<Stretch> StretchesOf(std::span<const NamePattern> patterns) {
         stretch.patterns.erase(std::unique(stretch.patterns.begin(), stretch.patterns.end()), stretch.patterns.end());
     }
     return merged;
-}
-
-// Pairs of texts.
-QString AsJson(const std::vector<Stretch>& stretches) {
-    QJsonArray all;
-    for (const Stretch& s : stretches) all.append(QJsonArray{QString::fromUtf8(s.from), QString::fromUtf8(s.to)});
-    return QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact));
 }
 
 // Which of the patterns match a text, remembered: many rows have the same.
@@ -247,22 +240,20 @@ void Archive::ForEachMatch(Table table, int field, std::span<const NamePattern> 
         if (!matching.empty()) visit(matching.front(), std::move(record));
     };
     const std::vector<Stretch> stretches = StretchesOf(patterns);
+    const ReadSnapshot moment(*this);
     Guarded(connection_->Path(), [&] {
-        // Taken apart once: each row found would do it again.
-        SQLite::Statement& statement = connection_->Prepared(
-            "WITH stretch AS MATERIALIZED"
-            " (SELECT key AS place, value ->> 0 AS first, value ->> 1 AS last FROM json_each(?1)) SELECT " +
-            Name(definition.name) + ".rowid, " + ColumnNames(definition) + ", place FROM stretch CROSS JOIN " +
-            Name(definition.name) + " WHERE " + column + " BETWEEN first AND last");
-        BindText(statement, 1, AsJson(stretches));
+        SQLite::Statement& statement =
+            connection_->Prepared(SelectSql(table) + " WHERE " + column + " BETWEEN ?1 AND ?2");
         Matcher matcher(patterns);
-        const auto place = static_cast<int>(definition.fields.size()) + 1;
-        while (statement.executeStep()) {
-            Record record = ReadRecord(statement, definition.fields.size());
-            const Stretch& stretch = stretches[static_cast<std::size_t>(statement.getColumn(place).getInt64())];
-            hand(matcher.Matching(record[field], stretch.patterns), std::move(record));
+        for (const Stretch& stretch : stretches) {
+            statement.bindNoCopy(1, stretch.from);
+            statement.bindNoCopy(2, stretch.to);
+            while (statement.executeStep()) {
+                Record record = ReadRecord(statement, definition.fields.size());
+                hand(matcher.Matching(record[field], stretch.patterns), std::move(record));
+            }
+            statement.reset();
         }
-        statement.reset();
     });
     std::vector<std::size_t> anywhere;  // patterns without a literal beginning
     for (std::size_t i = 0; i < patterns.size(); ++i) {

@@ -77,7 +77,7 @@ class Archive {
     void ForEach(Table table, const std::function<void(const Record&)>& visit);
 
     /// Hands over the rows whose field matches one of many patterns, with the place of that pattern in the list; a row
-    /// comes once for each that it matches, in no order. Two queries, however many patterns there are.
+    /// comes once for each that it matches, in no order. All of it is from one moment of the archive.
     void ForEachMatch(Table table, int field, std::span<const NamePattern> patterns,
                       const std::function<void(std::size_t, Record&&)>& visit);
 

@@ -44,6 +44,7 @@ QString Text(const std::u32string& characters) {
 
 NamePattern::NamePattern(QStringView pattern) {
     const QList<uint> characters = pattern.toUcs4();
+    elements_.reserve(static_cast<std::size_t>(characters.size()));
     for (qsizetype i = 0; i < characters.size(); ++i) {
         Element element;
         const char32_t c = characters.at(i);
@@ -164,7 +165,11 @@ std::vector<NamePattern::Range> NamePattern::Ranges() const {
     std::size_t used = 0;
     for (; used < elements_.size() && elements_[used].kind == Kind::Literal; ++used) {
         const char32_t c = elements_[used].folded;
-        const std::u32string variants = c < 0x80 ? std::u32string(1, c) : Variants(c);
+        if (c < 0x80) {
+            for (std::u32string& prefix : prefixes) prefix += c;
+            continue;
+        }
+        const std::u32string variants = Variants(c);
         if (prefixes.size() * variants.size() > kMaxRanges) break;
         std::vector<std::u32string> longer;
         longer.reserve(prefixes.size() * variants.size());

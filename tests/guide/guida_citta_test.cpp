@@ -55,6 +55,8 @@ TEST_F(GuidaTest, EachVisitTimeIsHandedOutOnce) {
     EXPECT_EQ(guida.PrendiTempoVisite(u"ROMA"_s), 0_cent);
     EXPECT_EQ(guida.PrendiTempoVisite(u"R?MA"_s), 100_cent);  // what is left of both
     EXPECT_EQ(guida.Voci(u"ROMA"_s)->size(), 2U);             // the entries themselves stay
+    guida.Ricomincia();
+    EXPECT_EQ(guida.PrendiTempoVisite(u"ROMA"_s), Centesimi(233 + 83));
 }
 
 }  // namespace

@@ -24,7 +24,10 @@ class ItinerariTest : public prova::ConArchivio {
     EsitoMemorizzazione Memorizza(const RigheItinerario& tappe) {
         return MemorizzaTappeItinerario(archive_, u"000001"_s, tappe, {}, progress_);
     }
-    std::vector<Tappa> Carica() { return CaricaTappeItinerario(archive_, u"000001"_s, {}); }
+    std::vector<Tappa> Carica(const QString& codice = u"000001"_s) {
+        LettoreGuida guida(archive_);
+        return CaricaTappeItinerario(archive_, codice, {}, guida);
+    }
     QStringList Record() {
         QStringList righe;
         for (const auto& record : RecordDellItinerario(archive_, u"000001"_s)) {
@@ -49,7 +52,7 @@ TEST_F(ItinerariTest, ALongStageTakesSeveralRowsAndTheGuideTimesStandAtTheFirst)
     EXPECT_EQ(Carica().at(1).guida, (Durata{1, 1, 30}));  // a visiting day has nine hours
     Memorizza(Righe(u"A"_s));
     EXPECT_EQ(Record(), QStringList{u"0001|A|0| | | | |0"_s});
-    EXPECT_EQ(CaricaTappeItinerario(archive_, u"000002"_s, {}).size(), 1U);
+    EXPECT_EQ(Carica(u"000002"_s).size(), 1U);
 }
 
 TEST_F(ItinerariTest, WhatCannotBeSavedLeavesTheOldItinerary) {
