@@ -17,8 +17,7 @@ void Duplica(Postazione& p) {
     p.Prova([&] {
         CopiaPercorso percorso(p.sessione);
         const auto* inserimento = p.Su<schermata::Inserimento>();
-        p.schermata.emplace<schermata::Copia>(std::move(percorso),
-                                              inserimento ? *inserimento : schermata::Inserimento());
+        p.schermata = schermata::Copia{std::move(percorso), inserimento ? *inserimento : schermata::Inserimento()};
     });
 }
 
