@@ -101,7 +101,9 @@ def estrai(tutti, numero, caso):
         estratti += per_stanza[stanza][:5]
         resto += per_stanza[stanza][5:]
     caso.shuffle(resto)
-    return (estratti + resto)[:numero] if numero > len(estratti) else caso.sample(estratti, numero)
+    estratti = (estratti + resto)[:numero] if numero > len(estratti) else estratti
+    caso.shuffle(estratti)  # so that a run that is broken off has seen all rooms
+    return estratti[:numero]
 
 
 class Banco:
@@ -134,7 +136,7 @@ class Banco:
         lancio.write_text('#!/bin/sh\nfor ultimo; do :; done\n'
                           f'[ "$ultimo" = "$MUTATO" ] && exec "$@" -w\nexec {cache}"$@"\n')
         lancio.chmod(0o755)
-        subprocess.run(["cmake", "-S", self.albero, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+        subprocess.run(["cmake", "-S", self.albero, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
                         f"-DCMAKE_CXX_COMPILER_LAUNCHER={lancio}", "-DCRONOVIA_UNITY=OFF",
                         "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
                        + (["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold"] if shutil.which("ld.gold") else []),
@@ -277,19 +279,22 @@ def main():
         file_esito = file_esito.with_name("riprova.json")
     else:
         da_provare = estrai(list(luoghi(stanze)), scelte.numero, random.Random(scelte.seme))
-        da_provare.sort(key=lambda l: (l["stanza"], l["file"]))
     banco = Banco(scelte.cartella.resolve())
     banco.prepara()
     banco.misura()
     print("tests: " + ", ".join(f"{p} {d:.1f} s" for p, d in sorted(banco.durate.items())), flush=True)
+    signal.signal(signal.SIGTERM, signal.default_int_handler)
     esiti = []
-    for i, luogo in enumerate(da_provare, 1):
-        inizio = time.monotonic()
-        luogo["esito"] = banco.tenta(luogo)
-        esiti.append(luogo)
-        print(f"{i}/{len(da_provare)} {time.monotonic() - inizio:4.0f} s  {luogo['esito']:40} {descrivi(luogo)}", flush=True)
-        file_esito.write_text(json.dumps(esiti, ensure_ascii=False, indent=1))
-    relazione(esiti)
+    try:
+        for i, luogo in enumerate(da_provare, 1):
+            inizio = time.monotonic()
+            luogo["esito"] = banco.tenta(luogo)
+            esiti.append(luogo)
+            print(f"{i}/{len(da_provare)} {time.monotonic() - inizio:4.0f} s  {luogo['esito']:40} {descrivi(luogo)}", flush=True)
+            file_esito.write_text(json.dumps(esiti, ensure_ascii=False, indent=1))
+    except KeyboardInterrupt:
+        print("broken off")
+    relazione(sorted(esiti, key=lambda l: (l["stanza"], l["file"], l["numero"])))
 
 
 if __name__ == "__main__":

@@ -174,6 +174,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
 
     void Lascia(const QString& nome, const QString& file, const QString& atteso) {
         QWidget& su = Usabile(nome);
+        EXPECT_TRUE(form_->acceptDrops());
         QMimeData dati;
         dati.setUrls({QUrl::fromLocalFile(file)});
         QDragEnterEvent entra({5, 5}, Qt::CopyAction | Qt::MoveAction, &dati, Qt::LeftButton, Qt::NoModifier);
