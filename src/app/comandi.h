@@ -1,10 +1,13 @@
-// The commands as values: what buttons, menus, tests and help know of them.
+// The commands of the two rows of buttons as values: what buttons, keys and tests know of them.
 #pragma once
+
+#include <array>
 
 #include "app/postazione.h"
 
 namespace cronovia {
 
+/// One command, in words and as a procedure.
 struct DescrizioneComando {
     Comando comando;
     const char16_t* nome;        ///< of its controls
@@ -13,7 +16,7 @@ struct DescrizioneComando {
     /// Keys as `QKeySequence` reads them; null: Alt and the letter of the caption; empty: none, since the letter is
     /// that of another command on the same screen.
     const char16_t* tasti;
-    void (*esegui)(Postazione&);
+    void (*esegui)(Postazione&);  ///< does it; tells by itself what goes wrong
 };
 
 /// In the order of `Comando`.

@@ -11,6 +11,7 @@ void Duplica(Postazione& p);
 void SullaCopia(Postazione& p, const std::function<void(CopiaPercorso&)>& comando);
 /// Copies the stretch that was chosen, after a question; nothing before both its ends are.
 void InserisciPercorso(Postazione& p, bool conSoste);
+/// Back to the entry of stages as it was left.
 void RinunciaDuplicaItinerario(Postazione& p);
 
 }  // namespace cronovia::comandi

@@ -1,7 +1,5 @@
 #include "app/comandi_cronovia.h"
 
-#include <utility>
-
 #include "app/comandi_inserimento.h"
 
 namespace cronovia::comandi {

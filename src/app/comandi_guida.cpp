@@ -1,7 +1,5 @@
 #include "app/comandi_guida.h"
 
-#include <utility>
-
 namespace cronovia::comandi {
 
 void GuidaCitta(Postazione& p) {

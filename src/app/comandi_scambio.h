@@ -16,6 +16,7 @@ void ApriFile(Postazione& p, const QString& file);
 void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& comando);
 /// Exports or imports the trips that are chosen, after a question. No trip is open afterwards.
 void ImExp(Postazione& p);
+/// Leaves the screen with nothing done. No trip is open afterwards.
 void FineScambio(Postazione& p);
 
 /// Brings over the earlier release's data, after a question.

@@ -9,11 +9,14 @@ namespace cronovia::comandi {
 void Nuovo(Postazione& p);
 /// Opens the list of trips; tells when there is none.
 void Ricerca(Postazione& p);
+/// Opens the trip with that code, which becomes the current one; when it is gone the list stays.
 void ScegliMeta(Postazione& p, const QString& codice);
 /// What was on screen before the search is there still.
 void ChiudiElencoMete(Postazione& p);
 
+/// Saves the fields of the trip, as a new one or in its place, after a question; tells what they lack.
 void Salva(Postazione& p);
+/// Delete the trip as it is stored, with its stages; its stages alone, after two questions.
 void CancMeta(Postazione& p);
 void CancItin(Postazione& p);
 

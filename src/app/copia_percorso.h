@@ -1,7 +1,6 @@
 // What the copy screen works on: the trips to copy from, then the stages of the one that was chosen.
 #pragma once
 
-#include <QString>
 #include <array>
 #include <optional>
 #include <vector>

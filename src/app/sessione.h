@@ -1,4 +1,4 @@
-// What both faces of the program work on: the open archive and the trip that is open in it.
+// What both faces of the program work on: the open archive, and what is read and computed from it.
 #pragma once
 
 #include <QDateTime>
@@ -34,9 +34,11 @@ struct MetaCalcolata {
     EsitoCalcolo esito;
 };
 
+/// Holds no trip: who asks for one keeps it.
 class Sessione {
   public:
-    /// Opens the archive of a data folder; a new one gets the guide types and the standard parameters.
+    /// Opens the archive of a data folder; a new one gets the guide types and the standard parameters. A `Failure` when
+    /// it cannot be opened.
     explicit Sessione(const QString& cartella);
 
     Archive& Archivio() { return archive_; }

@@ -33,7 +33,7 @@ struct Abilita {
                 break;
             case Fase::Nuova:
                 Solo({Comando::Nuovo, Comando::Salva, Comando::Esce});
-                if (fatti.altreMete) Solo({Comando::Ricerca});
+                if (fatti.metaAperta) Solo({Comando::Ricerca});
                 break;
             case Fase::Aperta:
             case Fase::Lasciata:

@@ -1,14 +1,14 @@
 // Which commands can be used: facts of the document and the screen in front in, enabled commands and captions out.
 #pragma once
 
-#include <QString>
-#include <array>
 #include <bitset>
+#include <cstddef>
 
 #include "app/schermate.h"
 
 namespace cronovia {
 
+/// The commands that have a button on the trip screen or on that of the entry.
 enum class Comando {
     // The main commands.
     Nuovo,
@@ -38,7 +38,7 @@ enum class Comando {
     Trasferisce,
     AltriPacchetti
 };
-inline constexpr std::size_t kComandi = 25;
+inline constexpr std::size_t kComandi = static_cast<std::size_t>(Comando::AltriPacchetti) + 1;
 
 /// What goes on at this moment.
 enum class Attivita {
@@ -49,11 +49,12 @@ enum class Attivita {
 
 /// What the document and the moment contribute.
 struct Fatti {
-    int tappe = 0;           ///< stages of the itinerary
-    bool altreMete = false;  ///< a stored trip was open before the one that is filled in
+    int tappe = 0;            ///< stages of the itinerary
+    bool metaAperta = false;  ///< a stored trip is open, or was before the one that is filled in
     Attivita attivita = Attivita::Nessuna;
 };
 
+/// The commands at one moment.
 struct StatoComandi {
     std::bitset<kComandi> abilitati;
     bool sblocca = false;  ///< Calculate reads Unlock
@@ -62,6 +63,7 @@ struct StatoComandi {
     [[nodiscard]] bool Abilitato(Comando comando) const { return abilitati[static_cast<std::size_t>(comando)]; }
 };
 
+/// Depends on nothing but these two: a command is enabled when the screen allows it and nothing else goes on.
 StatoComandi StatoDeiComandi(const Fatti& fatti, const Schermata& schermata);
 
 }  // namespace cronovia

@@ -36,10 +36,12 @@ class PassoPerduto : public Failure {
     using Failure::Failure;
 };
 
+/// Steps in the order in which they were made, and those that were taken back. It changes nothing by itself.
 class Storia {
   public:
     /// Adds a step that was made. Steps of its kind that were taken back are forgotten.
     void Ricorda(Passo passo);
+    /// Drops the steps of that kind, made and taken back.
     void Dimentica(Ambito ambito);
 
     /// The step of that kind to be taken back, or done again, next; nothing when there is none.

@@ -42,7 +42,9 @@ class TavoloGuida {
     /// Saves the fields in the place of the entry of the current row, or as a new one from a locality's row. Tells why
     /// they cannot be saved; false then.
     bool SalvaRiga(const CampiVoce& campi);
+    /// Deletes the entry of the current row; a locality's row stays as it is.
     void CancellaRiga();
+    /// Opens the list of localities; goes to the row of one; closes it.
     void Cerca() { cerca_ = true; }
     void ScegliLocalita(int riga);
     void ChiudiElenco() { cerca_ = false; }

@@ -9,6 +9,7 @@
 
 namespace cronovia {
 
+/// Which way the trips go.
 enum class ModoScambio { Export, Import };
 
 /// Two lists between which trips move. An export takes its trips from list 0 to list 1, an import those of its file

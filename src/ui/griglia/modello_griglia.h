@@ -3,7 +3,6 @@
 
 #include <QAbstractTableModel>
 #include <optional>
-#include <vector>
 
 #include "itinerary/modifiche.h"
 #include "schedule/colonne.h"
@@ -21,7 +20,6 @@ class ModelloGriglia : public QAbstractTableModel {
     void MostraItinerario(const RigheItinerario& righe, const RiepilogoItinerario& riepilogo, int righeMinime);
     void MostraCronovia(const Cronovia& cronovia);
 
-    [[nodiscard]] bool MostraUnaCronovia() const { return cronovia_.has_value(); }
     /// The sign of a row, counted from 0; a free row has none.
     [[nodiscard]] Segno SegnoDellaRiga(int riga) const;
 
