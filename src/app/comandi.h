@@ -11,11 +11,8 @@ namespace cronovia {
 struct DescrizioneComando {
     Comando comando;
     const char16_t* nome;        ///< of its controls
-    const char16_t* scritta;     ///< caption, its letter marked by "&"
+    const char16_t* scritta;     ///< caption; its letter, which no other has on that screen, is marked by "&"
     const char16_t* istruzione;  ///< tip, plain text
-    /// Keys as `QKeySequence` reads them; null: Alt and the letter of the caption; empty: none, since the letter is
-    /// that of another command on the same screen.
-    const char16_t* tasti;
     void (*esegui)(Postazione&);  ///< does it; tells by itself what goes wrong
 };
 

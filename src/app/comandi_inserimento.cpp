@@ -76,7 +76,8 @@ void Inserisce(Postazione& p) {
     const RigheItinerario& righe = p.documento.Righe();
     const int riga = p.documento.RigaCorrente();
     CampiTappa campi = inserimento->campi;
-    if (campi.kmDigitati) campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe, p.documento.Riepilogo(), riga), riga);
+    if (campi.kmProgressivi)
+        campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe, p.documento.Riepilogo(), riga), riga);
     const std::vector<Message> rifiuti = ControllaTappa(campi, riga);
     for (const Message& rifiuto : rifiuti) p.volti.interazione.Show(rifiuto);
     if (!rifiuti.empty()) return;
@@ -97,10 +98,10 @@ void Cancella(Postazione& p) {
 }
 
 void AzzeraSoste(Postazione& p) {
-    if (!p.Chiede(u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
-                  "I tempi traghetto e riposi non sono influenzati e la\n"
-                  "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
-                  u"Azzera soste itinerario"_s)) {
+    if (!p.ChiedeSePerdere(u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
+                           "I tempi traghetto e riposi non sono influenzati e la\n"
+                           "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
+                           u"Azzera soste itinerario"_s)) {
         return;
     }
     Modifica(p, u"azzeramento delle soste"_s, cronovia::AzzeraSoste(p.documento.Righe()), p.documento.RigaCorrente());
@@ -169,7 +170,7 @@ void Memorizza(Postazione& p) {
         SalvaTappe(p);
         return;
     }
-    if (!p.Chiede(u"Vuoi recuperare l'itinerario originale?"_s, titolo)) return;
+    if (!p.ChiedeSePerdere(u"Vuoi recuperare l'itinerario originale?"_s, titolo)) return;
     p.Prova([&] {
         p.documento.Ricarica(p.volti.adesso());
         p.schermata = NuovoInserimento(p.documento);

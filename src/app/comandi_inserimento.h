@@ -42,7 +42,7 @@ void Fine(Postazione& p);
 /// Saves the stages and tells what was shortened, or what went wrong: false then.
 bool SalvaTappe(Postazione& p);
 
-/// Whether progressive kilometres are meant in the current row; nothing when that cannot be.
+/// Whether progressive kilometres can be meant in the current row; nothing where there are none.
 [[nodiscard]] std::optional<bool> KmProgressivi(const Postazione& p);
 
 /// Replaces the stages in one step and goes to a row. Tells what went wrong; false then.

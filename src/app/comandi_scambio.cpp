@@ -69,8 +69,8 @@ void Esporta(Postazione& p, const TavoloScambio& tavolo) {
     const QString file = p.volti.scegliFile(FileChiesto::Export);
     if (file.isEmpty()) return Torna(p);
     const QString nome = QDir::toNativeSeparators(file);
-    const bool libero = !QFileInfo::exists(file) ||
-                        p.Chiede(u"Il file %1 esiste già: ricopro?"_s.arg(nome), u"File %1 esistente"_s.arg(nome));
+    const bool libero = !QFileInfo::exists(file) || p.ChiedeSePerdere(u"Il file %1 esiste già: ricopro?"_s.arg(nome),
+                                                                      u"File %1 esistente"_s.arg(nome));
     EsitoExport esito;
     const bool esportate = libero && BoxConferma(p.volti.interazione, u"EX"_s) && p.MentreCorre([&] {
         esito = EsportaMete({p.sessione.Archivio(), file, tavolo.CodiciScelti(), true, true}, p.volti.avanzamento);
@@ -168,9 +168,9 @@ void FineScambio(Postazione& p) {
 }
 
 void Converte(Postazione& p) {
-    if (!p.Chiede(u"Vuoi convertire i vecchi file nel corrente database?\n\n"
-                  "I dati già presenti nel database saranno integrati e non cancellati.\n\nProcedo?"_s,
-                  u"Conversione file"_s)) {
+    if (!p.ChiedeSePerdere(u"Vuoi convertire i vecchi file nel corrente database?\n\n"
+                           "I dati già presenti nel database saranno integrati e non cancellati.\n\nProcedo?"_s,
+                           u"Conversione file"_s)) {
         return;
     }
     p.Prova([&] {

@@ -15,7 +15,7 @@ namespace {
 void Default(Postazione& p, const QString& verbo, const std::function<void()>& azione) {
     p.Prova([&] {
         const QString titolo = u"Dati di default"_s;
-        if (!p.Chiede(u"Vuoi %1 i dati di default?"_s.arg(verbo), titolo)) return;
+        if (!p.ChiedeSePerdere(u"Vuoi %1 i dati di default?"_s.arg(verbo), titolo)) return;
         azione();
         p.Mostra(u"Operazione eseguita!"_s, titolo, Icon::Information);
     });
@@ -86,10 +86,9 @@ void Salva(Postazione& p) {
 }
 
 void CancMeta(Postazione& p) {
+    if (SenzaMeta(p)) return;
     p.Prova([&] {
-        p.VaiAlViaggio();
-        p.volti.mostra();
-        if (p.documento.Codice().isEmpty() || !BoxConferma(p.volti.interazione, u"A"_s)) return;
+        if (!BoxConferma(p.volti.interazione, u"A"_s, p.documento.Nome())) return;
         p.MentreScrive(u"La mèta non è stata cancellata."_s, [&] {
             p.documento.Cancella(p.volti.avanzamento);
             p.VaiAlViaggio();
@@ -100,10 +99,10 @@ void CancMeta(Postazione& p) {
 void CancItin(Postazione& p) {
     if (SenzaMeta(p)) return;
     p.Prova([&] {
-        if (!BoxConferma(p.volti.interazione, u"AI"_s)) return;
-        if (!p.Chiede(u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più "
-                      "recuperabile!"_s,
-                      u"Annullamento itinerario"_s)) {
+        if (!BoxConferma(p.volti.interazione, u"AI"_s, p.documento.Nome())) return;
+        if (!p.ChiedeSePerdere(u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più "
+                               "recuperabile!"_s,
+                               u"Annullamento itinerario"_s)) {
             return;
         }
         p.MentreScrive(u"L'itinerario non è stato cancellato."_s, [&] {
@@ -129,7 +128,7 @@ void Esce(Postazione& p) {
     const QString titolo = u"Fine Lavoro"_s;
     if (!p.InCorsa()) {
         if (p.Chiede(u"Vuoi chiudere la procedura?"_s, titolo)) p.volti.chiudi();
-    } else if (p.Chiede(u"Vuoi interrompere l'elaborazione?"_s, titolo)) {
+    } else if (p.ChiedeSePerdere(u"Vuoi interrompere l'elaborazione?"_s, titolo)) {
         p.volti.ferma();
     }
 }

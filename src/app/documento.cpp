@@ -17,6 +17,10 @@ void Documento::Metti(Meta campi, RigheItinerario righe) {
     rigaCorrente_ = 1;
     storia_.Dimentica(Ambito::Viaggio);
     RicalcolaTempi();
+    if (const auto giorno = campi_.partiInizio.Giorno()) {
+        campi_.dataInizio = giorno;
+        campi_.partiInizio = {};
+    }
     caricati_ = campi_;
     caricate_ = righe_;
 }
@@ -127,13 +131,20 @@ void Documento::SalvaCampi(const Salvataggio& salvataggio, const QDateTime& ades
     AggiornaOrari();
 }
 
-EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
-    // Another window may have deleted the trip, or given its code to another one since: the stages would turn up there.
+QString Documento::Nome() const { return u"%1 (%2)"_s.arg(caricati_.localita.trimmed(), codice_); }
+
+// Another window may have deleted the trip, or given its code to another one since: what is done to it would be done
+// there.
+void Documento::ConfermaCheELei() {
     const Meta memorizzata = sessione_.ApriMeta(codice_).meta;
     if (memorizzata.localita != caricati_.localita) {
         throw Failure(u"La mèta con il codice %1 non è più «%2», ma «%3»: un'altra finestra l'ha cambiata."_s.arg(
             codice_, caricati_.localita.trimmed(), memorizzata.localita.trimmed()));
     }
+}
+
+EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
+    ConfermaCheELei();
     const EsitoMemorizzazione esito =
         MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, OrarioCorretto(campi_.parametri), progress);
     caricate_ = righe_;
@@ -141,9 +152,13 @@ EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
 }
 
 void Documento::CancellaTappe(Progress& progress) {
+    ConfermaCheELei();
     MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, OrarioCorretto(campi_.parametri), progress);
 }
 
-void Documento::Cancella(Progress& progress) { CancellaMeta(sessione_.Archivio(), codice_, progress); }
+void Documento::Cancella(Progress& progress) {
+    ConfermaCheELei();
+    CancellaMeta(sessione_.Archivio(), codice_, progress);
+}
 
 }  // namespace cronovia

@@ -31,6 +31,8 @@ class Documento {
     [[nodiscard]] const std::optional<Cronovia>& Calcolata() const { return cronovia_; }
     /// Code of the stored trip that was opened last, also while a new one is filled in; empty when there is none.
     [[nodiscard]] const QString& Codice() const { return codice_; }
+    /// Destination and code of that trip, as it was loaded: what questions call it.
+    [[nodiscard]] QString Nome() const;
     /// The row that changes are made at, from 1 to the first row behind the last stage.
     [[nodiscard]] int RigaCorrente() const { return rigaCorrente_; }
     /// What the entry fields propose for it.
@@ -83,6 +85,7 @@ class Documento {
     /// that of a trip with another destination.
     EsitoMemorizzazione SalvaTappe(Progress& progress);
     /// Delete the stored stages, and the stored trip with them; what is open stays as it is until it is loaded anew.
+    /// Refused as `SalvaTappe` is.
     void CancellaTappe(Progress& progress);
     void Cancella(Progress& progress);
 
@@ -91,6 +94,7 @@ class Documento {
         RigheItinerario righe;
         int rigaCorrente = 1;
     };
+    void ConfermaCheELei();
     void Metti(Meta campi, RigheItinerario righe);
     void Mostra(Stato stato);
     void RicalcolaTempi();

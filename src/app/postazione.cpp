@@ -65,6 +65,10 @@ bool Postazione::Chiede(const QString& testo, const QString& titolo) {
     return volti.interazione.Ask({testo, titolo}) == Answer::Yes;
 }
 
+bool Postazione::ChiedeSePerdere(const QString& testo, const QString& titolo) {
+    return volti.interazione.Ask({testo, titolo, false, Answer::No}) == Answer::Yes;
+}
+
 std::optional<Ambito> Postazione::AmbitoInVista() const {
     if (const auto* guida = Su<schermata::Guida>()) {
         return guida->tavolo->ElencoLocalitaVisibile() ? std::nullopt : std::optional(Ambito::Guida);

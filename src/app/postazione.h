@@ -71,6 +71,8 @@ struct Postazione {
     void VaiAlViaggio();
     void Mostra(const QString& testo, const QString& titolo = {}, Icon icona = Icon::Exclamation);
     [[nodiscard]] bool Chiede(const QString& testo, const QString& titolo);
+    /// The same before something is lost: Enter means no.
+    [[nodiscard]] bool ChiedeSePerdere(const QString& testo, const QString& titolo);
 };
 
 }  // namespace cronovia

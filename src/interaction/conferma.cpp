@@ -40,9 +40,11 @@ QString NomeOperazione(const QString& codice) {
 
 }  // namespace
 
-bool BoxConferma(Interaction& interaction, const QString& codiceOperazione) {
+bool BoxConferma(Interaction& interaction, const QString& codiceOperazione, const QString& perso) {
     const QString nome = NomeOperazione(codiceOperazione);
-    return interaction.Ask({u"Confermi "_s + nome.toLower() + u'?', nome}) == Answer::Yes;
+    const QString domanda = u"Confermi "_s + nome.toLower() + u'?';
+    if (perso.isEmpty()) return interaction.Ask({domanda, nome}) == Answer::Yes;
+    return interaction.Ask({domanda + u"\n\n"_s + perso, nome, false, Answer::No}) == Answer::Yes;
 }
 
 }  // namespace cronovia

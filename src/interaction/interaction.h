@@ -23,6 +23,7 @@ struct Question {
     QString text;
     QString title;
     bool cancellable = false;
+    Answer preset = Answer::Yes;  ///< what Enter answers
 };
 
 /// The face of the program towards one command: the window shows boxes, the command line prints, tests script answers.
@@ -42,7 +43,8 @@ class Interaction {
 };
 
 /// The confirmation that commands share: "Confermi ...?" with the name of the operation of that code ("I", "M", "A",
-/// ...) as its title; an unknown code is its own name. True on Yes.
-bool BoxConferma(Interaction& interaction, const QString& codiceOperazione);
+/// ...) as its title; an unknown code is its own name. True on Yes. What is lost by it is named (`perso`), and No
+/// preset then.
+bool BoxConferma(Interaction& interaction, const QString& codiceOperazione, const QString& perso = {});
 
 }  // namespace cronovia

@@ -44,6 +44,9 @@ int KmDellaTappa(int km, std::int64_t precedenti, int riga) {
 
 std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga) {
     std::vector<Message> rifiuti;
+    if (!campi.kmLeggibili) {
+        rifiuti.push_back({u"Impossibile:\nI chilometri sono un numero intero: scrivi solo cifre"_s, {}});
+    }
     if (campi.km > kMassimoKm) rifiuti.push_back({u"Impossibile:\nIndica un valore compreso tra 1 e 999"_s, {}});
     if (campi.localita.trimmed().isEmpty()) {
         rifiuti.push_back({u"Impossibile:\nIndica il nome della località!"_s, {}});

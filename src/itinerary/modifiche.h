@@ -25,7 +25,8 @@ struct CampiTappa {
     std::optional<TipoStrada> tipo;
     Durata sosta;  ///< days are visiting days
     bool fineGiorno = false;
-    bool kmDigitati = false;  ///< the kilometres were typed since the row was shown: progressive ones are meant
+    bool kmProgressivi = false;  ///< typed since the row was shown, and meant as progressive ones where that can be
+    bool kmLeggibili = true;     ///< false: what was typed is no whole number of kilometres
 
     friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };

@@ -41,7 +41,7 @@ float CalcolaFattore(int giorniVoluti, double giorniRiferimento) {
 }
 
 QString TitoloTentativo(int tentativo, double riferimento, int giorni, float fattore) {
-    QString testoFattore = QString::number(fattore, 'g', 4);
+    QString testoFattore = QString::number(std::round(double{fattore} * 1000.0) / 1000.0);
     testoFattore.replace(u'.', u',');
     return u"Calcolo della cronovia, text n. %1/%2 [%3/%4*I=%5]"_s.arg(
         QString::number(tentativo), QString::number(kMassimoTentativi), QString::number(riferimento),

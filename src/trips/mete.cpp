@@ -115,7 +115,8 @@ std::vector<MetaInElenco> ElencoMete(Archive& archive, QualiMete quali) {
     const ReadSnapshot momento(archive);
     std::vector<MetaInElenco> elenco;
     for (const Record& record : archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
-        MetaInElenco meta{record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed()};
+        MetaInElenco meta{record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed(),
+                          MetaDaRecord(record).dataInizio};
         if (quali == QualiMete::Tutte || (!meta.localita.isEmpty() && HaTappe(archive, meta.codice))) {
             elenco.push_back(std::move(meta));
         }

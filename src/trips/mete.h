@@ -43,6 +43,7 @@ struct MetaInElenco {
     QString codice;
     QString localita;
     QString nazione;
+    std::optional<NumeroGiorno> dataInizio = {};  ///< nothing when it is not known
 
     friend bool operator==(const MetaInElenco&, const MetaInElenco&) = default;
 };

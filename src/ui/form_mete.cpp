@@ -1,8 +1,8 @@
 #include "ui/form_mete.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -15,6 +15,7 @@
 #include "app/comandi_inserimento.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
+#include "ui/comuni/colori.h"
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
 
@@ -26,6 +27,9 @@ namespace {
 
 // Of the places of panels and bars: another number, and those remembered before are passed over.
 constexpr int kVersioneAspetto = 1;
+
+// As wide as the frames of the desktops are at most.
+constexpr QMargins kCornice(8, 40, 8, 8);
 
 }  // namespace
 
@@ -43,9 +47,9 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       guida_(postazione_, griglia_.Vista(), *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
       scambio_(postazione_, [this](const auto& comando) { Esegui(comando); }) {
     setObjectName(u"formMete"_s);
-    setWindowTitle(u"Cronovia"_s);
     Disponi();
     Collega();
+    RendiLeggibile();
     RipristinaAspetto();
     Mostra();
 }
@@ -95,11 +99,7 @@ QWidget* FormMete::CreaAreaGriglia() {
     layout->addWidget(&guida_.Riquadro(), 1, 0, 1, 2);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
-    cmbRicercaTappa_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    for (QListWidget* lista : {&viaggio_->Elenco(), cmbRicercaTappa_}) {
-        lista->setMinimumSize(340, 240);
-        lista->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    }
+    cmbRicercaTappa_->setMinimumWidth(340);
     CreaStampe(*layout);
     return area;
 }
@@ -117,6 +117,11 @@ void FormMete::Collega() {
     connect(viaggio_, &SchermoViaggio::Cambiata, this, &FormMete::Raccogli);
     connect(bottoni_, &FrmBottoni::Premuto, this, &FormMete::EseguiComando);
     connect(&inserimento_.Riquadro(), &FrmInputBox::Premuto, this, &FormMete::EseguiComando);
+    connect(viaggio_, &SchermoViaggio::ElencoChiuso, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
+    connect(cmbRicercaTappa_, &ElencoScelta::Rinuncia, this, [this] {
+        QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, {});
+        keyPressEvent(&esc);
+    });
     connect(&griglia_.Vista(), &QTableView::clicked, this, [this] { inserimento_.FuocoSullaTappa(); });
     connect(&copia_, &SchermoCopia::Chiusa, this, [this] { inserimento_.FuocoSullaTappa(); });
     connect(&scambio_, &SchermoScambio::Chiuso, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
@@ -137,6 +142,7 @@ void FormMete::Esegui(const std::function<void()>& comando) {
     avanzamento_->NuovaOperazione();
     const QPointer<QWidget> fuoco = focusWidget();
     Raccogli();
+    if (viaggio_->ConcludiIlCampo()) Mostra();
     comando();
     inCorso_ = false;
     Mostra();
@@ -146,7 +152,9 @@ void FormMete::Esegui(const std::function<void()>& comando) {
 
 void FormMete::EseguiComando(Comando comando) {
     if (comando == Comando::Esce) return comandi::Esce(postazione_);  // stops a command that has begun
+    const bool calcolata = postazione_.documento.Calcolata().has_value();
     Esegui([&] { Descrizione(comando).esegui(postazione_); });
+    if (calcolata != postazione_.documento.Calcolata().has_value()) return FuocoSulleRighe();
     MettiIlFuoco(comando);
 }
 
@@ -181,6 +189,13 @@ void FormMete::MettiIlFuoco(Comando dopo) {
     }
 }
 
+// What was computed is read in the grid; stages are typed on.
+void FormMete::FuocoSulleRighe() {
+    if (stampa_->Aperto()) return stampa_->Fuoco();
+    if (postazione_.InInserimento()) return inserimento_.FuocoSullaTappa();
+    griglia_.Vista().setFocus();
+}
+
 QString FormMete::ScegliFile(FileChiesto quale) {
     switch (quale) {
         case FileChiesto::Import:
@@ -196,6 +211,17 @@ QString FormMete::ScegliFile(FileChiesto quale) {
 void FormMete::ApriFile(const QString& file) {
     Esegui([&] { comandi::ApriFile(postazione_, file); });
     scambio_.Fuoco();
+}
+
+// The theme may change while the window is open.
+void FormMete::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) RendiLeggibile();
+}
+
+void FormMete::RendiLeggibile() {
+    const QPalette leggibile = ConDisabilitatiLeggibili(QApplication::palette());
+    if (leggibile != palette()) setPalette(leggibile);
 }
 
 void FormMete::closeEvent(QCloseEvent* event) {
@@ -218,17 +244,19 @@ void FormMete::FineSessione(QSessionManager& sessione) {
     if (!chiudo) sessione.cancel();
 }
 
-// Enter means the default button, Escape what leads back.
+// Enter presses the button that has the focus, writes the stage that is being entered, else goes to the next field;
+// Escape is what leads back.
 void FormMete::keyPressEvent(QKeyEvent* event) {
     if (guida_.Tasto(*event) || copia_.Tasto(*event)) return;
     const auto* inserimento = postazione_.Su<schermata::Inserimento>();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto* conFuoco = qobject_cast<QPushButton*>(focusWidget());
-        QPushButton* normale = postazione_.InInserimento() ? &inserimento_.Riquadro().Pulsante(Comando::Inserisce)
-                                                           : &bottoni_->Pulsante(Comando::Esce);
-        (conFuoco != nullptr ? conFuoco : normale)->click();
+        if (conFuoco == nullptr && postazione_.InInserimento()) {
+            conFuoco = &inserimento_.Riquadro().Pulsante(Comando::Inserisce);
+        }
+        conFuoco != nullptr ? conFuoco->click() : static_cast<void>(focusNextChild());
     } else if (event->key() == Qt::Key_Escape && postazione_.Su<schermata::ElencoMete>()) {
-        Esegui([this] { comandi::ChiudiElencoMete(postazione_); });
+        Q_EMIT viaggio_->Elenco().Rinuncia();
     } else if (event->key() == Qt::Key_Escape && inserimento != nullptr && inserimento->elencoTappe) {
         Esegui([this] { comandi::Fine(postazione_); });
     } else if (event->key() == Qt::Key_Escape && stampa_->Aperto()) {
@@ -250,11 +278,19 @@ void FormMete::Mostra() {
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
     bottoni_->Applica(stato);
     stampa_->Mostra();
-    // Alt+S is that of the print frames then.
-    if (stampa_->Aperto()) bottoni_->Pulsante(Comando::Calcola).setShortcut({});
+    // Its letter is that of the print frames then.
+    if (stampa_->Aperto()) bottoni_->Pulsante(Comando::Stampa).setText(u"Stampa"_s);
     azioni_->Mostra(!guida_.StampaAperta());
     for (Pannello* pannello : pannelli_) pannello->Mostra(postazione_);
+    MostraTitolo();
     mostrando_ = false;
+}
+
+void FormMete::MostraTitolo() {
+    const Documento& documento = postazione_.documento;
+    const QString programma = QCoreApplication::applicationName();
+    const bool memorizzata = !documento.Campi().codice.isEmpty();
+    setWindowTitle(memorizzata ? documento.Nome() + u" - "_s + programma : programma);
 }
 
 void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
@@ -264,7 +300,10 @@ void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
 }
 
 void FormMete::RipristinaAspetto() {
-    resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
+    // The frame that the desktop puts around it has its place within the screen too.
+    const QRect schermo = screen()->availableGeometry().marginsRemoved(kCornice);
+    resize(QSize(1280, 800).boundedTo(schermo.size()));
+    move(schermo.topLeft() - QPoint(kCornice.left(), kCornice.top()));
     restoreGeometry(aspetto_.value(u"finestra"_s).toByteArray());
     restoreState(aspetto_.value(u"pannelli"_s).toByteArray(), kVersioneAspetto);
     griglia_.Vista().RipristinaLarghezze(aspetto_.value(u"colonne"_s).toByteArray());

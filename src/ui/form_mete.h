@@ -52,6 +52,7 @@ class FormMete : public QMainWindow {
     void AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato);
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -66,10 +67,13 @@ class FormMete : public QMainWindow {
     void Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);
     void MettiIlFuoco(Comando dopo);
+    void FuocoSulleRighe();
     [[nodiscard]] QString ScegliFile(FileChiesto quale);
     void Mostra();
     bool PossoChiudere();
     void FineSessione(QSessionManager& sessione);
+    void RendiLeggibile();
+    void MostraTitolo();
     void RipristinaAspetto();
     void RicordaAspetto();
 

@@ -91,7 +91,7 @@ TEST_F(ComandiTest, AnItineraryIsDeletedAfterTwoQuestions) {
     const QString sicuro =
         u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più recuperabile!"_s;
     const QString titolo = u"Annullamento itinerario"_s;
-    const QString confermi = u"Confermi annullamento itinerario?"_s;
+    const QString confermi = u"Confermi annullamento itinerario?\n\nUNO (000001)"_s;
     copione_.Domanda(confermi, titolo, Answer::No);
     comandi::CancItin(*postazione_);
     for (const auto& [risposta, restano] : {std::pair{Answer::No, u"A B"_s}, {Answer::Yes, u""_s}}) {
@@ -297,7 +297,7 @@ TEST_F(ComandiTest, WhatCannotBeSavedStaysOnScreen) {
     // Nor is a trip lost whose deletion fails.
     Esce(Answer::No);
     AltroProgramma("CREATE TRIGGER fermo BEFORE DELETE ON MeteVandro BEGIN SELECT RAISE(ABORT, 'fermo'); END");
-    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+    copione_.Domanda(u"Confermi annullamento meta?\n\nUNO (000001)"_s, u"Annullamento meta"_s, Answer::Yes);
     copione_.Messaggio(u"La mèta non è stata cancellata.\n\n"_s + Archivio(u"…"_s));
     comandi::CancMeta(*postazione_);
     EXPECT_EQ(Schermo(), u"aperta"_s);
@@ -354,7 +354,7 @@ TEST_F(ComandiTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsCod
     NuovaMeta(u"UNO"_s);
     MetaConTappe(u"DUE"_s, {u"A"_s});
     const std::unique_ptr<Postazione> altra = NuovaPostazione();
-    copione_.Domanda(u"Confermi annullamento meta?"_s, u"Annullamento meta"_s, Answer::Yes);
+    copione_.Domanda(u"Confermi annullamento meta?\n\nDUE (000002)"_s, u"Annullamento meta"_s, Answer::Yes);
     comandi::CancMeta(*altra);
     const auto rifiutata = [this](const QString& perche) {
         DomandaDiUscita(Answer::Yes);

@@ -11,6 +11,7 @@
 //   type NAME TEXT · keys TEXT        typed over what is there; typed where the focus is
 //   key KEY... · focus NAME           as in "Ctrl+Z", where the focus is
 //   press NAME · click NAME ROW       a button or box; a row of a table (from 1), an entry of a list
+//   beside NAME                       a click there, whether that can be used or not
 //   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
 //   entry NAME TEXT                   a further entry, as if the list had been shown with it
 //   drop NAME FILE                    as the desktop does it, which would like to move the file
@@ -27,7 +28,7 @@
 //   expect-file FILE TEXT             how the file begins; expect-no-file FILE
 //
 // Whatever comes up unannounced fails, and so does what was announced and did not come in that step. Every table model
-// is watched meanwhile.
+// is watched meanwhile, and that no letter is underlined twice among what can be used.
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QDirIterator>
@@ -125,10 +126,30 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
 
     void Sorveglia() {
         if (form_ == nullptr) return;
+        SorvegliaLettere();
         for (const QTableView* tabella : form_->findChildren<QTableView*>()) {
             QAbstractItemModel* modello = tabella->model();
             if (modello == nullptr || modello->findChild<QAbstractItemModelTester*>() != nullptr) continue;
             new QAbstractItemModelTester(modello, QAbstractItemModelTester::FailureReportingMode::Warning, modello);
+        }
+    }
+
+    // A letter that two have reaches neither.
+    void SorvegliaLettere() {
+        std::map<QString, QString> lettere;
+        const auto prende = [&](const QString& scritta, const QWidget& chi) {
+            const QString tasto = QKeySequence::mnemonic(scritta).toString();
+            if (tasto.isEmpty() || !chi.isVisible() || !chi.isEnabled()) return;
+            const auto [altro, nuova] = lettere.emplace(tasto, scritta);
+            EXPECT_TRUE(nuova) << tasto.toStdString() << ": " << altro->second.toStdString() << ", "
+                               << scritta.toStdString();
+        };
+        for (const auto* pulsante : form_->findChildren<QAbstractButton*>()) {
+            prende(pulsante->text(), *pulsante);
+            EXPECT_EQ(pulsante->shortcut(), QKeySequence::mnemonic(pulsante->text())) << pulsante->text().toStdString();
+        }
+        for (const auto* scritta : form_->findChildren<QLabel*>()) {
+            if (scritta->buddy() != nullptr) prende(scritta->text(), *scritta);
         }
     }
 
@@ -319,6 +340,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"focus"_s, {1, [this](auto& p) { Usabile(p[0]).setFocus(); }}},
         {u"press"_s, {1, [this](auto& p) { Premi(p[0]); }}},
         {u"click"_s, {2, [this](auto& p) { Clicca(p[0], p[1]); }}},
+        {u"beside"_s, {1, [this](auto& p) { QTest::mouseClick(&Trova(p[0]), Qt::LeftButton); }}},
         {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
         {u"drop"_s, {3, [this](auto& p) { Lascia(p[0], p[1], p[2]); }}},
         {u"entry"_s, {2, [this](auto& p) { Usabile<QListWidget>(p[0]).addItem(p[1]); }}},

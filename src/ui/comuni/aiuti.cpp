@@ -11,7 +11,15 @@ QString AiutoPeriodo() {
            "Soste: decide quali soste contano nel calcolo, quelle dell'itinerario, quelle della guida, la maggiore o "
            "la "
            "minore delle due, oppure nessuna.\n\n"
-           "La fine del viaggio compare dopo il calcolo."_s;
+           "La fine del viaggio compare dopo il calcolo.\n\n"_s +
+           SpiegazioneLimite();
+}
+
+QString SpiegazioneLimite() {
+    return u"Limite ritorno, nella cronovia: «>» è il momento fino al quale da lì si può proseguire senza altre soste "
+           u"e "
+           "finire il viaggio in tempo; «<» quello fino al quale, tornando subito indietro, si è ancora a casa in "
+           "tempo."_s;
 }
 
 QString AiutoVelocita() {
@@ -34,7 +42,9 @@ QString AiutoInserimento() {
     return u"Una tappa è la località a cui arrivi. La prima riga è la partenza.\n\n"
            "Distanza: i chilometri dalla tappa precedente. Dalla terza riga, se quelli progressivi superano 100, puoi "
            "scrivere i chilometri dall'inizio del viaggio: se il numero è maggiore del progressivo precedente, si "
-           "inserisce la differenza. La casella «Km. progress.» dice se la regola vale per la riga.\n\n"
+           "inserisce la differenza. La casella «Km. progress.» dice se la regola vale per la riga: togli la spunta "
+           "per scrivere quelli "
+           "della tappa.\n\n"
            "Con distanza 0 serve una sosta, la fine della giornata o un traghetto (TRAGH nel numero di strada).\n\n"
            "Fai clic su una riga per correggerla. Ctrl+Z annulla, Ctrl+Maiusc+Z ripete. Niente è salvato prima di "
            "«Salva Reset» o di «Fine inser.»."_s;

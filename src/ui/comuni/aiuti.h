@@ -6,6 +6,8 @@
 namespace cronovia {
 
 QString AiutoPeriodo();
+/// What the marks of the column of the return mean.
+QString SpiegazioneLimite();
 QString AiutoVelocita();
 QString AiutoTempi();
 QString AiutoInserimento();

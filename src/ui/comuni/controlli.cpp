@@ -5,18 +5,20 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMessageBox>
-#include <QPalette>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QTextDocument>
 
 #include "calendar/testo.h"
+#include "ui/comuni/colori.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr const char* kAiuto = "aiuto";
 
 void Presenta(QWidget& controllo, const QString& nome, const QString& istruzione) {
     controllo.setObjectName(nome);
@@ -111,8 +113,17 @@ QString TestoPiano(const QString& testo) {
 }
 
 void MostraVoce(QComboBox& elenco, const QString& testo) {
+    constexpr int kOspite = Qt::UserRole + 1;
     const QSignalBlocker muto(elenco);
-    if (elenco.findText(testo) < 0) elenco.addItem(testo);
+    for (int i = elenco.count() - 1; i >= 0; --i) {
+        if (elenco.itemData(i, kOspite).toBool() && elenco.itemText(i) != testo) elenco.removeItem(i);
+    }
+    if (elenco.findText(testo) < 0) {
+        int posto = 0;
+        while (posto < elenco.count() && elenco.itemText(posto).toInt() < testo.toInt()) ++posto;
+        elenco.insertItem(posto, testo);
+        elenco.setItemData(posto, true, kOspite);
+    }
     elenco.setCurrentIndex(elenco.findText(testo));
     if (elenco.isEditable()) elenco.setEditText(testo);
 }
@@ -132,20 +143,14 @@ QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzi
     casella->setFocusPolicy(Qt::NoFocus);
     casella->setFrame(false);
     casella->setAlignment(Qt::AlignCenter);
-    // A result stays legible while the frame around it is disabled.
-    QPalette colori = casella->palette();
-    colori.setColor(QPalette::Disabled, QPalette::Text, colori.color(QPalette::Active, QPalette::WindowText));
-    colori.setColor(QPalette::Base, colori.color(QPalette::Active, QPalette::Window));
-    casella->setPalette(colori);
+    ComeIntorno(*casella);
     LarghezzaPer(*casella, cifre, 6);
     return casella;
 }
 
 QPushButton* NuovoPulsante(const DescrizioneComando& comando) {
-    QPushButton* pulsante = NuovoPulsante(QString::fromUtf16(comando.nome), QString::fromUtf16(comando.scritta),
-                                          QString::fromUtf16(comando.istruzione));
-    if (comando.tasti != nullptr) pulsante->setShortcut(QKeySequence(QString::fromUtf16(comando.tasti)));
-    return pulsante;
+    return NuovoPulsante(QString::fromUtf16(comando.nome), QString::fromUtf16(comando.scritta),
+                         QString::fromUtf16(comando.istruzione));
 }
 
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione) {
@@ -165,10 +170,17 @@ QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QStrin
     QPushButton* aiuto = NuovoPulsante(nome, u"[?]"_s, u"Informazioni operative"_s);
     aiuto->setAccessibleName(u"Informazioni operative: %1"_s.arg(titolo));
     aiuto->setFlat(true);
+    aiuto->setProperty(kAiuto, true);
     LarghezzaPer(*aiuto, 4, 8);
     QObject::connect(aiuto, &QPushButton::clicked, aiuto,
                      [aiuto, titolo, istruzioni] { QMessageBox::information(aiuto->window(), titolo, istruzioni); });
     return aiuto;
+}
+
+void Blocca(const QWidget& riquadro, bool bloccato) {
+    for (QWidget* controllo : riquadro.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!controllo->property(kAiuto).toBool()) controllo->setEnabled(!bloccato);
+    }
 }
 
 void StringiRiquadro(QLayout& layout) {

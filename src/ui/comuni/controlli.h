@@ -33,7 +33,7 @@ void LasciaScrivereCifre(QComboBox& elenco, int cifre);
 /// A text for a tooltip, which would take some texts for markup: it is shown as it stands.
 QString TestoPiano(const QString& testo);
 
-/// Shows a text in a list, as a further item when it has none of that text.
+/// Shows a text in a list: as a guest among its items when it has none of that text. Guests that were shown before go.
 void MostraVoce(QComboBox& elenco, const QString& testo);
 
 /// A box that takes so many characters.
@@ -45,7 +45,7 @@ void LasciaAnnullare(QLineEdit& casella);
 /// A box that shows a result and takes no focus.
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione);
 
-/// The button of a command, with its keys.
+/// The button of a command.
 QPushButton* NuovoPulsante(const DescrizioneComando& comando);
 /// A button that is no command of the table.
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione);
@@ -55,6 +55,9 @@ QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);
 
 /// The "[?]" button of a frame, which shows these instructions.
 QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QString& istruzioni);
+
+/// Disables all that a frame holds, or enables it, but for its help, which is always there.
+void Blocca(const QWidget& riquadro, bool bloccato);
 
 /// Little room between the controls of a frame, so that all frames fit beside each other in a small window.
 void StringiRiquadro(QLayout& layout);

@@ -1,6 +1,9 @@
 #include "ui/comuni/elenco_scelta.h"
 
+#include <QApplication>
+#include <QFontDatabase>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 namespace cronovia {
 
@@ -9,8 +12,49 @@ ElencoScelta::ElencoScelta(const QString& nome, const QString& descrizione) {
     setAccessibleName(descrizione);
     setToolTip(descrizione);
     setFrameShape(QFrame::StyledPanel);
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setMinimumHeight(240);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     hide();
     connect(this, &QListWidget::itemClicked, this, &ElencoScelta::Scelta);
+}
+
+void ElencoScelta::Intesta(const QString& intestazione) {
+    intestazione_ = new QLabel(intestazione, this);
+    intestazione_->setObjectName(objectName() + QStringLiteral("_intestazione"));
+    intestazione_->setMargin(3);
+    QFont grassetto = font();
+    grassetto.setBold(true);
+    intestazione_->setFont(grassetto);
+    setViewportMargins(0, intestazione_->sizeHint().height(), 0, 0);
+    setMinimumWidth(intestazione_->sizeHint().width() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth());
+}
+
+void ElencoScelta::resizeEvent(QResizeEvent* event) {
+    QListWidget::resizeEvent(event);
+    if (intestazione_ == nullptr) return;
+    const QSize misura(viewport()->width(), intestazione_->sizeHint().height());
+    intestazione_->setGeometry({viewport()->pos() - QPoint(0, misura.height()), misura});
+}
+
+void ElencoScelta::showEvent(QShowEvent* event) {
+    qApp->installEventFilter(this);
+    QListWidget::showEvent(event);
+}
+
+void ElencoScelta::hideEvent(QHideEvent* event) {
+    qApp->removeEventFilter(this);
+    QListWidget::hideEvent(event);
+}
+
+// The click is over before the list goes: what it opens besides is not opened under the person's hand.
+bool ElencoScelta::eventFilter(QObject* oggetto, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) {
+        const auto* dove = qobject_cast<QWidget*>(oggetto);
+        const bool fuori = dove != nullptr && dove != this && !isAncestorOf(dove) && dove->window() == window();
+        if (fuori) QMetaObject::invokeMethod(this, &ElencoScelta::Rinuncia, Qt::QueuedConnection);
+    }
+    return QListWidget::eventFilter(oggetto, event);
 }
 
 // Enter ends here: whoever holds the list must not take it for its default button.

@@ -27,6 +27,18 @@ QMessageBox::Icon Icona(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+QMessageBox::StandardButton Bottone(Answer answer) {
+    switch (answer) {
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::Cancel:
+            return QMessageBox::Cancel;
+        case Answer::No:
+            break;
+    }
+    return QMessageBox::No;
+}
+
 }  // namespace
 
 void InterazioneFinestra::Show(const Message& message) {
@@ -49,7 +61,7 @@ Answer InterazioneFinestra::Ask(const Question& question) {
     if (question.cancellable) buttons |= QMessageBox::Cancel;
     QMessageBox box(QMessageBox::Question, Titolo(question.title), question.text, buttons, &finestra_);
     box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(Bottone(question.preset));
     // Closing the box by its frame leaves everything as it is.
     box.setEscapeButton(question.cancellable ? QMessageBox::Cancel : QMessageBox::No);
     switch (box.exec()) {

@@ -36,7 +36,7 @@ QWidget* FrmPercorso::CreaEstremo(int estremo) {
     riquadro->setObjectName(inizio ? u"frmInizio"_s : u"frmArrivo"_s);
     riquadro->setFrameShape(QFrame::StyledPanel);
     QPushButton* assegna = NuovoPulsante(
-        NomeDiSerie(u"cmdAssegna"_s, estremo), inizio ? u"Asse&gna tappa iniziale"_s : u"Asse&gna tappa  finale"_s,
+        NomeDiSerie(u"cmdAssegna"_s, estremo), inizio ? u"Assegna tappa &iniziale"_s : u"Assegna tappa &finale"_s,
         inizio ? u"La località corrente sarà la prima inserita"_s : u"La località corrente sarà l'ultima inserita"_s);
     connect(assegna, &QPushButton::clicked, this, [this, estremo] { Q_EMIT Assegna(estremo); });
     auto* layout = new QGridLayout(riquadro);

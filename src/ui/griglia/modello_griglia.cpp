@@ -3,6 +3,7 @@
 #include <QFont>
 #include <algorithm>
 
+#include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/griglia/icone_righe.h"
 
@@ -140,6 +141,7 @@ QVariant ModelloGriglia::headerData(int section, Qt::Orientation orientation, in
     const auto colonna = static_cast<Colonna>(section);
     if (role == Qt::DisplayRole) return Intestazioni(cronovia_ ? Vista::Cronovia : Vista::Itinerario)[colonna];
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AllineamentoColonna(colonna));
+    if (role == Qt::ToolTipRole && colonna == Colonna::LimiteRitorno) return SpiegazioneLimite();
     return {};
 }
 

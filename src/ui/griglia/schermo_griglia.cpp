@@ -32,11 +32,13 @@ void SchermoGriglia::Mostra() {
     if (cronovia && !cronoviaInGriglia_) {
         modello_.MostraCronovia(*cronovia);
         DistendiGuida();
+        vista_->SelezionaRiga(0);
     } else if (!cronovia) {
         vista_->clearSpans();
         modello_.MostraItinerario(documento.Righe(), documento.Riepilogo(), kRigheMinimeGriglia);
     }
     cronoviaInGriglia_ = cronovia.has_value();
+    vista_->NascondiColonna(static_cast<int>(Colonna::Guida), cronovia.has_value());
     vista_->ImpostaSelezione(!cronovia);
     if (!cronovia) vista_->SelezionaRiga(documento.RigaCorrente() - 1);
     const auto* inserimento = postazione_.Su<schermata::Inserimento>();

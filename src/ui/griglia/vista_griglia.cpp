@@ -1,10 +1,11 @@
 #include "ui/griglia/vista_griglia.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <algorithm>
 #include <array>
-#include <numeric>
+#include <cstdlib>
 #include <span>
 
 #include "itinerary/elenco_guida.h"
@@ -17,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRighePerPagina = 18;
+constexpr int kTutteLeRighe = 1'000'000;
 
 // A column's relative width, and the widest text that it usually holds.
 struct Larghezza {
@@ -46,6 +48,8 @@ constexpr std::array<Larghezza, kColonneGuida> kGuida = {{{560, u"99999 ic"},
                                                           {950, u"Tempo"},
                                                           {2100, u"Interessante"}}};
 
+int Relativa(std::span<const Larghezza> colonne, int i) { return colonne[static_cast<std::size_t>(i)].relativa; }
+
 }  // namespace
 
 VistaGriglia::VistaGriglia(QWidget* parent) : QTableView(parent) {
@@ -63,9 +67,15 @@ VistaGriglia::VistaGriglia(QWidget* parent) : QTableView(parent) {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setMinimumSectionSize(24);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-        if (!inAdattamento_) larghezzeProprie_ = true;
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int colonna, int /*prima*/, int larghezza) {
+        if (!inAdattamento_) Proprie()[colonna] = larghezza;
     });
+    auto* azzera = new QAction(u"Larghezze iniziali delle colonne"_s, this);
+    azzera->setObjectName(u"azzeraColonne"_s);
+    connect(azzera, &QAction::triggered, this, &VistaGriglia::AzzeraLarghezze);
+    addAction(azzera);
+    horizontalHeader()->addAction(azzera);
+    horizontalHeader()->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void VistaGriglia::SelezionaRiga(int riga) {
@@ -97,8 +107,18 @@ void VistaGriglia::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_PageDown:
             passo = kRighePerPagina;
             break;
+        case Qt::Key_Home:
+            passo = -kTutteLeRighe;
+            break;
+        case Qt::Key_End:
+            passo = kTutteLeRighe;
+            break;
         default:
             break;
+    }
+    if (std::abs(passo) == kTutteLeRighe && !diTappe_ && model() != nullptr) {
+        setCurrentIndex(model()->index(passo < 0 ? 0 : model()->rowCount() - 1, 1));
+        return;
     }
     if (passo == 0 || !diTappe_) {
         QTableView::keyPressEvent(event);
@@ -109,11 +129,11 @@ void VistaGriglia::keyPressEvent(QKeyEvent* event) {
 
 void VistaGriglia::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
-    if (!larghezzeProprie_) AdattaLarghezze();
+    AdattaLarghezze();
 }
 
 // Shares out the width that there is, the widest column taking what is left; every one stays wide enough for what it
-// usually holds.
+// usually holds, or as wide as the person made it.
 void VistaGriglia::AdattaLarghezze() {
     if (model() == nullptr) return;
     inAdattamento_ = true;
@@ -121,39 +141,64 @@ void VistaGriglia::AdattaLarghezze() {
     grassetto.setBold(true);
     const QFontMetrics misure(grassetto);
     const std::span<const Larghezza> colonne = diGuida_ ? std::span<const Larghezza>(kGuida) : kTappe;
-    const int totale = std::accumulate(colonne.begin(), colonne.end(), 0,
-                                       [](int somma, const Larghezza& l) { return somma + l.relativa; });
-    const auto piuLarga = std::max_element(
-        colonne.begin(), colonne.end(), [](const Larghezza& a, const Larghezza& b) { return a.relativa < b.relativa; });
+    int totale = 0;
     int resto = viewport()->width();
-    const auto adatta = [&](std::span<const Larghezza>::iterator colonna, int parte) {
-        const int minima = misure.horizontalAdvance(QString::fromUtf16(colonna->testo)) + 8;
-        setColumnWidth(static_cast<int>(colonna - colonne.begin()), std::max(minima, parte));
-        resto -= std::max(minima, parte);
-    };
-    for (auto colonna = colonne.begin(); colonna != colonne.end(); ++colonna) {
-        if (colonna != piuLarga) adatta(colonna, colonna->relativa * viewport()->width() / totale);
+    int piuLarga = -1;
+    for (int i = 0; i < static_cast<int>(colonne.size()); ++i) {
+        if (isColumnHidden(i)) continue;
+        if (const auto propria = Proprie().find(i); propria != Proprie().end()) {
+            setColumnWidth(i, propria->second);
+            resto -= propria->second;
+            continue;
+        }
+        totale += Relativa(colonne, i);
+        if (piuLarga < 0 || Relativa(colonne, i) > Relativa(colonne, piuLarga)) piuLarga = i;
     }
-    adatta(piuLarga, resto);
+    const int comune = resto;
+    const auto adatta = [&](int i, int parte) {
+        const QString testo = QString::fromUtf16(colonne[static_cast<std::size_t>(i)].testo);
+        const int larga = std::max(misure.horizontalAdvance(testo) + 8, parte);
+        setColumnWidth(i, larga);
+        resto -= larga;
+    };
+    for (int i = 0; i < static_cast<int>(colonne.size()); ++i) {
+        if (i == piuLarga || isColumnHidden(i) || Proprie().contains(i)) continue;
+        adatta(i, Relativa(colonne, i) * comune / totale);
+    }
+    if (piuLarga >= 0) adatta(piuLarga, resto);
     inAdattamento_ = false;
+}
+
+void VistaGriglia::AzzeraLarghezze() {
+    Proprie().clear();
+    AdattaLarghezze();
+}
+
+void VistaGriglia::NascondiColonna(int colonna, bool nascosta) {
+    if (isColumnHidden(colonna) == nascosta) return;
+    inAdattamento_ = true;
+    setColumnHidden(colonna, nascosta);
+    AdattaLarghezze();
 }
 
 // A view leaves the selection of the model that it had before behind.
 void VistaGriglia::Scambia(QAbstractItemModel& modello) {
     const QItemSelectionModel* selezione = selectionModel();
     inSelezione_ = true;
+    inAdattamento_ = true;
     clearSpans();
     setModel(&modello);
+    for (int i = 0; i < modello.columnCount(); ++i) setColumnHidden(i, false);
+    inAdattamento_ = false;
     inSelezione_ = false;
     delete selezione;
 }
 
 void VistaGriglia::MostraGuida(QAbstractItemModel& guida) {
-    larghezzeTappe_ = Larghezze();
     diGuida_ = true;
     diTappe_ = false;
+    proprie_[1].clear();
     Scambia(guida);
-    larghezzeProprie_ = false;
     AdattaLarghezze();
 }
 
@@ -161,19 +206,27 @@ void VistaGriglia::MostraTappe(QAbstractItemModel& tappe) {
     if (!diGuida_) return;
     diGuida_ = false;
     Scambia(tappe);
-    RipristinaLarghezze(larghezzeTappe_);
-    if (!larghezzeProprie_) AdattaLarghezze();
+    AdattaLarghezze();
 }
 
+// "column:width" each, blanks between.
 QByteArray VistaGriglia::Larghezze() const {
-    if (diGuida_) return larghezzeTappe_;
-    return larghezzeProprie_ ? horizontalHeader()->saveState() : QByteArray();
+    QByteArrayList testi;
+    for (const auto& [colonna, larghezza] : proprie_[0]) {
+        testi += QByteArray::number(colonna) + ':' + QByteArray::number(larghezza);
+    }
+    return testi.join(' ');
 }
 
 void VistaGriglia::RipristinaLarghezze(const QByteArray& larghezze) {
-    inAdattamento_ = true;
-    larghezzeProprie_ = !larghezze.isEmpty() && horizontalHeader()->restoreState(larghezze);
-    inAdattamento_ = false;
+    proprie_[0].clear();
+    for (const QByteArray& testo : larghezze.split(' ')) {
+        const QByteArrayList parti = testo.split(':');
+        const int colonna = parti.value(0).toInt();
+        const int larghezza = parti.value(1).toInt();
+        if (colonna >= 0 && colonna < static_cast<int>(kColonne) && larghezza > 0) proprie_[0][colonna] = larghezza;
+    }
+    AdattaLarghezze();
 }
 
 }  // namespace cronovia

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QTableView>
+#include <array>
+#include <map>
 
 namespace cronovia {
 
@@ -20,6 +22,9 @@ class VistaGriglia : public QTableView {
     void MostraGuida(QAbstractItemModel& guida);
     void MostraTappe(QAbstractItemModel& tappe);
 
+    /// Hides a column, whose room the others take; shows it again.
+    void NascondiColonna(int colonna, bool nascosta);
+
     /// The widths of the columns of stages that the person chose, to be remembered; empty while there are none.
     [[nodiscard]] QByteArray Larghezze() const;
     void RipristinaLarghezze(const QByteArray& larghezze);
@@ -36,15 +41,18 @@ class VistaGriglia : public QTableView {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    using LarghezzeScelte = std::map<int, int>;  // by column
+
     void AdattaLarghezze();
+    void AzzeraLarghezze();
+    [[nodiscard]] LarghezzeScelte& Proprie() { return proprie_[diGuida_ ? 1 : 0]; }
     void Scambia(QAbstractItemModel& modello);
 
     bool diTappe_ = false;
-    bool larghezzeProprie_ = false;  // the person chose them
     bool inAdattamento_ = false;
     bool inSelezione_ = false;
     bool diGuida_ = false;
-    QByteArray larghezzeTappe_;  // while the guide is shown
+    std::array<LarghezzeScelte, 2> proprie_;  // that the person chose, of stages and of the guide
 };
 
 }  // namespace cronovia

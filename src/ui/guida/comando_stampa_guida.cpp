@@ -1,5 +1,6 @@
 #include "ui/guida/comando_stampa_guida.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 
 #include "app/comandi_guida.h"
@@ -57,7 +58,7 @@ std::optional<Stampato> ComandoStampaGuida::Prepara() {
         const DatiStampaGuida dati = PreparaStampaGuida(
             tavolo.Archivio(), tavolo.CodiceMeta(), volti_.postazione.documento.Campi().localita, opzioni_->Opzioni());
         if (dati.localita.empty()) throw Failure(NienteDaStampare(dati.opzioni));
-        documento = StampaGuida(dati, {volti_.postazione.volti.adesso().date(), volti_.finestra.windowTitle()},
+        documento = StampaGuida(dati, {volti_.postazione.volti.adesso().date(), QCoreApplication::applicationName()},
                                 volti_.avanzamento);
     });
     return documento;

@@ -57,7 +57,7 @@ QLayout* FrmGuida::CreaCampi() {
     ore->addWidget(cmbGM_);
     auto* griglia = new QGridLayout;
     griglia->setVerticalSpacing(2);
-    griglia->addWidget(NuovaEtichetta(u"&Località (clicca sulla tabella) sovrastante)"_s, *txtGCitta_), 0, 0);
+    griglia->addWidget(NuovaEtichetta(u"L&ocalità (clicca sulla tabella) sovrastante)"_s, *txtGCitta_), 0, 0);
     griglia->addWidget(NuovaEtichetta(u"&Monumento, museo, località punto sosta, ecc."_s, *txtGDescr_), 0, 1);
     griglia->addWidget(NuovaEtichetta(u"&Tipologia"_s, *cmbGTipo_), 0, 2);
     griglia->addWidget(NuovaEtichetta(u"Tempo (&hhmm)"_s, *cmbGH_), 0, 3);
@@ -85,7 +85,7 @@ QLayout* FrmGuida::CreaComandi() {
         aggiungi(u"cmdCancellaRiga"_s, u"&Cancella riga"_s, u"Cancella la descrizione"_s, &FrmGuida::Cancella);
     aggiungi(u"cmdFind"_s, u"C&erca"_s, u"Cerca una località dell'itinerario"_s, &FrmGuida::Cerca);
     riga->addStretch();
-    aggiungi(u"cmdStampaGuidaCitta"_s, u"S&tampa"_s, u"Stampa la guida delle città"_s, &FrmGuida::Stampa);
+    aggiungi(u"cmdStampaGuidaCitta"_s, u"St&ampa"_s, u"Stampa la guida delle città"_s, &FrmGuida::Stampa);
     cmdFineInserimento_ = aggiungi(u"cmdFineInserimento"_s, u"&Fine inserimento"_s,
                                    u"Fine dell''inserimento della guida ed esce dalla modalità"_s, &FrmGuida::Fine);
     return riga;
@@ -107,7 +107,12 @@ void FrmGuida::Mostra(const QString& localita, const CampiVoce& campi, bool canc
     cmbGTipo_->setEditText(campi.tipo);
     MostraVoce(*cmbGH_, Zero(campi.ore, 2));
     MostraVoce(*cmbGM_, Zero(campi.minuti, 2));
-    cmdCancellaRiga_->setEnabled(cancellabile);
+    cancellabile_ = cancellabile;
+}
+
+void FrmGuida::Abilita(bool libero) {
+    Blocca(*this, !libero);
+    cmdCancellaRiga_->setEnabled(libero && cancellabile_);
 }
 
 CampiVoce FrmGuida::Campi() const {

@@ -21,6 +21,7 @@ class FrmGuida : public QGroupBox {
     void MostraTipi(const std::vector<TipoGuida>& tipi);
     /// Shows the fields of a row; only a row with an entry can be deleted.
     void Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile);
+    void Abilita(bool libero);
     /// What the fields hold, as it was typed.
     [[nodiscard]] CampiVoce Campi() const;
     void FuocoSullaDescrizione();
@@ -45,6 +46,7 @@ class FrmGuida : public QGroupBox {
     QComboBox* cmbGM_;
     QPushButton* cmdCancellaRiga_;
     QPushButton* cmdFineInserimento_;
+    bool cancellabile_ = false;  // the row that is shown
 };
 
 }  // namespace cronovia

@@ -113,7 +113,7 @@ bool SchermoGuida::Mostra(int righeMinime) {
 void SchermoGuida::Abilita(const TavoloGuida& tavolo) {
     const bool libero = !tavolo.ElencoLocalitaVisibile() && !stampa_->Aperto();
     griglia_.setEnabled(libero);
-    riquadro_->setEnabled(libero);
+    riquadro_->Abilita(libero);
 }
 
 void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {

@@ -3,8 +3,8 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "calendar/testo.h"
 #include "ui/comuni/aiuti.h"
@@ -22,6 +22,11 @@ constexpr std::array<Comando, 12> kDisposizione = {Comando::Inserisce,      Coma
                                                    Comando::Cerca,          Comando::Ritorno,     Comando::Duplica,
                                                    Comando::AltriPacchetti, Comando::AzzeraSoste, Comando::Trasferisce,
                                                    Comando::Ricalcola,      Comando::Memorizza,   Comando::Fine};
+
+// More than any distance has: what is pasted is never cut to another number that would do.
+constexpr int kCifreKm = 9;
+
+bool SoloCifre(const QString& testo) { return std::all_of(testo.begin(), testo.end(), &Cifra); }
 
 }  // namespace
 
@@ -43,10 +48,9 @@ QWidget* FrmInputBox::CreaCampi() {
     txtNumStrada_ = NuovaCasella(u"txtNumStrada"_s, 63,
                                  u"Indicare il Numero della strada per giungere alla località descritta; se contiene "
                                  "\"TRAGH\" indica uso di Traghetto"_s);
-    txtKm_ = NuovaCasella(u"txtKm"_s, 5,
+    txtKm_ = NuovaCasella(u"txtKm"_s, kCifreKm,
                           u"Distanza in Km. (obbligatoria in alternativa ad una sosta); vedere informazioni aggiuntive "
                           "su [?]"_s);
-    txtKm_->setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d*"_s), txtKm_));
     ScriviMaiuscolo(*txtTappa_);
     ScriviMaiuscolo(*txtNumStrada_);
     for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) LasciaAnnullare(*casella);
@@ -68,9 +72,8 @@ QWidget* FrmInputBox::CreaCampi() {
     chkKm_ = new QCheckBox(u"Km. progress."_s);
     chkKm_->setObjectName(u"chkKm"_s);
     chkKm_->setToolTip(
-        u"Se attivo, inserendo un valore superiore al progressivo del giorno precedente, viene inserita la differenza"_s);
-    chkKm_->setFocusPolicy(Qt::NoFocus);
-    chkKm_->setAttribute(Qt::WA_TransparentForMouseEvents);
+        u"Se attivo, inserendo un valore superiore al progressivo del giorno precedente, viene inserita la differenza; "
+        "senza la spunta i chilometri sono quelli della tappa"_s);
     auto* riga = new QHBoxLayout;
     riga->addWidget(txtRiga_);
     riga->addStretch();
@@ -119,9 +122,10 @@ void FrmInputBox::Mostra(int riga, const CampiTappa& campi) {
     chkEndDay_->setChecked(campi.fineGiorno);
 }
 
-void FrmInputBox::MostraKmProgressivi(std::optional<bool> attivi) {
-    chkKm_->setVisible(attivi.has_value());
-    chkKm_->setChecked(attivi.value_or(false));
+void FrmInputBox::MostraKmProgressivi(std::optional<bool> possibili) {
+    chkKm_->setVisible(possibili.has_value());
+    chkKm_->setEnabled(possibili.value_or(false));
+    chkKm_->setChecked(possibili.value_or(false));
 }
 
 void FrmInputBox::Applica(const StatoComandi& stato) {
@@ -132,8 +136,10 @@ CampiTappa FrmInputBox::Campi() const {
     CampiTappa campi;
     campi.localita = txtTappa_->text().trimmed();
     campi.numStrada = txtNumStrada_->text().trimmed();
-    campi.km = txtKm_->text().toInt();
-    campi.kmDigitati = txtKm_->isModified();
+    const QString km = txtKm_->text().trimmed();
+    campi.kmLeggibili = SoloCifre(km);
+    campi.km = campi.kmLeggibili ? km.toInt() : 0;
+    campi.kmProgressivi = txtKm_->isModified() && chkKm_->isChecked();
     campi.tipo = LeggiTipoStrada(cmbTipoStrada_->currentText().left(1));
     campi.sosta = {cmbSosta_[0]->currentText().toInt(), cmbSosta_[1]->currentText().toInt(),
                    cmbSosta_[2]->currentText().toInt()};

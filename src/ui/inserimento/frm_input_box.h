@@ -22,11 +22,11 @@ class FrmInputBox : public QGroupBox {
 
     /// Puts a row, counted from 1, and its fields into the controls; without a type that of the road stays.
     void Mostra(int riga, const CampiTappa& campi);
-    /// Whether kilometres are taken for progressive ones; nothing: not shown.
-    void MostraKmProgressivi(std::optional<bool> attivi);
+    /// Whether kilometres can be progressive ones, which the person may deny; nothing: not shown.
+    void MostraKmProgressivi(std::optional<bool> possibili);
     /// Enables the commands.
     void Applica(const StatoComandi& stato);
-    /// What the controls hold, trimmed; kilometres that are no number are 0.
+    /// What the controls hold, trimmed; kilometres that are no number are 0 and so marked.
     [[nodiscard]] CampiTappa Campi() const;
     void FuocoSullaTappa();
     /// The button of one of the itinerary's commands.

@@ -46,10 +46,14 @@ void SchermoInserimento::Mostra(const StatoComandi& stato) {
         mostrati_.reset();
         return;
     }
-    std::pair<int, CampiTappa> campi{postazione_.documento.RigaCorrente(), postazione_.documento.CampiCorrenti()};
-    if (mostrati_ != campi) riquadro_->Mostra(campi.first, campi.second);
-    mostrati_ = std::move(campi);
-    riquadro_->MostraKmProgressivi(comandi::KmProgressivi(postazione_));
+    Mostrati adesso{postazione_.documento.RigaCorrente(), postazione_.documento.CampiCorrenti(),
+                    comandi::KmProgressivi(postazione_)};
+    const bool stessaRiga = mostrati_ && mostrati_->riga == adesso.riga && mostrati_->campi == adesso.campi;
+    if (!stessaRiga) riquadro_->Mostra(adesso.riga, adesso.campi);
+    if (!stessaRiga || mostrati_->progressivi != adesso.progressivi) {
+        riquadro_->MostraKmProgressivi(adesso.progressivi);
+    }
+    mostrati_ = std::move(adesso);
 }
 
 void SchermoInserimento::MostraElenco(bool aperto) {

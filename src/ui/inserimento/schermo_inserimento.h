@@ -4,7 +4,6 @@
 #include <QObject>
 #include <QScrollArea>
 #include <optional>
-#include <utility>
 
 #include "app/postazione.h"
 #include "ui/comuni/elenco_scelta.h"
@@ -30,6 +29,12 @@ class SchermoInserimento : public QObject {
     void FuocoSullaTappa();
 
   private:
+    // What was last put into the frame.
+    struct Mostrati {
+        int riga;
+        CampiTappa campi;
+        std::optional<bool> progressivi;
+    };
     void MostraElenco(bool aperto);
 
     Postazione& postazione_;
@@ -37,7 +42,7 @@ class SchermoInserimento : public QObject {
     Esegui esegui_;
     FrmInputBox* riquadro_;
     QScrollArea* area_;
-    std::optional<std::pair<int, CampiTappa>> mostrati_;  // row and fields last put into the frame
+    std::optional<Mostrati> mostrati_;
 };
 
 }  // namespace cronovia

@@ -146,7 +146,7 @@ DatiStampa ComandoStampa::Dati() const {
 }
 
 PieDiPagina ComandoStampa::Piede() const {
-    return {volti_.postazione.volti.adesso().date(), volti_.finestra.windowTitle()};
+    return {volti_.postazione.volti.adesso().date(), QCoreApplication::applicationName()};
 }
 
 }  // namespace cronovia

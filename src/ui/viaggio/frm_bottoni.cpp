@@ -45,11 +45,6 @@ void FrmBottoni::Applica(const StatoComandi& stato) {
         Pulsante(comando).setEnabled(stato.Abilitato(comando));
         Pulsante(comando).setText(Scritta(comando, stato));
     }
-    // Who took the key away may have left the text.
-    Pulsante(Comando::Calcola).setShortcut(QKeySequence::mnemonic(Pulsante(Comando::Calcola).text()));
-    // While Alt+S unlocks, it does not print as well.
-    Pulsante(Comando::Stampa)
-        .setShortcut(stato.sblocca ? QKeySequence() : QKeySequence::mnemonic(Pulsante(Comando::Stampa).text()));
 }
 
 }  // namespace cronovia

@@ -15,7 +15,7 @@ class FrmBottoni : public QFrame {
   public:
     explicit FrmBottoni(QWidget* parent = nullptr);
 
-    /// Enabled, captions and keys as they are at this moment.
+    /// Enabled and captions as they are at this moment.
     void Applica(const StatoComandi& stato);
     /// The button of one of the main commands.
     [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }

@@ -22,6 +22,13 @@ constexpr int kPrimoAnno = 1998;
 constexpr int kAnniAvanti = 5;
 constexpr std::array<int, 7> kCifreFine = {2, 2, 4, 2, 2, 4, 3};
 
+// The last day on offer: that of the month, as far as it is known.
+int UltimoGiorno(const PartiData& parti) {
+    constexpr int kGiorniDelMesePiuLungo = 31;
+    if (!parti.mese) return kGiorniDelMesePiuLungo;
+    return *LeggiPartiData(u"99"_s + Zero(*parti.mese, 2) + (parti.anno ? Zero(*parti.anno, 4) : QString())).giorno;
+}
+
 // A group of controls in one row, led by its caption.
 QHBoxLayout* NuovoGruppo(QGridLayout& griglia, int riga, const QString& nome, const QString& scritta) {
     auto* gruppo = new QFrame;
@@ -78,7 +85,7 @@ void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
         cmbInizio_[i] = NuovoElenco(NomeDiSerie(u"cmbInizio"_s, static_cast<int>(i)), voci[i], nomi[i]);
         layout->addWidget(cmbInizio_[i]);
         connect(cmbInizio_[i], &QComboBox::activated, this, [this] {
-            ImpostaGiorniMeseInizio();
+            MostraInizio(Inizio());
             Q_EMIT InizioCambiato();
         });
     }
@@ -105,6 +112,10 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
                              u"Giorni che il viaggio deve durare: le soste si adeguano (000 = quanti ne servono)"_s);
     LasciaScrivereCifre(*cmbGiorni_, 4);
     connect(cmbGiorni_, &QComboBox::editTextChanged, this, [this](const QString& testo) {
+        if (testo.isEmpty()) {
+            cmbGiorni_->setEditText(u"000"_s);
+            cmbGiorni_->lineEdit()->selectAll();
+        }
         if (testo.toInt() > kMassimoGiorniAdeguamento) cmbGiorni_->setEditText(u"997"_s);
         Q_EMIT Cambiata();
     });
@@ -121,42 +132,36 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
     griglia.addLayout(layout, 4, 1, 1, 2);
 }
 
-// The days of the month that is chosen, the day itself kept within them.
-void FrmMetePeriodo::ImpostaGiorniMeseInizio() {
-    MettiGiornoSett();
-    for (const std::size_t i : {0U, 1U, 2U}) {
-        if (cmbInizio_[i]->currentIndex() < 0) return;  // no date yet
-    }
-    const int giorni = GiorniMese(cmbInizio_[2]->currentText().toInt(), cmbInizio_[1]->currentText().toInt());
-    const int giorno = std::min(cmbInizio_[0]->currentText().toInt(), giorni);
-    const QSignalBlocker muto(cmbInizio_[0]);
-    cmbInizio_[0]->clear();
-    cmbInizio_[0]->addItems(Numeri(1, giorni, 2));
-    MostraVoce(*cmbInizio_[0], Zero(giorno, 2));
-    MettiGiornoSett();
+// The parts of the date that are chosen, the day kept within its month.
+PartiData FrmMetePeriodo::Inizio() const {
+    const auto parte = [this](std::size_t i) { return AntStr(cmbInizio_[i]->currentText(), i == 2 ? 4 : 2, u' '); };
+    return LeggiPartiData(parte(0) + parte(1) + parte(2));
 }
 
-void FrmMetePeriodo::MettiGiornoSett() {
-    txtInizioGSett_->setText(
-        GiornoSettimana(cmbInizio_[0]->currentText() + cmbInizio_[1]->currentText() + cmbInizio_[2]->currentText()));
+void FrmMetePeriodo::MostraInizio(const PartiData& parti) {
+    const QSignalBlocker muto(cmbInizio_[0]);
+    cmbInizio_[0]->clear();
+    cmbInizio_[0]->addItems(Numeri(1, UltimoGiorno(parti), 2));
+    const std::array<std::optional<int>, 3> numeri = {parti.giorno, parti.mese, parti.anno};
+    for (std::size_t i = 0; i < numeri.size(); ++i) {
+        if (numeri[i]) {
+            MostraVoce(*cmbInizio_[i], Zero(*numeri[i], i == 2 ? 4 : 2));
+        } else {
+            cmbInizio_[i]->setCurrentIndex(-1);
+        }
+    }
+    const std::optional<NumeroGiorno> giorno = parti.Giorno();
+    txtInizioGSett_->setText(giorno ? GiornoSettimana(*giorno) : QString());
 }
 
 void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo) {
     txtCodice_->setText(meta.codice);
     if (txtLocalita_->text() != meta.localita) txtLocalita_->setText(meta.localita);
     if (txtNazione_->text() != meta.nazione) txtNazione_->setText(meta.nazione);
-    if (!meta.dataInizio) {
-        for (const std::size_t i : {0U, 1U, 2U}) cmbInizio_[i]->setCurrentIndex(-1);
-    } else {
-        const Gma gma = GmaDelGiorno(*meta.dataInizio);
-        MostraVoce(*cmbInizio_[1], Zero(gma.mese, 2));
-        MostraVoce(*cmbInizio_[2], Zero(gma.anno, 4));
-        MostraVoce(*cmbInizio_[0], Zero(gma.giorno, 2));
-    }
+    MostraInizio(meta.dataInizio ? LeggiPartiData(DataMemorizzata(*meta.dataInizio)) : meta.partiInizio);
     const QString ora = TestoOrario(meta.oraInizio);
     MostraVoce(*cmbInizio_[3], ora.left(2));
     MostraVoce(*cmbInizio_[4], ora.right(2));
-    ImpostaGiorniMeseInizio();
     cmbSoste_->setCurrentIndex(static_cast<int>(meta.parametri.calcoloSoste) - 1);
     const QSignalBlocker muto(cmbGiorni_);
     cmbGiorni_->clear();
@@ -171,8 +176,9 @@ void FrmMetePeriodo::MostraFine(const std::array<QString, 7>& fine) {
 void FrmMetePeriodo::Leggi(Meta& meta) const {
     meta.localita = txtLocalita_->text();
     meta.nazione = txtNazione_->text();
-    meta.dataInizio = LeggiData(Zero(cmbInizio_[0]->currentText().toInt(), 2) +
-                                Zero(cmbInizio_[1]->currentText().toInt(), 2) + cmbInizio_[2]->currentText());
+    const PartiData inizio = Inizio();
+    meta.dataInizio = inizio.Giorno();
+    meta.partiInizio = meta.dataInizio ? PartiData() : inizio;
     meta.oraInizio = LeggiOrario(cmbInizio_[3]->currentText() + cmbInizio_[4]->currentText());
     meta.giorniAdeguamento = cmbGiorni_->currentText().toInt();
     meta.parametri.calcoloSoste = static_cast<CalcoloSoste>(cmbSoste_->currentIndex() + 1);

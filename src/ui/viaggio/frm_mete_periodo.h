@@ -23,7 +23,7 @@ class FrmMetePeriodo : public QGroupBox {
     void Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo);
     /// Day, month, year, hour, minutes, weekday and number of days of the end; empty texts without a schedule.
     void MostraFine(const std::array<QString, 7>& fine);
-    /// Puts what the fields hold into the trip; a start that is no date becomes nothing.
+    /// Puts what the fields hold into the trip; of a start that is no date, its parts.
     void Leggi(Meta& meta) const;
     void FuocoSullaLocalita();
 
@@ -37,8 +37,8 @@ class FrmMetePeriodo : public QGroupBox {
     void CreaInizio(QGridLayout& griglia, int annoCorrente);
     void CreaFine(QGridLayout& griglia);
     void CreaCalcolo(QGridLayout& griglia);
-    void ImpostaGiorniMeseInizio();
-    void MettiGiornoSett();
+    [[nodiscard]] PartiData Inizio() const;
+    void MostraInizio(const PartiData& parti);
 
     QLineEdit* txtCodice_;
     QLineEdit* txtLocalita_;

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <algorithm>
 
 #include "calendar/testo.h"
 #include "ui/comuni/aiuti.h"
@@ -112,19 +113,24 @@ void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
 void FrmMeteTempi::CreaDefault(QGridLayout& layout) {
     const std::array<std::pair<QString, QString>, 3> comandi = {
         {{u"Sa&lva"_s, u"Salva i tempi e le velocità come valori abituali"_s},
-         {u"Car&ica"_s, u"Carica i valori abituali"_s},
+         {u"Carica"_s, u"Carica i valori abituali"_s},
          {u"&Reset"_s, u"Ripristina i valori iniziali del programma"_s}}};
     auto* riga = new QHBoxLayout;
     for (int i = 0; i < 3; ++i) {
         const auto& [scritta, istruzione] = comandi[static_cast<std::size_t>(i)];
         QPushButton* pulsante = NuovoPulsante(NomeDiSerie(u"cmdDefault"_s, i), scritta, istruzione);
-        if (i == 1) pulsante->setShortcut({});  // its letter is that of the itinerary and of its stages
         connect(pulsante, &QPushButton::clicked, this, [this, i] { Q_EMIT Default(i); });
         riga->addWidget(pulsante);
     }
     riga->addStretch();
     riga->addWidget(NuovoAiuto(u"cmdHelpTempi"_s, u"Tempi tecnici giornalieri"_s, AiutoTempi()));
     layout.addLayout(riga, 6, 0, 1, 7);
+}
+
+bool FrmMeteTempi::OrarioInCorso() const {
+    const auto conFuoco = [](const QComboBox* elenco) { return elenco->hasFocus(); };
+    return std::any_of(cmbOra_.begin(), cmbOra_.end(), conFuoco) ||
+           std::any_of(cmbMin_.begin(), cmbMin_.end(), conFuoco);
 }
 
 void FrmMeteTempi::Mostra(const ParametriViaggio& parametri) {

@@ -25,6 +25,9 @@ class FrmMeteTempi : public QGroupBox {
     /// Puts what the fields hold into the parameters; speeds and policy stay.
     void Leggi(ParametriViaggio& parametri) const;
 
+    /// An hour or its minutes are being chosen.
+    [[nodiscard]] bool OrarioInCorso() const;
+
   Q_SIGNALS:
     void Cambiata();
     /// An hour or its minutes lost the focus.

@@ -5,11 +5,28 @@
 #include <utility>
 
 #include "app/comandi_viaggio.h"
+#include "calendar/testo.h"
 #include "ui/comuni/controlli.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Columns of the list of trips, in characters.
+constexpr int kColonneLocalita = 31;
+constexpr int kColonneNazione = 19;
+
+QString RigaElenco(const QString& localita, const QString& nazione, const QString& partenza) {
+    return AggStr(localita, kColonneLocalita, u' ') + AggStr(nazione, kColonneNazione, u' ') + partenza;
+}
+
+QString TestoInElenco(const MetaInElenco& meta) {
+    return RigaElenco(meta.localita, meta.nazione, meta.dataInizio ? TestoData(*meta.dataInizio) : QString());
+}
+
+}  // namespace
 
 SchermoViaggio::SchermoViaggio(Postazione& postazione, Esegui esegui)
     : postazione_(postazione),
@@ -18,6 +35,7 @@ SchermoViaggio::SchermoViaggio(Postazione& postazione, Esegui esegui)
       velocita_(new FrmMeteVelocita),
       tempi_(new FrmMeteTempi),
       cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)) {
+    cmbRicerca_->Intesta(RigaElenco(u"Mèta"_s, u"Nazione"_s, u"Partenza"_s));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(3);
@@ -42,6 +60,11 @@ void SchermoViaggio::Collega() {
     });
     connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         esegui_([&] { comandi::ScegliMeta(postazione_, voce->data(Qt::UserRole).toString()); });
+        Q_EMIT ElencoChiuso();
+    });
+    connect(cmbRicerca_, &ElencoScelta::Rinuncia, this, [this] {
+        esegui_([this] { comandi::ChiudiElencoMete(postazione_); });
+        Q_EMIT ElencoChiuso();
     });
 }
 
@@ -51,6 +74,13 @@ void SchermoViaggio::Raccogli() {
     velocita_->Leggi(meta.parametri);
     tempi_->Leggi(meta.parametri);
     postazione_.documento.ImpostaCampi(meta);
+}
+
+bool SchermoViaggio::ConcludiIlCampo() {
+    if (!tempi_->OrarioInCorso()) return false;
+    const ParametriViaggio prima = postazione_.documento.Campi().parametri;
+    postazione_.documento.ControllaOrari();
+    return postazione_.documento.Campi().parametri != prima;
 }
 
 void SchermoViaggio::Mostra(bool liberi) {
@@ -66,7 +96,7 @@ void SchermoViaggio::Mostra(bool liberi) {
     tempi_->Mostra(parametri);
     for (QWidget* riquadro :
          {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
-        riquadro->setEnabled(liberi);
+        Blocca(*riquadro, !liberi);
     }
     MostraElenco();
 }
@@ -76,7 +106,7 @@ void SchermoViaggio::MostraElenco() {
     if (elenco != nullptr && !cmbRicerca_->isVisible()) {
         cmbRicerca_->clear();
         for (const MetaInElenco& meta : elenco->mete) {
-            auto* voce = new QListWidgetItem(meta.localita, cmbRicerca_);
+            auto* voce = new QListWidgetItem(TestoInElenco(meta), cmbRicerca_);
             voce->setData(Qt::UserRole, meta.codice);
             if (meta.codice == postazione_.documento.Codice()) cmbRicerca_->setCurrentItem(voce);
         }

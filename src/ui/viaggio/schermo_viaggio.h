@@ -24,11 +24,15 @@ class SchermoViaggio : public QWidget {
     void Raccogli();
     /// Shows the document in the fields, which can be used when they are `liberi`, and the list while it is open.
     void Mostra(bool liberi);
+    /// Takes over and checks the field that is being filled in, as if it had been left; true when others changed by it.
+    bool ConcludiIlCampo();
     void FuocoSullaLocalita() { periodo_->FuocoSullaLocalita(); }
 
   Q_SIGNALS:
     /// The person changed a field.
     void Cambiata();
+    /// A trip was chosen from the list, or none.
+    void ElencoChiuso();
 
   private:
     void Collega();

@@ -1,0 +1,75 @@
+#include "ui/comuni/colori.h"
+
+#include <QEvent>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace cronovia {
+
+namespace {
+
+constexpr double kContrastoMinimo = 4.5;
+constexpr int kPassi = 10;
+
+double Luminanza(const QColor& colore) {
+    const auto lineare = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lineare(colore.redF()) + 0.7152 * lineare(colore.greenF()) + 0.0722 * lineare(colore.blueF());
+}
+
+QColor Misto(const QColor& da, const QColor& a, int passo) {
+    const auto parte = [passo](int x, int y) { return x + (y - x) * passo / kPassi; };
+    return {parte(da.red(), a.red()), parte(da.green(), a.green()), parte(da.blue(), a.blue())};
+}
+
+class SegueIntorno : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() == QEvent::PaletteChange || evento->type() == QEvent::ParentChange) {
+            Colora(*qobject_cast<QLineEdit*>(oggetto));
+        }
+        return false;
+    }
+
+  private:
+    static void Colora(QLineEdit& casella) {
+        if (casella.parentWidget() == nullptr) return;
+        const QPalette intorno = casella.parentWidget()->palette();
+        QPalette colori = casella.palette();
+        colori.setColor(QPalette::Text, intorno.color(QPalette::Active, QPalette::WindowText));
+        colori.setColor(QPalette::Base, intorno.color(QPalette::Active, QPalette::Window));
+        if (colori != casella.palette()) casella.setPalette(colori);
+    }
+};
+
+}  // namespace
+
+double Contrasto(const QColor& a, const QColor& b) {
+    const auto [scuro, chiaro] = std::minmax(Luminanza(a), Luminanza(b));
+    return (chiaro + 0.05) / (scuro + 0.05);
+}
+
+// Controls are drawn on any of the three grounds: a text has to be seen on all of them.
+QPalette ConDisabilitatiLeggibili(QPalette palette) {
+    constexpr std::array kSfondi = {QPalette::Window, QPalette::Base, QPalette::Button};
+    constexpr std::array kTesti = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
+    for (const QPalette::ColorRole testo : kTesti) {
+        const QColor spento = palette.color(QPalette::Disabled, testo);
+        const QColor acceso = palette.color(QPalette::Active, testo);
+        const auto siLegge = [&](const QColor& colore) {
+            return std::all_of(kSfondi.begin(), kSfondi.end(), [&](QPalette::ColorRole sfondo) {
+                return Contrasto(colore, palette.color(QPalette::Disabled, sfondo)) >= kContrastoMinimo;
+            });
+        };
+        int passo = 0;
+        while (passo < kPassi && !siLegge(Misto(spento, acceso, passo))) ++passo;
+        palette.setColor(QPalette::Disabled, testo, Misto(spento, acceso, passo));
+    }
+    return palette;
+}
+
+void ComeIntorno(QLineEdit& casella) { casella.installEventFilter(new SegueIntorno(&casella)); }
+
+}  // namespace cronovia

@@ -1,0 +1,18 @@
+// Colours that stay legible, whatever theme is on.
+#pragma once
+
+#include <QLineEdit>
+#include <QPalette>
+
+namespace cronovia {
+
+/// The contrast of two colours, 1 to 21.
+double Contrasto(const QColor& a, const QColor& b);
+
+/// The palette with texts of disabled controls that can be read: a contrast of 4.5 at least.
+QPalette ConDisabilitatiLeggibili(QPalette palette);
+
+/// Gives a box the colours of what is around it, disabled or not; follows when they change.
+void ComeIntorno(QLineEdit& casella);
+
+}  // namespace cronovia
