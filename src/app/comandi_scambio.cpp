@@ -127,7 +127,9 @@ void Import(Postazione& p) {
         const QString file = p.volti.scegliFile(FileChiesto::Import);
         const StatoFile stato = StatoDelFile(file);
         std::optional<TavoloScambio::Lista> mete;
-        const bool letto = !file.isEmpty() && p.MentreCorre([&] { mete = LeggiElencoMete(file, p.volti.avanzamento); });
+        const bool letto = !file.isEmpty() && p.MentreCorre([&] {
+            mete = LeggiElencoMete(p.sessione.Archivio(), file, p.volti.avanzamento);
+        });
         if (mete) {
             p.schermata = schermata::Scambio{TavoloScambio(ModoScambio::Import, file, std::move(*mete), stato)};
             return;

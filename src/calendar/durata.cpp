@@ -1,5 +1,6 @@
 #include "calendar/durata.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "calendar/testo.h"
@@ -16,6 +17,10 @@ Durata LeggiDurata(QStringView testo) {
     const QString pieno = AntStr(testo, 8, u'0');
     const QStringView parti(pieno);
     return {ValoreNumerico(parti.mid(0, 2)), ValoreNumerico(parti.mid(3, 2)), ValoreNumerico(parti.mid(6, 2))};
+}
+
+bool DurataLeggibile(QStringView testo) {
+    return std::all_of(testo.begin(), testo.end(), [](QChar c) { return Cifra(c) || c == u':' || c == u' '; });
 }
 
 QString Testo(const Durata& durata) {

@@ -24,6 +24,9 @@ struct Durata {
 /// the last eight characters count; what is no number counts as 0.
 Durata LeggiDurata(QStringView testo);
 
+/// Whether a text holds nothing but digits, colons and blanks, so that no part of it would count as 0 unseen.
+bool DurataLeggibile(QStringView testo);
+
 /// "gg:hh:mm", two digits each; the empty text for no time at all.
 QString Testo(const Durata& durata);
 

@@ -23,8 +23,9 @@ class NomiPresenti {
     /// Other installations store one blank behind a name, or in its place.
     std::optional<std::int64_t> Trova(std::span<const NamePattern> prime, const QString& nome);
 
-    /// Tells of a row that was added or changed.
+    /// Tells of a row that was added or changed, and of rows that were deleted.
     void Scritta(std::int64_t id, const std::vector<QString>& valori);
+    void Dimentica() { indice_.reset(); }
 
   private:
     std::optional<std::int64_t> Trova(std::span<const NamePattern> prime, const NamePattern& ultimo);

@@ -28,11 +28,13 @@ EsitoTratto Ritorno(std::span<const Tappa> righe) {
                  [](const Tappa& t) { return !Libera(t); });
     const std::size_t tappe = esito.righe.size();
     esito.rigaCorrente = std::max(1, static_cast<int>(tappe));
+    esito.trovata = false;
     if (tappe == 0) return esito;
     const QString ultima = esito.righe.back().localita.trimmed();
     for (std::size_t nota = tappe - 1; nota > 0; --nota) {
         if (esito.righe[nota - 1].localita.trimmed() != ultima) continue;
         esito.rigaCorrente = static_cast<int>(nota);
+        esito.trovata = true;
         for (std::size_t i = nota - 1; i > 0; --i) {
             esito.righe.push_back(Raggiunta(esito.righe[i - 1], &esito.righe[i]));
         }

@@ -12,6 +12,7 @@ namespace cronovia {
 struct EsitoTratto {
     RigheItinerario righe;
     int rigaCorrente = 1;
+    bool trovata = true;  ///< false when `Ritorno` found no place of the last stage's name: nothing was added
 };
 
 /// Goes back to the departure place over the stages passed on the way out, from the place nearest to the end that is

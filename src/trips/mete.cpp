@@ -116,7 +116,7 @@ std::vector<MetaInElenco> ElencoMete(Archive& archive, QualiMete quali) {
     std::vector<MetaInElenco> elenco;
     for (const Record& record : archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
         MetaInElenco meta{record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed(),
-                          MetaDaRecord(record).dataInizio};
+                          MetaDaRecord(record).dataInizio, false};
         if (quali == QualiMete::Tutte || (!meta.localita.isEmpty() && HaTappe(archive, meta.codice))) {
             elenco.push_back(std::move(meta));
         }

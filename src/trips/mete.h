@@ -44,6 +44,7 @@ struct MetaInElenco {
     QString localita;
     QString nazione;
     std::optional<NumeroGiorno> dataInizio = {};  ///< nothing when it is not known
+    bool presente = false;                        ///< a trip of a file whose destination the archive has already
 
     friend bool operator==(const MetaInElenco&, const MetaInElenco&) = default;
 };

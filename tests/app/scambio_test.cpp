@@ -152,7 +152,7 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     copione_.Messaggio(u"Le mète scelte non sono più nell'archivio: niente è stato esportato."_s);
     ImExp(altro);
     EXPECT_EQ(Lista(1), u"PISA"_s);  // the screen stays as it was
-    EXPECT_EQ(LeggiElencoMete(altro, avanzamento_).value().size(), 1U);
+    EXPECT_EQ(LeggiElencoMete(postazione_->sessione.Archivio(), altro, avanzamento_).value().size(), 1U);
     comandi::FineScambio(*postazione_);
     EXPECT_NE(Schermo(), u"scambio"_s);
 }

@@ -15,6 +15,7 @@ TEST(Tratti, TheWayBackTakesTheRoadsOfTheWayOut) {
     struct Caso {
         QString andata, conRitorno;
         int riga;
+        bool trovata = true;
     };
     const std::vector<Caso> casi = {
         {u"A B/A1/10 C/A2/20/* D/A3/30 B/A4/40"_s, u"A B/A1/10 C/A2/20/* D/A3/30 B/A4/40 A/A1/10"_s, 2},
@@ -23,13 +24,14 @@ TEST(Tratti, TheWayBackTakesTheRoadsOfTheWayOut) {
          u"A B/A1/10 C/A2/20/* B/A3/30 D/A4/40 B/A5/50 C/A3/30 B/A2/20 A/A1/10"_s, 4},
         {u"A B/A1/10 C/A2/20 A/A3/30"_s, u"A B/A1/10 C/A2/20 A/A3/30"_s, 1},
         {u"A - B/A1/10 - B/A2/0"_s, u"A B/A1/10 B/A2/0 A/A1/10"_s, 2},  // free rows go
-        {u"A - B/A1/10 C/A2/20"_s, u"A B/A1/10 C/A2/20"_s, 3},
-        {u"A"_s, u"A"_s, 1},
-        {u"- -"_s, u""_s, 1},
+        {u"A - B/A1/10 C/A2/20"_s, u"A B/A1/10 C/A2/20"_s, 3, false},
+        {u"A"_s, u"A"_s, 1, false},
+        {u"- -"_s, u""_s, 1, false},
     };
     for (const Caso& caso : casi) {
         const EsitoTratto esito = Ritorno(Righe(caso.andata));
         EXPECT_EQ(Testo(esito.righe), caso.conRitorno);
+        EXPECT_EQ(esito.trovata, caso.trovata) << caso.andata.toStdString();
         EXPECT_EQ(esito.rigaCorrente, caso.riga) << caso.andata.toStdString();
     }
 }

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QSet>
 
+#include "exchange/nomi_presenti.h"
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -36,10 +37,11 @@ void ScorriMete(QIODevice& device, const QString& path, const Lettura& lettura, 
     }
 }
 
-std::optional<std::vector<MetaInElenco>> LeggiElencoMete(const QString& path, Progress& progress) {
+std::optional<std::vector<MetaInElenco>> LeggiElencoMete(Archive& archive, const QString& path, Progress& progress) {
     const std::unique_ptr<QFile> file = ApriInLettura(path);
     std::vector<MetaInElenco> elenco;
     QSet<QString> codici;
+    NomiPresenti presenti(archive, Table::MeteVandro, {mete::Localita});
     progress.Title(u"Esportazione mète"_s);
     const Lettura lettura{Table::MeteVandro, u"Esportazione tabella "_s, u"in corso"_s};
     try {
@@ -47,8 +49,10 @@ std::optional<std::vector<MetaInElenco>> LeggiElencoMete(const QString& path, Pr
             const QString& codice = riga.valori[mete::CodiceMeta];
             if (codici.contains(codice)) return;
             codici.insert(codice);
-            elenco.push_back({codice, riga.valori[mete::Localita].left(Width(Table::MeteVandro, mete::Localita)),
-                              riga.valori[mete::Nazione].left(Width(Table::MeteVandro, mete::Nazione))});
+            const QString localita = riga.valori[mete::Localita].left(Width(Table::MeteVandro, mete::Localita));
+            elenco.push_back({codice, localita,
+                              riga.valori[mete::Nazione].left(Width(Table::MeteVandro, mete::Nazione)),
+                              LeggiData(riga.valori[mete::DataInizio]), presenti.Trova({}, localita).has_value()});
         });
     } catch (const Stopped&) {
         return std::nullopt;

@@ -13,9 +13,10 @@
 
 namespace cronovia {
 
-/// The trips that can be imported, in the file's order, their codes as the file has them; nothing when the person
-/// stopped the reading. A `Failure` when the file is no exchange file.
-std::optional<std::vector<MetaInElenco>> LeggiElencoMete(const QString& path, Progress& progress);
+/// The trips that can be imported, in the file's order, their codes as the file has them, those marked that an import
+/// would leave out as the archive has them; nothing when the person stopped the reading. A `Failure` when the file is
+/// no exchange file.
+std::optional<std::vector<MetaInElenco>> LeggiElencoMete(Archive& archive, const QString& path, Progress& progress);
 
 /// Whether a record of the trips section can be imported: it has a destination and a code of a bearable length.
 bool MetaImportabile(const RigaIei& riga);

@@ -7,7 +7,6 @@
 #include "files/file_intero.h"
 #include "files/windows1252.h"
 #include "interaction/failure.h"
-#include "trips/mete.h"
 
 namespace cronovia {
 
@@ -156,6 +155,17 @@ EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
         esito.interrotta = true;
         return esito;
     }
+}
+
+QString NomeFileExport(std::span<const MetaInElenco> mete) {
+    QString nome = mete.empty() ? QString() : mete.front().localita.trimmed();
+    for (QChar& c : nome) {
+        if (c < u' ' || QStringView(u"/\\:*?\"<>|").contains(c)) c = u'-';
+    }
+    while (nome.startsWith(u'.')) nome.remove(0, 1);
+    if (nome.isEmpty()) nome = u"Mete"_s;
+    if (mete.size() > 1) nome += u" e altre %1"_s.arg(mete.size() - 1);
+    return nome + u".iei"_s;
 }
 
 QString TestoEsito(const EsitoExport& esito) {

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <span>
 #include <vector>
 
 #include "interaction/progress.h"
 #include "store/archive.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 
@@ -31,6 +33,10 @@ struct EsitoExport {
 /// Writes the file, whole or not at all. A `Failure` when the file exists and may not be replaced, when it cannot be
 /// written, when a code is unknown, or when there is no trip. An archive is never replaced.
 EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress);
+
+/// The name that a file with these trips is proposed under: "CAPO NORD.iei", or "CAPO NORD e altre 2.iei". What a name
+/// of a file cannot hold on every system is "-". "Mete.iei" without any trip.
+QString NomeFileExport(std::span<const MetaInElenco> mete);
 
 /// The text of the closing box.
 QString TestoEsito(const EsitoExport& esito);

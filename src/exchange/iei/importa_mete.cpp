@@ -5,7 +5,8 @@
 #include <QHash>
 #include <array>
 
-#include "calendar/testo.h"
+#include "calendar/date.h"
+#include "calendar/durata.h"
 #include "exchange/iei/elenco_mete.h"
 #include "exchange/iei/mappa_codici.h"
 #include "exchange/nomi_presenti.h"
@@ -18,6 +19,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
+
+constexpr int kMassimoTappe = 9999;
+
+// Zeros in front go; what is left is not cut.
+bool SequenzaInQuattroCifre(QString& sequenza) {
+    const int larghezza = Width(Table::Itinerari, itinerari::Sequenza);
+    while (sequenza.size() > larghezza && sequenza.startsWith(u'0')) sequenza.remove(0, 1);
+    return sequenza.size() <= larghezza;
+}
 
 QString Adattato(const QString& valore, const FieldDefinition& campo) { return valore.left(campo.width); }
 
@@ -47,6 +57,9 @@ class Importatore {
     void ImportaMeta(RigaIei& riga);
     void ImportaTappa(RigaIei& riga);
     void ImportaVoce(RigaIei& riga);
+    void AggiustaData(QString& data);
+    void AggiustaSosta(QString& sosta);
+    void Togli(MetaDaImportare& meta);
     bool HaTappe(const QString& localita);
     void Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti);
 
@@ -79,18 +92,52 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     }
     meta->stato = StatoMeta::Inserita;
     ++esito_.meteInserite;
+    AggiustaData(riga.valori[mete::DataInizio]);
     Inserisci(riga, meta->codice, mete_);
 }
 
+void Importatore::AggiustaData(QString& data) {
+    if (data.isEmpty() || LeggiData(data)) return;
+    const std::optional<NumeroGiorno> vicino = LeggiPartiData(data).Giorno();
+    ++(vicino ? esito_.dateCorrette : esito_.dateIlleggibili);
+    data = vicino ? DataMemorizzata(*vicino) : QString();
+}
+
+void Importatore::AggiustaSosta(QString& sosta) {
+    if (DurataLeggibile(sosta)) return;
+    ++esito_.sosteRifiutate;
+    sosta.clear();
+}
+
 void Importatore::ImportaTappa(RigaIei& riga) {
-    const MetaDaImportare* meta = codici_.Trova(riga.valori[itinerari::CodiceMeta]);
+    MetaDaImportare* meta = codici_.Trova(riga.valori[itinerari::CodiceMeta]);
     if (meta == nullptr || meta->stato == StatoMeta::InAttesa) {
         ++esito_.tappeSenzaMeta;
     } else if (meta->stato == StatoMeta::Inserita) {
-        ++esito_.tappeInserite;
-        Inserisci(riga, meta->codice, tappe_);
         conTappe_.clear();
+        if (meta->tappe == kMassimoTappe || !SequenzaInQuattroCifre(riga.valori[itinerari::Sequenza])) {
+            Togli(*meta);
+            return;
+        }
+        ++meta->tappe;
+        ++esito_.tappeInserite;
+        AggiustaSosta(riga.valori[itinerari::TempoSosta]);
+        Inserisci(riga, meta->codice, tappe_);
     }
+}
+
+// What was added of a trip goes again: no part of it is worth having.
+void Importatore::Togli(MetaDaImportare& meta) {
+    Progress muto;
+    const NamePattern questa = NamePattern::Exactly(meta.codice);
+    archive_.DeleteMatching(Table::Itinerari, Condition{itinerari::CodiceMeta, questa}, muto);
+    archive_.DeleteMatching(Table::MeteVandro, Condition{mete::CodiceMeta, questa}, muto);
+    mete_.Dimentica();
+    tappe_.Dimentica();
+    meta.stato = StatoMeta::TroppoLunga;
+    --esito_.meteInserite;
+    esito_.tappeInserite -= meta.tappe;
+    ++esito_.meteTroppoLunghe;
 }
 
 void Importatore::ImportaVoce(RigaIei& riga) {

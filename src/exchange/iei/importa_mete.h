@@ -34,8 +34,12 @@ struct EsitoImport {
 
     std::map<std::pair<Table, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
     qint64 codiciRipetuti = 0;                           ///< trips with the code of one before them
-    qint64 meteIncomplete = 0;  ///< trips without destination, or without a code of at most 20 characters
-    qint64 tappeSenzaMeta = 0;  ///< stages of no trip of the file
+    qint64 meteIncomplete = 0;    ///< trips without destination, or without a code of at most 20 characters
+    qint64 tappeSenzaMeta = 0;    ///< stages of no trip of the file
+    qint64 meteTroppoLunghe = 0;  ///< trips of more than 9,999 stages; left out with them
+    qint64 dateCorrette = 0;      ///< of the trips added: days outside their month, now its first or last one
+    qint64 dateIlleggibili = 0;   ///< that are no date at all; stored as one blank
+    qint64 sosteRifiutate = 0;    ///< that are no duration, negative ones among them; stored as one blank
     ScartiLettura lettura;
 
     TracciaImport traccia;  ///< to take it back by
@@ -44,9 +48,10 @@ struct EsitoImport {
 /// Adds what the archive has not yet, whole or not at all. A trip whose destination is stored, by the rules of name
 /// matching, is left out with its stages; so is a guide entry whose locality and description are stored, and one at
 /// whose locality no stage ends. Empty values and fields that the file lacks are stored as one blank, values too wide
-/// for their field with the characters that fit. Codes that are taken, or that have not six digits, are replaced. A
-/// `Failure` when the file is no exchange file, when it changed since its trips were listed, or when a code is not in
-/// it.
+/// for their field with the characters that fit. A date is put into its month, a stop that is none is left out, and so
+/// is a trip whose stages cannot be numbered with four digits. Codes that are taken, or that have not six digits, are
+/// replaced. A `Failure` when the file is no exchange file, when it changed since its trips were listed, or when a code
+/// is not in it.
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress);
 
 /// The same from a device that can be read twice; without a state the path is only its name in messages.

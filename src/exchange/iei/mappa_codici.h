@@ -14,12 +14,14 @@ enum class StatoMeta {
     NonScelta,  ///< the import does not take it
     InAttesa,   ///< its record was not met yet
     Inserita,
-    Scartata,  ///< its destination was stored already
+    Scartata,    ///< its destination was stored already
+    TroppoLunga  ///< has more stages than a trip can have
 };
 
 /// A trip on its way from the file into the archive.
 struct MetaDaImportare {
     QString codice;  ///< in the archive
+    int tappe = 0;   ///< of those met
     StatoMeta stato = StatoMeta::NonScelta;
 };
 

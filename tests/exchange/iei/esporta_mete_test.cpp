@@ -97,6 +97,18 @@ TEST_F(Export, IntoAnEmptyFolderAndBackGivesTheSameRows) {
     EXPECT_EQ(ImportaMete({archive_, file_, {}}, progress_).meteScartate, 3);
 }
 
+TEST(NomeFileExport, IsThatOfTheFirstTripAsEverySystemTakesIt) {
+    for (const auto& [localita, nome] :
+         std::vector<std::pair<QStringList, QString>>{{{u" CAPO NORD "_s}, u"CAPO NORD.iei"_s},
+                                                      {{u"A/B\\C:D"_s, u"X"_s, u"Y"_s}, u"A-B-C-D e altre 2.iei"_s},
+                                                      {{u"..\t?"_s}, u"--.iei"_s},
+                                                      {{}, u"Mete.iei"_s}}) {
+        std::vector<MetaInElenco> mete;
+        for (const QString& una : localita) mete.push_back({{}, una, {}, {}, false});
+        EXPECT_EQ(NomeFileExport(mete), nome);
+    }
+}
+
 TEST_F(Export, RefusesBeforeAnythingIsWritten) {
     EXPECT_EQ(Rifiuto(), u"Non ci sono mète da esportare: niente è stato esportato."_s);
     TreMete();

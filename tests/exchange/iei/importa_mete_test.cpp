@@ -123,6 +123,45 @@ TEST_F(Import, TellsWhatItDidNotTakeAsItStood) {
               "virgolette e caratteri di controllo tolti: 2."_s);
 }
 
+TEST_F(Import, ATripThatCannotBeNumberedStaysOutAndItsGuideToo) {
+    QByteArray tappe;
+    for (int i = 1; i <= 10'000; ++i) {
+        tappe += "000001|0001|Lunga\n";
+        if (i < 10'000) tappe += "000002|" + QByteArray::number(i).rightJustified(5, '0') + "|Giusta\n";
+    }
+    const EsitoImport esito =
+        Importa(archive_, Mete("000001|Alba|I\n000002|Bari|I\n000003|Como|I\n") +
+                              Tappe(tappe + "000003|9999|Lago\n000003|10000|Lago\n000003|0001|Lago\n") +
+                              Guida("Lunga|01|A\nGiusta|01|B\nLago|01|C\n"));
+    EXPECT_THAT(LeMete(), ElementsAre(u"000002|Bari|I"_s));
+    EXPECT_THAT(LaGuida(), ElementsAre(u"Giusta|01|B"_s));
+    EXPECT_EQ(LeTappe().size(), 9'999);
+    EXPECT_EQ(LeTappe().back(), u"000002|9999|Giusta"_s);
+    EXPECT_EQ(esito.tappeInserite, 9'999);
+    EXPECT_TRUE(TestoEsito(esito).contains(u"mète non inserite perché hanno più di 9.999 tratti stradali: 2"_s));
+}
+
+TEST_F(Import, DatesAndStopsThatAreNoneArePutRightAndTold) {
+    const EsitoImport esito = Importa(
+        archive_, prova::Sezione('\xFF',
+                                 "CodiceMeta|Localita|DataInizio\n000001|Alba|31022027\n000002|Bari|00032028\n"
+                                 "000003|Como|01132027\n000004|Dolo|domani\n000005|Este|\n000006|Fano|31122099\n") +
+                      prova::Sezione('\xFE',
+                                     "CodiceMeta|Sequenza|TempoSosta\n000001|0001|-1:00:00\n000001|0002|1:30\n"
+                                     "000001|0003|un'ora\n000001|0004|01:02:03\n"));
+    QStringList date;
+    archive_.ForEach(Table::MeteVandro, [&](const Record& record) { date += record[mete::DataInizio]; });
+    EXPECT_THAT(date, ElementsAre(u"28022027"_s, u"01032028"_s, u" "_s, u" "_s, u" "_s, u"31122099"_s));
+    QStringList soste;
+    archive_.ForEach(Table::Itinerari, [&](const Record& record) { soste += record[itinerari::TempoSosta]; });
+    EXPECT_THAT(soste, ElementsAre(u" "_s, u"1:30"_s, u" "_s, u"01:02:03"_s));
+    EXPECT_TRUE(
+        TestoEsito(esito).endsWith(u"date d'inizio fuori dal loro mese, corrette: 2;\r\n"
+                                   "date d'inizio illeggibili, lasciate vuote: 2;\r\n"
+                                   "soste che non sono una durata, non inserite: 2."_s))
+        << TestoEsito(esito).toStdString();
+}
+
 // Throws in the middle of the file, at the second reading.
 class Interruzione : public Progress {
   public:

@@ -92,18 +92,19 @@ TEST(LettoreIei, RecordsAndCounts) {
     }
 }
 
-TEST(LeggiElencoMete, NamesTheTripsThatCanBeImported) {
+TEST(LeggiElencoMete, NamesTheTripsThatCanBeImportedAndMarksThoseHere) {
     const prova::CartellaDiProva cartella;
-    cartella.Crea();
+    Archive archive = Archive::Open(cartella.Percorso());
+    prova::Inserisci(archive, Table::MeteVandro, {u"000001"_s, u"nizza "_s});
     const QString file = cartella.Percorso() + u"/amici.iei"_s;
     prova::ScriviFile(file, Mete("000007|Roma|Italia\n|Senza codice|I\n000008||I\n000007|Di nuovo|I\nX1|Nizza|F\n") +
                                 Tappe("000007|0001|Lucca\n"));
     Progress progress;
-    EXPECT_THAT(LeggiElencoMete(file, progress).value(),
-                ::testing::ElementsAre(MetaInElenco{u"000007"_s, u"Roma"_s, u"Italia"_s},
-                                       MetaInElenco{u"X1"_s, u"Nizza"_s, u"F"_s}));
+    EXPECT_THAT(LeggiElencoMete(archive, file, progress).value(),
+                ::testing::ElementsAre(MetaInElenco{u"000007"_s, u"Roma"_s, u"Italia"_s, {}, false},
+                                       MetaInElenco{u"X1"_s, u"Nizza"_s, u"F"_s, {}, true}));
     prova::Fermata fermata;
-    EXPECT_FALSE(LeggiElencoMete(file, fermata).has_value());
+    EXPECT_FALSE(LeggiElencoMete(archive, file, fermata).has_value());
 }
 
 }  // namespace
