@@ -72,8 +72,8 @@ void CheckWidths(const TableDefinition& table, std::span<const QString> values) 
     for (std::size_t i = 0; i < table.fields.size(); ++i) {
         const FieldDefinition& field = table.fields[i];
         if (field.width == 0 || values[i].size() <= field.width) continue;
-        throw Failure(u"Il valore «%1» è troppo lungo per il campo %2 di %3: al massimo %4 caratteri."_s.arg(
-            values[i], field.name, table.name, QString::number(field.width)));
+        throw Failure(
+            u"Il testo «%1» è troppo lungo: al massimo %2 caratteri."_s.arg(values[i], QString::number(field.width)));
     }
 }
 

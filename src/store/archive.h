@@ -81,6 +81,10 @@ class Archive {
     void ForEachMatch(Table table, int field, std::span<const NamePattern> patterns,
                       const std::function<void(std::size_t, Record&&)>& visit);
 
+    /// Lays a copy of the file under a path where there is none: as it was written last, also within a transaction that
+    /// has written nothing yet.
+    void CopyTo(const QString& path) const;
+
     /// How many rows a table has.
     std::int64_t Count(Table table);
 

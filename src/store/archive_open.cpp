@@ -28,4 +28,12 @@ Archive Archive::Open(const QString& folder) {
     }
 }
 
+// Through a connection of its own: that of a transaction cannot be copied from.
+void Archive::CopyTo(const QString& path) const {
+    Guarded(connection_->Path(), [&] {
+        SQLite::Database source(connection_->Path().toStdString(), SQLite::OPEN_READONLY);
+        CopyDatabase(source, path);
+    });
+}
+
 }  // namespace cronovia

@@ -9,14 +9,24 @@ using namespace Qt::StringLiterals;
 const TableDefinition& Definition(Table table) {
 #define CRONOVIA_DEFINITION(name, width) {u"" #name ""_s, width},
     static const std::array<TableDefinition, 6> definitions = {{
-        {u"MeteVandro"_s, {CRONOVIA_METE_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s, u"Localita"_s}},
+        {u"MeteVandro"_s,
+         {CRONOVIA_METE_FIELDS(CRONOVIA_DEFINITION)},
+         {u"CodiceMeta"_s, u"Localita"_s},
+         u"delle mète"_s},
         {u"Itinerari"_s,
          {CRONOVIA_ITINERARI_FIELDS(CRONOVIA_DEFINITION)},
-         {u"CodiceMeta"_s, u"Sequenza"_s, u"Localita"_s}},
-        {u"GuidaCitta"_s, {CRONOVIA_GUIDA_FIELDS(CRONOVIA_DEFINITION)}, {u"Localita"_s}},
-        {u"TipoGuida"_s, {CRONOVIA_TIPOGUIDA_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceGuida"_s}},
-        {u"MetaCorrente"_s, {CRONOVIA_METACORRENTE_FIELDS(CRONOVIA_DEFINITION)}, {u"MetaCorrente"_s}},
-        {u"Parametri"_s, {CRONOVIA_PARAMETRI_FIELDS(CRONOVIA_DEFINITION)}, {}},
+         {u"CodiceMeta"_s, u"Sequenza"_s, u"Localita"_s},
+         u"degli itinerari"_s},
+        {u"GuidaCitta"_s, {CRONOVIA_GUIDA_FIELDS(CRONOVIA_DEFINITION)}, {u"Localita"_s}, u"della guida"_s},
+        {u"TipoGuida"_s,
+         {CRONOVIA_TIPOGUIDA_FIELDS(CRONOVIA_DEFINITION)},
+         {u"CodiceGuida"_s},
+         u"dei tipi della guida"_s},
+        {u"MetaCorrente"_s,
+         {CRONOVIA_METACORRENTE_FIELDS(CRONOVIA_DEFINITION)},
+         {u"MetaCorrente"_s},
+         u"della mèta corrente"_s},
+        {u"Parametri"_s, {CRONOVIA_PARAMETRI_FIELDS(CRONOVIA_DEFINITION)}, {}, u"dei parametri"_s},
     }};
 #undef CRONOVIA_DEFINITION
     return definitions.at(static_cast<std::size_t>(table) - 1);

@@ -104,6 +104,7 @@ struct TableDefinition {
     QString name;
     std::vector<FieldDefinition> fields;  ///< in the order of the table's columns
     std::vector<QString> indexes;         ///< names of the fields that have an index, each a single-field one
+    QString people;                       ///< what messages call its contents, with its article: "delle mète"
 };
 
 /// What a table is declared as.

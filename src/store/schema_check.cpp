@@ -22,6 +22,14 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+// Another program may hold the file.
+void CopyDatabase(SQLite::Database& database, const QString& path) {
+    SQLite::Database target(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    SQLite::Backup backup(target, database);
+    const int result = backup.executeStep();
+    if (result != SQLITE_DONE) throw SQLite::Exception("backup", result);
+}
+
 namespace {
 
 constexpr int kApplicationId = 0x56437276;  // "VCrv"
@@ -114,10 +122,10 @@ void RefuseValuesThatDoNotFit(SQLite::Database& database, const TableDefinition&
         const int count = statement.getColumn(0).getInt();
         if (count == 0) continue;
         throw Failure(
-            u"Errore apertura database %1: nella tabella %2 il campo %3 dev'essere di %4 caratteri, ma non bastano "
-            "(valori più lunghi: %5, fino a %6 caratteri). Il file non è stato modificato."_s.arg(
-                QDir::toNativeSeparators(path), table.name, field.name, QString::number(field.width),
-                QString::number(count), QString::number(statement.getColumn(1).getInt())));
+            u"Errore apertura database %1: per certi testi %2 c'è posto per %3 caratteri, ma %4 di loro sono più "
+            "lunghi, fino a %5. Il file non è stato modificato."_s.arg(
+                QDir::toNativeSeparators(path), table.people, QString::number(field.width), QString::number(count),
+                QString::number(statement.getColumn(1).getInt())));
     }
 }
 
@@ -168,14 +176,6 @@ void MendIndexes(SQLite::Database& database, const TableDefinition& table) {
         database.exec("DROP INDEX IF EXISTS " + name);
         database.exec("CREATE INDEX " + name + " ON " + Quoted(table.name) + " (" + Quoted(field) + " COLLATE NOCASE)");
     }
-}
-
-// A copy is whole or the attempt has failed: another program may hold the file.
-void CopyDatabase(SQLite::Database& database, const QString& path) {
-    SQLite::Database target(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    SQLite::Backup backup(target, database);
-    const int result = backup.executeStep();
-    if (result != SQLITE_DONE) throw SQLite::Exception("backup", result);
 }
 
 // Lays a copy beside the file, under the first free number.

@@ -17,4 +17,7 @@ void RefuseForeignFile(const QString& path);
 /// an existing table set is changed, a copy of the file is laid beside it. Refused when a value does not fit its field.
 void UpdateTables(SQLite::Database& database, const QString& path);
 
+/// Copies the database into a new file; an `SQLite::Exception` when it could not be done whole.
+void CopyDatabase(SQLite::Database& database, const QString& path);
+
 }  // namespace cronovia

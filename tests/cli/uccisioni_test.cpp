@@ -162,6 +162,7 @@ TEST(Uccisioni, AConversionIsWholeOrAbsentAndCanBeDoneAgain) {
             prova::Programma::EseguiNudo({u"--cartella"_s, uccisore.Cartella(), u"converte"_s});
         ASSERT_EQ(ancora.codice, 0) << ancora.errori.toStdString();
         ASSERT_EQ(Tutto(uccisore.Cartella()), uccisore.Dopo());
+        ASSERT_EQ(QDir(uccisore.Cartella()).entryList({u"Vecchi file*"_s}, QDir::Dirs).size(), 1);
     }
     std::cout << "conversions killed: " << Uccisioni() << ", whole " << interi << ", absent " << Uccisioni() - interi
               << ", done again " << ripresi << '\n';

@@ -150,7 +150,7 @@ TEST_F(ArchiveOpen, DatabasesThatCannotBeMendedAreRefused) {
          {std::pair{"DROP TABLE Parametri; PRAGMA user_version = 99", u"versione più recente"_s},
           {"CREATE TABLE g (Localita TEXT(40)); INSERT INTO g VALUES ('1234567890123456789012345678901'); "
            "DROP TABLE GuidaCitta; ALTER TABLE g RENAME TO GuidaCitta; DROP TABLE Itinerari",
-           u"nella tabella GuidaCitta il campo Localita"_s}}) {
+           u"per certi testi della guida c'è posto per 30 caratteri, ma 1 di loro"_s}}) {
         QFile::remove(cartella_.Archivio());
         CreaArchivio();
         Esegui(cartella_.Archivio(), sql);

@@ -5,11 +5,14 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QSet>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 #include <map>
 #include <memory>
 
+#include "calendar/date.h"
+#include "calendar/durata.h"
 #include "calendar/testo.h"
 #include "exchange/nomi_presenti.h"
 #include "exchange/vecchi/vecchi_file.h"
@@ -25,7 +28,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t kFileMostrati = 20;  // no box is higher than a screen
+constexpr qsizetype kRigheMostrate = 20;  // no box is higher than a screen
 
 NamePattern Codice(const QString& codice) { return NamePattern::Exactly(codice); }
 
@@ -34,22 +37,38 @@ struct VecchieTappe {
     std::map<QString, std::vector<QString>> tappe;
     QString difetto;  // why the file cannot be converted
     qint64 guasti = 0;
+    qint64 saltate = 0;
+    bool troncato = false;
 };
+
+VecchieTappe Difettose(const QString& difetto) { return {{}, difetto, 0, 0, false}; }
+
+// A trip that starts now, with the personal parameters.
+std::vector<QString> Predefiniti(Archive& archive, const QDateTime& adesso) {
+    Meta meta;
+    meta.dataInizio = NumeroDelGiorno({adesso.date().day(), adesso.date().month(), adesso.date().year()});
+    meta.oraInizio = InCentesimi({0, adesso.time().hour(), adesso.time().minute() / 15 * 15}, kGiornoOrologio);
+    meta.parametri = CaricaDefaultMeta(archive);
+    return ValoriDellaMeta(meta);
+}
 
 VecchieTappe LeggiVecchieTappe(const QString& path) {
     const std::unique_ptr<QFile> file = ApriInLettura(path);
-    if (!LettoreRecord::Interi(*file, FormaVecchieTappe()))
-        return {{}, u"è troncato o non ha record di 64 caratteri"_s, 0};
+    if (!LettoreRecord::Possibile(*file, FormaVecchieTappe()))
+        return Difettose(u"è troncato o non ha record di 64 caratteri"_s);
     LettoreRecord lettore(*file, FormaVecchieTappe(), path);
     RecordFisso record;
     const std::optional<int> annunciate = lettore.Leggi(record) ? NumeroVecchieTappe(record) : std::nullopt;
-    if (!annunciate) return {{}, u"i due numeri delle tappe non sono uguali"_s, 0};
-    if (lettore.NumeroRecord() - 1 < *annunciate) return {{}, u"ha meno tappe di quante ne annuncia"_s, 0};
+    if (!annunciate) return Difettose(u"i due numeri delle tappe non sono uguali"_s);
+    if (lettore.NumeroRecord() - 1 < *annunciate && !lettore.Troncato())
+        return Difettose(u"ha meno tappe di quante ne annuncia"_s);
     VecchieTappe lette;
+    lette.troncato = lettore.Troncato();
     for (int numero = 1; numero <= *annunciate && lettore.Leggi(record); ++numero) {
         const StatoRecord stato = StatoVecchiaTappa(record);
         if (stato == StatoRecord::Valido) lette.tappe[Zero(numero, 4)] = ValoriVecchiaTappa(record);
         if (stato == StatoRecord::Guasto) ++lette.guasti;
+        if (stato == StatoRecord::Saltato) ++lette.saltate;
     }
     if (*annunciate > 0 && lette.tappe.empty()) lette.difetto = u"nessuna delle sue tappe è leggibile"_s;
     return lette;
@@ -58,13 +77,17 @@ VecchieTappe LeggiVecchieTappe(const QString& path) {
 class Convertitore {
   public:
     Convertitore(const RichiestaConversione& richiesta, Progress& progress)
-        : archive_(richiesta.archive), file_(richiesta.cartella, richiesta.adesso), progress_(progress) {}
+        : archive_(richiesta.archive),
+          file_(richiesta.cartella, richiesta.adesso),
+          predefiniti_(Predefiniti(richiesta.archive, richiesta.adesso)),
+          progress_(progress) {}
 
     EsitoConversione Esegui();
 
   private:
     void ConvertiMete(const QString& path);
-    void ConvertiMeta(const RecordFisso& record, const std::vector<QString>& altri);
+    void CopiaDatabase(const QString& copia, const QString& path);
+    void ConvertiMeta(const RecordFisso& record);
     void ConvertiItinerari();
     void ConvertiItinerario(const QString& codice, const QString& nome);
     void MemorizzaTappe(const QString& codice, const std::map<QString, std::vector<QString>>& tappe);
@@ -72,11 +95,16 @@ class Convertitore {
     void MemorizzaVoce(const std::vector<QString>& valori, NomiPresenti& presenti);
     template <typename Visita>
     void ScorriRecord(const QString& path, const FormaRecord& forma, Visita&& visita);
+    [[nodiscard]] std::optional<Record> Memorizzata(const QString& codice) {
+        return archive_.SelectFirst({Table::MeteVandro, {{mete::CodiceMeta, Codice(codice)}}});
+    }
     void Lascia(const QString& nome, const QString& perche) { esito_.lasciati.push_back({nome, perche}); }
+    void LasciaUltimo(const QString& nome) { Lascia(nome, u"l'ultimo record è troncato e non è stato convertito"_s); }
     void CancellaConvertiti();
 
     Archive& archive_;
     VecchiFile file_;
+    std::vector<QString> predefiniti_;  // all fields of a new trip
     Progress& progress_;
     EsitoConversione esito_;
     QSet<QString> convertite_;           // codes of the trips
@@ -96,10 +124,11 @@ EsitoConversione Convertitore::Esegui() {
         transaction.Commit();
     }
     file_.Tieni();
-    esito_.cartellaCopie = file_.CartellaCopie();
     if (guida) daCancellare_.push_back(*guida);
     daCancellare_.push_back(*mete);
     CancellaConvertiti();
+    file_.Concludi();
+    esito_.cartellaCopie = file_.CartellaCopie();
     progress_.Advance(0, 0);
     return std::move(esito_);
 }
@@ -124,30 +153,50 @@ void Convertitore::ScorriRecord(const QString& path, const FormaRecord& forma, V
             QDir::toNativeSeparators(path)));
     }
     esito_.guasti += guasti;
+    if (lettore.Troncato()) LasciaUltimo(QFileInfo(path).fileName());
 }
 
 void Convertitore::ConvertiMete(const QString& path) {
     progress_.Title(u"Conversione file mète"_s);
-    const std::vector<QString> parametri = ValoriDeiParametri(CaricaDefaultMeta(archive_));
-    const std::vector<QString> altri = {parametri[parametri::OreTraghetti], u"000"_s,
-                                        parametri[parametri::CalcoloSoste]};
+    CopiaDatabase(file_.Copia(path), path);
     ScorriRecord(path, FormaVecchieMete(), [&](const RecordFisso& record) {
         const StatoRecord stato = StatoVecchiaMeta(record);
-        if (stato == StatoRecord::Valido) ConvertiMeta(record, altri);
+        if (stato == StatoRecord::Valido) ConvertiMeta(record);
+        if (stato == StatoRecord::Saltato) ++esito_.cancellati;
         return stato;
     });
 }
 
-// `altri` are the fields that the old record lacks, for a new trip.
-void Convertitore::ConvertiMeta(const RecordFisso& record, const std::vector<QString>& altri) {
-    std::vector<QString> valori = ValoriVecchiaMeta(record);
+// Before anything is written, when something stored is going to change.
+void Convertitore::CopiaDatabase(const QString& copia, const QString& path) {
+    const std::unique_ptr<QFile> file = ApriInLettura(copia);
+    LettoreRecord lettore(*file, FormaVecchieMete(), path);
+    RecordFisso record;
+    while (lettore.Leggi(record)) {
+        HeedStop(progress_);
+        if (StatoVecchiaMeta(record) != StatoRecord::Valido || !Memorizzata(CodiceVecchiaMeta(record))) continue;
+        const QString posto = file_.PostoPerDatabase(u"VandroCronovia.mdb"_s);
+        archive_.CopyTo(posto);
+        esito_.copiaDatabase = QFileInfo(posto).fileName();
+        return;
+    }
+}
+
+void Convertitore::ConvertiMeta(const RecordFisso& record) {
+    VecchiaMeta vecchia = LeggiVecchiaMeta(record, predefiniti_);
+    std::vector<QString>& valori = vecchia.valori;
     const QString codice = valori[mete::CodiceMeta];
-    std::optional<Record> gia = archive_.SelectFirst({Table::MeteVandro, {{mete::CodiceMeta, Codice(codice)}}});
-    if (gia) {
+    for (const mete::Field campo : vecchia.sostituiti) {
+        esito_.campiSostituiti.push_back({valori[mete::Localita], NomeCampoMeta(campo)});
+    }
+    if (std::optional<Record> gia = Memorizzata(codice)) {
+        if (!convertite_.contains(codice)) {
+            esito_.meteSostituite.push_back({codice, (*gia)[mete::Localita].trimmed(), valori[mete::Localita]});
+        }
         std::copy(valori.begin(), valori.end(), gia->values.begin());
         archive_.Update(Table::MeteVandro, *gia);
     } else {
-        valori.insert(valori.end(), altri.begin(), altri.end());
+        valori.insert(valori.end(), predefiniti_.begin() + std::ssize(valori), predefiniti_.end());
         archive_.Insert(Table::MeteVandro, valori);
     }
     convertite_.insert(codice);
@@ -180,6 +229,8 @@ void Convertitore::ConvertiItinerario(const QString& codice, const QString& nome
     if (lette.difetto.isEmpty()) {
         MemorizzaTappe(codice, lette.tappe);
         esito_.guasti += lette.guasti;
+        esito_.tappeSaltate += lette.saltate;
+        if (lette.troncato) LasciaUltimo(nome);
         daCancellare_.push_back(*path);
     } else {
         Lascia(nome, lette.difetto);
@@ -235,6 +286,15 @@ void Convertitore::CancellaConvertiti() {
     }
 }
 
+// A paragraph of the closing box; nothing without rows.
+QString Elenco(const QString& titolo, const QStringList& righe) {
+    if (righe.isEmpty()) return {};
+    const auto mostrate = std::min(righe.size(), kRigheMostrate);
+    QString testo = u"\r\n\r\n"_s + titolo + u"\r\n"_s + righe.first(mostrate).join(u"\r\n"_s);
+    if (righe.size() > mostrate) testo += u"\r\ne altri "_s + Raggruppa(righe.size() - mostrate);
+    return testo;
+}
+
 }  // namespace
 
 EsitoConversione ConvertiVecchiFile(const RichiestaConversione& richiesta, Progress& progress) {
@@ -254,14 +314,25 @@ QString TestoEsito(const EsitoConversione& esito) {
         testo +=
             u"\r\n\r\nUna copia dei vecchi file è nella cartella "_s + QDir::toNativeSeparators(esito.cartellaCopie);
     }
-    if (!esito.lasciati.empty()) testo += u"\r\n\r\nFile da controllare:"_s;
-    const std::size_t mostrati = std::min(esito.lasciati.size(), kFileMostrati);
-    for (std::size_t i = 0; i < mostrati; ++i) {
-        testo += u"\r\n%1: %2"_s.arg(esito.lasciati[i].nome, esito.lasciati[i].perche);
-    }
-    const auto altri = static_cast<qint64>(esito.lasciati.size() - mostrati);
-    if (altri > 0) testo += u"\r\ne altri "_s + Raggruppa(altri);
-    if (esito.guasti > 0) testo += u"\r\n\r\nRecord illeggibili, non convertiti: "_s + Raggruppa(esito.guasti);
+    QStringList righe;
+    for (const auto& [codice, prima, adesso] : esito.meteSostituite)
+        righe += u"%1 %2: ora %3"_s.arg(codice, prima, adesso);
+    testo +=
+        Elenco(u"Mète sostituite (il database com'era prima è %1, con le copie):"_s.arg(esito.copiaDatabase), righe);
+    righe.clear();
+    for (const auto& [meta, campo] : esito.campiSostituiti) righe += meta + u": "_s + campo;
+    testo += Elenco(u"Campi illeggibili, convertiti con il valore predefinito:"_s, righe);
+    righe.clear();
+    for (const auto& [nome, perche] : esito.lasciati) righe += nome + u": "_s + perche;
+    testo += Elenco(u"File da controllare:"_s, righe);
+    QString conti;
+    const auto conta = [&](const QString& cosa, qint64 quanti) {
+        if (quanti > 0) conti += u"\r\n"_s + cosa + u": "_s + Raggruppa(quanti);
+    };
+    conta(u"Record illeggibili, non convertiti"_s, esito.guasti);
+    conta(u"Mète cancellate nell'edizione precedente, non convertite"_s, esito.cancellati);
+    conta(u"Tappe senza una località in lettere maiuscole, non convertite"_s, esito.tappeSaltate);
+    if (!conti.isEmpty()) testo += u"\r\n"_s + conti;
     return testo;
 }
 

@@ -22,8 +22,24 @@ struct EsitoConversione {
     bool interrotta = false;  ///< the person stopped it: nothing was converted, all that follows is empty
     qint64 mete = 0;
     qint64 tappe = 0;
-    qint64 voci = 0;    ///< of the city guide
-    qint64 guasti = 0;  ///< records left out
+    qint64 voci = 0;          ///< of the city guide
+    qint64 guasti = 0;        ///< records left out as they cannot be read
+    qint64 cancellati = 0;    ///< trips left out as the earlier release had deleted them
+    qint64 tappeSaltate = 0;  ///< stages left out as they name no locality in capital letters
+    /// A field of a trip that could not be read and got its default.
+    struct CampoSostituito {
+        QString meta;
+        QString campo;
+    };
+    std::vector<CampoSostituito> campiSostituiti;
+    /// A stored trip in whose place one of the same number came.
+    struct MetaSostituita {
+        QString codice;
+        QString prima;
+        QString adesso;
+    };
+    std::vector<MetaSostituita> meteSostituite;
+    QString copiaDatabase;  ///< name of the copy in the folder of the copies; when a trip was replaced
     /// A file that the person should look after, and why.
     struct FileLasciato {
         QString nome;
@@ -34,9 +50,10 @@ struct EsitoConversione {
 };
 
 /// Trips, stages and guide entries are added, or change those stored under the same code, sequence, locality and
-/// description; nothing else goes. Whole or not at all. The guide gets its nine standard types. The files converted are
-/// removed at the very end, that of the trips last. A `Failure` when there is no file of trips, or when that or the
-/// guide's is not what it should be.
+/// description; nothing else goes. Whole or not at all; before a stored trip changes, the database is copied. A field
+/// of a trip that cannot be read gets its default, a record that ends too early is passed over. The guide gets its nine
+/// standard types. The files converted are removed at the very end, that of the trips last. A `Failure` when there is
+/// no file of trips, or when that or the guide's is not what it should be.
 EsitoConversione ConvertiVecchiFile(const RichiestaConversione& richiesta, Progress& progress);
 
 /// The text of the closing box.

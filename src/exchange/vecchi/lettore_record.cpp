@@ -28,19 +28,21 @@ QString TestoDelRecord(QByteArrayView byte, bool& guasto) {
 
 int FormaRecord::LunghezzaCampi() const { return std::accumulate(campi.begin(), campi.end(), 0); }
 
-bool LettoreRecord::Interi(const QIODevice& device, const FormaRecord& forma) {
-    const qint64 resto = device.size() % forma.lunghezza;
-    return resto == 0 || resto >= forma.LunghezzaCampi();
+bool LettoreRecord::Possibile(const QIODevice& device, const FormaRecord& forma) {
+    return device.size() == 0 || device.size() >= forma.LunghezzaCampi();
 }
 
 LettoreRecord::LettoreRecord(QIODevice& device, FormaRecord forma, const QString& path)
     : device_(device), forma_(std::move(forma)), path_(QDir::toNativeSeparators(path)) {
-    if (!Interi(device, forma_)) {
+    if (!Possibile(device, forma_)) {
         throw Failure(
             u"Il file %1 è troncato o non è dell'edizione precedente: non contiene record di %2 caratteri."_s.arg(
                 path_, QString::number(forma_.lunghezza)));
     }
-    numero_ = (device.size() + forma_.lunghezza - 1) / forma_.lunghezza;
+    const qint64 resto = device.size() % forma_.lunghezza;
+    const bool ultimoIntero = resto >= forma_.LunghezzaCampi();
+    numero_ = device.size() / forma_.lunghezza + (ultimoIntero ? 1 : 0);
+    troncato_ = resto > 0 && !ultimoIntero;
 }
 
 bool LettoreRecord::Leggi(RecordFisso& record) {
@@ -50,11 +52,13 @@ bool LettoreRecord::Leggi(RecordFisso& record) {
         throw Failure(u"Il file %1 non si può leggere fino in fondo."_s.arg(path_));
     }
     ++letti_;
-    record.guasto = false;
+    record.illeggibili.clear();
     record.campi.clear();
     qsizetype inizio = 0;
     for (const int larghezza : forma_.campi) {
-        record.campi.push_back(TestoDelRecord(QByteArrayView(byte).sliced(inizio, larghezza), record.guasto));
+        bool guasto = false;
+        record.campi.push_back(TestoDelRecord(QByteArrayView(byte).sliced(inizio, larghezza), guasto));
+        record.illeggibili.push_back(guasto);
         inizio += larghezza;
     }
     return true;

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QIODevice>
 #include <QString>
+#include <algorithm>
 #include <vector>
 
 namespace cronovia {
@@ -19,8 +20,13 @@ struct FormaRecord {
 
 /// A record as it was read.
 struct RecordFisso {
-    std::vector<QString> campi;  ///< character by character, but for the blanks at their end; zero bytes are blanks
-    bool guasto = false;         ///< holds characters that no program writes into a text
+    std::vector<QString> campi;     ///< character by character, but for the blanks at their end; zero bytes are blanks
+    std::vector<bool> illeggibili;  ///< of the fields: with characters that no program writes into a text
+
+    /// Whether one of the fields is.
+    [[nodiscard]] bool Guasto() const {
+        return std::find(illeggibili.begin(), illeggibili.end(), true) != illeggibili.end();
+    }
 
     /// A field whose characters have no fixed places, without the blanks around it.
     [[nodiscard]] QString operator[](std::size_t campo) const { return campi[campo].trimmed(); }
@@ -29,8 +35,8 @@ struct RecordFisso {
 /// Hands over record after record, in a bounded amount of memory.
 class LettoreRecord {
   public:
-    /// Whether the device can hold whole records of that form; the last one may end behind its fields.
-    static bool Interi(const QIODevice& device, const FormaRecord& forma);
+    /// Whether the device can hold records of that form: one that is whole, or nothing at all.
+    static bool Possibile(const QIODevice& device, const FormaRecord& forma);
 
     /// A `Failure` when it cannot. `path` is its name in messages.
     LettoreRecord(QIODevice& device, FormaRecord forma, const QString& path);
@@ -38,7 +44,9 @@ class LettoreRecord {
     /// Reads the next record; false at the end. A `Failure` when the device cannot be read.
     bool Leggi(RecordFisso& record);
 
-    /// Of the device, those read included.
+    /// Whether something of a record stands behind the last whole one, which may itself end behind its fields.
+    [[nodiscard]] bool Troncato() const { return troncato_; }
+    /// Whole records of the device, those read included.
     [[nodiscard]] qint64 NumeroRecord() const { return numero_; }
     [[nodiscard]] qint64 Letti() const { return letti_; }
 
@@ -48,6 +56,7 @@ class LettoreRecord {
     QString path_;
     qint64 numero_ = 0;
     qint64 letti_ = 0;
+    bool troncato_ = false;
 };
 
 }  // namespace cronovia

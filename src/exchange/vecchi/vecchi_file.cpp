@@ -47,7 +47,9 @@ VecchiFile::VecchiFile(const QString& cartella, const QDateTime& adesso)
     : cartella_(cartella), adesso_(adesso), nomi_(NomiDei(cartella)) {}
 
 VecchiFile::~VecchiFile() {
-    if (!tenuti_ && !copie_.isEmpty()) QDir(copie_).removeRecursively();
+    if (tenuti_ || copie_.isEmpty()) return;
+    for (const QString& copia : fatte_) QFile::remove(copia);
+    QDir().rmdir(copie_);
 }
 
 std::optional<QString> VecchiFile::Trova(const QString& nome) const {
@@ -57,17 +59,34 @@ std::optional<QString> VecchiFile::Trova(const QString& nome) const {
 }
 
 void VecchiFile::CreaCartella() {
-    const QString nome = u"Vecchi file "_s + adesso_.toString(u"yyyy-MM-dd HH.mm.ss"_s);
-    QString libero = nome;
-    for (int numero = 2; QFileInfo::exists(QDir(cartella_).filePath(libero)); ++numero) {
-        libero = nome + u" (%1)"_s.arg(numero);
-    }
-    if (!QDir(cartella_).mkdir(libero)) {
+    const QString cartella = QDir(cartella_).filePath(u"Vecchi file in corso"_s);
+    if (!QDir().mkpath(cartella)) {
         throw Failure(
             u"La cartella %1 per le copie dei vecchi file non si può creare: niente è stato convertito."_s.arg(
-                QDir::toNativeSeparators(QDir(cartella_).filePath(libero))));
+                QDir::toNativeSeparators(cartella)));
     }
-    copie_ = QDir(cartella_).filePath(libero);
+    copie_ = cartella;
+}
+
+void VecchiFile::Concludi() {
+    if (copie_.isEmpty()) return;
+    const QString nome =
+        NomeLibero(QDir(cartella_).filePath(u"Vecchi file "_s + adesso_.toString(u"yyyy-MM-dd HH.mm.ss"_s)));
+    if (QDir().rename(copie_, nome)) copie_ = nome;
+}
+
+// With a number before what comes behind the name, when there is such a file already.
+QString VecchiFile::NomeLibero(const QString& nome, const QString& dopo) {
+    QString libero = nome + dopo;
+    for (int numero = 2; QFileInfo::exists(libero); ++numero) libero = nome + u" (%1)"_s.arg(numero) + dopo;
+    return libero;
+}
+
+QString VecchiFile::PostoPerDatabase(const QString& nome) {
+    if (copie_.isEmpty()) CreaCartella();
+    const QFileInfo file(nome);
+    fatte_ += NomeLibero(QDir(copie_).filePath(file.completeBaseName()), u'.' + file.suffix());
+    return fatte_.back();
 }
 
 QString VecchiFile::FileDellaCopia(const QString& path) const {
@@ -86,7 +105,8 @@ QString VecchiFile::Copia(const QString& path) {
         copia.Scrivi(blocco);
     }
     copia.Chiudi();
-    return FileDellaCopia(path);
+    fatte_ += FileDellaCopia(path);
+    return fatte_.back();
 }
 
 void VecchiFile::Togli(const QString& copia) {

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace cronovia {
@@ -16,8 +17,9 @@ QString NomeVecchieMete();
 QString NomeVecchiaGuida();
 QString NomeVecchieTappe(const QString& codiceMeta);
 
-/// Each file is copied into a folder of its own, named by date and time, and read from there: it may change meanwhile.
-/// Unless they are kept, the copies go with the object.
+/// Each file is copied into a folder of its own and read from there: it may change meanwhile. Unless they are kept, the
+/// copies go with the object. The folder is named by date and time at the very end; one that was left by a conversion
+/// that did not come so far is gone on with.
 class VecchiFile {
   public:
     VecchiFile(const QString& cartella, const QDateTime& adesso);
@@ -33,8 +35,13 @@ class VecchiFile {
     /// Takes a copy back.
     void Togli(const QString& copia);
 
-    /// The copies stay; their folder is empty when there are none.
+    /// Where a copy of the database can be laid, under a name that is free.
+    QString PostoPerDatabase(const QString& nome);
+
+    /// The copies stay.
     void Tieni() { tenuti_ = true; }
+    /// All is done: the folder gets its name.
+    void Concludi();
     /// Path of the folder of the copies; empty before the first one.
     [[nodiscard]] const QString& CartellaCopie() const { return copie_; }
 
@@ -43,12 +50,14 @@ class VecchiFile {
 
   private:
     void CreaCartella();
+    static QString NomeLibero(const QString& nome, const QString& dopo = {});
     [[nodiscard]] QString FileDellaCopia(const QString& path) const;
 
     QString cartella_;
     QDateTime adesso_;
     QHash<QString, QString> nomi_;  // by the name in small letters
     QString copie_;
+    QStringList fatte_;  // what this object has laid there
     bool tenuti_ = false;
 };
 

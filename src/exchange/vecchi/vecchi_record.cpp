@@ -5,6 +5,7 @@
 
 #include "calendar/date.h"
 #include "calendar/testo.h"
+#include "trips/meta.h"
 
 namespace cronovia {
 
@@ -14,8 +15,11 @@ namespace {
 
 namespace vecchia {
 constexpr std::size_t kLocalita = 0;
+constexpr std::size_t kNazione = 1;
 constexpr std::size_t kDataInizio = 2;
 constexpr std::array<std::size_t, 9> kOrari = {3, 8, 9, 10, 11, 12, 13, 19, 20};
+constexpr std::size_t kPrimaMedia = 4;
+constexpr std::size_t kUltimaMedia = 7;
 constexpr std::size_t kNumeroMeta = 14;
 }  // namespace vecchia
 
@@ -26,7 +30,7 @@ bool SoloCifre(QStringView testo) {
 bool SoloCifreEBlank(QString testo) { return SoloCifre(testo.remove(u' ')); }
 
 bool TuttoVuoto(const RecordFisso& record) {
-    return !record.guasto &&
+    return !record.Guasto() &&
            std::all_of(record.campi.begin(), record.campi.end(), [](const QString& campo) { return campo.isEmpty(); });
 }
 
@@ -47,11 +51,24 @@ bool InPosizione(std::size_t campo) {
            std::find(vecchia::kOrari.begin(), vecchia::kOrari.end(), campo) != vecchia::kOrari.end();
 }
 
-bool DataEOrariValidi(const RecordFisso& record) {
-    const QString& data = record.campi[vecchia::kDataInizio];
-    return (data.isEmpty() || LeggiData(BlankComeZeri(data))) &&
-           std::all_of(vecchia::kOrari.begin(), vecchia::kOrari.end(),
-                       [&](std::size_t campo) { return Orario(record.campi[campo]); });
+bool Media(const QString& campo) {
+    const QString testo = campo.trimmed();
+    const int media = ValoreNumerico(testo);
+    return testo.isEmpty() || (SoloCifre(testo) && media >= kMinimaMedia && media <= kMassimaMedia);
+}
+
+bool Illeggibili(const RecordFisso& record, std::initializer_list<std::size_t> campi) {
+    return std::any_of(campi.begin(), campi.end(), [&](std::size_t campo) { return record.illeggibili[campo]; });
+}
+
+// Whether a field of a trip, beyond its names and its number, tells what it should.
+bool Leggibile(const RecordFisso& record, std::size_t campo) {
+    const QString& testo = record.campi[campo];
+    if (record.illeggibili[campo]) return false;
+    if (campo == vecchia::kDataInizio) return testo.isEmpty() || LeggiData(BlankComeZeri(testo));
+    if (InPosizione(campo)) return SoloCifreEBlank(testo) && Orario(testo);
+    if (campo >= vecchia::kPrimaMedia && campo <= vecchia::kUltimaMedia) return Media(testo);
+    return SoloCifreEBlank(testo);
 }
 
 QString LocalitaDellaTappa(const RecordFisso& record) {
@@ -74,20 +91,59 @@ const FormaRecord& FormaVecchieMete() {
 }
 
 StatoRecord StatoVecchiaMeta(const RecordFisso& record) {
-    if (record[vecchia::kLocalita].startsWith(".."_L1) || TuttoVuoto(record)) return StatoRecord::Vuoto;
-    const bool numeri = std::all_of(record.campi.begin() + vecchia::kDataInizio, record.campi.end(), SoloCifreEBlank);
-    const bool completa = !record[vecchia::kLocalita].isEmpty() && ValoreNumerico(record[vecchia::kNumeroMeta]) > 0;
-    return !record.guasto && numeri && completa && DataEOrariValidi(record) ? StatoRecord::Valido : StatoRecord::Guasto;
+    if (TuttoVuoto(record)) return StatoRecord::Vuoto;
+    if (record[vecchia::kLocalita].startsWith(".."_L1)) return StatoRecord::Saltato;
+    const bool completa = !record[vecchia::kLocalita].isEmpty() && ValoreNumerico(record[vecchia::kNumeroMeta]) > 0 &&
+                          SoloCifreEBlank(record.campi[vecchia::kNumeroMeta]);
+    return completa && !Illeggibili(record, {vecchia::kLocalita, vecchia::kNazione, vecchia::kNumeroMeta})
+               ? StatoRecord::Valido
+               : StatoRecord::Guasto;
 }
 
+QString CodiceVecchiaMeta(const RecordFisso& record) { return Zero(ValoreNumerico(record[vecchia::kNumeroMeta]), 6); }
+
 // The old order is that of the table but for the number, which stands behind the night hour.
-std::vector<QString> ValoriVecchiaMeta(const RecordFisso& record) {
-    std::vector<QString> valori{Zero(ValoreNumerico(record[vecchia::kNumeroMeta]), 6)};
+VecchiaMeta LeggiVecchiaMeta(const RecordFisso& record, std::span<const QString> predefiniti) {
+    VecchiaMeta meta{{CodiceVecchiaMeta(record)}, {}};
     for (std::size_t i = 0; i < record.campi.size(); ++i) {
         if (i == vecchia::kNumeroMeta) continue;
-        valori.push_back(ConBlank(InPosizione(i) ? BlankComeZeri(record.campi[i]) : record[i]));
+        const std::size_t campo = meta.valori.size();
+        if (i < vecchia::kDataInizio || Leggibile(record, i)) {
+            meta.valori.push_back(ConBlank(InPosizione(i) ? BlankComeZeri(record.campi[i]) : record[i]));
+        } else {
+            meta.sostituiti.push_back(static_cast<mete::Field>(campo));
+            meta.valori.push_back(predefiniti[campo]);
+        }
     }
-    return valori;
+    return meta;
+}
+
+QString NomeCampoMeta(mete::Field campo) {
+    static const std::array<QString, mete::kCampi> nomi = {u"codice"_s,
+                                                           u"località"_s,
+                                                           u"nazione"_s,
+                                                           u"data d'inizio"_s,
+                                                           u"ora d'inizio"_s,
+                                                           u"media Autostrada"_s,
+                                                           u"media SuperStrada"_s,
+                                                           u"media Principale"_s,
+                                                           u"media Locale"_s,
+                                                           u"ora di colazione"_s,
+                                                           u"ora di pranzo"_s,
+                                                           u"durata del pranzo"_s,
+                                                           u"ora di cena"_s,
+                                                           u"durata della cena"_s,
+                                                           u"ora della notte"_s,
+                                                           u"minuti di riposo"_s,
+                                                           u"ore fra i riposi"_s,
+                                                           u"giorni di riposo"_s,
+                                                           u"giorni fra i riposi"_s,
+                                                           u"inizio visite"_s,
+                                                           u"fine visite"_s,
+                                                           u"ore dei traghetti"_s,
+                                                           u"giorni di adeguamento"_s,
+                                                           u"calcolo delle soste"_s};
+    return nomi.at(campo);
 }
 
 const FormaRecord& FormaVecchieTappe() {
@@ -97,16 +153,16 @@ const FormaRecord& FormaVecchieTappe() {
 
 std::optional<int> NumeroVecchieTappe(const RecordFisso& testa) {
     const bool numeri =
-        !testa[0].isEmpty() && SoloCifre(testa[0]) && !testa[1].isEmpty() && SoloCifre(testa[1]) && !testa.guasto;
+        !testa[0].isEmpty() && SoloCifre(testa[0]) && !testa[1].isEmpty() && SoloCifre(testa[1]) && !testa.Guasto();
     if (!numeri || ValoreNumerico(testa[0]) != ValoreNumerico(testa[1])) return std::nullopt;
     return ValoreNumerico(testa[0]);
 }
 
 StatoRecord StatoVecchiaTappa(const RecordFisso& record) {
-    if (record.guasto || !SoloCifre(record[1])) return StatoRecord::Guasto;
+    if (record.Guasto() || !SoloCifre(record[1])) return StatoRecord::Guasto;
     const QString localita = LocalitaDellaTappa(record);
     const bool nome = !localita.isEmpty() && localita.front() >= u'A' && localita.front() <= u'Z';
-    return nome ? StatoRecord::Valido : StatoRecord::Vuoto;
+    return nome ? StatoRecord::Valido : TuttoVuoto(record) ? StatoRecord::Vuoto : StatoRecord::Saltato;
 }
 
 std::vector<QString> ValoriVecchiaTappa(const RecordFisso& record) {
@@ -124,7 +180,7 @@ const FormaRecord& FormaVecchiaGuida() {
 
 StatoRecord StatoVecchiaVoce(const RecordFisso& record) {
     if (TuttoVuoto(record)) return StatoRecord::Vuoto;
-    const bool valida = !record.guasto && !record[0].isEmpty() && !record[1].isEmpty() && SoloCifre(record[1]);
+    const bool valida = !record.Guasto() && !record[0].isEmpty() && !record[1].isEmpty() && SoloCifre(record[1]);
     return valida ? StatoRecord::Valido : StatoRecord::Guasto;
 }
 
