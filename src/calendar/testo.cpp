@@ -17,6 +17,10 @@ void ScriviCifre(int valore, QChar* inizio, QChar* fine) {
 
 bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 
+bool HaCaratteriDiControllo(QStringView testo) {
+    return std::any_of(testo.begin(), testo.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
 QString Zero(int valore, int lunghezza) {
     if (valore < 0) return AntStr(QString::number(valore), lunghezza, u'0');
     QString cifre(lunghezza, Qt::Uninitialized);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "app/cartella_dati.h"
+#include "calendar/testo.h"
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -76,6 +77,17 @@ void AggiungiOpzioniComuni(QCommandLineParser& parser) {
     parser.addOption({{u"h"_s, u"help"_s}, {}});
 }
 
+// Bytes that are no text become replacement characters: a folder of that name would be another one.
+QString LeggiCartella(const QCommandLineParser& parser) {
+    if (!parser.isSet(u"cartella"_s)) return {};
+    QString cartella = parser.value(u"cartella"_s);
+    if (cartella.isEmpty()) throw WrongUsage(u"All'opzione --cartella manca il nome di una cartella."_s);
+    if (cartella.contains(QChar::ReplacementCharacter) || HaCaratteriDiControllo(cartella)) {
+        throw WrongUsage(u"Il nome dato all'opzione --cartella non è un testo valido."_s);
+    }
+    return cartella;
+}
+
 void Analizza(QCommandLineParser& parser, const QStringList& riga) {
     if (parser.parse(riga)) return;
     const QStringList sconosciute = parser.unknownOptionNames();
@@ -120,7 +132,7 @@ Comando LeggiVerbo(const Verbo& verbo, const QString& cartella, const QStringLis
     for (const Opzione& opzione : verbo.opzioni) parser.addOption({opzione.nome, {}, opzione.valore});
     Analizza(parser, riga);
     if (parser.isSet(u"help"_s)) return {Comando::Genere::AiutoDelVerbo, &verbo, {}, {}};
-    const QString dove = parser.isSet(u"cartella"_s) ? parser.value(u"cartella"_s) : cartella;
+    const QString dove = parser.isSet(u"cartella"_s) ? LeggiCartella(parser) : cartella;
     return {Comando::Genere::Verbo, &verbo, dove, LeggiRichiesta(verbo, parser)};
 }
 
@@ -134,12 +146,13 @@ Comando Leggi(const QStringList& riga) {
     QStringList resto = parser.positionalArguments();
     if (parser.isSet(u"version"_s)) return {Comando::Genere::Versione, nullptr, {}, {}};
     if (parser.isSet(u"help"_s) && resto.isEmpty()) return {Comando::Genere::Aiuto, nullptr, {}, {}};
+    const QString cartella = LeggiCartella(parser);
     if (resto.isEmpty()) throw WrongUsage(u"Manca il verbo."_s);
     const Verbo* verbo = TrovaVerbo(resto.first());
     if (verbo == nullptr) throw WrongUsage(u"Il verbo «%1» non esiste."_s.arg(resto.first()));
     if (parser.isSet(u"help"_s)) resto += u"--help"_s;
     if (parser.isSet(u"formato"_s)) resto.insert(1, u"--formato="_s + parser.value(u"formato"_s));
-    return LeggiVerbo(*verbo, parser.value(u"cartella"_s), resto);
+    return LeggiVerbo(*verbo, cartella, resto);
 }
 
 void Esegui(const Comando& comando, QTextStream& uscita) {
@@ -169,7 +182,11 @@ std::optional<RichiestaFinestra> RichiestaDellaFinestra(const QStringList& riga)
     const QStringList argomenti = parser.positionalArguments();
     const bool soloFile = argomenti.size() == 1 && argomenti.first().endsWith(".iei"_L1, Qt::CaseInsensitive);
     if (!argomenti.isEmpty() && !soloFile) return std::nullopt;
-    return RichiestaFinestra{parser.value(u"cartella"_s), argomenti.value(0)};
+    try {
+        return RichiestaFinestra{LeggiCartella(parser), argomenti.value(0)};
+    } catch (const WrongUsage&) {
+        return std::nullopt;  // to be told in words
+    }
 }
 
 bool VuoleCaratteri(const QStringList& riga) {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <utility>
 
+#include "calendar/testo.h"
 #include "cli/opzioni_calcolo.h"
 #include "print/tabella_testo.h"
 
@@ -19,6 +20,10 @@ std::optional<int> Richiesta::Intero(const QString& nome, int minimo, int massim
             nome, QString::number(minimo), QString::number(massimo), opzioni.value(nome)));
     }
     return valore;
+}
+
+void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo) {
+    if (HaCaratteriDiControllo(testo)) throw WrongUsage(cosa + u" contiene caratteri di controllo."_s);
 }
 
 OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta) {

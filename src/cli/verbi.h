@@ -59,6 +59,9 @@ struct Richiesta {
     [[nodiscard]] std::optional<int> Intero(const QString& nome, int minimo, int massimo) const;
 };
 
+/// `WrongUsage` when an argument, of which `cosa` is the name, holds control characters.
+void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo);
+
 struct Verbo {
     QString nome;
     QString argomenti;  ///< as the help shows them

@@ -62,6 +62,8 @@ void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
 void EseguiNuova(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const QDateTime inizio = richiesta.opzioni.contains(u"inizio"_s) ? LeggiInizio(richiesta.opzioni.value(u"inizio"_s))
                                                                      : InizioProposto(QDateTime::currentDateTime());
+    RifiutaCaratteriDiControllo(u"La località"_s, richiesta.argomenti.at(0));
+    RifiutaCaratteriDiControllo(u"La nazione"_s, richiesta.argomenti.at(1));
     uscita << apri().NuovaMeta(richiesta.argomenti.at(0), richiesta.argomenti.at(1), inizio) << '\n';
 }
 

@@ -33,6 +33,10 @@ TabellaTesti TabellaDellaGuida(const std::vector<Record>& record, const std::vec
     return tabella;
 }
 
+// A visit takes as long as the lists of the guide's screen can say.
+constexpr int kMassimeOreVisita = 15;
+constexpr int kPassoMinutiVisita = 15;
+
 // What the command line says of one entry.
 struct Annotazione {
     QString localita;
@@ -43,6 +47,7 @@ Annotazione LeggiAnnotazione(const QStringList& argomenti) {
     Annotazione letta{Composto(argomenti.at(0)).simplified().toUpper(),
                       {Composto(argomenti.at(2)).simplified(), Composto(argomenti.at(1)).simplified(), 0, 0}};
     if (letta.localita.isEmpty()) throw WrongUsage(u"Manca la località."_s);
+    for (const QString& argomento : argomenti) RifiutaCaratteriDiControllo(u"L'annotazione"_s, argomento);
     if (argomenti.size() < 4) return letta;
     static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);
     const QRegularExpressionMatch tempo = forma.match(argomenti.at(3).trimmed());
@@ -51,6 +56,10 @@ Annotazione LeggiAnnotazione(const QStringList& argomenti) {
     }
     letta.campi.ore = tempo.captured(1).toInt();
     letta.campi.minuti = tempo.captured(2).toInt();
+    if (letta.campi.ore > kMassimeOreVisita || letta.campi.minuti % kPassoMinutiVisita != 0) {
+        throw WrongUsage(
+            u"Il tempo «%1» dev'essere da 00:00 a 15:45, in quarti d'ora."_s.arg(argomenti.at(3).trimmed()));
+    }
     return letta;
 }
 

@@ -1,4 +1,6 @@
 // itinerario.
+#include <utility>
+
 #include "cli/griglia_testi.h"
 #include "cli/json.h"
 #include "cli/verbi.h"
@@ -9,6 +11,14 @@ namespace cronovia {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The trip and its rows as they are stored, from one moment of the archive.
+std::pair<MetaAperta, std::vector<Record>> Leggi(Sessione& sessione, const QString& codice) {
+    const ReadSnapshot momento(sessione.Archivio());
+    MetaAperta aperta = sessione.ApriMeta(codice);
+    std::vector<Record> record = RecordDellItinerario(sessione.Archivio(), aperta.meta.codice);
+    return {std::move(aperta), std::move(record)};
+}
 
 std::vector<RigaGriglia> RigheDellItinerario(const MetaAperta& aperta) {
     std::vector<RigaGriglia> righe;
@@ -36,7 +46,7 @@ void ScriviTesto(const MetaAperta& aperta, TabellaTesti tabella, const TestiTota
 
 void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    const auto [aperta, record] = Leggi(sessione, richiesta.argomenti.first());
     const std::vector<RigaGriglia> righe = RigheDellItinerario(aperta);
     const TestiTotali totali = Testi(aperta.riepilogo.totali, aperta.riepilogo.guidaGiorno);
     const TabellaTesti tabella = TestiDellaGriglia(Intestazioni(Vista::Itinerario), righe);
@@ -52,7 +62,7 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
         json.Nome(u"righe");
         ScriviRighe(righe, json);
         json.Nome(u"tappe");
-        ScriviRecord(Table::Itinerari, RecordDellItinerario(sessione.Archivio(), aperta.meta.codice), json);
+        ScriviRecord(Table::Itinerari, record, json);
         json.Nome(u"totali");
         ScriviTotali(totali, json);
         json.ChiudeOggetto();

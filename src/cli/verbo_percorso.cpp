@@ -20,15 +20,15 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
             QDir::toNativeSeparators(path)));
     }
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
-    if (!aperta.tappe.empty()) {
+    const std::optional<EsitoMemorizzazione> esito = MemorizzaPrimeTappe(
+        sessione.Archivio(), aperta.meta.codice, *tappe, OrarioCorretto(aperta.meta.parametri), progress);
+    if (!esito) {
         throw Failure(
             u"La mèta con il codice %1 ha già delle tappe: un percorso si importa solo con itinerario "
             "vuoto."_s.arg(aperta.meta.codice));
     }
-    const EsitoMemorizzazione esito = MemorizzaTappeItinerario(sessione.Archivio(), aperta.meta.codice, *tappe,
-                                                               OrarioCorretto(aperta.meta.parametri), progress);
     uscita << RiassuntoPercorso(*tappe) << '\n';
-    if (esito.nomiAccorciati > 0) uscita << TestoNomiAccorciati(esito) << '\n';
+    if (esito->nomiAccorciati > 0) uscita << TestoNomiAccorciati(*esito) << '\n';
 }
 
 }  // namespace cronovia

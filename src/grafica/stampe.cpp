@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QDir>
 #include <algorithm>
+#include <memory>
 
 #include "cli/opzioni_calcolo.h"
 #include "interaction/failure.h"
@@ -18,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The PDF file is complete before the table is touched: when either fails, both are as they were.
+// Both files are whole on the disk before either takes its place: when one fails, both are as they were.
 void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     const QString path = richiesta.opzioni.value(u"pdf"_s);
@@ -32,8 +33,10 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
         StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
-    ScriviTabella(dati, sessione.Cartella());
+    file.Completa();
+    const std::unique_ptr<FileIntero> tabella = PreparaTabella(dati, sessione.Cartella());
     file.Chiudi();
+    tabella->Chiudi();
     uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(
                   QDir::toNativeSeparators(path), QString::number(std::max<std::size_t>(documento.pagine.size(), 1)))
            << RigaTabellaScritta(sessione.Cartella());

@@ -55,6 +55,11 @@ std::optional<Message> ControllaVoce(const std::vector<TipoGuida>& tipi, const C
         return Message{u"Errore! Manca %1!!!"_s.arg(manca), {}, Icon::Exclamation};
     };
     if (campi.descrizione.trimmed().isEmpty()) return errore(u"la descrizione"_s);
+    const int larghezza = Width(Table::GuidaCitta, guida::Descrizione);
+    if (campi.descrizione.trimmed().size() > larghezza) {
+        return Message{
+            u"La descrizione è troppo lunga: al massimo %1 caratteri."_s.arg(larghezza), {}, Icon::Exclamation};
+    }
     const int codice = CodiceTipoGuida(tipi, campi.tipo);
     if (codice < 0) return errore(u"la tipologia"_s);
     const bool obbligatorio = std::any_of(tipi.begin(), tipi.end(), [&](const TipoGuida& tipo) {
@@ -67,6 +72,10 @@ std::optional<Message> ControllaVoce(const std::vector<TipoGuida>& tipi, const C
 ModificaGuida SalvaVoce(Archive& archive, const QString& localita, const std::optional<VoceGuida>& mostrata,
                         const std::vector<TipoGuida>& tipi, const CampiVoce& campi) {
     if (const auto errore = ControllaVoce(tipi, campi)) throw Failure(errore->text);
+    const int larghezza = Width(Table::GuidaCitta, guida::Localita);
+    if (localita.size() > larghezza) {
+        throw Failure(u"Il nome della località è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));
+    }
     Transaction transaction(archive);
     ModificaGuida modifica;
     if (mostrata) modifica.prima = VoceMostrata(archive, NamePattern::ForName(localita), *mostrata);

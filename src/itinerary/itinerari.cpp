@@ -6,6 +6,7 @@
 #include "calendar/testo.h"
 #include "guide/guida_citta.h"
 #include "interaction/failure.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 
@@ -65,6 +66,30 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
     } while (resto > 0);
 }
 
+void RifiutaTroppeTappe(std::span<const Tappa> tappe) {
+    if (RecordNecessari(tappe) <= kMassimoRecord) return;
+    throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
+}
+
+// To a trip without rows, within a transaction of the caller.
+EsitoMemorizzazione Aggiungi(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
+                             const OrarioCorretto& orario, Progress& progress) {
+    LettoreGuida guida(archive);
+    guida.Anticipa(LocalitaDelleTappe(tappe));
+    progress.Title(u"Memorizza tappe itinerario"_s);
+    EsitoMemorizzazione esito;
+    double fatte = 0;
+    for (const Tappa& tappa : tappe) {
+        progress.Advance(++fatte, static_cast<double>(tappe.size()));
+        if (Vuota(tappa)) continue;
+        if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
+        if (tappa.numStrada.size() > Larghezza(itinerari::NomeStrada)) ++esito.nomiAccorciati;
+        const QString visite = Testo(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
+        MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
+    }
+    return esito;
+}
+
 }  // namespace
 
 std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta) {
@@ -119,24 +144,25 @@ QString TestoNomiAccorciati(const EsitoMemorizzazione& esito) {
 
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                                              const OrarioCorretto& orario, Progress& progress) {
-    if (RecordNecessari(tappe) > kMassimoRecord) {
-        throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
-    }
+    RifiutaTroppeTappe(tappe);
     Transaction transaction(archive);
-    LettoreGuida guida(archive);
-    guida.Anticipa(LocalitaDelleTappe(tappe));
     archive.DeleteMatching(Table::Itinerari, DellaMeta(codiceMeta), progress);
-    progress.Title(u"Memorizza tappe itinerario"_s);
-    EsitoMemorizzazione esito;
-    double fatte = 0;
-    for (const Tappa& tappa : tappe) {
-        progress.Advance(++fatte, static_cast<double>(tappe.size()));
-        if (Vuota(tappa)) continue;
-        if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
-        if (tappa.numStrada.size() > Larghezza(itinerari::NomeStrada)) ++esito.nomiAccorciati;
-        const QString visite = Testo(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
-        MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
+    const EsitoMemorizzazione esito = Aggiungi(archive, codiceMeta, tappe, orario, progress);
+    transaction.Commit();
+    progress.Advance(0, 0);
+    return esito;
+}
+
+std::optional<EsitoMemorizzazione> MemorizzaPrimeTappe(Archive& archive, const QString& codiceMeta,
+                                                       std::span<const Tappa> tappe, const OrarioCorretto& orario,
+                                                       Progress& progress) {
+    RifiutaTroppeTappe(tappe);
+    Transaction transaction(archive);
+    if (!CaricaDatiAnagraficiMeta(archive, codiceMeta)) {
+        throw Failure(u"La mèta con il codice %1 non c'è più."_s.arg(codiceMeta));
     }
+    if (archive.Exists({Table::Itinerari, {DellaMeta(codiceMeta)}})) return std::nullopt;
+    const EsitoMemorizzazione esito = Aggiungi(archive, codiceMeta, tappe, orario, progress);
     transaction.Commit();
     progress.Advance(0, 0);
     return esito;

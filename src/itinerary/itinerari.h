@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -41,5 +42,11 @@ QString TestoNomiAccorciati(const EsitoMemorizzazione& esito);
 /// than 9,999 rows.
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                                              const OrarioCorretto& orario, Progress& progress);
+
+/// The same for a trip that has no stages yet; nothing, and nothing done, when it has some by now. A `Failure` also
+/// when the trip is no more.
+std::optional<EsitoMemorizzazione> MemorizzaPrimeTappe(Archive& archive, const QString& codiceMeta,
+                                                       std::span<const Tappa> tappe, const OrarioCorretto& orario,
+                                                       Progress& progress);
 
 }  // namespace cronovia

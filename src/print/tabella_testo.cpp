@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "files/file_intero.h"
 #include "files/windows1252.h"
 #include "interaction/failure.h"
 
@@ -61,12 +60,15 @@ void RifiutaFileTabella(const QString& path, const QString& cartella) {
         QDir::toNativeSeparators(path)));
 }
 
-void ScriviTabella(const DatiStampa& dati, const QString& cartella) {
+std::unique_ptr<FileIntero> PreparaTabella(const DatiStampa& dati, const QString& cartella) {
     const QString path = FileTabella(cartella);
     RifiutaFileEsistente(path, true);
-    FileIntero file(path);
-    file.Scrivi(TabellaCronovia(dati));
-    file.Chiudi();
+    auto file = std::make_unique<FileIntero>(path);
+    file->Scrivi(TabellaCronovia(dati));
+    file->Completa();
+    return file;
 }
+
+void ScriviTabella(const DatiStampa& dati, const QString& cartella) { PreparaTabella(dati, cartella)->Chiudi(); }
 
 }  // namespace cronovia

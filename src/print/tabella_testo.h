@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
+#include "files/file_intero.h"
 #include "print/dati_stampa.h"
 
 namespace cronovia {
@@ -12,6 +14,10 @@ QString FileTabella(const QString& cartella);
 
 /// A `Failure` when that is the file of the table, under whatever name.
 void RifiutaFileTabella(const QString& path, const QString& cartella);
+
+/// The new table of a data folder, whole on the disk beside its place, which it takes when it is closed. A `Failure`
+/// when it cannot be written.
+std::unique_ptr<FileIntero> PreparaTabella(const DatiStampa& dati, const QString& cartella);
 
 /// Replaces the table of a data folder: the destination, an empty line, the headings and the rows, tab-separated, in
 /// Windows-1252. A `Failure` when it cannot be written; the old one stays then.

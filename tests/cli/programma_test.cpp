@@ -7,6 +7,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using prova::Programma;
+using prova::Risposta;
 
 TEST(Programma, AResultThatCannotBeWrittenIsNoSuccess) {
     if (!QFile::exists(u"/dev/full"_s)) GTEST_SKIP() << "this system has no device that is always full";
@@ -40,6 +41,59 @@ TEST(Programma, WhatDrawsIsMissedOnlyByWhatDraws) {
     EXPECT_EQ(esegui({}), (std::pair{1, manca}));
     EXPECT_EQ(esegui({u"stampa"_s, u"3"_s, u"--pdf"_s, pdf}), (std::pair{1, manca}));
     EXPECT_EQ(esegui({u"--formato"_s, u"json"_s, u"guida"_s, u"--pdf"_s, pdf}), (std::pair{1, manca}));
+}
+
+TEST(Programma, AFolderWhoseNameIsNoTextIsRefused) {
+    const QTemporaryDir altrove;
+    QProcess processo;
+    processo.setWorkingDirectory(altrove.path());
+    const QString riga = u"exec \"$0\" --cartella \"$(printf 'a\\377b')\" elenca"_s;
+    processo.start(u"sh"_s, {u"-c"_s, riga, QStringLiteral(CRONOVIA_PROGRAM)});
+    ASSERT_TRUE(processo.waitForFinished());
+    EXPECT_EQ(processo.exitCode(), 2);
+    EXPECT_TRUE(processo.readAllStandardError().startsWith("Il nome dato all'opzione --cartella non è un testo"));
+    EXPECT_TRUE(QDir(altrove.path()).isEmpty());
+}
+
+TEST(Programma, OfManyRoutesAtOnceOneFindsTheItineraryEmpty) {
+    const Programma programma;
+    EXPECT_EQ(programma.Uscita({u"nuova"_s, u"CORSICA"_s, u"FRANCIA"_s}), u"000001\n"_s);
+    const QString percorso = QStringLiteral(CRONOVIA_EXAMPLES) + u"/percorsi/livorno-ajaccio.txt"_s;
+    std::vector<std::unique_ptr<QProcess>> processi;
+    for (int i = 0; i < 16; ++i) {
+        processi.push_back(std::make_unique<QProcess>());
+        processi.back()->start(QStringLiteral(CRONOVIA_PROGRAM),
+                               {u"--cartella"_s, programma.Cartella().Percorso(), u"percorso"_s, u"1"_s, percorso});
+    }
+    int riusciti = 0;
+    for (const auto& processo : processi) {
+        ASSERT_TRUE(processo->waitForFinished(60'000));
+        if (processo->exitCode() == 0) ++riusciti;
+    }
+    EXPECT_EQ(riusciti, 1);
+    const QString tappe = programma.Uscita({u"itinerario"_s, u"1"_s, u"--formato"_s, u"tsv"_s});
+    EXPECT_EQ(tappe.count(u"PORTO DI LIVORNO"_s), 1);
+}
+
+TEST(Programma, APrintoutWithoutRoomLeavesTheOldTable) {
+    const Programma programma;
+    EXPECT_EQ(programma.Uscita({u"nuova"_s, u"CORSICA"_s, u"FRANCIA"_s, u"--inizio"_s, u"5/6/2027 8:00"_s}),
+              u"000001\n"_s);
+    const QString percorso = QStringLiteral(CRONOVIA_EXAMPLES) + u"/percorsi/livorno-ajaccio.txt"_s;
+    EXPECT_NE(programma.Uscita({u"percorso"_s, u"1"_s, percorso}), QString());
+    EXPECT_NE(programma.Uscita({u"calcola"_s, u"1"_s, u"--tabella"_s}), QString());
+    const QString tabella = programma.Cartella().Percorso() + u"/Vandtabl.txt"_s;
+    const QByteArray prima = prova::LeggiFile(tabella);
+    const rlim_t posto = 2 * static_cast<rlim_t>(prima.size());  // enough for a table, not for pages
+    Risposta risposta;
+    prova::ConDiscoPieno(posto, [&] {
+        risposta = programma.Esegui(
+            {u"stampa"_s, u"1"_s, u"--giorni"_s, u"3"_s, u"--pdf"_s, programma.Cartella().Percorso() + u"/x.pdf"_s});
+    });
+    EXPECT_EQ(risposta.codice, 1);
+    EXPECT_TRUE(risposta.errori.contains(u"x.pdf non è stato scritto"_s)) << risposta.errori.toStdString();
+    EXPECT_EQ(prova::LeggiFile(tabella), prima);
+    EXPECT_EQ(programma.Cartella().Contenuto().size(), 2);
 }
 
 // Beginnings that are wildcards, and an apostrophe near the beginning: none is found by what stands before them.

@@ -33,13 +33,15 @@ TEST_F(AnnotazioniTest, WhatCannotBecomeAnEntry) {
         {{u"Duomo"_s, u"Boh"_s, 0, 0}, u"Errore! Manca la tipologia!!!"_s},
         {{u"Duomo"_s, u"ottimo"_s, 1, 0}, u"Errore! Manca la tipologia!!!"_s},
         {{u"Duomo"_s, u"Vedibile"_s, 0, 0}, u"Errore! Manca il tempo stimato!!!"_s},
-        {{QString(97, u'x'), u"Gpl"_s, 0, 0},
-         u"Il valore «"_s + QString(97, u'x') +
-             u"» è troppo lungo per il campo Descrizione di GuidaCitta: al massimo 96 caratteri."_s},
+        {{QString(97, u'x'), u"Gpl"_s, 0, 0}, u"La descrizione è troppo lunga: al massimo 96 caratteri."_s},
     };
     for (const auto& [campi, errore] : casi) {
         EXPECT_EQ(prova::MessaggioDi([&, c = campi] { Salva(u"PISA"_s, {}, c); }), errore);
     }
+    EXPECT_EQ(prova::MessaggioDi([&] {
+                  Salva(QString(31, u'X'), {}, {u"Bar"_s, u"Gpl"_s, 0, 0});
+              }),
+              u"Il nome della località è troppo lungo: al massimo 30 caratteri."_s);
     EXPECT_EQ(Guida(), u""_s);
     Salva(u"PISA"_s, {}, {u" Bar \"l'Arno\" "_s, u"Punto Sosta"_s, 0, 0});
     EXPECT_EQ(Guida(), u"PISA|05|Bar \"l'Arno\"|00:00|0"_s);
