@@ -16,6 +16,7 @@ QString Zero(int valore, int lunghezza);
 
 /// The form with numbers in the places of its runs of "0", each as `Zero` writes it: "00:00" with 7 and 5 is "07:05".
 QString ConNumeri(QStringView forma, std::initializer_list<int> numeri);
+
 /// Whether one of its characters is a control character: no field of a screen takes them.
 bool HaCaratteriDiControllo(QStringView testo);
 
