@@ -130,12 +130,12 @@ TEST_F(ControlliTest, AProcessEndsWithAMessageWhenTheArchiveCannotBeOpened) {
         EXPECT_EQ(processo.exitStatus(), QProcess::NormalExit);
         return std::pair{processo.exitCode(), QString::fromUtf8(processo.readAllStandardOutput())};
     };
-    EXPECT_EQ(avvia(), (std::pair{0, QString()}));
+    EXPECT_EQ(avvia(), (std::pair{0, u"Annulla\n"_s}));
     const QByteArray robaccia(5000, 'x');
     prova::ScriviFile(cartella_.Archivio(), robaccia);
     const auto [codice, box] = avvia();
     EXPECT_EQ(codice, 1);
-    EXPECT_TRUE(box.startsWith(u"Errore apertura database"_s)) << box.toStdString();
+    EXPECT_TRUE(box.startsWith(u"Annulla\nErrore apertura database"_s)) << box.toStdString();
     EXPECT_EQ(prova::LeggiFile(cartella_.Archivio()), robaccia);
 }
 

@@ -13,8 +13,9 @@ namespace {
 
 bool soloAvvio = false;
 
-// Reads a box out and closes it, else closes the window.
+// Reads the language of the standard buttons out, then a box, which it closes; else it closes the window.
 void ChiudiTutto() {
+    std::puts(qPrintable(QCoreApplication::translate("QPlatformTheme", "Cancel")));
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
         std::puts(qPrintable(box->text()));
         box->accept();

@@ -21,6 +21,7 @@
 //                                     end any more
 //   expect-column TABLE COL CELLS     the cells of a column that are not empty
 //   expect-header TABLE COL TEXT · expect-selected TABLE ROWS · expect-width TABLE COL W · expect-size W H
+//   expect-fits TABLE                 its columns share out its width
 //   expect-tip NAME TEXT · expect-tip TABLE ROW COL TEXT      as the person reads it
 //   expect-focus NAME
 //   expect-enabled NAME BUTTONS       those within that can be pressed, by name without "cmd"
@@ -354,6 +355,12 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-selected"_s, {2, [this](auto& p) { AttesaScelta(p); }}},
         {u"expect-width"_s,
          {3, [this](auto& p) { EXPECT_EQ(Trova<QTableView>(p[0]).columnWidth(p[1].toInt() - 1), p[2].toInt()); }}},
+        {u"expect-fits"_s,
+         {1,
+          [this](auto& p) {
+              const auto& tabella = Trova<QTableView>(p[0]);
+              EXPECT_EQ(tabella.horizontalHeader()->length(), tabella.viewport()->width());
+          }}},
         {u"expect-size"_s, {2, [this](auto& p) { EXPECT_EQ(form_->size(), QSize(p[0].toInt(), p[1].toInt())); }}},
         {u"expect-tip"_s, {2, [this](auto& p) { AttesoSuggerimento(p); }}},
         {u"expect-focus"_s, {1, [this](auto& p) { AttesoFuoco(p[0]); }}},
