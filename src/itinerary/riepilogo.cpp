@@ -14,6 +14,12 @@ int GiorniMinimi(const Totali& totali, Centesimi guidaGiorno) {
     return tempo.giorni + (tempo.ore > 0 || tempo.minuti > 0 ? 1 : 0);
 }
 
+// "gg:hh:mm" with as many digits of days as there are.
+QString TestoTotale(const Durata& tempo) {
+    const QString giorni = tempo.giorni < 100 ? QString() : QString::number(tempo.giorni / 100);
+    return giorni + Testo(tempo);
+}
+
 }  // namespace
 
 void Totali::Aggiunge(TipoStrada tipo, int kmTratta, Centesimi tempoTratta) {
@@ -27,7 +33,7 @@ TestiTotali Testi(const Totali& totali, Centesimi guidaGiorno) {
     TestiTotali testi;
     for (std::size_t i = 0; i < totali.km.size(); ++i) {
         testi.km[i] = RaggruppaNonZero(totali.km[i]);
-        testi.tempo[i] = Testo(totali.tempo[i], guidaGiorno);
+        testi.tempo[i] = TestoTotale(InDurata(totali.tempo[i], guidaGiorno));
     }
     testi.traghetti = QString::number(totali.traghetti);
     return testi;

@@ -14,6 +14,10 @@ std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera) {
 
 QString LetteraTipoStrada(std::optional<TipoStrada> tipo) { return tipo ? NomeTipoStrada(*tipo).left(1) : QString(); }
 
+QString LetteraStrada(const Tappa& tappa) {
+    return tappa.km == 0 ? LetteraTipoStrada(tappa.tipo) : LetteraTipoStrada(tappa.TipoEffettivo());
+}
+
 std::vector<QString> LocalitaDelleTappe(std::span<const Tappa> tappe) {
     std::vector<QString> localita;
     localita.reserve(tappe.size());

@@ -35,6 +35,9 @@ std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera);
 /// The type's letter; empty for no type.
 QString LetteraTipoStrada(std::optional<TipoStrada> tipo);
 
+/// The letter of the road that a stage's kilometres count for; that of its own type without kilometres.
+QString LetteraStrada(const Tappa& tappa);
+
 /// The localities that the stages name, in their order.
 std::vector<QString> LocalitaDelleTappe(std::span<const Tappa> tappe);
 

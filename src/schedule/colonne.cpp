@@ -82,7 +82,7 @@ void ScriviTratto(const Cronovia& cronovia, const RigaCronovia& riga, const Tapp
     testi[Colonna::Tappa] = riga.verso ? u"verso: "_s + PrimoMaiuscolo(tappa.localita) : tappa.localita;
     testi[Colonna::NumeroStrada] = tappa.numStrada;
     testi[Colonna::Km] = RaggruppaNonZero(riga.km);
-    testi[Colonna::TipoStrada] = LetteraTipoStrada(tappa.tipo);
+    testi[Colonna::TipoStrada] = LetteraStrada(tappa);
     testi[Colonna::KmProgressivi] = RaggruppaNonZero(riga.kmProgressivi);
     testi[Colonna::Tempo] = TempoTratta(riga.tempo);
     testi[Colonna::Note] = NoteTratto(riga.eventi, cronovia.orario.Parametri().riposoMinuti);
@@ -123,7 +123,7 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
     testi[Colonna::Tappa] = tappa.localita;
     testi[Colonna::NumeroStrada] = tappa.numStrada;
     testi[Colonna::Km] = RaggruppaNonZero(tappa.km);
-    testi[Colonna::TipoStrada] = LetteraTipoStrada(tappa.tipo);
+    testi[Colonna::TipoStrada] = LetteraStrada(tappa);
     if (tappa.km != 0) testi[Colonna::KmProgressivi] = Raggruppa(tempi.kmProgressivi);
     if (tempi.tempo) testi[Colonna::Tempo] = TempoTratta(*tempi.tempo);
     testi[Colonna::Sosta] = TestoSosta(tappa.sosta, tappa.fineGiorno);

@@ -29,7 +29,7 @@ void ModelloCopia::Mostra(const RigheItinerario& tappe) {
     righe.reserve(tappe.size());
     for (const Tappa& tappa : tappe) {
         righe.push_back({QString::number(righe.size() + 1), tappa.localita, tappa.numStrada, RaggruppaNonZero(tappa.km),
-                         LetteraTipoStrada(tappa.tipo), TestoSosta(tappa.sosta, tappa.fineGiorno)});
+                         LetteraStrada(tappa), TestoSosta(tappa.sosta, tappa.fineGiorno)});
     }
     Mostra({u"Num."_s, u"Località"_s, u"Strada"_s, u"kM."_s, u"Tipo"_s, u"Sosta"_s}, std::move(righe),
            {kDestra, kSinistra, kSinistra, kDestra, Qt::AlignCenter, Qt::AlignCenter});
