@@ -80,7 +80,7 @@ void Salva(Postazione& p) {
     if (!p.Prova([&] { salvataggio = p.documento.DecidiSalvataggio(); })) return;
     if (!BoxConferma(p.volti.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
     p.MentreScrive(u"La mèta non è stata salvata."_s, [&] {
-        p.documento.SalvaCampi(salvataggio, p.volti.adesso());
+        p.documento.SalvaCampi(salvataggio);
         p.schermata = schermata::Viaggio{Fase::Aperta};
     });
 }

@@ -125,40 +125,55 @@ void Documento::Ricomponi() {
     RicalcolaTempi();
 }
 
-void Documento::SalvaCampi(const Salvataggio& salvataggio, const QDateTime& adesso) {
-    codice_ = SalvaMeta(sessione_.Archivio(), campi_, salvataggio);
-    Ricarica(adesso);
+QString Documento::Nome() const { return u"%1 (%2)"_s.arg(caricati_.localita.trimmed(), codice_); }
+
+// Within the transaction that writes: another window may have deleted the trip, or given its code to another one since.
+void Documento::ConfermaCheELei() {
+    const Meta memorizzata = sessione_.ApriMeta(caricati_.codice).meta;
+    if (memorizzata.localita == caricati_.localita) return;
+    throw Failure(u"La mèta con il codice %1 non è più «%2», ma «%3»: un'altra finestra l'ha cambiata."_s.arg(
+        caricati_.codice, caricati_.localita, memorizzata.localita));
+}
+
+void Documento::SalvaCampi(const Salvataggio& deciso) {
+    Archive& archivio = sessione_.Archivio();
+    Transaction transaction(archivio);
+    if (!campi_.codice.isEmpty()) ConfermaCheELei();
+    const Salvataggio adesso = DecidiSalvataggio();
+    if (adesso.nuova != deciso.nuova) {
+        throw Failure(u"Nel frattempo un'altra finestra ha salvato o cancellato la mèta «%1»: riprova."_s.arg(
+            campi_.localita.trimmed()));
+    }
+    const QString codice = SalvaMeta(archivio, campi_, adesso);
+    MetaAperta salvata = sessione_.ApriMeta(codice);
+    transaction.Commit();
+    Metti(std::move(salvata.meta), std::move(salvata.tappe));
+    codice_ = codice;
     AggiornaOrari();
 }
 
-QString Documento::Nome() const { return u"%1 (%2)"_s.arg(caricati_.localita.trimmed(), codice_); }
-
-// Another window may have deleted the trip, or given its code to another one since: what is done to it would be done
-// there.
-void Documento::ConfermaCheELei() {
-    const Meta memorizzata = sessione_.ApriMeta(codice_).meta;
-    if (memorizzata.localita != caricati_.localita) {
-        throw Failure(u"La mèta con il codice %1 non è più «%2», ma «%3»: un'altra finestra l'ha cambiata."_s.arg(
-            codice_, caricati_.localita.trimmed(), memorizzata.localita.trimmed()));
-    }
-}
-
 EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
+    Transaction transaction(sessione_.Archivio());
     ConfermaCheELei();
     const EsitoMemorizzazione esito =
         MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, OrarioCorretto(campi_.parametri), progress);
+    transaction.Commit();
     caricate_ = righe_;
     return esito;
 }
 
 void Documento::CancellaTappe(Progress& progress) {
+    Transaction transaction(sessione_.Archivio());
     ConfermaCheELei();
     MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, OrarioCorretto(campi_.parametri), progress);
+    transaction.Commit();
 }
 
 void Documento::Cancella(Progress& progress) {
+    Transaction transaction(sessione_.Archivio());
     ConfermaCheELei();
     CancellaMeta(sessione_.Archivio(), codice_, progress);
+    transaction.Commit();
 }
 
 }  // namespace cronovia

@@ -79,13 +79,13 @@ class Documento {
 
     // Saving.
     [[nodiscard]] Salvataggio DecidiSalvataggio() { return cronovia::DecidiSalvataggio(sessione_.Archivio(), campi_); }
-    /// Saves the fields as was decided and loads the trip anew, which may have got another code.
-    void SalvaCampi(const Salvataggio& salvataggio, const QDateTime& adesso);
-    /// Replaces the stored stages by those that are open. Refused when the trip was deleted meanwhile, or its code is
-    /// that of a trip with another destination.
+    // All of it is refused when the trip was deleted meanwhile, or its code is that of a trip with another destination.
+    /// Saves the fields and loads the trip anew, which may have got another code. Refused too when that would now be
+    /// another thing than was decided, a new trip or a change.
+    void SalvaCampi(const Salvataggio& deciso);
+    /// Replaces the stored stages by those that are open.
     EsitoMemorizzazione SalvaTappe(Progress& progress);
     /// Delete the stored stages, and the stored trip with them; what is open stays as it is until it is loaded anew.
-    /// Refused as `SalvaTappe` is.
     void CancellaTappe(Progress& progress);
     void Cancella(Progress& progress);
 

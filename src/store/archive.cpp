@@ -374,16 +374,18 @@ ReadSnapshot::~ReadSnapshot() {
     if (outermost_) connection_.EndReading();
 }
 
-Transaction::Transaction(Archive& archive) : connection_(*archive.connection_) {
-    Guarded(connection_.Path(), [&] { connection_.ForWriting("BEGIN IMMEDIATE").exec(); });
+Transaction::Transaction(Archive& archive)
+    : connection_(*archive.connection_), outermost_(!connection_.InTransaction()) {
+    Guarded(connection_.Path(),
+            [&] { connection_.ForWriting(outermost_ ? "BEGIN IMMEDIATE" : "SAVEPOINT inner").exec(); });
 }
 
 Transaction::~Transaction() {
-    if (open_) connection_.Database().tryExec("ROLLBACK");
+    if (open_) connection_.Database().tryExec(outermost_ ? "ROLLBACK" : "ROLLBACK TO inner; RELEASE inner");
 }
 
 void Transaction::Commit() {
-    Guarded(connection_.Path(), [&] { connection_.Database().exec("COMMIT"); });
+    Guarded(connection_.Path(), [&] { connection_.Database().exec(outermost_ ? "COMMIT" : "RELEASE inner"); });
     open_ = false;
 }
 

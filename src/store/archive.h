@@ -147,7 +147,8 @@ class ReadSnapshot {
 };
 
 /// Everything written between construction and `Commit` happens whole or not at all; what is read meanwhile is from
-/// one moment. Transactions do not nest.
+/// one moment. Within another one it is part of that: without its own `Commit` nothing of it happens, with it all of it
+/// as soon as the outer one commits.
 class Transaction {
   public:
     /// A `Failure` when another program is writing and does not end in time.
@@ -161,6 +162,7 @@ class Transaction {
 
   private:
     Archive::Connection& connection_;
+    bool outermost_;
     bool open_ = true;
 };
 

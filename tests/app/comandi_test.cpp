@@ -350,7 +350,7 @@ TEST_F(ComandiTest, ARouteIsPutIntoAnEmptyItineraryAndTakenAwayAgain) {
     EXPECT_EQ(Memorizzate(), Righe());
 }
 
-TEST_F(ComandiTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsCode) {
+TEST_F(ComandiTest, NothingOfATripDeletedMeanwhileIsLeftForTheNextOfItsCode) {
     NuovaMeta(u"UNO"_s);
     MetaConTappe(u"DUE"_s, {u"A"_s});
     const std::unique_ptr<Postazione> altra = NuovaPostazione();
@@ -362,12 +362,24 @@ TEST_F(ComandiTest, TheStagesOfATripDeletedMeanwhileAreNotLeftForTheNextOfItsCod
         comandi::Fine(*postazione_);
         EXPECT_EQ(Righe(), u"A"_s);
         EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
+        for (const auto& comando : std::vector<std::function<void()>>{
+                 [this] { Viaggio().SalvaCampi(Viaggio().DecidiSalvataggio()); },
+                 [this] { Viaggio().CancellaTappe(avanzamento_); }, [this] { Viaggio().Cancella(avanzamento_); }}) {
+            EXPECT_EQ(prova::MessaggioDi(comando), perche);
+        }
     };
     rifiutata(u"Non esiste nessuna mèta con il codice 000002."_s);
     altra->sessione.NuovaMeta(u"TRE"_s, u"ITALIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
     rifiutata(u"La mèta con il codice 000002 non è più «DUE», ma «TRE»: un'altra finestra l'ha cambiata."_s);
     Esce(Answer::No);
     EXPECT_EQ(Viaggio().Campi().localita, u"TRE"_s);
+    comandi::Nuovo(*postazione_);
+    Destinazione(u"SEI"_s, u"ITALIA"_s);
+    const Salvataggio nuova = Viaggio().DecidiSalvataggio();
+    altra->sessione.NuovaMeta(u"SEI"_s, u"FRANCIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
+    EXPECT_EQ(prova::MessaggioDi([&] { Viaggio().SalvaCampi(nuova); }),
+              u"Nel frattempo un'altra finestra ha salvato o cancellato la mèta «SEI»: riprova."_s);
+    EXPECT_EQ(Viaggio().Codice(), u"000002"_s);
 }
 
 TEST_F(ComandiTest, TheHistoryOfATripGoesWithIt) {

@@ -61,7 +61,12 @@ TEST_F(ArchiveTest, ATransactionHappensWholeOrNotAtAll) {
     }
     EXPECT_EQ(Localita(), QStringList{u"Alba"_s});
     Transaction transaction(archive_);
-    Aggiungi(u"Bra"_s);
+    for (const bool intera : {true, false}) {
+        Transaction dentro(archive_);
+        Aggiungi(u"Bra"_s);
+        if (intera) dentro.Commit();
+    }
+    EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Table::GuidaCitta), 1);
     transaction.Commit();
     EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Table::GuidaCitta), 2);
 }
