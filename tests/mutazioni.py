@@ -52,7 +52,7 @@ ISTRUZIONE = re.compile(r"^(\s+)(?:(?:if \([^;]*\) )?(?:return|continue|break|th
 STANZE_CHE_DISEGNANO = ("ui", "print")
 ASPETTO = re.compile(r"Margins|Spacing|Stretch|setMinimum|setMaximum|Policy|Alignment|[fF]ont\b|setFont|setFrame|reserve\(|"
                      r"Larghezz|Row\(|setColumnWidth|resize\(|Colors\(|[pP]alette|setIconSize|Highlight|ScrollMode|AutoFill|"
-                     r"Point|Rect|Poly|Ellipse|Arc\(|lineTo|Subpath|painter|\bp\.|horizontalAdvance|\{\d+, u\"|raise\(\)")
+                     r"Point|Rect|Poly|Ellipse|Arc\(|lineTo|Subpath|painter|\bp\.|horizontalAdvance|Advance\(0, 0\)|\{\d+, u\"|raise\(\)")
 POSTO = re.compile(r"add(?:Widget|Layout|Item)\(")
 
 
