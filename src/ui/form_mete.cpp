@@ -214,9 +214,11 @@ void FormMete::ApriFile(const QString& file) {
 }
 
 // The theme may change while the window is open.
-void FormMete::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) RendiLeggibile();
+bool FormMete::event(QEvent* event) {
+    const bool trattato = QMainWindow::event(event);
+    const auto tipo = event->type();
+    if (tipo == QEvent::ApplicationPaletteChange || tipo == QEvent::StyleChange) RendiLeggibile();
+    return trattato;
 }
 
 void FormMete::RendiLeggibile() {

@@ -52,7 +52,7 @@ class FormMete : public QMainWindow {
     void AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato);
 
   protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -1,6 +1,7 @@
 // What the window remembers of its looks from one start to the next.
 #include <QHeaderView>
 
+#include "ui/comuni/colori.h"
 #include "ui/finestra.h"
 
 namespace cronovia {
@@ -48,6 +49,25 @@ TEST_F(AspettoTest, SizeColumnsAndPanelsComeBack) {
     Premi(u"cmdSalva"_s);
     EXPECT_EQ(ancora.mostrata_, u"LUCCA"_s);
     TuttoVenuto();
+}
+
+TEST_F(AspettoTest, DisabledTextsAreLegibleInEveryTheme) {
+    Apri();
+    const QPalette prima = QApplication::palette();
+    const auto siLegge = [this](const QString& nome) {
+        const QPalette colori = Trova(nome).palette();
+        return Contrasto(colori.color(QPalette::Disabled, QPalette::Text),
+                         colori.color(QPalette::Disabled, QPalette::Base)) >= 4.5;
+    };
+    for (const QColor& sfondo : {QColor(240, 240, 240), QColor(40, 40, 45)}) {
+        QApplication::setPalette(QPalette(sfondo, sfondo));
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(siLegge(u"txtLocalita"_s)) << sfondo.name().toStdString();
+        EXPECT_TRUE(siLegge(u"cmbOra_1"_s)) << sfondo.name().toStdString();
+        EXPECT_TRUE(siLegge(u"txtKmTot_0"_s)) << sfondo.name().toStdString();
+        EXPECT_EQ(Trova(u"txtKmTot_0"_s).palette().color(QPalette::Base), sfondo);
+    }
+    QApplication::setPalette(prima);
 }
 
 }  // namespace

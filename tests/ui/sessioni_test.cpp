@@ -5,18 +5,21 @@
 //   open [HH:MM] · close              the window, on 5 June 2027; opened again, it is a new one on the same folder
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
+//   sql TEXT                          what another program does to the archive
 //   answer BUTTON TEXT [TITLE]        the next box is a question; message TEXT [TITLE]: is told, and read with Ok
 //   choose [FILE]                     the next dialog asks for a file; without one it is called off
 //   dismiss                           the next dialog of any other kind is closed; expect-seen TEXT: what it was
 //   type NAME TEXT · keys TEXT        typed over what is there; typed where the focus is
 //   key KEY... · focus NAME           as in "Ctrl+Z", where the focus is
 //   press NAME · click NAME ROW       a button or box; a row of a table (from 1), an entry of a list
+//   trigger NAME                      an entry of a menu
 //   beside NAME                       a click there, whether that can be used or not
 //   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
 //   entry NAME TEXT                   a further entry, as if the list had been shown with it
 //   drop NAME FILE                    as the desktop does it, which would like to move the file
 //   resize W H · drag TABLE COL W     the window; a column by its edge
 //   expect NAME TEXT                  what a control says; boxes that can be ticked say "on" or "off"
+//   expect-entries NAME "FIRST … LAST" of a drop-down list
 //   expect-row TABLE ROW CELLS        joined by "|", empty ones at the end left away; a cell "…" may be any, at the
 //                                     end any more
 //   expect-column TABLE COL CELLS     the cells of a column that are not empty
@@ -30,6 +33,8 @@
 //
 // Whatever comes up unannounced fails, and so does what was announced and did not come in that step. Every table model
 // is watched meanwhile, and that no letter is underlined twice among what can be used.
+#include <SQLiteCpp/Database.h>
+
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QDirIterator>
@@ -160,6 +165,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         const auto& oggetto = Trova<QObject>(nome);
         if (const auto* casella = qobject_cast<const QLineEdit*>(&oggetto)) return casella->text();
         if (const auto* elenco = qobject_cast<const QComboBox*>(&oggetto)) return elenco->currentText();
+        if (const auto* finestra = qobject_cast<const QMainWindow*>(&oggetto)) return finestra->windowTitle();
         if (const auto* azione = qobject_cast<const QAction*>(&oggetto)) return azione->text();
         if (const auto* scritta = qobject_cast<const QLabel*>(&oggetto)) return scritta->text();
         if (const auto* riquadro = qobject_cast<const QGroupBox*>(&oggetto)) return riquadro->title();
@@ -247,6 +253,11 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         }
     }
 
+    void AltroProgramma(const QString& istruzione) {
+        SQLite::Database(Archive::FilePath(cartella_.Percorso()).toStdString(), SQLite::OPEN_READWRITE)
+            .exec(istruzione.toStdString());
+    }
+
     void Annuncia(const QString& bottone, const QString& testo, const QString& titolo) {
         static const std::map<QString, QMessageBox::StandardButton> bottoni = {{u"Sì"_s, QMessageBox::Yes},
                                                                                {u"No"_s, QMessageBox::No},
@@ -316,6 +327,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
               QDir().mkpath(QFileInfo(p[0]).path());
               prova::ScriviFile(p[0], p[1].toUtf8());
           }}},
+        {u"sql"_s, {1, [this](auto& p) { AltroProgramma(p[0]); }}},
         {u"answer"_s, {2, [this](auto& p) { Annuncia(p[0], p[1], p[2]); }}},
         {u"message"_s, {1, [this](auto& p) { Annuncia(u"Ok"_s, p[0], p[1]); }}},
         {u"choose"_s,
@@ -341,6 +353,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"focus"_s, {1, [this](auto& p) { Usabile(p[0]).setFocus(); }}},
         {u"press"_s, {1, [this](auto& p) { Premi(p[0]); }}},
         {u"click"_s, {2, [this](auto& p) { Clicca(p[0], p[1]); }}},
+        {u"trigger"_s, {1, [this](auto& p) { Trova<QAction>(p[0]).trigger(); }}},
         {u"beside"_s, {1, [this](auto& p) { QTest::mouseClick(&Trova(p[0]), Qt::LeftButton); }}},
         {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
         {u"drop"_s, {3, [this](auto& p) { Lascia(p[0], p[1], p[2]); }}},
@@ -348,6 +361,12 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"resize"_s, {2, [this](auto& p) { form_->resize(p[0].toInt(), p[1].toInt()); }}},
         {u"drag"_s, {3, [this](auto& p) { Trascina(p[0], p[1].toInt(), p[2].toInt()); }}},
         {u"expect"_s, {2, [this](auto& p) { Uguale(Dice(p[0]), p[1]); }}},
+        {u"expect-entries"_s,
+         {2,
+          [this](auto& p) {
+              const auto& elenco = Trova<QComboBox>(p[0]);
+              Uguale(elenco.itemText(0) + u" … "_s + elenco.itemText(elenco.count() - 1), p[1]);
+          }}},
         {u"expect-row"_s, {3, [this](auto& p) { AttesaRiga(p); }}},
         {u"expect-column"_s, {3, [this](auto& p) { Uguale(Colonna(Modello(p[0]), p[1].toInt()), p[2]); }}},
         {u"expect-header"_s,

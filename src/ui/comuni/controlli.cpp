@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr const char* kAiuto = "aiuto";
+constexpr int kAria = 7;  // of a list, in pixels
 
 void Presenta(QWidget& controllo, const QString& nome, const QString& istruzione) {
     controllo.setObjectName(nome);
@@ -97,6 +98,8 @@ QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QStri
     elenco->installEventFilter(new SenzaRotella(elenco));
     elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     elenco->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    // In a small window it gives up the air around its text.
+    elenco->setMinimumWidth(elenco->sizeHint().width() - kAria);
     return elenco;
 }
 
