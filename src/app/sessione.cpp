@@ -65,9 +65,10 @@ EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& o
 }
 
 MetaCalcolata Sessione::ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress) {
-    const ReadSnapshot momento(archive_);
+    std::optional<ReadSnapshot> momento(std::in_place, archive_);
     LettoreGuida guida(archive_);
     MetaAperta aperta = ApriMeta(codice, guida);
+    momento.reset();
     EsitoCalcolo esito = Calcola(aperta, opzioni, guida, progress);
     return {std::move(aperta), std::move(esito)};
 }

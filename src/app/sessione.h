@@ -48,7 +48,7 @@ class Sessione {
     /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.
     MetaAperta ApriMeta(const QString& codice);
 
-    /// The schedule of a trip that is open, with the guide as it is stored.
+    /// The schedule of a trip that is open, with the guide as it is stored. Others can write while it is computed.
     EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress);
 
     /// Both, from one moment of the archive.

@@ -10,11 +10,9 @@ namespace cronovia {
 using namespace Qt::StringLiterals;
 
 TavoloGuida::TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta, Storia& storia)
-    : archive_(archive),
-      interaction_(interaction),
-      codiceMeta_(codiceMeta),
-      tipi_(CaricaTipiGuida(archive)),
-      storia_(storia) {
+    : archive_(archive), interaction_(interaction), codiceMeta_(codiceMeta), storia_(storia) {
+    const ReadSnapshot momento(archive);
+    tipi_ = CaricaTipiGuida(archive);
     CreaElenco();
     if (senzaTappe_) throw Failure(SenzaTappeMemorizzate().text);
     VaiAllaRiga(1);

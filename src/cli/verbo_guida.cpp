@@ -147,7 +147,10 @@ void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStre
     ControllaMostra(richiesta);
     if (richiesta.opzioni.contains(u"pdf"_s)) return richiesta.stampe.guida(apri, richiesta, uscita);
     Sessione sessione = apri();
+    std::optional<ReadSnapshot> momento(std::in_place, sessione.Archivio());
     const std::vector<Record> record = RecordDaMostrare(sessione, richiesta);
+    const std::vector<TipoGuida> tipi = CaricaTipiGuida(sessione.Archivio());
+    momento.reset();
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);
         ScriviRecord(Table::GuidaCitta, record, json);
@@ -156,7 +159,7 @@ void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStre
     } else if (record.empty()) {
         uscita << u"Nessuna annotazione nella guida.\n"_s;
     } else {
-        ScriviAllineata(TabellaDellaGuida(record, CaricaTipiGuida(sessione.Archivio())), uscita);
+        ScriviAllineata(TabellaDellaGuida(record, tipi), uscita);
     }
 }
 

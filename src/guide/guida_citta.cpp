@@ -130,6 +130,7 @@ void LettoreGuida::Anticipa(std::span<const QString> localita) {
         nuove.push_back(nome);
         modelli.push_back(NamePattern::ForName(nome));
     }
+    if (nuove.empty()) return;
     std::vector<std::vector<Record>> trovati(nuove.size());
     archive_.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli,
                           [&](std::size_t quale, Record&& record) { trovati[quale].push_back(std::move(record)); });

@@ -131,8 +131,8 @@ class Archive {
 };
 
 /// All that is read while it lives is from one moment of the archive, whatever other programs write. They wait until
-/// it ends, so it ends before anybody is asked or anything long is done. Within another one, or within a transaction,
-/// it is part of that. Nothing can be written within it: that is an error of the program, a `std::logic_error`.
+/// it ends, so nothing long is done within it but reading, and an export, which hands on what it reads. Within another
+/// one, or within a transaction, it is part of that. To write within it is a `std::logic_error` of the program.
 class ReadSnapshot {
   public:
     /// The moment is that of the first reading.

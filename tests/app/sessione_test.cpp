@@ -75,6 +75,26 @@ TEST_F(SessioneTest, OptionsHoldForOneCalculation) {
     EXPECT_TRUE(prova::LeggiFile(cartella_.Archivio()) == prima);
 }
 
+// What another program writes while a schedule is computed.
+struct AltroCheScrive : Progress {
+    explicit AltroCheScrive(const QString& cartella) : altro(Archive::Open(cartella)) {}
+    void Title(const QString& /*title*/) override { altro.Delete(Table::GuidaCitta, ++scritte); }
+    Archive altro;
+    int scritte = 0;
+};
+
+TEST_F(SessioneTest, WhileAScheduleIsComputedOthersCanWriteAndItKeepsItsGuide) {
+    ImportaProvenza();
+    const auto visite = [](const EsitoCalcolo& esito) { return esito.cronovia->tabella.totaleSoste; };
+    const MetaCalcolata ferma = sessione_.ApriECalcola(u"3"_s, {}, progress_);
+    AltroCheScrive altro(cartella_.Percorso());
+    EXPECT_EQ(visite(sessione_.ApriECalcola(u"3"_s, {}, altro).esito), visite(ferma.esito));
+    EXPECT_GT(altro.scritte, 1);
+    altro.scritte = 100;
+    sessione_.Calcola(ferma.aperta, {}, altro);
+    EXPECT_GT(altro.scritte, 101);
+}
+
 TEST(Sessione, TheStartOnOfferIsTheQuarterBefore) {
     const std::vector<std::pair<QTime, QTime>> casi = {
         {{10, 52, 31}, {10, 45}}, {{10, 45}, {10, 45}}, {{0, 14, 59}, {0, 0}}, {{23, 59, 59}, {23, 45}}};
