@@ -121,8 +121,8 @@ void Trasferisce(Postazione& p) {
     }
     RigheItinerario righe;
     const bool lette = p.Prova([&] {
-        righe = ConSosteDellaGuida(p.sessione.Archivio(), p.documento.Righe(),
-                                   OrarioCorretto(p.documento.Campi().parametri), p.volti.avanzamento);
+        righe =
+            ConSosteDellaGuida(p.sessione.Archivio(), p.documento.Righe(), p.documento.Orario(), p.volti.avanzamento);
     });
     if (lette) Modifica(p, u"copia delle soste della guida"_s, std::move(righe), p.documento.RigaCorrente());
     p.volti.avanzamento.Advance(0, 0);

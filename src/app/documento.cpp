@@ -10,8 +10,8 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-void Documento::Metti(Meta campi, RigheItinerario righe) {
-    campi_ = std::move(campi);
+void Documento::Metti(const Meta& campi, RigheItinerario righe) {
+    ImpostaCampi(campi);
     righe_ = std::move(righe);
     cronovia_.reset();
     rigaCorrente_ = 1;
@@ -34,19 +34,20 @@ void Documento::Apri(const QString& codice) {
     const Archive::Mark adesso = archivio.PresentMark();
     transaction.Commit();
     storia_.SegueArchivio(prima, adesso);
-    Metti(std::move(scelta.meta), std::move(scelta.tappe));
+    Metti(scelta.meta, std::move(scelta.tappe));
     codice_ = codice;
 }
 
 void Documento::Ricarica(const QDateTime& adesso) {
     Archive& archivio = sessione_.Archivio();
+    const ReadSnapshot momento(archivio);
     const bool esiste = CaricaDatiAnagraficiMeta(archivio, codice_).has_value();
     const QString codice = esiste ? codice_ : RicercaMetaCorrente(archivio);
     if (codice.isEmpty()) {
         Proponi(adesso);
     } else {
         MetaAperta aperta = sessione_.ApriMeta(codice);
-        Metti(std::move(aperta.meta), std::move(aperta.tappe));
+        Metti(aperta.meta, std::move(aperta.tappe));
     }
     codice_ = codice;
 }
@@ -55,26 +56,36 @@ void Documento::Proponi(const QDateTime& adesso) { Metti(sessione_.MetaProposta(
 
 void Documento::RileggiVisite() {
     RigheItinerario righe = righe_;
-    RicalcolaVisite(sessione_.Archivio(), righe, OrarioCorretto(campi_.parametri));
+    RicalcolaVisite(sessione_.Archivio(), righe, orario_);
     const bool intatte = !TappeModificate();
     righe_ = std::move(righe);
     RicalcolaTempi();
     if (intatte) caricate_ = righe_;
 }
 
+void Documento::ImpostaCampi(const Meta& campi) {
+    campi_ = campi;
+    orario_ = OrarioCorretto(campi_.parametri);
+}
+
+void Documento::ImpostaParametri(const ParametriViaggio& parametri) {
+    campi_.parametri = parametri;
+    orario_ = OrarioCorretto(parametri);
+}
+
 // What the program puts right by itself is no change of the person's.
 void Documento::Correggi(const ParametriViaggio& parametri) {
     const bool intatti = !CampiModificati();
-    campi_.parametri = parametri;
+    ImpostaParametri(parametri);
     if (intatti) caricati_ = campi_;
 }
 
 void Documento::ControllaOrari() { Correggi(InOrdine(campi_.parametri)); }
 
-void Documento::AggiornaOrari() { Correggi(OrarioCorretto(campi_.parametri).Parametri()); }
+void Documento::AggiornaOrari() { Correggi(ParametriViaggio(orario_.Parametri())); }
 
 void Documento::RicalcolaTempi() {
-    riepilogo_ = CalcolaKmTempiItinerario(righe_, OrarioCorretto(campi_.parametri), campi_.giorniAdeguamento);
+    riepilogo_ = CalcolaKmTempiItinerario(righe_, orario_, campi_.giorniAdeguamento);
     campi_.giorniAdeguamento = riepilogo_.giorniAdeguamento;
 }
 
@@ -85,7 +96,7 @@ void Documento::SelezionaRiga(int riga) {
 
 // Takes over changed stages: times and visits are computed afresh.
 void Documento::Mostra(Stato stato) {
-    RicalcolaVisite(sessione_.Archivio(), stato.righe, OrarioCorretto(campi_.parametri));
+    RicalcolaVisite(sessione_.Archivio(), stato.righe, orario_);
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
     SelezionaRiga(stato.rigaCorrente);
@@ -114,8 +125,10 @@ void Documento::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
 }
 
 QString Documento::Calcola(Progress& progress) {
+    Meta corretti = campi_;
+    corretti.parametri = orario_.Parametri();
+    EsitoCalcolo esito = sessione_.Calcola({corretti, orario_, righe_, riepilogo_}, {}, progress);
     AggiornaOrari();
-    EsitoCalcolo esito = sessione_.Calcola({campi_, righe_, riepilogo_}, {}, progress);
     cronovia_ = std::move(esito.cronovia);
     return esito.messaggio;
 }
@@ -147,7 +160,7 @@ void Documento::SalvaCampi(const Salvataggio& deciso) {
     const QString codice = SalvaMeta(archivio, campi_, adesso);
     MetaAperta salvata = sessione_.ApriMeta(codice);
     transaction.Commit();
-    Metti(std::move(salvata.meta), std::move(salvata.tappe));
+    Metti(salvata.meta, std::move(salvata.tappe));
     codice_ = codice;
     AggiornaOrari();
 }
@@ -156,7 +169,7 @@ EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
     Transaction transaction(sessione_.Archivio());
     ConfermaCheELei();
     const EsitoMemorizzazione esito =
-        MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, OrarioCorretto(campi_.parametri), progress);
+        MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, orario_, progress);
     transaction.Commit();
     caricate_ = righe_;
     return esito;
@@ -165,7 +178,7 @@ EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
 void Documento::CancellaTappe(Progress& progress) {
     Transaction transaction(sessione_.Archivio());
     ConfermaCheELei();
-    MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, OrarioCorretto(campi_.parametri), progress);
+    MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, orario_, progress);
     transaction.Commit();
 }
 

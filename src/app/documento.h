@@ -24,6 +24,8 @@ class Documento {
 
     // What is open.
     [[nodiscard]] const Meta& Campi() const { return campi_; }
+    /// The timetable of these fields.
+    [[nodiscard]] const OrarioCorretto& Orario() const { return orario_; }
     [[nodiscard]] const RigheItinerario& Righe() const { return righe_; }
     /// Leg times and totals of the stages, as many legs as stages.
     [[nodiscard]] const RiepilogoItinerario& Riepilogo() const { return riepilogo_; }
@@ -58,8 +60,8 @@ class Documento {
     void RileggiVisite();
 
     // Changing.
-    void ImpostaCampi(const Meta& campi) { campi_ = campi; }
-    void ImpostaParametri(const ParametriViaggio& parametri) { campi_.parametri = parametri; }
+    void ImpostaCampi(const Meta& campi);
+    void ImpostaParametri(const ParametriViaggio& parametri);
     /// Put hours that disagree right, after one was changed; and all that depends on the start of the trip.
     void ControllaOrari();
     void AggiornaOrari();
@@ -95,7 +97,7 @@ class Documento {
         int rigaCorrente = 1;
     };
     void ConfermaCheELei();
-    void Metti(Meta campi, RigheItinerario righe);
+    void Metti(const Meta& campi, RigheItinerario righe);
     void Mostra(Stato stato);
     void RicalcolaTempi();
     void Correggi(const ParametriViaggio& parametri);
@@ -103,6 +105,7 @@ class Documento {
 
     Sessione& sessione_;
     Meta campi_;
+    OrarioCorretto orario_;
     RigheItinerario righe_;
     RiepilogoItinerario riepilogo_;
     std::optional<Cronovia> cronovia_;

@@ -43,16 +43,18 @@ MetaAperta Sessione::ApriMeta(const QString& codice, LettoreGuida& guida) {
     if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
     aperta.meta = std::move(*meta);
-    const OrarioCorretto orario(aperta.meta.parametri);
-    aperta.tappe = CaricaTappeItinerario(archive_, completo, orario, guida);
-    aperta.riepilogo = CalcolaKmTempiItinerario(aperta.tappe, orario, aperta.meta.giorniAdeguamento);
+    aperta.orario = OrarioCorretto(aperta.meta.parametri);
+    aperta.tappe = CaricaTappeItinerario(archive_, completo, aperta.orario, guida);
+    aperta.riepilogo = CalcolaKmTempiItinerario(aperta.tappe, aperta.orario, aperta.meta.giorniAdeguamento);
     aperta.meta.giorniAdeguamento = aperta.riepilogo.giorniAdeguamento;
     return aperta;
 }
 
 EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress) {
-    const ReadSnapshot momento(archive_);
+    std::optional<ReadSnapshot> momento(std::in_place, archive_);
     LettoreGuida guida(archive_);
+    guida.Anticipa(LocalitaDelleTappe(aperta.tappe));
+    momento.reset();
     return Calcola(aperta, opzioni, guida, progress);
 }
 

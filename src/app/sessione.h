@@ -12,12 +12,14 @@
 #include "schedule/calcola_cronovia.h"
 #include "store/archive.h"
 #include "trips/meta.h"
+#include "trips/orario.h"
 
 namespace cronovia {
 
 /// A trip with its itinerary, as it is stored.
 struct MetaAperta {
-    Meta meta;  ///< `giorniAdeguamento` raised to the least days
+    Meta meta;              ///< `giorniAdeguamento` raised to the least days
+    OrarioCorretto orario;  ///< of its parameters
     std::vector<Tappa> tappe;
     RiepilogoItinerario riepilogo;
 };

@@ -20,8 +20,8 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
             QDir::toNativeSeparators(path)));
     }
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
-    const std::optional<EsitoMemorizzazione> esito = MemorizzaPrimeTappe(
-        sessione.Archivio(), aperta.meta.codice, *tappe, OrarioCorretto(aperta.meta.parametri), progress);
+    const std::optional<EsitoMemorizzazione> esito =
+        MemorizzaPrimeTappe(sessione.Archivio(), aperta.meta.codice, *tappe, aperta.orario, progress);
     if (!esito) {
         throw Failure(
             u"La mèta con il codice %1 ha già delle tappe: un percorso si importa solo con itinerario "

@@ -222,7 +222,11 @@ TEST_F(ComandiTest, DaysWantedStopAndWhatCannotBeComputed) {
     EXPECT_EQ(Schermo(), u"aperta"_s);
     avanzamento_.stop = false;
     const QString ferma = u"Calcolo impossibile: la velocità media per le strade di tipo «Autostrada» è 0."_s;
+    Meta tardi = Viaggio().Campi();
+    tardi.parametri.oraCena = 2100_cent;  // too late for the night
+    Viaggio().ImpostaCampi(tardi);
     EXPECT_FALSE(calcola(1, 0, ferma, {}));
+    EXPECT_EQ(Viaggio().Campi().parametri.oraCena, 2100_cent);
     EXPECT_EQ(Schermo(), u"aperta"_s);
     EXPECT_TRUE(calcola(1, 75, u"Elaborazione conclusa in 1 tentativi!"_s, titolo));
 }
