@@ -22,7 +22,7 @@ constexpr int kRigaTitolo = 15;
 constexpr double kRientroVoce = 1;  // of a text from the rule at its left
 constexpr Carattere kCarattere{Famiglia::Times, 9};
 
-QString LavoroGuida() { return u"Stampa della guida citta"_s; }
+QString LavoroGuida() { return u"Stampa della guida"_s; }
 
 std::vector<LocalitaStampata> LocalitaDelViaggio(Archive& archive, const QString& codiceMeta) {
     std::vector<QString> nomi;
@@ -183,7 +183,7 @@ QString NienteDaStampare(const OpzioniStampaGuida& opzioni) {
 }
 
 Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Progress& progress) {
-    progress.Title(u"Stampa della cronovia"_s);
+    progress.Title(LavoroGuida());
     StampaPagine stampa(dati, piede);
     int pagina = 0;
     double fatte = 0;
