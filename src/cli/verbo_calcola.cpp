@@ -68,11 +68,11 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
     uscita << TitoloMeta(aperta.meta) << '\n';
     if (righe.empty()) uscita << u"\nL'itinerario non ha ancora tappe.\n"_s;
     ScriviGiorni(aperta.meta, *esito.cronovia, righe, uscita);
-    const auto fine = TestiFine(*esito.cronovia);
+    const TestiFine fine = Testi(esito.cronovia->fine);
     uscita << '\n' << RigaTotali(totali) << '\n';
     if (esito.cronovia->fine) {
-        uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(fine[5], fine[0], fine[1], fine[2],
-                                                                                  fine[3], fine[4], fine[6]);
+        uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(
+            fine.giornoSettimana, fine.giorno, fine.mese, fine.anno, fine.ore, fine.minuti, fine.giorni);
         const auto& tutte = esito.cronovia->righe;
         if (std::any_of(tutte.begin(), tutte.end(), [](const RigaCronovia& riga) { return riga.riposoDopo; })) {
             uscita << u"Ore: * seguono uno o più giorni di riposo.\n"_s;
@@ -87,7 +87,7 @@ void ScriviJson(const Cronovia& cronovia, const EsitoCalcolo& esito, const Testi
     ScrittoreJson json(uscita);
     json.ApreOggetto();
     json.Nome(u"fine");
-    json.Testi(TestiFine(cronovia));
+    json.Testi(Testi(cronovia.fine).Elenco());
     json.Nome(u"messaggio");
     json.Testo(esito.messaggio);
     json.Nome(u"righe");

@@ -66,10 +66,12 @@ void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
         gruppo.Voce(DataEOra(GiornoSettimana(inizio), TestoData(inizio), Ora(dati.meta.oraInizio)), 2, kRientro);
     }
     gruppo.VoceGrassetta(u"Fine:"_s, 4, kRientro);
-    const auto& fine = dati.fine;
-    if (fine[5].isEmpty()) return;
-    gruppo.Voce(DataEOra(fine[5], fine[0] + u'/' + fine[1] + u'/' + fine[2], fine[3] + u':' + fine[4]), 5, kRientro);
-    gruppo.Voce(u"dopo %1 giorni e %2 Km."_s.arg(fine[6], dati.totali.km[kTuttiITipi]), 6, kRientro);
+    const TestiFine& fine = dati.fine;
+    if (fine.giorni.isEmpty()) return;
+    gruppo.Voce(DataEOra(fine.giornoSettimana, fine.giorno + u'/' + fine.mese + u'/' + fine.anno,
+                         fine.ore + u':' + fine.minuti),
+                5, kRientro);
+    gruppo.Voce(u"dopo %1 giorni e %2 Km."_s.arg(fine.giorni, dati.totali.km[kTuttiITipi]), 6, kRientro);
 }
 
 void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QString>
-#include <array>
+#include <optional>
 #include <vector>
 
 #include "itinerary/riepilogo.h"
@@ -15,8 +15,10 @@ namespace cronovia {
 /// A row of the schedule: what it is, and its texts as the grid shows them.
 struct RigaStampata {
     GenereRiga genere = GenereRiga::Marcia;
-    bool riposo = false;  ///< a short rest follows
-    RigaGriglia testi;    ///< without a locality the row is not printed
+    bool riposo = false;                ///< a short rest follows
+    bool sostaDopo = false;             ///< a stop, or a visit with its time, stands in the row that follows
+    std::optional<TestiLimite> limite;  ///< until when one can drive on, or must turn back
+    RigaGriglia testi;                  ///< without a locality the row is not printed
 };
 
 /// A snapshot: nothing in it changes with the trip.
@@ -24,8 +26,8 @@ struct DatiStampa {
     Meta meta;
     OrarioCorretto orario;  ///< as the calculation took it
     std::vector<RigaStampata> righe;
-    std::array<QString, 7> fine;  ///< as `TestiFine`; empty texts without any driving
-    TestiTotali totali;           ///< of the schedule, by road type
+    TestiFine fine;
+    TestiTotali totali;  ///< of the schedule, by road type
 };
 
 /// What is printed of a trip and its schedule.

@@ -14,7 +14,7 @@ namespace {
 
 QString ArgomentoModuli(const DatiStampa& dati) {
     const QString inizio = dati.meta.dataInizio ? TestoData(*dati.meta.dataInizio) : QString();
-    const QStringList fine = {dati.fine[0], dati.fine[1], dati.fine[2]};
+    const QStringList fine = {dati.fine.giorno, dati.fine.mese, dati.fine.anno};
     return dati.meta.localita + u',' + inizio + u',' + fine.join(u'/');
 }
 

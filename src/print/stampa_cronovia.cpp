@@ -52,11 +52,11 @@ std::optional<QString> CodiceDiario(const QString& valore) {
 
 // What a person marked: with a code for the logbook, or with a first character that stands for "look here".
 bool Segnato(const QString& scritto) {
-    return CodiceDiario(scritto) || (!scritto.isEmpty() && u">\\a*"_s.contains(scritto.front()));
+    return CodiceDiario(scritto) || (!scritto.isEmpty() && u">\\*"_s.contains(scritto.front()));
 }
 
 // Type of the texts: the locality larger, what one looks for bold.
-Carattere CarattereDi(Colonna colonna, const RigaStampata& riga, const QString& testo, bool sostaDopo) {
+Carattere CarattereDi(Colonna colonna, const RigaStampata& riga, const QString& testo) {
     const bool localita = colonna == Colonna::Tappa;
     const bool note = colonna == Colonna::Note;
     const bool luogoDiSosta = localita && (riga.genere == GenereRiga::Sosta || riga.genere == GenereRiga::Guida);
@@ -68,7 +68,7 @@ Carattere CarattereDi(Colonna colonna, const RigaStampata& riga, const QString& 
     } else if (note) {
         carattere.grassetto = riga.riposo;
     }
-    if (localita && sostaDopo && !CodiceDiario(testo)) carattere.famiglia = Famiglia::Arial;
+    if (localita && riga.sostaDopo && !CodiceDiario(testo)) carattere.famiglia = Famiglia::Arial;
     return carattere;
 }
 
@@ -77,8 +77,7 @@ class StampaRighe {
     StampaRighe(const DatiStampa& dati, const PieDiPagina& piede)
         : dati_(dati), foglio_(u"Cronovia: "_s + dati.meta.localita, piede, LavoroCronovia()) {}
 
-    /// `sostaDopo`: a stop, or a visit, stands in the row that follows.
-    void Stampa(const RigaStampata& riga, bool sostaDopo) {
+    void Stampa(const RigaStampata& riga) {
         if (foglio_.PaginaPiena()) {
             StampaFinePagina();
             StampaIntestaPagina();
@@ -86,8 +85,8 @@ class StampaRighe {
             // Under the row before: the last one of a page has the closing rule.
             Traversa(foglio_.RigaStampa() - kAltezzaRiga + kSottoIlTesto, Filetto::Sottile, Bordo(15));
         }
-        for (int i = 0; i < kColonneStampate; ++i) StampaValore(i, riga, sostaDopo);
-        StampaLimite(riga.testi[Colonna::LimiteRitorno].trimmed());
+        for (int i = 0; i < kColonneStampate; ++i) StampaValore(i, riga);
+        if (riga.limite) StampaLimite(*riga.limite);
         StampaCodice(riga.testi);
         foglio_.Avanza(kAltezzaRiga);
     }
@@ -115,10 +114,10 @@ class StampaRighe {
                              carattere, allineamento});
     }
 
-    void StampaValore(int colonna, const RigaStampata& riga, bool sostaDopo);
+    void StampaValore(int colonna, const RigaStampata& riga);
     void StampaLocalita(const QString& testo, const Carattere& carattere, const QString& strada);
     void StampaRistretto(int colonna, const QString& testo, const Carattere& carattere, Allineamento allineamento);
-    void StampaLimite(const QString& limite);
+    void StampaLimite(const TestiLimite& limite);
     void StampaCodice(const RigaGriglia& riga);
 
     const DatiStampa& dati_;
@@ -174,11 +173,11 @@ void StampaRighe::StampaIntestazioni() {
     Traversa(y + 1.1, Filetto::Spesso, Bordo(15));
 }
 
-void StampaRighe::StampaValore(int colonna, const RigaStampata& riga, bool sostaDopo) {
+void StampaRighe::StampaValore(int colonna, const RigaStampata& riga) {
     const ColonnaStampa& descrizione = kColonne[static_cast<std::size_t>(colonna)];
     QString testo = riga.testi[descrizione.valore].trimmed();
     if (descrizione.valore == Colonna::Data) testo.truncate(5);  // the year stands in the header
-    const Carattere carattere = CarattereDi(descrizione.valore, riga, testo, sostaDopo);
+    const Carattere carattere = CarattereDi(descrizione.valore, riga, testo);
     if (descrizione.valore == Colonna::Tappa) {
         return StampaLocalita(testo, carattere, riga.testi[Colonna::NumeroStrada].trimmed());
     }
@@ -210,12 +209,12 @@ void StampaRighe::StampaLocalita(const QString& testo, const Carattere& caratter
     StampaNellaColonna(1, foglio_.Tagliato(testo, carattere, fine - Bordo(1)), carattere, Sinistra);
 }
 
-void StampaRighe::StampaLimite(const QString& limite) {
+void StampaRighe::StampaLimite(const TestiLimite& limite) {
     const Carattere carattere{Famiglia::Times, 8};
-    StampaNellaColonna(12, limite.left(1), carattere, Sinistra);
-    StampaNellaColonna(13, limite.mid(1, 5), carattere, Sinistra);
+    StampaNellaColonna(12, limite.segno, carattere, Sinistra);
+    StampaNellaColonna(13, limite.giorno, carattere, Sinistra);
     foglio_.StampaTesto(
-        {limite.right(5), static_cast<double>(foglio_.RigaStampa()), Bordo(14), Bordo(15) + 1, carattere, Sinistra});
+        {limite.ora, static_cast<double>(foglio_.RigaStampa()), Bordo(14), Bordo(15) + 1, carattere, Sinistra});
 }
 
 // A box to tick, right of the table.
@@ -240,8 +239,7 @@ Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progre
     for (std::size_t i = 0; i < totale; ++i) {
         progress.Advance(static_cast<double>(i + 1), static_cast<double>(totale));
         if (dati.righe[i].testi[Colonna::Tappa].trimmed().isEmpty()) continue;
-        const RigaGriglia& dopo = dati.righe[std::min(i + 1, totale - 1)].testi;
-        stampa.Stampa(dati.righe[i], !dopo[Colonna::Sosta].trimmed().isEmpty());
+        stampa.Stampa(dati.righe[i]);
         if (stampa.NumeroPagina() == pagina) continue;
         pagina = stampa.NumeroPagina();
         progress.Title(titolo + u" (pag. %1)"_s.arg(pagina));

@@ -18,7 +18,7 @@ inline constexpr double kSinistraCronovia = 2;
 
 /// The pages of a schedule; none when no row has a locality. Bold are stops, guide entries, rests and what a person
 /// marked in a name: with a code of the logbook (Ps, Cs, Rs, Cm, Gp), which also gets a box to tick, or with a first
-/// character of `> \ a *`.
+/// character of `> \ *`.
 Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress);
 
 /// The trip's characteristics in the page header, from the open page's line on; leaves the line at their end.

@@ -65,13 +65,6 @@ QString TestoMotivo(Motivo motivo) {
     return {};
 }
 
-QString TestoLimite(const LimiteRitorno& limite) {
-    const Gma gma = GmaDelGiorno(limite.data);
-    const Durata ora = InDurata(limite.ora, kGiornoOrologio);
-    return ConNumeri(limite.prosecuzione ? u">00/00-00:00" : u"<00/00-00:00",
-                     {gma.giorno, gma.mese, ora.ore, ora.minuti});
-}
-
 void ScriviMomento(const RigaCronovia& riga, RigaGriglia& testi) {
     testi[Colonna::GiornoSettimana] = GiornoSettimana(riga.data);
     testi[Colonna::Data] = TestoData(riga.data);
@@ -117,6 +110,13 @@ RigaGriglia Intestazioni(Vista vista) {
     return intestazioni;
 }
 
+TestiLimite Testi(const LimiteRitorno& limite) {
+    const Gma gma = GmaDelGiorno(limite.data);
+    const Durata ora = InDurata(limite.ora, kGiornoOrologio);
+    return {limite.prosecuzione ? u'>' : u'<', ConNumeri(u"00/00", {gma.giorno, gma.mese}),
+            ConNumeri(u"00:00", {ora.ore, ora.minuti})};
+}
+
 RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& tempi) {
     RigaGriglia testi;
     testi[Colonna::Numero] = QString::number(numero);
@@ -151,7 +151,10 @@ RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione) {
             break;
     }
     if (riga.riposoDopo) testi[Colonna::Ora].prepend(u"* "_s);
-    if (riga.limite) testi[Colonna::LimiteRitorno] = TestoLimite(*riga.limite);
+    if (riga.limite) {
+        const TestiLimite limite = Testi(*riga.limite);
+        testi[Colonna::LimiteRitorno] = limite.segno + limite.giorno + u'-' + limite.ora;
+    }
     return testi;
 }
 

@@ -50,6 +50,14 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
 /// The texts of a row of the schedule, by its position from 0, which must be one of its rows.
 RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione);
 
+/// A return limit in its three parts, of which `Colonna::LimiteRitorno` is made.
+struct TestiLimite {
+    QChar segno;     ///< '>' to drive on, '<' to turn back
+    QString giorno;  ///< "gg/mm"
+    QString ora;     ///< "hh:mm"
+};
+TestiLimite Testi(const LimiteRitorno& limite);
+
 /// The texts of all rows of the schedule.
 std::vector<RigaGriglia> TestiDellaCronovia(const Cronovia& cronovia);
 

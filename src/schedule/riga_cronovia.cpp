@@ -5,13 +5,19 @@
 
 namespace cronovia {
 
-std::array<QString, 7> TestiFine(const Cronovia& cronovia) {
-    if (!cronovia.fine) return {};
-    const FineViaggio& fine = *cronovia.fine;
-    const Gma gma = GmaDelGiorno(fine.data);
-    const QString ora = TestoOrologio(fine.ora);
-    return {Zero(gma.giorno, 2), Zero(gma.mese, 2),          Zero(gma.anno, 4),           ora.left(2),
-            ora.right(2),        GiornoSettimana(fine.data), QString::number(fine.giorni)};
+std::array<QString, 7> TestiFine::Elenco() const { return {giorno, mese, anno, ore, minuti, giornoSettimana, giorni}; }
+
+TestiFine Testi(const std::optional<FineViaggio>& fine) {
+    if (!fine) return {};
+    const Gma gma = GmaDelGiorno(fine->data);
+    const QString ora = TestoOrologio(fine->ora);
+    return {Zero(gma.giorno, 2),
+            Zero(gma.mese, 2),
+            Zero(gma.anno, 4),
+            ora.left(2),
+            ora.right(2),
+            GiornoSettimana(fine->data),
+            QString::number(fine->giorni)};
 }
 
 }  // namespace cronovia

@@ -111,8 +111,19 @@ struct Cronovia {
     OrarioCorretto orario;  ///< as the last pass took it
 };
 
-/// Day, month, year, hour, minutes, weekday and number of days of the trip's end, as "05", "07", "2027", "17", "35",
-/// "Lun" and "10"; empty texts without any driving.
-std::array<QString, 7> TestiFine(const Cronovia& cronovia);
+/// The trip's end as its boxes show it; empty texts without any driving.
+struct TestiFine {
+    QString giorno;  ///< "05"
+    QString mese;
+    QString anno;  ///< "2027"
+    QString ore;
+    QString minuti;
+    QString giornoSettimana;  ///< "Lun"
+    QString giorni;           ///< of the whole trip, "10"
+
+    /// In the order of the members.
+    [[nodiscard]] std::array<QString, 7> Elenco() const;
+};
+TestiFine Testi(const std::optional<FineViaggio>& fine);
 
 }  // namespace cronovia

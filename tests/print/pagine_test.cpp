@@ -68,7 +68,7 @@ DatiStampa Tipi() {
     dati.fine = {u"31"_s, u"12"_s, u"2099"_s, u"23"_s, u"59"_s, u"Mer"_s, u"36500"_s};
     using enum GenereRiga;
     dati.righe = {
-        Riga(u"BARI"_s),
+        Riga(u"asti"_s),
         Riga(u"a: Bari"_s, u"*00:01:30"_s, u"Visita/f.g."_s, Sosta),
         Riga(u" > Museo"_s, u"01:30"_s, u"Interessante"_s, Guida),
         Riga(u" > Gas"_s, {}, u"Gpl"_s, Guida),
@@ -94,8 +94,9 @@ DatiStampa Tipi() {
         testi[Colonna::GiornoSettimana] = u"Sab"_s;
         testi[Colonna::Data] = u"05/06/2027"_s;
         testi[Colonna::Ora] = i == 4 ? u"* 22:00"_s : u"11:52"_s;
-        testi[Colonna::LimiteRitorno] = u">15/07-11:55"_s;
+        dati.righe[i].limite = {u'>', u"15/07"_s, u"11:55"_s};
     }
+    for (const std::size_t i : {0U, 1U, 7U}) dati.righe[i].sostaDopo = true;
     return dati;
 }
 

@@ -17,7 +17,7 @@ inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
 
 inline RigaStampata Riga(const QString& localita, const QString& sosta = {}, const QString& note = {},
                          GenereRiga genere = GenereRiga::Marcia) {
-    RigaStampata riga{genere, note.contains(u"Riposo"_s), {}};
+    RigaStampata riga{genere, note.contains(u"Riposo"_s), false, {}, {}};
     riga.testi[Colonna::Tappa] = localita;
     riga.testi[Colonna::Sosta] = sosta;
     riga.testi[Colonna::Note] = note;

@@ -134,7 +134,7 @@ class Viaggi : public testing::Test {
         SegnanoIGiorni(cronovia, *aperta.meta.dataInizio);
         for (const RigaGriglia& riga : TestiDellaCronovia(cronovia)) testo += Riga(riga);
         testo += RigaTotali(Testi(cronovia.totali, cronovia.orario.GuidaGiorno()));
-        return testo + u"fine\t"_s + Riga(TestiFine(cronovia)) +
+        return testo + u"fine\t"_s + Riga(Testi(cronovia.fine).Elenco()) +
                u"passate\t%1\t%2\n"_s.arg(QString::number(esito.tentativi), esito.messaggio);
     }
 

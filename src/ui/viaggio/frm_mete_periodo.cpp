@@ -169,8 +169,9 @@ void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilo
     MostraVoce(*cmbGiorni_, Zero(meta.giorniAdeguamento, 3));
 }
 
-void FrmMetePeriodo::MostraFine(const std::array<QString, 7>& fine) {
-    for (std::size_t i = 0; i < txtFine_.size(); ++i) txtFine_[i]->setText(fine[i]);
+void FrmMetePeriodo::MostraFine(const TestiFine& fine) {
+    const auto testi = fine.Elenco();
+    for (std::size_t i = 0; i < txtFine_.size(); ++i) txtFine_[i]->setText(testi[i]);
 }
 
 void FrmMetePeriodo::Leggi(Meta& meta) const {

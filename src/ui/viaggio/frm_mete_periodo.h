@@ -7,6 +7,7 @@
 #include <array>
 
 #include "itinerary/riepilogo.h"
+#include "schedule/riga_cronovia.h"
 #include "trips/meta.h"
 
 class QGridLayout;
@@ -21,8 +22,8 @@ class FrmMetePeriodo : public QGroupBox {
     explicit FrmMetePeriodo(int annoCorrente, QWidget* parent = nullptr);
 
     void Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo);
-    /// Day, month, year, hour, minutes, weekday and number of days of the end; empty texts without a schedule.
-    void MostraFine(const std::array<QString, 7>& fine);
+    /// Empty texts without a schedule.
+    void MostraFine(const TestiFine& fine);
     /// Puts what the fields hold into the trip; of a start that is no date, its parts.
     void Leggi(Meta& meta) const;
     void FuocoSullaLocalita();

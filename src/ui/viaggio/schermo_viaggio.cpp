@@ -89,7 +89,7 @@ void SchermoViaggio::Mostra(bool liberi) {
     const RiepilogoItinerario& riepilogo = documento.Riepilogo();
     const ParametriViaggio& parametri = documento.Campi().parametri;
     periodo_->Mostra(documento.Campi(), riepilogo);
-    periodo_->MostraFine(cronovia ? TestiFine(*cronovia) : std::array<QString, 7>());
+    periodo_->MostraFine(cronovia ? Testi(cronovia->fine) : TestiFine());
     velocita_->Mostra(parametri);
     velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->orario.GuidaGiorno())
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
