@@ -49,7 +49,9 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
         return QApplication::exec();
     } catch (const Failure& failure) {
         std::fputs(qPrintable(failure.Message() + u'\n'), stderr);
-        QMessageBox::critical(nullptr, u"Cronovia"_s, failure.Message());
+        QMessageBox box(QMessageBox::Critical, u"Cronovia"_s, failure.Message(), QMessageBox::Ok);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
         return 1;
     }
 }

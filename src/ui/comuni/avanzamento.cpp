@@ -21,6 +21,7 @@ Avanzamento::Avanzamento(QWidget* parent)
     : QFrame(parent), lblElaborazione_(new QLabel(TestoARiposo())), txtPerc_(new QProgressBar) {
     setObjectName(u"txtBase"_s);
     lblElaborazione_->setObjectName(u"lblElaborazione"_s);
+    lblElaborazione_->setTextFormat(Qt::PlainText);
     txtPerc_->setObjectName(u"txtPerc"_s);
     txtPerc_->setAccessibleName(u"Avanzamento"_s);
     txtPerc_->setRange(0, 100);

@@ -175,8 +175,11 @@ QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QStrin
     aiuto->setFlat(true);
     aiuto->setProperty(kAiuto, true);
     LarghezzaPer(*aiuto, 4, 8);
-    QObject::connect(aiuto, &QPushButton::clicked, aiuto,
-                     [aiuto, titolo, istruzioni] { QMessageBox::information(aiuto->window(), titolo, istruzioni); });
+    QObject::connect(aiuto, &QPushButton::clicked, aiuto, [aiuto, titolo, istruzioni] {
+        QMessageBox box(QMessageBox::Information, titolo, istruzioni, QMessageBox::Ok, aiuto->window());
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+    });
     return aiuto;
 }
 
