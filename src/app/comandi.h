@@ -10,9 +10,9 @@ namespace cronovia {
 /// One command, in words and as a procedure.
 struct DescrizioneComando {
     Comando comando;
-    const char16_t* nome;        ///< of its controls
-    const char16_t* scritta;     ///< caption; its letter, which no other has on that screen, is marked by "&"
-    const char16_t* istruzione;  ///< tip, plain text
+    const char16_t* nome;         ///< of its controls
+    const char16_t* scritta;      ///< caption; its letter, which no other has on that screen, is marked by "&"
+    const char16_t* istruzione;   ///< tip, plain text
     void (*esegui)(Postazione&);  ///< does it; tells by itself what goes wrong
 };
 

@@ -94,7 +94,8 @@ class PostazioneTest : public testing::Test {
         for (const QString& tappa : tappe) ASSERT_TRUE(Inserisce(tappa, 100));
     }
     void CancMeta(Answer risposta) {
-        copione_.Domanda(QStringLiteral("Confermi annullamento meta?\n\n") + Viaggio().Nome(), QStringLiteral("Annullamento meta"), risposta);
+        copione_.Domanda(QStringLiteral("Confermi annullamento meta?\n\n") + Viaggio().Nome(),
+                         QStringLiteral("Annullamento meta"), risposta);
         comandi::CancMeta(*postazione_);
     }
     void DomandaDiUscita(Answer risposta) {
