@@ -21,6 +21,9 @@ Condition DellaMeta(const QString& codiceMeta) { return {itinerari::CodiceMeta, 
 
 int Larghezza(itinerari::Field campo) { return Width(Table::Itinerari, campo); }
 
+// One less than the field holds, as every installation does.
+int LarghezzaLocalita() { return Larghezza(itinerari::Localita) - 1; }
+
 bool Vuota(const Tappa& tappa) { return tappa.localita.trimmed().isEmpty(); }
 
 std::int64_t RecordNecessari(std::span<const Tappa> tappe) {
@@ -49,7 +52,7 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
                     int& sequenza) {
     std::vector<QString> valori(itinerari::kCampi);
     valori[itinerari::CodiceMeta] = codiceMeta;
-    valori[itinerari::Localita] = tappa.localita.left(Larghezza(itinerari::Localita) - 1);
+    valori[itinerari::Localita] = tappa.localita.left(LarghezzaLocalita());
     valori[itinerari::NomeStrada] = ConBlank(tappa.numStrada, itinerari::NomeStrada);
     valori[itinerari::TipoStrada] = ConBlank(LetteraTipoStrada(tappa.tipo), itinerari::TipoStrada);
     valori[itinerari::TempoSosta] = ConBlank(Testo(tappa.sosta), itinerari::TempoSosta);
@@ -82,7 +85,7 @@ EsitoMemorizzazione Aggiungi(Archive& archive, const QString& codiceMeta, std::s
     for (const Tappa& tappa : tappe) {
         progress.Advance(++fatte, static_cast<double>(tappe.size()));
         if (Vuota(tappa)) continue;
-        if (tappa.localita.size() >= Larghezza(itinerari::Localita)) ++esito.nomiAccorciati;
+        if (tappa.localita.size() > LarghezzaLocalita()) ++esito.nomiAccorciati;
         if (tappa.numStrada.size() > Larghezza(itinerari::NomeStrada)) ++esito.nomiAccorciati;
         const QString visite = Testo(guida.PrendiTempoVisite(tappa.localita), orario.VisitaGiorno());
         MemorizzaTappa(archive, codiceMeta, tappa, visite.isEmpty() ? u" "_s : visite, esito.record);
@@ -139,7 +142,9 @@ std::vector<Tappa> ConSosteDellaGuida(Archive& archive, std::vector<Tappa> tappe
 }
 
 QString TestoNomiAccorciati(const EsitoMemorizzazione& esito) {
-    return u"Nomi accorciati (località a 29 caratteri, strade a 64): %1."_s.arg(esito.nomiAccorciati);
+    return u"Nomi accorciati (località a %1 caratteri, strade a %2): %3."_s.arg(LarghezzaLocalita())
+        .arg(Larghezza(itinerari::NomeStrada))
+        .arg(esito.nomiAccorciati);
 }
 
 EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,

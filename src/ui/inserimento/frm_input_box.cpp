@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "calendar/testo.h"
+#include "store/schema.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
@@ -44,8 +45,9 @@ QWidget* FrmInputBox::CreaCampi() {
     layout->setContentsMargins({});
     layout->setVerticalSpacing(3);
     txtRiga_ = NuovoRisultato(u"txtRiga"_s, 5, u"Numero cronologico della tappa (automatico)"_s);
-    txtTappa_ = NuovaCasella(u"txtTappa"_s, 29, u"Indicare la località di arrivo"_s);
-    txtNumStrada_ = NuovaCasella(u"txtNumStrada"_s, 63,
+    txtTappa_ = NuovaCasella(u"txtTappa"_s, Width(Table::Itinerari, itinerari::Localita) - 1,
+                             u"Indicare la località di arrivo"_s);
+    txtNumStrada_ = NuovaCasella(u"txtNumStrada"_s, Width(Table::Itinerari, itinerari::NomeStrada),
                                  u"Indicare il Numero della strada per giungere alla località descritta; se contiene "
                                  "\"TRAGH\" indica uso di Traghetto"_s);
     txtKm_ = NuovaCasella(u"txtKm"_s, kCifreKm,

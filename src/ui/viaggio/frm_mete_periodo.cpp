@@ -8,6 +8,7 @@
 #include "calendar/date.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
+#include "store/schema.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
@@ -57,8 +58,10 @@ FrmMetePeriodo::FrmMetePeriodo(int annoCorrente, QWidget* parent) : QGroupBox(u"
 }
 
 void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
-    txtLocalita_ = NuovaCasella(u"txtLocalita"_s, 30, u"Destinazione del viaggio (obbligatoria)"_s);
-    txtNazione_ = NuovaCasella(u"txtNazione"_s, 18, u"Nazione della destinazione (obbligatoria)"_s);
+    txtLocalita_ = NuovaCasella(u"txtLocalita"_s, Width(Table::MeteVandro, mete::Localita),
+                                u"Destinazione del viaggio (obbligatoria)"_s);
+    txtNazione_ = NuovaCasella(u"txtNazione"_s, Width(Table::MeteVandro, mete::Nazione),
+                               u"Nazione della destinazione (obbligatoria)"_s);
     txtCodice_ = NuovoRisultato(u"txtCodice"_s, 6, u"Codice della mèta (automatico)"_s);
     for (QLineEdit* casella : {txtLocalita_, txtNazione_}) {
         ScriviMaiuscolo(*casella);
