@@ -10,13 +10,6 @@ using namespace Qt::StringLiterals;
 
 class ComandiTest : public prova::PostazioneTest {
   protected:
-    /// Does not save, and answers this to the question whether to go back to what is saved.
-    void Recupera(Answer risposta) {
-        const QString titolo = u"Salvataggio itinerario"_s;
-        copione_.Domanda(u"Vuoi salvare l'itinerario?"_s, titolo, Answer::No, true);
-        copione_.Domanda(u"Vuoi recuperare l'itinerario originale?"_s, titolo, risposta);
-        comandi::Memorizza(*postazione_);
-    }
     [[nodiscard]] QString Archivio(const QString& fatto) const {
         return u"Archivio %1: %2"_s.arg(QDir::toNativeSeparators(cartella_.Archivio()), fatto);
     }
@@ -26,30 +19,6 @@ class ComandiTest : public prova::PostazioneTest {
         return altro;
     }
 };
-
-TEST_F(ComandiTest, ATripIsSavedOnYesOnly) {
-    EXPECT_EQ(Schermo(), u"vuota"_s);
-    comandi::Nuovo(*postazione_);
-    EXPECT_EQ(Schermo(), u"nuova"_s);
-    copione_.Messaggio(u"Campo Località: obbligatorio!"_s);
-    comandi::Salva(*postazione_);
-    Destinazione(u"LUCCA"_s, u" "_s);
-    copione_.Messaggio(u"Campo Nazione: obbligatorio!"_s);
-    comandi::Salva(*postazione_);
-    Destinazione(u"LUCCA"_s, u"ITALIA"_s);
-    Salva(Answer::No);
-    EXPECT_EQ(NuovaPostazione()->documento.Codice(), u""_s);
-    EXPECT_EQ(postazione_->documento.Campi().localita, u"LUCCA"_s);
-    Salva(Answer::Yes);
-    EXPECT_EQ(Schermo(), u"aperta"_s);
-    comandi::Nuovo(*postazione_);
-    EXPECT_EQ(Schermo(), u"nuova"_s);
-    Destinazione(u"Lucca"_s, u"FRANCIA"_s);
-    copione_.Domanda(u"Confermi modifica dati mèta?"_s, u"Modifica dati mèta"_s, Answer::Yes);
-    comandi::Salva(*postazione_);
-    EXPECT_EQ(postazione_->documento.Campi().codice, u"000001"_s);
-    EXPECT_EQ(NuovaPostazione()->documento.Campi().nazione.trimmed(), u"FRANCIA"_s);
-}
 
 TEST_F(ComandiTest, TheListOfTripsAndTheTripChosenFromIt) {
     copione_.Messaggio(u"Nessuna mèta nel database!"_s, u"Database vuoto"_s);
@@ -83,24 +52,6 @@ TEST_F(ComandiTest, DeletingATripFallsBackToTheHighestCode) {
     }
     EXPECT_EQ(Righe(), u""_s);
     EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
-}
-
-TEST_F(ComandiTest, AnItineraryIsDeletedAfterTwoQuestions) {
-    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
-    Esce(Answer::Yes);
-    const QString sicuro =
-        u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più recuperabile!"_s;
-    const QString titolo = u"Annullamento itinerario"_s;
-    const QString confermi = u"Confermi annullamento itinerario?\n\nUNO (000001)"_s;
-    copione_.Domanda(confermi, titolo, Answer::No);
-    comandi::CancItin(*postazione_);
-    for (const auto& [risposta, restano] : {std::pair{Answer::No, u"A B"_s}, {Answer::Yes, u""_s}}) {
-        EXPECT_EQ(Memorizzate(), u"A B"_s);
-        copione_.Domanda(confermi, titolo, Answer::Yes).Domanda(sicuro, titolo, risposta);
-        comandi::CancItin(*postazione_);
-        EXPECT_EQ(Memorizzate(), restano);
-        EXPECT_EQ(Righe(), restano);
-    }
 }
 
 TEST_F(ComandiTest, EveryVerbIsUndoneAndDoneAgainByName) {
@@ -152,55 +103,6 @@ TEST_F(ComandiTest, EveryVerbIsUndoneAndDoneAgainByName) {
     EXPECT_EQ(postazione_->DaAnnullare(), u"modifica di Z"_s);  // saving takes nothing back
 }
 
-TEST_F(ComandiTest, SaveOrReset) {
-    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
-    Memorizza(Answer::Cancel);
-    EXPECT_EQ(Memorizzate(), u""_s);
-    Memorizza(Answer::Yes);
-    EXPECT_EQ(Memorizzate(), u"A B"_s);
-    EXPECT_EQ(Schermo(), u"inserimento"_s);
-    ASSERT_TRUE(Inserisce(u"C"_s, 5));
-    Recupera(Answer::No);
-    EXPECT_EQ(Righe(), u"A B C"_s);
-    Recupera(Answer::Yes);
-    EXPECT_EQ(Righe(), u"A B"_s);
-    EXPECT_EQ(Memorizzate(), u"A B"_s);
-}
-
-TEST_F(ComandiTest, LeavingTheEntryScreen) {
-    MetaConTappe(u"UNO"_s, {u"A"_s});
-    EXPECT_EQ(Schermo(), u"inserimento"_s);
-    Esce(Answer::Cancel);
-    EXPECT_EQ(Schermo(), u"inserimento"_s);
-    Esce(Answer::Yes);
-    EXPECT_NE(Schermo(), u"inserimento"_s);
-    EXPECT_EQ(Schermo(), u"aperta"_s);
-    comandi::Itinerario(*postazione_);
-    Inserisce(u"Z"_s, 1);
-    Esce(Answer::No);
-    EXPECT_EQ(Righe(), u"A"_s);
-    EXPECT_EQ(Memorizzate(), u"A"_s);
-}
-
-TEST_F(ComandiTest, RecalculatingAndUnlockingKeepsUnsavedEdits) {
-    MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
-    comandi::Ricalcola(*postazione_);
-    ASSERT_TRUE(postazione_->documento.Calcolata().has_value());
-    EXPECT_EQ(Schermo(), u"cronovia"_s);
-    DomandaDiUscita(Answer::Cancel);
-    EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
-    comandi::Calcola(*postazione_);
-    EXPECT_FALSE(postazione_->documento.Calcolata().has_value());
-    EXPECT_EQ(Schermo(), u"inserimento"_s);
-    EXPECT_EQ(Righe(), u"A B"_s);
-    Esce(Answer::Yes);
-    // From the trip screen, unlocking leads back there.
-    comandi::Calcola(*postazione_);
-    comandi::Calcola(*postazione_);
-    EXPECT_NE(Schermo(), u"inserimento"_s);
-    EXPECT_EQ(Schermo(), u"aperta"_s);
-}
-
 TEST_F(ComandiTest, DaysWantedStopAndWhatCannotBeComputed) {
     MetaConTappe(u"UNO"_s, {u"A"_s, u"B"_s});
     Esce(Answer::Yes);
@@ -229,29 +131,6 @@ TEST_F(ComandiTest, DaysWantedStopAndWhatCannotBeComputed) {
     EXPECT_EQ(Viaggio().Campi().parametri.oraCena, 2100_cent);
     EXPECT_EQ(Schermo(), u"aperta"_s);
     EXPECT_TRUE(calcola(1, 75, u"Elaborazione conclusa in 1 tentativi!"_s, titolo));
-}
-
-TEST_F(ComandiTest, PersonalDefaults) {
-    struct Passo {
-        QString verbo;
-        Answer risposta;
-        void (*comando)(Postazione&);
-        int media, proposta;  ///< on the screen and for the next trip, afterwards
-    };
-    const std::vector<Passo> passi = {{u"salvare"_s, Answer::No, &comandi::SalvaDefault, 90, 75},
-                                      {u"salvare"_s, Answer::Yes, &comandi::SalvaDefault, 90, 90},
-                                      {u"ripristinare"_s, Answer::Yes, &comandi::RipristinaDefault, 75, 75}};
-    const auto media = [](const Postazione& p) { return p.documento.Campi().parametri.mediaKm[0]; };
-    Meta meta = postazione_->documento.Campi();
-    meta.parametri.mediaKm[0] = 90;
-    postazione_->documento.ImpostaCampi(meta);
-    for (const Passo& passo : passi) {
-        copione_.Domanda(u"Vuoi %1 i dati di default?"_s.arg(passo.verbo), u"Dati di default"_s, passo.risposta);
-        if (passo.risposta == Answer::Yes) copione_.Messaggio(u"Operazione eseguita!"_s, u"Dati di default"_s);
-        Fai(passo.comando);
-        EXPECT_EQ(media(*postazione_), passo.media);
-        EXPECT_EQ(media(*NuovaPostazione()), passo.proposta);
-    }
 }
 
 TEST_F(ComandiTest, ClosingAsksWhenThereAreUnsavedChanges) {

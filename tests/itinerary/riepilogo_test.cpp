@@ -9,16 +9,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(Riepilogo, LengthsOnOfferWiden) {
-    RiepilogoItinerario r;
-    r.totali.km[kTuttiITipi] = 1;
-    r.giorniMinimi = 3;
-    const std::vector<int> giorni = GiorniProposti(r);
-    ASSERT_EQ(giorni.size(), 1U + 31 + 15 + 10);
-    EXPECT_EQ((std::vector<int>{giorni[0], giorni[1], giorni[31], giorni[32], giorni[46], giorni[47], giorni[56]}),
-              (std::vector<int>{0, 3, 33, 30, 100, 110, 200}));
-}
-
 TEST(Riepilogo, ARoadTypeInUseWithoutASpeedIsNamed) {
     ParametriViaggio parametri;
     parametri.mediaKm = {0, 65, 50, 0};
