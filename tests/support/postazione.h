@@ -57,7 +57,6 @@ class PostazioneTest : public testing::Test {
     }
     [[nodiscard]] QString Righe() { return prova::Localita(Viaggio().Righe()); }
     [[nodiscard]] QString RigheESoste() { return prova::Localita(Viaggio().Righe(), true); }
-    void Fai(void (*comando)(Postazione&)) { comando(*postazione_); }
 
     void Destinazione(const QString& localita, const QString& nazione) {
         Meta meta = Viaggio().Campi();
@@ -65,15 +64,12 @@ class PostazioneTest : public testing::Test {
         meta.nazione = nazione;
         Viaggio().ImpostaCampi(meta);
     }
-    void Salva(Answer risposta) {
-        copione_.Domanda(QStringLiteral("Confermi inserimento meta?"), QStringLiteral("Inserimento meta"), risposta);
-        comandi::Salva(*postazione_);
-    }
     /// A new trip, saved.
     void NuovaMeta(const QString& localita) {
         comandi::Nuovo(*postazione_);
         Destinazione(localita, QStringLiteral("ITALIA"));
-        Salva(Answer::Yes);
+        copione_.Domanda(QStringLiteral("Confermi inserimento meta?"), QStringLiteral("Inserimento meta"), Answer::Yes);
+        comandi::Salva(*postazione_);
     }
     /// Puts fields into the entry screen and has them written; whether they were.
     bool Inserisce(const CampiTappa& campi) {
