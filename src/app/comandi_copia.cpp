@@ -31,7 +31,7 @@ void SullaCopia(Postazione& p, const std::function<void(CopiaPercorso&)>& comand
 void InserisciPercorso(Postazione& p, bool conSoste) {
     auto* copia = p.Su<schermata::Copia>();
     const std::optional<Tratto> tratto = copia ? copia->percorso.Scelto() : std::nullopt;
-    if (!tratto || !BoxConferma(p.volti.interazione, u"IP"_s)) return;
+    if (!tratto || !BoxConferma(p.volti.interazione, Operazione::InserimentoPercorso)) return;
     EsitoTratto esito =
         CopiaTratto(p.documento.Righe(), p.documento.RigaCorrente(), *copia->percorso.Tappe(), *tratto, conSoste);
     if (!Modifica(p, u"copia di un percorso"_s, std::move(esito.righe), esito.rigaCorrente)) return;

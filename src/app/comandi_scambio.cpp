@@ -72,7 +72,7 @@ void Esporta(Postazione& p, const TavoloScambio& tavolo) {
     const bool libero = !QFileInfo::exists(file) || p.ChiedeSePerdere(u"Il file %1 esiste già: ricopro?"_s.arg(nome),
                                                                       u"File %1 esistente"_s.arg(nome));
     EsitoExport esito;
-    const bool esportate = libero && BoxConferma(p.volti.interazione, u"EX"_s) && p.MentreCorre([&] {
+    const bool esportate = libero && BoxConferma(p.volti.interazione, Operazione::Export) && p.MentreCorre([&] {
         esito = EsportaMete({p.sessione.Archivio(), file, tavolo.CodiciScelti(), true, true}, p.volti.avanzamento);
     });
     Lascia(p, false);
@@ -84,7 +84,7 @@ void Esporta(Postazione& p, const TavoloScambio& tavolo) {
 void Importa(Postazione& p, const TavoloScambio& tavolo) {
     EsitoImport esito;
     const QString file = QFileInfo(tavolo.File()).fileName();
-    const bool importate = BoxConferma(p.volti.interazione, u"IM"_s) && p.MentreCorre([&] {
+    const bool importate = BoxConferma(p.volti.interazione, Operazione::Import) && p.MentreCorre([&] {
         esito = ImportaMete({p.sessione.Archivio(), tavolo.File(), tavolo.CodiciScelti(), tavolo.StatoDelFileLetto()},
                             p.volti.avanzamento);
     });

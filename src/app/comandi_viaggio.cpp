@@ -78,7 +78,8 @@ void ChiudiElencoMete(Postazione& p) {
 void Salva(Postazione& p) {
     Salvataggio salvataggio;
     if (!p.Prova([&] { salvataggio = p.documento.DecidiSalvataggio(); })) return;
-    if (!BoxConferma(p.volti.interazione, salvataggio.nuova ? u"I"_s : u"M"_s)) return;
+    const Operazione operazione = salvataggio.nuova ? Operazione::InserimentoMeta : Operazione::ModificaMeta;
+    if (!BoxConferma(p.volti.interazione, operazione)) return;
     p.MentreScrive(u"La mèta non è stata salvata."_s, [&] {
         p.documento.SalvaCampi(salvataggio);
         p.schermata = schermata::Viaggio{Fase::Aperta};
@@ -88,7 +89,7 @@ void Salva(Postazione& p) {
 void CancMeta(Postazione& p) {
     if (SenzaMeta(p)) return;
     p.Prova([&] {
-        if (!BoxConferma(p.volti.interazione, u"A"_s, p.documento.Nome())) return;
+        if (!BoxConferma(p.volti.interazione, Operazione::AnnullamentoMeta, p.documento.Nome())) return;
         p.MentreScrive(u"La mèta non è stata cancellata."_s, [&] {
             p.documento.Cancella(p.volti.avanzamento);
             p.VaiAlViaggio();
@@ -99,7 +100,7 @@ void CancMeta(Postazione& p) {
 void CancItin(Postazione& p) {
     if (SenzaMeta(p)) return;
     p.Prova([&] {
-        if (!BoxConferma(p.volti.interazione, u"AI"_s, p.documento.Nome())) return;
+        if (!BoxConferma(p.volti.interazione, Operazione::AnnullamentoItinerario, p.documento.Nome())) return;
         if (!p.ChiedeSePerdere(u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più "
                                "recuperabile!"_s,
                                u"Annullamento itinerario"_s)) {

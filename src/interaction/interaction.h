@@ -42,9 +42,19 @@ class Interaction {
     virtual bool ShowUndoable(const Message& message, const QString& caption) = 0;
 };
 
-/// The confirmation that commands share: "Confermi ...?" with the name of the operation of that code ("I", "M", "A",
-/// ...) as its title; an unknown code is its own name. True on Yes. What is lost by it is named (`perso`), and No
-/// preset then.
-bool BoxConferma(Interaction& interaction, const QString& codiceOperazione, const QString& perso = {});
+/// What is confirmed before it is done.
+enum class Operazione {
+    InserimentoMeta,
+    ModificaMeta,
+    AnnullamentoMeta,
+    AnnullamentoItinerario,
+    InserimentoPercorso,
+    Export,
+    Import,
+};
+
+/// The confirmation that commands share: "Confermi ...?" with the operation's name, which is its title too. True on
+/// Yes. What is lost by it is named (`perso`), and No preset then.
+bool BoxConferma(Interaction& interaction, Operazione operazione, const QString& perso = {});
 
 }  // namespace cronovia
