@@ -82,7 +82,7 @@ class Calendario {
     static void Somma(const Fascia& fascia, Giornata& giornata) {
         const Centesimi tempo = fascia.a - fascia.da;
         switch (fascia.genere) {
-            case GenereFascia::Guida:
+            case GenereFascia::Marcia:
                 giornata.guida += tempo;
                 if (!giornata.partenza) giornata.partenza = fascia.da;
                 giornata.arrivo = fascia.a;

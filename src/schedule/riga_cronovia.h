@@ -65,11 +65,11 @@ struct RigaCronovia {
 };
 
 /// What time is spent on.
-enum class GenereFascia : std::uint8_t { Guida, Visita, Traghetto, Pranzo, Cena, Riposo };
+enum class GenereFascia : std::uint8_t { Marcia, Visita, Traghetto, Pranzo, Cena, Riposo };
 
 /// A time of one day spent on one thing. What lies between two of them is the night, a wait or a day of rest.
 struct Fascia {
-    GenereFascia genere = GenereFascia::Guida;
+    GenereFascia genere = GenereFascia::Marcia;
     int riga = 0;       ///< position of the schedule's row that it belongs to
     NumeroGiorno data;  ///< the day on which it begins
     Centesimi da;       ///< hours of that day; an end beyond 24 hours lies in the next

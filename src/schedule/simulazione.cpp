@@ -103,7 +103,7 @@ class Simulazione {
         riga.tempo = pezzo.tempo;
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;
-        Annota(GenereFascia::Guida, inizio);
+        Annota(GenereFascia::Marcia, inizio);
         PastiENotte(riga.eventi);
         riga.cambiaGiorno = orologio_.data > riga.data;
         riga.eventi.riposo = Riposi();
