@@ -47,7 +47,7 @@ void Elenco(benchmark::State& state) {
     const QTemporaryDir cartella;
     Riempi(cartella.path(), static_cast<int>(state.range(0)));
     Archive archive = Archive::Open(cartella.path());
-    for (auto _ : state) benchmark::DoNotOptimize(CreaLaListadellaGuida(archive, u"000001"_s));
+    for (auto _ : state) benchmark::DoNotOptimize(ElencoDellaGuida(archive, u"000001"_s));
 }
 BENCHMARK(Elenco)->Arg(100)->Arg(3)->Unit(benchmark::kMillisecond);
 

@@ -53,7 +53,7 @@ Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& tracc
             if (intatto) throw;  // it can be tried again, unless the archive is another one by now
             throw PassoPerduto(failure.Message());
         }
-        if (CaricaDatiAnagraficiMeta(archivio, p.documento.Codice())) {
+        if (CaricaMeta(archivio, p.documento.Codice())) {
             p.documento.RileggiVisite();  // what is typed in the trip's fields stays
         } else if (!p.documento.NuovaDigitata()) {
             p.VaiAlViaggio();

@@ -114,7 +114,7 @@ void CancItin(Postazione& p) {
 }
 
 void SalvaDefault(Postazione& p) {
-    Default(p, u"salvare"_s, [&] { MemorizzaVariabiliMeta(p.sessione.Archivio(), p.documento.Campi().parametri); });
+    Default(p, u"salvare"_s, [&] { MemorizzaDefaultMeta(p.sessione.Archivio(), p.documento.Campi().parametri); });
 }
 
 void CaricaDefault(Postazione& p) {

@@ -41,7 +41,7 @@ void Documento::Apri(const QString& codice) {
 void Documento::Ricarica(const QDateTime& adesso) {
     Archive& archivio = sessione_.Archivio();
     const ReadSnapshot momento(archivio);
-    const bool esiste = CaricaDatiAnagraficiMeta(archivio, codice_).has_value();
+    const bool esiste = CaricaMeta(archivio, codice_).has_value();
     const QString codice = esiste ? codice_ : RicercaMetaCorrente(archivio);
     if (codice.isEmpty()) {
         Proponi(adesso);

@@ -39,7 +39,7 @@ MetaAperta Sessione::ApriMeta(const QString& codice) {
 
 MetaAperta Sessione::ApriMeta(const QString& codice, LettoreGuida& guida) {
     const QString completo = CodiceCompleto(codice);
-    std::optional<Meta> meta = CaricaDatiAnagraficiMeta(archive_, completo);
+    std::optional<Meta> meta = CaricaMeta(archive_, completo);
     if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
     aperta.meta = std::move(*meta);

@@ -20,7 +20,7 @@ TavoloGuida::TavoloGuida(Archive& archive, Interaction& interaction, const QStri
 
 // The list stays as it was when another window has taken the stages away.
 void TavoloGuida::CreaElenco() {
-    auto elenco = std::make_shared<std::vector<RigaGuida>>(CreaLaListadellaGuida(archive_, codiceMeta_));
+    auto elenco = std::make_shared<std::vector<RigaGuida>>(ElencoDellaGuida(archive_, codiceMeta_));
     senzaTappe_ = elenco->empty();
     if (!senzaTappe_) elenco_ = std::move(elenco);
 }

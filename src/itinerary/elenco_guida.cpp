@@ -34,7 +34,7 @@ Message SenzaTappeMemorizzate() {
     return {u"Impossibile... non esistono tappe memorizzate!"_s, u"Guida Città"_s, Icon::Exclamation};
 }
 
-std::vector<RigaGuida> CreaLaListadellaGuida(Archive& archive, const QString& codiceMeta) {
+std::vector<RigaGuida> ElencoDellaGuida(Archive& archive, const QString& codiceMeta) {
     const ReadSnapshot momento(archive);
     const LocalitaDellaMeta localita = LocalitaDellItinerario(archive, codiceMeta);
     std::vector<VociGuida> voci = VociDelleLocalita(archive, localita.nomi);

@@ -43,6 +43,6 @@ Message SenzaTappeMemorizzate();
 
 /// The guide list of a trip; empty when it has no stored stages. The number of queries does not grow with the trip or
 /// the guide.
-std::vector<RigaGuida> CreaLaListadellaGuida(Archive& archive, const QString& codiceMeta);
+std::vector<RigaGuida> ElencoDellaGuida(Archive& archive, const QString& codiceMeta);
 
 }  // namespace cronovia

@@ -163,7 +163,7 @@ std::optional<EsitoMemorizzazione> MemorizzaPrimeTappe(Archive& archive, const Q
                                                        Progress& progress) {
     RifiutaTroppeTappe(tappe);
     Transaction transaction(archive);
-    if (!CaricaDatiAnagraficiMeta(archive, codiceMeta)) {
+    if (!CaricaMeta(archive, codiceMeta)) {
         throw Failure(u"La mèta con il codice %1 non c'è più."_s.arg(codiceMeta));
     }
     if (archive.Exists({Table::Itinerari, {DellaMeta(codiceMeta)}})) return std::nullopt;

@@ -56,7 +56,7 @@ QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvatagg
 
 }  // namespace
 
-std::optional<Meta> CaricaDatiAnagraficiMeta(Archive& archive, QStringView codice) {
+std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice) {
     const std::optional<Record> record = archive.SelectFirst(PerCodice(codice));
     if (!record) return std::nullopt;
     return MetaDaRecord(*record);
@@ -146,15 +146,15 @@ ParametriViaggio CaricaDefaultMeta(Archive& archive) {
 
 ParametriViaggio RipristinaDefaultMeta(Archive& archive) {
     const ParametriViaggio standard;
-    MemorizzaVariabiliMeta(archive, standard);
+    MemorizzaDefaultMeta(archive, standard);
     return standard;
 }
 
 void CompletaDefaultMeta(Archive& archive) {
-    if (archive.Count(Table::Parametri) == 0) MemorizzaVariabiliMeta(archive, ParametriViaggio());
+    if (archive.Count(Table::Parametri) == 0) MemorizzaDefaultMeta(archive, ParametriViaggio());
 }
 
-void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri) {
+void MemorizzaDefaultMeta(Archive& archive, const ParametriViaggio& parametri) {
     Rifiuta(DifettoDeiParametri(parametri));
     Transaction transaction(archive);
     ScriviRigaUnica(archive, Table::Parametri, ValoriDeiParametri(parametri));

@@ -13,7 +13,7 @@
 namespace cronovia {
 
 /// The trip with that code, or nothing.
-std::optional<Meta> CaricaDatiAnagraficiMeta(Archive& archive, QStringView codice);
+std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice);
 
 /// The code for a new trip: 1 when there is none, the lowest free number else, in six digits. `codici` in any order.
 QString NuovoCodiceMeta(std::span<const QString> codici);
@@ -64,7 +64,7 @@ void CancellaMeta(Archive& archive, const QString& codice, Progress& progress);
 /// The personal defaults; the standard ones when none are stored.
 ParametriViaggio CaricaDefaultMeta(Archive& archive);
 /// Stores personal defaults in the place of those before. Refused with the message of `DifettoDeiParametri`.
-void MemorizzaVariabiliMeta(Archive& archive, const ParametriViaggio& parametri);
+void MemorizzaDefaultMeta(Archive& archive, const ParametriViaggio& parametri);
 /// Makes the standard defaults the personal ones and returns them.
 ParametriViaggio RipristinaDefaultMeta(Archive& archive);
 /// Stores the standard defaults in an archive that has none.

@@ -37,10 +37,10 @@ TEST_F(MeteTest, ANewTripGetsACodeAndBecomesTheCurrentOne) {
     EXPECT_EQ(Inserisci(u" CAPO NORD "_s), u"000001"_s);
     EXPECT_EQ(Inserisci(u"SICILIA"_s), u"000002"_s);
     EXPECT_EQ(RicercaMetaCorrente(archive_), u"000002"_s);
-    EXPECT_EQ(CaricaDatiAnagraficiMeta(archive_, u"000001").value().localita, u"CAPO NORD"_s);
-    EXPECT_FALSE(CaricaDatiAnagraficiMeta(archive_, u"*").has_value());
+    EXPECT_EQ(CaricaMeta(archive_, u"000001").value().localita, u"CAPO NORD"_s);
+    EXPECT_FALSE(CaricaMeta(archive_, u"*").has_value());
     Inserisci(u"VENEZIA AUTOSTRADA"_s);
-    EXPECT_EQ(CaricaDatiAnagraficiMeta(archive_, u"000003").value().localita, u"venezia autostrada"_s);
+    EXPECT_EQ(CaricaMeta(archive_, u"000003").value().localita, u"venezia autostrada"_s);
     Cancella(u"000002"_s);
     EXPECT_EQ(Inserisci(u"CORSICA"_s), u"000002"_s);
     EXPECT_EQ(CodiciDelleMete(archive_), (std::vector<QString>{u"000001"_s, u"000002"_s, u"000003"_s}));
@@ -101,7 +101,7 @@ TEST_F(MeteTest, WhatCannotBeSavedChangesNothing) {
         EXPECT_EQ(prova::MessaggioDi([&] { DecidiSalvataggio(archive_, meta); }), caso.messaggio);
         EXPECT_EQ(prova::MessaggioDi([&] { SalvaMeta(archive_, meta, {true, u"000001"_s}); }), caso.messaggio);
         if (caso.medie == medie) continue;
-        EXPECT_EQ(prova::MessaggioDi([&] { MemorizzaVariabiliMeta(archive_, meta.parametri); }), caso.messaggio);
+        EXPECT_EQ(prova::MessaggioDi([&] { MemorizzaDefaultMeta(archive_, meta.parametri); }), caso.messaggio);
     }
     EXPECT_EQ(archive_.Count(Table::MeteVandro) + archive_.Count(Table::MetaCorrente), 0);
     EXPECT_EQ(archive_.Count(Table::Parametri), 0);
@@ -115,7 +115,7 @@ TEST_F(MeteTest, PersonalDefaultsAreKeptAndCanBeReset) {
     personali.mediaKm = {100, 80, 60, 40};
     personali.oraNotte = 2400_cent;
     personali.calcoloSoste = CalcoloSoste::SosteGuida;
-    MemorizzaVariabiliMeta(archive_, personali);
+    MemorizzaDefaultMeta(archive_, personali);
     CompletaDefaultMeta(archive_);  // only an archive without them gets the standard ones
     EXPECT_EQ(CaricaDefaultMeta(archive_), personali);
     EXPECT_EQ(RipristinaDefaultMeta(archive_), standard);
