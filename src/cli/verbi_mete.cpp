@@ -36,6 +36,7 @@ QDateTime LeggiInizio(const QString& testo) {
     const auto numero = [&](int posto) { return parti.captured(posto).toInt(); };
     const QTime ora(numero(4), numero(5));
     const bool data = LeggiData(TestoGma({numero(1), numero(2), numero(3)})).has_value();
+    if (!data && ora.isValid() && QDate::isValid(numero(3), numero(2), numero(1))) throw WrongUsage(MessaggioData());
     if (!parti.hasMatch() || !data || !ora.isValid()) {
         throw WrongUsage(u"L'inizio «%1» non è una data con ora: scrivila come \"05/06/2027 08:30\"."_s.arg(testo));
     }

@@ -252,11 +252,7 @@ void FormMete::keyPressEvent(QKeyEvent* event) {
     if (guida_.Tasto(*event) || copia_.Tasto(*event)) return;
     const auto* inserimento = postazione_.Su<schermata::Inserimento>();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        auto* conFuoco = qobject_cast<QPushButton*>(focusWidget());
-        if (conFuoco == nullptr && postazione_.InInserimento()) {
-            conFuoco = &inserimento_.Riquadro().Pulsante(Comando::Inserisce);
-        }
-        conFuoco != nullptr ? conFuoco->click() : static_cast<void>(focusNextChild());
+        Invio();
     } else if (event->key() == Qt::Key_Escape && postazione_.Su<schermata::ElencoMete>()) {
         Q_EMIT viaggio_->Elenco().Rinuncia();
     } else if (event->key() == Qt::Key_Escape && inserimento != nullptr && inserimento->elencoTappe) {
@@ -266,6 +262,20 @@ void FormMete::keyPressEvent(QKeyEvent* event) {
     } else {
         QMainWindow::keyPressEvent(event);
     }
+}
+
+// Presses the button that has the focus, writes the stage that is being entered, or goes on to the next field.
+void FormMete::Invio() {
+    const QWidget* fuoco = focusWidget();
+    auto* pulsante = qobject_cast<QPushButton*>(focusWidget());
+    const bool sullaTappa = inserimento_.Area().isAncestorOf(fuoco) || fuoco == &griglia_.Vista();
+    if (pulsante == nullptr && sullaTappa && postazione_.InInserimento()) {
+        pulsante = &inserimento_.Riquadro().Pulsante(Comando::Inserisce);
+    }
+    if (pulsante != nullptr) return pulsante->click();
+    do {
+        focusNextChild();
+    } while (qobject_cast<QPushButton*>(focusWidget()) != nullptr && focusWidget() != fuoco);
 }
 
 void FormMete::Mostra() {

@@ -69,6 +69,7 @@ class FormMete : public QMainWindow {
     void MettiIlFuoco(Comando dopo);
     void FuocoSulleRighe();
     [[nodiscard]] QString ScegliFile(FileChiesto quale);
+    void Invio();
     void Mostra();
     bool PossoChiudere();
     void FineSessione(QSessionManager& sessione);
