@@ -1,6 +1,7 @@
 #include "app/comandi_cronovia.h"
 
 #include "app/comandi_inserimento.h"
+#include "app/comandi_viaggio.h"
 
 namespace cronovia::comandi {
 
@@ -49,12 +50,14 @@ void EseguiERacconta(Postazione& p) {
 void Calcola(Postazione& p) {
     if (auto* stampa = p.Su<schermata::Stampa>()) return TornaDa(p, stampa->da);
     if (auto* cronovia = p.Su<schermata::Cronovia>()) return TornaDa(p, *cronovia);
+    if (SenzaMeta(p)) return;
     EseguiERacconta(p);
 }
 
 void Ricalcola(Postazione& p) { EseguiERacconta(p); }
 
 void Stampa(Postazione& p) {
+    if (SenzaMeta(p)) return;
     Esegui(p);
     if (auto* cronovia = p.Su<schermata::Cronovia>()) p.schermata = schermata::Stampa{*cronovia};
 }

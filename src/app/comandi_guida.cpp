@@ -1,5 +1,9 @@
 #include "app/comandi_guida.h"
 
+#include <algorithm>
+
+#include "app/niente_perso.h"
+
 namespace cronovia::comandi {
 
 void GuidaCitta(Postazione& p) {
@@ -22,8 +26,24 @@ void SullaGuida(Postazione& p, const std::function<void(TavoloGuida&)>& comando)
     FineGuida(p);
 }
 
+void VaiAllaRigaGuida(Postazione& p, int riga) {
+    auto* guida = p.Su<schermata::Guida>();
+    if (guida == nullptr) return;
+    TavoloGuida& tavolo = *guida->tavolo;
+    const auto ultima = static_cast<int>(tavolo.Elenco()->size());
+    const RigaGuida meta = (*tavolo.Elenco())[static_cast<std::size_t>(std::clamp(riga, 1, ultima) - 1)];
+    tavolo.ChiudiElenco();
+    if (!VoceNonPersa(p)) return;
+    SullaGuida(p, [&](TavoloGuida& t) { t.VaiAllaRiga(t.RigaDi(meta)); });
+}
+
 void FineGuida(Postazione& p) {
-    p.Prova([&] { p.VaiAlViaggio(); });
+    if (!VoceNonPersa(p)) return;
+    p.Prova([&] {
+        if (!p.documento.Modificato()) return p.VaiAlViaggio();
+        p.documento.RileggiVisite();  // what is typed in the trip's fields stays
+        p.MettiSchermoDelViaggio();
+    });
 }
 
 }  // namespace cronovia::comandi

@@ -9,7 +9,9 @@ namespace cronovia::comandi {
 void GuidaCitta(Postazione& p);
 /// Does something on the screen; it closes when another window took the stages away.
 void SullaGuida(Postazione& p, const std::function<void(TavoloGuida&)>& comando);
-/// The itinerary comes back as it is stored, with the visits that the guide now has.
+/// Goes to a row, counted from 1; asks first when the text of an entry would be lost.
+void VaiAllaRigaGuida(Postazione& p, int riga);
+/// Asks the same. The itinerary comes back as it is stored, with the visits that the guide now has.
 void FineGuida(Postazione& p);
 
 }  // namespace cronovia::comandi

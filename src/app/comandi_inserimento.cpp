@@ -4,6 +4,7 @@
 
 #include "app/comandi_copia.h"
 #include "app/comandi_viaggio.h"
+#include "app/niente_perso.h"
 #include "exchange/percorsi/importa_percorso.h"
 #include "itinerary/tratti.h"
 
@@ -38,6 +39,21 @@ void MettiPercorso(Postazione& p, RigheItinerario percorso) {
     }
     const auto prossima = static_cast<int>(percorso.size()) + 1;
     Modifica(p, u"import del percorso"_s, std::move(percorso), prossima);
+}
+
+void SalvaTappe(Postazione& p) {
+    p.MentreScrive(u"L'itinerario non è stato salvato."_s, [&] {
+        const EsitoMemorizzazione esito = p.documento.SalvaTappe(p.volti.avanzamento);
+        if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
+    });
+}
+
+// The question that leaving the entry asks.
+Answer ChiedeSeSalvare(Postazione& p) {
+    return p.volti.interazione.Ask(
+        {u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
+         "Vuoi salvare le eventuali modifiche?"_s,
+         u"Fine inserimento"_s, true});
 }
 
 }  // namespace
@@ -148,31 +164,14 @@ void Cerca(Postazione& p) {
 
 void ScegliTappa(Postazione& p, int riga) { SelezionaRiga(p, riga); }
 
-bool SalvaTappe(Postazione& p) {
-    return p.MentreScrive(u"L'itinerario non è stato salvato."_s, [&] {
-        const EsitoMemorizzazione esito = p.documento.SalvaTappe(p.volti.avanzamento);
-        if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
-    });
-}
-
-Answer ChiedeSeSalvare(Postazione& p) {
-    return p.volti.interazione.Ask(
-        {u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
-         "Vuoi salvare le eventuali modifiche?"_s,
-         u"Fine inserimento"_s, true});
-}
-
 void Memorizza(Postazione& p) {
     const QString titolo = u"Salvataggio itinerario"_s;
     const Answer risposta = p.volti.interazione.Ask({u"Vuoi salvare l'itinerario?"_s, titolo, true});
     if (risposta == Answer::Cancel) return;
-    if (risposta == Answer::Yes) {
-        SalvaTappe(p);
-        return;
-    }
+    if (risposta == Answer::Yes) return SalvaTappe(p);
     if (!p.ChiedeSePerdere(u"Vuoi recuperare l'itinerario originale?"_s, titolo)) return;
     p.Prova([&] {
-        p.documento.Ricarica(p.volti.adesso());
+        p.documento.RicaricaTappe();
         p.schermata = NuovoInserimento(p.documento);
     });
 }
@@ -186,7 +185,7 @@ void Fine(Postazione& p) {
     }
     const Answer risposta = ChiedeSeSalvare(p);
     if (risposta == Answer::Cancel) return;
-    if (risposta == Answer::Yes && !SalvaTappe(p)) return;
+    if (risposta == Answer::Yes && p.documento.Modificato() && !SalvaTutto(p)) return;
     p.Prova([&] { p.VaiAlViaggio(); });
 }
 

@@ -34,13 +34,8 @@ void ScegliTappa(Postazione& p, int riga);
 
 /// Saves the stages, or takes them back as they are stored.
 void Memorizza(Postazione& p);
-/// Closes the list that is open, else the screen, after the question whether to save.
+/// Closes the list that is open, else the screen, after the question whether to save: the trip's fields too.
 void Fine(Postazione& p);
-
-/// The question that leaving the entry asks.
-[[nodiscard]] Answer ChiedeSeSalvare(Postazione& p);
-/// Saves the stages and tells what was shortened, or what went wrong: false then.
-bool SalvaTappe(Postazione& p);
 
 /// Whether progressive kilometres can be meant in the current row; nothing where there are none.
 [[nodiscard]] std::optional<bool> KmProgressivi(const Postazione& p);

@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <utility>
 
+#include "app/comandi_viaggio.h"
+#include "app/niente_perso.h"
 #include "exchange/iei/annulla_import.h"
 #include "exchange/iei/esporta_mete.h"
 #include "exchange/iei/importa_mete.h"
@@ -13,32 +15,21 @@
 namespace cronovia::comandi {
 
 using namespace Qt::StringLiterals;
-using Fase = schermata::Viaggio::Fase;
 
 namespace {
 
-// An empty trip under the screen, which covers it.
-void Prepara(Postazione& p, ModoScambio modo) {
-    p.documento.Proponi(p.volti.adesso());
-    p.schermata = schermata::Scambio{TavoloScambio(modo, QString(), TavoloScambio::Lista())};
-}
-
-// The trip that was open is there again; none is when it cannot be read, since the screen covered an empty one.
+// The trip that was open is there again, as it is stored. The screen goes first: the commands are needed even when the
+// archive cannot be read.
 void Torna(Postazione& p) {
-    p.schermata = schermata::Viaggio{Fase::Lasciata};
-    try {
-        p.VaiAlViaggio();
-    } catch (const Failure&) {
-        p.documento.LasciaCodice();
-        throw;
-    }
+    p.MettiSchermoDelViaggio();
+    p.VaiAlViaggio();
 }
 
-// No trip is open any more. That comes first: the commands are needed even when the archive cannot be read.
-void Lascia(Postazione& p, bool chiude) {
-    p.documento.LasciaCodice();
-    if (chiude) p.schermata = schermata::Viaggio{Fase::Lasciata};
-    p.documento.Proponi(p.volti.adesso());
+// What an exchange reads or changes is the archive: nothing may be left beside it.
+bool NullaInSospeso(Postazione& p) {
+    if (!NientePerso(p)) return false;
+    p.documento.Scarta();
+    return true;
 }
 
 Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia) {
@@ -55,8 +46,11 @@ Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& tracc
         }
         if (CaricaMeta(archivio, p.documento.Codice())) {
             p.documento.RileggiVisite();  // what is typed in the trip's fields stays
-        } else if (!p.documento.NuovaDigitata()) {
+        } else if (!p.documento.Modificato()) {
             p.VaiAlViaggio();
+        } else {
+            p.documento.DiventaNuova();
+            p.MettiSchermoDelViaggio();
         }
         p.volti.mostra();
         p.Mostra(u"L'importazione di %1 è stata annullata."_s.arg(file), {}, Icon::Information);
@@ -67,7 +61,7 @@ Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& tracc
 
 void Esporta(Postazione& p, const TavoloScambio& tavolo) {
     const QString file = p.volti.scegliFile(FileChiesto::Export);
-    if (file.isEmpty()) return Torna(p);
+    if (file.isEmpty()) return;
     const QString nome = QDir::toNativeSeparators(file);
     const bool libero = !QFileInfo::exists(file) || p.ChiedeSePerdere(u"Il file %1 esiste già: ricopro?"_s.arg(nome),
                                                                       u"File %1 esistente"_s.arg(nome));
@@ -75,7 +69,6 @@ void Esporta(Postazione& p, const TavoloScambio& tavolo) {
     const bool esportate = libero && BoxConferma(p.volti.interazione, Operazione::Export) && p.MentreCorre([&] {
         esito = EsportaMete({p.sessione.Archivio(), file, tavolo.CodiciScelti(), true, true}, p.volti.avanzamento);
     });
-    Lascia(p, false);
     if (!esportate) return;
     p.volti.mostra();
     p.Mostra(TestoEsito(esito), {}, esito.interrotta ? Icon::Exclamation : Icon::Information);
@@ -88,18 +81,16 @@ void Importa(Postazione& p, const TavoloScambio& tavolo) {
         esito = ImportaMete({p.sessione.Archivio(), tavolo.File(), tavolo.CodiciScelti(), tavolo.StatoDelFileLetto()},
                             p.volti.avanzamento);
     });
-    if (!importate || esito.interrotta) {
-        Lascia(p, false);
-        if (esito.interrotta) p.Mostra(TestoEsito(esito));
-        return;
-    }
+    if (esito.interrotta) p.Mostra(TestoEsito(esito));
+    if (!importate || esito.interrotta) return;
     const bool qualcosa = esito.meteInserite + esito.tappeInserite + esito.vociInserite > 0;
     Storia& storia = p.documento.Modifiche();
     if (qualcosa) {
         storia.Dimentica(Ambito::Archivio);  // an import before this one cannot be taken back any more
         storia.Ricorda(PassoImport(p, file, esito.traccia));
     }
-    Lascia(p, true);
+    Torna(p);
+    if (esito.meteInserite == 1) ScegliMeta(p, esito.ultimaMeta);
     p.volti.mostra();
     const Message fine{TestoEsito(esito), {}, Icon::Information};
     if (!qualcosa) return p.volti.interazione.Show(fine);
@@ -109,8 +100,8 @@ void Importa(Postazione& p, const TavoloScambio& tavolo) {
 }  // namespace
 
 void Export(Postazione& p) {
+    if (!NullaInSospeso(p)) return;
     p.Prova([&] {
-        Prepara(p, ModoScambio::Export);
         TavoloScambio::Lista mete = ElencoMete(p.sessione.Archivio());
         const bool nessuna = mete.empty();
         p.schermata = schermata::Scambio{TavoloScambio(ModoScambio::Export, QString(), std::move(mete))};
@@ -121,22 +112,17 @@ void Export(Postazione& p) {
 }
 
 void Import(Postazione& p) {
-    p.Prova([&] {
-        Prepara(p, ModoScambio::Import);
-        p.volti.mostra();
-        const QString file = p.volti.scegliFile(FileChiesto::Import);
-        const StatoFile stato = StatoDelFile(file);
-        std::optional<TavoloScambio::Lista> mete;
-        const bool letto = !file.isEmpty() && p.MentreCorre([&] {
-            mete = LeggiElencoMete(p.sessione.Archivio(), file, p.volti.avanzamento);
-        });
-        if (mete) {
-            p.schermata = schermata::Scambio{TavoloScambio(ModoScambio::Import, file, std::move(*mete), stato)};
-            return;
-        }
-        Torna(p);
-        if (letto) p.Mostra(u"Lettura delle mète interrotta."_s);
-    });
+    if (!NullaInSospeso(p)) return;
+    const QString file = p.volti.scegliFile(FileChiesto::Import);
+    if (file.isEmpty()) return;
+    const StatoFile stato = StatoDelFile(file);
+    std::optional<TavoloScambio::Lista> mete;
+    const bool letto = p.MentreCorre([&] { mete = LeggiElencoMete(p.sessione.Archivio(), file, p.volti.avanzamento); });
+    if (mete) {
+        p.schermata = schermata::Scambio{TavoloScambio(ModoScambio::Import, file, std::move(*mete), stato)};
+    } else if (letto) {
+        p.Mostra(u"Lettura delle mète interrotta."_s);
+    }
 }
 
 void ApriFile(Postazione& p, const QString& file) {
@@ -166,10 +152,11 @@ void ImExp(Postazione& p) {
 }
 
 void FineScambio(Postazione& p) {
-    p.Prova([&] { Lascia(p, true); });
+    p.Prova([&] { Torna(p); });
 }
 
 void Converte(Postazione& p) {
+    if (!NientePerso(p)) return;
     if (!p.ChiedeSePerdere(u"Vuoi convertire i vecchi file nel corrente database?\n\n"
                            "I dati già presenti nel database saranno integrati e non cancellati.\n\nProcedo?"_s,
                            u"Conversione file"_s)) {

@@ -5,8 +5,8 @@
 
 namespace cronovia::comandi {
 
-/// Open the screen, over an empty trip: with the trips of the archive; with those of a file that the person names. An
-/// import without a file leaves the trip as it was.
+/// Open the screen: with the trips of the archive; with those of a file that the person names. They ask first before
+/// something typed is lost.
 void Export(Postazione& p);
 void Import(Postazione& p);
 /// The import of a file that came from outside; refused where an import cannot be begun.
@@ -14,7 +14,8 @@ void ApriFile(Postazione& p, const QString& file);
 
 /// Does something on the screen; nothing while a run is on.
 void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& comando);
-/// Exports or imports the trips that are chosen, after a question. No trip is open afterwards.
+/// Exports or imports the trips that are chosen, after a question. An import that added something closes the
+/// screen: the single trip that came in is open then, else the one that was.
 void ImExp(Postazione& p);
 /// Leaves the screen with nothing done. No trip is open afterwards.
 void FineScambio(Postazione& p);

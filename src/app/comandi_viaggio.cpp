@@ -4,6 +4,7 @@
 
 #include "app/comandi_guida.h"
 #include "app/comandi_inserimento.h"
+#include "app/niente_perso.h"
 
 namespace cronovia::comandi {
 
@@ -21,14 +22,6 @@ void Default(Postazione& p, const QString& verbo, const std::function<void()>& a
     });
 }
 
-// A new trip is in the archive only after it was saved.
-bool LasciaNuovaMeta(Postazione& p) {
-    if (!p.documento.NuovaDigitata()) return true;
-    return p.Chiede(
-        u"La nuova mèta «%1» non è stata salvata: vuoi rinunciarvi?"_s.arg(p.documento.Campi().localita.trimmed()),
-        u"Fine Lavoro"_s);
-}
-
 // The screen in front after a step was taken back or made again.
 void Segue(Postazione& p) {
     if (p.Su<schermata::Inserimento>()) SelezionaRiga(p, p.documento.RigaCorrente());
@@ -39,11 +32,12 @@ void Segue(Postazione& p) {
 
 bool SenzaMeta(Postazione& p) {
     if (!p.documento.Codice().isEmpty()) return false;
-    p.Mostra(u"Nessuna mèta è aperta: sceglila con «Ricerca mèta»."_s);
+    p.Mostra(u"Nessuna mèta è aperta: comincia con «Nuovo», o scegline una con «Ricerca mèta»."_s);
     return true;
 }
 
 void Nuovo(Postazione& p) {
+    if (!NientePerso(p)) return;
     p.Prova([&] {
         p.documento.Proponi(p.volti.adesso());
         p.schermata = schermata::Viaggio{Fase::Nuova};
@@ -52,7 +46,8 @@ void Nuovo(Postazione& p) {
 
 void Ricerca(Postazione& p) {
     auto* viaggio = p.Su<schermata::Viaggio>();
-    if (viaggio == nullptr) return;
+    if (viaggio == nullptr || !NientePerso(p)) return;
+    p.documento.Scarta();  // it is not asked about again when a trip is chosen
     p.Prova([&] {
         std::vector<MetaInElenco> elenco = AutostradeInFondo(ElencoMete(p.sessione.Archivio()));
         if (elenco.empty()) {
@@ -65,6 +60,7 @@ void Ricerca(Postazione& p) {
 }
 
 void ScegliMeta(Postazione& p, const QString& codice) {
+    if (!NientePerso(p)) return;
     p.Prova([&] {
         p.documento.Apri(codice);
         p.schermata = schermata::Viaggio{Fase::Aperta};
@@ -108,7 +104,7 @@ void CancItin(Postazione& p) {
         }
         p.MentreScrive(u"L'itinerario non è stato cancellato."_s, [&] {
             p.documento.CancellaTappe(p.volti.avanzamento);
-            p.VaiAlViaggio();
+            p.documento.RicaricaTappe();
         });
     });
 }
@@ -128,28 +124,23 @@ void RipristinaDefault(Postazione& p) {
 void Esce(Postazione& p) {
     const QString titolo = u"Fine Lavoro"_s;
     if (!p.InCorsa()) {
-        if (p.Chiede(u"Vuoi chiudere la procedura?"_s, titolo)) p.volti.chiudi();
+        // What is not saved is asked about when the window closes, and one can stay then.
+        if (QualcosaDaSalvare(p) || p.Chiede(u"Vuoi chiudere la procedura?"_s, titolo)) p.volti.chiudi();
     } else if (p.ChiedeSePerdere(u"Vuoi interrompere l'elaborazione?"_s, titolo)) {
         p.volti.ferma();
     }
 }
 
-bool PossoChiudere(Postazione& p) {
-    if (p.InCorsa()) return false;
-    if (!p.documento.TappeModificate()) return LasciaNuovaMeta(p);
-    const Answer risposta = ChiedeSeSalvare(p);
-    if (risposta == Answer::Cancel) return false;
-    return risposta == Answer::No || SalvaTappe(p);
-}
+bool PossoChiudere(Postazione& p) { return !p.InCorsa() && NientePerso(p); }
 
 void Annulla(Postazione& p) {
-    if (!p.DaAnnullare()) return;
+    if (!p.DaAnnullare() || !VoceNonPersa(p)) return;
     p.Prova([&] { p.documento.Modifiche().Annulla(*p.AmbitoInVista()); });
     Segue(p);
 }
 
 void Ripeti(Postazione& p) {
-    if (!p.DaRipetere()) return;
+    if (!p.DaRipetere() || !VoceNonPersa(p)) return;
     p.Prova([&] { p.documento.Modifiche().Ripeti(*p.AmbitoInVista()); });
     Segue(p);
 }

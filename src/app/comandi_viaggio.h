@@ -27,10 +27,10 @@ void RipristinaDefault(Postazione& p);
 
 /// Leaves the program after a question; while a run is on, stops that.
 void Esce(Postazione& p);
-/// Asks before unsaved stages, or a new trip that was typed, are lost; false when the person wants to stay.
+/// Asks before something typed is lost; false when the person wants to stay, or while a run is on.
 [[nodiscard]] bool PossoChiudere(Postazione& p);
 
-/// Tells that no trip is open, which happens after an exchange; false when one is.
+/// Tells that no trip is open; false when one is.
 [[nodiscard]] bool SenzaMeta(Postazione& p);
 
 /// Take the last change back that the screen in front is about, and make it again.

@@ -12,17 +12,21 @@ using namespace Qt::StringLiterals;
 
 void Documento::Metti(const Meta& campi, RigheItinerario righe) {
     ImpostaCampi(campi);
-    righe_ = std::move(righe);
-    cronovia_.reset();
-    rigaCorrente_ = 1;
-    storia_.Dimentica(Ambito::Viaggio);
-    RicalcolaTempi();
     if (const auto giorno = campi_.partiInizio.Giorno()) {
         campi_.dataInizio = giorno;
         campi_.partiInizio = {};
     }
     caricati_ = campi_;
+    MettiTappe(std::move(righe));
+}
+
+void Documento::MettiTappe(RigheItinerario righe) {
+    righe_ = std::move(righe);
     caricate_ = righe_;
+    cronovia_.reset();
+    rigaCorrente_ = 1;
+    storia_.Dimentica(Ambito::Viaggio);
+    RicalcolaTempi();
 }
 
 void Documento::Apri(const QString& codice) {
@@ -54,6 +58,17 @@ void Documento::Ricarica(const QDateTime& adesso) {
 
 void Documento::Proponi(const QDateTime& adesso) { Metti(sessione_.MetaProposta(adesso), {}); }
 
+void Documento::RicaricaTappe() { MettiTappe(sessione_.ApriMeta(codice_).tappe); }
+
+void Documento::Scarta() { Metti(caricati_, caricate_); }
+
+void Documento::DiventaNuova() {
+    campi_.codice.clear();
+    caricati_ = Meta();
+    MettiTappe({});
+    codice_ = RicercaMetaCorrente(sessione_.Archivio());
+}
+
 void Documento::RileggiVisite() {
     RigheItinerario righe = righe_;
     RicalcolaVisite(sessione_.Archivio(), righe, orario_);
@@ -75,9 +90,9 @@ void Documento::ImpostaParametri(const ParametriViaggio& parametri) {
 
 // What the program puts right by itself is no change of the person's.
 void Documento::Correggi(const ParametriViaggio& parametri) {
-    const bool intatti = !CampiModificati();
+    const bool intatti = campi_.parametri == caricati_.parametri;
     ImpostaParametri(parametri);
-    if (intatti) caricati_ = campi_;
+    if (intatti) caricati_.parametri = parametri;
 }
 
 void Documento::ControllaOrari() { Correggi(InOrdine(campi_.parametri)); }
@@ -86,7 +101,9 @@ void Documento::AggiornaOrari() { Correggi(ParametriViaggio(orario_.Parametri())
 
 void Documento::RicalcolaTempi() {
     riepilogo_ = CalcolaKmTempiItinerario(righe_, orario_, campi_.giorniAdeguamento);
+    const bool intatti = campi_.giorniAdeguamento == caricati_.giorniAdeguamento;
     campi_.giorniAdeguamento = riepilogo_.giorniAdeguamento;
+    if (intatti) caricati_.giorniAdeguamento = campi_.giorniAdeguamento;
 }
 
 void Documento::SelezionaRiga(int riga) {
@@ -148,16 +165,23 @@ void Documento::ConfermaCheELei() {
         caricati_.codice, caricati_.localita, memorizzata.localita));
 }
 
-void Documento::SalvaCampi(const Salvataggio& deciso) {
-    Archive& archivio = sessione_.Archivio();
-    Transaction transaction(archivio);
+QString Documento::ScriviCampi(const Salvataggio& deciso) {
     if (!campi_.codice.isEmpty()) ConfermaCheELei();
     const Salvataggio adesso = DecidiSalvataggio();
     if (adesso.nuova != deciso.nuova) {
         throw Failure(u"Nel frattempo un'altra finestra ha salvato o cancellato la mèta «%1»: riprova."_s.arg(
             campi_.localita.trimmed()));
     }
-    const QString codice = SalvaMeta(archivio, campi_, adesso);
+    return SalvaMeta(sessione_.Archivio(), campi_, adesso);
+}
+
+EsitoMemorizzazione Documento::ScriviTappe(Progress& progress) {
+    ConfermaCheELei();
+    return MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, orario_, progress);
+}
+
+// What was written is read within the same transaction: nothing can fail after it was committed.
+void Documento::Concludi(Transaction& transaction, const QString& codice) {
     MetaAperta salvata = sessione_.ApriMeta(codice);
     transaction.Commit();
     Metti(salvata.meta, std::move(salvata.tappe));
@@ -165,13 +189,24 @@ void Documento::SalvaCampi(const Salvataggio& deciso) {
     AggiornaOrari();
 }
 
+void Documento::SalvaCampi(const Salvataggio& deciso) {
+    Transaction transaction(sessione_.Archivio());
+    Concludi(transaction, ScriviCampi(deciso));
+}
+
 EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
     Transaction transaction(sessione_.Archivio());
-    ConfermaCheELei();
-    const EsitoMemorizzazione esito =
-        MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, orario_, progress);
+    const EsitoMemorizzazione esito = ScriviTappe(progress);
     transaction.Commit();
     caricate_ = righe_;
+    return esito;
+}
+
+EsitoMemorizzazione Documento::SalvaTutto(const Salvataggio& deciso, Progress& progress) {
+    Transaction transaction(sessione_.Archivio());
+    EsitoMemorizzazione esito;
+    if (TappeModificate()) esito = ScriviTappe(progress);
+    Concludi(transaction, CampiModificati() ? ScriviCampi(deciso) : codice_);
     return esito;
 }
 

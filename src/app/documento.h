@@ -44,8 +44,8 @@ class Documento {
     [[nodiscard]] bool Modificato() const { return CampiModificati() || TappeModificate(); }
     [[nodiscard]] bool CampiModificati() const { return campi_ != caricati_; }
     [[nodiscard]] bool TappeModificate() const { return righe_ != caricate_; }
-    /// A trip that is in no archive yet has got a destination.
-    [[nodiscard]] bool NuovaDigitata() const { return campi_.codice.isEmpty() && !campi_.localita.trimmed().isEmpty(); }
+    /// The fields as they were loaded, or proposed for a new trip.
+    [[nodiscard]] const Meta& Caricati() const { return caricati_; }
 
     // Loading: all is read before anything is replaced, since what is open may exist nowhere else.
     /// The stored trip with that code becomes the open and the current one.
@@ -54,8 +54,12 @@ class Documento {
     void Ricarica(const QDateTime& adesso);
     /// A trip to be filled in, with the personal defaults, starting now.
     void Proponi(const QDateTime& adesso);
-    /// No trip counts as opened any more.
-    void LasciaCodice() { codice_.clear(); }
+    /// The stages as they are stored; the fields stay as they are.
+    void RicaricaTappe();
+    /// Drops what was changed: all is as it was loaded.
+    void Scarta();
+    /// The stored trip is gone: its fields are those of a new one, which is not saved.
+    void DiventaNuova();
     /// The guide changed underneath: visits are read anew, fields stay.
     void RileggiVisite();
 
@@ -85,6 +89,8 @@ class Documento {
     /// Saves the fields and loads the trip anew, which may have got another code. Refused too when that would now be
     /// another thing than was decided, a new trip or a change.
     void SalvaCampi(const Salvataggio& deciso);
+    /// The same with the stages, of both what was changed, whole or not at all.
+    EsitoMemorizzazione SalvaTutto(const Salvataggio& deciso, Progress& progress);
     /// Replaces the stored stages by those that are open.
     EsitoMemorizzazione SalvaTappe(Progress& progress);
     /// Delete the stored stages, and the stored trip with them; what is open stays as it is until it is loaded anew.
@@ -98,6 +104,10 @@ class Documento {
     };
     void ConfermaCheELei();
     void Metti(const Meta& campi, RigheItinerario righe);
+    void MettiTappe(RigheItinerario righe);
+    QString ScriviCampi(const Salvataggio& deciso);
+    EsitoMemorizzazione ScriviTappe(Progress& progress);
+    void Concludi(Transaction& transaction, const QString& codice);
     void Mostra(Stato stato);
     void RicalcolaTempi();
     void Correggi(const ParametriViaggio& parametri);

@@ -17,6 +17,11 @@ bool Postazione::ConverteOfferto() const {
     return viaggio != nullptr && viaggio->converteOfferto;
 }
 
+bool Postazione::SenzaMete() const {
+    const auto* viaggio = Su<schermata::Viaggio>();
+    return viaggio != nullptr && viaggio->fase == schermata::Viaggio::Fase::Vuota;
+}
+
 StatoComandi Postazione::Comandi() const {
     return StatoDeiComandi({NumeroTappe(documento.Righe()), !documento.Codice().isEmpty(), attivita}, schermata);
 }
@@ -52,9 +57,15 @@ bool Postazione::MentreCorre(const std::function<void()>& azione) {
 }
 
 void Postazione::VaiAlViaggio() {
-    using Fase = schermata::Viaggio::Fase;
     documento.Ricarica(volti.adesso());
-    schermata = schermata::Viaggio{documento.Codice().isEmpty() ? Fase::Vuota : Fase::Aperta};
+    MettiSchermoDelViaggio();
+}
+
+void Postazione::MettiSchermoDelViaggio() {
+    using Fase = schermata::Viaggio::Fase;
+    const bool nessuna = documento.Codice().isEmpty() && !documento.Modificato();
+    const bool nuova = documento.Campi().codice.isEmpty();
+    schermata = schermata::Viaggio{nessuna ? Fase::Vuota : nuova ? Fase::Nuova : Fase::Aperta};
 }
 
 void Postazione::Mostra(const QString& testo, const QString& titolo, Icon icona) {

@@ -54,6 +54,8 @@ struct Postazione {
     /// A run that can be stopped is on.
     [[nodiscard]] bool InCorsa() const { return attivita == Attivita::Corsa; }
     [[nodiscard]] bool ConverteOfferto() const;
+    /// There is no trip, and none was begun: nothing can be typed.
+    [[nodiscard]] bool SenzaMete() const;
     [[nodiscard]] StatoComandi Comandi() const;
 
     /// Names of the changes that undo and redo are about on the screen in front; nothing when there is none.
@@ -67,7 +69,9 @@ struct Postazione {
     /// The same while no other command can be given; while only the stop can.
     bool MentreScrive(const QString& mancato, const std::function<void()>& azione);
     bool MentreCorre(const std::function<void()>& azione);
-    /// The stored trip that is current, in front on the trip screen.
+    /// The trip screen comes in front, with what is open.
+    void MettiSchermoDelViaggio();
+    /// The same with the stored trip that is current.
     void VaiAlViaggio();
     void Mostra(const QString& testo, const QString& titolo = {}, Icon icona = Icon::Exclamation);
     [[nodiscard]] bool Chiede(const QString& testo, const QString& titolo);

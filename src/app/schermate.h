@@ -16,10 +16,9 @@ namespace cronovia::schermata {
 /// The trip's fields and its itinerary.
 struct Viaggio {
     enum class Fase {
-        Vuota,     ///< the archive has no trip, none was begun
-        Nuova,     ///< a new trip is filled in
-        Aperta,    ///< a stored trip is open
-        Lasciata,  ///< the trip was put away for an exchange: one has to be chosen
+        Vuota,   ///< the archive has no trip, none was begun
+        Nuova,   ///< a new trip is filled in
+        Aperta,  ///< a stored trip is open
     };
     Fase fase = Fase::Vuota;
     bool converteOfferto = false;  ///< data of the earlier release lies in the folder, and no command was given yet

@@ -36,7 +36,6 @@ struct Abilita {
                 if (fatti.metaAperta) Solo({Comando::Ricerca});
                 break;
             case Fase::Aperta:
-            case Fase::Lasciata:
                 Solo(kPrincipali);
                 break;
         }

@@ -28,22 +28,32 @@ void TavoloGuida::CreaElenco() {
 void TavoloGuida::VaiAllaRiga(int riga) {
     rigaCorrente_ = std::clamp(riga, 1, static_cast<int>(elenco_->size()));
     const std::optional<VoceGuida>& voce = Corrente().voce;
-    campi_ = voce ? CampiDellaVoce(*voce) : CampiVoce();
-    if (campi_.tipo.isEmpty() && !tipi_.empty()) campi_.tipo = tipi_.front().descrizione;
+    CampiVoce campi = voce ? CampiDellaVoce(*voce) : CampiVoce();
+    if (campi.tipo.isEmpty() && !tipi_.empty()) campi.tipo = tipi_.front().descrizione;
+    Mostra(campi);
+}
+
+void TavoloGuida::Mostra(const CampiVoce& campi) {
+    campi_ = campi;
+    scritti_ = campi;
 }
 
 // The row of an entry, below that locality when it is shown there; the locality's own without one.
-int TavoloGuida::RigaDi(const QString& localita, const std::optional<Record>& voce) const {
+int TavoloGuida::RigaDi(const QString& localita, std::optional<std::int64_t> voce) const {
     int trovata = 0;
     for (std::size_t i = 0; i < elenco_->size(); ++i) {
         const RigaGuida& riga = (*elenco_)[i];
         const bool qui = riga.localita.compare(localita, Qt::CaseInsensitive) == 0;
-        const bool cercata = voce ? riga.voce && riga.voce->id == voce->id : !riga.voce && qui;
+        const bool cercata = voce ? riga.voce && riga.voce->id == *voce : !riga.voce && qui;
         if (cercata && (qui || trovata == 0)) trovata = static_cast<int>(i) + 1;
         if (cercata && qui) break;
     }
     if (trovata == 0) return voce ? RigaDi(localita, std::nullopt) : rigaCorrente_;
     return trovata;
+}
+
+int TavoloGuida::RigaDi(const RigaGuida& riga) const {
+    return RigaDi(riga.localita, riga.voce ? std::optional(riga.voce->id) : std::nullopt);
 }
 
 bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
@@ -55,14 +65,15 @@ bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
     ModificaGuida modifica = SalvaVoce(archive_, riga.localita, riga.voce, tipi_, campi);
     const bool persa = riga.voce && !modifica.prima;
     const QString nome = modifica.prima ? u"modifica di «%1»"_s : u"inserimento di «%1»"_s;
-    const std::optional<Record> voce = riga.voce ? modifica.dopo : std::nullopt;
+    const auto voce = riga.voce ? std::optional(modifica.dopo->id) : std::nullopt;
     storia_.Ricorda(PassoDi(nome.arg(campi.descrizione.trimmed()), std::move(modifica)));
     CreaElenco();
     // From a locality's row one goes on adding; an entry is followed to where it is listed now.
     VaiAllaRiga(RigaDi(riga.localita, voce));
     if (!riga.voce) {
-        campi_ = campi;
-        campi_.descrizione.clear();
+        CampiVoce prossima = campi;
+        prossima.descrizione.clear();
+        Mostra(prossima);
     }
     if (persa) {
         interaction_.Show(
@@ -74,6 +85,8 @@ bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
     return true;
 }
 
+void TavoloGuida::SalvaScritti() const { SalvaVoce(archive_, Corrente().localita, Corrente().voce, tipi_, scritti_); }
+
 void TavoloGuida::CancellaRiga() {
     const RigaGuida riga = Corrente();
     if (!riga.voce) return;
@@ -84,11 +97,6 @@ void TavoloGuida::CancellaRiga() {
     VaiAllaRiga(rigaCorrente_);
     // Never over to another locality, where the next entry would be typed by mistake.
     if (Corrente().localita != riga.localita) VaiAllaRiga(rigaCorrente_ - 1);
-}
-
-void TavoloGuida::ScegliLocalita(int riga) {
-    cerca_ = false;
-    VaiAllaRiga(riga);
 }
 
 Passo TavoloGuida::PassoDi(const QString& nome, ModificaGuida modifica) {
@@ -109,7 +117,8 @@ ModificaGuida TavoloGuida::Disfa(const QString& nome, const ModificaGuida& modif
         throw PassoPerduto(
             u"Impossibile: l'annotazione è stata cambiata o cancellata nel frattempo\n(%1)."_s.arg(nome));
     }
-    VaiAllaRiga(RigaDi((fatta->dopo ? *fatta->dopo : *fatta->prima)[guida::Localita], fatta->dopo));
+    VaiAllaRiga(RigaDi((fatta->dopo ? *fatta->dopo : *fatta->prima)[guida::Localita],
+                       fatta->dopo ? std::optional(fatta->dopo->id) : std::nullopt));
     return std::move(*fatta);
 }
 

@@ -37,23 +37,36 @@ class TavoloGuida {
     [[nodiscard]] const QString& CodiceMeta() const { return codiceMeta_; }
     [[nodiscard]] bool ElencoLocalitaVisibile() const { return cerca_; }
 
+    /// What the fields hold now: not saved, and `Modificata` while it differs from what they were to hold.
+    [[nodiscard]] const CampiVoce& Scritti() const { return scritti_; }
+    void Scrivi(const CampiVoce& campi) { scritti_ = campi; }
+    /// Choosing a type or a time for an entry without a text yet is no change.
+    [[nodiscard]] bool Modificata() const {
+        return scritti_ != campi_ && (Corrente().voce || !scritti_.descrizione.trimmed().isEmpty());
+    }
+
+    /// Where a row of an earlier list is now.
+    [[nodiscard]] int RigaDi(const RigaGuida& riga) const;
     /// Makes a row the current one, the last when there are not so many, and loads the fields from it.
     void VaiAllaRiga(int riga);
     /// Saves the fields in the place of the entry of the current row, or as a new one from a locality's row. Tells why
     /// they cannot be saved; false then.
     bool SalvaRiga(const CampiVoce& campi);
+    /// What was typed goes to the archive and nowhere else, for a program that ends. A `Failure` when it cannot be
+    /// saved.
+    void SalvaScritti() const;
     /// Deletes the entry of the current row; a locality's row stays as it is.
     void CancellaRiga();
-    /// Opens the list of localities; goes to the row of one; closes it.
+    /// Opens the list of localities; closes it.
     void Cerca() { cerca_ = true; }
-    void ScegliLocalita(int riga);
     void ChiudiElenco() { cerca_ = false; }
 
   private:
     void CreaElenco();
+    void Mostra(const CampiVoce& campi);
     [[nodiscard]] Passo PassoDi(const QString& nome, ModificaGuida modifica);
     ModificaGuida Disfa(const QString& nome, const ModificaGuida& modifica);
-    [[nodiscard]] int RigaDi(const QString& localita, const std::optional<Record>& voce) const;
+    [[nodiscard]] int RigaDi(const QString& localita, std::optional<std::int64_t> voce) const;
 
     Archive& archive_;
     Interaction& interaction_;
@@ -63,6 +76,7 @@ class TavoloGuida {
     bool senzaTappe_ = false;
     int rigaCorrente_ = 1;
     CampiVoce campi_;
+    CampiVoce scritti_;
     bool cerca_ = false;
     Storia& storia_;
 };

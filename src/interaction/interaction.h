@@ -24,6 +24,7 @@ struct Question {
     QString title;
     bool cancellable = false;
     Answer preset = Answer::Yes;  ///< what Enter answers
+    bool salva = false;           ///< Yes reads "Salva", No "Non salvare"
 };
 
 /// The face of the program towards one command: the window shows boxes, the command line prints, tests script answers.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -15,7 +16,9 @@
 #include "app/comandi_inserimento.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
+#include "app/niente_perso.h"
 #include "ui/comuni/colori.h"
+#include "ui/comuni/richiesta_di_fine.h"
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
 
@@ -52,6 +55,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     RendiLeggibile();
     RipristinaAspetto();
     Mostra();
+    FuocoSenzaMete();
 }
 
 // Frames that go lose the focus and say so: they go while there is somebody to listen, who does nothing any more.
@@ -113,6 +117,7 @@ void FormMete::CreaStampe(QGridLayout& area) {
 }
 
 void FormMete::Collega() {
+    new RichiestaDiFine(*this, [this] { Termina(); });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &FormMete::FineSessione, Qt::DirectConnection);
     connect(viaggio_, &SchermoViaggio::Cambiata, this, &FormMete::Raccogli);
     connect(bottoni_, &FrmBottoni::Premuto, this, &FormMete::EseguiComando);
@@ -133,6 +138,7 @@ void FormMete::Raccogli() {
     if (mostrando_) return;
     viaggio_->Raccogli();
     inserimento_.Raccogli();
+    guida_.Raccogli();
 }
 
 // A long command lets the window live; what the person asks for meanwhile is not begun.
@@ -148,9 +154,16 @@ void FormMete::Esegui(const std::function<void()>& comando) {
     Mostra();
     // A control that was disabled meanwhile had to give the focus away.
     if (fuoco != nullptr && fuoco->isVisible() && fuoco->isEnabled()) fuoco->setFocus();
+    FuocoSenzaMete();
+}
+
+// Without a trip all begins with a new one.
+void FormMete::FuocoSenzaMete() {
+    if (postazione_.SenzaMete()) bottoni_->Pulsante(Comando::Nuovo).setFocus();
 }
 
 void FormMete::EseguiComando(Comando comando) {
+    Raccogli();
     if (comando == Comando::Esce) return comandi::Esce(postazione_);  // stops a command that has begun
     const bool calcolata = postazione_.documento.Calcolata().has_value();
     Esegui([&] { Descrizione(comando).esegui(postazione_); });
@@ -227,7 +240,7 @@ void FormMete::RendiLeggibile() {
 }
 
 void FormMete::closeEvent(QCloseEvent* event) {
-    event->setAccepted(!postazione_.InCorsa() && PossoChiudere());
+    event->setAccepted(congedata_ || (!postazione_.InCorsa() && PossoChiudere()));
     if (postazione_.InCorsa()) comandi::Esce(postazione_);
     if (event->isAccepted()) RicordaAspetto();
 }
@@ -240,10 +253,26 @@ bool FormMete::PossoChiudere() {
 
 // The desktop session is about to end.
 void FormMete::FineSessione(QSessionManager& sessione) {
-    if (!isVisible() || !sessione.allowsInteraction()) return;
+    if (!isVisible()) return;
+    if (!sessione.allowsInteraction()) {
+        Raccogli();
+        Congeda(postazione_);
+        return;
+    }
     const bool chiudo = PossoChiudere();
     sessione.release();
     if (!chiudo) sessione.cancel();
+}
+
+// Boxes that are open are called off once all is saved that can be, and the command that showed them ends.
+void FormMete::Termina() {
+    if (postazione_.InCorsa()) avanzamento_->ChiediStop();
+    Raccogli();
+    if (!Congeda(postazione_)) return;
+    if (auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget())) return dialogo->reject();
+    if (inCorso_) return;
+    congedata_ = true;
+    close();
 }
 
 // Enter presses the button that has the focus, writes the stage that is being entered, else goes to the next field;
@@ -282,7 +311,7 @@ void FormMete::Mostra() {
     mostrando_ = true;
     const StatoComandi stato = postazione_.Comandi();
     viaggio_->Mostra(!postazione_.documento.Calcolata() && !postazione_.InCorsa() &&
-                     !postazione_.Su<schermata::Scambio>() && !guida_.StampaAperta());
+                     !postazione_.Su<schermata::Scambio>() && !guida_.StampaAperta() && !postazione_.SenzaMete());
     if (!guida_.Mostra(kRigheMinimeGriglia)) griglia_.Mostra();
     copia_.Mostra();
     inserimento_.Mostra(stato);

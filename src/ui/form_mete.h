@@ -72,6 +72,8 @@ class FormMete : public QMainWindow {
     void Invio();
     void Mostra();
     bool PossoChiudere();
+    void FuocoSenzaMete();
+    void Termina();
     void FineSessione(QSessionManager& sessione);
     void RendiLeggibile();
     void MostraTitolo();
@@ -95,7 +97,8 @@ class FormMete : public QMainWindow {
     AzioniModifica* azioni_ = nullptr;
     QList<Pannello*> pannelli_;
     bool mostrando_ = false;
-    bool inCorso_ = false;  // a command has begun and not ended
+    bool inCorso_ = false;    // a command has begun and not ended
+    bool congedata_ = false;  // the program was made to end, and nobody is asked any more
 };
 
 }  // namespace cronovia

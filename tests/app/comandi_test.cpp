@@ -139,11 +139,12 @@ TEST_F(ComandiTest, ClosingAsksWhenThereAreUnsavedChanges) {
         {Answer::Cancel, false}, {Answer::No, true}, {Answer::Yes, true}};
     for (const auto& [risposta, chiude] : casi) {
         EXPECT_EQ(Memorizzate(), u""_s);
-        DomandaDiUscita(risposta);
+        DomandaModifiche(risposta);
         EXPECT_EQ(comandi::PossoChiudere(*postazione_), chiude);
     }
     EXPECT_EQ(Memorizzate(), u"A"_s);
     EXPECT_TRUE(comandi::PossoChiudere(*postazione_));
+    comandi::SelezionaRiga(*postazione_, 2);
     ASSERT_TRUE(Inserisce(u"B"_s, 5));
     comandi::Annulla(*postazione_);
     EXPECT_TRUE(comandi::PossoChiudere(*postazione_));  // nothing differs from what is saved
@@ -151,8 +152,7 @@ TEST_F(ComandiTest, ClosingAsksWhenThereAreUnsavedChanges) {
     comandi::Nuovo(*postazione_);
     EXPECT_TRUE(comandi::PossoChiudere(*postazione_));
     Destinazione(u"DUE"_s, {});
-    const QString domanda = u"La nuova mèta «DUE» non è stata salvata: vuoi rinunciarvi?"_s;
-    copione_.Domanda(domanda, u"Fine Lavoro"_s, Answer::No);
+    DomandaModifiche(u"La nuova mèta «DUE» non è stata salvata."_s, Answer::Cancel);
     EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
 }
 
@@ -172,7 +172,7 @@ TEST_F(ComandiTest, WhatCannotBeSavedStaysOnScreen) {
     const SQLite::Database altro = AltroProgramma(
         "CREATE TRIGGER pieno BEFORE INSERT ON Itinerari WHEN NEW.Sequenza = '0003' "
         "BEGIN SELECT RAISE(ABORT, 'pieno'); END");
-    DomandaDiUscita(Answer::Yes);
+    DomandaModifiche(Answer::Yes);
     copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + Archivio(u"…"_s));
     EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
     EXPECT_EQ(Righe(), u"A B C"_s);

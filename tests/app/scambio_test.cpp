@@ -74,10 +74,8 @@ TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
     prova::ScriviFile(amiciIei_, amici_);
     const QStringList prima = Archivio();
     Importa(Answer::No);
-    EXPECT_EQ(postazione_->documento.Codice(), u""_s);
-    EXPECT_EQ(Schermo(), u"lasciata"_s);
-    copione_.Messaggio(u"Nessuna mèta è aperta: sceglila con «Ricerca mèta»."_s);
-    comandi::Itinerario(*postazione_);
+    EXPECT_EQ(postazione_->documento.Codice(), u"000003"_s);
+    EXPECT_EQ(Schermo(), u"aperta"_s);
     comandi::Ricerca(*postazione_);
     comandi::ScegliMeta(*postazione_, u"000002"_s);  // looking at a trip changes nothing
     EXPECT_EQ(postazione_->DaAnnullare(), u"importazione di amici.iei"_s);
@@ -87,13 +85,13 @@ TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
     EXPECT_EQ(postazione_->documento.Codice(), u"000001"_s);
 
     Importa(Answer::No);
-    copione_.Domanda(u"Vuoi salvare i dati di default?"_s, u"Dati di default"_s, Answer::Yes);
+    copione_.Domanda(u"Vuoi ripristinare i dati di default?"_s, u"Dati di default"_s, Answer::Yes);
     copione_.Messaggio(u"Operazione eseguita!"_s, u"Dati di default"_s);
-    comandi::SalvaDefault(*postazione_);
+    comandi::RipristinaDefault(*postazione_);
     EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
 }
 
-TEST_F(ScambioTest, TakingAnImportBackLeavesANewTripThatIsBeingTyped) {
+TEST_F(ScambioTest, TakingAnImportBackLeavesWhatWasTypedAsANewTrip) {
     prova::ScriviFile(amiciIei_, amici_);
     Importa(Answer::No);
     Meta nuova = postazione_->documento.Campi();
@@ -102,6 +100,7 @@ TEST_F(ScambioTest, TakingAnImportBackLeavesANewTripThatIsBeingTyped) {
     copione_.Messaggio(u"L'importazione di amici.iei è stata annullata."_s);
     comandi::Annulla(*postazione_);
     EXPECT_EQ(postazione_->documento.Campi().localita, u"NARVIK"_s);
+    EXPECT_EQ(Schermo(), u"nuova"_s);
     EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
 }
 

@@ -48,7 +48,7 @@ class PostazioneTest : public testing::Test {
     [[nodiscard]] Documento& Viaggio() { return postazione_->documento; }
     /// Name of the screen in front; of the trip screen with its phase.
     [[nodiscard]] QString Schermo() const {
-        constexpr std::array kFasi = {u"vuota", u"nuova", u"aperta", u"lasciata"};
+        constexpr std::array kFasi = {u"vuota", u"nuova", u"aperta"};
         constexpr std::array kNomi = {u"",       u"elenco", u"inserimento", u"cronovia",
                                       u"stampa", u"guida",  u"copia",       u"scambio"};
         const auto* viaggio = postazione_->Su<schermata::Viaggio>();
@@ -102,6 +102,13 @@ class PostazioneTest : public testing::Test {
     void Esce(Answer risposta) {
         DomandaDiUscita(risposta);
         comandi::Fine(*postazione_);
+    }
+    void DomandaModifiche(const QString& inizio, Answer risposta) {
+        copione_.Domanda(inizio + QStringLiteral("\n\nVuoi salvare?"), QStringLiteral("Modifiche non salvate"),
+                         risposta, true);
+    }
+    void DomandaModifiche(Answer risposta) {
+        DomandaModifiche(QStringLiteral("La mèta «UNO» (codice 000001) ha modifiche non salvate."), risposta);
     }
     void Memorizza(Answer risposta) {
         copione_.Domanda(QStringLiteral("Vuoi salvare l'itinerario?"), QStringLiteral("Salvataggio itinerario"),

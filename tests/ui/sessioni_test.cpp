@@ -3,6 +3,7 @@
 // of the examples. What comes up by itself is announced before the step that brings it.
 //
 //   open [HH:MM] · close              the window, on 5 June 2027; opened again, it is a new one on the same folder
+//   signal-end                        the system ends the program, and the window has to close
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
 //   sql TEXT                          what another program does to the archive
@@ -47,6 +48,7 @@
 #include <QRadioButton>
 #include <QTextDocument>
 #include <QUrl>
+#include <csignal>
 #include <functional>
 #include <map>
 
@@ -259,11 +261,11 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     }
 
     void Annuncia(const QString& bottone, const QString& testo, const QString& titolo) {
-        static const std::map<QString, QMessageBox::StandardButton> bottoni = {{u"Sì"_s, QMessageBox::Yes},
-                                                                               {u"No"_s, QMessageBox::No},
-                                                                               {u"Annulla"_s, QMessageBox::Cancel},
-                                                                               {u"Altro"_s, QMessageBox::Discard},
-                                                                               {u"Ok"_s, QMessageBox::Ok}};
+        static const std::map<QString, QMessageBox::StandardButton> bottoni = {
+            {u"Sì"_s, QMessageBox::Yes},         {u"No"_s, QMessageBox::No},
+            {u"Annulla"_s, QMessageBox::Cancel}, {u"Altro"_s, QMessageBox::Discard},
+            {u"Salva"_s, QMessageBox::Save},     {u"Non salvare"_s, QMessageBox::Discard},
+            {u"Ok"_s, QMessageBox::Ok}};
         Attendi({Attesa::Che::Box, testo, titolo.isEmpty() ? u"Cronovia"_s : titolo, bottoni.at(bottone), {}});
     }
 
@@ -320,6 +322,12 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     const std::map<QString, std::pair<int, Azione>> verbi_ = {
         {u"open"_s, {0, [this](auto& p) { p[0].isEmpty() ? Apri() : Apri(QTime::fromString(p[0], u"HH:mm"_s)); }}},
         {u"close"_s, {0, [this](auto&) { form_->close(); }}},
+        {u"signal-end"_s,
+         {0,
+          [this](auto&) {
+              std::raise(SIGTERM);
+              EXPECT_TRUE(QTest::qWaitFor([this] { return !form_->isVisible(); }, 5000));
+          }}},
         {u"run"_s, {1, [this](auto& p) { Esegui(p); }}},
         {u"write"_s,
          {2,

@@ -93,6 +93,7 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     meta->stato = StatoMeta::Inserita;
     ++esito_.meteInserite;
     AggiustaData(riga.valori[mete::DataInizio]);
+    esito_.ultimaMeta = meta->codice;
     Inserisci(riga, meta->codice, mete_);
 }
 

@@ -26,6 +26,7 @@ struct RichiestaImport {
 /// What an import did, and what it could not take as it stood.
 struct EsitoImport {
     qint64 meteInserite = 0;
+    QString ultimaMeta;  ///< the code that the last one of them got
     qint64 tappeInserite = 0;
     qint64 vociInserite = 0;  ///< city-guide entries
     qint64 meteScartate = 0;  ///< their destination was stored already; their stages are left out too

@@ -57,21 +57,20 @@ bool InterazioneFinestra::ShowUndoable(const Message& message, const QString& ca
 }
 
 Answer InterazioneFinestra::Ask(const Question& question) {
-    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    const auto si = question.salva ? QMessageBox::Save : QMessageBox::Yes;
+    const auto no = question.salva ? QMessageBox::Discard : QMessageBox::No;
+    QMessageBox::StandardButtons buttons = si | no;
     if (question.cancellable) buttons |= QMessageBox::Cancel;
     QMessageBox box(QMessageBox::Question, Titolo(question.title), question.text, buttons, &finestra_);
     box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(Bottone(question.preset));
+    box.setDefaultButton(question.salva ? si : Bottone(question.preset));
+    if (question.salva) box.button(si)->setText(u"&Salva"_s);
+    if (question.salva) box.button(no)->setText(u"&Non salvare"_s);
     // Closing the box by its frame leaves everything as it is.
     box.setEscapeButton(question.cancellable ? QMessageBox::Cancel : QMessageBox::No);
-    switch (box.exec()) {
-        case QMessageBox::Yes:
-            return Answer::Yes;
-        case QMessageBox::Cancel:
-            return Answer::Cancel;
-        default:
-            return Answer::No;
-    }
+    const int bottone = box.exec();
+    if (bottone == si) return Answer::Yes;
+    return bottone == no || !question.cancellable ? Answer::No : Answer::Cancel;
 }
 
 }  // namespace cronovia

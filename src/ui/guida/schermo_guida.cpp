@@ -38,15 +38,13 @@ void SchermoGuida::Collega() {
         esegui_([this] { comandi::FineGuida(postazione_); });
         griglia_.setFocus();
     });
-    connect(&griglia_, &VistaGriglia::RigaCorrente, this,
-            [this](int riga) { Comanda([riga](TavoloGuida& tavolo) { tavolo.VaiAllaRiga(riga + 1); }); });
+    connect(&griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) { VaiAllaRiga(riga + 1); });
     connect(&griglia_, &QTableView::clicked, this, [this] {
         if (Tavolo()) riquadro_->FuocoSullaDescrizione();
     });
     connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         if (!Tavolo()) return;
-        const int riga = voce->data(Qt::UserRole).toInt();
-        Comanda([riga](TavoloGuida& tavolo) { tavolo.ScegliLocalita(riga); });
+        VaiAllaRiga(voce->data(Qt::UserRole).toInt());
         riquadro_->FuocoSullaDescrizione();
     });
 }
@@ -75,6 +73,16 @@ void SchermoGuida::Comanda(const std::function<void(TavoloGuida&)>& comando) {
     if (Tavolo()) esegui_([&] { comandi::SullaGuida(postazione_, comando); });
 }
 
+void SchermoGuida::VaiAllaRiga(int riga) {
+    if (Tavolo()) esegui_([&] { comandi::VaiAllaRigaGuida(postazione_, riga); });
+}
+
+void SchermoGuida::Raccogli() {
+    if (auto* guida = postazione_.Su<schermata::Guida>(); guida != nullptr && mostrato_) {
+        guida->tavolo->Scrivi(riquadro_->Campi());
+    }
+}
+
 void SchermoGuida::Salva() {
     const CampiVoce campi = riquadro_->Campi();
     Comanda([&](TavoloGuida& tavolo) { tavolo.SalvaRiga(campi); });
@@ -98,7 +106,8 @@ bool SchermoGuida::Mostra(int righeMinime) {
     if (prima) griglia_.MostraGuida(modello_);
     griglia_.SelezionaRiga(tavolo->RigaCorrente() - 1);
     // What is being typed stays, unless another row has come.
-    const bool nuovo = !mostrato_ || mostrato_->riga != tavolo->RigaCorrente() || mostrato_->elenco != tavolo->Elenco();
+    const bool nuovo = !mostrato_ || mostrato_->riga != tavolo->RigaCorrente() ||
+                       mostrato_->elenco != tavolo->Elenco() || tavolo->Scritti() != riquadro_->Campi();
     if (nuovo) {
         riquadro_->MostraTipi(tavolo->Tipi());
         riquadro_->Mostra(tavolo->Corrente().localita, tavolo->Campi(), tavolo->Corrente().voce.has_value());
@@ -153,8 +162,7 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
     } else if (invio && CampiCambiati()) {
         Salva();
     } else if (esc && CampiCambiati()) {
-        mostrato_.reset();
-        Comanda([](TavoloGuida& t) { t.VaiAllaRiga(t.RigaCorrente()); });
+        VaiAllaRiga(tavolo->RigaCorrente());
         riquadro_->FuocoSullaDescrizione();
     } else {
         riquadro_->PulsanteFine().click();

@@ -24,6 +24,8 @@ class SchermoGuida : public QObject {
 
     [[nodiscard]] FrmGuida& Riquadro() const { return *riquadro_; }
     void ImpostaStampa(ComandoStampaGuida& stampa);
+    /// What the fields hold goes to the screen's state.
+    void Raccogli();
     /// To the entry of a description, while the screen is open.
     void Fuoco();
     /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
@@ -38,6 +40,7 @@ class SchermoGuida : public QObject {
     /// Null while the screen is closed.
     [[nodiscard]] const TavoloGuida* Tavolo() const;
     void Comanda(const std::function<void(TavoloGuida&)>& comando);
+    void VaiAllaRiga(int riga);
     void Salva();
     void MostraElenco(const TavoloGuida& tavolo);
     void Abilita(const TavoloGuida& tavolo);

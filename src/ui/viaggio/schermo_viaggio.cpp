@@ -68,12 +68,18 @@ void SchermoViaggio::Collega() {
     });
 }
 
-void SchermoViaggio::Raccogli() {
+Meta SchermoViaggio::Letta() const {
     Meta meta = postazione_.documento.Campi();
     periodo_->Leggi(meta);
     velocita_->Leggi(meta.parametri);
     tempi_->Leggi(meta.parametri);
-    postazione_.documento.ImpostaCampi(meta);
+    return meta;
+}
+
+// What the fields cannot show is no change: it stays until something is typed.
+void SchermoViaggio::Raccogli() {
+    const Meta letta = Letta();
+    if (letta != mostrata_) postazione_.documento.ImpostaCampi(letta);
 }
 
 bool SchermoViaggio::ConcludiIlCampo() {
@@ -94,6 +100,7 @@ void SchermoViaggio::Mostra(bool liberi) {
     velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->orario.GuidaGiorno())
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
     tempi_->Mostra(parametri);
+    mostrata_ = Letta();
     for (QWidget* riquadro :
          {static_cast<QWidget*>(periodo_), static_cast<QWidget*>(velocita_), static_cast<QWidget*>(tempi_)}) {
         Blocca(*riquadro, !liberi);

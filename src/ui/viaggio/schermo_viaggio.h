@@ -36,6 +36,7 @@ class SchermoViaggio : public QWidget {
 
   private:
     void Collega();
+    [[nodiscard]] Meta Letta() const;
     void MostraElenco();
 
     Postazione& postazione_;
@@ -44,6 +45,7 @@ class SchermoViaggio : public QWidget {
     FrmMeteVelocita* velocita_;
     FrmMeteTempi* tempi_;
     ElencoScelta* cmbRicerca_;
+    Meta mostrata_;  // what the fields held when they were last shown
 };
 
 }  // namespace cronovia

@@ -1,0 +1,116 @@
+#include "app/niente_perso.h"
+
+#include "interaction/failure.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString NomeDellaMeta(const Meta& caricati) {
+    return u"«%1» (codice %2)"_s.arg(caricati.localita.trimmed(), caricati.codice);
+}
+
+QString MetaNonSalvata(const Documento& documento) {
+    if (!documento.Caricati().codice.isEmpty()) {
+        return u"La mèta %1 ha modifiche non salvate."_s.arg(NomeDellaMeta(documento.Caricati()));
+    }
+    const QString localita = documento.Campi().localita.trimmed();
+    return localita.isEmpty() ? u"La nuova mèta non è stata salvata."_s
+                              : u"La nuova mèta «%1» non è stata salvata."_s.arg(localita);
+}
+
+QString VoceNonSalvata(const Documento& documento, const TavoloGuida& tavolo) {
+    return u"L'annotazione «%1» di %2 non è stata salvata.\nMèta: %3"_s.arg(
+        tavolo.Scritti().descrizione.trimmed(), tavolo.Corrente().localita, NomeDellaMeta(documento.Caricati()));
+}
+
+TavoloGuida* ConVoceScritta(Postazione& p) {
+    auto* guida = p.Su<schermata::Guida>();
+    return guida != nullptr && guida->tavolo->Modificata() ? guida->tavolo.get() : nullptr;
+}
+
+Answer ChiedeSeSalvare(Postazione& p, const QStringList& nonSalvate) {
+    return p.volti.interazione.Ask(
+        {nonSalvate.join(u"\n\n"_s) + u"\n\nVuoi salvare?"_s, u"Modifiche non salvate"_s, true, Answer::Yes, true});
+}
+
+bool SalvaVoceScritta(Postazione& p, TavoloGuida& tavolo) {
+    bool salvata = false;
+    p.Prova([&] { salvata = tavolo.SalvaRiga(tavolo.Scritti()); });
+    return salvata;
+}
+
+// A new trip with the destination of a stored one would take that one's place.
+bool TroppoNuova(const Meta& campi, const Salvataggio& salvataggio) {
+    return campi.codice.isEmpty() && !salvataggio.nuova;
+}
+
+QString Mancato(const Documento& documento) {
+    if (!documento.TappeModificate()) return u"La mèta non è stata salvata."_s;
+    return documento.CampiModificati() ? u"La mèta e l'itinerario non sono stati salvati."_s
+                                       : u"L'itinerario non è stato salvato."_s;
+}
+
+void SalvaSenzaChiedere(Postazione& p) {
+    if (const TavoloGuida* tavolo = ConVoceScritta(p)) tavolo->SalvaScritti();
+    Documento& documento = p.documento;
+    if (!documento.Modificato()) return;
+    const Salvataggio salvataggio = documento.CampiModificati() ? documento.DecidiSalvataggio() : Salvataggio();
+    if (documento.CampiModificati() && TroppoNuova(documento.Campi(), salvataggio)) return;
+    documento.SalvaTutto(salvataggio, p.volti.avanzamento);
+}
+
+}  // namespace
+
+bool QualcosaDaSalvare(const Postazione& p) {
+    const auto* guida = p.Su<schermata::Guida>();
+    return p.documento.Modificato() || (guida != nullptr && guida->tavolo->Modificata());
+}
+
+bool NientePerso(Postazione& p) {
+    QStringList nonSalvate;
+    TavoloGuida* tavolo = ConVoceScritta(p);
+    if (tavolo != nullptr) nonSalvate += VoceNonSalvata(p.documento, *tavolo);
+    if (p.documento.Modificato()) nonSalvate += MetaNonSalvata(p.documento);
+    if (nonSalvate.isEmpty()) return true;
+    const Answer risposta = ChiedeSeSalvare(p, nonSalvate);
+    if (risposta != Answer::Yes) return risposta == Answer::No;
+    return (tavolo == nullptr || SalvaVoceScritta(p, *tavolo)) && (!p.documento.Modificato() || SalvaTutto(p));
+}
+
+bool VoceNonPersa(Postazione& p) {
+    TavoloGuida* tavolo = ConVoceScritta(p);
+    if (tavolo == nullptr) return true;
+    const Answer risposta = ChiedeSeSalvare(p, {VoceNonSalvata(p.documento, *tavolo)});
+    return risposta == Answer::Yes ? SalvaVoceScritta(p, *tavolo) : risposta == Answer::No;
+}
+
+bool SalvaTutto(Postazione& p) {
+    Documento& documento = p.documento;
+    Salvataggio salvataggio;
+    const bool campi = documento.CampiModificati();
+    if (campi && !p.Prova([&] { salvataggio = documento.DecidiSalvataggio(); }, Mancato(documento))) return false;
+    if (campi && TroppoNuova(documento.Campi(), salvataggio)) {
+        const QString perso = u"%1 (%2)"_s.arg(documento.Campi().localita.trimmed(), salvataggio.codice);
+        if (!BoxConferma(p.volti.interazione, Operazione::ModificaMeta, perso)) return false;
+    }
+    return p.MentreScrive(Mancato(documento), [&] {
+        const EsitoMemorizzazione esito = documento.SalvaTutto(salvataggio, p.volti.avanzamento);
+        if (auto* viaggio = p.Su<schermata::Viaggio>()) viaggio->fase = schermata::Viaggio::Fase::Aperta;
+        if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
+    });
+}
+
+// What is left unsaved here, since it is incomplete or the archive refuses it, is what a recovery file has to hold.
+bool Congeda(Postazione& p) {
+    if (p.attivita != Attivita::Nessuna) return false;
+    try {
+        SalvaSenzaChiedere(p);
+    } catch (const Failure&) {  // nobody reads it
+    }
+    return true;
+}
+
+}  // namespace cronovia

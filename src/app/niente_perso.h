@@ -1,0 +1,25 @@
+// What is typed and not saved yet: asked for before a command replaces it, kept when nobody can be asked.
+#pragma once
+
+#include "app/postazione.h"
+
+namespace cronovia {
+
+/// The trip differs from what was loaded, or an entry of the guide from what its row shows.
+[[nodiscard]] bool QualcosaDaSalvare(const Postazione& p);
+
+/// Every command that replaces what is open calls this first. Asks whether to save, naming the trip, when something
+/// would be lost, and saves on Yes; false when the person wants to stay, or what was typed cannot be saved. On No it is
+/// left as it is.
+[[nodiscard]] bool NientePerso(Postazione& p);
+/// The same for the entry of the guide alone, before another one comes into the fields.
+[[nodiscard]] bool VoceNonPersa(Postazione& p);
+
+/// Saves what was changed of the trip, whole or not at all. Tells what was shortened, or what went wrong: false then.
+[[nodiscard]] bool SalvaTutto(Postazione& p);
+
+/// The program is made to end and nobody can be asked: saves all that needs no answer, the entry of the guide too.
+/// Nothing happens while another command writes or runs: false then, and it is to be tried again.
+bool Congeda(Postazione& p);
+
+}  // namespace cronovia

@@ -1,0 +1,18 @@
+// The system wants the program to end: a signal, which cannot wait for a person.
+#pragma once
+
+#include <QTimer>
+#include <functional>
+
+namespace cronovia {
+
+/// Keeps calling after the request for an end has come, four times a second, also under boxes and in runs, until the
+/// program has ended.
+class RichiestaDiFine : public QTimer {
+    Q_OBJECT
+
+  public:
+    RichiestaDiFine(QObject& padrone, const std::function<void()>& chiamata);
+};
+
+}  // namespace cronovia
