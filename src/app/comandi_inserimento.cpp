@@ -125,6 +125,9 @@ void AzzeraSoste(Postazione& p) {
 
 void Ritorno(Postazione& p) {
     EsitoTratto esito = cronovia::Ritorno(p.documento.Righe());
+    if (!esito.trovata) {
+        p.Mostra(u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s);
+    }
     Modifica(p, u"ritorno alla partenza"_s, std::move(esito.righe), esito.rigaCorrente);
 }
 

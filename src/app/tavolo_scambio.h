@@ -33,6 +33,10 @@ class TavoloScambio {
     void TrasferisceMeta(int lista, int riga);
     void TrasferisceTutte(int lista);
 
+    /// The name that an export's file is offered: of the first trip that is chosen, without what a file name may not
+    /// hold.
+    [[nodiscard]] QString FileProposto() const;
+
     // The texts on screen.
     [[nodiscard]] QString Etichetta(int lista) const;
     [[nodiscard]] QString ScrittaTutto(int lista) const;

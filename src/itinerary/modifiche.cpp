@@ -27,7 +27,8 @@ int NumeroTappe(std::span<const Tappa> righe) {
 CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga) {
     const Tappa tappa = Esiste(righe, riga) ? righe[Indice(riga)] : Tappa();
     CampiTappa campi{tappa.localita, tappa.numStrada.trimmed(), tappa.km, tappa.tipo, tappa.sosta, tappa.fineGiorno};
-    if (campi.numStrada.isEmpty() && Esiste(righe, riga - 1)) campi.numStrada = righe[Indice(riga - 1)].numStrada;
+    const bool strada = Esiste(righe, riga - 1) && !righe[Indice(riga - 1)].Traghetto();
+    if (campi.numStrada.isEmpty() && strada) campi.numStrada = righe[Indice(riga - 1)].numStrada;
     if (riga > 1 && !campi.tipo) campi.tipo = TipoStrada::Locale;
     return campi;
 }

@@ -31,7 +31,8 @@ struct CampiTappa {
     friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };
 
-/// The fields as a row shows them: a free row proposes the road of the row above; a row without type counts as local.
+/// The fields as a row shows them: a free row proposes the road of the row above, but no ferry; a row without type
+/// counts as local.
 CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga);
 
 /// Progressive kilometres of the row above, 0 where it has none.

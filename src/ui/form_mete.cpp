@@ -189,8 +189,11 @@ void FormMete::MettiIlFuoco(Comando dopo) {
             return copia_.Fuoco();
         case Comando::Cerca:
             return cmbRicercaTappa_->setFocus();
-        case Comando::Itinerario:
+        case Comando::Salva:
+            return viaggio_->FuocoSulCampoMancante();
         case Comando::Inserisce:
+            return inserimento_.FuocoDopoInserisce();
+        case Comando::Itinerario:
         case Comando::Aggiunge:
         case Comando::Cancella:
         case Comando::Ritorno:
@@ -214,7 +217,7 @@ QString FormMete::ScegliFile(FileChiesto quale) {
         case FileChiesto::Import:
             return ScegliFileDaImportare(*this);
         case FileChiesto::Export:
-            return ScegliFileDaEsportare(*this);
+            return ScegliFileDaEsportare(*this, postazione_.Su<schermata::Scambio>()->tavolo.FileProposto());
         case FileChiesto::Percorso:
             return ScegliFilePercorso(*this);
     }

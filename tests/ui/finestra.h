@@ -111,10 +111,6 @@ class FinestraTest : public testing::Test {
         Batti(testo);
     }
 
-    CartellaDiProva cartella_;
-    std::unique_ptr<FormMete> form_;
-
-  private:
     // A display gives the focus back to the window when its boxes are gone; the one of the tests has to be asked.
     void Attiva() {
         if (!form_->isVisible() || form_->isActiveWindow()) return;
@@ -122,6 +118,10 @@ class FinestraTest : public testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }
 
+    CartellaDiProva cartella_;
+    std::unique_ptr<FormMete> form_;
+
+  private:
     void GuardaDialogo() {
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialogo == nullptr || !dialogo->isVisible() || dialogo == servito_) return;

@@ -128,6 +128,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         p.resize(std::max<qsizetype>(p.size(), 4));
         voce->second.second(p);
         QCoreApplication::processEvents();
+        if (form_ != nullptr) Attiva();
         if (!annunci_.contains(verbo)) TuttoVenuto();
         Sorveglia();
     }

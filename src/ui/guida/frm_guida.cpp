@@ -119,6 +119,11 @@ CampiVoce FrmGuida::Campi() const {
     return {txtGDescr_->text(), cmbGTipo_->currentText(), cmbGH_->currentText().toInt(), cmbGM_->currentText().toInt()};
 }
 
+void FrmGuida::FuocoSulCampoMancante() {
+    if (txtGDescr_->text().trimmed().isEmpty()) return FuocoSullaDescrizione();
+    (cmbGTipo_->findText(cmbGTipo_->currentText()) < 0 ? cmbGTipo_ : cmbGH_)->setFocus();
+}
+
 void FrmGuida::FuocoSullaDescrizione() {
     txtGDescr_->setFocus();
     txtGDescr_->selectAll();

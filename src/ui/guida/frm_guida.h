@@ -25,6 +25,8 @@ class FrmGuida : public QGroupBox {
     /// What the fields hold, as it was typed.
     [[nodiscard]] CampiVoce Campi() const;
     void FuocoSullaDescrizione();
+    /// On what an entry that was refused lacks.
+    void FuocoSulCampoMancante();
     /// What Enter does where nothing was typed.
     [[nodiscard]] QPushButton& PulsanteFine() const { return *cmdFineInserimento_; }
 

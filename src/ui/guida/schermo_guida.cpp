@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <utility>
 
 #include "app/comandi_guida.h"
@@ -38,7 +39,11 @@ void SchermoGuida::Collega() {
         esegui_([this] { comandi::FineGuida(postazione_); });
         griglia_.setFocus();
     });
-    connect(&griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) { VaiAllaRiga(riga + 1); });
+    connect(&griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
+        // A question waits until the mouse has let the row go: the grid would select it afterwards.
+        if (!CampiCambiati()) return VaiAllaRiga(riga + 1);
+        QTimer::singleShot(0, this, [this, riga] { VaiAllaRiga(riga + 1); });
+    });
     connect(&griglia_, &QTableView::clicked, this, [this] {
         if (Tavolo()) riquadro_->FuocoSullaDescrizione();
     });
@@ -85,8 +90,9 @@ void SchermoGuida::Raccogli() {
 
 void SchermoGuida::Salva() {
     const CampiVoce campi = riquadro_->Campi();
-    Comanda([&](TavoloGuida& tavolo) { tavolo.SalvaRiga(campi); });
-    riquadro_->FuocoSullaDescrizione();
+    bool salvata = false;
+    Comanda([&](TavoloGuida& tavolo) { salvata = tavolo.SalvaRiga(campi); });
+    salvata ? riquadro_->FuocoSullaDescrizione() : riquadro_->FuocoSulCampoMancante();
 }
 
 bool SchermoGuida::StampaAperta() const { return stampa_ != nullptr && stampa_->Aperto(); }

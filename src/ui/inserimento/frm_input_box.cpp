@@ -92,6 +92,19 @@ QWidget* FrmInputBox::CreaCampi() {
     layout->addRow(NuovaEtichetta(u"E&ventuale sosta (in gg:hh:mm):"_s, *cmbSosta_[0]));
     soste->addWidget(chkEndDay_);
     layout->addRow(soste);
+    lblSuggerimenti_ = new QLabel;
+    lblSuggerimenti_->setObjectName(u"lblSuggerimenti"_s);
+    lblSuggerimenti_->setTextFormat(Qt::PlainText);
+    lblSuggerimenti_->setWordWrap(true);
+    lblSuggerimenti_->hide();
+    layout->addRow(lblSuggerimenti_);
+    for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) {
+        connect(casella, &QLineEdit::textChanged, this, &FrmInputBox::Cambiata);
+    }
+    for (QComboBox* elenco : {cmbTipoStrada_, cmbSosta_[0], cmbSosta_[1], cmbSosta_[2]}) {
+        connect(elenco, &QComboBox::currentTextChanged, this, &FrmInputBox::Cambiata);
+    }
+    connect(chkEndDay_, &QCheckBox::toggled, this, &FrmInputBox::Cambiata);
     return campi;
 }
 
@@ -147,6 +160,16 @@ CampiTappa FrmInputBox::Campi() const {
                    cmbSosta_[2]->currentText().toInt()};
     campi.fineGiorno = chkEndDay_->isChecked();
     return campi;
+}
+
+void FrmInputBox::MostraSuggerimenti(const QString& testo) {
+    lblSuggerimenti_->setText(testo);
+    lblSuggerimenti_->setVisible(!testo.isEmpty());
+}
+
+void FrmInputBox::FuocoSuiKm() {
+    txtKm_->setFocus();
+    txtKm_->selectAll();
 }
 
 void FrmInputBox::FuocoSullaTappa() {

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <array>
@@ -28,12 +29,17 @@ class FrmInputBox : public QGroupBox {
     void Applica(const StatoComandi& stato);
     /// What the controls hold, trimmed; kilometres that are no number are 0 and so marked.
     [[nodiscard]] CampiTappa Campi() const;
+    /// Beside the fields; nothing is shown for the empty text.
+    void MostraSuggerimenti(const QString& testo);
     void FuocoSullaTappa();
+    void FuocoSuiKm();
     /// The button of one of the itinerary's commands.
     [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
 
   Q_SIGNALS:
     void Premuto(Comando comando);
+    /// The fields hold something else.
+    void Cambiata();
 
   private:
     QWidget* CreaCampi();
@@ -47,6 +53,7 @@ class FrmInputBox : public QGroupBox {
     std::array<QComboBox*, 3> cmbSosta_{};
     QCheckBox* chkEndDay_;
     QCheckBox* chkKm_;
+    QLabel* lblSuggerimenti_ = nullptr;
     std::array<QPushButton*, kComandi> pulsanti_{};
 };
 

@@ -2,6 +2,7 @@
 
 #include "app/comandi_inserimento.h"
 #include "calendar/testo.h"
+#include "itinerary/suggerimenti.h"
 
 namespace cronovia {
 
@@ -26,6 +27,7 @@ SchermoInserimento::SchermoInserimento(Postazione& postazione, ElencoScelta& ele
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->setMinimumWidth(riquadro_->minimumSizeHint().width() + 20);
     area_->setObjectName(u"areaInserimento"_s);
+    connect(riquadro_, &FrmInputBox::Cambiata, this, &SchermoInserimento::MostraSuggerimenti);
     connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         if (!postazione_.Su<schermata::Inserimento>()) return;
         esegui_([&] { comandi::ScegliTappa(postazione_, voce->data(Qt::UserRole).toInt()); });
@@ -71,6 +73,25 @@ void SchermoInserimento::MostraElenco(bool aperto) {
         }
     }
     elenco_.setVisible(aperto);
+}
+
+void SchermoInserimento::MostraSuggerimenti() {
+    const Documento& documento = postazione_.documento;
+    QStringList testi;
+    for (const Suggerimento suggerimento :
+         SuggerimentiTappa(riquadro_->Campi(), documento.RigaCorrente(), documento.Campi().parametri,
+                           documento.Riepilogo().guidaGiorno)) {
+        testi += Testo(suggerimento);
+    }
+    riquadro_->MostraSuggerimenti(testi.join(u'\n'));
+}
+
+// A refused stage is put right where the refusal said.
+void SchermoInserimento::FuocoDopoInserisce() {
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    const bool rifiutata = inserimento != nullptr && inserimento->campi != inserimento->proposti;
+    if (rifiutata && !inserimento->campi.localita.isEmpty()) return riquadro_->FuocoSuiKm();
+    FuocoSullaTappa();
 }
 
 void SchermoInserimento::FuocoSullaTappa() {

@@ -27,6 +27,8 @@ class SchermoInserimento : public QObject {
     void Mostra(const StatoComandi& stato);
     /// Puts the focus on the place to be typed, while stages are entered.
     void FuocoSullaTappa();
+    /// The same after a stage was written; when it was refused, on what is wrong.
+    void FuocoDopoInserisce();
 
   private:
     // What was last put into the frame.
@@ -36,6 +38,7 @@ class SchermoInserimento : public QObject {
         std::optional<bool> progressivi;
     };
     void MostraElenco(bool aperto);
+    void MostraSuggerimenti();
 
     Postazione& postazione_;
     ElencoScelta& elenco_;

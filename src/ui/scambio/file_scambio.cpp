@@ -31,10 +31,11 @@ QString ScegliFileDaImportare(QWidget& finestra) {
 }
 
 // Whether an existing file may be replaced is asked by the command.
-QString ScegliFileDaEsportare(QWidget& finestra) {
+QString ScegliFileDaEsportare(QWidget& finestra, const QString& proposto) {
     QFileDialog dialogo(&finestra, u"Export mete"_s, {}, Filtro());
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setDefaultSuffix(u"iei"_s);
+    dialogo.selectFile(proposto);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }

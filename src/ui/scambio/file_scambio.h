@@ -10,7 +10,7 @@ namespace cronovia {
 
 /// Ask for a file; the empty text when the person wants none.
 QString ScegliFileDaImportare(QWidget& finestra);
-QString ScegliFileDaEsportare(QWidget& finestra);
+QString ScegliFileDaEsportare(QWidget& finestra, const QString& proposto);
 
 /// Tells of exchange files that are dropped anywhere on a window, or that the desktop wants the program to open.
 class RicezioneFile : public QObject {

@@ -62,7 +62,7 @@ QVariant ModelloMete::data(const QModelIndex& index, int role) const {
         case Num:
             return numeri_[static_cast<std::size_t>(index.row())];
         case Meta:
-            return meta.localita;
+            return meta.presente ? meta.localita + u" (già presente)"_s : meta.localita;
         case Nazione:
             return meta.nazione;
         default:

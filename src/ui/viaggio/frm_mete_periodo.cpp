@@ -188,6 +188,12 @@ void FrmMetePeriodo::Leggi(Meta& meta) const {
     meta.parametri.calcoloSoste = static_cast<CalcoloSoste>(cmbSoste_->currentIndex() + 1);
 }
 
+void FrmMetePeriodo::FuocoSulCampoMancante() {
+    for (QLineEdit* casella : {txtLocalita_, txtNazione_}) {
+        if (casella->text().trimmed().isEmpty()) return casella->setFocus();
+    }
+}
+
 void FrmMetePeriodo::FuocoSullaLocalita() { txtLocalita_->setFocus(); }
 
 }  // namespace cronovia

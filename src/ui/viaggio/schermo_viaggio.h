@@ -26,6 +26,7 @@ class SchermoViaggio : public QWidget {
     void Mostra(bool liberi);
     /// Takes over and checks the field that is being filled in, as if it had been left; true when others changed by it.
     bool ConcludiIlCampo();
+    void FuocoSulCampoMancante() { periodo_->FuocoSulCampoMancante(); }
     void FuocoSullaLocalita() { periodo_->FuocoSullaLocalita(); }
 
   Q_SIGNALS:

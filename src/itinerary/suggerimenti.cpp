@@ -1,0 +1,40 @@
+#include "itinerary/suggerimenti.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool OltreIlGiorno(const CampiTappa& campi, const ParametriViaggio& parametri, Centesimi guidaGiorno) {
+    const int media = parametri.mediaKm[Indice(campi.tipo.value_or(TipoStrada::Locale))];
+    return media > 0 && guidaGiorno > 0_cent && TempoDiGuida(campi.km, media) > guidaGiorno;
+}
+
+}  // namespace
+
+std::vector<Suggerimento> SuggerimentiTappa(const CampiTappa& campi, int riga, const ParametriViaggio& parametri,
+                                            Centesimi guidaGiorno) {
+    std::vector<Suggerimento> suggerimenti;
+    if (riga <= 1 || campi.localita.isEmpty()) return suggerimenti;
+    const bool traghetto = campi.numStrada.contains("TRAGH"_L1);
+    const bool sosta = !campi.sosta.Nulla();
+    if (traghetto && campi.km == 0 && !sosta) suggerimenti.push_back(Suggerimento::TraghettoSenzaTempo);
+    if (campi.fineGiorno && !sosta && !traghetto) suggerimenti.push_back(Suggerimento::FineGiornoSenzaSosta);
+    if (OltreIlGiorno(campi, parametri, guidaGiorno)) suggerimenti.push_back(Suggerimento::TrattaOltreIlGiorno);
+    return suggerimenti;
+}
+
+QString Testo(Suggerimento suggerimento) {
+    switch (suggerimento) {
+        case Suggerimento::TraghettoSenzaTempo:
+            return u"Un traghetto senza chilometri e senza sosta non richiede tempo."_s;
+        case Suggerimento::FineGiornoSenzaSosta:
+            return u"«Fine giornata» non ha effetto senza una sosta o un traghetto."_s;
+        case Suggerimento::TrattaOltreIlGiorno:
+            return u"La tratta è più lunga di una giornata di guida."_s;
+    }
+    return {};
+}
+
+}  // namespace cronovia
