@@ -87,6 +87,7 @@ class Convertitore {
   private:
     void ConvertiMete(const QString& path);
     void CopiaDatabase(const QString& copia, const QString& path);
+    bool CambiaMeteMemorizzate(const QString& copia, const QString& path);
     void ConvertiMeta(const RecordFisso& record);
     void ConvertiItinerari();
     void ConvertiItinerario(const QString& codice, const QString& nome);
@@ -100,6 +101,7 @@ class Convertitore {
     }
     void Lascia(const QString& nome, const QString& perche) { esito_.lasciati.push_back({nome, perche}); }
     void LasciaUltimo(const QString& nome) { Lascia(nome, u"l'ultimo record è troncato e non è stato convertito"_s); }
+    void TieniCopiaDatabase();
     void CancellaConvertiti();
 
     Archive& archive_;
@@ -107,6 +109,7 @@ class Convertitore {
     std::vector<QString> predefiniti_;  // all fields of a new trip
     Progress& progress_;
     EsitoConversione esito_;
+    QString copiaDatabase_;              // path of the copy that may be needed
     QSet<QString> convertite_;           // codes of the trips
     std::vector<QString> daCancellare_;  // in this order
 };
@@ -124,6 +127,7 @@ EsitoConversione Convertitore::Esegui() {
         transaction.Commit();
     }
     file_.Tieni();
+    TieniCopiaDatabase();
     if (guida) daCancellare_.push_back(*guida);
     daCancellare_.push_back(*mete);
     CancellaConvertiti();
@@ -167,19 +171,27 @@ void Convertitore::ConvertiMete(const QString& path) {
     });
 }
 
-// Before anything is written, when something stored is going to change.
+// Before anything is written, when a stored trip may change.
 void Convertitore::CopiaDatabase(const QString& copia, const QString& path) {
+    if (!CambiaMeteMemorizzate(copia, path)) return;
+    copiaDatabase_ = file_.PostoPerDatabase(u"VandroCronovia.mdb"_s);
+    archive_.CopyTo(copiaDatabase_);
+}
+
+// A trip changes when one of its number comes, or when there are stages for it.
+bool Convertitore::CambiaMeteMemorizzate(const QString& copia, const QString& path) {
+    const std::vector<QString> codici = CodiciDelleMete(archive_);
+    if (std::any_of(codici.begin(), codici.end(),
+                    [&](const QString& codice) { return file_.Trova(NomeVecchieTappe(codice)).has_value(); }))
+        return true;
     const std::unique_ptr<QFile> file = ApriInLettura(copia);
     LettoreRecord lettore(*file, FormaVecchieMete(), path);
     RecordFisso record;
     while (lettore.Leggi(record)) {
         HeedStop(progress_);
-        if (StatoVecchiaMeta(record) != StatoRecord::Valido || !Memorizzata(CodiceVecchiaMeta(record))) continue;
-        const QString posto = file_.PostoPerDatabase(u"VandroCronovia.mdb"_s);
-        archive_.CopyTo(posto);
-        esito_.copiaDatabase = QFileInfo(posto).fileName();
-        return;
+        if (StatoVecchiaMeta(record) == StatoRecord::Valido && Memorizzata(CodiceVecchiaMeta(record))) return true;
     }
+    return false;
 }
 
 void Convertitore::ConvertiMeta(const RecordFisso& record) {
@@ -227,6 +239,10 @@ void Convertitore::ConvertiItinerario(const QString& codice, const QString& nome
     const QString copia = file_.Copia(*path);
     const VecchieTappe lette = LeggiVecchieTappe(copia);
     if (lette.difetto.isEmpty()) {
+        if (!convertite_.contains(codice) && !lette.tappe.empty()) {
+            const QString localita = Memorizzata(codice).value()[mete::Localita].trimmed();
+            esito_.meteSostituite.push_back({codice, localita, u"con le tappe di "_s + nome});
+        }
         MemorizzaTappe(codice, lette.tappe);
         esito_.guasti += lette.guasti;
         esito_.tappeSaltate += lette.saltate;
@@ -277,6 +293,16 @@ void Convertitore::MemorizzaVoce(const std::vector<QString>& valori, NomiPresent
     }
     presenti.Scritta(*id, valori);
     ++esito_.voci;
+}
+
+// The files told of a change that did not come when none of them could be read.
+void Convertitore::TieniCopiaDatabase() {
+    if (copiaDatabase_.isEmpty()) return;
+    if (esito_.meteSostituite.empty()) {
+        file_.Togli(copiaDatabase_);
+    } else {
+        esito_.copiaDatabase = QFileInfo(copiaDatabase_).fileName();
+    }
 }
 
 // What happened is in the archive already: a file that stays is told, and harms nobody.

@@ -32,11 +32,12 @@ struct EsitoConversione {
         QString campo;
     };
     std::vector<CampoSostituito> campiSostituiti;
-    /// A stored trip in whose place one of the same number came.
+    /// A stored trip in whose place one of the same number came, or one that is none of the old files but got stages
+    /// from one of them.
     struct MetaSostituita {
         QString codice;
         QString prima;
-        QString adesso;
+        QString adesso;  ///< the destination that came, or whose stages it has now
     };
     std::vector<MetaSostituita> meteSostituite;
     QString copiaDatabase;  ///< name of the copy in the folder of the copies; when a trip was replaced

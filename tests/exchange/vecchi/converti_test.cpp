@@ -133,6 +133,8 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAfterACopyAndTheRestStay
     mia[mete::CodiceMeta] = u"000007"_s;
     archive_.Insert(Table::MeteVandro, mia);
     Inserisci(archive_, Table::MeteVandro, {u"010007"_s, u"LONTANA"_s});
+    Inserisci(archive_, Table::MeteVandro, {u"000009"_s, u"SOLO QUI"_s});
+    Inserisci(archive_, Table::Itinerari, {u"000009"_s, u"0001"_s, u"MIA"_s});
     archive_.Insert(Table::Itinerari, std::vector<QString>{u"000007"_s, u"0001"_s, u"X"_s, u"1"_s, u"x"_s, u"A"_s,
                                                            u"00:01:00"_s, u"00:02:00"_s, u"1"_s});
     Inserisci(archive_, Table::Itinerari, {u"000007"_s, u"0002"_s, u"RESTA"_s});
@@ -140,16 +142,18 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAfterACopyAndTheRestStay
     const QStringList prima = prova::Tutto(archive_);
     Scrivi(u"VandMete.dat"_s, Vecchia("PROVENZA", "0007") + Vecchia("NUOVA", "8"));
     Scrivi(u"vand0007.dat"_s, Tappe("1|1\nAIX|98|A"));
+    Scrivi(u"vand0009.dat"_s, Tappe("1|1\nBRA|7|P"));
     Scrivi(u"VandGuid.dat"_s, Voce("L\"AQUILA|2|FONTANA|0030|0"));
     const QString testo = TestoEsito(Converti());
     EXPECT_TRUE(
         testo.contains(u"Mète sostituite (il database com'era prima è VandroCronovia.mdb, con le copie):\r\n"
-                       "000007 9: ora PROVENZA\r\n\r\nFile"_s))
+                       "000007 9: ora PROVENZA\r\n000009 SOLO QUI: ora con le tappe di vand0009.dat\r\n\r\nFile"_s))
         << testo.toStdString();
     EXPECT_THAT(LeMete().first(), ::testing::Eq(u"000007|PROVENZA|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|"
                                                 "1930|0130|2200|15|02|01|07|0900|1830|9|9|9"_s));
-    EXPECT_THAT(LeTappe(), ElementsAre(u"000007|0001|AIX|98| |A| |00:02:00|0"_s, u"000007|0002|RESTA| | | | | | "_s));
-    EXPECT_EQ(LeMete().size(), 3);
+    EXPECT_THAT(LeTappe(), ElementsAre(u"000009|0001|BRA|7| |P| | |0"_s, u"000007|0001|AIX|98| |A| |00:02:00|0"_s,
+                                       u"000007|0002|RESTA| | | | | | "_s));
+    EXPECT_EQ(LeMete().size(), 4);
     Archive copia = Archive::Open(cartella_.Percorso() + u'/' + copie_);
     EXPECT_EQ(prova::Tutto(copia), prima);
 }
@@ -191,6 +195,8 @@ TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
     const QByteArray diversi = Tappe("2|3\nAIX|98|A\nNIZZA|5|A");
     Scrivi(u"VandMete.dat"_s, Vecchia("UNO", "1") + Vecchia("DUE", "2") + Vecchia("TRE", "3") + Vecchia("SEI", "6") +
                                   Vecchia("NOVE", "9") + Vecchia("DIECI", "10") + Vecchia("SENZA NUMERO", "x"));
+    Inserisci(archive_, Table::MeteVandro, {u"000004"_s, u"MIA"_s});
+    Scrivi(u"vand0004.dat"_s, "ciao");
     Scrivi(u"vand0001.dat"_s, diversi);
     Scrivi(u"vand0002.dat"_s, Tappe("9|9\nAIX|98|A"));
     Scrivi(u"vand0003.dat"_s, "ciao");
@@ -202,13 +208,15 @@ TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
                        "vand0001.dat: i due numeri delle tappe non sono uguali\r\n"
                        "vand0002.dat: ha meno tappe di quante ne annuncia\r\n"
                        "vand0003.dat: è troncato o non ha record di 64 caratteri\r\n"
+                       "vand0004.dat: è troncato o non ha record di 64 caratteri\r\n"
                        "vand0006.dat: non c'è\r\n"
                        "vand0009.dat: nessuna delle sue tappe è leggibile\r\n\r\n"
                        "Record illeggibili, non convertiti: 3"_s))
         << testo.toStdString();
     EXPECT_THAT(LeTappe(), ElementsAre(u"000010|0001|AIX|1| |A| | |0"_s));
-    EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"vand0001.dat"_s,
-                                                   u"vand0002.dat"_s, u"vand0003.dat"_s, u"vand0009.dat"_s));
+    EXPECT_THAT(cartella_.Contenuto(),
+                ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"vand0001.dat"_s, u"vand0002.dat"_s, u"vand0003.dat"_s,
+                            u"vand0004.dat"_s, u"vand0009.dat"_s));
     EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/vand0001.dat"_s), diversi);
     EXPECT_EQ(QDir(cartella_.Percorso() + u'/' + copie_).entryList(QDir::Files),
               (QStringList{u"vand0010.dat"_s, u"VandMete.dat"_s}));
