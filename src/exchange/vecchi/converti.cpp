@@ -35,13 +35,15 @@ NamePattern Codice(const QString& codice) { return NamePattern::Exactly(codice);
 // The stages of one trip by their sequence.
 struct VecchieTappe {
     std::map<QString, std::vector<QString>> tappe;
-    QString difetto;  // why the file cannot be converted
+    QString difetto;   // why the file cannot be converted
+    QString troncato;  // what a file that ends too early brings all the same; else empty
     qint64 guasti = 0;
     qint64 saltate = 0;
-    bool troncato = false;
 };
 
-VecchieTappe Difettose(const QString& difetto) { return {{}, difetto, 0, 0, false}; }
+VecchieTappe Difettose(const QString& difetto) { return {{}, difetto, {}, 0, 0}; }
+
+QString UltimoTroncato() { return u"l'ultimo record è troncato e non è stato convertito"_s; }
 
 // A trip that starts now, with the personal parameters.
 std::vector<QString> Predefiniti(Archive& archive, const QDateTime& adesso) {
@@ -63,7 +65,11 @@ VecchieTappe LeggiVecchieTappe(const QString& path) {
     if (lettore.NumeroRecord() - 1 < *annunciate && !lettore.Troncato())
         return Difettose(u"ha meno tappe di quante ne annuncia"_s);
     VecchieTappe lette;
-    lette.troncato = lettore.Troncato();
+    if (const qint64 intere = lettore.NumeroRecord() - 1; intere < *annunciate) {
+        lette.troncato = u"è troncato: contiene solo %1 di %2 tappe"_s.arg(Raggruppa(intere), Raggruppa(*annunciate));
+    } else if (lettore.Troncato()) {
+        lette.troncato = UltimoTroncato();
+    }
     for (int numero = 1; numero <= *annunciate && lettore.Leggi(record); ++numero) {
         const StatoRecord stato = StatoVecchiaTappa(record);
         if (stato == StatoRecord::Valido) lette.tappe[Zero(numero, 4)] = ValoriVecchiaTappa(record);
@@ -100,7 +106,6 @@ class Convertitore {
         return archive_.SelectFirst({Table::MeteVandro, {{mete::CodiceMeta, Codice(codice)}}});
     }
     void Lascia(const QString& nome, const QString& perche) { esito_.lasciati.push_back({nome, perche}); }
-    void LasciaUltimo(const QString& nome) { Lascia(nome, u"l'ultimo record è troncato e non è stato convertito"_s); }
     void TieniCopiaDatabase();
     void CancellaConvertiti();
 
@@ -157,7 +162,7 @@ void Convertitore::ScorriRecord(const QString& path, const FormaRecord& forma, V
             QDir::toNativeSeparators(path)));
     }
     esito_.guasti += guasti;
-    if (lettore.Troncato()) LasciaUltimo(QFileInfo(path).fileName());
+    if (lettore.Troncato()) Lascia(QFileInfo(path).fileName(), UltimoTroncato());
 }
 
 void Convertitore::ConvertiMete(const QString& path) {
@@ -246,7 +251,7 @@ void Convertitore::ConvertiItinerario(const QString& codice, const QString& nome
         MemorizzaTappe(codice, lette.tappe);
         esito_.guasti += lette.guasti;
         esito_.tappeSaltate += lette.saltate;
-        if (lette.troncato) LasciaUltimo(nome);
+        if (!lette.troncato.isEmpty()) Lascia(nome, lette.troncato);
         daCancellare_.push_back(*path);
     } else {
         Lascia(nome, lette.difetto);

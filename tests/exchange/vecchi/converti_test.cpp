@@ -159,18 +159,20 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAfterACopyAndTheRestStay
 }
 
 TEST_F(Conversione, WholeRecordsBeforeATornOneAreConverted) {
-    Scrivi(u"VandMete.dat"_s, Vecchia("ROMA", "1") + Vecchia("PISA", "2").left(60));
-    Scrivi(u"vand0001.dat"_s, Tappe("3|3\nAIX|98|A\nMETZ|7|P\nNIZZA|5|A").chopped(40));
+    Scrivi(u"VandMete.dat"_s, Vecchia("ROMA", "1") + Vecchia("BARI", "3") + Vecchia("PISA", "2").left(60));
+    Scrivi(u"vand0001.dat"_s, Tappe("10|10\nAIX|98|A\nMETZ|7|P\nNIZZA|5|A").chopped(40));
+    Scrivi(u"vand0003.dat"_s, Tappe("1|1\nAIX|98|A\nMETZ|7|P").chopped(40));
     Scrivi(u"VandGuid.dat"_s, Voce("AIX|2|Cours Mirabeau|0130|0") + "x");
     const QString testo = TestoEsito(Converti());
     EXPECT_TRUE(
         testo.endsWith(u"File da controllare:\r\n"
                        "VandMete.dat: l'ultimo record è troncato e non è stato convertito\r\n"
-                       "vand0001.dat: l'ultimo record è troncato e non è stato convertito\r\n"
+                       "vand0001.dat: è troncato: contiene solo 2 di 10 tappe\r\n"
+                       "vand0003.dat: l'ultimo record è troncato e non è stato convertito\r\n"
                        "VandGuid.dat: l'ultimo record è troncato e non è stato convertito"_s))
         << testo.toStdString();
-    EXPECT_EQ(LeMete().size(), 1);
-    EXPECT_EQ(LeTappe().size(), 2);
+    EXPECT_EQ(LeMete().size(), 2);
+    EXPECT_EQ(LeTappe().size(), 3);
     EXPECT_EQ(LaGuida().size(), 1);
     EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_));
 }
