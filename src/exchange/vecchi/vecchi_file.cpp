@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "files/file_intero.h"
 #include "files/lettore_righe.h"
@@ -35,6 +36,8 @@ bool Uguali(QFile& a, QFile& b) {
     return a.atEnd() && b.atEnd();
 }
 
+QString Numerato(const QString& nome, int numero) { return nome + u" (%1)"_s.arg(numero); }
+
 }  // namespace
 
 bool CiSonoVecchiFile(const QString& cartella) { return NomiDei(cartella).contains(NomeVecchieMete().toLower()); }
@@ -58,8 +61,19 @@ std::optional<QString> VecchiFile::Trova(const QString& nome) const {
     return QDir(cartella_).filePath(*trovato);
 }
 
+// Whether a folder that was left holds copies of other files under the names of those of now.
+bool VecchiFile::TieneAltro(const QString& copie) const {
+    return std::any_of(nomi_.begin(), nomi_.end(), [&](const QString& nome) {
+        QFile file(QDir(cartella_).filePath(nome));
+        QFile copia(QDir(copie).filePath(nome));
+        return copia.exists() && !Uguali(file, copia);
+    });
+}
+
 void VecchiFile::CreaCartella() {
-    const QString cartella = QDir(cartella_).filePath(u"Vecchi file in corso"_s);
+    const QString nome = QDir(cartella_).filePath(u"Vecchi file in corso"_s);
+    QString cartella = nome;
+    for (int numero = 2; TieneAltro(cartella); ++numero) cartella = Numerato(nome, numero);
     if (!QDir().mkpath(cartella)) {
         throw Failure(
             u"La cartella %1 per le copie dei vecchi file non si può creare: niente è stato convertito."_s.arg(
@@ -78,7 +92,7 @@ void VecchiFile::Concludi() {
 // With a number before what comes behind the name, when there is such a file already.
 QString VecchiFile::NomeLibero(const QString& nome, const QString& dopo) {
     QString libero = nome + dopo;
-    for (int numero = 2; QFileInfo::exists(libero); ++numero) libero = nome + u" (%1)"_s.arg(numero) + dopo;
+    for (int numero = 2; QFileInfo::exists(libero); ++numero) libero = Numerato(nome, numero) + dopo;
     return libero;
 }
 

@@ -19,7 +19,7 @@ QString NomeVecchieTappe(const QString& codiceMeta);
 
 /// Each file is copied into a folder of its own and read from there: it may change meanwhile. Unless they are kept, the
 /// copies go with the object. The folder is named by date and time at the very end; one that was left by a conversion
-/// that did not come so far is gone on with.
+/// that did not come so far is gone on with, unless it holds copies of other files under the same names.
 class VecchiFile {
   public:
     VecchiFile(const QString& cartella, const QDateTime& adesso);
@@ -50,6 +50,7 @@ class VecchiFile {
 
   private:
     void CreaCartella();
+    [[nodiscard]] bool TieneAltro(const QString& copie) const;
     static QString NomeLibero(const QString& nome, const QString& dopo = {});
     [[nodiscard]] QString FileDellaCopia(const QString& path) const;
 

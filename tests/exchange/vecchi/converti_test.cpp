@@ -178,19 +178,27 @@ TEST_F(Conversione, WholeRecordsBeforeATornOneAreConverted) {
 }
 
 // Killed: the copies lie in a folder that has no name yet, some files may be gone already.
-TEST_F(Conversione, AFolderLeftHalfWayIsGoneOnWith) {
+TEST_F(Conversione, AFolderLeftHalfWayIsGoneOnWithUnlessItHoldsOtherFiles) {
     const QString inCorso = cartella_.Percorso() + u"/Vecchi file in corso"_s;
     ASSERT_TRUE(QDir().mkpath(inCorso));
     ScriviFile(inCorso + u"/VandGuid.dat"_s, "prezioso");
-    ScriviFile(inCorso + u"/VandMete.dat"_s, "a metà");
+    ScriviFile(inCorso + u"/VandMete.dat"_s, Vecchia("ROMA", "1"));
     Scrivi(u"VandMete.dat"_s, Vecchia("ROMA", "1"));
     prova::Fermata fermata;
     Converti(fermata);
     EXPECT_EQ(QDir(inCorso).entryList(QDir::Files), QStringList{u"VandGuid.dat"_s});
     Converti();
     EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_));
-    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VandGuid.dat"_s), "prezioso");
-    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VandMete.dat"_s), Vecchia("ROMA", "1"));
+    const QString copie = cartella_.Percorso() + u'/' + copie_;
+    EXPECT_EQ(LeggiFile(copie + u"/VandGuid.dat"_s), "prezioso");
+    EXPECT_EQ(LeggiFile(copie + u"/VandMete.dat"_s), Vecchia("ROMA", "1"));
+
+    ASSERT_TRUE(QDir().rename(copie, inCorso));
+    Scrivi(u"VandMete.dat"_s, Vecchia("PISA", "2"));
+    Converti();
+    EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"Vecchi file in corso"_s));
+    EXPECT_EQ(LeggiFile(inCorso + u"/VandMete.dat"_s), Vecchia("ROMA", "1"));
+    EXPECT_EQ(LeggiFile(copie + u"/VandMete.dat"_s), Vecchia("PISA", "2"));
 }
 
 TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
