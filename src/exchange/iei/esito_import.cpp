@@ -41,7 +41,7 @@ QString Differenze(const EsitoImport& esito) {
     conta(u"mète non inserite perché senza località o senza un codice valido"_s, esito.meteIncomplete);
     conta(u"mète non inserite perché hanno più di 9.999 tratti stradali"_s, esito.meteTroppoLunghe);
     conta(u"date d'inizio fuori dal loro mese, corrette"_s, esito.dateCorrette);
-    conta(u"date d'inizio illeggibili, lasciate vuote"_s, esito.dateIlleggibili);
+    conta(u"date d'inizio mancanti o illeggibili, lasciate vuote"_s, esito.dateIlleggibili);
     conta(u"soste che non sono una durata, non inserite"_s, esito.sosteRifiutate);
     conta(u"tratti stradali non inseriti perché la loro mèta non è nel file o non è stata inserita"_s,
           esito.tappeSenzaMeta);

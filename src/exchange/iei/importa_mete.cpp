@@ -33,8 +33,9 @@ QString Adattato(const QString& valore, const FieldDefinition& campo) { return v
 
 class Importatore {
   public:
-    Importatore(Archive& archive, MappaCodici& codici)
+    Importatore(Archive& archive, const LettoreIei& lettore, MappaCodici& codici)
         : archive_(archive),
+          lettore_(lettore),
           codici_(codici),
           mete_(archive, Table::MeteVandro, {mete::Localita}),
           tappe_(archive, Table::Itinerari, {itinerari::Localita}),
@@ -64,6 +65,7 @@ class Importatore {
     void Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti);
 
     Archive& archive_;
+    const LettoreIei& lettore_;
     MappaCodici& codici_;
     NomiPresenti mete_;
     NomiPresenti tappe_;
@@ -98,7 +100,7 @@ void Importatore::ImportaMeta(RigaIei& riga) {
 }
 
 void Importatore::AggiustaData(QString& data) {
-    if (data.isEmpty() || LeggiData(data)) return;
+    if (LeggiData(data) || !lettore_.HaCampo(Table::MeteVandro, mete::DataInizio)) return;
     const std::optional<NumeroGiorno> vicino = LeggiPartiData(data).Giorno();
     ++(vicino ? esito_.dateCorrette : esito_.dateIlleggibili);
     data = vicino ? DataMemorizzata(*vicino) : QString();
@@ -183,7 +185,7 @@ Lettura LetturaPerImport(std::optional<Table> solo) { return {solo, u"Importazio
 EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& device, Progress& progress) {
     device.seek(0);
     LettoreIei lettore(device, LetturaPerImport(std::nullopt), progress);
-    Importatore importatore(archive, codici);
+    Importatore importatore(archive, lettore, codici);
     RigaIei riga;
     while (lettore.Leggi(riga)) {
         importatore.Importa(riga);

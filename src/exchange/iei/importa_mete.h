@@ -39,7 +39,7 @@ struct EsitoImport {
     qint64 tappeSenzaMeta = 0;    ///< stages of no trip of the file
     qint64 meteTroppoLunghe = 0;  ///< trips of more than 9,999 stages; left out with them
     qint64 dateCorrette = 0;      ///< of the trips added: days outside their month, now its first or last one
-    qint64 dateIlleggibili = 0;   ///< that are no date at all; stored as one blank
+    qint64 dateIlleggibili = 0;   ///< that are no date at all, or empty under their heading; stored as one blank
     qint64 sosteRifiutate = 0;    ///< that are no duration, negative ones among them; stored as one blank
     ScartiLettura lettura;
 

@@ -61,6 +61,11 @@ bool LettoreIei::Leggi(RigaIei& riga) {
 
 const LettoreIei::MappaColonne& LettoreIei::Mappa(Table tabella) const { return mappe_.at(Numero(tabella)); }
 
+bool LettoreIei::HaCampo(Table tabella, int campo) const {
+    const MappaColonne& mappa = Mappa(tabella);
+    return std::find(mappa.begin(), mappa.end(), campo) != mappa.end();
+}
+
 // A line with the bytes of several sections belongs to the last of them, one without any to the section before it.
 bool LettoreIei::CambiaSezione(QByteArrayView testo) {
     const std::optional<Table> prima = sezione_;

@@ -51,6 +51,8 @@ class LettoreIei {
 
     /// Whether the field names of the section were met.
     [[nodiscard]] bool Conosce(Table tabella) const { return !Mappa(tabella).empty(); }
+    /// Whether the field is among those of the section's present head.
+    [[nodiscard]] bool HaCampo(Table tabella, int campo) const;
     [[nodiscard]] const ScartiLettura& Scarti() const { return scarti_; }
 
   private:

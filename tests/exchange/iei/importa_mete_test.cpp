@@ -157,7 +157,7 @@ TEST_F(Import, DatesAndStopsThatAreNoneArePutRightAndTold) {
     EXPECT_THAT(soste, ElementsAre(u" "_s, u"1:30"_s, u" "_s, u"01:02:03"_s));
     EXPECT_TRUE(
         TestoEsito(esito).endsWith(u"date d'inizio fuori dal loro mese, corrette: 2;\r\n"
-                                   "date d'inizio illeggibili, lasciate vuote: 2;\r\n"
+                                   "date d'inizio mancanti o illeggibili, lasciate vuote: 3;\r\n"
                                    "soste che non sono una durata, non inserite: 2."_s))
         << TestoEsito(esito).toStdString();
 }
