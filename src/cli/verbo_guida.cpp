@@ -33,6 +33,9 @@ TabellaTesti TabellaDellaGuida(const std::vector<Record>& record, const std::vec
     return tabella;
 }
 
+// What holds control characters is meant as it stands: entries from elsewhere may have them.
+QString SenzaBlankInutili(const QString& testo) { return HaCaratteriDiControllo(testo) ? testo : testo.simplified(); }
+
 // A visit takes as long as the lists of the guide's screen can say.
 constexpr int kMassimeOreVisita = 15;
 constexpr int kPassoMinutiVisita = 15;
@@ -44,10 +47,9 @@ struct Annotazione {
 };
 
 Annotazione LeggiAnnotazione(const QStringList& argomenti) {
-    Annotazione letta{Composto(argomenti.at(0)).simplified().toUpper(),
-                      {Composto(argomenti.at(2)).simplified(), Composto(argomenti.at(1)).simplified(), 0, 0}};
+    const auto testo = [&](qsizetype i) { return SenzaBlankInutili(Composto(argomenti.at(i))); };
+    Annotazione letta{testo(0).toUpper(), {testo(2), testo(1), 0, 0}};
     if (letta.localita.isEmpty()) throw WrongUsage(u"Manca la località."_s);
-    for (const QString& argomento : argomenti) RifiutaCaratteriDiControllo(u"L'annotazione"_s, argomento);
     if (argomenti.size() < 4) return letta;
     static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);
     const QRegularExpressionMatch tempo = forma.match(argomenti.at(3).trimmed());
@@ -85,6 +87,7 @@ void ControllaMostra(const Richiesta& richiesta) {
 void Aggiungi(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     ControllaArgomenti(richiesta, 3, 4,
                        u"Con --aggiungi si scrive: guida --aggiungi LOCALITA TIPO DESCRIZIONE [hh:mm]."_s);
+    for (const QString& argomento : richiesta.argomenti) RifiutaCaratteriDiControllo(u"L'annotazione"_s, argomento);
     const Annotazione nuova = LeggiAnnotazione(richiesta.argomenti);
     Sessione sessione = apri();
     SalvaVoce(sessione.Archivio(), nuova.localita, std::nullopt, CaricaTipiGuida(sessione.Archivio()), nuova.campi);
