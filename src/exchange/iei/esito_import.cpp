@@ -3,6 +3,7 @@
 
 #include "calendar/testo.h"
 #include "exchange/iei/importa_mete.h"
+#include "exchange/nomi_campi.h"
 
 namespace cronovia {
 
@@ -28,13 +29,7 @@ QString Differenze(const EsitoImport& esito) {
     const auto conta = [&](const QString& cosa, qint64 quanti) {
         if (quanti > 0) righe += cosa + u": "_s + Raggruppa(quanti);
     };
-    for (const auto& [campo, quanti] : esito.accorciati) {
-        const TableDefinition& tabella = Definition(campo.first);
-        const FieldDefinition& definizione = tabella.fields.at(static_cast<std::size_t>(campo.second));
-        conta(u"valori accorciati alla larghezza %1 del campo %2 di %3"_s.arg(QString::number(definizione.width),
-                                                                              definizione.name, tabella.name),
-              quanti);
-    }
+    for (const auto& [campo, quanti] : esito.accorciati) conta(CampoAccorciato(campo.first, campo.second), quanti);
     conta(
         u"mète non inserite perché il loro codice è ripetuto nel file (i loro tratti stanno con quelli della prima)"_s,
         esito.codiciRipetuti);

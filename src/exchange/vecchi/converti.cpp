@@ -14,6 +14,7 @@
 #include "calendar/date.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
+#include "exchange/nomi_campi.h"
 #include "exchange/nomi_presenti.h"
 #include "exchange/vecchi/vecchi_file.h"
 #include "exchange/vecchi/vecchi_record.h"

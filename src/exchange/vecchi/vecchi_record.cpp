@@ -118,34 +118,6 @@ VecchiaMeta LeggiVecchiaMeta(const RecordFisso& record, std::span<const QString>
     return meta;
 }
 
-QString NomeCampoMeta(mete::Field campo) {
-    static const std::array<QString, mete::kCampi> nomi = {u"codice"_s,
-                                                           u"località"_s,
-                                                           u"nazione"_s,
-                                                           u"data d'inizio"_s,
-                                                           u"ora d'inizio"_s,
-                                                           u"media Autostrada"_s,
-                                                           u"media SuperStrada"_s,
-                                                           u"media Principale"_s,
-                                                           u"media Locale"_s,
-                                                           u"ora di colazione"_s,
-                                                           u"ora di pranzo"_s,
-                                                           u"durata del pranzo"_s,
-                                                           u"ora di cena"_s,
-                                                           u"durata della cena"_s,
-                                                           u"ora della notte"_s,
-                                                           u"minuti di riposo"_s,
-                                                           u"ore fra i riposi"_s,
-                                                           u"giorni di riposo"_s,
-                                                           u"giorni fra i riposi"_s,
-                                                           u"inizio visite"_s,
-                                                           u"fine visite"_s,
-                                                           u"ore dei traghetti"_s,
-                                                           u"giorni di adeguamento"_s,
-                                                           u"calcolo delle soste"_s};
-    return nomi.at(campo);
-}
-
 const FormaRecord& FormaVecchieTappe() {
     static const FormaRecord forma{64, {24, 3, 1, 6}};
     return forma;

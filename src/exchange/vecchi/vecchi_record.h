@@ -33,9 +33,6 @@ struct VecchiaMeta {
 /// Those of a valid record. `predefiniti` are all fields of a trip that nobody has changed yet.
 VecchiaMeta LeggiVecchiaMeta(const RecordFisso& record, std::span<const QString> predefiniti);
 
-/// What people call such a field: "data d'inizio".
-QString NomeCampoMeta(mete::Field campo);
-
 /// Stages: a head, then one stage per record.
 const FormaRecord& FormaVecchieTappe();
 /// How many stages the head announces; nothing when it does not tell the same number twice.
