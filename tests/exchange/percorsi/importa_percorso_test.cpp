@@ -70,29 +70,19 @@ TEST(ImportaPercorso, RulesOfTheTwoLayouts) {
 }
 
 TEST(ImportaPercorso, HeadersTellTheLayout) {
-    struct Prova {
-        QString prima;
-        QString intestazione;
-        QString tappe;
-    };
-    const QString righe = u"\nImola|8 KM|a Imola"_s;
     const QString istruzioni = u"IMOLA||8|P|"_s;
-    const QString localita = u"IMOLA||0|P|"_s;
     const QString nessuno = u"non riconosciuto"_s;
-    for (const Prova& prova : {
-             Prova{{}, u"Giorno e ORA|KM|istruzioni"_s, istruzioni},
-             {QString(15, u'\n'), u"Ora|Km|Istruzioni"_s, istruzioni},
-             {QString(16, u'\n'), u"Ora|Km|Istruzioni"_s, nessuno},
-             {{}, u"Orario|Km|Istruzioni"_s, nessuno},
-             {{}, u"Ora|Km.|Istruzioni"_s, nessuno},
-             {{}, u"Ora|Istruzioni|Km"_s, nessuno},
-             {{}, u"» Località|Direzione|DISTANZA"_s, localita},
-             {{}, u"La Località|Direzione|Distanza"_s, nessuno},
-             {{}, u"Località|Distanza|Direzione"_s, nessuno},
-         }) {
-        const QString testo = prova.prima + prova.intestazione + righe + QString(160, u' ');
-        const QString tappe = Righe(Leggi(QString(testo).replace(u'|', u'\t').toUtf8()));
-        EXPECT_EQ(tappe, prova.tappe) << prova.intestazione.toStdString();
+    const QString ora = u"Ora|Km|Istruzioni"_s;
+    for (const auto& [tappe, intestazioni] : std::vector<std::pair<QString, QStringList>>{
+             {istruzioni, {u"Giorno e ORA|KM|istruzioni"_s, QString(15, u'\n') + ora}},
+             {u"IMOLA||0|P|"_s, {u"» Località|Direzione|DISTANZA"_s}},
+             {nessuno,
+              {QString(16, u'\n') + ora, u"Orario|Km|Istruzioni"_s, u"Ora|Km.|Istruzioni"_s, u"Ora|Istruzioni|Km"_s,
+               u"La Località|Direzione|Distanza"_s, u"Località|Distanza|Direzione"_s}}}) {
+        for (const QString& intestazione : intestazioni) {
+            QString testo = intestazione + u"\nImola|8 KM|a Imola"_s + QString(160, u' ');
+            EXPECT_EQ(Righe(Leggi(testo.replace(u'|', u'\t').toUtf8())), tappe) << intestazione.toStdString();
+        }
     }
     const QByteArray corto = "Ora\tKm\tIstruzioni\n9\t8\ta Imola\n";
     EXPECT_EQ(Righe(Leggi(corto + QByteArray(150 - corto.size(), ' '))), nessuno);
