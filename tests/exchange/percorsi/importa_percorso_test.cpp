@@ -142,12 +142,8 @@ TEST_F(FileGuasti, EachEndsWithOneMessage) {
     const QString vuoto = u"Nel percorso del file %1 non c'è nessuna tappa."_s.arg(percorso_);
     QByteArray binario(300'000, Qt::Uninitialized);
     for (qsizetype i = 0; i < binario.size(); ++i) binario[i] = static_cast<char>(i * i * 31 + i / 7);
-    struct Guasto {
-        QByteArray file;
-        QString messaggio;
-    };
     const QString ignoto = u"sconosciuto"_s;
-    for (const Guasto& guasto : std::vector<Guasto>{
+    for (const auto& [file, messaggio] : std::vector<std::pair<QByteArray, QString>>{
              {{}, ignoto},
              {binario, ignoto},
              {QByteArray(1'000'000, '\0'), ignoto},
@@ -159,7 +155,7 @@ TEST_F(FileGuasti, EachEndsWithOneMessage) {
              {testa_ + QByteArray("9\t8\ta Susa\n9\t9\ta Oulx\n").repeated(5'000),
               u"Il percorso del file %1 ha più di 9.999 tappe: un itinerario non può contenerle."_s.arg(percorso_)},
          }) {
-        EXPECT_EQ(Messaggio(guasto.file), guasto.messaggio) << guasto.file.left(40).toStdString();
+        EXPECT_EQ(Messaggio(file), messaggio) << file.left(40).toStdString();
     }
     const QByteArray riga = "9\t8\ta Su" + QByteArray(1, '\0') + "sa\n";
     EXPECT_EQ(Righe(Leggi(testa_ + QByteArray(10'000'000, 'x') + '\n' + riga + "9\t9\ta Ou")),

@@ -83,27 +83,21 @@ TEST_F(Conversione, EveryFieldFindsItsPlace) {
 }
 
 TEST_F(Conversione, DigitsStandInTheirPlacesAndWhatTheyCannotTellGetsItsDefault) {
-    struct Viaggio {
-        const char* localita;
-        const char* data;
-        const char* ora;
-        const char* media;
-        const char* cena;
-        const char* attesi;  // date, hour, average and hour of dinner
-    };
-    const std::vector<Viaggio> casi = {{" ALBA", " 5 61998", " 8 0", "  7", "1930", "05061998|0800|7|1930"},
-                                       {"BRA", "31021998", "0800", "95", "", "05062027|0800|95| "},
-                                       {"COMO", "0506", "0860", "200", "1930", "05062027|1045|200|1930"},
-                                       {"DOLO", "05061998", "2401", "201", "19x0", "05061998|1045|75|2000"},
-                                       {"ESTE", "\1", "08", "0", "1930", "05062027|1045|75|1930"}};
+    // locality, date, hour, average, hour of dinner; then what becomes of the last four
+    const std::vector<std::pair<QByteArray, QString>> casi = {
+        {" ALBA| 5 61998| 8 0|  7|1930", u"05061998|0800|7|1930"_s},
+        {"BRA|31021998|0800|95|", u"05062027|0800|95| "_s},
+        {"COMO|0506|0860|200|1930", u"05062027|1045|200|1930"_s},
+        {"DOLO|05061998|2401|201|19x0", u"05061998|1045|75|2000"_s},
+        {"ESTE|\1|08|0|1930", u"05062027|1045|75|1930"_s}};
     QByteArray mete;
     QStringList attese;
-    for (const Viaggio& caso : casi) {
-        const QByteArray numero = QByteArray::number(attese.size() + 1);
-        mete += RecordVecchio(FormaVecchieMete(), caso.localita + ("|I|" + QByteArray(caso.data)) + '|' + caso.ora +
-                                                      '|' + caso.media + "|75|55|40|0830|12 0||" + caso.cena +
-                                                      "|0130|  30|" + numero + "|15");
-        attese += QString::fromLatin1(caso.attesi);
+    for (const auto& [scritti, attesi] : casi) {
+        const QList<QByteArray> campi = scritti.split('|');
+        attese += attesi;
+        mete += RecordVecchio(FormaVecchieMete(), campi[0] + "|I|" + campi[1] + '|' + campi[2] + '|' + campi[3] +
+                                                      "|75|55|40|0830|12 0||" + campi[4] + "|0130|  30|" +
+                                                      QByteArray::number(attese.size()) + "|15");
     }
     Scrivi(u"VandMete.dat"_s, mete);
     Scrivi(u"vand0001.dat"_s, Tappe("  2|  2\nAIX| 98|A|01\n NIZZA|5|A| 1 230"));
@@ -237,25 +231,19 @@ TEST_F(Conversione, WhatIsNoneOfTheOldFilesIsRefusedWhole) {
     Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"ALBA"_s});
     const QByteArray buone = Vecchia("ROMA", "1");
     const QByteArray binario(12'800, '\x01');
-    struct Rifiutato {
-        QByteArray mete;
-        QByteArray guida;
-        const char* messaggio;
-    };
-    for (const Rifiutato& caso : {
-             Rifiutato{buone.chopped(12), {}, "VandMete.dat è troncato"},
-             Rifiutato{binario, {}, "VandMete.dat non è dell'edizione"},
-             Rifiutato{binario + Vecchia("..CANCELLATA", "1"), {}, "VandMete.dat non è dell'edizione"},
-             Rifiutato{QByteArray(10'000'000, 'x'), {}, "VandMete.dat non è dell'edizione"},
-             Rifiutato{buone, "ciao", "VandGuid.dat è troncato"},
-             Rifiutato{buone, binario, "VandGuid.dat non è dell'edizione"},
-         }) {
-        SCOPED_TRACE(caso.messaggio);
-        Scrivi(u"VandMete.dat"_s, caso.mete);
-        Scrivi(u"VandGuid.dat"_s, caso.guida);
+    for (const auto& [mete, guida, parola] : std::vector<std::tuple<QByteArray, QByteArray, QString>>{
+             {buone.chopped(12), {}, u"VandMete.dat è troncato"_s},
+             {binario, {}, u"VandMete.dat non è dell'edizione"_s},
+             {binario + Vecchia("..CANCELLATA", "1"), {}, u"VandMete.dat non è dell'edizione"_s},
+             {QByteArray(10'000'000, 'x'), {}, u"VandMete.dat non è dell'edizione"_s},
+             {buone, "ciao", u"VandGuid.dat è troncato"_s},
+             {buone, binario, u"VandGuid.dat non è dell'edizione"_s}}) {
+        SCOPED_TRACE(parola.toStdString());
+        Scrivi(u"VandMete.dat"_s, mete);
+        Scrivi(u"VandGuid.dat"_s, guida);
         const QStringList prima = prova::Tutto(archive_);
         const QString messaggio = MessaggioDi([&] { Converti(); });
-        EXPECT_TRUE(messaggio.contains(QString::fromUtf8(caso.messaggio))) << messaggio.toStdString();
+        EXPECT_TRUE(messaggio.contains(parola)) << messaggio.toStdString();
         EXPECT_EQ(prova::Tutto(archive_), prima);
         EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandGuid.dat"_s, u"VandMete.dat"_s, u"VandroCronovia.mdb"_s));
     }
