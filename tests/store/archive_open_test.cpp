@@ -204,7 +204,7 @@ TEST_F(ArchiveOpen, NothingIsMendedWhenTheCopyIsNotWhole) {
     EXPECT_EQ(Elenco(Copia(), "SELECT Localita FROM GuidaCitta"), (QStringList{u"Alba"_s, u"L'Aquila"_s}));
 }
 
-TEST_F(ArchiveOpen, OtherFilesUnderTheNameAreRefused) {
+TEST_F(ArchiveOpen, OtherFilesOrAFolderUnderTheNameAreRefused) {
     CreaArchivio();
     const QByteArray archivio = prova::LeggiFile(cartella_.Archivio());
     for (const auto& [byte, parola] :
@@ -215,9 +215,7 @@ TEST_F(ArchiveOpen, OtherFilesUnderTheNameAreRefused) {
         prova::ScriviFile(cartella_.Archivio(), byte);
         AttendiRifiuto(parola);
     }
-}
-
-TEST_F(ArchiveOpen, AFolderInTheWayIsRefused) {
+    QFile::remove(cartella_.Archivio());
     ASSERT_TRUE(QDir().mkpath(cartella_.Archivio()));
     EXPECT_TRUE(prova::MessaggioDi([this] { Apri(); }).contains(u"al suo posto c'è una cartella"_s));
     EXPECT_TRUE(QDir(cartella_.Archivio()).isEmpty());
