@@ -87,17 +87,24 @@ bool VoceNonPersa(Postazione& p) {
     return risposta == Answer::Yes ? SalvaVoceScritta(p, *tavolo) : risposta == Answer::No;
 }
 
+std::optional<Salvataggio> DecideSalvataggio(Postazione& p, const QString& mancato) {
+    std::optional<Salvataggio> deciso;
+    if (p.Prova([&] { deciso = p.documento.DecidiSalvataggio(); }, mancato)) return deciso;
+    if (const auto difetto = DifettoDellaMeta(p.documento.Campi())) p.daCorreggere = difetto->campo;
+    return std::nullopt;
+}
+
 bool SalvaTutto(Postazione& p) {
     Documento& documento = p.documento;
-    Salvataggio salvataggio;
     const bool campi = documento.CampiModificati();
-    if (campi && !p.Prova([&] { salvataggio = documento.DecidiSalvataggio(); }, Mancato(documento))) return false;
-    if (campi && TroppoNuova(documento.Campi(), salvataggio)) {
-        const QString perso = u"%1 (%2)"_s.arg(documento.Campi().localita.trimmed(), salvataggio.codice);
+    const auto salvataggio = campi ? DecideSalvataggio(p, Mancato(documento)) : Salvataggio();
+    if (!salvataggio) return false;
+    if (campi && TroppoNuova(documento.Campi(), *salvataggio)) {
+        const QString perso = u"%1 (%2)"_s.arg(documento.Campi().localita.trimmed(), salvataggio->codice);
         if (!BoxConferma(p.volti.interazione, Operazione::ModificaMeta, perso)) return false;
     }
     return p.MentreScrive(Mancato(documento), [&] {
-        const EsitoMemorizzazione esito = documento.SalvaTutto(salvataggio, p.volti.avanzamento);
+        const EsitoMemorizzazione esito = documento.SalvaTutto(*salvataggio, p.volti.avanzamento);
         if (auto* viaggio = p.Su<schermata::Viaggio>()) viaggio->fase = schermata::Viaggio::Fase::Aperta;
         if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
     });

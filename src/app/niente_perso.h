@@ -18,6 +18,10 @@ namespace cronovia {
 /// Saves what was changed of the trip, whole or not at all. Tells what was shortened, or what went wrong: false then.
 [[nodiscard]] bool SalvaTutto(Postazione& p);
 
+/// What saving the trip's fields will do. Tells what was not done (`mancato`, may be empty) and why they cannot be
+/// saved, and notes the field that it is about; nothing then.
+std::optional<Salvataggio> DecideSalvataggio(Postazione& p, const QString& mancato = {});
+
 /// The program is made to end and nobody can be asked: saves all that needs no answer, the entry of the guide too.
 /// Nothing happens while another command writes or runs: false then, and it is to be tried again.
 bool Congeda(Postazione& p);

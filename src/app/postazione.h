@@ -39,6 +39,7 @@ struct Postazione {
     Documento documento{sessione};
     Schermata schermata;
     Attivita attivita = Attivita::Nessuna;
+    std::optional<mete::Field> daCorreggere = {};  ///< the field for which the last command could not save the trip
 
     /// The screen in front when it is that one, else null.
     template <typename Quale>

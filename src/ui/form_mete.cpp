@@ -145,6 +145,7 @@ void FormMete::Raccogli() {
 void FormMete::Esegui(const std::function<void()>& comando) {
     if (mostrando_ || inCorso_) return;
     inCorso_ = true;
+    postazione_.daCorreggere.reset();
     avanzamento_->NuovaOperazione();
     const QPointer<QWidget> fuoco = focusWidget();
     Raccogli();
@@ -154,6 +155,7 @@ void FormMete::Esegui(const std::function<void()>& comando) {
     Mostra();
     // A control that was disabled meanwhile had to give the focus away.
     if (fuoco != nullptr && fuoco->isVisible() && fuoco->isEnabled()) fuoco->setFocus();
+    if (postazione_.daCorreggere) viaggio_->FuocoSulCampo(*postazione_.daCorreggere);
     FuocoSenzaMete();
 }
 
@@ -168,7 +170,7 @@ void FormMete::EseguiComando(Comando comando) {
     const bool calcolata = postazione_.documento.Calcolata().has_value();
     Esegui([&] { Descrizione(comando).esegui(postazione_); });
     if (calcolata != postazione_.documento.Calcolata().has_value()) return FuocoSulleRighe();
-    MettiIlFuoco(comando);
+    if (!postazione_.daCorreggere) MettiIlFuoco(comando);
 }
 
 // Where the person goes on after a command.
@@ -189,8 +191,6 @@ void FormMete::MettiIlFuoco(Comando dopo) {
             return copia_.Fuoco();
         case Comando::Cerca:
             return cmbRicercaTappa_->setFocus();
-        case Comando::Salva:
-            return viaggio_->FuocoSulCampoMancante();
         case Comando::Inserisce:
             return inserimento_.FuocoDopoInserisce();
         case Comando::Itinerario:

@@ -188,12 +188,15 @@ void FrmMetePeriodo::Leggi(Meta& meta) const {
     meta.parametri.calcoloSoste = static_cast<CalcoloSoste>(cmbSoste_->currentIndex() + 1);
 }
 
-void FrmMetePeriodo::FuocoSulCampoMancante() {
-    for (QLineEdit* casella : {txtLocalita_, txtNazione_}) {
-        if (casella->text().trimmed().isEmpty()) return casella->setFocus();
+void FrmMetePeriodo::FuocoSullInizio() {
+    for (QComboBox* parte : {cmbInizio_[0], cmbInizio_[1]}) {
+        if (parte->currentIndex() < 0) return parte->setFocus();
     }
+    cmbInizio_[2]->setFocus();
 }
 
 void FrmMetePeriodo::FuocoSullaLocalita() { txtLocalita_->setFocus(); }
+
+void FrmMetePeriodo::FuocoSullaNazione() { txtNazione_->setFocus(); }
 
 }  // namespace cronovia

@@ -27,8 +27,9 @@ class FrmMetePeriodo : public QGroupBox {
     /// Puts what the fields hold into the trip; of a start that is no date, its parts.
     void Leggi(Meta& meta) const;
     void FuocoSullaLocalita();
-    /// On an obligatory field that is empty; the focus stays when there is none.
-    void FuocoSulCampoMancante();
+    void FuocoSullaNazione();
+    /// On the part of the start that is missing, else on the year.
+    void FuocoSullInizio();
 
   Q_SIGNALS:
     /// The person changed a field; a part of the start.

@@ -74,6 +74,12 @@ void FrmMeteVelocita::MostraTotali(const TestiTotali& totali) {
     txtTragh_->setText(totali.traghetti);
 }
 
+void FrmMeteVelocita::FuocoSullaMedia(TipoStrada tipo) {
+    QComboBox& media = *cmbMediaKm_[Indice(tipo)];
+    media.setFocus();
+    media.lineEdit()->selectAll();
+}
+
 void FrmMeteVelocita::Leggi(ParametriViaggio& parametri) const {
     for (std::size_t i = 0; i < cmbMediaKm_.size(); ++i) parametri.mediaKm[i] = cmbMediaKm_[i]->currentText().toInt();
 }

@@ -22,6 +22,7 @@ class FrmMeteVelocita : public QGroupBox {
     void MostraTotali(const TestiTotali& totali);
     /// Puts the speeds, in km/h, into the parameters; an emptied one is 0.
     void Leggi(ParametriViaggio& parametri) const;
+    void FuocoSullaMedia(TipoStrada tipo);
 
   Q_SIGNALS:
     void Cambiata();

@@ -60,7 +60,7 @@ void SchermoViaggio::Collega() {
     });
     connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         esegui_([&] { comandi::ScegliMeta(postazione_, voce->data(Qt::UserRole).toString()); });
-        Q_EMIT ElencoChiuso();
+        if (!postazione_.Su<schermata::ElencoMete>()) Q_EMIT ElencoChiuso();
     });
     connect(cmbRicerca_, &ElencoScelta::Rinuncia, this, [this] {
         esegui_([this] { comandi::ChiudiElencoMete(postazione_); });
@@ -87,6 +87,19 @@ bool SchermoViaggio::ConcludiIlCampo() {
     const ParametriViaggio prima = postazione_.documento.Campi().parametri;
     postazione_.documento.ControllaOrari();
     return postazione_.documento.Campi().parametri != prima;
+}
+
+void SchermoViaggio::FuocoSulCampo(mete::Field campo) {
+    switch (campo) {
+        case mete::Localita:
+            return periodo_->FuocoSullaLocalita();
+        case mete::Nazione:
+            return periodo_->FuocoSullaNazione();
+        case mete::DataInizio:
+            return periodo_->FuocoSullInizio();
+        default:
+            return velocita_->FuocoSullaMedia(static_cast<TipoStrada>(campo - mete::MediaAutostrada));
+    }
 }
 
 void SchermoViaggio::Mostra(bool liberi) {

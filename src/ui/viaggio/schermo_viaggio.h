@@ -26,13 +26,14 @@ class SchermoViaggio : public QWidget {
     void Mostra(bool liberi);
     /// Takes over and checks the field that is being filled in, as if it had been left; true when others changed by it.
     bool ConcludiIlCampo();
-    void FuocoSulCampoMancante() { periodo_->FuocoSulCampoMancante(); }
+    /// On the control of a field for which the trip cannot be saved.
+    void FuocoSulCampo(mete::Field campo);
     void FuocoSullaLocalita() { periodo_->FuocoSullaLocalita(); }
 
   Q_SIGNALS:
     /// The person changed a field.
     void Cambiata();
-    /// A trip was chosen from the list, or none.
+    /// The list is no longer there: a trip was chosen from it, or none.
     void ElencoChiuso();
 
   private:
