@@ -37,6 +37,10 @@ void VaiAllaRigaGuida(Postazione& p, int riga) {
     SullaGuida(p, [&](TavoloGuida& t) { t.VaiAllaRiga(t.RigaDi(meta)); });
 }
 
+void CancellaRigaGuida(Postazione& p) {
+    if (VoceNonPersa(p)) SullaGuida(p, [](TavoloGuida& tavolo) { tavolo.CancellaRiga(); });
+}
+
 void FineGuida(Postazione& p) {
     if (!VoceNonPersa(p)) return;
     p.Prova([&] {

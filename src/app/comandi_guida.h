@@ -11,6 +11,8 @@ void GuidaCitta(Postazione& p);
 void SullaGuida(Postazione& p, const std::function<void(TavoloGuida&)>& comando);
 /// Goes to a row, counted from 1; asks first when the text of an entry would be lost.
 void VaiAllaRigaGuida(Postazione& p, int riga);
+/// Asks the same before it deletes the entry of the current row.
+void CancellaRigaGuida(Postazione& p);
 /// Asks the same. The itinerary comes back as it is stored, with the visits that the guide now has.
 void FineGuida(Postazione& p);
 

@@ -182,6 +182,10 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     const QAbstractItemModel& Modello(const QString& tabella) { return *Trova<QTableView>(tabella).model(); }
 
     void Clicca(const QString& nome, const QString& quale) {
+        Preme(nome, quale, [](QWidget* su, const QPoint& dove) { QTest::mouseClick(su, Qt::LeftButton, {}, dove); });
+    }
+
+    void Preme(const QString& nome, const QString& quale, const std::function<void(QWidget*, QPoint)>& mouse) {
         auto& vista = Usabile<QAbstractItemView>(nome);
         const int riga = quale.toInt() - 1;
         QModelIndex dove = vista.model()->index(riga, std::min(1, vista.model()->columnCount() - 1));
@@ -189,7 +193,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
             dove = vista.model()->match(vista.model()->index(0, 0), Qt::DisplayRole, quale).value(0);
         if (quale.toInt() == 0 && !dove.isValid()) throw std::runtime_error("there is no such entry");
         vista.scrollTo(dove);
-        QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, vista.visualRect(dove).center());
+        mouse(vista.viewport(), vista.visualRect(dove).center());
     }
 
     void Scegli(const QString& nome, const QString& voce) {
@@ -362,6 +366,16 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"focus"_s, {1, [this](auto& p) { Usabile(p[0]).setFocus(); }}},
         {u"press"_s, {1, [this](auto& p) { Premi(p[0]); }}},
         {u"click"_s, {2, [this](auto& p) { Clicca(p[0], p[1]); }}},
+        {u"hold"_s,
+         {2,
+          [this](auto& p) {
+              Preme(p[0], p[1], [](QWidget* su, QPoint dove) { QTest::mousePress(su, Qt::LeftButton, {}, dove); });
+          }}},
+        {u"let-go"_s,
+         {2,
+          [this](auto& p) {
+              Preme(p[0], p[1], [](QWidget* su, QPoint dove) { QTest::mouseRelease(su, Qt::LeftButton, {}, dove); });
+          }}},
         {u"trigger"_s, {1, [this](auto& p) { Trova<QAction>(p[0]).trigger(); }}},
         {u"beside"_s, {1, [this](auto& p) { QTest::mouseClick(&Trova(p[0]), Qt::LeftButton); }}},
         {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
@@ -380,6 +394,12 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-column"_s, {3, [this](auto& p) { Uguale(Colonna(Modello(p[0]), p[1].toInt()), p[2]); }}},
         {u"expect-header"_s,
          {3, [this](auto& p) { Uguale(Modello(p[0]).headerData(p[1].toInt() - 1, Qt::Horizontal).toString(), p[2]); }}},
+        {u"expect-header-tip"_s,
+         {3,
+          [this](auto& p) {
+              const auto tip = Modello(p[0]).headerData(p[1].toInt() - 1, Qt::Horizontal, Qt::ToolTipRole);
+              Uguale(ComeSiLegge(tip.toString()), p[2]);
+          }}},
         {u"expect-selected"_s, {2, [this](auto& p) { AttesaScelta(p); }}},
         {u"expect-width"_s,
          {3, [this](auto& p) { EXPECT_EQ(Trova<QTableView>(p[0]).columnWidth(p[1].toInt() - 1), p[2].toInt()); }}},

@@ -28,8 +28,8 @@ SchermoGuida::SchermoGuida(Postazione& postazione, VistaGriglia& griglia, Elenco
 void SchermoGuida::Collega() {
     connect(riquadro_, &FrmGuida::Salva, this, &SchermoGuida::Salva);
     connect(riquadro_, &FrmGuida::Cancella, this, [this] {
-        Comanda([](TavoloGuida& tavolo) { tavolo.CancellaRiga(); });
-        riquadro_->FuocoSullaDescrizione();
+        esegui_([this] { comandi::CancellaRigaGuida(postazione_); });
+        Fuoco();
     });
     connect(riquadro_, &FrmGuida::Cerca, this, [this] {
         Comanda([](TavoloGuida& tavolo) { tavolo.Cerca(); });
@@ -37,20 +37,19 @@ void SchermoGuida::Collega() {
     });
     connect(riquadro_, &FrmGuida::Fine, this, [this] {
         esegui_([this] { comandi::FineGuida(postazione_); });
-        griglia_.setFocus();
+        Tavolo() ? Fuoco() : griglia_.setFocus();
     });
+    griglia_.viewport()->installEventFilter(this);
     connect(&griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
-        // A question waits until the mouse has let the row go: the grid would select it afterwards.
         if (!CampiCambiati()) return VaiAllaRiga(riga + 1);
-        QTimer::singleShot(0, this, [this, riga] { VaiAllaRiga(riga + 1); });
+        rigaAttesa_ = riga + 1;
+        if (!mouseTiene_) QTimer::singleShot(0, this, &SchermoGuida::VaiAllaRigaAttesa);
     });
-    connect(&griglia_, &QTableView::clicked, this, [this] {
-        if (Tavolo()) riquadro_->FuocoSullaDescrizione();
-    });
+    connect(&griglia_, &QTableView::clicked, this, &SchermoGuida::Fuoco);
     connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         if (!Tavolo()) return;
         VaiAllaRiga(voce->data(Qt::UserRole).toInt());
-        riquadro_->FuocoSullaDescrizione();
+        Fuoco();
     });
 }
 
@@ -71,7 +70,23 @@ const TavoloGuida* SchermoGuida::Tavolo() const {
 }
 
 void SchermoGuida::Fuoco() {
-    if (Tavolo()) riquadro_->FuocoSullaDescrizione();
+    if (!Tavolo()) return;
+    CampiCambiati() ? riquadro_->FuocoSulCampoMancante() : riquadro_->FuocoSullaDescrizione();
+}
+
+// A question waits until the mouse has let the row go: the grid would select it afterwards.
+bool SchermoGuida::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (evento->type() == QEvent::MouseButtonPress) mouseTiene_ = true;
+    if (evento->type() == QEvent::MouseButtonRelease) {
+        mouseTiene_ = false;
+        if (rigaAttesa_) QTimer::singleShot(0, this, &SchermoGuida::VaiAllaRigaAttesa);
+    }
+    return QObject::eventFilter(oggetto, evento);
+}
+
+void SchermoGuida::VaiAllaRigaAttesa() {
+    if (const auto riga = std::exchange(rigaAttesa_, std::nullopt)) VaiAllaRiga(*riga);
+    if (CampiCambiati() || !griglia_.hasFocus()) Fuoco();
 }
 
 void SchermoGuida::Comanda(const std::function<void(TavoloGuida&)>& comando) {
@@ -169,7 +184,7 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
         Salva();
     } else if (esc && CampiCambiati()) {
         VaiAllaRiga(tavolo->RigaCorrente());
-        riquadro_->FuocoSullaDescrizione();
+        Fuoco();
     } else {
         riquadro_->PulsanteFine().click();
     }

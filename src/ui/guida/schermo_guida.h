@@ -26,7 +26,7 @@ class SchermoGuida : public QObject {
     void ImpostaStampa(ComandoStampaGuida& stampa);
     /// What the fields hold goes to the screen's state.
     void Raccogli();
-    /// To the entry of a description, while the screen is open.
+    /// To the entry of a description, while the screen is open; when something is typed, to what it lacks.
     void Fuoco();
     /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
     bool Mostra(int righeMinime);
@@ -34,6 +34,7 @@ class SchermoGuida : public QObject {
     [[nodiscard]] bool StampaAperta() const;
     /// The keys that mean something on this screen; false for all others, and while it is closed.
     bool Tasto(const QKeyEvent& tasto);
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   private:
     void Collega();
@@ -41,6 +42,7 @@ class SchermoGuida : public QObject {
     [[nodiscard]] const TavoloGuida* Tavolo() const;
     void Comanda(const std::function<void(TavoloGuida&)>& comando);
     void VaiAllaRiga(int riga);
+    void VaiAllaRigaAttesa();
     void Salva();
     void MostraElenco(const TavoloGuida& tavolo);
     void Abilita(const TavoloGuida& tavolo);
@@ -60,6 +62,8 @@ class SchermoGuida : public QObject {
     ComandoStampaGuida* stampa_ = nullptr;
     ModelloGuida modello_;
     std::optional<Mostrato> mostrato_;  // what was last put into the fields
+    std::optional<int> rigaAttesa_;     // gone to once the mouse has let it go
+    bool mouseTiene_ = false;
 };
 
 }  // namespace cronovia
