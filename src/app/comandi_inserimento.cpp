@@ -69,6 +69,12 @@ std::optional<bool> KmProgressivi(const Postazione& p) {
     return KmPrecedenti(p.documento.Righe(), p.documento.Riepilogo(), riga) > 100;
 }
 
+int KmInseriti(const Postazione& p, const CampiTappa& campi) {
+    if (!campi.kmProgressivi) return campi.km;
+    const int riga = p.documento.RigaCorrente();
+    return KmDellaTappa(campi.km, KmPrecedenti(p.documento.Righe(), p.documento.Riepilogo(), riga), riga);
+}
+
 void Itinerario(Postazione& p) {
     if (SenzaMeta(p)) return;
     p.documento.SelezionaRiga(p.documento.RigaCorrente());
@@ -89,11 +95,11 @@ bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int rig
 void Inserisce(Postazione& p) {
     auto* inserimento = p.Su<schermata::Inserimento>();
     if (inserimento == nullptr) return;
+    inserimento->appenaInserita = false;
     const RigheItinerario& righe = p.documento.Righe();
     const int riga = p.documento.RigaCorrente();
     CampiTappa campi = inserimento->campi;
-    if (campi.kmProgressivi)
-        campi.km = KmDellaTappa(campi.km, KmPrecedenti(righe, p.documento.Riepilogo(), riga), riga);
+    campi.km = KmInseriti(p, campi);
     const std::vector<Message> rifiuti = ControllaTappa(campi, riga);
     for (const Message& rifiuto : rifiuti) p.volti.interazione.Show(rifiuto);
     if (!rifiuti.empty()) return;

@@ -40,6 +40,9 @@ void Fine(Postazione& p);
 /// Whether progressive kilometres can be meant in the current row; nothing where there are none.
 [[nodiscard]] std::optional<bool> KmProgressivi(const Postazione& p);
 
+/// The kilometres of the stage that the fields mean.
+[[nodiscard]] int KmInseriti(const Postazione& p, const CampiTappa& campi);
+
 /// Replaces the stages in one step and goes to a row. Tells what went wrong; false then.
 bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga);
 

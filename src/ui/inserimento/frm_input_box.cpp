@@ -104,7 +104,7 @@ QWidget* FrmInputBox::CreaCampi() {
     for (QComboBox* elenco : {cmbTipoStrada_, cmbSosta_[0], cmbSosta_[1], cmbSosta_[2]}) {
         connect(elenco, &QComboBox::currentTextChanged, this, &FrmInputBox::Cambiata);
     }
-    connect(chkEndDay_, &QCheckBox::toggled, this, &FrmInputBox::Cambiata);
+    for (QCheckBox* spunta : {chkEndDay_, chkKm_}) connect(spunta, &QCheckBox::toggled, this, &FrmInputBox::Cambiata);
     return campi;
 }
 

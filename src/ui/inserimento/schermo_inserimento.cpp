@@ -36,7 +36,10 @@ SchermoInserimento::SchermoInserimento(Postazione& postazione, ElencoScelta& ele
 }
 
 void SchermoInserimento::Raccogli() {
-    if (auto* inserimento = postazione_.Su<schermata::Inserimento>()) inserimento->campi = riquadro_->Campi();
+    auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    if (inserimento == nullptr) return;
+    inserimento->campi = riquadro_->Campi();
+    MostraSuggerimenti();  // a speed may be another one
 }
 
 // What is being typed stays, unless another stage has come into its row.
@@ -56,6 +59,7 @@ void SchermoInserimento::Mostra(const StatoComandi& stato) {
         riquadro_->MostraKmProgressivi(adesso.progressivi);
     }
     mostrati_ = std::move(adesso);
+    MostraSuggerimenti();
 }
 
 void SchermoInserimento::MostraElenco(bool aperto) {
@@ -77,10 +81,11 @@ void SchermoInserimento::MostraElenco(bool aperto) {
 
 void SchermoInserimento::MostraSuggerimenti() {
     const Documento& documento = postazione_.documento;
+    CampiTappa campi = riquadro_->Campi();
+    campi.km = comandi::KmInseriti(postazione_, campi);
     QStringList testi;
-    for (const Suggerimento suggerimento :
-         SuggerimentiTappa(riquadro_->Campi(), documento.RigaCorrente(), documento.Campi().parametri,
-                           documento.Riepilogo().guidaGiorno)) {
+    for (const Suggerimento suggerimento : SuggerimentiTappa(
+             campi, documento.RigaCorrente(), documento.Campi().parametri, documento.Riepilogo().guidaGiorno)) {
         testi += Testo(suggerimento);
     }
     riquadro_->MostraSuggerimenti(testi.join(u'\n'));
@@ -89,7 +94,7 @@ void SchermoInserimento::MostraSuggerimenti() {
 // A refused stage is put right where the refusal said.
 void SchermoInserimento::FuocoDopoInserisce() {
     const auto* inserimento = postazione_.Su<schermata::Inserimento>();
-    const bool rifiutata = inserimento != nullptr && inserimento->campi != inserimento->proposti;
+    const bool rifiutata = inserimento != nullptr && !inserimento->appenaInserita;
     if (rifiutata && !inserimento->campi.localita.isEmpty()) return riquadro_->FuocoSuiKm();
     FuocoSullaTappa();
 }
