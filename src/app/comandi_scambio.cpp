@@ -126,7 +126,7 @@ void Import(Postazione& p) {
 }
 
 void ApriFile(Postazione& p, const QString& file) {
-    if (!p.Comandi().Abilitato(Comando::Import)) {
+    if (!p.Su<schermata::Viaggio>() || p.attivita != Attivita::Nessuna) {
         return p.Mostra(
             u"Per importare %1 torna prima alla schermata della mèta."_s.arg(QDir::toNativeSeparators(file)));
     }

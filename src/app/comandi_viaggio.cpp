@@ -31,8 +31,11 @@ void Segue(Postazione& p) {
 }  // namespace
 
 bool SenzaMeta(Postazione& p) {
-    if (!p.documento.Codice().isEmpty()) return false;
-    p.Mostra(u"Nessuna mèta è aperta: comincia con «Nuovo», o scegline una con «Ricerca mèta»."_s);
+    if (!p.documento.Campi().codice.isEmpty()) return false;
+    const auto* viaggio = p.Su<schermata::Viaggio>();
+    const bool nuova = viaggio != nullptr && viaggio->fase == Fase::Nuova;
+    p.Mostra(nuova ? u"La nuova mèta non è ancora salvata: comincia con «Salva»."_s
+                   : u"Nessuna mèta è aperta: comincia con «Nuovo», o scegline una con «Ricerca mèta»."_s);
     return true;
 }
 
@@ -72,12 +75,12 @@ void ChiudiElencoMete(Postazione& p) {
 }
 
 void Salva(Postazione& p) {
-    Salvataggio salvataggio;
-    if (!p.Prova([&] { salvataggio = p.documento.DecidiSalvataggio(); })) return;
-    const Operazione operazione = salvataggio.nuova ? Operazione::InserimentoMeta : Operazione::ModificaMeta;
+    const std::optional<Salvataggio> salvataggio = DecideSalvataggio(p);
+    if (!salvataggio) return;
+    const Operazione operazione = salvataggio->nuova ? Operazione::InserimentoMeta : Operazione::ModificaMeta;
     if (!BoxConferma(p.volti.interazione, operazione)) return;
     p.MentreScrive(u"La mèta non è stata salvata."_s, [&] {
-        p.documento.SalvaCampi(salvataggio);
+        p.documento.SalvaCampi(*salvataggio);
         p.schermata = schermata::Viaggio{Fase::Aperta};
     });
 }

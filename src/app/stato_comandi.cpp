@@ -29,10 +29,10 @@ struct Abilita {
         using Fase = schermata::Viaggio::Fase;
         switch (viaggio.fase) {
             case Fase::Vuota:
-                Solo({Comando::Nuovo, Comando::Import, Comando::Esce});
+                Solo({Comando::Nuovo, Comando::Import, Comando::Esce, Comando::Calcola, Comando::Stampa});
                 break;
             case Fase::Nuova:
-                Solo({Comando::Nuovo, Comando::Salva, Comando::Esce});
+                Solo({Comando::Nuovo, Comando::Salva, Comando::Esce, Comando::Calcola, Comando::Stampa});
                 if (fatti.metaAperta) Solo({Comando::Ricerca});
                 break;
             case Fase::Aperta:
