@@ -42,10 +42,10 @@ void MettiPercorso(Postazione& p, RigheItinerario percorso) {
 }
 
 void SalvaTappe(Postazione& p) {
-    p.MentreScrive(u"L'itinerario non è stato salvato."_s, [&] {
-        const EsitoMemorizzazione esito = p.documento.SalvaTappe(p.volti.avanzamento);
-        if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
-    });
+    EsitoMemorizzazione esito;
+    p.MentreScrive(u"L'itinerario non è stato salvato."_s,
+                   [&] { esito = p.documento.SalvaTappe(p.volti.avanzamento); });
+    if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
 }
 
 // The question that leaving the entry asks.

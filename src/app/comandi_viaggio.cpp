@@ -134,7 +134,11 @@ void Esce(Postazione& p) {
     }
 }
 
-bool PossoChiudere(Postazione& p) { return !p.InCorsa() && NientePerso(p); }
+bool PossoChiudere(Postazione& p) {
+    if (p.InCorsa() || !NientePerso(p)) return false;
+    Rinuncia(p);  // what was declined is neither asked about nor saved any more, should the window live on
+    return true;
+}
 
 void Annulla(Postazione& p) {
     if (!p.DaAnnullare() || !VoceNonPersa(p)) return;

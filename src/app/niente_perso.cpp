@@ -54,7 +54,7 @@ QString Mancato(const Documento& documento) {
 }
 
 void SalvaSenzaChiedere(Postazione& p) {
-    if (const TavoloGuida* tavolo = ConVoceScritta(p)) tavolo->SalvaScritti();
+    if (TavoloGuida* tavolo = ConVoceScritta(p)) tavolo->SalvaScritti();
     Documento& documento = p.documento;
     if (!documento.Modificato()) return;
     const Salvataggio salvataggio = documento.CampiModificati() ? documento.DecidiSalvataggio() : Salvataggio();
@@ -80,6 +80,12 @@ bool NientePerso(Postazione& p) {
     return (tavolo == nullptr || SalvaVoceScritta(p, *tavolo)) && (!p.documento.Modificato() || SalvaTutto(p));
 }
 
+void Rinuncia(Postazione& p) {
+    if (!QualcosaDaSalvare(p)) return;
+    p.documento.Scarta();
+    p.MettiSchermoDelViaggio();
+}
+
 bool VoceNonPersa(Postazione& p) {
     TavoloGuida* tavolo = ConVoceScritta(p);
     if (tavolo == nullptr) return true;
@@ -103,11 +109,13 @@ bool SalvaTutto(Postazione& p) {
         const QString perso = u"%1 (%2)"_s.arg(documento.Campi().localita.trimmed(), salvataggio->codice);
         if (!BoxConferma(p.volti.interazione, Operazione::ModificaMeta, perso)) return false;
     }
-    return p.MentreScrive(Mancato(documento), [&] {
-        const EsitoMemorizzazione esito = documento.SalvaTutto(*salvataggio, p.volti.avanzamento);
+    EsitoMemorizzazione esito;
+    const bool salvata = p.MentreScrive(Mancato(documento), [&] {
+        esito = documento.SalvaTutto(*salvataggio, p.volti.avanzamento);
         if (auto* viaggio = p.Su<schermata::Viaggio>()) viaggio->fase = schermata::Viaggio::Fase::Aperta;
-        if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
     });
+    if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
+    return salvata;
 }
 
 // What is left unsaved here, since it is incomplete or the archive refuses it, is what a recovery file has to hold.

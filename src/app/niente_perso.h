@@ -12,7 +12,9 @@ namespace cronovia {
 /// would be lost, and saves on Yes; false when the person wants to stay, or what was typed cannot be saved. On No it is
 /// left as it is.
 [[nodiscard]] bool NientePerso(Postazione& p);
-/// The same for the entry of the guide alone, before another one comes into the fields.
+/// Drops all that is not saved, the entry of the guide too: the trip is in front as it was loaded.
+void Rinuncia(Postazione& p);
+/// As `NientePerso`, for the entry of the guide alone, before another one comes into the fields.
 [[nodiscard]] bool VoceNonPersa(Postazione& p);
 
 /// Saves what was changed of the trip, whole or not at all. Tells what was shortened, or what went wrong: false then.

@@ -1,5 +1,6 @@
 #include "app/postazione.h"
 
+#include <QScopeGuard>
 #include <utility>
 
 #include "exchange/vecchi/vecchi_file.h"
@@ -41,19 +42,27 @@ bool Postazione::MentreScrive(const QString& mancato, const std::function<void()
     if (auto* viaggio = Su<schermata::Viaggio>()) viaggio->converteOfferto = false;
     attivita = Attivita::Scrittura;
     volti.mostra();
-    const bool riuscita = Prova(azione, mancato);
-    attivita = Attivita::Nessuna;
-    return riuscita;
+    const auto finita = [this] { attivita = Attivita::Nessuna; };
+    return Prova(
+        [&] {
+            const auto alla = qScopeGuard(finita);
+            azione();
+        },
+        mancato);
 }
 
 bool Postazione::MentreCorre(const std::function<void()>& azione) {
     if (auto* viaggio = Su<schermata::Viaggio>()) viaggio->converteOfferto = false;
     attivita = Attivita::Corsa;
     volti.mostra();
-    const bool riuscita = Prova(azione);
-    attivita = Attivita::Nessuna;
-    volti.avanzamento.Advance(0, 0);
-    return riuscita;
+    const auto finita = [this] {
+        attivita = Attivita::Nessuna;
+        volti.avanzamento.Advance(0, 0);
+    };
+    return Prova([&] {
+        const auto alla = qScopeGuard(finita);
+        azione();
+    });
 }
 
 void Postazione::VaiAlViaggio() {

@@ -67,7 +67,8 @@ struct Postazione {
 
     /// Runs an action that may fail. Tells what was not done (`mancato`, may be empty) and what went wrong; false then.
     bool Prova(const std::function<void()>& azione, const QString& mancato = {});
-    /// The same while no other command can be given; while only the stop can.
+    /// The same while no other command can be given; while only the stop can. What went wrong is told when that is
+    /// over.
     bool MentreScrive(const QString& mancato, const std::function<void()>& azione);
     bool MentreCorre(const std::function<void()>& azione);
     /// The trip screen comes in front, with what is open.

@@ -85,7 +85,10 @@ bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
     return true;
 }
 
-void TavoloGuida::SalvaScritti() const { SalvaVoce(archive_, Corrente().localita, Corrente().voce, tipi_, scritti_); }
+void TavoloGuida::SalvaScritti() {
+    SalvaVoce(archive_, Corrente().localita, Corrente().voce, tipi_, scritti_);
+    campi_ = scritti_;
+}
 
 void TavoloGuida::CancellaRiga() {
     const RigaGuida riga = Corrente();

@@ -54,7 +54,7 @@ class TavoloGuida {
     bool SalvaRiga(const CampiVoce& campi);
     /// What was typed goes to the archive and nowhere else, for a program that ends. A `Failure` when it cannot be
     /// saved.
-    void SalvaScritti() const;
+    void SalvaScritti();
     /// Deletes the entry of the current row; a locality's row stays as it is.
     void CancellaRiga();
     /// Opens the list of localities; closes it.

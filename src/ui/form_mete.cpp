@@ -141,6 +141,12 @@ void FormMete::Raccogli() {
     guida_.Raccogli();
 }
 
+// What the fields hold, that which is being typed too, as if it had been left.
+void FormMete::ConcludiIlCampo() {
+    Raccogli();
+    if (viaggio_->ConcludiIlCampo()) Mostra();
+}
+
 // A long command lets the window live; what the person asks for meanwhile is not begun.
 void FormMete::Esegui(const std::function<void()>& comando) {
     if (mostrando_ || inCorso_) return;
@@ -148,8 +154,7 @@ void FormMete::Esegui(const std::function<void()>& comando) {
     postazione_.daCorreggere.reset();
     avanzamento_->NuovaOperazione();
     const QPointer<QWidget> fuoco = focusWidget();
-    Raccogli();
-    if (viaggio_->ConcludiIlCampo()) Mostra();
+    ConcludiIlCampo();
     comando();
     inCorso_ = false;
     Mostra();
@@ -258,7 +263,7 @@ bool FormMete::PossoChiudere() {
 void FormMete::FineSessione(QSessionManager& sessione) {
     if (!isVisible()) return;
     if (!sessione.allowsInteraction()) {
-        Raccogli();
+        ConcludiIlCampo();
         Congeda(postazione_);
         return;
     }
@@ -270,7 +275,7 @@ void FormMete::FineSessione(QSessionManager& sessione) {
 // Boxes that are open are called off once all is saved that can be, and the command that showed them ends.
 void FormMete::Termina() {
     if (postazione_.InCorsa()) avanzamento_->ChiediStop();
-    Raccogli();
+    ConcludiIlCampo();
     if (!Congeda(postazione_)) return;
     if (auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget())) return dialogo->reject();
     if (inCorso_) return;

@@ -63,6 +63,7 @@ class FormMete : public QMainWindow {
     void CreaStampe(QGridLayout& area);
     void Collega();
     void Raccogli();
+    void ConcludiIlCampo();
     /// Runs a command on what the fields hold, then shows the state anew.
     void Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);

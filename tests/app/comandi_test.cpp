@@ -140,7 +140,16 @@ TEST_F(ComandiTest, ClosingAsksWhenThereAreUnsavedChanges) {
     for (const auto& [risposta, chiude] : casi) {
         EXPECT_EQ(Memorizzate(), u""_s);
         DomandaModifiche(risposta);
+        if (risposta == Answer::Yes) copione_.Messaggio(u"Nomi accorciati…"_s);
         EXPECT_EQ(comandi::PossoChiudere(*postazione_), chiude);
+        if (risposta != Answer::No) continue;
+        EXPECT_TRUE(comandi::PossoChiudere(*postazione_) && Congeda(*postazione_));  // what was declined is gone
+        EXPECT_EQ(Schermo(), u"aperta"_s);
+        comandi::Itinerario(*postazione_);
+        RigheItinerario lunga(1);
+        lunga[0].localita = u"A"_s;
+        lunga[0].numStrada = QString(90, u'x');
+        Viaggio().Modifica({}, lunga, 2);
     }
     EXPECT_EQ(Memorizzate(), u"A"_s);
     EXPECT_TRUE(comandi::PossoChiudere(*postazione_));

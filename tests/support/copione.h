@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 
 #include "interaction/interaction.h"
 #include "support/prova.h"
@@ -25,6 +26,8 @@ class Copione : public Interaction {
         battute_.push_back({testo, titolo, risposta, annullabile});
         return *this;
     }
+    /// Whether a box may be shown now: one that comes while it may not fails the test.
+    std::function<bool()> libera = [] { return true; };
     [[nodiscard]] bool Finito() const { return battute_.empty(); }
 
     void Show(const Message& message) override {
@@ -58,6 +61,7 @@ class Copione : public Interaction {
         bool annullabile = false;
     };
     Battuta Prendi(const QString& testo) {
+        EXPECT_TRUE(libera()) << "too early: " << testo.toStdString();
         if (battute_.empty()) {
             ADD_FAILURE() << "unexpected: " << testo.toStdString();
             return {};

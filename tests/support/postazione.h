@@ -13,6 +13,7 @@
 #include "app/comandi_inserimento.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
+#include "app/niente_perso.h"
 #include "support/copione.h"
 
 namespace cronovia::prova {
@@ -35,6 +36,9 @@ struct AvanzamentoDiProva : Progress {
 
 class PostazioneTest : public testing::Test {
   protected:
+    PostazioneTest() {
+        copione_.libera = [this] { return postazione_ == nullptr || postazione_->attivita == Attivita::Nessuna; };
+    }
     /// Another window on the same folder, on Saturday 5 June 2027.
     std::unique_ptr<Postazione> NuovaPostazione() {
         return std::make_unique<Postazione>(cartella_.Percorso(),

@@ -128,7 +128,7 @@ void FrmMeteTempi::CreaDefault(QGridLayout& layout) {
 }
 
 bool FrmMeteTempi::OrarioInCorso() const {
-    const auto conFuoco = [](const QComboBox* elenco) { return elenco->hasFocus(); };
+    const auto conFuoco = [](const QComboBox* elenco) { return elenco->window()->focusWidget() == elenco; };
     return std::any_of(cmbOra_.begin(), cmbOra_.end(), conFuoco) ||
            std::any_of(cmbMin_.begin(), cmbMin_.end(), conFuoco);
 }
