@@ -47,7 +47,7 @@ class SegueIntorno : public QObject {
 }  // namespace
 
 double Contrasto(const QColor& a, const QColor& b) {
-    const auto [scuro, chiaro] = std::minmax(Luminanza(a), Luminanza(b));
+    const auto [scuro, chiaro] = std::minmax({Luminanza(a), Luminanza(b)});  // by value: the two are temporaries
     return (chiaro + 0.05) / (scuro + 0.05);
 }
 
