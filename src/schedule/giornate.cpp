@@ -8,11 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Where one is when a row with a moment has ended.
-QString Luogo(const Cronovia& cronovia, const RigaCronovia& riga) {
-    const QString& localita = cronovia.tabella.righe[static_cast<std::size_t>(riga.tappa)].tappa.localita;
-    return riga.genere == GenereRiga::Marcia && riga.verso ? u"verso "_s + localita : localita;
+const RigaCronovia& RigaDi(const Cronovia& cronovia, int riga) {
+    return cronovia.righe[static_cast<std::size_t>(riga)];
 }
+
+bool SullaStrada(const RigaCronovia& riga) { return riga.genere == GenereRiga::Marcia && riga.verso; }
 
 // Where the schedule ends: with its last moment, though nothing happens any more on that day.
 NumeroGiorno UltimoGiorno(const Cronovia& cronovia, NumeroGiorno partenza) {
@@ -49,8 +49,10 @@ class Calendario {
         for (const Fascia& fascia : cronovia_.fasce) {
             Giornata& giornata = Di(fascia.data);
             Somma(fascia, giornata);
-            giornata.notte = Luogo(cronovia_, cronovia_.righe[static_cast<std::size_t>(fascia.riga)]);
+            giornata.notte = LuogoDellaRiga(cronovia_, fascia.riga);
+            giornata.inViaggio = SullaStrada(RigaDi(cronovia_, fascia.riga));
         }
+        Traghetti();
     }
 
     void Rinvii() {
@@ -67,17 +69,34 @@ class Calendario {
     // A day on which nothing happens begins and ends where the one before ended.
     void Luoghi() {
         QString luogo = cronovia_.tabella.righe.front().tappa.localita;
+        bool inViaggio = false;
         for (Giornata& giornata : giornate_) {
             giornata.risveglio = luogo;
-            if (giornata.notte.isEmpty()) giornata.notte = luogo;
+            if (giornata.notte.isEmpty()) {
+                giornata.notte = luogo;
+                giornata.inViaggio = inViaggio;
+            }
             luogo = giornata.notte;
+            inViaggio = giornata.inViaggio;
         }
+        giornate_.back().ultima = true;
     }
 
     std::vector<Giornata> Finite() { return std::move(giornate_); }
 
   private:
     Giornata& Di(NumeroGiorno giorno) { return giornate_[static_cast<std::size_t>(giorno - partenza_)]; }
+
+    // A ferry that goes on the next morning.
+    void Traghetti() {
+        const auto& fasce = cronovia_.fasce;
+        for (std::size_t i = 1; i < fasce.size(); ++i) {
+            if (fasce[i - 1].genere == GenereFascia::Traghetto && fasce[i].genere == GenereFascia::Traghetto &&
+                fasce[i - 1].riga == fasce[i].riga) {
+                Di(fasce[i - 1].data).notteInTraghetto = true;
+            }
+        }
+    }
 
     static void Somma(const Fascia& fascia, Giornata& giornata) {
         const Centesimi tempo = fascia.a - fascia.da;
@@ -120,6 +139,12 @@ std::vector<Giornata> Giornate(const Cronovia& cronovia, NumeroGiorno partenza) 
     calendario.Rinvii();
     calendario.Luoghi();
     return calendario.Finite();
+}
+
+QString LuogoDellaRiga(const Cronovia& cronovia, int riga) {
+    const RigaCronovia& sua = RigaDi(cronovia, riga);
+    const QString& localita = cronovia.tabella.righe[static_cast<std::size_t>(sua.tappa)].tappa.localita;
+    return SullaStrada(sua) ? u"verso "_s + localita : localita;
 }
 
 std::optional<Centesimi> MargineRientro(const RigaCronovia& riga) {

@@ -24,8 +24,11 @@ struct Giornata {
     Centesimi traghetto;  ///< time on ferries
     bool pranzo = false;  ///< a lunch is taken on the way; the one of a stop is part of it
     bool cena = false;
-    int riposi = 0;       ///< short rests
-    bool riposo = false;  ///< a whole day of rest
+    int riposi = 0;                 ///< short rests
+    bool riposo = false;            ///< a whole day of rest
+    bool inViaggio = false;         ///< the night is "verso X"
+    bool notteInTraghetto = false;  ///< the ferry goes on the next morning
+    bool ultima = false;            ///< the journey ends on this day
     std::vector<int>
         righe;  ///< positions of the schedule's rows that end on this day, with the guide entries below them
     std::vector<Rinvio> rinvii;
@@ -34,6 +37,9 @@ struct Giornata {
 /// The days of a schedule, every date from the start to the last row's once, in order; none without rows. `partenza` is
 /// the start date. A piece, a stop or a ferry counts on the day on which its time passes.
 std::vector<Giornata> Giornate(const Cronovia& cronovia, NumeroGiorno partenza);
+
+/// Where one is when a row with a moment has ended: the locality, or "verso X".
+QString LuogoDellaRiga(const Cronovia& cronovia, int riga);
 
 /// How much later than a row's end one could be here and still be at the journey's end in time; negative when that
 /// moment has passed. Nothing for rows without a mark of the return.

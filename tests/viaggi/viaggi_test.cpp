@@ -11,7 +11,8 @@
 #include "exchange/iei/importa_mete.h"
 #include "itinerary/itinerari.h"
 #include "schedule/colonne.h"
-#include "schedule/giornate.h"
+#include "schedule/strisce.h"
+#include "schedule/testi_giornata.h"
 #include "support/prova.h"
 
 namespace cronovia {
@@ -28,34 +29,25 @@ QString Riga(const Testi& testi) {
 
 QString RigaTotali(const TestiTotali& t) { return u"totali\t"_s + t.traghetti + u'\t' + Riga(t.km) + Riga(t.tempo); }
 
-QString TestoRinvio(const Rinvio& rinvio, const Cronovia& cronovia) {
-    static const QStringList nomi = {u"arrivo tardivo"_s, u"traghetto perso"_s, u"sosta su più giorni"_s,
-                                     u"notte tardiva"_s, u"giorni di riposo"_s};
-    const QString quanto = rinvio.giorni > 0 ? QString::number(rinvio.giorni) : TestoOrologio(rinvio.ritardo);
-    const Tappa& tappa = cronovia.tabella.righe[static_cast<std::size_t>(rinvio.tappa)].tappa;
-    return u"%1 (%2) %3"_s.arg(nomi[static_cast<int>(rinvio.genere)], quanto, tappa.localita);
-}
-
-QString TestoGiornata(const Giornata& g, const Cronovia& cronovia) {
-    QStringList parti = {QString::number(g.numero), TestoData(g.data), g.risveglio + u" > "_s + g.notte};
-    QStringList margini;  // in hours
+// A day's line, what it does not tell, and its bars.
+QString TestoDelGiorno(const Giornata& g, const StrisciaDelGiorno& striscia, const Cronovia& cronovia) {
+    QStringList parti = {TestoData(g.data), g.risveglio};
     parti += g.partenza ? TestoOrologio(*g.partenza) + u'-' + TestoOrologio(*g.arrivo) : u"fermo"_s;
-    parti += u"%1 km"_s.arg(g.km);
-    for (const auto& [nome, tempo] :
-         {std::pair(u"guida "_s, g.guida), {u"visite "_s, g.visite}, {u"mare "_s, g.traghetto}}) {
-        if (tempo > 0_cent) parti += nome + TestoOrologio(tempo);
-    }
     if (g.pranzo) parti += u"pranzo"_s;
     if (g.cena) parti += u"cena"_s;
     if (g.riposi > 0) parti += u"riposi %1"_s.arg(g.riposi);
-    if (g.riposo) parti += u"riposo"_s;
+    QStringList margini;  // in hours
     for (const int riga : g.righe) {
         const auto margine = MargineRientro(cronovia.righe[static_cast<std::size_t>(riga)]);
         if (margine) margini += QString::number(qRound(margine->Valore() / 10) / 10.0, 'f', 1);
     }
     parti += u"margini "_s + margini.join(u' ');
-    for (const Rinvio& rinvio : g.rinvii) parti += TestoRinvio(rinvio, cronovia);
-    return parti.join(u'\t') + u'\n';
+    QStringList barre;
+    for (const PezzoDelGiorno& pezzo : striscia) {
+        barre += TestoOreBrevi(pezzo.da) + u'-' + TestoOreBrevi(pezzo.a) + u' ' + Aspetto(pezzo.genere).nome.toString() + u' ' +
+                 pezzo.luogo;
+    }
+    return RigaGiornata(g, cronovia) + u"\n\t"_s + parti.join(u'\t') + u"\n\t"_s + barre.join(u"; "_s) + u'\n';
 }
 
 // What holds for the days of every journey.
@@ -175,8 +167,10 @@ TEST_F(Viaggi, HaveTheirDays) {
                     attese.section(u'\n', 0, 0));
         const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
         QString ottenute = aperta.meta.codice + u'\n';
-        for (const Giornata& giornata : Giornate(cronovia, *aperta.meta.dataInizio)) {
-            ottenute += TestoGiornata(giornata, cronovia);
+        const std::vector<Giornata> giornate = Giornate(cronovia, *aperta.meta.dataInizio);
+        const std::vector<StrisciaDelGiorno> strisce = Strisce(cronovia, giornate);
+        for (std::size_t i = 0; i < giornate.size(); ++i) {
+            ottenute += TestoDelGiorno(giornate[i], strisce[i], cronovia);
         }
         if (qEnvironmentVariableIsSet("CRONOVIA_RIGENERA") && ottenute != attese) {
             prova::ScriviFile(cartella.filePath(u"giornate/"_s + nome), ottenute.toUtf8());

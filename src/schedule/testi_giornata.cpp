@@ -1,0 +1,75 @@
+#include "schedule/testi_giornata.h"
+
+#include "calendar/durata.h"
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView kFraParti = u" · ";
+
+// "a CASTELLANE", "ad ARLES".
+QString A(const QString& luogo) {
+    const QString base = luogo.left(1).normalized(QString::NormalizationForm_D).left(1);
+    return (base.compare(u"a"_s, Qt::CaseInsensitive) == 0 ? u"ad "_s : u"a "_s) + luogo;
+}
+
+QString TestoNotte(const Giornata& giornata) {
+    const QString dove = giornata.inViaggio ? giornata.notte : A(giornata.notte);
+    if (giornata.ultima) return u"fine "_s + dove;
+    return giornata.notteInTraghetto ? u"notte in traghetto"_s : u"notte "_s + dove;
+}
+
+}  // namespace
+
+QString TestoOreBrevi(Centesimi tempo) {
+    const Durata durata = InDurata(tempo, kGiornoOrologio);
+    return QString::number(durata.giorni * 24 + durata.ore) + u':' + Zero(durata.minuti, 2);
+}
+
+QString TestoGiornata(const Giornata& giornata) {
+    QStringList parti = {u"Giorno %1"_s.arg(giornata.numero),
+                         GiornoSettimana(giornata.data).toLower() + u' ' + TestoData(giornata.data).left(5)};
+    if (giornata.km > 0) parti += Raggruppa(giornata.km) + u" km"_s;
+    if (giornata.guida > 0_cent) parti += u"guida "_s + TestoOreBrevi(giornata.guida);
+    if (giornata.visite > 0_cent) parti += u"visite "_s + TestoOreBrevi(giornata.visite);
+    if (giornata.traghetto > 0_cent) parti += u"traghetto "_s + TestoOreBrevi(giornata.traghetto);
+    if (giornata.riposo) parti += u"giorno di riposo"_s;
+    parti += TestoNotte(giornata);
+    return parti.join(kFraParti);
+}
+
+QString Testo(const Rinvio& rinvio, const Cronovia& cronovia) {
+    const Tappa& tappa = cronovia.tabella.righe[static_cast<std::size_t>(rinvio.tappa)].tappa;
+    const QString& luogo = tappa.localita;
+    const QString ritardo = TestoOreBrevi(rinvio.ritardo);
+    switch (rinvio.genere) {
+        case GenereRinvio::ArrivoTardivo:
+            return u"sosta %1 rinviata a domani (arrivo %2 oltre l'orario)"_s.arg(A(luogo), ritardo);
+        case GenereRinvio::TraghettoPerso:
+            return u"traghetto %1 rinviato a domani (arrivo %2 oltre l'orario)"_s.arg(A(luogo), ritardo);
+        case GenereRinvio::SostaSuPiuGiorni:
+            return (tappa.Traghetto() ? u"traghetto"_s : u"sosta"_s) +
+                   u" %1 su %2 giorni"_s.arg(A(luogo), QString::number(rinvio.giorni));
+        case GenereRinvio::NotteTardiva:
+            return u"notte %1 più tardi del solito"_s.arg(ritardo);
+        case GenereRinvio::GiorniDiRiposo:
+            break;
+    }
+    return (rinvio.giorni == 1 ? u"riposo"_s : u"riposo di %1 giorni"_s.arg(rinvio.giorni)) + u" prima di "_s + luogo;
+}
+
+QStringList TestiRinvii(const Giornata& giornata, const Cronovia& cronovia) {
+    QStringList testi;
+    for (const Rinvio& rinvio : giornata.rinvii) testi += Testo(rinvio, cronovia);
+    return testi;
+}
+
+QString RigaGiornata(const Giornata& giornata, const Cronovia& cronovia) {
+    return (QStringList(TestoGiornata(giornata)) + TestiRinvii(giornata, cronovia)).join(kFraParti);
+}
+
+}  // namespace cronovia
