@@ -41,4 +41,15 @@ QString RigaTotali(const TestiTotali& totali) {
                                                                             totali.tempo.back(), totali.traghetti);
 }
 
+void ScriviTotaliEFine(const EsitoCalcolo& esito, QTextStream& uscita) {
+    const Cronovia& cronovia = *esito.cronovia;
+    uscita << RigaTotali(Testi(cronovia.totali, cronovia.orario.GuidaGiorno())) << '\n';
+    if (!cronovia.fine) return;
+    const TestiFine fine = Testi(cronovia.fine);
+    uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(
+        fine.giornoSettimana, fine.giorno, fine.mese, fine.anno, fine.ore, fine.minuti, fine.giorni);
+}
+
+QString SenzaTappe() { return u"L'itinerario non ha ancora tappe.\n"_s; }
+
 }  // namespace cronovia

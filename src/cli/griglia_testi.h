@@ -6,6 +6,7 @@
 
 #include "cli/json.h"
 #include "cli/uscita.h"
+#include "schedule/calcola_cronovia.h"
 #include "schedule/colonne.h"
 #include "trips/meta.h"
 
@@ -22,5 +23,11 @@ QString TitoloMeta(const Meta& meta);
 
 /// Kilometres, driving time and ferries in one line.
 QString RigaTotali(const TestiTotali& totali);
+
+/// What a schedule comes to: that line, and the end of the trip when it has one.
+void ScriviTotaliEFine(const EsitoCalcolo& esito, QTextStream& uscita);
+
+/// What is said instead of the rows of an empty itinerary.
+QString SenzaTappe();
 
 }  // namespace cronovia

@@ -51,6 +51,11 @@ void ScrittoreJson::Numero(int numero) {
     scritto_ += Caratteri(QString::number(numero));
 }
 
+void ScrittoreJson::Logico(bool vero) {
+    Posto();
+    scritto_ += vero ? u"true" : u"false";
+}
+
 void ScrittoreJson::Testi(std::span<const QString> testi) {
     ApreArray();
     for (const QString& testo : testi) Testo(testo);

@@ -31,6 +31,7 @@ class ScrittoreJson {
     void Nome(QStringView nome);
     void Testo(QStringView testo);
     void Numero(int numero);
+    void Logico(bool vero);
 
     /// Texts as an array of strings.
     void Testi(std::span<const QString> testi);

@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <array>
 
-#include "calendar/date.h"
 #include "cli/griglia_testi.h"
 #include "cli/json.h"
 #include "cli/opzioni_calcolo.h"
 #include "cli/verbi.h"
 #include "print/tabella_testo.h"
+#include "schedule/testi_giornata.h"
 
 namespace cronovia {
 
@@ -41,40 +41,33 @@ QString RigaDellaGuida(const RigaGriglia& riga, int rientro) {
            (tempo.isEmpty() ? QString() : u", "_s + tempo) + u')';
 }
 
-void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, const std::vector<RigaGriglia>& righe,
-                  QTextStream& uscita) {
+void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, QTextStream& uscita) {
+    const std::vector<RigaGriglia> righe = TestiDellaCronovia(cronovia);
     const TabellaTesti tabella = ColonneDelGiorno(righe, cronovia);
     const std::vector<int> larghezze = LarghezzeColonne(tabella);
-    const NumeroGiorno partenza = *meta.dataInizio;
-    NumeroGiorno giorno = partenza - 1;
-    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) {
-        const RigaCronovia& riga = cronovia.righe[i];
-        const NumeroGiorno suo = ConMomento(riga.genere) ? riga.data : std::max(giorno, partenza);
-        if (suo != giorno) {
-            uscita << u"\nGiorno %1, %2 %3\n"_s.arg(QString::number(suo - partenza + 1), GiornoSettimana(suo),
-                                                    TestoData(suo));
-            if (giorno < partenza) uscita << RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra) << '\n';
-            giorno = suo;
+    for (const Giornata& giornata : Giornate(cronovia, *meta.dataInizio)) {
+        uscita << '\n' << RigaGiornata(giornata, cronovia) << '\n';
+        if (giornata.numero == 1) uscita << RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra) << '\n';
+        for (const int riga : giornata.righe) {
+            const auto i = static_cast<std::size_t>(riga);
+            const bool guida = cronovia.righe[i].genere == GenereRiga::Guida;
+            uscita << (guida ? RigaDellaGuida(righe[i], larghezze.front() + 3)
+                             : RigaAllineata(tabella.righe[i], larghezze, tabella.aDestra))
+                   << '\n';
         }
-        const bool guida = riga.genere == GenereRiga::Guida;
-        uscita << (guida ? RigaDellaGuida(righe[i], larghezze.front() + 3)
-                         : RigaAllineata(tabella.righe[i], larghezze, tabella.aDestra))
-               << '\n';
     }
 }
 
-void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std::vector<RigaGriglia>& righe,
-                 const TestiTotali& totali, QTextStream& uscita) {
-    uscita << TitoloMeta(aperta.meta) << '\n';
-    if (righe.empty()) uscita << u"\nL'itinerario non ha ancora tappe.\n"_s;
-    ScriviGiorni(aperta.meta, *esito.cronovia, righe, uscita);
-    const TestiFine fine = Testi(esito.cronovia->fine);
-    uscita << '\n' << RigaTotali(totali) << '\n';
-    if (esito.cronovia->fine) {
-        uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(
-            fine.giornoSettimana, fine.giorno, fine.mese, fine.anno, fine.ore, fine.minuti, fine.giorni);
-        const auto& tutte = esito.cronovia->righe;
-        if (std::any_of(tutte.begin(), tutte.end(), [](const RigaCronovia& riga) { return riga.riposoDopo; })) {
+void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, QTextStream& uscita) {
+    const Cronovia& cronovia = *esito.cronovia;
+    uscita << TitoloMeta(meta) << '\n';
+    if (cronovia.righe.empty()) uscita << '\n' << SenzaTappe();
+    ScriviGiorni(meta, cronovia, uscita);
+    uscita << '\n';
+    ScriviTotaliEFine(esito, uscita);
+    if (cronovia.fine) {
+        if (std::any_of(cronovia.righe.begin(), cronovia.righe.end(),
+                        [](const RigaCronovia& riga) { return riga.riposoDopo; })) {
             uscita << u"Ore: * seguono uno o più giorni di riposo.\n"_s;
         }
         uscita << u"Limite ritorno: > ultimo momento per proseguire senza soste, < per tornare indietro.\n"_s;
@@ -83,7 +76,8 @@ void ScriviTesto(const MetaAperta& aperta, const EsitoCalcolo& esito, const std:
 }
 
 // Each row is written when its texts are made: a long trip is never held twice.
-void ScriviJson(const Cronovia& cronovia, const EsitoCalcolo& esito, const TestiTotali& totali, QTextStream& uscita) {
+void ScriviJson(const EsitoCalcolo& esito, QTextStream& uscita) {
+    const Cronovia& cronovia = *esito.cronovia;
     ScrittoreJson json(uscita);
     json.ApreOggetto();
     json.Nome(u"fine");
@@ -97,7 +91,7 @@ void ScriviJson(const Cronovia& cronovia, const EsitoCalcolo& esito, const Testi
     json.Nome(u"tentativi");
     json.Numero(esito.tentativi);
     json.Nome(u"totali");
-    ScriviTotali(totali, json);
+    ScriviTotali(Testi(cronovia.totali, cronovia.orario.GuidaGiorno()), json);
     json.ChiudeOggetto();
 }
 
@@ -109,16 +103,15 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
-    const TestiTotali totali = Testi(cronovia.totali, cronovia.orario.GuidaGiorno());
     const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());
     if (richiesta.formato == Formato::Testo) {
-        ScriviTesto(aperta, esito, TestiDellaCronovia(cronovia), totali, uscita);
+        ScriviTesto(aperta.meta, esito, uscita);
         if (tabella) uscita << RigaTabellaScritta(sessione.Cartella());
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), TestiDellaCronovia(cronovia)), uscita);
     } else {
-        ScriviJson(cronovia, esito, totali, uscita);
+        ScriviJson(esito, uscita);
     }
 }
 

@@ -31,7 +31,7 @@ std::vector<RigaGriglia> RigheDellItinerario(const MetaAperta& aperta) {
 void ScriviTesto(const MetaAperta& aperta, TabellaTesti tabella, const TestiTotali& totali, QTextStream& uscita) {
     uscita << TitoloMeta(aperta.meta) << "\n\n";
     if (tabella.righe.empty()) {
-        uscita << u"L'itinerario non ha ancora tappe.\n"_s;
+        uscita << SenzaTappe();
         return;
     }
     for (const Colonna colonna : {Colonna::Numero, Colonna::Km, Colonna::KmProgressivi, Colonna::Sosta}) {

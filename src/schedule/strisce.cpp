@@ -4,9 +4,9 @@
 #include <array>
 #include <utility>
 
-namespace cronovia {
+#include "schedule/testi_giornata.h"
 
-using namespace Qt::StringLiterals;
+namespace cronovia {
 
 namespace {
 
@@ -77,7 +77,7 @@ class Disegno {
         const ParametriViaggio& p = cronovia_.orario.Parametri();
         for (std::size_t i = 0; i < giornate_.size(); ++i) {
             const Giornata& g = giornate_[i];
-            const QString sera = g.notteInTraghetto ? u"in traghetto"_s : g.notte;
+            const QString sera = LuogoDellaNotte(g);
             const auto riempi = [&](GenerePezzo genere, Centesimi da, Centesimi a, const QString& luogo) {
                 RiempiFra(da, a, {genere, {}, {}, PezzoDelGiorno::kSenzaRiga, luogo}, strisce_[i]);
             };

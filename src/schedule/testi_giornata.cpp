@@ -18,9 +18,9 @@ QString A(const QString& luogo) {
 }
 
 QString TestoNotte(const Giornata& giornata) {
-    const QString dove = giornata.inViaggio ? giornata.notte : A(giornata.notte);
-    if (giornata.ultima) return u"fine "_s + dove;
-    return giornata.notteInTraghetto ? u"notte in traghetto"_s : u"notte "_s + dove;
+    const QString luogo = LuogoDellaNotte(giornata);
+    const bool dove = giornata.inViaggio || giornata.notteInTraghetto;
+    return (giornata.ultima ? u"fine "_s : u"notte "_s) + (dove ? luogo : A(luogo));
 }
 
 }  // namespace
@@ -40,6 +40,10 @@ QString TestoGiornata(const Giornata& giornata) {
     if (giornata.riposo) parti += u"giorno di riposo"_s;
     parti += TestoNotte(giornata);
     return parti.join(kFraParti);
+}
+
+QString LuogoDellaNotte(const Giornata& giornata) {
+    return giornata.notteInTraghetto ? u"in traghetto"_s : giornata.notte;
 }
 
 QString Testo(const Rinvio& rinvio, const Cronovia& cronovia) {

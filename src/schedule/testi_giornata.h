@@ -15,6 +15,9 @@ QString TestoOreBrevi(Centesimi tempo);
 /// CASTELLANE"; on the last day where the journey ends.
 QString TestoGiornata(const Giornata& giornata);
 
+/// Where the night is spent: "CASTELLANE", "verso GUBBIO", "in traghetto".
+QString LuogoDellaNotte(const Giornata& giornata);
+
 /// Why something is later: "sosta a CELLE rinviata a domani (arrivo 0:37 oltre l'orario)".
 QString Testo(const Rinvio& rinvio, const Cronovia& cronovia);
 QStringList TestiRinvii(const Giornata& giornata, const Cronovia& cronovia);

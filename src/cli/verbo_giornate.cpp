@@ -1,0 +1,125 @@
+// giornate.
+#include "calendar/testo.h"
+#include "cli/griglia_testi.h"
+#include "cli/json.h"
+#include "cli/opzioni_calcolo.h"
+#include "cli/verbi.h"
+#include "schedule/testi_giornata.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// "04:10", midnight and no time at all too.
+QString OreEMinuti(Centesimi tempo) {
+    const Durata durata = InDurata(tempo, kGiornoOrologio);
+    return ConNumeri(u"00:00", {durata.giorni * 24 + durata.ore, durata.minuti});
+}
+
+QString Momento(const std::optional<Centesimi>& ora) { return ora ? OreEMinuti(*ora) : QString(); }
+
+QString SeOccupato(Centesimi tempo) { return tempo > 0_cent ? OreEMinuti(tempo) : QString(); }
+
+// Meals on the way and rests.
+QString Pause(const Giornata& giornata) {
+    QStringList pause;
+    if (giornata.pranzo) pause += u"pranzo"_s;
+    if (giornata.cena) pause += u"cena"_s;
+    if (giornata.riposi > 0) pause += u"riposi %1"_s.arg(giornata.riposi);
+    if (giornata.riposo) pause += u"giorno di riposo"_s;
+    return pause.join(u", "_s);
+}
+
+TabellaTesti TabellaDelleGiornate(const std::vector<Giornata>& giornate, const Cronovia& cronovia) {
+    TabellaTesti tabella{{u"Giorno"_s, u"Gs"_s, u"Data"_s, u"Km."_s, u"Guida"_s, u"Visite"_s, u"Traghetti"_s,
+                          u"Partenza"_s, u"Arrivo"_s, u"Pause"_s, u"Notte"_s, u"Rinvii"_s},
+                         {},
+                         {0, 3}};
+    for (const Giornata& g : giornate) {
+        tabella.righe.push_back({QString::number(g.numero), GiornoSettimana(g.data), TestoData(g.data),
+                                 RaggruppaNonZero(g.km), SeOccupato(g.guida), SeOccupato(g.visite),
+                                 SeOccupato(g.traghetto), Momento(g.partenza), Momento(g.arrivo), Pause(g),
+                                 LuogoDellaNotte(g), TestiRinvii(g, cronovia).join(u"; "_s)});
+    }
+    return tabella;
+}
+
+void ScriviGiornata(const Giornata& giornata, const Cronovia& cronovia, ScrittoreJson& json) {
+    const auto testo = [&](QStringView nome, const QString& valore) {
+        json.Nome(nome);
+        json.Testo(valore);
+    };
+    const auto numero = [&](QStringView nome, int valore) {
+        json.Nome(nome);
+        json.Numero(valore);
+    };
+    const auto seVero = [&](QStringView nome, bool valore) {
+        json.Nome(nome);
+        json.Logico(valore);
+    };
+    json.ApreOggetto();
+    testo(u"arrivo", Momento(giornata.arrivo));
+    seVero(u"cena", giornata.cena);
+    testo(u"data", TestoData(giornata.data));
+    testo(u"giorno_settimana", GiornoSettimana(giornata.data));
+    testo(u"guida", OreEMinuti(giornata.guida));
+    numero(u"km", giornata.km);
+    testo(u"notte", giornata.notte);
+    seVero(u"notte_in_traghetto", giornata.notteInTraghetto);
+    numero(u"numero", giornata.numero);
+    testo(u"partenza", Momento(giornata.partenza));
+    seVero(u"pranzo", giornata.pranzo);
+    numero(u"riposi", giornata.riposi);
+    seVero(u"riposo", giornata.riposo);
+    json.Nome(u"righe");
+    json.ApreArray();
+    for (const int riga : giornata.righe) json.Numero(riga + 1);
+    json.ChiudeArray();
+    json.Nome(u"rinvii");
+    json.ApreArray();
+    for (const QString& rinvio : TestiRinvii(giornata, cronovia)) json.Testo(rinvio);
+    json.ChiudeArray();
+    testo(u"risveglio", giornata.risveglio);
+    testo(u"traghetto", OreEMinuti(giornata.traghetto));
+    testo(u"visite", OreEMinuti(giornata.visite));
+    json.ChiudeOggetto();
+}
+
+void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, const TabellaTesti& tabella, QTextStream& uscita) {
+    uscita << TitoloMeta(meta) << "\n\n";
+    if (tabella.righe.empty()) {
+        uscita << SenzaTappe();
+    } else {
+        ScriviAllineata(tabella, uscita);
+    }
+    uscita << '\n';
+    ScriviTotaliEFine(esito, uscita);
+    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+}
+
+}  // namespace
+
+void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
+    Sessione sessione = apri();
+    Progress progress;
+    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *aperta.meta.dataInizio);
+    if (richiesta.formato == Formato::Json) {
+        ScrittoreJson json(uscita);
+        json.ApreArray();
+        for (const Giornata& giornata : giornate) ScriviGiornata(giornata, *esito.cronovia, json);
+        json.ChiudeArray();
+        return;
+    }
+    const TabellaTesti tabella = TabellaDelleGiornate(giornate, *esito.cronovia);
+    if (richiesta.formato == Formato::Tsv) {
+        ScriviTsv(tabella, uscita);
+    } else {
+        ScriviTesto(aperta.meta, esito, tabella, uscita);
+    }
+}
+
+}  // namespace cronovia
