@@ -20,9 +20,9 @@ struct Ingresso {
 };
 
 Ingresso Taglia(const QByteArray& dati) {
-    const auto numero = [&](qsizetype posto) {
-        return posto + 1 < dati.size()
-                   ? static_cast<unsigned char>(dati[posto]) * 256 + static_cast<unsigned char>(dati[posto + 1])
+    const auto numero = [&](qsizetype indice) {
+        return indice + 1 < dati.size()
+                   ? static_cast<unsigned char>(dati[indice]) * 256 + static_cast<unsigned char>(dati[indice + 1])
                    : 0;
     };
     const QByteArray resto = dati.mid(4);

@@ -61,7 +61,7 @@ static_assert(InOrdine(), "a command is found by its number");
 
 }  // namespace
 
-const std::array<DescrizioneComando, kComandi>& Descrizioni() { return kDescrizioni; }
+const std::array<DescrizioneComando, kComandi>& TabellaComandi() { return kDescrizioni; }
 
 const DescrizioneComando& Descrizione(Comando comando) { return kDescrizioni[static_cast<std::size_t>(comando)]; }
 

@@ -17,7 +17,7 @@ struct DescrizioneComando {
 };
 
 /// In the order of `Comando`.
-[[nodiscard]] const std::array<DescrizioneComando, kComandi>& Descrizioni();
+[[nodiscard]] const std::array<DescrizioneComando, kComandi>& TabellaComandi();
 [[nodiscard]] const DescrizioneComando& Descrizione(Comando comando);
 
 /// The caption at this moment: one command unlocks what it computed, another one stops what runs.

@@ -15,25 +15,25 @@ void Duplica(Postazione& p) {
     while (riga > 1 && righe[static_cast<std::size_t>(riga - 1)].localita.isEmpty()) --riga;
     SelezionaRiga(p, riga);
     p.Prova([&] {
-        CopiaPercorso percorso(p.sessione);
+        TavoloCopia tavolo(p.sessione);
         const auto* inserimento = p.Su<schermata::Inserimento>();
-        p.schermata = schermata::Copia{std::move(percorso), inserimento ? *inserimento : schermata::Inserimento()};
+        p.schermata = schermata::Copia{std::move(tavolo), inserimento ? *inserimento : schermata::Inserimento()};
     });
 }
 
-void SullaCopia(Postazione& p, const std::function<void(CopiaPercorso&)>& comando) {
+void SullaCopia(Postazione& p, const std::function<void(TavoloCopia&)>& comando) {
     auto* copia = p.Su<schermata::Copia>();
     if (copia == nullptr) return;
-    p.Prova([&] { comando(copia->percorso); });
-    if (copia->percorso.Mete().empty()) RinunciaDuplicaItinerario(p);
+    p.Prova([&] { comando(copia->tavolo); });
+    if (copia->tavolo.Mete().empty()) RinunciaDuplicaItinerario(p);
 }
 
-void InserisciPercorso(Postazione& p, bool conSoste) {
+void InserisciTratto(Postazione& p, bool conSoste) {
     auto* copia = p.Su<schermata::Copia>();
-    const std::optional<Tratto> tratto = copia ? copia->percorso.Scelto() : std::nullopt;
-    if (!tratto || !BoxConferma(p.volti.interazione, Operazione::InserimentoPercorso)) return;
-    EsitoTratto esito =
-        CopiaTratto(p.documento.Righe(), p.documento.RigaCorrente(), *copia->percorso.Tappe(), *tratto, conSoste);
+    const std::optional<Tratto> tratto = copia ? copia->tavolo.Scelto() : std::nullopt;
+    if (!tratto || !BoxConferma(p.volti.interazione, Operazione::InserimentoTratto)) return;
+    ItinerarioConTratto esito =
+        CopiaTratto(p.documento.Righe(), p.documento.RigaCorrente(), *copia->tavolo.Tappe(), *tratto, conSoste);
     if (!Modifica(p, u"copia di un percorso"_s, std::move(esito.righe), esito.rigaCorrente)) return;
     p.schermata = NuovoInserimento(p.documento);
 }

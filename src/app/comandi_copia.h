@@ -8,9 +8,9 @@ namespace cronovia::comandi {
 /// Lists the trips to copy from, beside the entry of stages.
 void Duplica(Postazione& p);
 /// Does something on the screen; it closes when nothing is left to choose from.
-void SullaCopia(Postazione& p, const std::function<void(CopiaPercorso&)>& comando);
+void SullaCopia(Postazione& p, const std::function<void(TavoloCopia&)>& comando);
 /// Copies the stretch that was chosen, after a question; nothing before both its ends are.
-void InserisciPercorso(Postazione& p, bool conSoste);
+void InserisciTratto(Postazione& p, bool conSoste);
 /// Back to the entry of stages as it was left.
 void RinunciaDuplicaItinerario(Postazione& p);
 

@@ -130,7 +130,7 @@ void AzzeraSoste(Postazione& p) {
 }
 
 void Ritorno(Postazione& p) {
-    EsitoTratto esito = cronovia::Ritorno(p.documento.Righe());
+    ItinerarioConTratto esito = cronovia::Ritorno(p.documento.Righe());
     if (!esito.trovata) {
         p.Mostra(u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s);
     }

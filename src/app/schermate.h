@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include "app/copia_percorso.h"
+#include "app/tavolo_copia.h"
 #include "app/tavolo_guida.h"
 #include "app/tavolo_scambio.h"
 #include "itinerary/modifiche.h"
@@ -57,7 +57,7 @@ struct Guida {
 
 /// A stretch of another trip is chosen, beside the entry of stages.
 struct Copia {
-    CopiaPercorso percorso;
+    TavoloCopia tavolo;
     Inserimento da;  ///< where it leads back to
 };
 

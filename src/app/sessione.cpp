@@ -89,7 +89,7 @@ QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, con
 QString CodiceCompleto(const QString& codice) {
     const QString testo = codice.trimmed();
     const bool cifre = std::all_of(testo.begin(), testo.end(), [](QChar c) { return c.isDigit(); });
-    return cifre && testo.size() < 6 ? AntStr(testo, 6, u'0') : testo;
+    return cifre && testo.size() < 6 ? RiempiPrima(testo, 6, u'0') : testo;
 }
 
 QDateTime InizioProposto(const QDateTime& adesso) {

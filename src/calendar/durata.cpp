@@ -14,7 +14,7 @@ int MinutiInCentesimi(int minuti) { return static_cast<int>(std::floor(minuti * 
 }  // namespace
 
 Durata LeggiDurata(QStringView testo) {
-    const QString pieno = AntStr(testo, 8, u'0');
+    const QString pieno = RiempiPrima(testo, 8, u'0');
     const QStringView parti(pieno);
     return {ValoreNumerico(parti.mid(0, 2)), ValoreNumerico(parti.mid(3, 2)), ValoreNumerico(parti.mid(6, 2))};
 }

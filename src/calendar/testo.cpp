@@ -22,7 +22,7 @@ bool HaCaratteriDiControllo(QStringView testo) {
 }
 
 QString Zero(int valore, int lunghezza) {
-    if (valore < 0) return AntStr(QString::number(valore), lunghezza, u'0');
+    if (valore < 0) return RiempiPrima(QString::number(valore), lunghezza, u'0');
     QString cifre(lunghezza, Qt::Uninitialized);
     ScriviCifre(valore, cifre.begin(), cifre.end());
     return cifre;
@@ -45,11 +45,11 @@ QString ConNumeri(QStringView forma, std::initializer_list<int> numeri) {
     return testo;
 }
 
-QString AggStr(QStringView testo, int lunghezza, QChar riempimento) {
+QString RiempiDopo(QStringView testo, int lunghezza, QChar riempimento) {
     return (testo.toString() + QString(lunghezza, riempimento)).left(lunghezza);
 }
 
-QString AntStr(QStringView testo, int lunghezza, QChar riempimento) {
+QString RiempiPrima(QStringView testo, int lunghezza, QChar riempimento) {
     QString pieno(lunghezza, riempimento);
     const QStringView fine = testo.last(std::min<qsizetype>(testo.size(), lunghezza));
     std::copy(fine.begin(), fine.end(), pieno.end() - fine.size());
@@ -95,7 +95,7 @@ int ValoreNumerico(QStringView testo) {
 QString Raggruppa(std::int64_t numero) {
     QString cifre = QString::number(numero);
     const qsizetype inizio = numero < 0 ? 1 : 0;
-    for (qsizetype posto = cifre.size() - 3; posto > inizio; posto -= 3) cifre.insert(posto, u'.');
+    for (qsizetype indice = cifre.size() - 3; indice > inizio; indice -= 3) cifre.insert(indice, u'.');
     return cifre;
 }
 

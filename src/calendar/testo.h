@@ -21,10 +21,10 @@ QString ConNumeri(QStringView forma, std::initializer_list<int> numeri);
 bool HaCaratteriDiControllo(QStringView testo);
 
 /// Pads on the right: the first `lunghezza` characters of the text followed by fill characters.
-QString AggStr(QStringView testo, int lunghezza, QChar riempimento);
+QString RiempiDopo(QStringView testo, int lunghezza, QChar riempimento);
 
 /// Pads on the left: the last `lunghezza` characters of fill characters followed by the text.
-QString AntStr(QStringView testo, int lunghezza, QChar riempimento);
+QString RiempiPrima(QStringView testo, int lunghezza, QChar riempimento);
 
 /// Title case: a letter that follows a letter of any alphabet becomes small, every other one capital: "SANT'ANNA" is
 /// "Sant'Anna", "NÎMES-2A" is "Nîmes-2A".

@@ -17,8 +17,8 @@ void Nascondi(char16_t c, std::u16string& testo) {
     constexpr std::u16string_view kCaratteri = u"\"\\\b\f\n\r\t";
     constexpr std::u16string_view kNomi = u"\"\\bfnrt";
     testo += u'\\';
-    if (const std::size_t posto = kCaratteri.find(c); posto != kCaratteri.npos) {
-        testo += kNomi[posto];
+    if (const std::size_t indice = kCaratteri.find(c); indice != kCaratteri.npos) {
+        testo += kNomi[indice];
         return;
     }
     testo += u'u';
@@ -35,19 +35,19 @@ ScrittoreJson::~ScrittoreJson() {
 }
 
 void ScrittoreJson::Nome(QStringView nome) {
-    Posto();
+    IniziaValore();
     FraVirgolette(nome);
     scritto_ += u": ";
     dopoNome_ = true;
 }
 
 void ScrittoreJson::Testo(QStringView testo) {
-    Posto();
+    IniziaValore();
     FraVirgolette(testo);
 }
 
 void ScrittoreJson::Numero(int numero) {
-    Posto();
+    IniziaValore();
     scritto_ += Caratteri(QString::number(numero));
 }
 
@@ -63,7 +63,7 @@ void ScrittoreJson::Testi(std::span<const QString> testi) {
 }
 
 void ScrittoreJson::Apre(char16_t parentesi) {
-    Posto();
+    IniziaValore();
     scritto_ += parentesi;
     scritto_ += u'\n';
     rientro_ += kRientro;
@@ -80,7 +80,7 @@ void ScrittoreJson::Chiude(char16_t parentesi) {
 }
 
 // The place of the next value: behind its name, else on a line of its own.
-void ScrittoreJson::Posto() {
+void ScrittoreJson::IniziaValore() {
     if (dopoNome_) {
         dopoNome_ = false;
         return;

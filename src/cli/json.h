@@ -39,7 +39,7 @@ class ScrittoreJson {
   private:
     void Apre(char16_t parentesi);
     void Chiude(char16_t parentesi);
-    void Posto();
+    void IniziaValore();
     void FraVirgolette(QStringView testo);
     void Consegna();
 

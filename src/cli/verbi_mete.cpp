@@ -33,7 +33,7 @@ TabellaTesti TabellaDelleMete(const std::vector<Record>& record) {
 QDateTime LeggiInizio(const QString& testo) {
     static const QRegularExpression forma(u"^(\\d{1,2})/(\\d{1,2})/(\\d{4}) +(\\d{1,2}):(\\d{2})$"_s);
     const QRegularExpressionMatch parti = forma.match(testo.trimmed());
-    const auto numero = [&](int posto) { return parti.captured(posto).toInt(); };
+    const auto numero = [&](int gruppo) { return parti.captured(gruppo).toInt(); };
     const QTime ora(numero(4), numero(5));
     const bool data = LeggiData(TestoGma({numero(1), numero(2), numero(3)})).has_value();
     if (!data && ora.isValid() && QDate::isValid(numero(3), numero(2), numero(1))) throw WrongUsage(MessaggioData());

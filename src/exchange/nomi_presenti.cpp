@@ -9,8 +9,8 @@ constexpr std::int64_t kTroppeRighe = 200'000;
 
 }  // namespace
 
-NomiPresenti::NomiPresenti(Archive& archive, Table tabella, std::vector<int> posti)
-    : archive_(archive), tabella_(tabella), posti_(std::move(posti)) {}
+NomiPresenti::NomiPresenti(Archive& archive, Table tabella, std::vector<int> campi)
+    : archive_(archive), tabella_(tabella), campi_(std::move(campi)) {}
 
 std::optional<std::int64_t> NomiPresenti::Trova(std::span<const NamePattern> prime, const QString& nome) {
     const auto trovata = Trova(prime, NamePattern::ForName(nome));
@@ -26,12 +26,12 @@ std::optional<std::int64_t> NomiPresenti::Trova(std::span<const NamePattern> pri
         return indice_->Find(modello.Then(ultimo));
     }
     Search ricerca{tabella_, {}};
-    for (std::size_t i = 0; i < prime.size(); ++i) ricerca.conditions.push_back({posti_[i], prime[i]});
-    ricerca.conditions.push_back({posti_.back(), ultimo});
+    for (std::size_t i = 0; i < prime.size(); ++i) ricerca.conditions.push_back({campi_[i], prime[i]});
+    ricerca.conditions.push_back({campi_.back(), ultimo});
     const std::int64_t prima = archive_.RowsRead();
     const auto trovata = archive_.Find(ricerca);
     righeLette_ += archive_.RowsRead() - prima;
-    if (righeLette_ > kTroppeRighe) indice_.emplace(archive_, tabella_, posti_);
+    if (righeLette_ > kTroppeRighe) indice_.emplace(archive_, tabella_, campi_);
     return trovata;
 }
 

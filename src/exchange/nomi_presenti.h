@@ -17,7 +17,7 @@ namespace cronovia {
 class NomiPresenti {
   public:
     /// Names that lie in these fields of a table.
-    NomiPresenti(Archive& archive, Table tabella, std::vector<int> posti);
+    NomiPresenti(Archive& archive, Table tabella, std::vector<int> campi);
 
     /// The id of a row whose first fields match `prime` and whose last one has that name by the rules of name matching.
     /// Other installations store one blank behind a name, or in its place.
@@ -32,7 +32,7 @@ class NomiPresenti {
 
     Archive& archive_;
     Table tabella_;
-    std::vector<int> posti_;
+    std::vector<int> campi_;
     std::int64_t righeLette_ = 0;
     std::optional<NameIndex> indice_;
 };

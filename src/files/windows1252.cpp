@@ -16,9 +16,9 @@ constexpr std::array<char16_t, 32> kAlti = {0x20AC, 0x0081, 0x201A, 0x0192, 0x20
 
 std::optional<char> Byte(char16_t c) {
     if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
-    const auto* posto = std::find(kAlti.begin(), kAlti.end(), c);
-    if (posto == kAlti.end()) return std::nullopt;
-    return static_cast<char>(0x80 + (posto - kAlti.begin()));
+    const auto* trovato = std::find(kAlti.begin(), kAlti.end(), c);
+    if (trovato == kAlti.end()) return std::nullopt;
+    return static_cast<char>(0x80 + (trovato - kAlti.begin()));
 }
 
 // Letters that no decomposition leads back to a base letter.

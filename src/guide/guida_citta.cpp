@@ -39,7 +39,7 @@ void InserisciTipiPredefiniti(Archive& archive) {
 void Ordina(VociGuida& voci) {
     struct Chiave {
         QString testo;
-        std::size_t posto;
+        std::size_t indice;
     };
     std::vector<Chiave> chiavi;
     chiavi.reserve(voci.size());
@@ -48,12 +48,12 @@ void Ordina(VociGuida& voci) {
     }
     std::sort(chiavi.begin(), chiavi.end(), [&](const Chiave& a, const Chiave& b) {
         if (const int prima = a.testo.compare(b.testo); prima != 0) return prima < 0;
-        return std::tie(voci[a.posto].descrizione, voci[a.posto].id) <
-               std::tie(voci[b.posto].descrizione, voci[b.posto].id);
+        return std::tie(voci[a.indice].descrizione, voci[a.indice].id) <
+               std::tie(voci[b.indice].descrizione, voci[b.indice].id);
     });
     VociGuida ordinate;
     ordinate.reserve(voci.size());
-    for (const Chiave& chiave : chiavi) ordinate.push_back(std::move(voci[chiave.posto]));
+    for (const Chiave& chiave : chiavi) ordinate.push_back(std::move(voci[chiave.indice]));
     voci = std::move(ordinate);
 }
 

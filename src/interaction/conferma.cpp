@@ -16,7 +16,7 @@ QString Nome(Operazione operazione) {
             return u"Annullamento meta"_s;
         case Operazione::AnnullamentoItinerario:
             return u"Annullamento itinerario"_s;
-        case Operazione::InserimentoPercorso:
+        case Operazione::InserimentoTratto:
             return u"Inserimento tappe percorso"_s;
         case Operazione::Export:
             return u"Export delle mète selezionate"_s;

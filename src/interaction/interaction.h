@@ -49,7 +49,7 @@ enum class Operazione {
     ModificaMeta,
     AnnullamentoMeta,
     AnnullamentoItinerario,
-    InserimentoPercorso,
+    InserimentoTratto,
     Export,
     Import,
 };

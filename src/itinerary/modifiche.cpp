@@ -76,8 +76,8 @@ RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa
 }
 
 RigheItinerario InserisciRigheItinerario(RigheItinerario righe, int riga, int numero) {
-    const auto posto = std::min(Indice(riga), righe.size());
-    righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(posto), static_cast<std::size_t>(numero), Tappa());
+    const auto indice = std::min(Indice(riga), righe.size());
+    righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(indice), static_cast<std::size_t>(numero), Tappa());
     return righe;
 }
 

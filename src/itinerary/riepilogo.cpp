@@ -23,9 +23,9 @@ QString TestoTotale(const Durata& tempo) {
 }  // namespace
 
 void Totali::Aggiunge(TipoStrada tipo, int kmTratta, Centesimi tempoTratta) {
-    for (const std::size_t posto : {Indice(tipo), kTuttiITipi}) {
-        km[posto] += kmTratta;
-        tempo[posto] += tempoTratta;
+    for (const std::size_t indice : {Indice(tipo), kTuttiITipi}) {
+        km[indice] += kmTratta;
+        tempo[indice] += tempoTratta;
     }
 }
 

@@ -7,9 +7,9 @@ namespace cronovia {
 using namespace Qt::StringLiterals;
 
 std::optional<TipoStrada> LeggiTipoStrada(QStringView lettera) {
-    const qsizetype posto = lettera.size() == 1 ? QStringView(u"ASPL").indexOf(lettera.front()) : -1;
-    if (posto < 0) return std::nullopt;
-    return static_cast<TipoStrada>(posto);
+    const qsizetype indice = lettera.size() == 1 ? QStringView(u"ASPL").indexOf(lettera.front()) : -1;
+    if (indice < 0) return std::nullopt;
+    return static_cast<TipoStrada>(indice);
 }
 
 QString LetteraTipoStrada(std::optional<TipoStrada> tipo) { return tipo ? NomeTipoStrada(*tipo).left(1) : QString(); }

@@ -22,8 +22,8 @@ Tappa Raggiunta(const Tappa& luogo, const Tappa* tratto) {
 
 }  // namespace
 
-EsitoTratto Ritorno(std::span<const Tappa> righe) {
-    EsitoTratto esito;
+ItinerarioConTratto Ritorno(std::span<const Tappa> righe) {
+    ItinerarioConTratto esito;
     std::copy_if(righe.begin(), righe.end(), std::back_inserter(esito.righe),
                  [](const Tappa& t) { return !Libera(t); });
     const std::size_t tappe = esito.righe.size();
@@ -48,17 +48,17 @@ Tratto TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int
     return {primo, ultimo};
 }
 
-EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto,
-                        bool conSoste) {
+ItinerarioConTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto,
+                                bool conSoste) {
     const int passo = tratto.da <= tratto.a ? 1 : -1;
     RigheItinerario nuove;
     for (int i = tratto.da; i != tratto.a + passo; i += passo) {
-        const auto posto = static_cast<std::size_t>(i - 1);
-        const std::size_t strada = passo > 0 ? posto : posto + 1;
-        Tappa tappa = Raggiunta(sorgente[posto], strada < sorgente.size() ? &sorgente[strada] : nullptr);
+        const auto indice = static_cast<std::size_t>(i - 1);
+        const std::size_t strada = passo > 0 ? indice : indice + 1;
+        Tappa tappa = Raggiunta(sorgente[indice], strada < sorgente.size() ? &sorgente[strada] : nullptr);
         if (conSoste) {
-            tappa.sosta = sorgente[posto].sosta;
-            tappa.fineGiorno = sorgente[posto].fineGiorno;
+            tappa.sosta = sorgente[indice].sosta;
+            tappa.fineGiorno = sorgente[indice].fineGiorno;
         }
         nuove.push_back(std::move(tappa));
     }

@@ -9,7 +9,7 @@
 namespace cronovia {
 
 /// An itinerary after a command, with the row that is current then.
-struct EsitoTratto {
+struct ItinerarioConTratto {
     RigheItinerario righe;
     int rigaCorrente = 1;
     bool trovata = true;  ///< false when `Ritorno` found no place of the last stage's name: nothing was added
@@ -19,7 +19,7 @@ struct EsitoTratto {
 /// the last stage's too; each leg has the road and the kilometres of the same leg of the way out, and no stop. Free
 /// rows go. The row of that place is the current one; where the last stage is a place not passed before, nothing is
 /// added and the last stage is.
-EsitoTratto Ritorno(std::span<const Tappa> righe);
+ItinerarioConTratto Ritorno(std::span<const Tappa> righe);
 
 /// Rows of the trip that is copied from, `da` first; `da` beyond `a` is the stretch driven the other way.
 struct Tratto {
@@ -36,6 +36,7 @@ Tratto TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int
 /// Puts a stretch after the stage of row `riga`, or before it when that row is free. A leg driven the other way has the
 /// road and kilometres of the stage that follows in the source; behind its last stage there is none. Stops, with the
 /// ends of days, come along with `conSoste`. The first new row is the current one.
-EsitoTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto, bool conSoste);
+ItinerarioConTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto,
+                                bool conSoste);
 
 }  // namespace cronovia

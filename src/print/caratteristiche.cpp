@@ -19,8 +19,11 @@ constexpr std::array<double, 4> kGruppi = {kSinistraCronovia, 66, 125, 193};
 // The lines of one group, 0 being that of its caption.
 class Gruppo {
   public:
-    Gruppo(Foglio& foglio, std::size_t posto)
-        : foglio_(foglio), sinistra_(kGruppi[posto]), destra_(kGruppi[posto + 1]), prima_(foglio.RigaStampa() + 1.6) {}
+    Gruppo(Foglio& foglio, std::size_t gruppo)
+        : foglio_(foglio),
+          sinistra_(kGruppi[gruppo]),
+          destra_(kGruppi[gruppo + 1]),
+          prima_(foglio.RigaStampa() + 1.6) {}
 
     void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {Famiglia::Times, 8, true}); }
     void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {Famiglia::Times, 8}); }

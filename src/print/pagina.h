@@ -22,7 +22,7 @@ struct Carattere {
 };
 
 /// A text in its place. All lengths of the model are millimetres, x to the right and y down.
-struct TestoPosto {
+struct TestoCollocato {
     QString testo;
     Carattere carattere;
     double x = 0;          ///< left edge
@@ -60,7 +60,7 @@ struct Pagina {
     std::vector<Riquadro> riquadri;
     std::vector<Linea> linee;
     std::vector<Immagine> immagini;
-    std::vector<TestoPosto> testi;  ///< in the order in which they are to be read
+    std::vector<TestoCollocato> testi;  ///< in the order in which they are to be read
 };
 
 /// A printout on A4 sheets, upright. Without pages it is one blank sheet.

@@ -77,7 +77,7 @@ class Pittore {
         }
         for (const Immagine& immagine : pagina.immagini) Dipingi(immagine);
         pennello_.setPen(Qt::black);
-        for (const TestoPosto& testo : pagina.testi) {
+        for (const TestoCollocato& testo : pagina.testi) {
             pennello_.setFont(font_.Font(testo.carattere));
             pennello_.drawText(Punto(testo.x, testo.base), testo.testo);
         }

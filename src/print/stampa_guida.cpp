@@ -42,14 +42,14 @@ std::vector<LocalitaStampata> LocalitaDelViaggio(Archive& archive, const QString
 // Names that differ in case alone are the same locality.
 std::vector<LocalitaStampata> TutteLeLocalita(Archive& archive) {
     const std::vector<TipoGuida> tipi = CaricaTipiGuida(archive);
-    std::map<QString, std::size_t> posti;
+    std::map<QString, std::size_t> indici;
     std::vector<LocalitaStampata> localita;
     for (const Record& record :
          archive.Select({Table::GuidaCitta, {}}, {guida::Localita, guida::CodiceGuida, guida::Descrizione})) {
         const QString nome = record[guida::Localita].trimmed();
-        const auto [posto, nuova] = posti.try_emplace(nome.toCaseFolded(), localita.size());
+        const auto [indice, nuova] = indici.try_emplace(nome.toCaseFolded(), localita.size());
         if (nuova) localita.push_back({nome, {}});
-        localita[posto->second].voci.push_back(VoceDelRecord(record, tipi));
+        localita[indice->second].voci.push_back(VoceDelRecord(record, tipi));
     }
     return localita;
 }

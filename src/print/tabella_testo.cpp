@@ -33,8 +33,8 @@ QString RigaTabella(const RigaGriglia& riga) {
 // Where a file is, or would be, whatever leads there.
 QString Posto(const QString& path) {
     const QFileInfo info(path);
-    const QString posto = info.canonicalFilePath();
-    return posto.isEmpty() ? info.dir().canonicalPath() + u'/' + info.fileName() : posto;
+    const QString vero = info.canonicalFilePath();
+    return vero.isEmpty() ? info.dir().canonicalPath() + u'/' + info.fileName() : vero;
 }
 
 QByteArray TabellaCronovia(const DatiStampa& dati) {

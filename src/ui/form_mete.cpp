@@ -98,7 +98,7 @@ QWidget* FormMete::CreaAreaGriglia() {
     layout->addWidget(&viaggio_->Elenco(), 0, 0, Qt::AlignLeft);
     layout->addWidget(cmbRicercaTappa_, 0, 0, Qt::AlignLeft);
     layout->addWidget(&inserimento_.Area(), 0, 1, 2, 1);
-    layout->addWidget(&copia_.Percorso(), 0, 1, 2, 1);
+    layout->addWidget(&copia_.RiquadroTratto(), 0, 1, 2, 1);
     layout->addWidget(&copia_.Lista(), 1, 0);
     layout->addWidget(&guida_.Riquadro(), 1, 0, 1, 2);
     layout->setRowStretch(0, 1);
@@ -109,11 +109,11 @@ QWidget* FormMete::CreaAreaGriglia() {
 }
 
 void FormMete::CreaStampe(QGridLayout& area) {
-    const ComandoStampa::Volti volti{postazione_, interazione_, *avanzamento_, *this,
-                                     [this](const auto& comando) { Esegui(comando); }};
-    stampa_ = new ComandoStampa(volti, area);
-    guida_.ImpostaStampa(*new ComandoStampaGuida(volti, stampa_->Stampante(), area));
-    azioni_ = new AzioniModifica(*this, {&inserimento_.Riquadro(), &griglia_.Vista()}, postazione_, volti.esegui);
+    const ComandoStampa::Ambiente ambiente{postazione_, interazione_, *avanzamento_, *this,
+                                           [this](const auto& comando) { Esegui(comando); }};
+    stampa_ = new ComandoStampa(ambiente, area);
+    guida_.ImpostaStampa(*new ComandoStampaGuida(ambiente, stampa_->Stampante(), area));
+    azioni_ = new AzioniModifica(*this, {&inserimento_.Riquadro(), &griglia_.Vista()}, postazione_, ambiente.esegui);
 }
 
 void FormMete::Collega() {

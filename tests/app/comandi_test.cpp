@@ -51,7 +51,7 @@ TEST_F(ComandiTest, DeletingATripFallsBackToTheHighestCode) {
         EXPECT_EQ(Schermo(), schermo);
     }
     EXPECT_EQ(Righe(), u""_s);
-    EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
+    EXPECT_EQ(Sessione(cartella_.Path()).Archivio().Count(Table::Itinerari), 0);
 }
 
 TEST_F(ComandiTest, EveryVerbIsUndoneAndDoneAgainByName) {
@@ -253,7 +253,7 @@ TEST_F(ComandiTest, NothingOfATripDeletedMeanwhileIsLeftForTheNextOfItsCode) {
         copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + perche);
         comandi::Fine(*postazione_);
         EXPECT_EQ(Righe(), u"A"_s);
-        EXPECT_EQ(Sessione(cartella_.Percorso()).Archivio().Count(Table::Itinerari), 0);
+        EXPECT_EQ(Sessione(cartella_.Path()).Archivio().Count(Table::Itinerari), 0);
         for (const auto& comando : std::vector<std::function<void()>>{
                  [this] { Viaggio().SalvaCampi(Viaggio().DecidiSalvataggio()); },
                  [this] { Viaggio().CancellaTappe(avanzamento_); }, [this] { Viaggio().Cancella(avanzamento_); }}) {

@@ -17,7 +17,7 @@ const QString kAnnulla = u"|Annulla importazione"_s;
 
 class ScambioTest : public prova::PostazioneTest {
   protected:
-    Archive AltraFinestra() { return Archive::Open(cartella_.Percorso()); }
+    Archive AltraFinestra() { return Archive::Open(cartella_.Path()); }
     QStringList Archivio() {
         Archive archive = AltraFinestra();
         return Tutto(archive);
@@ -52,7 +52,7 @@ class ScambioTest : public prova::PostazioneTest {
         ImExp();
     }
 
-    const QString amiciIei_ = cartella_.Percorso() + u"/amici.iei"_s;
+    const QString amiciIei_ = cartella_.Path() + u"/amici.iei"_s;
     const QByteArray amici_ = prova::Mete("000001|ROMA|ITALIA\n000002|PISA|ITALIA\n") +
                               prova::Tappe("000002|0001|LUCCA\n") + prova::Guida("LUCCA|01|Mura\n");
 };
@@ -129,7 +129,7 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     EXPECT_EQ(Lista(0) + u"|"_s + Lista(1), u"ROMA|PISA"_s);
     EXPECT_EQ(Tavolo().FileProposto(), u"PISA.iei"_s);
     EXPECT_EQ(Schermo(), u"scambio"_s);
-    const QString altro = cartella_.Percorso() + u"/altro.iei"_s;
+    const QString altro = cartella_.Path() + u"/altro.iei"_s;
     prova::ScriviFile(altro, "mio");
     const QString esiste = u"Il file %1 esiste già: ricopro?"_s.arg(altro);
     copione_.Domanda(esiste, u"File %1 esistente"_s.arg(altro), Answer::No);
@@ -179,8 +179,8 @@ TEST_F(ScambioTest, OldDataIsConvertedAfterAQuestion) {
     EXPECT_FALSE(postazione_->ConverteOfferto());
     QByteArray record = QByteArray("PROVENZA").leftJustified(97) + "0007";
     record = record.leftJustified(FormaVecchieMete().LunghezzaCampi()).leftJustified(128, '\0');
-    prova::ScriviFile(cartella_.Percorso() + u"/VANDMETE.DAT"_s, record);
-    prova::ScriviFile(cartella_.Percorso() + u"/vand0007.dat"_s, "guasto");
+    prova::ScriviFile(cartella_.Path() + u"/VANDMETE.DAT"_s, record);
+    prova::ScriviFile(cartella_.Path() + u"/vand0007.dat"_s, "guasto");
     postazione_ = NuovaPostazione();
     EXPECT_TRUE(postazione_->ConverteOfferto());
     const QString vuoi =

@@ -15,9 +15,9 @@ class SessioneTest : public testing::Test {
     void ImportaProvenza() {
         ImportaMete({sessione_.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), {}}, progress_);
     }
-    void CambiaMeta(int posto, const QString& valore) {
+    void CambiaMeta(int campo, const QString& valore) {
         Record record = *sessione_.Archivio().SelectFirst({Table::MeteVandro, {}});
-        record[posto] = valore;
+        record[campo] = valore;
         sessione_.Archivio().Update(Table::MeteVandro, record);
     }
     int Giorni(const MetaAperta& aperta, const OpzioniCalcolo& opzioni = {}) {
@@ -26,7 +26,7 @@ class SessioneTest : public testing::Test {
 
     prova::CartellaDiProva cartella_;
     Progress progress_;
-    Sessione sessione_{cartella_.Percorso()};
+    Sessione sessione_{cartella_.Path()};
 };
 
 TEST_F(SessioneTest, ANewArchiveGetsStandardParametersAndLaterOnesKeepTheirs) {
@@ -36,7 +36,7 @@ TEST_F(SessioneTest, ANewArchiveGetsStandardParametersAndLaterOnesKeepTheirs) {
     miei.mediaKm = {90, 80, 60, 45};
     record.values = ValoriDeiParametri(miei);
     sessione_.Archivio().Update(Table::Parametri, record);
-    Sessione dopo(cartella_.Percorso());
+    Sessione dopo(cartella_.Path());
     EXPECT_EQ(dopo.Archivio().Count(Table::TipoGuida), 9);
     EXPECT_EQ(dopo.Archivio().Count(Table::Parametri), 1);
     const QString codice = dopo.NuovaMeta(u"corsica"_s, u"francia"_s, QDate(2027, 6, 5).startOfDay());
@@ -87,7 +87,7 @@ TEST_F(SessioneTest, WhileAScheduleIsComputedOthersCanWriteAndItKeepsItsGuide) {
     ImportaProvenza();
     const auto visite = [](const EsitoCalcolo& esito) { return esito.cronovia->tabella.totaleSoste; };
     const MetaCalcolata ferma = sessione_.ApriECalcola(u"3"_s, {}, progress_);
-    AltroCheScrive altro(cartella_.Percorso());
+    AltroCheScrive altro(cartella_.Path());
     EXPECT_EQ(visite(sessione_.ApriECalcola(u"3"_s, {}, altro).esito), visite(ferma.esito));
     EXPECT_GT(altro.scritte, 1);
     altro.scritte = 100;

@@ -14,7 +14,7 @@ using Fase = schermata::Viaggio::Fase;
 QString Abilitati(const Fatti& fatti, const Schermata& schermata) {
     const StatoComandi stato = StatoDeiComandi(fatti, schermata);
     QStringList nomi;
-    for (const DescrizioneComando& d : Descrizioni()) {
+    for (const DescrizioneComando& d : TabellaComandi()) {
         if (stato.Abilitato(d.comando)) nomi += QString::fromUtf16(d.nome).mid(3);
     }
     return nomi.join(u' ');

@@ -37,7 +37,7 @@ class Programma {
     }
 
     [[nodiscard]] Risposta Esegui(const QStringList& argomenti, const QString& locale = QStringLiteral("C")) const {
-        return EseguiNudo(QStringList{QStringLiteral("--cartella"), cartella_.Percorso()} + argomenti, locale);
+        return EseguiNudo(QStringList{QStringLiteral("--cartella"), cartella_.Path()} + argomenti, locale);
     }
 
     /// What a command that must succeed, and then has nothing to say on standard error, writes.

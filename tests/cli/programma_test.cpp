@@ -16,7 +16,7 @@ TEST(Programma, AResultThatCannotBeWrittenIsNoSuccess) {
     QProcess processo;
     processo.setStandardOutputFile(u"/dev/full"_s);
     processo.start(QStringLiteral(CRONOVIA_PROGRAM),
-                   {u"--cartella"_s, programma.Cartella().Percorso(), u"calcola"_s, u"3"_s});
+                   {u"--cartella"_s, programma.Cartella().Path(), u"calcola"_s, u"3"_s});
     ASSERT_TRUE(processo.waitForFinished());
     EXPECT_EQ(processo.exitCode(), 1);
     EXPECT_EQ(QString::fromUtf8(processo.readAllStandardError()), u"Il risultato non si può scrivere.\n"_s);
@@ -30,7 +30,7 @@ TEST(Programma, WhatDrawsIsMissedOnlyByWhatDraws) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(CRONOVIA_PROGRAM), solo));
     const auto esegui = [&](const QStringList& argomenti) {
         QProcess processo;
-        processo.start(solo, QStringList{u"--cartella"_s, programma.Cartella().Percorso()} + argomenti);
+        processo.start(solo, QStringList{u"--cartella"_s, programma.Cartella().Path()} + argomenti);
         EXPECT_TRUE(processo.waitForFinished());
         const QString errori = QString::fromUtf8(processo.readAllStandardError());
         return std::pair{processo.exitCode(), errori.section(u':', 0, 0)};
@@ -63,7 +63,7 @@ TEST(Programma, OfManyRoutesAtOnceOneFindsTheItineraryEmpty) {
     for (int i = 0; i < 16; ++i) {
         processi.push_back(std::make_unique<QProcess>());
         processi.back()->start(QStringLiteral(CRONOVIA_PROGRAM),
-                               {u"--cartella"_s, programma.Cartella().Percorso(), u"percorso"_s, u"1"_s, percorso});
+                               {u"--cartella"_s, programma.Cartella().Path(), u"percorso"_s, u"1"_s, percorso});
     }
     int riusciti = 0;
     for (const auto& processo : processi) {
@@ -82,13 +82,13 @@ TEST(Programma, APrintoutWithoutRoomLeavesTheOldTable) {
     const QString percorso = QStringLiteral(CRONOVIA_EXAMPLES) + u"/percorsi/livorno-ajaccio.txt"_s;
     EXPECT_NE(programma.Uscita({u"percorso"_s, u"1"_s, percorso}), QString());
     EXPECT_NE(programma.Uscita({u"calcola"_s, u"1"_s, u"--tabella"_s}), QString());
-    const QString tabella = programma.Cartella().Percorso() + u"/Vandtabl.txt"_s;
+    const QString tabella = programma.Cartella().Path() + u"/Vandtabl.txt"_s;
     const QByteArray prima = prova::LeggiFile(tabella);
-    const rlim_t posto = 2 * static_cast<rlim_t>(prima.size());  // enough for a table, not for pages
+    const rlim_t spazio = 2 * static_cast<rlim_t>(prima.size());  // enough for a table, not for pages
     Risposta risposta;
-    prova::ConDiscoPieno(posto, [&] {
+    prova::ConDiscoPieno(spazio, [&] {
         risposta = programma.Esegui(
-            {u"stampa"_s, u"1"_s, u"--giorni"_s, u"3"_s, u"--pdf"_s, programma.Cartella().Percorso() + u"/x.pdf"_s});
+            {u"stampa"_s, u"1"_s, u"--giorni"_s, u"3"_s, u"--pdf"_s, programma.Cartella().Path() + u"/x.pdf"_s});
     });
     EXPECT_EQ(risposta.codice, 1);
     EXPECT_TRUE(risposta.errori.contains(u"x.pdf non è stato scritto"_s)) << risposta.errori.toStdString();
@@ -108,7 +108,7 @@ TEST(Programma, ManyNamesThatNoIndexOfTheTableFindsTakeSeconds) {
         mete += numero + "|" + inizio + numero + "|I\n";
         voci += "ROMA|01|L'" + numero + "\n";
     }
-    const QString file = programma.Cartella().Percorso() + u"/tante.iei"_s;
+    const QString file = programma.Cartella().Path() + u"/tante.iei"_s;
     prova::ScriviFile(file, prova::Mete(mete) + prova::Tappe("000001|0001|ROMA\n") + prova::Guida(voci));
     EXPECT_TRUE(programma.Uscita({u"importa"_s, file}).contains(u"20.000 mète/itinerari;"_s));
 }

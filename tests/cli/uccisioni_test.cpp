@@ -80,7 +80,7 @@ class Uccisore {
 
 // An archive with one trip.
 void Comincia(const prova::CartellaDiProva& cartella) {
-    Archive archive = Archive::Open(cartella.Percorso());
+    Archive archive = Archive::Open(cartella.Path());
     prova::Inserisci(archive, Table::MeteVandro, {u"000001"_s, u"ALBA"_s});
     prova::Inserisci(archive, Table::Itinerari, {u"000001"_s, u"0001"_s, u"BRA"_s});
 }
@@ -95,10 +95,10 @@ TEST(Uccisioni, AnImportIsWholeOrAbsent) {
         mete += numero + "|Meta " + numero + "|I\n";
         tappe += numero + "|0001|Tappa " + numero + "\n";
     }
-    const QString file = cartella.Percorso() + u"/amici.iei"_s;
+    const QString file = cartella.Path() + u"/amici.iei"_s;
     prova::ScriviFile(file, prova::Mete(mete) + prova::Tappe(tappe));
-    const QStringList prima = Tutto(cartella.Percorso());
-    Uccisore uccisore(cartella.Percorso(), {u"importa"_s, file});
+    const QStringList prima = Tutto(cartella.Path());
+    Uccisore uccisore(cartella.Path(), {u"importa"_s, file});
     int interi = 0;
     for (int i = 0; i < Uccisioni(); ++i) {
         uccisore.Uccidi();
@@ -141,10 +141,10 @@ void ScriviVecchiFile(const QString& cartella) {
 TEST(Uccisioni, AConversionIsWholeOrAbsentAndCanBeDoneAgain) {
     const prova::CartellaDiProva cartella;
     Comincia(cartella);
-    ScriviVecchiFile(cartella.Percorso());
-    const QStringList prima = Tutto(cartella.Percorso());
-    const auto vecchi = QDir(cartella.Percorso()).entryList({u"vand*.dat"_s}, QDir::Files).size();
-    Uccisore uccisore(cartella.Percorso(), {u"converte"_s});
+    ScriviVecchiFile(cartella.Path());
+    const QStringList prima = Tutto(cartella.Path());
+    const auto vecchi = QDir(cartella.Path()).entryList({u"vand*.dat"_s}, QDir::Files).size();
+    Uccisore uccisore(cartella.Path(), {u"converte"_s});
     int interi = 0;
     int ripresi = 0;
     for (int i = 0; i < Uccisioni(); ++i) {
@@ -152,7 +152,7 @@ TEST(Uccisioni, AConversionIsWholeOrAbsentAndCanBeDoneAgain) {
         const QStringList adesso = Tutto(uccisore.Cartella());
         ASSERT_TRUE(adesso == prima || adesso == uccisore.Dopo());
         if (adesso != prima) ++interi;
-        NienteEPerso(cartella.Percorso(), uccisore.Cartella());
+        NienteEPerso(cartella.Path(), uccisore.Cartella());
         const auto rimasti = QDir(uccisore.Cartella()).entryList({u"vand*.dat"_s}, QDir::Files).size();
         ASSERT_TRUE(adesso != prima || rimasti == vecchi);
         ASSERT_EQ(QFile::exists(uccisore.Cartella() + u"/VandMete.dat"_s), rimasti > 0);

@@ -39,7 +39,7 @@ class VerbaliTest : public testing::TestWithParam<QString> {
             if (riga.startsWith(u'|') || riga.startsWith(u'!') || riga.startsWith(u'=')) continue;
             nuovo += riga + u'\n';
             QString espansa = riga;
-            espansa.replace(u"{cartella}"_s, cartella_.Percorso()).replace(u"{esempi}"_s, kEsempi);
+            espansa.replace(u"{cartella}"_s, cartella_.Path()).replace(u"{esempi}"_s, kEsempi);
             if (riga.startsWith(u"$"_s)) nuovo += Risposte(prova::Parole(espansa.mid(1)));
             if (riga.startsWith(u"@ "_s)) nuovo += Preparazione(prova::Parole(espansa.mid(2)));
         }
@@ -59,7 +59,7 @@ class VerbaliTest : public testing::TestWithParam<QString> {
             parole.removeLast();
         }
         const auto prima = Contenuto();
-        const Risposta risposta = Programma::EseguiNudo(QStringList{u"--cartella"_s, cartella_.Percorso()} + parole,
+        const Risposta risposta = Programma::EseguiNudo(QStringList{u"--cartella"_s, cartella_.Path()} + parole,
                                                         ambiente.value(0, u"C"_s).section(u'=', -1));
         const auto dopo = Contenuto();
         EXPECT_NE(risposta.codice, -1) << parole.join(u' ').toStdString();
@@ -93,7 +93,7 @@ class VerbaliTest : public testing::TestWithParam<QString> {
     QString Righe(QChar segno, QString testo) const {
         if (testo.isEmpty()) return {};
         static const QRegularExpression quando(u"Vecchi file \\d{4}-\\d\\d-\\d\\d \\d\\d\\.\\d\\d\\.\\d\\d"_s);
-        testo.replace(cartella_.Percorso(), u"{cartella}"_s).replace(kEsempi, u"{esempi}"_s);
+        testo.replace(cartella_.Path(), u"{cartella}"_s).replace(kEsempi, u"{esempi}"_s);
         testo.replace(quando, u"Vecchi file {quando}"_s).replace(u"\r"_s, u"\\r"_s);
         EXPECT_TRUE(testo.endsWith(u'\n')) << testo.toStdString();
         testo.chop(1);
@@ -104,8 +104,7 @@ class VerbaliTest : public testing::TestWithParam<QString> {
 
     [[nodiscard]] QMap<QString, QByteArray> Contenuto() const {
         QMap<QString, QByteArray> contenuto;
-        for (QDirIterator i(cartella_.Percorso(), QDir::AllEntries | QDir::NoDotAndDotDot,
-                            QDirIterator::Subdirectories);
+        for (QDirIterator i(cartella_.Path(), QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
              i.hasNext();) {
             const QFileInfo file(i.next());
             contenuto[file.filePath()] = file.isFile() ? prova::LeggiFile(file.filePath()) : QByteArray();

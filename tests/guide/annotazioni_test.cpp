@@ -17,8 +17,8 @@ class AnnotazioniTest : public prova::ConArchivio {
     /// The whole guide, in the order in which its entries were added.
     QString Guida() { return prova::Righe(archive_, Table::GuidaCitta, guida::kCampi).join(u'\n'); }
     /// The entry with that place in the list of a locality.
-    VoceGuida Voce(const QString& localita, std::size_t posto = 0) {
-        return LettoreGuida(archive_).Voci(localita)->at(posto);
+    VoceGuida Voce(const QString& localita, std::size_t indice = 0) {
+        return LettoreGuida(archive_).Voci(localita)->at(indice);
     }
     ModificaGuida Salva(const QString& localita, const std::optional<VoceGuida>& mostrata, const CampiVoce& campi) {
         return SalvaVoce(archive_, localita, mostrata, tipi_, campi);

@@ -29,7 +29,7 @@ TEST(Tratti, TheWayBackTakesTheRoadsOfTheWayOut) {
         {u"- -"_s, u""_s, 1, false},
     };
     for (const Caso& caso : casi) {
-        const EsitoTratto esito = Ritorno(Righe(caso.andata));
+        const ItinerarioConTratto esito = Ritorno(Righe(caso.andata));
         EXPECT_EQ(Testo(esito.righe), caso.conRitorno);
         EXPECT_EQ(esito.trovata, caso.trovata) << caso.andata.toStdString();
         EXPECT_EQ(esito.rigaCorrente, caso.riga) << caso.andata.toStdString();
@@ -55,7 +55,7 @@ TEST(Tratti, AStretchIsCopiedInEitherDirection) {
         {u""_s, 1, {1, 2}, false, u"P Q/S1/11"_s, 1},
     };
     for (const Caso& caso : casi) {
-        const EsitoTratto esito = CopiaTratto(Righe(caso.prima), caso.riga, sorgente, caso.tratto, caso.soste);
+        const ItinerarioConTratto esito = CopiaTratto(Righe(caso.prima), caso.riga, sorgente, caso.tratto, caso.soste);
         EXPECT_EQ(Testo(esito.righe), caso.dopo);
         EXPECT_EQ(esito.rigaCorrente, caso.corrente) << caso.dopo.toStdString();
     }

@@ -67,7 +67,7 @@ class FilePdf : public testing::Test {
     }
 
     prova::CartellaDiProva cartella_;
-    QString path_ = cartella_.Percorso() + u"/viaggio.pdf"_s;
+    QString path_ = cartella_.Path() + u"/viaggio.pdf"_s;
     Titoli titoli_;
 };
 
@@ -78,19 +78,19 @@ TEST_F(FilePdf, HoldsEveryTextInOrderAndInItsPlace) {
     const std::vector<Parola> parole = Parole(path_);
     std::size_t i = 0;
     for (int pagina = 1; const Pagina& foglio : documento.pagine) {
-        for (const TestoPosto& posto : foglio.testi) {
-            SCOPED_TRACE(u"page %1: %2"_s.arg(QString::number(pagina), posto.testo).toStdString());
+        for (const TestoCollocato& testo : foglio.testi) {
+            SCOPED_TRACE(u"page %1: %2"_s.arg(QString::number(pagina), testo.testo).toStdString());
             const std::size_t prima = i;
-            for (const QString& parola : posto.testo.split(u' ', Qt::SkipEmptyParts)) {
+            for (const QString& parola : testo.testo.split(u' ', Qt::SkipEmptyParts)) {
                 ASSERT_LT(i, parole.size());
                 ASSERT_EQ(parole[i].testo, parola);
                 ASSERT_EQ(parole[i++].pagina, pagina);
             }
-            EXPECT_NEAR(parole[prima].x, posto.x, 0.2);
-            EXPECT_NEAR(parole[prima].base, posto.base + 1, 1);
+            EXPECT_NEAR(parole[prima].x, testo.x, 0.2);
+            EXPECT_NEAR(parole[prima].base, testo.base + 1, 1);
             // A blank at the end, where a text was cut, belongs to no word.
-            const double larghezza = posto.testo.endsWith(u' ') ? parole[i - 1].fine - posto.x : posto.larghezza;
-            EXPECT_NEAR(parole[i - 1].fine, posto.x + larghezza, 0.2);
+            const double larghezza = testo.testo.endsWith(u' ') ? parole[i - 1].fine - testo.x : testo.larghezza;
+            EXPECT_NEAR(parole[i - 1].fine, testo.x + larghezza, 0.2);
         }
         ++pagina;
     }
@@ -122,7 +122,7 @@ TEST_F(FilePdf, OnASheetWithMarginsTextsAreWhereTheyBelong) {
     const Stampato documento = prova::Stampa(prova::Viaggio(1));
     Ostinata a4(path_, QPageSize::A4);
     Dipingi(documento, a4, titoli_);
-    const TestoPosto& primo = documento.pagine[0].testi[0];
+    const TestoCollocato& primo = documento.pagine[0].testi[0];
     const std::vector<Parola> parole = Parole(path_);
     ASSERT_FALSE(parole.empty());
     EXPECT_NEAR(parole[0].x, primo.x, 0.4);

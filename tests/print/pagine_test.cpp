@@ -13,7 +13,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using prova::Riga;
 
-QString Posto(const QRectF& area) {
+QString Misure(const QRectF& area) {
     QStringList numeri;
     for (const double n : {area.x(), area.y(), area.width(), area.height()}) numeri += QString::number(n, 'f', 1);
     return numeri.join(u' ').replace("-0.0"_L1, "0.0"_L1);
@@ -32,26 +32,26 @@ QString Testo(const Stampato& documento) {
     for (const Pagina& pagina : documento.pagine) {
         testo += u"\npagina\n"_s;
         for (const Riquadro& r : pagina.riquadri) {
-            testo += u"riquadro %1 %2\n"_s.arg(Posto(r.area), r.sfondo ? u"sfondo"_s : filetto(r.filetto));
+            testo += u"riquadro %1 %2\n"_s.arg(Misure(r.area), r.sfondo ? u"sfondo"_s : filetto(r.filetto));
         }
         for (const Linea& l : pagina.linee) {
-            testo += u"linea %1 %2\n"_s.arg(Posto({l.x1, l.y1, l.x2 - l.x1, l.y2 - l.y1}), filetto(l.filetto));
+            testo += u"linea %1 %2\n"_s.arg(Misure({l.x1, l.y1, l.x2 - l.x1, l.y2 - l.y1}), filetto(l.filetto));
         }
-        for (const Immagine& i : pagina.immagini) testo += u"immagine %1 %2\n"_s.arg(Posto(i.area), i.sorgente);
-        for (const TestoPosto& t : pagina.testi) {
-            testo += u"%1 %2|%3\n"_s.arg(Posto({t.x, t.base, t.larghezza, 0}).chopped(4), Stile(t.carattere), t.testo);
+        for (const Immagine& i : pagina.immagini) testo += u"immagine %1 %2\n"_s.arg(Misure(i.area), i.sorgente);
+        for (const TestoCollocato& t : pagina.testi) {
+            testo += u"%1 %2|%3\n"_s.arg(Misure({t.x, t.base, t.larghezza, 0}).chopped(4), Stile(t.carattere), t.testo);
         }
     }
     return testo;
 }
 
 void NienteSiTocca(const Pagina& pagina) {
-    for (auto posto = pagina.testi.begin(); posto != pagina.testi.end(); ++posto) {
-        EXPECT_GT(posto->x, 2) << posto->testo.toStdString();
-        EXPECT_LT(posto->x + posto->larghezza, 197) << posto->testo.toStdString();
-        for (auto altro = pagina.testi.begin(); altro != posto; ++altro) {
-            EXPECT_FALSE(prova::Corpo(*posto).intersects(prova::Corpo(*altro)))
-                << posto->testo.toStdString() << " on " << altro->testo.toStdString();
+    for (auto testo = pagina.testi.begin(); testo != pagina.testi.end(); ++testo) {
+        EXPECT_GT(testo->x, 2) << testo->testo.toStdString();
+        EXPECT_LT(testo->x + testo->larghezza, 197) << testo->testo.toStdString();
+        for (auto altro = pagina.testi.begin(); altro != testo; ++altro) {
+            EXPECT_FALSE(prova::Corpo(*testo).intersects(prova::Corpo(*altro)))
+                << testo->testo.toStdString() << " on " << altro->testo.toStdString();
         }
     }
 }
@@ -138,9 +138,9 @@ TEST(Pagine, TurnBehindTheLastLineOnlyAndHoldEveryRowOnce) {
     int riga = 0;
     for (const Pagina& pagina : documento.pagine) {
         for (const Linea& linea : pagina.linee) EXPECT_LE(linea.y1, 280) << "no rule behind the closing one";
-        for (const TestoPosto& posto : pagina.testi) {
-            if (!posto.testo.startsWith("Tappa"_L1)) continue;
-            EXPECT_EQ(posto.testo, u"Tappa n%1x"_s.arg(++riga));
+        for (const TestoCollocato& testo : pagina.testi) {
+            if (!testo.testo.startsWith("Tappa"_L1)) continue;
+            EXPECT_EQ(testo.testo, u"Tappa n%1x"_s.arg(++riga));
         }
     }
     EXPECT_EQ(riga, 46 * 39 + 1);

@@ -42,7 +42,7 @@ inline DatiStampa Viaggio(int righe) {
 /// The schedule of trip 1 of an exchange file.
 inline DatiStampa DallArchivio(const QString& path) {
     const CartellaDiProva cartella;
-    Sessione sessione(cartella.Percorso());
+    Sessione sessione(cartella.Path());
     Progress progress;
     ImportaMete({sessione.Archivio(), path, {}}, progress);
     const MetaAperta aperta = sessione.ApriMeta(u"1"_s);
@@ -57,9 +57,9 @@ inline Stampato Stampa(const DatiStampa& dati) {
 }
 
 /// From the capitals' height to the baseline.
-inline QRectF Corpo(const TestoPosto& posto) {
-    const double altezza = posto.carattere.dimensione * 0.65 * 25.4 / 72;
-    return {posto.x, posto.base - altezza, posto.larghezza, altezza};
+inline QRectF Corpo(const TestoCollocato& testo) {
+    const double altezza = testo.carattere.dimensione * 0.65 * 25.4 / 72;
+    return {testo.x, testo.base - altezza, testo.larghezza, altezza};
 }
 
 }  // namespace cronovia::prova

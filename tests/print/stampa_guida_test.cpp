@@ -32,7 +32,7 @@ class StampaGuidaTest : public testing::Test {
     }
 
     prova::CartellaDiProva cartella_;
-    Sessione sessione_{cartella_.Percorso()};
+    Sessione sessione_{cartella_.Path()};
 };
 
 TEST_F(StampaGuidaTest, TheLocalitiesOfTheTripOrAll) {

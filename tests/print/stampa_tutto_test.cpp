@@ -22,20 +22,20 @@ class StampaTuttoTest : public testing::Test {
     }
     void Esegui(bool tabella, bool moduli) {
         Progress progress;
-        StampaTutto({dati_, prova::kPiede, cartella_.Percorso(), tabella, moduli,
+        StampaTutto({dati_, prova::kPiede, cartella_.Path(), tabella, moduli,
                      [this](const Stampato& documento) {
                          pagine_ = static_cast<int>(documento.pagine.size());
                          if (guasto_) throw Failure(u"La stampante tace."_s);
                      },
-                     [this] { AvviaModuli(dati_, {cartella_.Percorso()}); }},
+                     [this] { AvviaModuli(dati_, {cartella_.Path()}); }},
                     copione_, progress);
         EXPECT_TRUE(copione_.Finito());
     }
     [[nodiscard]] QString Completata() const {
-        return u"Stampa sul file %1/Vandtabl.txt: completata!"_s.arg(cartella_.Percorso());
+        return u"Stampa sul file %1/Vandtabl.txt: completata!"_s.arg(cartella_.Path());
     }
     void MettiFogliax(const QByteArray& testo) const {
-        const QString path = cartella_.Percorso() + u"/Fogliax"_s;
+        const QString path = cartella_.Path() + u"/Fogliax"_s;
         prova::ScriviFile(path, testo);
         ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
@@ -54,14 +54,13 @@ TEST_F(StampaTuttoTest, WritesTheTableByteForByteWhateverIsTicked) {
     const QByteArray testa =
         "ROMA\r\n\r\n"
         "Num.\tLocalita\tN.Str\tKm.\tTs\tPr/Km\tTempo\tSosta\tG.Sett\tData\tOra\tMotivo/Note\tLimite per ritorno\r\n";
-    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Percorso())),
-              testa + "1\tTappa n1x\t\t\t\t\t\t\t\t\t\t\t\t\r\n" +
-                  "\t> Caj bar \x93L\xF3"
-                  "dz\x94\t\t\t\t\t\t00:45\t\t\t\t\tRistorante\t\r\n");
+    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Path())), testa + "1\tTappa n1x\t\t\t\t\t\t\t\t\t\t\t\t\r\n" +
+                                                                   "\t> Caj bar \x93L\xF3"
+                                                                   "dz\x94\t\t\t\t\t\t00:45\t\t\t\t\tRistorante\t\r\n");
     dati_.righe.clear();
     copione_.Messaggio(u"Stampa Cronovia  completata..."_s).Messaggio(Completata());
     Esegui(true, false);
-    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Percorso())), testa);
+    EXPECT_EQ(prova::LeggiFile(FileTabella(cartella_.Path())), testa);
     EXPECT_EQ(pagine_, 0);
 }
 
@@ -69,7 +68,7 @@ TEST_F(StampaTuttoTest, TellsWhatWasPrintedAndOneFaultDoesNotDisturbTheRest) {
     copione_
         .Messaggio(
             u"I moduli per il diario di bordo non si possono stampare: nella cartella %1 manca il programma "
-            "Fogliax.exe."_s.arg(cartella_.Percorso()))
+            "Fogliax.exe."_s.arg(cartella_.Path()))
         .Messaggio(u"Stampa Cronovia  completata..."_s)
         .Messaggio(Completata());
     Esegui(true, true);
@@ -80,7 +79,7 @@ TEST_F(StampaTuttoTest, TellsWhatWasPrintedAndOneFaultDoesNotDisturbTheRest) {
     dati_.meta.localita = u"ROMA; rm -rf \"$HOME\""_s;
     copione_.Messaggio(u"Stampa Cronovia  e \r\nModuli per Diario di Bordo completata..."_s).Messaggio(Completata());
     Esegui(true, true);
-    const QString avviato = cartella_.Percorso() + u"/avviato"_s;
+    const QString avviato = cartella_.Path() + u"/avviato"_s;
     for (int i = 0; i < 500 && !QFile::exists(avviato); ++i) usleep(10'000);
     EXPECT_EQ(prova::LeggiFile(avviato), "1|ROMA; rm -rf \"$HOME\",01/01/2000,05/01/2000");
 
@@ -91,9 +90,9 @@ TEST_F(StampaTuttoTest, TellsWhatWasPrintedAndOneFaultDoesNotDisturbTheRest) {
         .Messaggio(Completata());
     Esegui(true, true);
     guasto_ = false;
-    ASSERT_TRUE(QFile::remove(FileTabella(cartella_.Percorso())));
-    ASSERT_TRUE(QDir(cartella_.Percorso()).mkdir(u"Vandtabl.txt"_s));
-    copione_.Messaggio(FileTabella(cartella_.Percorso()) + u" è una cartella, non un file."_s)
+    ASSERT_TRUE(QFile::remove(FileTabella(cartella_.Path())));
+    ASSERT_TRUE(QDir(cartella_.Path()).mkdir(u"Vandtabl.txt"_s));
+    copione_.Messaggio(FileTabella(cartella_.Path()) + u" è una cartella, non un file."_s)
         .Messaggio(u"Stampa Cronovia  completata..."_s);
     Esegui(true, false);
 }

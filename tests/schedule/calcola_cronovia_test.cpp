@@ -38,7 +38,7 @@ class CalcolaCronoviaTest : public testing::Test {
     }
 
     prova::CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
+    Archive archive_ = Archive::Open(cartella_.Path());
     Titoli progress_;
     Meta meta_;
     std::vector<Tappa> tappe_;

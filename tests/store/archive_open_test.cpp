@@ -45,7 +45,7 @@ class ArchiveOpen : public ::testing::Test {
   protected:
     // An archive with one trip and two guide entries, closed again.
     void CreaArchivio() {
-        Archive archive = Archive::Open(cartella_.Percorso());
+        Archive archive = Archive::Open(cartella_.Path());
         std::vector<QString> meta(mete::kCampi);
         meta[mete::CodiceMeta] = u"000007"_s;
         archive.Insert(Table::MeteVandro, meta);
@@ -53,10 +53,10 @@ class ArchiveOpen : public ::testing::Test {
             prova::NellaGuida(archive, localita, u"01"_s, u"Fontana"_s, u"01:30"_s);
         }
     }
-    void Apri() { Archive::Open(cartella_.Percorso()); }
-    QString Copia() { return cartella_.Percorso() + u"/VandroCronovia-copia1.mdb"_s; }
+    void Apri() { Archive::Open(cartella_.Path()); }
+    QString Copia() { return cartella_.Path() + u"/VandroCronovia-copia1.mdb"_s; }
     void AttendiDati(const QString& flagVisto = u"0"_s) {
-        Archive archive = Archive::Open(cartella_.Percorso());
+        Archive archive = Archive::Open(cartella_.Path());
         EXPECT_EQ(archive.SelectFirst({Table::MeteVandro, {}}).value()[mete::CodiceMeta], u"000007"_s);
         EXPECT_EQ(archive.Count(Table::GuidaCitta), 2);
         const auto aquila = archive.SelectFirst({Table::GuidaCitta, {{guida::Localita, NamePattern(u"l?AQUILA")}}});
@@ -227,7 +227,7 @@ TEST_F(ArchiveOpen, AnArchiveLockedByAnotherProgramIsRefused) {
     altro.exec("BEGIN EXCLUSIVE");
     AttendiRifiuto(u"in uso da un altro programma"_s);
     altro.exec("ROLLBACK; BEGIN IMMEDIATE");
-    Archive archive = Archive::Open(cartella_.Percorso());  // reading goes on beside a writer
+    Archive archive = Archive::Open(cartella_.Path());  // reading goes on beside a writer
     EXPECT_EQ(archive.Count(Table::GuidaCitta), 2);
     const QString messaggio = prova::MessaggioDi([&] { archive.Delete(Table::GuidaCitta, 1); });
     EXPECT_TRUE(messaggio.contains(u"in uso da un altro programma"_s)) << messaggio.toStdString();

@@ -66,9 +66,9 @@ TEST_F(ArchiveTest, ATransactionHappensWholeOrNotAtAll) {
         Aggiungi(u"Bra"_s);
         if (intera) dentro.Commit();
     }
-    EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Table::GuidaCitta), 1);
+    EXPECT_EQ(Archive::Open(cartella_.Path()).Count(Table::GuidaCitta), 1);
     transaction.Commit();
-    EXPECT_EQ(Archive::Open(cartella_.Percorso()).Count(Table::GuidaCitta), 2);
+    EXPECT_EQ(Archive::Open(cartella_.Path()).Count(Table::GuidaCitta), 2);
 }
 
 // Another program, which writes as soon as it may.
@@ -103,7 +103,7 @@ TEST_F(ArchiveTest, ReadingsTogetherSeeOneMomentAndAWriterWaitsForThemAndForAnot
     {
         const ReadSnapshot momento(archive_);
         EXPECT_EQ(archive_.Count(Table::GuidaCitta), 2);
-        altro.emplace(cartella_.Percorso());
+        altro.emplace(cartella_.Path());
         { const ReadSnapshot dentro(archive_); }  // part of the outer one, which goes on
         EXPECT_FALSE(altro->HaScritto());
         EXPECT_EQ(Localita(), (QStringList{u"Alba"_s, u"Bra"_s}));
@@ -114,7 +114,7 @@ TEST_F(ArchiveTest, ReadingsTogetherSeeOneMomentAndAWriterWaitsForThemAndForAnot
     EXPECT_EQ(Localita(), QStringList{u"Bra"_s});
     {
         Transaction transaction(archive_);
-        altro.emplace(cartella_.Percorso(), 2);
+        altro.emplace(cartella_.Path(), 2);
         { const ReadSnapshot dentro(archive_); }
         Aggiungi(u"Cuneo"_s);
         EXPECT_FALSE(altro->HaScritto());

@@ -53,7 +53,7 @@ std::set<std::int64_t> Id(const std::vector<Record>& records) {
 
 TEST(Search, FindsWhatThePatternMatchesInEveryRow) {
     const prova::CartellaDiProva cartella;
-    Archive archive = Archive::Open(cartella.Percorso());
+    Archive archive = Archive::Open(cartella.Path());
     Generatore generatore;
     std::vector<QString> nomi = {u""_s, u"SANT'ANNA"_s};
     while (nomi.size() < 300) nomi.push_back(generatore.Nome());
@@ -107,7 +107,7 @@ class ContaRigheSenzaIndice {
 TEST(Search, ALiteralBeginningUsesTheIndex) {
     const prova::CartellaDiProva cartella;
     const ContaRigheSenzaIndice conta;
-    Archive archive = Archive::Open(cartella.Percorso());
+    Archive archive = Archive::Open(cartella.Path());
     Transaction transaction(archive);
     for (int i = 0; i < 1000; ++i) {
         prova::NellaGuida(archive, u"%1 %2"_s.arg(i % 2 == 0 ? u"Örebro"_s : u"Roma"_s).arg(i));

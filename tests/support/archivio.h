@@ -38,7 +38,7 @@ inline void Inserisci(Archive& archive, Table tabella, std::vector<QString> valo
 class ConArchivio : public ::testing::Test {
   protected:
     CartellaDiProva cartella_;
-    Archive archive_ = Archive::Open(cartella_.Percorso());
+    Archive archive_ = Archive::Open(cartella_.Path());
     Progress progress_;
 };
 

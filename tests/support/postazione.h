@@ -41,7 +41,7 @@ class PostazioneTest : public testing::Test {
     }
     /// Another window on the same folder, on Saturday 5 June 2027.
     std::unique_ptr<Postazione> NuovaPostazione() {
-        return std::make_unique<Postazione>(cartella_.Percorso(),
+        return std::make_unique<Postazione>(cartella_.Path(),
                                             Volti{copione_, avanzamento_,
                                                   [] {
                                                       return QDateTime({2027, 6, 5}, {10, 52});
@@ -121,7 +121,7 @@ class PostazioneTest : public testing::Test {
     }
     /// The stages of a trip in the archive, as another window would find them.
     QString Memorizzate(const QString& codice = QStringLiteral("1")) {
-        return prova::Localita(Sessione(cartella_.Percorso()).ApriMeta(codice).tappe);
+        return prova::Localita(Sessione(cartella_.Path()).ApriMeta(codice).tappe);
     }
 
     CartellaDiProva cartella_;

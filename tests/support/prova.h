@@ -23,27 +23,27 @@ namespace cronovia::prova {
 /// A data folder, with blanks and accents in its path, that does not exist yet and goes with the object.
 class CartellaDiProva {
   public:
-    [[nodiscard]] QString Percorso() const { return radice_.filePath(QStringLiteral("I miei viaggi — città è")); }
-    [[nodiscard]] QString Archivio() const { return Percorso() + QStringLiteral("/VandroCronovia.mdb"); }
+    [[nodiscard]] QString Path() const { return radice_.filePath(QStringLiteral("I miei viaggi — città è")); }
+    [[nodiscard]] QString Archivio() const { return Path() + QStringLiteral("/VandroCronovia.mdb"); }
     /// Names in the folder, sorted.
     [[nodiscard]] QStringList Contenuto() const {
-        return QDir(Percorso()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+        return QDir(Path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     }
-    void Crea() const { ASSERT_TRUE(QDir().mkpath(Percorso())); }
+    void Crea() const { ASSERT_TRUE(QDir().mkpath(Path())); }
 
   private:
     QTemporaryDir radice_;
 };
 
-inline QByteArray LeggiFile(const QString& percorso) {
-    QFile file(percorso);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << percorso.toStdString();
+inline QByteArray LeggiFile(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return file.readAll();
 }
 
-inline void ScriviFile(const QString& percorso, const QByteArray& byte) {
-    QFile file(percorso);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << percorso.toStdString();
+inline void ScriviFile(const QString& path, const QByteArray& byte) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
     ASSERT_EQ(file.write(byte), byte.size());
 }
 

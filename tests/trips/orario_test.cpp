@@ -18,10 +18,10 @@ const QString kStandard = u"0900 1230+0230 2000+0145 2230 0900-1800 0600"_s;
 ParametriViaggio Orari(const QString& testo) {
     const QString intero = testo + kStandard.mid(testo.size());
     ParametriViaggio p;
-    qsizetype posto = 0;
+    qsizetype indice = 0;
     for (Centesimi* orario : {&p.oraColazione, &p.oraPranzo, &p.durataPranzo, &p.oraCena, &p.durataCena, &p.oraNotte,
                               &p.inizioVisita, &p.fineVisita, &p.oreTraghetti}) {
-        *orario = LeggiOrario(QStringView(intero).mid(5 * posto++, 4));
+        *orario = LeggiOrario(QStringView(intero).mid(5 * indice++, 4));
     }
     return p;
 }

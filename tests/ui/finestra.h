@@ -33,7 +33,7 @@ class FinestraTest : public testing::Test {
     /// Opens the window, on Saturday 5 June 2027 at that time.
     void Apri(QTime ora = {10, 52}) {
         form_.reset();
-        form_ = std::make_unique<FormMete>(cartella_.Percorso(), [ora] { return QDateTime({2027, 6, 5}, ora); });
+        form_ = std::make_unique<FormMete>(cartella_.Path(), [ora] { return QDateTime({2027, 6, 5}, ora); });
         form_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
     }

@@ -23,7 +23,7 @@ class ControlliTest : public prova::FinestraTest {
         return controllo.metaObject()->className() + (u' ' + controllo.objectName()).toStdString();
     }
     void Importa(const QString& file) {
-        const QStringList argomenti = {u"--cartella"_s, cartella_.Percorso(), u"importa"_s, file};
+        const QStringList argomenti = {u"--cartella"_s, cartella_.Path(), u"importa"_s, file};
         ASSERT_EQ(prova::Programma::EseguiNudo(argomenti).codice, 0);
     }
 };
@@ -86,7 +86,7 @@ TEST_F(ControlliTest, ALongFitIsStoppedHalfWay) {
     for (int i = 1; i <= 9000; ++i) {
         tappe += "000001|" + QByteArray::number(i).rightJustified(4, '0') + "|X|10|A|00:00:15|\r\n";
     }
-    const QString file = cartella_.Percorso() + u"/lungo.iei"_s;
+    const QString file = cartella_.Path() + u"/lungo.iei"_s;
     cartella_.Crea();
     prova::ScriviFile(file, viaggio.replace('|', '\xFF') + tappe.replace('|', '\xFE'));
     Importa(file);
@@ -125,7 +125,7 @@ TEST_F(ControlliTest, ALongFitIsStoppedHalfWay) {
 TEST_F(ControlliTest, AProcessEndsWithAMessageWhenTheArchiveCannotBeOpened) {
     const auto avvia = [&] {
         QProcess processo;
-        processo.start(QCoreApplication::applicationFilePath(), {u"--avvio"_s, cartella_.Percorso()});
+        processo.start(QCoreApplication::applicationFilePath(), {u"--avvio"_s, cartella_.Path()});
         EXPECT_TRUE(processo.waitForFinished());
         EXPECT_EQ(processo.exitStatus(), QProcess::NormalExit);
         return std::pair{processo.exitCode(), QString::fromUtf8(processo.readAllStandardOutput())};

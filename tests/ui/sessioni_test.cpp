@@ -119,8 +119,8 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     using Azione = std::function<void(const QStringList&)>;
 
     void Passo(QString riga) {
-        QStringList p = prova::Parole(riga.replace(u"{cartella}"_s, cartella_.Percorso())
-                                          .replace(u"{esempi}"_s, QStringLiteral(CRONOVIA_EXAMPLES)));
+        QStringList p = prova::Parole(
+            riga.replace(u"{cartella}"_s, cartella_.Path()).replace(u"{esempi}"_s, QStringLiteral(CRONOVIA_EXAMPLES)));
         const QString verbo = p.takeFirst();
         const auto voce = verbi_.find(verbo);
         if (voce == verbi_.end()) throw std::runtime_error("no such verb");
@@ -253,7 +253,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
             argomenti.resize(freccia);
         }
         const prova::Risposta risposta =
-            prova::Programma::EseguiNudo(QStringList{u"--cartella"_s, cartella_.Percorso()} + argomenti);
+            prova::Programma::EseguiNudo(QStringList{u"--cartella"_s, cartella_.Path()} + argomenti);
         EXPECT_EQ(risposta.codice, 0) << risposta.errori.toStdString();
         for (const QString& attesa : attese) {
             EXPECT_TRUE(risposta.uscita.contains(attesa)) << risposta.uscita.toStdString();
@@ -261,7 +261,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     }
 
     void AltroProgramma(const QString& istruzione) {
-        SQLite::Database(Archive::FilePath(cartella_.Percorso()).toStdString(), SQLite::OPEN_READWRITE)
+        SQLite::Database(Archive::FilePath(cartella_.Path()).toStdString(), SQLite::OPEN_READWRITE)
             .exec(istruzione.toStdString());
     }
 

@@ -131,7 +131,7 @@ class Viaggi : public testing::Test {
     }
 
     prova::CartellaDiProva cartella_;
-    Sessione sessione_{cartella_.Percorso()};
+    Sessione sessione_{cartella_.Path()};
     Progress progress_;
 };
 

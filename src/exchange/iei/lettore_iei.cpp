@@ -25,9 +25,9 @@ std::vector<int> MappaDelleColonne(Table tabella, const Colonne& colonne) {
         const QString testo = DaWindows1252(nome);
         const auto campo =
             std::find_if(campi.begin(), campi.end(), [&](const FieldDefinition& c) { return c.name == testo; });
-        const int posto = campo == campi.end() ? -1 : static_cast<int>(campo - campi.begin());
-        const bool nuovo = posto >= 0 && std::find(mappa.begin(), mappa.end(), posto) == mappa.end();
-        mappa.push_back(nuovo ? posto : -1);
+        const int indice = campo == campi.end() ? -1 : static_cast<int>(campo - campi.begin());
+        const bool nuovo = indice >= 0 && std::find(mappa.begin(), mappa.end(), indice) == mappa.end();
+        mappa.push_back(nuovo ? indice : -1);
         qualcuno = qualcuno || nuovo;
     }
     return qualcuno ? mappa : std::vector<int>();

@@ -65,7 +65,7 @@ void MappaCodici::Aggiungi(const QString& codiceNelFile) {
 void MappaCodici::Scegli(const std::vector<QString>& scelti, Archive& archive) {
     std::vector<QString> codici = scelti.empty() ? inOrdine_ : scelti;
     for (QString& codice : codici) {
-        if (!mete_.contains(codice) && codice.size() < kCifre) codice = AntStr(codice, kCifre, u'0');
+        if (!mete_.contains(codice) && codice.size() < kCifre) codice = RiempiPrima(codice, kCifre, u'0');
         if (!mete_.contains(codice)) throw Failure(u"Nel file non c'è la mèta con il codice %1."_s.arg(codice));
     }
     CodiciOccupati occupati(archive);

@@ -46,8 +46,8 @@ QStringView PrimaParola(QStringView testo) { return Fino(testo, u' '); }
 QStringView DopoLaPrimaParola(QStringView testo) { return testo.sliced(PrimaParola(testo).size()).trimmed(); }
 
 QStringView Fino(QStringView testo, QChar segno) {
-    const qsizetype posto = testo.indexOf(segno);
-    return posto < 0 ? testo : testo.first(posto);
+    const qsizetype indice = testo.indexOf(segno);
+    return indice < 0 ? testo : testo.first(indice);
 }
 
 std::optional<int> LeggiKm(QStringView campo) {

@@ -90,9 +90,9 @@ void TogliNumero(LocalitaStrada& parti) {
 // "REPUBBLICA CECA" is too long beside a road: "REPUBBLIC. CECA".
 QString Abbrevia(const QString& localita) {
     constexpr QStringView kRepubblica = u"REPUBBL";
-    const qsizetype posto = Trova(localita, kRepubblica);
-    if (posto < 0) return localita;
-    const qsizetype taglio = std::min(posto + kRepubblica.size() + 2, localita.size());
+    const qsizetype indice = Trova(localita, kRepubblica);
+    if (indice < 0) return localita;
+    const qsizetype taglio = std::min(indice + kRepubblica.size() + 2, localita.size());
     const QStringView resto = DopoLaPrimaParola(QStringView(localita).sliced(taglio));
     return (localita.first(taglio) + u". "_s + resto.toString()).trimmed();
 }
@@ -116,8 +116,8 @@ LocalitaStrada EstraeTappaStrada(const CampiPercorso& colonne, const QString& ca
 // The rest of the text behind a word and a blank; null when it does not hold the word.
 QString Dopo(const QString& testo, QStringView parola) {
     const QString conBlank = u' ' + parola.toString() + u' ';
-    const qsizetype posto = Trova(u' ' + testo, conBlank);
-    return posto < 0 ? QString() : testo.mid(posto + conBlank.size() - 1);
+    const qsizetype indice = Trova(u' ' + testo, conBlank);
+    return indice < 0 ? QString() : testo.mid(indice + conBlank.size() - 1);
 }
 
 // The place that a direction names when the line has no locality of its own.

@@ -78,7 +78,7 @@ QString LocalitaDellaTappa(const RecordFisso& record) {
 
 // "010230" as "01:02:30"; blanks are zeros, those at the end too.
 QString Sosta(const QString& campo) {
-    const QString cifre = BlankComeZeri(AggStr(campo, 6, u'0'));
+    const QString cifre = BlankComeZeri(RiempiDopo(campo, 6, u'0'));
     if (!SoloCifre(cifre) || ValoreNumerico(cifre) == 0) return u" "_s;
     return cifre.left(2) + u':' + cifre.mid(2, 2) + u':' + cifre.mid(4, 2);
 }
@@ -163,9 +163,9 @@ std::vector<QString> ValoriVecchiaVoce(const RecordFisso& record) {
 
 QString TempoVisita(const QString& vecchio) {
     const qsizetype duePunti = vecchio.indexOf(u':');
-    const QString cifre =
-        duePunti < 0 ? AntStr(vecchio, 4, u'0')
-                     : AntStr(vecchio.left(duePunti), 2, u'0') + AntStr(vecchio.mid(duePunti + 1).trimmed(), 2, u'0');
+    const QString cifre = duePunti < 0 ? RiempiPrima(vecchio, 4, u'0')
+                                       : RiempiPrima(vecchio.left(duePunti), 2, u'0') +
+                                             RiempiPrima(vecchio.mid(duePunti + 1).trimmed(), 2, u'0');
     return SoloCifre(cifre) ? cifre.left(2) + u':' + cifre.right(2) : u"00:00"_s;
 }
 

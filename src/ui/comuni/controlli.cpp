@@ -122,10 +122,10 @@ void MostraVoce(QComboBox& elenco, const QString& testo) {
         if (elenco.itemData(i, kOspite).toBool() && elenco.itemText(i) != testo) elenco.removeItem(i);
     }
     if (elenco.findText(testo) < 0) {
-        int posto = 0;
-        while (posto < elenco.count() && elenco.itemText(posto).toInt() < testo.toInt()) ++posto;
-        elenco.insertItem(posto, testo);
-        elenco.setItemData(posto, true, kOspite);
+        int indice = 0;
+        while (indice < elenco.count() && elenco.itemText(indice).toInt() < testo.toInt()) ++indice;
+        elenco.insertItem(indice, testo);
+        elenco.setItemData(indice, true, kOspite);
     }
     elenco.setCurrentIndex(elenco.findText(testo));
     if (elenco.isEditable()) elenco.setEditText(testo);

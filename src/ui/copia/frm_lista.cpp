@@ -50,7 +50,7 @@ FrmLista::FrmLista(QWidget* parent)
     });
 }
 
-void FrmLista::Mostra(const CopiaPercorso& copia) {
+void FrmLista::Mostra(const TavoloCopia& copia) {
     mostrando_ = true;
     if (copia.Tappe()) {
         lblLista_->setText(

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QTableView>
 
-#include "app/copia_percorso.h"
+#include "app/tavolo_copia.h"
 #include "ui/copia/modello_copia.h"
 
 namespace cronovia {
@@ -17,7 +17,7 @@ class FrmLista : public QGroupBox {
     explicit FrmLista(QWidget* parent = nullptr);
 
     /// Shows the trips, or the stages with the stretch highlighted.
-    void Mostra(const CopiaPercorso& copia);
+    void Mostra(const TavoloCopia& copia);
     void Fuoco() { mfgCopia_->setFocus(); }
     [[nodiscard]] bool ConFuoco() const { return mfgCopia_->hasFocus(); }
     /// The row that the keyboard is on, from 1.

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "app/copia_percorso.h"
+#include "app/tavolo_copia.h"
 
 namespace cronovia {
 

@@ -12,26 +12,26 @@ SchermoCopia::SchermoCopia(Postazione& postazione, QWidget& inserimento, Esegui 
       inserimento_(inserimento),
       esegui_(std::move(esegui)),
       lista_(new FrmLista),
-      percorso_(new FrmPercorso) {
+      tratto_(new FrmTratto) {
     lista_->hide();
-    percorso_->hide();
+    tratto_->hide();
     Collega();
 }
 
 void SchermoCopia::Collega() {
     connect(lista_, &FrmLista::Cliccata, this, [this](int riga) {
         const auto* copia = postazione_.Su<schermata::Copia>();
-        if (copia != nullptr && !copia->percorso.Tappe()) Scegli(riga);
+        if (copia != nullptr && !copia->tavolo.Tappe()) Scegli(riga);
     });
     connect(lista_, &FrmLista::Corrente, this,
-            [this](int riga) { Comanda([riga](CopiaPercorso& copia) { copia.SelezionaRiga(riga); }); });
-    connect(percorso_, &FrmPercorso::Assegna, this, [this](int estremo) {
-        Comanda([estremo](CopiaPercorso& copia) { copia.Assegna(static_cast<std::size_t>(estremo)); });
+            [this](int riga) { Comanda([riga](TavoloCopia& copia) { copia.SelezionaRiga(riga); }); });
+    connect(tratto_, &FrmTratto::Assegna, this, [this](int estremo) {
+        Comanda([estremo](TavoloCopia& copia) { copia.Assegna(static_cast<std::size_t>(estremo)); });
         lista_->Fuoco();
     });
-    connect(percorso_, &FrmPercorso::Esegui, this,
-            [this] { Chiude([this] { comandi::InserisciPercorso(postazione_, percorso_->ConSoste()); }); });
-    connect(percorso_, &FrmPercorso::Rinuncia, this,
+    connect(tratto_, &FrmTratto::Esegui, this,
+            [this] { Chiude([this] { comandi::InserisciTratto(postazione_, tratto_->ConSoste()); }); });
+    connect(tratto_, &FrmTratto::Rinuncia, this,
             [this] { Chiude([this] { comandi::RinunciaDuplicaItinerario(postazione_); }); });
 }
 
@@ -39,7 +39,7 @@ void SchermoCopia::Fuoco() {
     if (aperto_) lista_->Fuoco();
 }
 
-void SchermoCopia::Comanda(const std::function<void(CopiaPercorso&)>& comando) {
+void SchermoCopia::Comanda(const std::function<void(TavoloCopia&)>& comando) {
     if (aperto_) esegui_([&] { comandi::SullaCopia(postazione_, comando); });
 }
 
@@ -50,21 +50,21 @@ void SchermoCopia::Chiude(const std::function<void()>& comando) {
 }
 
 void SchermoCopia::Scegli(int riga) {
-    Comanda([riga](CopiaPercorso& copia) { copia.ScegliMeta(riga); });
+    Comanda([riga](TavoloCopia& copia) { copia.ScegliMeta(riga); });
     lista_->Fuoco();
 }
 
 void SchermoCopia::Mostra() {
     const auto* copia = postazione_.Su<schermata::Copia>();
-    const bool tratto = copia != nullptr && copia->percorso.Tappe();
+    const bool tratto = copia != nullptr && copia->tavolo.Tappe();
     if (copia != nullptr) {
-        if (!aperto_) percorso_->Azzera();
-        lista_->Mostra(copia->percorso);
-        percorso_->Mostra(copia->percorso);
+        if (!aperto_) tratto_->Azzera();
+        lista_->Mostra(copia->tavolo);
+        tratto_->Mostra(copia->tavolo);
     }
     aperto_ = copia != nullptr;
     lista_->setVisible(aperto_);
-    percorso_->setVisible(tratto);
+    tratto_->setVisible(tratto);
     inserimento_.setVisible(postazione_.InInserimento() && !tratto);
     inserimento_.setEnabled(!tratto);
 }
@@ -79,7 +79,7 @@ bool SchermoCopia::Tasto(const QKeyEvent& tasto) {
     }
     const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
     if (!invio || !lista_->ConFuoco()) return false;
-    if (!copia->percorso.Tappe()) Scegli(lista_->Riga());
+    if (!copia->tavolo.Tappe()) Scegli(lista_->Riga());
     return true;
 }
 

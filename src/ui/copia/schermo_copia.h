@@ -6,7 +6,7 @@
 #include "app/postazione.h"
 #include "ui/comuni/esegui.h"
 #include "ui/copia/frm_lista.h"
-#include "ui/copia/frm_percorso.h"
+#include "ui/copia/frm_tratto.h"
 
 class QKeyEvent;
 
@@ -20,7 +20,7 @@ class SchermoCopia : public QObject {
     SchermoCopia(Postazione& postazione, QWidget& inserimento, Esegui esegui);
 
     [[nodiscard]] FrmLista& Lista() const { return *lista_; }
-    [[nodiscard]] FrmPercorso& Percorso() const { return *percorso_; }
+    [[nodiscard]] FrmTratto& RiquadroTratto() const { return *tratto_; }
     /// Shows the lists and the stretch while the screen is open, the entry frame else.
     void Mostra();
     void Fuoco();
@@ -33,7 +33,7 @@ class SchermoCopia : public QObject {
 
   private:
     void Collega();
-    void Comanda(const std::function<void(CopiaPercorso&)>& comando);
+    void Comanda(const std::function<void(TavoloCopia&)>& comando);
     void Scegli(int riga);
     void Chiude(const std::function<void()>& comando);
 
@@ -41,7 +41,7 @@ class SchermoCopia : public QObject {
     QWidget& inserimento_;
     Esegui esegui_;
     FrmLista* lista_;
-    FrmPercorso* percorso_;
+    FrmTratto* tratto_;
     bool aperto_ = false;
 };
 

@@ -12,8 +12,9 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-ComandoStampaGuida::ComandoStampaGuida(const ComandoStampa::Volti& volti, FrmSelStampa& stampante, QGridLayout& area)
-    : QObject(&volti.finestra), volti_(volti), stampante_(stampante), opzioni_(new FrmGuidaStampa) {
+ComandoStampaGuida::ComandoStampaGuida(const ComandoStampa::Ambiente& ambiente, FrmSelStampa& stampante,
+                                       QGridLayout& area)
+    : QObject(&ambiente.finestra), ambiente_(ambiente), stampante_(stampante), opzioni_(new FrmGuidaStampa) {
     area.addWidget(opzioni_, 0, 0, Qt::AlignCenter);
     connect(opzioni_, &FrmGuidaStampa::Stampa, this, [this] {
         stampante_.VisualizzaListaStampanti();
@@ -22,12 +23,13 @@ ComandoStampaGuida::ComandoStampaGuida(const ComandoStampa::Volti& volti, FrmSel
     });
     connect(opzioni_, &FrmGuidaStampa::Rinuncia, this, &ComandoStampaGuida::Rinuncia);
     connect(opzioni_, &FrmGuidaStampa::Anteprima, this, [this] {
-        volti_.esegui([this] {
-            if (const auto documento = Prepara()) MostraAnteprima(*documento, volti_.finestra, volti_.interazione);
+        ambiente_.esegui([this] {
+            if (const auto documento = Prepara())
+                MostraAnteprima(*documento, ambiente_.finestra, ambiente_.interazione);
         });
     });
     connect(&stampante_, &FrmSelStampa::Stampa, this, [this] {
-        if (Aperto()) volti_.esegui([this] { Stampa(); });
+        if (Aperto()) ambiente_.esegui([this] { Stampa(); });
     });
     connect(&stampante_, &FrmSelStampa::Rinuncia, this, [this] {
         if (Aperto()) Rinuncia();
@@ -54,12 +56,13 @@ void ComandoStampaGuida::Chiudi() {
 // Nothing, and the person hears why, when there is nothing to print.
 std::optional<Stampato> ComandoStampaGuida::Prepara() {
     std::optional<Stampato> documento;
-    comandi::SullaGuida(volti_.postazione, [&](const TavoloGuida& tavolo) {
-        const DatiStampaGuida dati = PreparaStampaGuida(
-            tavolo.Archivio(), tavolo.CodiceMeta(), volti_.postazione.documento.Campi().localita, opzioni_->Opzioni());
+    comandi::SullaGuida(ambiente_.postazione, [&](const TavoloGuida& tavolo) {
+        const DatiStampaGuida dati =
+            PreparaStampaGuida(tavolo.Archivio(), tavolo.CodiceMeta(), ambiente_.postazione.documento.Campi().localita,
+                               opzioni_->Opzioni());
         if (dati.localita.empty()) throw Failure(NienteDaStampare(dati.opzioni));
-        documento = StampaGuida(dati, {volti_.postazione.volti.adesso().date(), QCoreApplication::applicationName()},
-                                volti_.avanzamento);
+        documento = StampaGuida(dati, {ambiente_.postazione.volti.adesso().date(), QCoreApplication::applicationName()},
+                                ambiente_.avanzamento);
     });
     return documento;
 }
@@ -70,20 +73,20 @@ void ComandoStampaGuida::Stampa() {
     if (!documento) return;
     const bool suFile = stampante_.SceltoFilePdf();
     const QString stampante = stampante_.Scelta();
-    const QString path = suFile ? ChiediFilePdf(volti_.finestra, documento->titolo) : QString();
+    const QString path = suFile ? ChiediFilePdf(ambiente_.finestra, documento->titolo) : QString();
     if (suFile && path.isEmpty()) {
-        volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
+        ambiente_.interazione.Show({NessunFileScelto(), {}, Icon::None});
         return;
     }
     Chiudi();
-    comandi::SullaGuida(volti_.postazione, [&](const TavoloGuida&) {
+    comandi::SullaGuida(ambiente_.postazione, [&](const TavoloGuida&) {
         if (path.isEmpty()) {
-            StampaSuStampante(*documento, stampante, volti_.interazione, volti_.avanzamento);
+            StampaSuStampante(*documento, stampante, ambiente_.interazione, ambiente_.avanzamento);
         } else {
-            RifiutaFileTabella(path, volti_.postazione.sessione.Cartella());
-            StampaSuFile(*documento, path, volti_.avanzamento);
+            RifiutaFileTabella(path, ambiente_.postazione.sessione.Cartella());
+            StampaSuFile(*documento, path, ambiente_.avanzamento);
         }
-        volti_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});
+        ambiente_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});
     });
 }
 

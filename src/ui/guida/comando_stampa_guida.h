@@ -14,7 +14,7 @@ class ComandoStampaGuida : public QObject {
 
   public:
     /// Puts its frame over the area; the choice of the printer is that of the schedule.
-    ComandoStampaGuida(const ComandoStampa::Volti& volti, FrmSelStampa& stampante, QGridLayout& area);
+    ComandoStampaGuida(const ComandoStampa::Ambiente& ambiente, FrmSelStampa& stampante, QGridLayout& area);
 
     void Apri();
     /// The frames are on show.
@@ -31,7 +31,7 @@ class ComandoStampaGuida : public QObject {
     void Stampa();
     [[nodiscard]] std::optional<Stampato> Prepara();
 
-    ComandoStampa::Volti volti_;
+    ComandoStampa::Ambiente ambiente_;
     FrmSelStampa& stampante_;
     FrmGuidaStampa* opzioni_;
 };

@@ -154,7 +154,7 @@ void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
             if (riga.voce) continue;
             const auto numero = static_cast<int>(i) + 1;
             auto* voce =
-                new QListWidgetItem(AggStr(riga.localita, kCaratteriLocalita, u' ') + Zero(numero, 4), &elenco_);
+                new QListWidgetItem(RiempiDopo(riga.localita, kCaratteriLocalita, u' ') + Zero(numero, 4), &elenco_);
             voce->setData(Qt::UserRole, numero);
             if (riga.localita == tavolo.Corrente().localita) elenco_.setCurrentItem(voce);
         }

@@ -71,7 +71,7 @@ void SchermoInserimento::MostraElenco(bool aperto) {
             if (righe[i].localita.isEmpty()) continue;
             const auto riga = static_cast<int>(i) + 1;
             auto* voce =
-                new QListWidgetItem(AggStr(righe[i].localita, kColonneLocalita, u' ') + Zero(riga, 4), &elenco_);
+                new QListWidgetItem(RiempiDopo(righe[i].localita, kColonneLocalita, u' ') + Zero(riga, 4), &elenco_);
             voce->setData(Qt::UserRole, riga);
             if (riga == postazione_.documento.RigaCorrente()) elenco_.setCurrentItem(voce);
         }

@@ -36,9 +36,9 @@ QFrame* NuovoStampaInCorso() {
 
 }  // namespace
 
-ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
-    : QObject(&volti.finestra),
-      volti_(std::move(volti)),
+ComandoStampa::ComandoStampa(Ambiente ambiente, QGridLayout& area)
+    : QObject(&ambiente.finestra),
+      ambiente_(std::move(ambiente)),
       opzioni_(new FrmStampa),
       stampante_(new FrmSelStampa),
       inCorso_(NuovoStampaInCorso()) {
@@ -51,9 +51,9 @@ ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
         // Both frames have the same keys.
         opzioni_->setEnabled(false);
     });
-    connect(opzioni_, &FrmStampa::Anteprima, this, [this] { volti_.esegui([this] { MostraAnteprima(); }); });
+    connect(opzioni_, &FrmStampa::Anteprima, this, [this] { ambiente_.esegui([this] { MostraAnteprima(); }); });
     connect(stampante_, &FrmSelStampa::Stampa, this, [this] {
-        if (opzioni_->isVisible()) volti_.esegui([this] { Stampa(); });
+        if (opzioni_->isVisible()) ambiente_.esegui([this] { Stampa(); });
     });
     connect(opzioni_, &FrmStampa::Rinuncia, this, &ComandoStampa::Rinuncia);
     connect(stampante_, &FrmSelStampa::Rinuncia, this, [this] {
@@ -62,7 +62,7 @@ ComandoStampa::ComandoStampa(Volti volti, QGridLayout& area)
 }
 
 void ComandoStampa::Mostra() {
-    const auto* stampa = volti_.postazione.Su<schermata::Stampa>();
+    const auto* stampa = ambiente_.postazione.Su<schermata::Stampa>();
     const bool aperta = stampa != nullptr && !stampa->inCorso;
     if (aperta == opzioni_->isVisible()) return;
     Chiudi();
@@ -83,7 +83,7 @@ void ComandoStampa::Rinuncia() {
         return;
     }
     Chiudi();
-    volti_.esegui([this] { comandi::FineStampa(volti_.postazione); });
+    ambiente_.esegui([this] { comandi::FineStampa(ambiente_.postazione); });
 }
 
 void ComandoStampa::Chiudi() {
@@ -92,8 +92,8 @@ void ComandoStampa::Chiudi() {
 }
 
 void ComandoStampa::MostraAnteprima() {
-    const Stampato documento = StampaCronovia(Dati(), Piede(), volti_.avanzamento);
-    cronovia::MostraAnteprima(documento, volti_.finestra, volti_.interazione);
+    const Stampato documento = StampaCronovia(Dati(), Piede(), ambiente_.avanzamento);
+    cronovia::MostraAnteprima(documento, ambiente_.finestra, ambiente_.interazione);
 }
 
 // Without a file, printing to a file has not begun.
@@ -101,29 +101,30 @@ void ComandoStampa::Stampa() {
     if (!stampante_->SceltoFilePdf() || !opzioni_->Tabella()) {
         const QString stampante = stampante_->Scelta();
         EseguiStampa([&](const Stampato& documento) {
-            StampaSuStampante(documento, stampante, volti_.interazione, volti_.avanzamento);
+            StampaSuStampante(documento, stampante, ambiente_.interazione, ambiente_.avanzamento);
         });
         return;
     }
-    const QString path = ChiediFilePdf(volti_.finestra, u"Cronovia "_s + volti_.postazione.documento.Campi().localita);
+    const QString path =
+        ChiediFilePdf(ambiente_.finestra, u"Cronovia "_s + ambiente_.postazione.documento.Campi().localita);
     if (path.isEmpty()) {
-        volti_.interazione.Show({NessunFileScelto(), {}, Icon::None});
+        ambiente_.interazione.Show({NessunFileScelto(), {}, Icon::None});
         return;
     }
     EseguiStampa([&](const Stampato& documento) {
-        RifiutaFileTabella(path, volti_.postazione.sessione.Cartella());
-        StampaSuFile(documento, path, volti_.avanzamento);
+        RifiutaFileTabella(path, ambiente_.postazione.sessione.Cartella());
+        StampaSuFile(documento, path, ambiente_.avanzamento);
     });
 }
 
 void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& stampa) {
     const DatiStampa dati = Dati();
     Chiudi();
-    comandi::StampaInCorso(volti_.postazione);
-    StampaTutto({dati, Piede(), volti_.postazione.sessione.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(), stampa,
-                 [&] { AvviaModuli(dati); }},
-                volti_.interazione, volti_.avanzamento);
-    comandi::FineStampa(volti_.postazione);
+    comandi::StampaInCorso(ambiente_.postazione);
+    StampaTutto({dati, Piede(), ambiente_.postazione.sessione.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(),
+                 stampa, [&] { AvviaModuli(dati); }},
+                ambiente_.interazione, ambiente_.avanzamento);
+    comandi::FineStampa(ambiente_.postazione);
 }
 
 void ComandoStampa::AvviaModuli(const DatiStampa& dati) {
@@ -138,15 +139,15 @@ void ComandoStampa::AvviaModuli(const DatiStampa& dati) {
         ~Cartello() { riquadro_.hide(); }
         QWidget& riquadro_;
     } const cartello(*inCorso_);
-    cronovia::AvviaModuli(dati, {QCoreApplication::applicationDirPath(), volti_.postazione.sessione.Cartella()});
+    cronovia::AvviaModuli(dati, {QCoreApplication::applicationDirPath(), ambiente_.postazione.sessione.Cartella()});
 }
 
 DatiStampa ComandoStampa::Dati() const {
-    return PreparaStampa(volti_.postazione.documento.Campi(), *volti_.postazione.documento.Calcolata());
+    return PreparaStampa(ambiente_.postazione.documento.Campi(), *ambiente_.postazione.documento.Calcolata());
 }
 
 PieDiPagina ComandoStampa::Piede() const {
-    return {volti_.postazione.volti.adesso().date(), QCoreApplication::applicationName()};
+    return {ambiente_.postazione.volti.adesso().date(), QCoreApplication::applicationName()};
 }
 
 }  // namespace cronovia

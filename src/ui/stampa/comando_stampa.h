@@ -18,7 +18,7 @@ class ComandoStampa : public QObject {
     Q_OBJECT
 
   public:
-    struct Volti {
+    struct Ambiente {
         Postazione& postazione;
         Interaction& interazione;
         Progress& avanzamento;
@@ -27,7 +27,7 @@ class ComandoStampa : public QObject {
     };
 
     /// Puts its frames over the area.
-    ComandoStampa(Volti volti, QGridLayout& area);
+    ComandoStampa(Ambiente ambiente, QGridLayout& area);
 
     /// Shows what is to be printed while that is chosen; to be called whenever the state is shown anew.
     void Mostra();
@@ -47,7 +47,7 @@ class ComandoStampa : public QObject {
     [[nodiscard]] DatiStampa Dati() const;
     [[nodiscard]] PieDiPagina Piede() const;
 
-    Volti volti_;
+    Ambiente ambiente_;
     FrmStampa* opzioni_;
     FrmSelStampa* stampante_;
     QFrame* inCorso_;

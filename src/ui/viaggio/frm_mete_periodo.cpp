@@ -137,7 +137,9 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
 
 // The parts of the date that are chosen, the day kept within its month.
 PartiData FrmMetePeriodo::Inizio() const {
-    const auto parte = [this](std::size_t i) { return AntStr(cmbInizio_[i]->currentText(), i == 2 ? 4 : 2, u' '); };
+    const auto parte = [this](std::size_t i) {
+        return RiempiPrima(cmbInizio_[i]->currentText(), i == 2 ? 4 : 2, u' ');
+    };
     return LeggiPartiData(parte(0) + parte(1) + parte(2));
 }
 

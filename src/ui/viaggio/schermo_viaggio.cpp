@@ -19,7 +19,7 @@ constexpr int kColonneLocalita = 31;
 constexpr int kColonneNazione = 19;
 
 QString RigaElenco(const QString& localita, const QString& nazione, const QString& partenza) {
-    return AggStr(localita, kColonneLocalita, u' ') + AggStr(nazione, kColonneNazione, u' ') + partenza;
+    return RiempiDopo(localita, kColonneLocalita, u' ') + RiempiDopo(nazione, kColonneNazione, u' ') + partenza;
 }
 
 QString TestoInElenco(const MetaInElenco& meta) {

@@ -41,7 +41,7 @@ class Export : public prova::ConArchivio {
         Inserisci(archive_, Table::Itinerari, {u"000005"_s, u"0001"_s, u"Nizza"_s, u"210"_s});
     }
 
-    QString file_ = cartella_.Percorso() + u"/viaggi di giugno.iei"_s;
+    QString file_ = cartella_.Path() + u"/viaggi di giugno.iei"_s;
 };
 
 TEST_F(Export, WritesAllTripsByNameAndStagesAsTheyAreStored) {
@@ -87,7 +87,7 @@ TEST_F(Export, IntoAnEmptyFolderAndBackGivesTheSameRows) {
     Esporta({u"000002"_s, u"000001"_s, u"000005"_s});
 
     const prova::CartellaDiProva altra;
-    Archive archive = Archive::Open(altra.Percorso());
+    Archive archive = Archive::Open(altra.Path());
     ImportaMete({archive, file_, {}}, progress_);
     QStringList partite = prova::Tutto(archive_);
     QStringList arrivate = prova::Tutto(archive);
@@ -124,9 +124,9 @@ TEST_F(Export, RefusesBeforeAnythingIsWritten) {
 
     file_ = cartella_.Archivio();
     EXPECT_EQ(Rifiuto({}, true), u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(file_));
-    file_ = cartella_.Percorso();
+    file_ = cartella_.Path();
     EXPECT_EQ(Rifiuto({}, true), u"%1 è una cartella, non un file."_s.arg(file_));
-    file_ = cartella_.Percorso() + u"/manca/a.iei"_s;
+    file_ = cartella_.Path() + u"/manca/a.iei"_s;
     EXPECT_EQ(Rifiuto(), u"Il file %1 non si può scrivere: controlla la cartella e i permessi."_s.arg(file_));
 }
 

@@ -179,7 +179,7 @@ class Interruzione : public Progress {
 
 TEST_F(Import, InterruptedHalfWayLeavesTheArchiveAsItWas) {
     Inserisci(archive_, Table::MeteVandro, {u"000001"_s, u"Alba"_s});
-    const QString file = cartella_.Percorso() + u"/a.iei"_s;
+    const QString file = cartella_.Path() + u"/a.iei"_s;
     prova::ScriviFile(file, Mete("000001|Bari|I\n") + Tappe("000001|0001|a\n000001|0002|b\n000001|0003|c\n"));
     Interruzione interruzione;
     EXPECT_EQ(MessaggioDi([&] { ImportaMete({archive_, file, {}}, interruzione); }), u"interrotto"_s);
@@ -201,7 +201,7 @@ TEST_F(Import, RefusesWhatIsNoExchangeFile) {
     const auto messaggio = [&](const QString& path) {
         return MessaggioDi([&] { ImportaMete({archive_, path, {}}, progress); });
     };
-    const QString file = cartella_.Percorso() + u"/a.iei"_s;
+    const QString file = cartella_.Path() + u"/a.iei"_s;
     EXPECT_EQ(messaggio(file), u"Il file %1 non esiste."_s.arg(file));
     for (const QByteArray& contenuto :
          {QByteArray(), QByteArray("Ciao\r\n"), Guida("Roma|01|Colosseo\n"), QByteArray(100'000, '\0')}) {
@@ -209,7 +209,7 @@ TEST_F(Import, RefusesWhatIsNoExchangeFile) {
         EXPECT_EQ(messaggio(file),
                   u"Il file %1 non è un file di scambio: non contiene la sezione delle mète."_s.arg(file));
     }
-    EXPECT_EQ(messaggio(cartella_.Percorso()), u"%1 è una cartella, non un file."_s.arg(cartella_.Percorso()));
+    EXPECT_EQ(messaggio(cartella_.Path()), u"%1 è una cartella, non un file."_s.arg(cartella_.Path()));
 }
 
 }  // namespace

@@ -94,9 +94,9 @@ TEST(LettoreIei, RecordsAndCounts) {
 
 TEST(LeggiElencoMete, NamesTheTripsThatCanBeImportedAndMarksThoseHere) {
     const prova::CartellaDiProva cartella;
-    Archive archive = Archive::Open(cartella.Percorso());
+    Archive archive = Archive::Open(cartella.Path());
     prova::Inserisci(archive, Table::MeteVandro, {u"000001"_s, u"nizza "_s});
-    const QString file = cartella.Percorso() + u"/amici.iei"_s;
+    const QString file = cartella.Path() + u"/amici.iei"_s;
     prova::ScriviFile(file, Mete("000007|Roma|Italia\n|Senza codice|I\n000008||I\n000007|Di nuovo|I\nX1|Nizza|F\n") +
                                 Tappe("000007|0001|Lucca\n"));
     Progress progress;

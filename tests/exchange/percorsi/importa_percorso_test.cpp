@@ -134,7 +134,7 @@ class FileGuasti : public testing::Test {
     void SetUp() override { cartella_.Crea(); }
 
     prova::CartellaDiProva cartella_;
-    const QString percorso_ = cartella_.Percorso() + u"/percorso.txt"_s;
+    const QString percorso_ = cartella_.Path() + u"/percorso.txt"_s;
     const QByteArray testa_ = File(u"Ora|Km|Istruzioni"_s, {});
 };
 

@@ -42,9 +42,9 @@ QByteArray Voce(const QByteArray& campi) { return RecordVecchio(FormaVecchiaGuid
 
 class Conversione : public prova::ConArchivio {
   protected:
-    void Scrivi(const QString& nome, const QByteArray& byte) { ScriviFile(cartella_.Percorso() + u'/' + nome, byte); }
+    void Scrivi(const QString& nome, const QByteArray& byte) { ScriviFile(cartella_.Path() + u'/' + nome, byte); }
     EsitoConversione Converti(Progress& progress) {
-        return ConvertiVecchiFile({archive_, cartella_.Percorso(), QDateTime({2027, 6, 5}, {10, 52})}, progress);
+        return ConvertiVecchiFile({archive_, cartella_.Path(), QDateTime({2027, 6, 5}, {10, 52})}, progress);
     }
     EsitoConversione Converti() { return Converti(progress_); }
     QStringList LeMete() { return Righe(archive_, Table::MeteVandro, mete::kCampi); }
@@ -65,7 +65,7 @@ TEST_F(Conversione, EveryFieldFindsItsPlace) {
     Scrivi(u"VandGuid.dat"_s, Voce("AIX|2|Cours Mirabeau|0130|0") + Voce("AIX|5||") + Voce("METZ|1|Duomo|01:45|1"));
     const EsitoConversione esito = Converti();
     EXPECT_EQ(TestoEsito(esito), u"Conversione eseguita...\r\n\r\nUna copia dei vecchi file è nella cartella "_s +
-                                     cartella_.Percorso() + u'/' + copie_ +
+                                     cartella_.Path() + u'/' + copie_ +
                                      u"\r\n\r\nMète cancellate nell'edizione precedente, non convertite: 1"
                                      "\r\nTappe senza una località in lettere maiuscole, non convertite: 1"_s);
     EXPECT_THAT(LeMete(), ElementsAre(u"000007|PROVENZA|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|1930|0130|"
@@ -78,8 +78,8 @@ TEST_F(Conversione, EveryFieldFindsItsPlace) {
                 ElementsAre(u"AIX|02|Cours Mirabeau|01:30|0"_s, u"AIX|05| |00:00|0"_s, u"METZ|01|Duomo|01:45|1"_s));
     EXPECT_EQ(Righe(archive_, Table::TipoGuida).size(), 9);
     EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_));
-    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VAND0007.DAT"_s), tappe);
-    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u'/' + copie_ + u"/VandMete.dat"_s), mete);
+    EXPECT_EQ(LeggiFile(cartella_.Path() + u'/' + copie_ + u"/VAND0007.DAT"_s), tappe);
+    EXPECT_EQ(LeggiFile(cartella_.Path() + u'/' + copie_ + u"/VandMete.dat"_s), mete);
 }
 
 TEST_F(Conversione, DigitsStandInTheirPlacesAndWhatTheyCannotTellGetsItsDefault) {
@@ -148,7 +148,7 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAfterACopyAndTheRestStay
     EXPECT_THAT(LeTappe(), ElementsAre(u"000009|0001|BRA|7| |P| | |0"_s, u"000007|0001|AIX|98| |A| |00:02:00|0"_s,
                                        u"000007|0002|RESTA| | | | | | "_s));
     EXPECT_EQ(LeMete().size(), 4);
-    Archive copia = Archive::Open(cartella_.Percorso() + u'/' + copie_);
+    Archive copia = Archive::Open(cartella_.Path() + u'/' + copie_);
     EXPECT_EQ(prova::Tutto(copia), prima);
 }
 
@@ -173,7 +173,7 @@ TEST_F(Conversione, WholeRecordsBeforeATornOneAreConverted) {
 
 // Killed: the copies lie in a folder that has no name yet, some files may be gone already.
 TEST_F(Conversione, AFolderLeftHalfWayIsGoneOnWithUnlessItHoldsOtherFiles) {
-    const QString inCorso = cartella_.Percorso() + u"/Vecchi file in corso"_s;
+    const QString inCorso = cartella_.Path() + u"/Vecchi file in corso"_s;
     ASSERT_TRUE(QDir().mkpath(inCorso));
     ScriviFile(inCorso + u"/VandGuid.dat"_s, "prezioso");
     ScriviFile(inCorso + u"/VandMete.dat"_s, Vecchia("ROMA", "1"));
@@ -183,7 +183,7 @@ TEST_F(Conversione, AFolderLeftHalfWayIsGoneOnWithUnlessItHoldsOtherFiles) {
     EXPECT_EQ(QDir(inCorso).entryList(QDir::Files), QStringList{u"VandGuid.dat"_s});
     Converti();
     EXPECT_THAT(cartella_.Contenuto(), ElementsAre(u"VandroCronovia.mdb"_s, copie_));
-    const QString copie = cartella_.Percorso() + u'/' + copie_;
+    const QString copie = cartella_.Path() + u'/' + copie_;
     EXPECT_EQ(LeggiFile(copie + u"/VandGuid.dat"_s), "prezioso");
     EXPECT_EQ(LeggiFile(copie + u"/VandMete.dat"_s), Vecchia("ROMA", "1"));
 
@@ -221,8 +221,8 @@ TEST_F(Conversione, StageFilesThatCannotBeTrustedStayAndAreNamed) {
     EXPECT_THAT(cartella_.Contenuto(),
                 ElementsAre(u"VandroCronovia.mdb"_s, copie_, u"vand0001.dat"_s, u"vand0002.dat"_s, u"vand0003.dat"_s,
                             u"vand0004.dat"_s, u"vand0009.dat"_s));
-    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/vand0001.dat"_s), diversi);
-    EXPECT_EQ(QDir(cartella_.Percorso() + u'/' + copie_).entryList(QDir::Files),
+    EXPECT_EQ(LeggiFile(cartella_.Path() + u"/vand0001.dat"_s), diversi);
+    EXPECT_EQ(QDir(cartella_.Path() + u'/' + copie_).entryList(QDir::Files),
               (QStringList{u"vand0010.dat"_s, u"VandMete.dat"_s}));
 }
 
@@ -268,13 +268,13 @@ class AltroProgramma : public Progress {
 TEST_F(Conversione, AFileThatChangesMeanwhileIsConvertedAsItWasAndStays) {
     Scrivi(u"VandMete.dat"_s, Vecchia("ROMA", "1"));
     Scrivi(u"VandGuid.dat"_s, Voce("ROMA|1|Colosseo|0200|0"));
-    AltroProgramma altro(cartella_.Percorso() + u"/VandMete.dat"_s);
+    AltroProgramma altro(cartella_.Path() + u"/VandMete.dat"_s);
     prova::Fermata fermata;
     EXPECT_EQ(TestoEsito(Converti(fermata)), u"Conversione interrotta: niente è stato convertito."_s);
     EXPECT_EQ(LeMete().size(), 0);
     const QString testo = TestoEsito(Converti(altro));
     EXPECT_TRUE(testo.endsWith(u"VandMete.dat: è stato convertito ma non si può cancellare"_s)) << testo.toStdString();
-    EXPECT_EQ(LeggiFile(cartella_.Percorso() + u"/VandMete.dat"_s), "nuovo");
+    EXPECT_EQ(LeggiFile(cartella_.Path() + u"/VandMete.dat"_s), "nuovo");
     EXPECT_EQ(LeMete().size(), 1);
 }
 

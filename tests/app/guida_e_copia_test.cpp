@@ -55,10 +55,10 @@ class PercorsiGuidaTest : public prova::PostazioneTest {
     }
     void CancellaRiga() { comandi::SullaGuida(*postazione_, &TavoloGuida::CancellaRiga); }
     [[nodiscard]] const TavoloGuida& Tavolo() const { return *postazione_->Su<schermata::Guida>()->tavolo; }
-    [[nodiscard]] const CopiaPercorso& CopiaAperta() const { return postazione_->Su<schermata::Copia>()->percorso; }
-    void Copia(const std::function<void(CopiaPercorso&)>& comando) { comandi::SullaCopia(*postazione_, comando); }
+    [[nodiscard]] const TavoloCopia& CopiaAperta() const { return postazione_->Su<schermata::Copia>()->tavolo; }
+    void Copia(const std::function<void(TavoloCopia&)>& comando) { comandi::SullaCopia(*postazione_, comando); }
 
-    Sessione sessione_{cartella_.Percorso()};
+    Sessione sessione_{cartella_.Path()};
     const Question trasferisce_{
         u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\nI tempi traghetto e riposi non "
         "sono influenzati e la\nmodifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
@@ -188,13 +188,13 @@ TEST_F(PercorsiGuidaTest, ATripEmptiedMeanwhileGivesNothingToCopy) {
     comandi::Duplica(*postazione_);
     MemorizzaTappeItinerario(Archivio(), altra, {}, {}, avanzamento_);
     copione_.Messaggio(u"La mèta «ZARA» non ha più tappe memorizzate."_s);
-    Copia([](CopiaPercorso& copia) { copia.SelezionaRiga(2); });
-    Copia([](CopiaPercorso& copia) { copia.ScegliMeta(2); });
+    Copia([](TavoloCopia& copia) { copia.SelezionaRiga(2); });
+    Copia([](TavoloCopia& copia) { copia.ScegliMeta(2); });
     EXPECT_EQ(CopiaAperta().Mete().size(), 1U);
     EXPECT_EQ(CopiaAperta().RigaCopia(), 1);
     CancellaMeta(Archivio(), propria, avanzamento_);
     copione_.Messaggio(u"Non esiste nessuna mèta con il codice 000002."_s);
-    Copia([](CopiaPercorso& copia) { copia.ScegliMeta(1); });
+    Copia([](TavoloCopia& copia) { copia.ScegliMeta(1); });
     EXPECT_NE(Schermo(), u"copia"_s);  // there is nothing left to choose from
     EXPECT_EQ(RigheESoste(), u"A+00:01:00"_s);
 }

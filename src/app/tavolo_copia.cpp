@@ -1,4 +1,4 @@
-#include "app/copia_percorso.h"
+#include "app/tavolo_copia.h"
 
 #include <algorithm>
 
@@ -8,22 +8,22 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-CopiaPercorso::CopiaPercorso(Sessione& sessione) : sessione_(&sessione) {
+TavoloCopia::TavoloCopia(Sessione& sessione) : sessione_(&sessione) {
     ElencaMete();
     if (mete_.empty()) throw Failure(u"Non trovate mète memorizzate"_s);
 }
 
-void CopiaPercorso::ElencaMete() {
+void TavoloCopia::ElencaMete() {
     mete_ = ElencoMete(sessione_->Archivio(), QualiMete::ConTappe);
     rigaCopia_ = std::clamp(rigaCopia_, 1, std::max(1, static_cast<int>(mete_.size())));
 }
 
-std::optional<Tratto> CopiaPercorso::Scelto() const {
+std::optional<Tratto> TavoloCopia::Scelto() const {
     if (!assegnate_[0] || !assegnate_[1]) return std::nullopt;
     return Tratto{*assegnate_[0], *assegnate_[1]};
 }
 
-void CopiaPercorso::ScegliMeta(int riga) {
+void TavoloCopia::ScegliMeta(int riga) {
     if (riga < 1 || riga > std::ssize(mete_)) return;
     const MetaInElenco scelta = mete_.at(static_cast<std::size_t>(riga - 1));
     try {
@@ -37,7 +37,7 @@ void CopiaPercorso::ScegliMeta(int riga) {
     rigaCopia_ = 1;
 }
 
-void CopiaPercorso::SelezionaRiga(int riga) {
+void TavoloCopia::SelezionaRiga(int riga) {
     rigaCopia_ = std::clamp(riga, 1, static_cast<int>(tappe_ ? tappe_->size() : mete_.size()));
 }
 

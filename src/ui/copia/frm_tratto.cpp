@@ -1,4 +1,4 @@
-#include "ui/copia/frm_percorso.h"
+#include "ui/copia/frm_tratto.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -12,8 +12,8 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-FrmPercorso::FrmPercorso(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, parent) {
-    setObjectName(u"frmPercorso"_s);
+FrmTratto::FrmTratto(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, parent) {
+    setObjectName(u"frmTratto"_s);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(CreaEstremo(0));
     layout->addWidget(CreaEstremo(1));
@@ -30,7 +30,7 @@ FrmPercorso::FrmPercorso(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s,
     layout->addStretch();
 }
 
-QWidget* FrmPercorso::CreaEstremo(int estremo) {
+QWidget* FrmTratto::CreaEstremo(int estremo) {
     const bool inizio = estremo == 0;
     auto* riquadro = new QFrame;
     riquadro->setObjectName(inizio ? u"frmInizio"_s : u"frmArrivo"_s);
@@ -70,20 +70,20 @@ QWidget* FrmPercorso::CreaEstremo(int estremo) {
     return riquadro;
 }
 
-QLayout* FrmPercorso::CreaComandi() {
+QLayout* FrmTratto::CreaComandi() {
     auto* riga = new QHBoxLayout;
     cmdInsEsegui_ = NuovoPulsante(NomeDiSerie(u"cmdInsEsegui"_s, 0), u"Inserisce &percorso"_s,
                                   u"Inserisce il tratto selezionato nel verso indicato"_s);
     QPushButton* rinuncia = NuovoPulsante(NomeDiSerie(u"cmdInsEsegui"_s, 1), u"Rin&uncia"_s,
                                           u"Rinuncia alla duplicazione dell'itinerario"_s);
-    connect(cmdInsEsegui_, &QPushButton::clicked, this, &FrmPercorso::Esegui);
-    connect(rinuncia, &QPushButton::clicked, this, &FrmPercorso::Rinuncia);
+    connect(cmdInsEsegui_, &QPushButton::clicked, this, &FrmTratto::Esegui);
+    connect(rinuncia, &QPushButton::clicked, this, &FrmTratto::Rinuncia);
     riga->addWidget(cmdInsEsegui_);
     riga->addWidget(rinuncia);
     return riga;
 }
 
-void FrmPercorso::Mostra(const CopiaPercorso& copia) {
+void FrmTratto::Mostra(const TavoloCopia& copia) {
     for (std::size_t i = 0; i < estremi_.size(); ++i) {
         const std::optional<int> riga = copia.Assegnate()[i];
         const Tappa tappa = riga && copia.Tappe() ? copia.Tappe()->at(static_cast<std::size_t>(*riga - 1)) : Tappa();

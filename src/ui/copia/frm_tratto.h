@@ -7,18 +7,18 @@
 #include <QPushButton>
 #include <array>
 
-#include "app/copia_percorso.h"
+#include "app/tavolo_copia.h"
 
 namespace cronovia {
 
-class FrmPercorso : public QGroupBox {
+class FrmTratto : public QGroupBox {
     Q_OBJECT
 
   public:
-    explicit FrmPercorso(QWidget* parent = nullptr);
+    explicit FrmTratto(QWidget* parent = nullptr);
 
     /// Shows the stages assigned; the copy can be made once both are.
-    void Mostra(const CopiaPercorso& copia);
+    void Mostra(const TavoloCopia& copia);
     /// No stops, until the person wants them.
     void Azzera() { chkInsSoste_->setChecked(false); }
     [[nodiscard]] bool ConSoste() const { return chkInsSoste_->isChecked(); }

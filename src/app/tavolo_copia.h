@@ -11,10 +11,10 @@
 
 namespace cronovia {
 
-class CopiaPercorso {
+class TavoloCopia {
   public:
     /// Lists the trips with stored stages by their destinations; refused when there is none.
-    explicit CopiaPercorso(Sessione& sessione);
+    explicit TavoloCopia(Sessione& sessione);
 
     [[nodiscard]] const std::vector<MetaInElenco>& Mete() const { return mete_; }
     /// The stages of the trip chosen; nothing while the trips are listed.
