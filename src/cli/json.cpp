@@ -52,7 +52,7 @@ void ScrittoreJson::Numero(int numero) {
 }
 
 void ScrittoreJson::Logico(bool vero) {
-    Posto();
+    IniziaValore();
     scritto_ += vero ? u"true" : u"false";
 }
 
