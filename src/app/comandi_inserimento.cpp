@@ -48,14 +48,6 @@ void SalvaTappe(Postazione& p) {
     if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
 }
 
-// The question that leaving the entry asks.
-Answer ChiedeSeSalvare(Postazione& p) {
-    return p.volti.interazione.Ask(
-        {u"Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
-         "Vuoi salvare le eventuali modifiche?"_s,
-         u"Fine inserimento"_s, true});
-}
-
 }  // namespace
 
 schermata::Inserimento NuovoInserimento(const Documento& documento) {
@@ -122,7 +114,8 @@ void Cancella(Postazione& p) {
 void AzzeraSoste(Postazione& p) {
     if (!p.ChiedeSePerdere(u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
                            "I tempi traghetto e riposi non sono influenzati e la\n"
-                           "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
+                           "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s +
+                               p.documento.Nome(),
                            u"Azzera soste itinerario"_s)) {
         return;
     }
@@ -138,10 +131,11 @@ void Ritorno(Postazione& p) {
 }
 
 void Trasferisce(Postazione& p) {
-    if (!p.Chiede(u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
-                  "I tempi traghetto e riposi non sono influenzati e la\n"
-                  "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
-                  u"Copia soste Guida -> Itinerario"_s)) {
+    if (!p.ChiedeSePerdere(u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
+                           "I tempi traghetto e riposi non sono influenzati e la\n"
+                           "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s +
+                               p.documento.Nome(),
+                           u"Copia soste Guida -> Itinerario"_s)) {
         return;
     }
     RigheItinerario righe;
@@ -178,7 +172,7 @@ void Memorizza(Postazione& p) {
     const Answer risposta = p.volti.interazione.Ask({u"Vuoi salvare l'itinerario?"_s, titolo, true});
     if (risposta == Answer::Cancel) return;
     if (risposta == Answer::Yes) return SalvaTappe(p);
-    if (!p.ChiedeSePerdere(u"Vuoi recuperare l'itinerario originale?"_s, titolo)) return;
+    if (!p.ChiedeSePerdere(u"Vuoi recuperare l'itinerario originale?\n\n"_s + p.documento.Nome(), titolo)) return;
     p.Prova([&] {
         p.documento.RicaricaTappe();
         p.schermata = NuovoInserimento(p.documento);
@@ -192,10 +186,7 @@ void Fine(Postazione& p) {
         inserimento->elencoTappe = false;
         return;
     }
-    const Answer risposta = ChiedeSeSalvare(p);
-    if (risposta == Answer::Cancel) return;
-    if (risposta == Answer::Yes && p.documento.Modificato() && !SalvaTutto(p)) return;
-    p.Prova([&] { p.VaiAlViaggio(); });
+    if (NientePerso(p)) p.Prova([&] { p.VaiAlViaggio(); });
 }
 
 }  // namespace cronovia::comandi

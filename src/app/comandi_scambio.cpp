@@ -32,8 +32,9 @@ bool NullaInSospeso(Postazione& p) {
     return true;
 }
 
-Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia) {
-    const auto disfa = [&p, file, traccia](const Passo& passo) -> std::optional<Passo> {
+// Taken back, the trip that was open before (`aperta`) is open again where the one that is open goes.
+Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia, const QString& aperta) {
+    const auto disfa = [&p, file, traccia, aperta](const Passo& passo) -> std::optional<Passo> {
         Archive& archivio = p.sessione.Archivio();
         TracciaImport fatta = traccia;
         fatta.stato = *passo.archivio;
@@ -47,6 +48,7 @@ Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& tracc
         if (CaricaMeta(archivio, p.documento.Codice())) {
             p.documento.RileggiVisite();  // what is typed in the trip's fields stays
         } else if (!p.documento.Modificato()) {
+            if (CaricaMeta(archivio, aperta)) p.documento.Apri(aperta);
             p.VaiAlViaggio();
         } else {
             p.documento.DiventaNuova();
@@ -87,7 +89,7 @@ void Importa(Postazione& p, const TavoloScambio& tavolo) {
     Storia& storia = p.documento.Modifiche();
     if (qualcosa) {
         storia.Dimentica(Ambito::Archivio);  // an import before this one cannot be taken back any more
-        storia.Ricorda(PassoImport(p, file, esito.traccia));
+        storia.Ricorda(PassoImport(p, file, esito.traccia, p.documento.Codice()));
     }
     Torna(p);
     if (esito.meteInserite == 1) ScegliMeta(p, esito.ultimaMeta);

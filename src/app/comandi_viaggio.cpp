@@ -16,7 +16,9 @@ namespace {
 void Default(Postazione& p, const QString& verbo, const std::function<void()>& azione) {
     p.Prova([&] {
         const QString titolo = u"Dati di default"_s;
-        if (!p.ChiedeSePerdere(u"Vuoi %1 i dati di default?"_s.arg(verbo), titolo)) return;
+        const bool memorizzata = !p.documento.Campi().codice.isEmpty();
+        const QString meta = memorizzata ? u"\n\n"_s + p.documento.Nome() : QString();
+        if (!p.ChiedeSePerdere(u"Vuoi %1 i dati di default?"_s.arg(verbo) + meta, titolo)) return;
         azione();
         p.Mostra(u"Operazione eseguita!"_s, titolo, Icon::Information);
     });
@@ -76,9 +78,7 @@ void ChiudiElencoMete(Postazione& p) {
 
 void Salva(Postazione& p) {
     const std::optional<Salvataggio> salvataggio = DecideSalvataggio(p);
-    if (!salvataggio) return;
-    const Operazione operazione = salvataggio->nuova ? Operazione::InserimentoMeta : Operazione::ModificaMeta;
-    if (!BoxConferma(p.volti.interazione, operazione)) return;
+    if (!salvataggio || !Confermato(p, *salvataggio)) return;
     p.MentreScrive(u"La mèta non è stata salvata."_s, [&] {
         p.documento.SalvaCampi(*salvataggio);
         p.schermata = schermata::Viaggio{Fase::Aperta};
@@ -101,7 +101,8 @@ void CancItin(Postazione& p) {
     p.Prova([&] {
         if (!BoxConferma(p.volti.interazione, Operazione::AnnullamentoItinerario, p.documento.Nome())) return;
         if (!p.ChiedeSePerdere(u"Sei sicuro di voler cancellare l'itinerario?\n\nIn caso positivo, non sarà più "
-                               "recuperabile!"_s,
+                               "recuperabile!\n\n"_s +
+                                   p.documento.Nome(),
                                u"Annullamento itinerario"_s)) {
             return;
         }

@@ -100,15 +100,25 @@ std::optional<Salvataggio> DecideSalvataggio(Postazione& p, const QString& manca
     return std::nullopt;
 }
 
+bool Confermato(Postazione& p, const Salvataggio& salvataggio) {
+    QString perso;
+    const auto nomina = [&] {
+        const std::optional<Meta> presente = CaricaMeta(p.sessione.Archivio(), salvataggio.codice);
+        if (!presente) return;  // deleted a moment ago: saving will find out
+        perso = u"%1 è già nell'archivio: i suoi dati saranno sostituiti da quelli della nuova mèta."_s.arg(
+            NomeDellaMeta(*presente));
+    };
+    if (TroppoNuova(p.documento.Campi(), salvataggio) && !p.Prova(nomina)) return false;
+    const Operazione operazione = salvataggio.nuova ? Operazione::InserimentoMeta : Operazione::ModificaMeta;
+    return BoxConferma(p.volti.interazione, operazione, perso);
+}
+
 bool SalvaTutto(Postazione& p) {
     Documento& documento = p.documento;
     const bool campi = documento.CampiModificati();
     const auto salvataggio = campi ? DecideSalvataggio(p, Mancato(documento)) : Salvataggio();
     if (!salvataggio) return false;
-    if (campi && TroppoNuova(documento.Campi(), *salvataggio)) {
-        const QString perso = u"%1 (%2)"_s.arg(documento.Campi().localita.trimmed(), salvataggio->codice);
-        if (!BoxConferma(p.volti.interazione, Operazione::ModificaMeta, perso)) return false;
-    }
+    if (campi && TroppoNuova(documento.Campi(), *salvataggio) && !Confermato(p, *salvataggio)) return false;
     EsitoMemorizzazione esito;
     const bool salvata = p.MentreScrive(Mancato(documento), [&] {
         esito = documento.SalvaTutto(*salvataggio, p.volti.avanzamento);

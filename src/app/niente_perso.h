@@ -17,6 +17,8 @@ void Rinuncia(Postazione& p);
 /// As `NientePerso`, for the entry of the guide alone, before another one comes into the fields.
 [[nodiscard]] bool VoceNonPersa(Postazione& p);
 
+/// Asks whether to save the fields. A new trip that would take the place of a stored one: names that, and presets No.
+[[nodiscard]] bool Confermato(Postazione& p, const Salvataggio& salvataggio);
 /// Saves what was changed of the trip, whole or not at all. Tells what was shortened, or what went wrong: false then.
 [[nodiscard]] bool SalvaTutto(Postazione& p);
 

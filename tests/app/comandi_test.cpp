@@ -61,7 +61,7 @@ TEST_F(ComandiTest, EveryVerbIsUndoneAndDoneAgainByName) {
     const QString azzera =
         u"Vuoi azzerare le soste indicate nell'itinerario?\n\nI tempi traghetto e riposi non sono "
         "influenzati e la\ncancellazione sarà effettiva dopo il salvataggio dell'itinerario."
-        "\n\nProcedo?"_s;
+        "\n\nProcedo?\n\nUNO (000001)"_s;
     struct Passo {
         QString nome;
         std::function<void()> verbo;
@@ -249,7 +249,7 @@ TEST_F(ComandiTest, NothingOfATripDeletedMeanwhileIsLeftForTheNextOfItsCode) {
     copione_.Domanda(u"Confermi annullamento meta?\n\nDUE (000002)"_s, u"Annullamento meta"_s, Answer::Yes);
     comandi::CancMeta(*altra);
     const auto rifiutata = [this](const QString& perche) {
-        DomandaDiUscita(Answer::Yes);
+        DomandaModifiche(u"La mèta «DUE» (codice 000002) ha modifiche non salvate."_s, Answer::Yes);
         copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + perche);
         comandi::Fine(*postazione_);
         EXPECT_EQ(Righe(), u"A"_s);
@@ -263,7 +263,8 @@ TEST_F(ComandiTest, NothingOfATripDeletedMeanwhileIsLeftForTheNextOfItsCode) {
     rifiutata(u"Non esiste nessuna mèta con il codice 000002."_s);
     altra->sessione.NuovaMeta(u"TRE"_s, u"ITALIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
     rifiutata(u"La mèta con il codice 000002 non è più «DUE», ma «TRE»: un'altra finestra l'ha cambiata."_s);
-    Esce(Answer::No);
+    DomandaModifiche(u"La mèta «DUE» (codice 000002) ha modifiche non salvate."_s, Answer::No);
+    comandi::Fine(*postazione_);
     EXPECT_EQ(Viaggio().Campi().localita, u"TRE"_s);
     comandi::Nuovo(*postazione_);
     Destinazione(u"SEI"_s, u"ITALIA"_s);

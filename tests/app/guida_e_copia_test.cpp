@@ -61,7 +61,7 @@ class PercorsiGuidaTest : public prova::PostazioneTest {
     Sessione sessione_{cartella_.Path()};
     const Question trasferisce_{
         u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\nI tempi traghetto e riposi non "
-        "sono influenzati e la\nmodifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?"_s,
+        "sono influenzati e la\nmodifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\nUNO (000001)"_s,
         u"Copia soste Guida -> Itinerario"_s};
 };
 

@@ -85,7 +85,7 @@ TEST_F(ScambioTest, AnImportCanBeTakenBackUntilTheNextChange) {
     EXPECT_EQ(postazione_->documento.Codice(), u"000001"_s);
 
     Importa(Answer::No);
-    copione_.Domanda(u"Vuoi ripristinare i dati di default?"_s, u"Dati di default"_s, Answer::Yes);
+    copione_.Domanda(u"Vuoi ripristinare i dati di default?\n\nALBA (000001)"_s, u"Dati di default"_s, Answer::Yes);
     copione_.Messaggio(u"Operazione eseguita!"_s, u"Dati di default"_s);
     comandi::RipristinaDefault(*postazione_);
     EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);

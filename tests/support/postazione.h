@@ -98,13 +98,11 @@ class PostazioneTest : public testing::Test {
                          QStringLiteral("Annullamento meta"), risposta);
         comandi::CancMeta(*postazione_);
     }
-    void DomandaDiUscita(Answer risposta) {
-        copione_.Domanda(QStringLiteral("Hai chiesto di uscire dalla funzione 'Itinerari':\n\nVuoi salvare le "
-                                        "eventuali modifiche?"),
-                         QStringLiteral("Fine inserimento"), risposta, true);
-    }
+    /// Leaves the entry, which asks when stages differ from those stored.
     void Esce(Answer risposta) {
-        DomandaDiUscita(risposta);
+        const QString nome = QStringLiteral("«%1» (codice %2)").arg(Viaggio().Caricati().localita, Viaggio().Codice());
+        const bool diverse = Righe() != Memorizzate(Viaggio().Codice());
+        if (diverse) DomandaModifiche(QStringLiteral("La mèta %1 ha modifiche non salvate.").arg(nome), risposta);
         comandi::Fine(*postazione_);
     }
     void DomandaModifiche(const QString& inizio, Answer risposta) {

@@ -45,6 +45,8 @@ class FinestraTest : public testing::Test {
         QString titolo = u"Cronovia"_s;                         ///< of a box
         QMessageBox::StandardButton bottone = QMessageBox::Ok;  ///< of a box
         QString file;                                           ///< for a file dialog; none: it is called off
+        /// What Enter answers when it is asked; without one that is the answer that loses nothing.
+        QMessageBox::StandardButton preset = QMessageBox::NoButton;
     };
     void Attendi(Attesa attesa) { attese_.push_back(std::move(attesa)); }
     /// A failure when something that must have come did not.
@@ -151,7 +153,15 @@ class FinestraTest : public testing::Test {
         }
         EXPECT_EQ(box.windowTitle(), attesa.titolo);
         EXPECT_TRUE(!Qt::mightBeRichText(box.text()) || box.textFormat() == Qt::PlainText);
+        EXPECT_TRUE(box.buttons().size() == 1 || box.defaultButton() == Preset(box, attesa.preset))
+            << "another answer is preset: " << box.text().toStdString();
         QTest::mouseClick(box.button(attesa.bottone), Qt::LeftButton);
+    }
+    static QAbstractButton* Preset(const QMessageBox& box, QMessageBox::StandardButton preset) {
+        for (const auto quale : {preset, QMessageBox::Yes, QMessageBox::Save, QMessageBox::Ok}) {
+            if (quale != QMessageBox::NoButton && box.button(quale) != nullptr) return box.button(quale);
+        }
+        return nullptr;
     }
     void ScegliFile(QFileDialog& scelta, const QString& file) {
         visto_ = scelta.nameFilters().join(u'|');

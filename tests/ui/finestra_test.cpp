@@ -104,7 +104,8 @@ TEST_F(ControlliTest, ALongFitIsStoppedHalfWay) {
                  u"Vuoi interrompere l'elaborazione?"_s,
                  u"Fine Lavoro"_s,
                  primo ? QMessageBox::No : QMessageBox::Yes,
-                 {}});
+                 {},
+                 QMessageBox::No});
         if (primo) {
             EXPECT_FALSE(form_->close());
         } else {

@@ -7,7 +7,8 @@
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
 //   sql TEXT                          what another program does to the archive
-//   answer BUTTON TEXT [TITLE]        the next box is a question; message TEXT [TITLE]: is told, and read with Ok
+//   answer BUTTON TEXT [TITLE]        the next box is a question, and Enter would say yes: else as in "Sì/No", where
+//                                     Enter would say no; message TEXT [TITLE]: is told, and read with Ok
 //   choose [FILE]                     the next dialog asks for a file; without one it is called off
 //   dismiss                           the next dialog of any other kind is closed; expect-seen TEXT: what it was
 //   type NAME TEXT · keys TEXT        typed over what is there; typed where the focus is
@@ -271,7 +272,13 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
             {u"Annulla"_s, QMessageBox::Cancel}, {u"Altro"_s, QMessageBox::Discard},
             {u"Salva"_s, QMessageBox::Save},     {u"Non salvare"_s, QMessageBox::Discard},
             {u"Ok"_s, QMessageBox::Ok}};
-        Attendi({Attesa::Che::Box, testo, titolo.isEmpty() ? u"Cronovia"_s : titolo, bottoni.at(bottone), {}});
+        const QString preset = bottone.section(u'/', 1);
+        Attendi({Attesa::Che::Box,
+                 testo,
+                 titolo.isEmpty() ? u"Cronovia"_s : titolo,
+                 bottoni.at(bottone.section(u'/', 0, 0)),
+                 {},
+                 preset.isEmpty() ? QMessageBox::NoButton : bottoni.at(preset)});
     }
 
     QString Premibili(const QString& nome) {
