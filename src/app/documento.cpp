@@ -10,6 +10,16 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Whether a schedule takes the same from both.
+bool StessoCalcolo(const Meta& a, const Meta& b) {
+    return a.dataInizio == b.dataInizio && a.oraInizio == b.oraInizio && a.parametri == b.parametri &&
+           a.giorniAdeguamento == b.giorniAdeguamento;
+}
+
+}  // namespace
+
 void Documento::Metti(const Meta& campi, RigheItinerario righe) {
     ImpostaCampi(campi);
     if (const auto giorno = campi_.partiInizio.Giorno()) {
@@ -24,6 +34,7 @@ void Documento::MettiTappe(RigheItinerario righe) {
     righe_ = std::move(righe);
     caricate_ = righe_;
     cronovia_.reset();
+    Decade();
     rigaCorrente_ = 1;
     storia_.Dimentica(Ambito::Viaggio);
     RicalcolaTempi();
@@ -73,17 +84,28 @@ void Documento::RileggiVisite() {
     RigheItinerario righe = righe_;
     RicalcolaVisite(sessione_.Archivio(), righe, orario_);
     const bool intatte = !TappeModificate();
+    if (righe != righe_) Decade();
     righe_ = std::move(righe);
     RicalcolaTempi();
     if (intatte) caricate_ = righe_;
 }
 
+// Fields or stages changed. A schedule on screen stays there until it is dropped.
+void Documento::Decade() {
+    vale_ = false;
+    ultima_.reset();
+    if (!cronovia_) giornate_.clear();
+    ++versione_;
+}
+
 void Documento::ImpostaCampi(const Meta& campi) {
+    if (!StessoCalcolo(campi, campi_)) Decade();
     campi_ = campi;
     orario_ = OrarioCorretto(campi_.parametri);
 }
 
 void Documento::ImpostaParametri(const ParametriViaggio& parametri) {
+    if (parametri != campi_.parametri) Decade();
     campi_.parametri = parametri;
     orario_ = OrarioCorretto(parametri);
 }
@@ -114,6 +136,7 @@ void Documento::SelezionaRiga(int riga) {
 // Takes over changed stages: times and visits are computed afresh.
 void Documento::Mostra(Stato stato) {
     RicalcolaVisite(sessione_.Archivio(), stato.righe, orario_);
+    if (stato.righe != righe_) Decade();
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
     SelezionaRiga(stato.rigaCorrente);
@@ -147,11 +170,16 @@ QString Documento::Calcola(Progress& progress) {
     EsitoCalcolo esito = sessione_.Calcola({corretti, orario_, righe_, riepilogo_}, {}, progress);
     AggiornaOrari();
     cronovia_ = std::move(esito.cronovia);
+    Decade();
+    vale_ = cronovia_.has_value();
+    if (vale_) giornate_ = cronovia::Giornate(*cronovia_, *campi_.dataInizio);
     return esito.messaggio;
 }
 
 void Documento::Ricomponi() {
+    if (cronovia_ && vale_) ultima_ = std::move(cronovia_);
     cronovia_.reset();
+    if (!ultima_) Decade();
     RicalcolaTempi();
 }
 

@@ -9,6 +9,7 @@
 #include "app/storia.h"
 #include "itinerary/itinerari.h"
 #include "itinerary/modifiche.h"
+#include "schedule/giornate.h"
 #include "trips/mete.h"
 
 namespace cronovia {
@@ -31,6 +32,12 @@ class Documento {
     [[nodiscard]] const RiepilogoItinerario& Riepilogo() const { return riepilogo_; }
     /// The schedule computed from it, until that is dropped.
     [[nodiscard]] const std::optional<Cronovia>& Calcolata() const { return cronovia_; }
+    /// The last schedule that was computed, dropped or not, while fields and stages are as they were then; else null.
+    [[nodiscard]] const Cronovia* Ultima() const { return cronovia_ ? &*cronovia_ : ultima_ ? &*ultima_ : nullptr; }
+    /// Its days; none without it.
+    [[nodiscard]] const std::vector<Giornata>& Giornate() const { return giornate_; }
+    /// Another number whenever that schedule is another one, or none any more.
+    [[nodiscard]] int VersioneCronovia() const { return versione_; }
     /// Code of the stored trip that was opened last, also while a new one is filled in; empty when there is none.
     [[nodiscard]] const QString& Codice() const { return codice_; }
     /// Destination and code of that trip, as it was loaded: what questions call it.
@@ -110,6 +117,7 @@ class Documento {
     void Concludi(Transaction& transaction, const QString& codice);
     void Mostra(Stato stato);
     void RicalcolaTempi();
+    void Decade();
     void Correggi(const ParametriViaggio& parametri);
     [[nodiscard]] Passo PassoVerso(const QString& nome, Stato prima);
 
@@ -119,6 +127,10 @@ class Documento {
     RigheItinerario righe_;
     RiepilogoItinerario riepilogo_;
     std::optional<Cronovia> cronovia_;
+    std::optional<Cronovia> ultima_;
+    std::vector<Giornata> giornate_;
+    int versione_ = 0;
+    bool vale_ = false;  // fields and stages are as they were when the schedule on screen was computed
     QString codice_;
     int rigaCorrente_ = 1;
     Meta caricati_;

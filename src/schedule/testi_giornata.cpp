@@ -1,5 +1,7 @@
 #include "schedule/testi_giornata.h"
 
+#include <algorithm>
+
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 
@@ -21,6 +23,12 @@ QString TestoNotte(const Giornata& giornata) {
     const QString luogo = LuogoDellaNotte(giornata);
     const bool dove = giornata.inViaggio || giornata.notteInTraghetto;
     return (giornata.ultima ? u"fine "_s : u"notte "_s) + (dove ? luogo : A(luogo));
+}
+
+// A stop that is put off or spread ends on another day; driving is late on its own.
+bool Riguarda(const Rinvio& rinvio, const RigaCronovia& riga) {
+    const bool guida = rinvio.genere == GenereRinvio::NotteTardiva || rinvio.genere == GenereRinvio::GiorniDiRiposo;
+    return guida ? riga.genere == GenereRiga::Marcia && rinvio.data == riga.data : riga.genere == GenereRiga::Sosta;
 }
 
 }  // namespace
@@ -70,6 +78,20 @@ QStringList TestiRinvii(const Giornata& giornata, const Cronovia& cronovia) {
     QStringList testi;
     for (const Rinvio& rinvio : giornata.rinvii) testi += Testo(rinvio, cronovia);
     return testi;
+}
+
+std::map<int, QString> MotiviDelleRighe(const Cronovia& cronovia) {
+    std::map<int, QString> motivi;
+    for (const Rinvio& rinvio : cronovia.rinvii) {
+        const auto diTappa = [](const RigaCronovia& riga, int tappa) { return riga.tappa < tappa; };
+        auto riga = std::lower_bound(cronovia.righe.begin(), cronovia.righe.end(), rinvio.tappa, diTappa);
+        for (; riga != cronovia.righe.end() && riga->tappa == rinvio.tappa; ++riga) {
+            if (!Riguarda(rinvio, *riga)) continue;
+            QString& testo = motivi[static_cast<int>(riga - cronovia.righe.begin())];
+            testo += (testo.isEmpty() ? QString() : u"\n"_s) + Testo(rinvio, cronovia);
+        }
+    }
+    return motivi;
 }
 
 QString RigaGiornata(const Giornata& giornata, const Cronovia& cronovia) {

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <map>
 
 #include "schedule/giornate.h"
 
@@ -21,6 +22,10 @@ QString LuogoDellaNotte(const Giornata& giornata);
 /// Why something is later: "sosta a CELLE rinviata a domani (arrivo 0:37 oltre l'orario)".
 QString Testo(const Rinvio& rinvio, const Cronovia& cronovia);
 QStringList TestiRinvii(const Giornata& giornata, const Cronovia& cronovia);
+
+/// The reasons that are about rows of the schedule, about their stop or driving: by position, in order; several of a
+/// row are lines of one text.
+std::map<int, QString> MotiviDelleRighe(const Cronovia& cronovia);
 
 /// The line above a day's rows: what it holds, and behind it the reasons of what is late or put off.
 QString RigaGiornata(const Giornata& giornata, const Cronovia& cronovia);

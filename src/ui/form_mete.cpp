@@ -52,6 +52,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     setObjectName(u"formMete"_s);
     Disponi();
     Collega();
+    CreaGiornate();
     RendiLeggibile();
     RipristinaAspetto();
     Mostra();
@@ -61,6 +62,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
 // Frames that go lose the focus and say so: they go while there is somebody to listen, who does nothing any more.
 FormMete::~FormMete() {
     mostrando_ = true;
+    qDeleteAll(pannelli_);
     delete takeCentralWidget();
 }
 
@@ -114,6 +116,18 @@ void FormMete::CreaStampe(QGridLayout& area) {
     stampa_ = new ComandoStampa(ambiente, area);
     guida_.ImpostaStampa(*new ComandoStampaGuida(ambiente, stampa_->Stampante(), area));
     azioni_ = new AzioniModifica(*this, {&inserimento_.Riquadro(), &griglia_.Vista()}, postazione_, ambiente.esegui);
+}
+
+// Grid and panel follow each other's current row.
+void FormMete::CreaGiornate() {
+    giornate_ = new PannelloGiornate;
+    giornate_->hide();
+    AggiungiPannello(*giornate_, Qt::BottomDockWidgetArea);
+    addAction(giornate_->toggleViewAction());
+    connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
+    connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
+    connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
+    connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
 }
 
 void FormMete::Collega() {

@@ -1,7 +1,6 @@
 // The main window: places the screens and panels, has commands run, and shows the state after each.
 #pragma once
 
-#include <QDockWidget>
 #include <QMainWindow>
 #include <QSettings>
 #include <functional>
@@ -11,7 +10,9 @@
 #include "ui/comuni/azioni_modifica.h"
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/interazione_finestra.h"
+#include "ui/comuni/pannello.h"
 #include "ui/copia/schermo_copia.h"
+#include "ui/giornate/pannello_giornate.h"
 #include "ui/griglia/schermo_griglia.h"
 #include "ui/guida/schermo_guida.h"
 #include "ui/inserimento/schermo_inserimento.h"
@@ -24,17 +25,6 @@ class QGridLayout;
 class QSessionManager;
 
 namespace cronovia {
-
-/// A panel beside the grid. It is named by its object name, under which its place is remembered.
-class Pannello : public QDockWidget {
-    Q_OBJECT
-
-  public:
-    using QDockWidget::QDockWidget;
-
-    /// Called whenever the state is shown anew.
-    virtual void Mostra(const Postazione& postazione) = 0;
-};
 
 class FormMete : public QMainWindow {
     Q_OBJECT
@@ -61,6 +51,7 @@ class FormMete : public QMainWindow {
     void Disponi();
     QWidget* CreaAreaGriglia();
     void CreaStampe(QGridLayout& area);
+    void CreaGiornate();
     void Collega();
     void Raccogli();
     void ConcludiIlCampo();
@@ -96,6 +87,7 @@ class FormMete : public QMainWindow {
     QWidget* areaGriglia_ = nullptr;
     ComandoStampa* stampa_ = nullptr;
     AzioniModifica* azioni_ = nullptr;
+    PannelloGiornate* giornate_ = nullptr;
     QList<Pannello*> pannelli_;
     bool mostrando_ = false;
     bool inCorso_ = false;    // a command has begun and not ended

@@ -69,6 +69,7 @@ TEST_F(ControlliTest, RowsOfTheScheduleDifferByMoreThanColour) {
     std::map<QString, int> righe;
     for (int i = 0; i < modello.rowCount(); ++i) {
         const QModelIndex cella = modello.index(i, 0);
+        if (cella.data().toString().startsWith(u"Giorno "_s)) continue;
         const QString significato = cella.data(Qt::ToolTipRole).toString();
         EXPECT_TRUE(cella.data(Qt::AccessibleTextRole).toString().contains(significato));
         EXPECT_EQ(cella.data(Qt::DecorationRole).value<QIcon>().isNull(), significato.isEmpty());

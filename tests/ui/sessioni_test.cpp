@@ -14,6 +14,7 @@
 //   type NAME TEXT · keys TEXT        typed over what is there; typed where the focus is
 //   key KEY... · focus NAME           as in "Ctrl+Z", where the focus is
 //   press NAME · click NAME ROW       a button or box; a row of a table (from 1), an entry of a list
+//   sign NAME ROW · bar NAME DAY HH:MM  the sign at a row's beginning; a bar of the days' panel
 //   trigger NAME                      an entry of a menu
 //   beside NAME                       a click there, whether that can be used or not
 //   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
@@ -28,6 +29,7 @@
 //   expect-header TABLE COL TEXT · expect-selected TABLE ROWS · expect-width TABLE COL W · expect-size W H
 //   expect-fits TABLE                 its columns share out its width
 //   expect-tip NAME TEXT · expect-tip TABLE ROW COL TEXT      as the person reads it
+//   expect-bar NAME DAY HH:MM TEXT    the same of a bar
 //   expect-focus NAME
 //   expect-enabled NAME BUTTONS       those within that can be pressed, by name without "cmd"
 //   expect-on · expect-off · expect-visible · expect-hidden NAME...
@@ -137,8 +139,9 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     void Sorveglia() {
         if (form_ == nullptr) return;
         SorvegliaLettere();
-        for (const QTableView* tabella : form_->findChildren<QTableView*>()) {
+        for (const auto* tabella : form_->findChildren<QAbstractItemView*>()) {
             QAbstractItemModel* modello = tabella->model();
+            if (!tabella->inherits("QTableView") && !tabella->inherits("cronovia::VistaGiornate")) continue;
             if (modello == nullptr || modello->findChild<QAbstractItemModelTester*>() != nullptr) continue;
             new QAbstractItemModelTester(modello, QAbstractItemModelTester::FailureReportingMode::Warning, modello);
         }
@@ -180,7 +183,15 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         throw std::runtime_error("says nothing");
     }
 
-    const QAbstractItemModel& Modello(const QString& tabella) { return *Trova<QTableView>(tabella).model(); }
+    const QAbstractItemModel& Modello(const QString& tabella) { return *Trova<QAbstractItemView>(tabella).model(); }
+
+    // The strip of a day in the panel, at an hour.
+    void SullaStriscia(const QStringList& p, const std::function<void(VistaGiornate&, QPoint)>& azione) {
+        auto& vista = Usabile<VistaGiornate>(p[0]);
+        const QTime ora = QTime::fromString(p[2], u"H:mm"_s);
+        vista.scrollTo(vista.model()->index(p[1].toInt() - 1, 0));
+        azione(vista, vista.Punto(p[1].toInt() - 1, InCentesimi({0, ora.hour(), ora.minute()}, kGiornoOrologio)));
+    }
 
     void Clicca(const QString& nome, const QString& quale) {
         Preme(nome, quale, [](QWidget* su, const QPoint& dove) { QTest::mouseClick(su, Qt::LeftButton, {}, dove); });
@@ -311,7 +322,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
 
     void AttesaScelta(const QStringList& p) {
         QStringList righe;
-        for (const QModelIndex& riga : Trova<QTableView>(p[0]).selectionModel()->selectedRows()) {
+        for (const QModelIndex& riga : Trova<QAbstractItemView>(p[0]).selectionModel()->selectedRows()) {
             righe += QString::number(riga.row() + 1);
         }
         righe.sort();
@@ -382,6 +393,24 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
          {2,
           [this](auto& p) {
               Preme(p[0], p[1], [](QWidget* su, QPoint dove) { QTest::mouseRelease(su, Qt::LeftButton, {}, dove); });
+          }}},
+        {u"sign"_s,
+         {2,
+          [this](auto& p) {
+              auto& vista = Usabile<QTableView>(p[0]);
+              const QPoint inizio = vista.visualRect(vista.model()->index(p[1].toInt() - 1, 0)).topLeft();
+              QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, inizio + QPoint(8, 8));
+          }}},
+        {u"bar"_s,
+         {3,
+          [this](auto& p) {
+              SullaStriscia(
+                  p, [](auto& vista, QPoint dove) { QTest::mouseClick(vista.viewport(), Qt::LeftButton, {}, dove); });
+          }}},
+        {u"expect-bar"_s,
+         {4,
+          [this](auto& p) {
+              SullaStriscia(p, [&](auto& vista, QPoint dove) { Uguale(vista.Suggerimento(dove), p[3]); });
           }}},
         {u"trigger"_s, {1, [this](auto& p) { Trova<QAction>(p[0]).trigger(); }}},
         {u"beside"_s, {1, [this](auto& p) { QTest::mouseClick(&Trova(p[0]), Qt::LeftButton); }}},

@@ -10,16 +10,11 @@ namespace cronovia {
 namespace {
 
 constexpr double kContrastoMinimo = 4.5;
-constexpr int kPassi = 10;
+constexpr int kPasso = 10;  // hundredths
 
 double Luminanza(const QColor& colore) {
     const auto lineare = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
     return 0.2126 * lineare(colore.redF()) + 0.7152 * lineare(colore.greenF()) + 0.0722 * lineare(colore.blueF());
-}
-
-QColor Misto(const QColor& da, const QColor& a, int passo) {
-    const auto parte = [passo](int x, int y) { return x + (y - x) * passo / kPassi; };
-    return {parte(da.red(), a.red()), parte(da.green(), a.green()), parte(da.blue(), a.blue())};
 }
 
 class SegueIntorno : public QObject {
@@ -46,6 +41,11 @@ class SegueIntorno : public QObject {
 
 }  // namespace
 
+QColor Misto(const QColor& da, const QColor& a, int centesimi) {
+    const auto parte = [centesimi](int x, int y) { return x + (y - x) * centesimi / 100; };
+    return {parte(da.red(), a.red()), parte(da.green(), a.green()), parte(da.blue(), a.blue())};
+}
+
 double Contrasto(const QColor& a, const QColor& b) {
     const auto [scuro, chiaro] = std::minmax({Luminanza(a), Luminanza(b)});  // by value: the two are temporaries
     return (chiaro + 0.05) / (scuro + 0.05);
@@ -63,9 +63,9 @@ QPalette ConDisabilitatiLeggibili(QPalette palette) {
                 return Contrasto(colore, palette.color(QPalette::Disabled, sfondo)) >= kContrastoMinimo;
             });
         };
-        int passo = 0;
-        while (passo < kPassi && !siLegge(Misto(spento, acceso, passo))) ++passo;
-        palette.setColor(QPalette::Disabled, testo, Misto(spento, acceso, passo));
+        int centesimi = 0;
+        while (centesimi < 100 && !siLegge(Misto(spento, acceso, centesimi))) centesimi += kPasso;
+        palette.setColor(QPalette::Disabled, testo, Misto(spento, acceso, centesimi));
     }
     return palette;
 }

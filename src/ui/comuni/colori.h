@@ -9,6 +9,9 @@ namespace cronovia {
 /// The contrast of two colours, 1 to 21.
 double Contrasto(const QColor& a, const QColor& b);
 
+/// The first colour with so many hundredths of the second one.
+QColor Misto(const QColor& da, const QColor& a, int centesimi);
+
 /// The palette with texts of disabled controls that can be read: a contrast of 4.5 at least.
 QPalette ConDisabilitatiLeggibili(QPalette palette);
 

@@ -60,6 +60,14 @@ void DisegnaLibro(QPainter& p) {
     p.drawPolyline(QPolygonF({{8, 4}, {2.5, 3}, {2.5, 12}, {8, 13}, {13.5, 12}, {13.5, 3}, {8, 4}}));
 }
 
+// A triangle that points to the rows below, or to what it hides.
+void DisegnaTriangolo(QPainter& p, bool aperta) {
+    const QPolygonF triangolo = aperta ? QPolygonF({{3, 5}, {13, 5}, {8, 12}}) : QPolygonF({{5, 3}, {12, 8}, {5, 13}});
+    QPainterPath forma;
+    forma.addPolygon(triangolo);
+    p.fillPath(forma, p.pen().brush());
+}
+
 void Disegna(Segno segno, QPainter& p) {
     switch (segno) {
         case Segno::FineGiorno:
@@ -72,6 +80,10 @@ void Disegna(Segno segno, QPainter& p) {
             return DisegnaBandiera(p);
         case Segno::Guida:
             return DisegnaLibro(p);
+        case Segno::GiornataAperta:
+            return DisegnaTriangolo(p, true);
+        case Segno::GiornataChiusa:
+            return DisegnaTriangolo(p, false);
         case Segno::Nessuno:
             break;
     }

@@ -1,9 +1,14 @@
 #include "ui/griglia/modello_griglia.h"
 
+#include <QApplication>
+#include <QBrush>
 #include <QFont>
+#include <QPalette>
 #include <algorithm>
 
+#include "schedule/testi_giornata.h"
 #include "ui/comuni/aiuti.h"
+#include "ui/comuni/colori.h"
 #include "ui/comuni/controlli.h"
 #include "ui/griglia/icone_righe.h"
 
@@ -42,6 +47,8 @@ QString Significato(Segno segno) {
             return u"Sosta"_s;
         case Segno::Guida:
             return u"Guida delle città"_s;
+        case Segno::GiornataAperta:
+        case Segno::GiornataChiusa:
         case Segno::Nessuno:
             break;
     }
@@ -50,9 +57,17 @@ QString Significato(Segno segno) {
 
 QVariant CarattereDelSegno(Segno segno) {
     QFont carattere;
-    if (segno == Segno::FineGiorno || segno == Segno::Riposo) carattere.setBold(true);
+    if (segno != Segno::Pasto && segno != Segno::Sosta && segno != Segno::Guida && segno != Segno::Nessuno) {
+        carattere.setBold(true);
+    }
     if (segno == Segno::Guida) carattere.setItalic(true);
     return carattere;
+}
+
+// A little of the text's colour, whatever the theme.
+QBrush SfondoDellaLinea() {
+    const QPalette& colori = QApplication::palette();
+    return Misto(colori.color(QPalette::Base), colori.color(QPalette::Text), 12);
 }
 
 }  // namespace
@@ -66,18 +81,45 @@ void ModelloGriglia::MostraItinerario(const RigheItinerario& righe, const Riepil
     riepilogo_ = riepilogo;
     righeMinime_ = righeMinime;
     cronovia_.reset();
+    giornate_.clear();
+    mostrate_ = {};
     endResetModel();
 }
 
-void ModelloGriglia::MostraCronovia(const Cronovia& cronovia) {
+void ModelloGriglia::MostraCronovia(const Cronovia& cronovia, const std::vector<Giornata>& giornate) {
     beginResetModel();
     cronovia_ = cronovia;
+    giornate_ = giornate;
+    motivi_ = MotiviDelleRighe(cronovia);
+    mostrate_ = RigheMostrate(giornate_, mostrate_);
     endResetModel();
+}
+
+std::optional<int> ModelloGriglia::Linea(int riga) const {
+    return cronovia_ && riga >= 0 && riga < mostrate_.Numero() ? mostrate_.Linea(riga) : std::nullopt;
+}
+
+void ModelloGriglia::Chiudi(int giornata, bool chiusa) {
+    if (mostrate_.Chiusa(giornata) == chiusa) return;
+    const int linea = mostrate_.DoveLinea(giornata);
+    const int righe = mostrate_.RigheDi(giornata);
+    if (righe == 0) {
+        mostrate_.Chiudi(giornata, chiusa);
+    } else if (chiusa) {
+        beginRemoveRows({}, linea + 1, linea + righe);
+        mostrate_.Chiudi(giornata, chiusa);
+        endRemoveRows();
+    } else {
+        beginInsertRows({}, linea + 1, linea + righe);
+        mostrate_.Chiudi(giornata, chiusa);
+        endInsertRows();
+    }
+    Q_EMIT dataChanged(index(linea, 0), index(linea, columnCount() - 1));
 }
 
 int ModelloGriglia::rowCount(const QModelIndex& parent) const {
     if (parent.isValid()) return 0;
-    if (cronovia_) return static_cast<int>(cronovia_->righe.size());
+    if (cronovia_) return mostrate_.Numero();
     return std::max(static_cast<int>(righe_.size()) + 1, righeMinime_);
 }
 
@@ -86,19 +128,23 @@ int ModelloGriglia::columnCount(const QModelIndex& parent) const {
 }
 
 RigaGriglia ModelloGriglia::Testi(int riga) const {
+    if (cronovia_) return TestiDellaRiga(*cronovia_, static_cast<std::size_t>(*mostrate_.Riga(riga)));
     const auto indice = static_cast<std::size_t>(riga);
-    if (cronovia_) return TestiDellaRiga(*cronovia_, indice);
     if (indice >= righe_.size()) return {};
     if (righe_[indice].localita.isEmpty()) return {{QString::number(riga + 1)}};
     return TestiDellaTappa(riga + 1, righe_[indice], riepilogo_.tappe[indice]);
 }
 
 Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
-    const auto indice = static_cast<std::size_t>(riga);
     if (!cronovia_) {
+        const auto indice = static_cast<std::size_t>(riga);
         return indice < righe_.size() && righe_[indice].fineGiorno ? Segno::FineGiorno : Segno::Nessuno;
     }
-    const RigaCronovia& dati = cronovia_->righe[indice];
+    const std::optional<int> posizione = mostrate_.Riga(riga);
+    if (!posizione) {
+        return mostrate_.Chiusa(mostrate_.GiornataDi(riga)) ? Segno::GiornataChiusa : Segno::GiornataAperta;
+    }
+    const RigaCronovia& dati = cronovia_->righe[static_cast<std::size_t>(*posizione)];
     if (dati.riposoDopo) return Segno::Riposo;
     if (dati.cambiaGiorno) return Segno::FineGiorno;
     switch (dati.genere) {
@@ -111,15 +157,51 @@ Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
     }
 }
 
+// Why something of a row is later than one would expect.
+QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
+    if (colonna == Colonna::Numero) return Significato(SegnoDellaRiga(riga));
+    QStringList testi = {Testi(riga)[colonna]};
+    if (cronovia_ && colonna == Colonna::Note) {
+        const auto motivo = motivi_.find(*mostrate_.Riga(riga));
+        if (motivo != motivi_.end()) testi += motivo->second;
+    }
+    testi.removeAll(QString());
+    return TestoPiano(testi.join(u'\n'));
+}
+
+// The line of a day is one text, which runs over all columns.
+QVariant ModelloGriglia::DatiDellaLinea(int giornata, Colonna colonna, int role) const {
+    const Giornata& dati = giornate_[static_cast<std::size_t>(giornata)];
+    const int riga = mostrate_.DoveLinea(giornata);
+    if (role == kRuoloLinea) return true;
+    if (role == Qt::BackgroundRole) return SfondoDellaLinea();
+    if (role == Qt::FontRole) return CarattereDelSegno(SegnoDellaRiga(riga));
+    if (colonna != Colonna::Numero) return {};
+    switch (role) {
+        case Qt::DisplayRole:
+            return RigaGiornata(dati, *cronovia_);
+        case Qt::AccessibleTextRole:
+            return RigaGiornata(dati, *cronovia_) + (mostrate_.Chiusa(giornata) ? u", chiusa"_s : u", aperta"_s);
+        case Qt::ToolTipRole:
+            return TestoPiano(RigaGiornata(dati, *cronovia_));
+        case Qt::DecorationRole:
+            return IconaDellaRiga(SegnoDellaRiga(riga));
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+        default:
+            return {};
+    }
+}
+
 QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount()) return {};
     const auto colonna = static_cast<Colonna>(index.column());
+    if (const std::optional<int> giornata = Linea(index.row())) return DatiDellaLinea(*giornata, colonna, role);
     switch (role) {
         case Qt::DisplayRole:
             return Testi(index.row())[colonna];
         case Qt::ToolTipRole:
-            return colonna == Colonna::Numero ? Significato(SegnoDellaRiga(index.row()))
-                                              : TestoPiano(Testi(index.row())[colonna]);
+            return Suggerimento(index.row(), colonna);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(AllineamentoColonna(colonna));
         case Qt::FontRole:

@@ -1,5 +1,6 @@
 #include "ui/griglia/schermo_griglia.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/comandi_inserimento.h"
@@ -18,8 +19,10 @@ void SchermoGriglia::Collega() {
         esegui_([&] { comandi::SelezionaRiga(postazione_, postazione_.documento.RigaCorrente() + righe); });
         vista_->setFocus();
     });
+    connect(vista_, &VistaGriglia::Piega, this, &SchermoGriglia::Piega);
     // However a row became the current one, commands act on it.
     connect(vista_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
+        DiceLaCorrente();
         if (postazione_.documento.Calcolata() || postazione_.Su<schermata::Guida>()) return;
         esegui_([&] { comandi::SelezionaRiga(postazione_, riga + 1); });
     });
@@ -29,15 +32,18 @@ void SchermoGriglia::Mostra() {
     const Documento& documento = postazione_.documento;
     const auto& cronovia = documento.Calcolata();
     vista_->MostraTappe(modello_);
-    if (cronovia && !cronoviaInGriglia_) {
-        modello_.MostraCronovia(*cronovia);
-        DistendiGuida();
-        vista_->SelezionaRiga(0);
+    if (cronovia && mostrata_ != documento.VersioneCronovia()) {
+        const bool prima = modello_.Mostrate().Numero() == 0;
+        const int riga = prima ? 0 : vista_->currentIndex().row();
+        modello_.MostraCronovia(*cronovia, documento.Giornate());
+        DistendiRighe();
+        vista_->SelezionaRiga(std::min(riga, modello_.rowCount() - 1));
+        mostrata_ = documento.VersioneCronovia();
     } else if (!cronovia) {
         vista_->clearSpans();
         modello_.MostraItinerario(documento.Righe(), documento.Riepilogo(), kRigheMinimeGriglia);
     }
-    cronoviaInGriglia_ = cronovia.has_value();
+    if (!cronovia) mostrata_.reset();
     vista_->NascondiColonna(static_cast<int>(Colonna::Guida), cronovia.has_value());
     vista_->ImpostaSelezione(!cronovia);
     if (!cronovia) vista_->SelezionaRiga(documento.RigaCorrente() - 1);
@@ -45,16 +51,79 @@ void SchermoGriglia::Mostra() {
     const bool conElenco =
         postazione_.Su<schermata::ElencoMete>() || (inserimento != nullptr && inserimento->elencoTappe);
     vista_->setEnabled(!conElenco && !postazione_.InCorsa());
+    DiceLaCorrente();
 }
 
-// Guide entries have long texts and no road: theirs runs over the columns of the road.
-void SchermoGriglia::DistendiGuida() {
+// Worked out when it is asked for.
+const GiorniItinerario& SchermoGriglia::Giorni() {
+    const Documento& documento = postazione_.documento;
+    if (collegata_ != documento.VersioneCronovia()) {
+        const Cronovia* cronovia = documento.Ultima();
+        giorni_ = cronovia == nullptr ? GiorniItinerario()
+                                      : GiorniItinerario(*cronovia, documento.Giornate(), documento.Righe());
+        collegata_ = documento.VersioneCronovia();
+    }
+    return giorni_;
+}
+
+void SchermoGriglia::DiceLaCorrente() {
+    const int griglia = vista_->currentIndex().row();
+    const RigheMostrate& mostrate = modello_.Mostrate();
+    if (griglia < 0 || postazione_.Su<schermata::Guida>()) return;
+    if (!postazione_.documento.Calcolata()) {
+        Q_EMIT Corrente(Giorni().GiornataDi(griglia + 1).value_or(-1), -1);
+    } else if (griglia < mostrate.Numero()) {
+        Q_EMIT Corrente(mostrate.GiornataDi(griglia), mostrate.Riga(griglia).value_or(-1));
+    }
+}
+
+void SchermoGriglia::VaiAllaRiga(int riga) {
+    const Cronovia* cronovia = postazione_.documento.Ultima();
+    if (cronovia == nullptr || postazione_.Su<schermata::Guida>()) return;
+    if (!postazione_.documento.Calcolata()) {
+        return VaiAllaTappa(Giorni().Riga(cronovia->righe[static_cast<std::size_t>(riga)].tappa));
+    }
+    const RigheMostrate& mostrate = modello_.Mostrate();
+    if (modello_.Linea(mostrate.DoveRiga(riga))) Piega(mostrate.DoveRiga(riga), false);
+    vista_->SelezionaRiga(mostrate.DoveRiga(riga));
+    DiceLaCorrente();
+}
+
+void SchermoGriglia::VaiAllaGiornata(int giornata) {
+    if (postazione_.documento.Ultima() == nullptr || postazione_.Su<schermata::Guida>()) return;
+    if (postazione_.documento.Calcolata()) {
+        vista_->SelezionaRiga(modello_.Mostrate().DoveLinea(giornata));
+        DiceLaCorrente();
+    } else if (const auto righe = Giorni().Righe(giornata)) {
+        VaiAllaTappa(righe->first);
+    }
+}
+
+void SchermoGriglia::VaiAllaTappa(int riga) {
+    esegui_([&] { comandi::SelezionaRiga(postazione_, riga); });
+}
+
+// A line runs over all columns. Guide entries have long texts and no road: theirs runs over the columns of the road.
+void SchermoGriglia::DistendiRighe() {
     constexpr int kPrima = static_cast<int>(Colonna::Tappa);
     constexpr int kColonneDistese = static_cast<int>(Colonna::Sosta) - kPrima;
     vista_->clearSpans();
     for (int riga = 0; riga < modello_.rowCount(); ++riga) {
-        if (modello_.SegnoDellaRiga(riga) == Segno::Guida) vista_->setSpan(riga, kPrima, 1, kColonneDistese);
+        if (modello_.Linea(riga)) {
+            vista_->setSpan(riga, 0, 1, modello_.columnCount());
+        } else if (modello_.SegnoDellaRiga(riga) == Segno::Guida) {
+            vista_->setSpan(riga, kPrima, 1, kColonneDistese);
+        }
     }
+}
+
+// A row is not closed by itself: from it one first comes to the line of its day.
+void SchermoGriglia::Piega(int riga, std::optional<bool> chiusa) {
+    const RigheMostrate& mostrate = modello_.Mostrate();
+    const int giornata = mostrate.GiornataDi(riga);
+    if (!modello_.Linea(riga)) return vista_->SelezionaRiga(mostrate.DoveLinea(giornata));
+    modello_.Chiudi(giornata, chiusa.value_or(!mostrate.Chiusa(giornata)));
+    DistendiRighe();
 }
 
 }  // namespace cronovia

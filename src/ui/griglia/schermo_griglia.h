@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include "app/postazione.h"
+#include "schedule/giorni_itinerario.h"
 #include "ui/comuni/esegui.h"
 #include "ui/griglia/modello_griglia.h"
 #include "ui/griglia/vista_griglia.h"
@@ -24,15 +25,31 @@ class SchermoGriglia : public QObject {
     /// Shows the itinerary or the schedule of the document.
     void Mostra();
 
+    /// Goes to a row of the last schedule, or to a day of it: in the itinerary to the stage that it is about. Both
+    /// count from 0.
+    void VaiAllaRiga(int riga);
+    void VaiAllaGiornata(int giornata);
+    /// Emits `Corrente`.
+    void DiceLaCorrente();
+
+  Q_SIGNALS:
+    /// The day of the last schedule that the current row belongs to, and its row there; -1 where there is none.
+    void Corrente(int giornata, int riga);
+
   private:
     void Collega();
-    void DistendiGuida();
+    void DistendiRighe();
+    [[nodiscard]] const GiorniItinerario& Giorni();
+    void VaiAllaTappa(int riga);
+    void Piega(int riga, std::optional<bool> chiusa);
 
     Postazione& postazione_;
     Esegui esegui_;
     VistaGriglia* vista_;
     ModelloGriglia modello_;
-    bool cronoviaInGriglia_ = false;
+    GiorniItinerario giorni_;
+    std::optional<int> mostrata_;  // the schedule in the grid
+    int collegata_ = -1;           // that of `giorni_`
 };
 
 }  // namespace cronovia

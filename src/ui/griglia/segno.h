@@ -11,6 +11,8 @@ enum class Segno {
     Riposo,  ///< whole rest days follow
     Sosta,
     Guida,
+    GiornataAperta,  ///< the line of a day whose rows are shown
+    GiornataChiusa,  ///< or are not
 };
 
 }  // namespace cronovia

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 
 #include "itinerary/elenco_guida.h"
 #include "schedule/colonne.h"
+#include "ui/griglia/modello_griglia.h"
 
 namespace cronovia {
 
@@ -18,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRighePerPagina = 18;
+constexpr int kLarghezzaSegno = 24;
 constexpr int kTutteLeRighe = 1'000'000;
 
 // A column's relative width, and the widest text that it usually holds.
@@ -92,7 +95,45 @@ void VistaGriglia::currentChanged(const QModelIndex& current, const QModelIndex&
     if (!inSelezione_ && current.isValid()) Q_EMIT RigaCorrente(current.row());
 }
 
+// As the branches of a tree: closed with Left or "-", opened with Right or "+", one or the other with Enter.
+bool VistaGriglia::PiegaConTasto(const QKeyEvent& event) {
+    if (!ConGiornate() || !currentIndex().isValid() || (event.modifiers() & ~Qt::KeypadModifier) != 0) return false;
+    const bool linea = currentIndex().data(kRuoloLinea).toBool();
+    switch (event.key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Minus:
+            Q_EMIT Piega(currentIndex().row(), true);
+            return true;
+        case Qt::Key_Right:
+        case Qt::Key_Plus:
+            if (linea) Q_EMIT Piega(currentIndex().row(), false);
+            return linea;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (linea) Q_EMIT Piega(currentIndex().row(), std::nullopt);
+            return linea;
+        default:
+            return false;
+    }
+}
+
+// The sign stands at the beginning of the line.
+void VistaGriglia::mousePressEvent(QMouseEvent* event) {
+    QTableView::mousePressEvent(event);
+    const QModelIndex index = indexAt(event->pos());
+    if (!index.data(kRuoloLinea).toBool() || event->button() != Qt::LeftButton) return;
+    if (event->pos().x() < visualRect(index).left() + kLarghezzaSegno) Q_EMIT Piega(index.row(), std::nullopt);
+}
+
+void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTableView::mouseDoubleClickEvent(event);
+    const QModelIndex index = indexAt(event->pos());
+    if (!index.data(kRuoloLinea).toBool()) return;
+    Q_EMIT Piega(index.row(), std::nullopt);
+}
+
 void VistaGriglia::keyPressEvent(QKeyEvent* event) {
+    if (PiegaConTasto(*event)) return event->accept();
     int passo = 0;
     switch (event->key()) {
         case Qt::Key_Up:

@@ -4,6 +4,7 @@
 #include <QTableView>
 #include <array>
 #include <map>
+#include <optional>
 
 namespace cronovia {
 
@@ -34,8 +35,12 @@ class VistaGriglia : public QTableView {
     void Spostamento(int righe);
     /// Another row became the current one; not while the rows are shown anew.
     void RigaCorrente(int riga);
+    /// The line of a day, or a row below it, is to be closed or opened; nothing: the other of the two.
+    void Piega(int riga, std::optional<bool> chiusa);
 
   protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -43,6 +48,8 @@ class VistaGriglia : public QTableView {
   private:
     using LarghezzeScelte = std::map<int, int>;  // by column
 
+    [[nodiscard]] bool ConGiornate() const { return !diTappe_ && !diGuida_ && model() != nullptr; }
+    bool PiegaConTasto(const QKeyEvent& event);
     void AdattaLarghezze();
     void AzzeraLarghezze();
     [[nodiscard]] LarghezzeScelte& Proprie() { return proprie_[diGuida_ ? 1 : 0]; }

@@ -1,0 +1,51 @@
+// The strips of the days, one below the other, under a scale of the hours.
+#pragma once
+
+#include <QListView>
+
+#include "ui/giornate/modello_giornate.h"
+
+namespace cronovia {
+
+class VistaGiornate : public QListView {
+    Q_OBJECT
+
+  public:
+    /// The model must outlive the view.
+    explicit VistaGiornate(ModelloGiornate& modello, QWidget* parent = nullptr);
+
+    /// Frames the bars of a row of the schedule, and goes to a day; nothing asks for anything then.
+    void Segna(int riga);
+    void VaiAllaGiornata(int giornata);
+
+    /// Where the strip of a row of the list lies that takes this rectangle.
+    [[nodiscard]] QRect Striscia(const QRect& riga) const;
+    /// The middle of a day's strip at an hour.
+    [[nodiscard]] QPoint Punto(int giornata, Centesimi ora) const;
+    /// What is told of the bar at a point; empty where there is none.
+    [[nodiscard]] QString Suggerimento(const QPoint& punto) const;
+    [[nodiscard]] int RigaSegnata() const { return segnata_; }
+
+  Q_SIGNALS:
+    /// The person wants to see a row of the schedule; a day.
+    void RigaScelta(int riga);
+    void GiornataScelta(int giornata);
+
+  protected:
+    QModelIndex moveCursor(CursorAction azione, Qt::KeyboardModifiers modifiers) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void updateGeometries() override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    [[nodiscard]] const PezzoDelGiorno* PezzoIn(const QPoint& punto) const;
+
+    ModelloGiornate& modello_;
+    QWidget* scala_;
+    int segnata_ = PezzoDelGiorno::kSenzaRiga;
+    bool inSelezione_ = false;
+};
+
+}  // namespace cronovia
