@@ -95,7 +95,18 @@ void Documento::Decade() {
     vale_ = false;
     ultima_.reset();
     if (!cronovia_) giornate_.clear();
+    impedimento_.clear();
     ++versione_;
+}
+
+// What was found in the guide holds until something is written to the archive.
+LettoreGuida& Documento::Guida() {
+    const Archive::Mark adesso = sessione_.Archivio().PresentMark();
+    if (!guida_ || guidaLetta_ != adesso) {
+        guida_.emplace(sessione_.Archivio());
+        guidaLetta_ = adesso;
+    }
+    return *guida_;
 }
 
 void Documento::ImpostaCampi(const Meta& campi) {
@@ -135,7 +146,7 @@ void Documento::SelezionaRiga(int riga) {
 
 // Takes over changed stages: times and visits are computed afresh.
 void Documento::Mostra(Stato stato) {
-    RicalcolaVisite(sessione_.Archivio(), stato.righe, orario_);
+    RicalcolaVisite(Guida(), stato.righe, orario_);
     if (stato.righe != righe_) Decade();
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
@@ -164,16 +175,36 @@ void Documento::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
     storia_.Ricorda(PassoVerso(nome, std::move(prima)));
 }
 
-QString Documento::Calcola(Progress& progress) {
+EsitoCalcolo Documento::CalcolaCon(LettoreGuida& guida, Progress& progress) {
     Meta corretti = campi_;
     corretti.parametri = orario_.Parametri();
-    EsitoCalcolo esito = sessione_.Calcola({corretti, orario_, righe_, riepilogo_}, {}, progress);
+    return CalcolaCronovia(corretti, righe_, guida, progress);
+}
+
+QString Documento::Calcola(Progress& progress) {
+    std::optional<ReadSnapshot> momento(std::in_place, sessione_.Archivio());
+    LettoreGuida& guida = Guida();
+    guida.Anticipa(LocalitaDelleTappe(righe_));
+    momento.reset();  // others can write while it is computed
+    EsitoCalcolo esito = CalcolaCon(guida, progress);
     AggiornaOrari();
     cronovia_ = std::move(esito.cronovia);
     Decade();
     vale_ = cronovia_.has_value();
     if (vale_) giornate_ = cronovia::Giornate(*cronovia_, *campi_.dataInizio);
     return esito.messaggio;
+}
+
+void Documento::CalcolaDalVivo() {
+    if (cronovia_ || ultima_ || !impedimento_.isEmpty() || NumeroTappe(righe_) < 2) return;
+    Progress progress;
+    try {
+        ultima_ = CalcolaCon(Guida(), progress).cronovia;
+        giornate_ = cronovia::Giornate(*ultima_, *campi_.dataInizio);
+        ++versione_;
+    } catch (const Failure& failure) {
+        impedimento_ = failure.Message();
+    }
 }
 
 void Documento::Ricomponi() {

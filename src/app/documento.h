@@ -87,6 +87,10 @@ class Documento {
     // Computing.
     /// The reason why the schedule is as it is, or empty; no schedule is there afterwards when it was stopped.
     QString Calcola(Progress& progress);
+    /// Computes the last schedule anew when it is not true any more, without putting it in front.
+    void CalcolaDalVivo();
+    /// Why that could not be done; empty when it could, or was not tried since the last change.
+    [[nodiscard]] const QString& Impedimento() const { return impedimento_; }
     /// Drops the schedule; leg times are computed afresh.
     void Ricomponi();
 
@@ -118,6 +122,8 @@ class Documento {
     void Mostra(Stato stato);
     void RicalcolaTempi();
     void Decade();
+    LettoreGuida& Guida();
+    EsitoCalcolo CalcolaCon(LettoreGuida& guida, Progress& progress);
     void Correggi(const ParametriViaggio& parametri);
     [[nodiscard]] Passo PassoVerso(const QString& nome, Stato prima);
 
@@ -129,6 +135,7 @@ class Documento {
     std::optional<Cronovia> cronovia_;
     std::optional<Cronovia> ultima_;
     std::vector<Giornata> giornate_;
+    QString impedimento_;
     int versione_ = 0;
     bool vale_ = false;  // fields and stages are as they were when the schedule on screen was computed
     QString codice_;
@@ -136,6 +143,8 @@ class Documento {
     Meta caricati_;
     RigheItinerario caricate_;
     Storia storia_;
+    std::optional<LettoreGuida> guida_;  // its answers, as of `guidaLetta_`
+    Archive::Mark guidaLetta_;
 };
 
 }  // namespace cronovia

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kMassimoKmPerRecord = 999;
 constexpr int kMassimoRecord = 9999;
+// No archive had it before; whoever does not know it reads 0.
+constexpr QStringView kKmDaIndicare = u"?";
 
 Condition DellaMeta(const QString& codiceMeta) { return {itinerari::CodiceMeta, NamePattern::Exactly(codiceMeta)}; }
 
@@ -62,7 +64,7 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
     do {
         const int parte = std::min(resto, kMassimoKmPerRecord);
         valori[itinerari::Sequenza] = Zero(++sequenza, 4);
-        valori[itinerari::Chilometri] = QString::number(parte);
+        valori[itinerari::Chilometri] = tappa.kmDaIndicare ? kKmDaIndicare.toString() : QString::number(parte);
         archive.Insert(Table::Itinerari, valori);
         valori[itinerari::SostaGuidaCitta] = u" "_s;
         resto -= parte;
@@ -109,6 +111,7 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
         if (tappa.localita.isEmpty()) continue;
         tappa.numStrada = record[itinerari::NomeStrada].trimmed();
         tappa.km = std::max(0, ValoreNumerico(record[itinerari::Chilometri]));
+        tappa.kmDaIndicare = record[itinerari::Chilometri].trimmed() == kKmDaIndicare;
         tappa.tipo = LeggiTipoStrada(record[itinerari::TipoStrada]);
         tappa.sosta = LeggiDurata(record[itinerari::TempoSosta].trimmed());
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
@@ -121,6 +124,10 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario) {
     const ReadSnapshot momento(archive);
     LettoreGuida guida(archive);
+    MettiVisite(guida, tappe, orario);
+}
+
+void RicalcolaVisite(LettoreGuida& guida, std::span<Tappa> tappe, const OrarioCorretto& orario) {
     MettiVisite(guida, tappe, orario);
 }
 

@@ -23,6 +23,7 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
 
 /// Puts the guide's visit times anew, after stages changed; a locality that occurs again gets none there.
 void RicalcolaVisite(Archive& archive, std::span<Tappa> tappe, const OrarioCorretto& orario);
+void RicalcolaVisite(LettoreGuida& guida, std::span<Tappa> tappe, const OrarioCorretto& orario);
 
 /// The stages with the guide's visit times added to their stops; a locality that occurs again gets none there. The ends
 /// of days stay.

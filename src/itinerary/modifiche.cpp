@@ -29,6 +29,7 @@ CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga) {
     CampiTappa campi{tappa.localita, tappa.numStrada.trimmed(), tappa.km, tappa.tipo, tappa.sosta, tappa.fineGiorno};
     const bool strada = Esiste(righe, riga - 1) && !righe[Indice(riga - 1)].Traghetto();
     if (campi.numStrada.isEmpty() && strada) campi.numStrada = righe[Indice(riga - 1)].numStrada;
+    campi.kmDaIndicare = tappa.kmDaIndicare;
     if (riga > 1 && !campi.tipo) campi.tipo = TipoStrada::Locale;
     return campi;
 }
@@ -54,7 +55,7 @@ std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga) {
     }
     if (!rifiuti.empty()) return rifiuti;
     const QString titolo = u"Dato obbligatorio"_s;
-    const bool qualcosa = campi.km != 0 || !campi.sosta.Nulla() || campi.fineGiorno;
+    const bool qualcosa = campi.km != 0 || campi.kmDaIndicare || !campi.sosta.Nulla() || campi.fineGiorno;
     if (!qualcosa && riga > 1 && !campi.numStrada.contains("TRAGH"_L1)) {
         rifiuti.push_back({u"Chilometri (o sosta): dato obbligatorio!"_s, titolo});
     } else if (campi.km != 0 && !campi.tipo) {
@@ -69,7 +70,8 @@ RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa
     tappa.localita = campi.localita;
     tappa.numStrada = campi.numStrada;
     tappa.km = campi.km;
-    tappa.tipo = campi.km == 0 ? std::nullopt : campi.tipo;
+    tappa.kmDaIndicare = campi.kmDaIndicare;
+    tappa.tipo = campi.km == 0 && !campi.kmDaIndicare ? std::nullopt : campi.tipo;
     tappa.sosta = campi.sosta;
     tappa.fineGiorno = campi.fineGiorno;
     return righe;

@@ -27,6 +27,7 @@ struct CampiTappa {
     bool fineGiorno = false;
     bool kmProgressivi = false;  ///< typed since the row was shown, and meant as progressive ones where that can be
     bool kmLeggibili = true;     ///< false: what was typed is no whole number of kilometres
+    bool kmDaIndicare = false;   ///< the row's kilometres are not known, and none are typed
 
     friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };

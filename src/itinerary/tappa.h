@@ -20,6 +20,7 @@ struct Tappa {
     Durata sosta;                    ///< planned stop; its days are visiting days
     bool fineGiorno = false;         ///< the day ends here
     Durata guida;                    ///< visit times of the guide at this stage; days as in `sosta`
+    bool kmDaIndicare = false;       ///< the kilometres are not known any more: `km` is 0 until they are told
 
     [[nodiscard]] bool Traghetto() const { return numStrada.contains(QStringView(u"TRAGH")); }
     [[nodiscard]] TipoStrada TipoEffettivo() const { return tipo.value_or(TipoStrada::Locale); }

@@ -16,6 +16,7 @@ Tappa Raggiunta(const Tappa& luogo, const Tappa* tratto) {
     if (tratto == nullptr) return tappa;
     tappa.numStrada = tratto->numStrada;
     tappa.km = tratto->km;
+    tappa.kmDaIndicare = tratto->kmDaIndicare;
     tappa.tipo = tratto->tipo;
     return tappa;
 }

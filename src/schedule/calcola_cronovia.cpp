@@ -1,5 +1,7 @@
 #include "schedule/calcola_cronovia.h"
 
+#include <QStringList>
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -16,8 +18,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kMassimoTappeNominate = 5;
+
+// The stages that cannot be reached in any known time.
+void RifiutaSenzaKm(std::span<const Tappa> tappe) {
+    QStringList nomi;
+    for (const Tappa& tappa : tappe) {
+        if (tappa.kmDaIndicare) nomi += tappa.localita;
+    }
+    if (nomi.isEmpty()) return;
+    const auto altre = nomi.size() - kMassimoTappeNominate;
+    nomi.resize(std::min<qsizetype>(nomi.size(), kMassimoTappeNominate));
+    const QString resto = altre > 0 ? u" e altre %1"_s.arg(altre) : QString();
+    throw Failure(u"Calcolo impossibile: mancano i chilometri per arrivare a %1%2."_s.arg(nomi.join(u", "_s), resto));
+}
+
 void RifiutaSeIncalcolabile(const Meta& meta, const OrarioCorretto& orario, std::span<const Tappa> tappe) {
     if (!meta.dataInizio) throw Failure(u"Calcolo impossibile: la data d'inizio della mèta non è valida."_s);
+    RifiutaSenzaKm(tappe);
     if (const auto tipo = TipoSenzaMedia(tappe, orario)) {
         throw Failure(
             u"Calcolo impossibile: la velocità media per le strade di tipo «%1» è 0."_s.arg(NomeTipoStrada(*tipo)));

@@ -27,7 +27,7 @@ struct EsitoCalcolo {
 /// corrected here. When days are wanted and the stages have kilometres, all stops are scaled before each pass by
 /// days wanted / days of the pass before, cut to three decimals, until the trip takes that long; before the first pass
 /// its days are guessed from driving and stops. After `kMassimoTentativi` the last pass stays. A `Failure` names what
-/// is missing: the start date, the speed of a road type in use, visiting hours.
+/// is missing: the start date, the kilometres of stages, the speed of a road type in use, visiting hours.
 EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress);
 
 }  // namespace cronovia

@@ -16,7 +16,7 @@ enum class Colonna {
     Numero,         ///< of the row, from 1
     Tappa,          ///< locality; in the schedule "verso: X" on the way there, "a: X" at a stop, " > text" of the guide
     NumeroStrada,   ///< road numbers, as typed
-    Km,             ///< of the stage or piece, "1.234"; empty for 0
+    Km,             ///< of the stage or piece, "1.234"; empty for 0, "da indicare" where they are not known
     TipoStrada,     ///< letter of the road's type
     KmProgressivi,  ///< from the start, "12.345"
     Tempo,          ///< driving time, "hh:mm", hours beyond 24 too

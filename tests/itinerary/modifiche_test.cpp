@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "itinerary/spostamenti.h"
 #include "righe.h"
 
 namespace cronovia {
@@ -34,6 +35,35 @@ TEST(Modifiche, TheVerbsThatChangeRows) {
     const CampiTappa libera = CampiDellaRiga(kTre, 4);  // proposes the road above, and a local one
     EXPECT_EQ(libera, (CampiTappa{{}, u"A4"_s, 0, TipoStrada::Locale, {}, false}));
     EXPECT_EQ(CampiDellaRiga(kTre, 3), (CampiTappa{u"C"_s, u"A4"_s, 20, TipoStrada::Autostrada, {0, 1, 30}, true}));
+}
+
+// Legs keep their kilometres only where they still begin at the same place.
+TEST(Modifiche, RowsMoveAndLoseTheKilometresThatNoLongerHold) {
+    const RigheItinerario giro = Righe(u"A B/A1/90 C/A4/20 - B/A4/20 D/S1/5/*"_s);
+    for (const auto& [esito, attese, tratto, persi] : std::vector<std::tuple<EsitoSpostamento, QString, Tratto, int>>{
+             {SpostaRighe(giro, {3, 3}, 2), u"A C/A4/? B/A1/? - B/A4/? D/S1/5/*"_s, {2, 2}, 3},
+             {SpostaRighe(giro, {2, 3}, 6), u"A - B/A4/? B/A1/? C/A4/20 D/S1/?/*"_s, {4, 5}, 3},
+             {SpostaRighe(giro, {5, 6}, 3), u"A B/A1/90 B/A4/? D/S1/5/* C/A4/? -"_s, {3, 4}, 2},
+             {SpostaRighe(giro, {6, 6}, 4), u"A B/A1/90 C/A4/20 D/S1/?/* - B/A4/?"_s, {4, 4}, 2},
+             {SpostaRighe(giro, {1, 1}, 3), u"B A//? C/A4/? - B/A4/20 D/S1/5/*"_s, {2, 2}, 2},
+             {SpostaRighe(giro, {2, 4}, 3), u"A B/A1/90 C/A4/20 - B/A4/20 D/S1/5/*"_s, {2, 4}, 0},
+             {SpostaRighe(giro, {6, 9}, 99), u"A B/A1/90 C/A4/20 - B/A4/20 D/S1/5/*"_s, {6, 6}, 0},
+             {DuplicaRighe(giro, {5, 5}), u"A B/A1/90 C/A4/20 - B/A4/20 B/A4/? D/S1/5/*"_s, {6, 6}, 1},
+             {TogliRighe(giro, {3, 5}), u"A B/A1/90 D/S1/5/*"_s, {3, 3}, 0},
+             {TogliRighe(giro, {1, 2}), u"C - B/A4/20 D/S1/5/*"_s, {1, 1}, 0},
+             {TogliRighe(giro, {9, 9}), u"A B/A1/90 C/A4/20 - B/A4/20 D/S1/5/*"_s, {7, 7}, 0},
+             {InserisciRighe(kTre, 2, Righe(u"X/S1/4"_s), {}), u"A X/S1/4 B/A1/? C/A4/20/*"_s, {2, 2}, 1},
+             {InserisciRighe(kTre, 9, Righe(u"X/S1/4"_s), u"B"_s), u"A B/A1/90 C/A4/20/* X/S1/?"_s, {4, 4}, 1},
+             {InserisciRighe({}, 1, Righe(u"X/S1/4"_s), u"B"_s), u"X"_s, {1, 1}, 0},
+         }) {
+        EXPECT_EQ(Testo(esito.righe), attese);
+        EXPECT_EQ(esito.tratto, tratto) << attese.toStdString();
+        EXPECT_EQ(esito.daIndicare, persi) << attese.toStdString();
+    }
+    EXPECT_EQ(Testo(*DividiTappa(giro, 2, u"X"_s, 30)), u"A X/A1/30 B/A1/60 C/A4/20 - B/A4/20 D/S1/5/*"_s);
+    for (const auto& [riga, km] : {std::pair(2, 90), {2, 0}, {1, 1}, {4, 1}, {7, 1}}) {
+        EXPECT_FALSE(DividiTappa(giro, riga, u"X"_s, km)) << riga << ' ' << km;
+    }
 }
 
 TEST(Modifiche, ProgressiveKilometresBecomeTheDifference) {

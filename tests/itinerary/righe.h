@@ -9,7 +9,7 @@
 namespace cronovia::prova {
 
 /// Stages "NAME/road/km", a free row "-"; every leg on a motorway. A stage "NAME/road/km/*" has a stop of an hour and a
-/// half and ends the day.
+/// half and ends the day. Kilometres "?" are to be told.
 inline RigheItinerario Righe(const QString& testo) {
     RigheItinerario righe;
     for (const QString& parola : testo.split(u' ', Qt::SkipEmptyParts)) {
@@ -19,7 +19,8 @@ inline RigheItinerario Righe(const QString& testo) {
         tappa.localita = parti[0];
         tappa.numStrada = parti.value(1);
         tappa.km = parti.value(2).toInt();
-        if (tappa.km != 0) tappa.tipo = TipoStrada::Autostrada;
+        tappa.kmDaIndicare = parti.value(2) == QLatin1String("?");
+        if (tappa.km != 0 || tappa.kmDaIndicare) tappa.tipo = TipoStrada::Autostrada;
         tappa.fineGiorno = parti.size() > 3;
         if (tappa.fineGiorno) tappa.sosta = {0, 1, 30};
     }
@@ -30,10 +31,10 @@ inline RigheItinerario Righe(const QString& testo) {
 inline QString Testo(const RigheItinerario& righe) {
     QStringList parole;
     for (const Tappa& tappa : righe) {
-        EXPECT_EQ(tappa.tipo.has_value(), tappa.km != 0) << tappa.localita.toStdString();
+        EXPECT_TRUE(tappa.kmDaIndicare || tappa.tipo.has_value() == (tappa.km != 0)) << tappa.localita.toStdString();
         QStringList parti = {tappa.localita.isEmpty() ? QStringLiteral("-") : tappa.localita};
-        if (!tappa.numStrada.isEmpty() || tappa.km != 0 || tappa.fineGiorno) {
-            parti += {tappa.numStrada, QString::number(tappa.km)};
+        if (!tappa.numStrada.isEmpty() || tappa.km != 0 || tappa.kmDaIndicare || tappa.fineGiorno) {
+            parti += {tappa.numStrada, tappa.kmDaIndicare ? QStringLiteral("?") : QString::number(tappa.km)};
         }
         if (tappa.fineGiorno) parti += QStringLiteral("*");
         EXPECT_EQ(tappa.sosta.Nulla(), !tappa.fineGiorno) << tappa.localita.toStdString();

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPalette>
 #include <algorithm>
+#include <utility>
 
 #include "schedule/testi_giornata.h"
 #include "ui/comuni/aiuti.h"
@@ -64,6 +65,10 @@ QVariant CarattereDelSegno(Segno segno) {
     return carattere;
 }
 
+QString Testo(const CambioGiorno& cambio) {
+    return cambio.da == cambio.a ? u"Giorno %1"_s.arg(cambio.da) : u"Giorni %1-%2"_s.arg(cambio.da).arg(cambio.a);
+}
+
 // A little of the text's colour, whatever the theme.
 QBrush SfondoDellaLinea() {
     const QPalette& colori = QApplication::palette();
@@ -84,6 +89,25 @@ void ModelloGriglia::MostraItinerario(const RigheItinerario& righe, const Riepil
     giornate_.clear();
     mostrate_ = {};
     endResetModel();
+}
+
+void ModelloGriglia::SegnaGiorni(const std::vector<CambioGiorno>& cambi) {
+    if (cambi == cambi_) return;
+    std::vector<CambioGiorno> toccati = std::exchange(cambi_, cambi);
+    toccati.insert(toccati.end(), cambi.begin(), cambi.end());
+    if (cronovia_) return;
+    for (const CambioGiorno& cambio : toccati) {
+        if (cambio.riga > rowCount()) continue;
+        Q_EMIT dataChanged(index(cambio.riga - 1, 0), index(cambio.riga - 1, columnCount() - 1));
+    }
+}
+
+// Where days begin at a row of the itinerary; null elsewhere.
+const CambioGiorno* ModelloGriglia::Cambio(int riga) const {
+    if (cronovia_) return nullptr;
+    const auto cambio = std::lower_bound(cambi_.begin(), cambi_.end(), riga + 1,
+                                         [](const CambioGiorno& c, int cercata) { return c.riga < cercata; });
+    return cambio != cambi_.end() && cambio->riga == riga + 1 ? &*cambio : nullptr;
 }
 
 void ModelloGriglia::MostraCronovia(const Cronovia& cronovia, const std::vector<Giornata>& giornate) {
@@ -165,8 +189,20 @@ QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
         const auto motivo = motivi_.find(*mostrate_.Riga(riga));
         if (motivo != motivi_.end()) testi += motivo->second;
     }
+    if (const CambioGiorno* cambio = Cambio(riga); cambio != nullptr && colonna == Colonna::Tappa) {
+        testi += Testo(*cambio) + (cambio->dentro ? u": comincia lungo la strada o durante la sosta"_s
+                                                  : u": comincia con la partenza per questa tappa"_s);
+    }
     testi.removeAll(QString());
     return TestoPiano(testi.join(u'\n'));
+}
+
+// What those hear who do not see the signs.
+QString ModelloGriglia::TestoParlato(int riga, Colonna colonna) const {
+    const QString testo = Testi(riga)[colonna];
+    if (colonna == Colonna::Numero) return testo + u' ' + Significato(SegnoDellaRiga(riga));
+    const CambioGiorno* cambio = colonna == Colonna::Tappa ? Cambio(riga) : nullptr;
+    return cambio == nullptr ? testo : testo + u", comincia "_s + Testo(*cambio).toLower();
 }
 
 // The line of a day is one text, which runs over all columns.
@@ -208,11 +244,12 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
             return CarattereDelSegno(SegnoDellaRiga(index.row()));
         case Qt::DecorationRole:
             return colonna == Colonna::Numero ? QVariant(IconaDellaRiga(SegnoDellaRiga(index.row()))) : QVariant();
-        case Qt::AccessibleTextRole: {
-            const QString testo = Testi(index.row())[colonna];
-            return colonna == Colonna::Numero ? QString(testo + u' ' + Significato(SegnoDellaRiga(index.row())))
-                                              : testo;
-        }
+        case Qt::AccessibleTextRole:
+            return TestoParlato(index.row(), colonna);
+        case kRuoloCambio:
+            return Cambio(index.row()) == nullptr ? QString() : Testo(*Cambio(index.row()));
+        case kRuoloCambioDentro:
+            return Cambio(index.row()) != nullptr && Cambio(index.row())->dentro;
         default:
             return {};
     }

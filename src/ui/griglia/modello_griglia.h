@@ -7,13 +7,17 @@
 
 #include "itinerary/modifiche.h"
 #include "schedule/colonne.h"
+#include "schedule/giorni_itinerario.h"
 #include "ui/griglia/righe_mostrate.h"
 #include "ui/griglia/segno.h"
 
 namespace cronovia {
 
-/// Role of the cells of a day's line: true.
+/// Roles of cells. Of a day's line: true. Where days begin in the itinerary: "Giorno 3" or "Giorni 3-5"; and whether
+/// the first of them begins on the way to the stage, or at its stop.
 inline constexpr int kRuoloLinea = Qt::UserRole + 1;
+inline constexpr int kRuoloCambio = Qt::UserRole + 2;
+inline constexpr int kRuoloCambioDentro = Qt::UserRole + 3;
 
 class ModelloGriglia : public QAbstractTableModel {
     Q_OBJECT
@@ -23,6 +27,8 @@ class ModelloGriglia : public QAbstractTableModel {
 
     /// Shows stages, with free rows behind them up to `righeMinime`.
     void MostraItinerario(const RigheItinerario& righe, const RiepilogoItinerario& riepilogo, int righeMinime);
+    /// Marks where days begin among the stages, in the place of the marks that were there.
+    void SegnaGiorni(const std::vector<CambioGiorno>& cambi);
     /// Shows a schedule, with a line before the rows of each of its days. Days that were closed stay so.
     void MostraCronovia(const Cronovia& cronovia, const std::vector<Giornata>& giornate);
 
@@ -44,11 +50,14 @@ class ModelloGriglia : public QAbstractTableModel {
   private:
     [[nodiscard]] RigaGriglia Testi(int riga) const;
     [[nodiscard]] QString Suggerimento(int riga, Colonna colonna) const;
+    [[nodiscard]] QString TestoParlato(int riga, Colonna colonna) const;
+    [[nodiscard]] const CambioGiorno* Cambio(int riga) const;
     [[nodiscard]] QVariant DatiDellaLinea(int giornata, Colonna colonna, int role) const;
 
     RigheItinerario righe_;
     RiepilogoItinerario riepilogo_;
     int righeMinime_ = 0;
+    std::vector<CambioGiorno> cambi_;
     std::optional<Cronovia> cronovia_;
     std::vector<Giornata> giornate_;
     std::map<int, QString> motivi_;  // why something is late, by row of the schedule

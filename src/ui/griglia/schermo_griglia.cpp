@@ -42,6 +42,7 @@ void SchermoGriglia::Mostra() {
     } else if (!cronovia) {
         vista_->clearSpans();
         modello_.MostraItinerario(documento.Righe(), documento.Riepilogo(), kRigheMinimeGriglia);
+        modello_.SegnaGiorni(Giorni().Cambi());
     }
     if (!cronovia) mostrata_.reset();
     vista_->NascondiColonna(static_cast<int>(Colonna::Guida), cronovia.has_value());

@@ -11,6 +11,7 @@
 
 #include "itinerary/elenco_guida.h"
 #include "schedule/colonne.h"
+#include "ui/griglia/delegato_griglia.h"
 #include "ui/griglia/modello_griglia.h"
 
 namespace cronovia {
@@ -64,6 +65,7 @@ VistaGriglia::VistaGriglia(QWidget* parent) : QTableView(parent) {
     setShowGrid(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
+    setItemDelegate(new DelegatoGriglia(this));
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

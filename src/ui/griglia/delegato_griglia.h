@@ -1,0 +1,19 @@
+// Draws the cells of the grid, with the marks where days begin in an itinerary.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace cronovia {
+
+class DelegatoGriglia : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    /// A rule above the row, broken where the day begins within it; the name of the day at the end of the cell of the
+    /// stage, when there is room.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+}  // namespace cronovia
