@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <QDir>
+#include <QScopeGuard>
 #include <stdexcept>
 
 namespace cronovia {
@@ -85,10 +86,10 @@ void Archive::Connection::EndReading() {
 std::int64_t Archive::Connection::Number(const std::string& sql) {
     return Guarded(path_, [&] {
         SQLite::Statement& statement = Prepared(sql);
+        // Left half-way, also by a failure, it would keep others from writing.
+        const auto done = qScopeGuard([&] { statement.tryReset(); });
         statement.executeStep();
-        const std::int64_t number = statement.getColumn(0).getInt64();
-        statement.reset();
-        return number;
+        return statement.getColumn(0).getInt64();
     });
 }
 
