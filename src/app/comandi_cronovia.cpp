@@ -56,6 +56,22 @@ void Calcola(Postazione& p) {
 
 void Ricalcola(Postazione& p) { EseguiERacconta(p); }
 
+void RicalcolaSulPosto(Postazione& p) {
+    if (!p.Su<schermata::Cronovia>()) return;
+    const int giornata = p.Su<schermata::Cronovia>()->giornata;
+    p.Prova([&] {  // nothing is shown in between
+        p.documento.Ricomponi();
+        p.documento.Calcola(p.volti.avanzamento);
+    });
+    const schermata::Inserimento inserimento = NuovoInserimento(p.documento);
+    if (p.documento.Calcolata()) {
+        p.schermata = schermata::Cronovia{inserimento, giornata};
+    } else {
+        p.documento.SelezionaRiga(PrimaDaIndicare(p.documento.Righe()).value_or(inserimento.riga));
+        p.schermata = NuovoInserimento(p.documento);
+    }
+}
+
 void Stampa(Postazione& p) {
     if (SenzaMeta(p)) return;
     Esegui(p);

@@ -10,6 +10,10 @@ void Calcola(Postazione& p);
 /// Computes it from the entry of stages.
 void Ricalcola(Postazione& p);
 
+/// Stages were changed in the schedule: it is computed anew, and unlocking leads to the entry of stages; so does a
+/// schedule that cannot be computed, which is told. Nothing happens on other screens.
+void RicalcolaSulPosto(Postazione& p);
+
 /// Computes the schedule when none is on screen; with one, the choices of its printout come in front.
 void Stampa(Postazione& p);
 /// The run has begun, nothing else can be given; the choices are left, after the run or without one.

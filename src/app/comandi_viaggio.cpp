@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/comandi_cronovia.h"
 #include "app/comandi_guida.h"
 #include "app/comandi_inserimento.h"
 #include "app/niente_perso.h"
@@ -27,6 +28,7 @@ void Default(Postazione& p, const QString& verbo, const std::function<void()>& a
 // The screen in front after a step was taken back or made again.
 void Segue(Postazione& p) {
     if (p.Su<schermata::Inserimento>()) SelezionaRiga(p, p.documento.RigaCorrente());
+    RicalcolaSulPosto(p);
     SullaGuida(p, [](TavoloGuida&) {});
 }
 

@@ -201,10 +201,10 @@ void Documento::CalcolaDalVivo() {
     try {
         ultima_ = CalcolaCon(Guida(), progress).cronovia;
         giornate_ = cronovia::Giornate(*ultima_, *campi_.dataInizio);
-        ++versione_;
     } catch (const Failure& failure) {
         impedimento_ = failure.Message();
     }
+    ++versione_;
 }
 
 void Documento::Ricomponi() {

@@ -96,6 +96,7 @@ std::optional<Ambito> Postazione::AmbitoInVista() const {
     if (const auto* inserimento = Su<schermata::Inserimento>()) {
         return inserimento->elencoTappe ? std::nullopt : std::optional(Ambito::Viaggio);
     }
+    if (Su<schermata::Cronovia>()) return Ambito::Viaggio;
     return Comandi().Abilitato(Comando::Import) ? std::optional(Ambito::Archivio) : std::nullopt;
 }
 

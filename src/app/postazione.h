@@ -16,6 +16,12 @@ namespace cronovia {
 /// Which file a command asks for.
 enum class FileChiesto { Import, Export, Percorso };
 
+/// A place on the way to a stage, and its kilometres from where that leg begins.
+struct Divisione {
+    QString localita;
+    int km = 0;
+};
+
 /// The window as the commands see it; tests put scripts in its place.
 struct Volti {
     Interaction& interazione;
@@ -25,6 +31,10 @@ struct Volti {
     std::function<QString(FileChiesto)> scegliFile = {};  ///< an empty path when the person wants none
     std::function<void()> chiudi = {};                    ///< closes the window
     std::function<void()> ferma = {};                     ///< has `avanzamento` request the stop
+    std::function<QString()> leggiAppunti = {};           ///< the text of the clipboard; puts one there
+    std::function<void(const QString&)> scriviAppunti = {};
+    /// Where to part the leg that leads from a place to a stage; nothing when the person does not want to.
+    std::function<std::optional<Divisione>(const QString& da, const Tappa& tappa)> chiediDivisione = {};
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.
@@ -39,6 +49,11 @@ struct Postazione {
     Documento documento{sessione};
     Schermata schermata;
     Attivita attivita = Attivita::Nessuna;
+    struct {
+        QString testo;
+        QString prima;                             ///< the place before them; empty before the departure
+    } copiate;                                     ///< the stages that were copied last
+    bool dalVivo = false;                          ///< the schedule is computed anew after each change
     std::optional<mete::Field> daCorreggere = {};  ///< the field for which the last command could not save the trip
 
     /// The screen in front when it is that one, else null.

@@ -35,6 +35,7 @@ struct Inserimento {
     CampiTappa campi;             ///< what the entry fields hold
     CampiTappa proposti = campi;  ///< what the row proposed for them
     int riga = 0;                 ///< that row
+    int ancora = 0;               ///< row at the other end of the rows selected; 0: only the current one is
     bool appenaInserita = false;  ///< the row before the current one was inserted by the last command
     bool elencoTappe = false;     ///< the list of places to go to is open
 };
@@ -42,6 +43,7 @@ struct Inserimento {
 /// A schedule in the place of the itinerary.
 struct Cronovia {
     std::variant<Viaggio, Inserimento> da;  ///< where it was computed, and where unlocking leads back to
+    int giornata = 0;                       ///< the day of the current row, from 0
 };
 
 /// What is to be printed of the schedule, and the run.

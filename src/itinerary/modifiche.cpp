@@ -24,6 +24,11 @@ int NumeroTappe(std::span<const Tappa> righe) {
     return static_cast<int>(righe.rend() - ultima);
 }
 
+std::optional<int> PrimaDaIndicare(std::span<const Tappa> righe) {
+    const auto prima = std::find_if(righe.begin(), righe.end(), [](const Tappa& t) { return t.kmDaIndicare; });
+    return prima == righe.end() ? std::nullopt : std::optional(static_cast<int>(prima - righe.begin()) + 1);
+}
+
 CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga) {
     const Tappa tappa = Esiste(righe, riga) ? righe[Indice(riga)] : Tappa();
     CampiTappa campi{tappa.localita, tappa.numStrada.trimmed(), tappa.km, tappa.tipo, tappa.sosta, tappa.fineGiorno};

@@ -17,6 +17,9 @@ using RigheItinerario = std::vector<Tappa>;
 /// Number of the last row that holds a stage; 0 for an empty itinerary.
 int NumeroTappe(std::span<const Tappa> righe);
 
+/// The first row whose kilometres are to be told; nothing when all are known.
+std::optional<int> PrimaDaIndicare(std::span<const Tappa> righe);
+
 /// What the entry fields hold.
 struct CampiTappa {
     QString localita;

@@ -1,6 +1,7 @@
 #include "ui/form_mete.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
@@ -14,11 +15,13 @@
 #include <utility>
 
 #include "app/comandi_inserimento.h"
+#include "app/comandi_righe.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
+#include "ui/inserimento/frm_divisione.h"
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
 
@@ -73,7 +76,10 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
             [this] { Mostra(); },
             [this](FileChiesto quale) { return ScegliFile(quale); },
             [this] { close(); },
-            [this] { avanzamento_->ChiediStop(); }};
+            [this] { avanzamento_->ChiediStop(); },
+            [] { return QGuiApplication::clipboard()->text(); },
+            [](const QString& testo) { QGuiApplication::clipboard()->setText(testo); },
+            [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); }};
 }
 
 void FormMete::Disponi() {
@@ -127,6 +133,22 @@ void FormMete::CreaGiornate() {
     connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
     connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
     connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
+    connect(giornate_, &PannelloGiornate::GiornataLasciata, this, [this](int giornata, int prima) {
+        Esegui([&] { comandi::SpostaGiornataPrimaDi(postazione_, giornata, prima); });
+    });
+    connect(giornate_, &PannelloGiornate::Sposta, this, [this](int giornata, int passo) {
+        Esegui([&] { comandi::SpostaGiornata(postazione_, giornata, passo); });
+    });
+    dalVivo_->setObjectName(u"calcoloDalVivo"_s);
+    dalVivo_->setCheckable(true);
+    connect(dalVivo_, &QAction::toggled, this, [this](bool acceso) {
+        postazione_.dalVivo = acceso;
+        Mostra();
+    });
+    attesaDalVivo_.setSingleShot(true);
+    connect(&attesaDalVivo_, &QTimer::timeout, this, [this] {
+        if (!inCorso_) MostraLeGiornate();
+    });
     connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
 }
 
@@ -153,6 +175,7 @@ void FormMete::Raccogli() {
     viaggio_->Raccogli();
     inserimento_.Raccogli();
     guida_.Raccogli();
+    if (postazione_.dalVivo && !inCorso_) attesaDalVivo_.start();
 }
 
 // What the fields hold, that which is being typed too, as if it had been left.
@@ -331,6 +354,7 @@ void FormMete::Invio() {
 
 void FormMete::Mostra() {
     mostrando_ = true;
+    if (postazione_.dalVivo && postazione_.attivita == Attivita::Nessuna) postazione_.documento.CalcolaDalVivo();
     const StatoComandi stato = postazione_.Comandi();
     viaggio_->Mostra(!postazione_.documento.Calcolata() && !postazione_.InCorsa() &&
                      !postazione_.Su<schermata::Scambio>() && !guida_.StampaAperta() && !postazione_.SenzaMete());
@@ -347,6 +371,13 @@ void FormMete::Mostra() {
     for (Pannello* pannello : pannelli_) pannello->Mostra(postazione_);
     MostraTitolo();
     mostrando_ = false;
+}
+
+// What depends on the schedule that is computed while fields are typed into.
+void FormMete::MostraLeGiornate() {
+    if (postazione_.attivita == Attivita::Nessuna) postazione_.documento.CalcolaDalVivo();
+    giornate_->Mostra(postazione_);
+    griglia_.SegnaGiorni();
 }
 
 void FormMete::MostraTitolo() {
@@ -369,12 +400,14 @@ void FormMete::RipristinaAspetto() {
     move(schermo.topLeft() - QPoint(kCornice.left(), kCornice.top()));
     restoreGeometry(aspetto_.value(u"finestra"_s).toByteArray());
     restoreState(aspetto_.value(u"pannelli"_s).toByteArray(), kVersioneAspetto);
+    dalVivo_->setChecked(aspetto_.value(u"dalVivo"_s).toBool());
     griglia_.Vista().RipristinaLarghezze(aspetto_.value(u"colonne"_s).toByteArray());
 }
 
 void FormMete::RicordaAspetto() {
     aspetto_.setValue(u"finestra"_s, saveGeometry());
     aspetto_.setValue(u"pannelli"_s, saveState(kVersioneAspetto));
+    aspetto_.setValue(u"dalVivo"_s, dalVivo_->isChecked());
     aspetto_.setValue(u"colonne"_s, griglia_.Vista().Larghezze());
 }
 

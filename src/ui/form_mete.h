@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QSettings>
+#include <QTimer>
 #include <functional>
 
 #include "app/comandi.h"
@@ -68,6 +69,7 @@ class FormMete : public QMainWindow {
     void Termina();
     void FineSessione(QSessionManager& sessione);
     void RendiLeggibile();
+    void MostraLeGiornate();
     void MostraTitolo();
     void RipristinaAspetto();
     void RicordaAspetto();
@@ -88,6 +90,8 @@ class FormMete : public QMainWindow {
     ComandoStampa* stampa_ = nullptr;
     AzioniModifica* azioni_ = nullptr;
     PannelloGiornate* giornate_ = nullptr;
+    QAction* dalVivo_ = new QAction(QStringLiteral("Calcolo &dal vivo"), this);
+    QTimer attesaDalVivo_;  // until what is typed has been taken over
     QList<Pannello*> pannelli_;
     bool mostrando_ = false;
     bool inCorso_ = false;    // a command has begun and not ended

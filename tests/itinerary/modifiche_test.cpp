@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "itinerary/appunti.h"
 #include "itinerary/spostamenti.h"
 #include "righe.h"
 
@@ -63,6 +64,33 @@ TEST(Modifiche, RowsMoveAndLoseTheKilometresThatNoLongerHold) {
     EXPECT_EQ(Testo(*DividiTappa(giro, 2, u"X"_s, 30)), u"A X/A1/30 B/A1/60 C/A4/20 - B/A4/20 D/S1/5/*"_s);
     for (const auto& [riga, km] : {std::pair(2, 90), {2, 0}, {1, 1}, {4, 1}, {7, 1}}) {
         EXPECT_FALSE(DividiTappa(giro, riga, u"X"_s, km)) << riga << ' ' << km;
+    }
+}
+
+TEST(Modifiche, StagesGoToASpreadsheetAndComeBack) {
+    RigheItinerario righe = Righe(u"A =B/+A1/90 - 'C/A4/?/* D"_s);
+    righe.back().fineGiorno = true;
+    EXPECT_EQ(TestoPerAppunti(righe),
+              u"Tappa\tNum. Strada\tKm.\tTs\tSosta\nA\t\t0\t\t\n'=B\t'+A1\t90\tA\t\n"
+              "'C\tA4\tda indicare\tA\t*00:01:30\nD\t\t0\t\t*\n"_s);
+    righe.erase(righe.begin() + 2);
+    EXPECT_EQ(LeggiAppunti(TestoPerAppunti(righe)), righe);
+    // Other columns, another order, Windows' lines, cells in quotation marks; what may be left away.
+    EXPECT_EQ(Testo(LeggiAppunti(u"Km\tNum.\tlocalità\tSosta\r\n\t1\ta\r\n\r\n7\t2\t\"b \"\"x\"\"\"\t*0:1:30\r\n"_s))
+                  .replace(u' ', u'_'),
+              u"A_B_\"X\"//7/*"_s);
+    EXPECT_EQ(Testo(LeggiAppunti(u"A\nB\nC\tTRAGH\nD\t\t\t\t*00:01:30"_s)), u"A B//? C/TRAGH/0 D//0/*"_s);
+    const QString lungo(30, u'X');
+    for (const auto& [testo, perche] : std::vector<std::pair<QString, QString>>{
+             {u"A\n\tA1\t5"_s, u"riga 2, manca la località"_s},
+             {u"A\nB\tA1\t5,5"_s, u"riga 2, i chilometri «5,5» non sono un numero da 0 a 999"_s},
+             {u"A\t\t1000"_s, u"riga 1, i chilometri «1000» non sono un numero da 0 a 999"_s},
+             {u"A\t\t5\tX"_s, u"riga 1, il tipo di strada «X» non è A, S, P o L"_s},
+             {u"A\t\t5\tA\t1:30"_s, u"riga 1, la sosta «1:30» non è scritta come gg:hh:mm"_s},
+             {u"A\t\t5\tA\t0:24:00"_s, u"riga 1, la sosta «0:24:00» non è scritta come gg:hh:mm"_s},
+             {lungo, u"riga 1, «"_s + lungo + u"» ha più di 29 caratteri"_s},
+             {u"Tappa\tKm.\n\n"_s, u"negli appunti non ci sono tappe"_s}}) {
+        EXPECT_EQ(prova::MessaggioDi([&t = testo] { LeggiAppunti(t); }), u"Non si può incollare: "_s + perche + u'.');
     }
 }
 

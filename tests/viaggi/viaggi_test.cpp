@@ -11,6 +11,7 @@
 #include "exchange/iei/importa_mete.h"
 #include "itinerary/itinerari.h"
 #include "schedule/colonne.h"
+#include "schedule/giorni_itinerario.h"
 #include "schedule/strisce.h"
 #include "schedule/testi_giornata.h"
 #include "support/prova.h"
@@ -30,8 +31,18 @@ QString Riga(const Testi& testi) {
 QString RigaTotali(const TestiTotali& t) { return u"totali\t"_s + t.traghetti + u'\t' + Riga(t.km) + Riga(t.tempo); }
 
 // A day's line, what it does not tell, and its bars.
-QString TestoDelGiorno(const Giornata& g, const StrisciaDelGiorno& striscia, const Cronovia& cronovia) {
+QString TestoDelGiorno(const Giornata& g, const StrisciaDelGiorno& striscia, const Cronovia& cronovia,
+                       const GiorniItinerario& giorni) {
     QStringList parti = {TestoData(g.data), g.risveglio};
+    if (const auto righe = giorni.Righe(g.numero - 1)) {
+        parti += u"tappe %1-%2"_s.arg(righe->first).arg(righe->second);
+        EXPECT_EQ(giorni.RigaFinale(g.numero - 1), righe->second);
+        EXPECT_EQ(giorni.GiornataDi(righe->first), g.numero - 1);
+    }
+    for (const CambioGiorno& cambio : giorni.Cambi()) {
+        if (cambio.da != g.numero) continue;
+        parti += u"comincia %1 %2"_s.arg(cambio.dentro ? u"alla tappa"_s : u"prima di"_s).arg(cambio.riga);
+    }
     parti += g.partenza ? TestoOrologio(*g.partenza) + u'-' + TestoOrologio(*g.arrivo) : u"fermo"_s;
     if (g.pranzo) parti += u"pranzo"_s;
     if (g.cena) parti += u"cena"_s;
@@ -44,8 +55,8 @@ QString TestoDelGiorno(const Giornata& g, const StrisciaDelGiorno& striscia, con
     parti += u"margini "_s + margini.join(u' ');
     QStringList barre;
     for (const PezzoDelGiorno& pezzo : striscia) {
-        barre += TestoOreBrevi(pezzo.da) + u'-' + TestoOreBrevi(pezzo.a) + u' ' + Aspetto(pezzo.genere).nome.toString() + u' ' +
-                 pezzo.luogo;
+        barre += TestoOreBrevi(pezzo.da) + u'-' + TestoOreBrevi(pezzo.a) + u' ' +
+                 Aspetto(pezzo.genere).nome.toString() + u' ' + pezzo.luogo;
     }
     return RigaGiornata(g, cronovia) + u"\n\t"_s + parti.join(u'\t') + u"\n\t"_s + barre.join(u"; "_s) + u'\n';
 }
@@ -169,8 +180,9 @@ TEST_F(Viaggi, HaveTheirDays) {
         QString ottenute = aperta.meta.codice + u'\n';
         const std::vector<Giornata> giornate = Giornate(cronovia, *aperta.meta.dataInizio);
         const std::vector<StrisciaDelGiorno> strisce = Strisce(cronovia, giornate);
+        const GiorniItinerario giorni(cronovia, giornate, aperta.tappe);
         for (std::size_t i = 0; i < giornate.size(); ++i) {
-            ottenute += TestoDelGiorno(giornate[i], strisce[i], cronovia);
+            ottenute += TestoDelGiorno(giornate[i], strisce[i], cronovia, giorni);
         }
         if (qEnvironmentVariableIsSet("CRONOVIA_RIGENERA") && ottenute != attese) {
             prova::ScriviFile(cartella.filePath(u"giornate/"_s + nome), ottenute.toUtf8());

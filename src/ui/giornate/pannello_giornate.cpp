@@ -56,6 +56,10 @@ PannelloGiornate::PannelloGiornate(QWidget* parent)
     setWidget(contenuto);
     connect(vista_, &VistaGiornate::RigaScelta, this, &PannelloGiornate::RigaScelta);
     connect(vista_, &VistaGiornate::GiornataScelta, this, &PannelloGiornate::GiornataScelta);
+    connect(vista_, &VistaGiornate::GiornataLasciata, this, &PannelloGiornate::GiornataLasciata);
+    connect(vista_, &VistaGiornate::Sposta, this, [this](int passo) {
+        if (vista_->currentIndex().isValid()) Q_EMIT Sposta(vista_->currentIndex().row(), passo);
+    });
 }
 
 void PannelloGiornate::Mostra(const Postazione& postazione) {
@@ -74,7 +78,10 @@ void PannelloGiornate::Aggiorna() {
     mostrata_ = documento_->VersioneCronovia();
     const Cronovia* cronovia = documento_->Ultima();
     modello_.Mostra(cronovia, documento_->Giornate());
-    avviso_->setText(cronovia == nullptr ? u"Calcola la cronovia per vedere le giornate."_s : QString());
+    const QString& impedimento = documento_->Impedimento();
+    avviso_->setText(cronovia != nullptr      ? QString()
+                     : !impedimento.isEmpty() ? impedimento
+                                              : u"Calcola la cronovia per vedere le giornate."_s);
     avviso_->setVisible(cronovia == nullptr);
 }
 

@@ -23,6 +23,9 @@ class PannelloGiornate : public Pannello {
     /// The person wants to see a row of the schedule; a day. Both count from 0.
     void RigaScelta(int riga);
     void GiornataScelta(int giornata);
+    /// A day is to go before another one; so many places down.
+    void GiornataLasciata(int giornata, int prima);
+    void Sposta(int giornata, int passo);
 
   protected:
     void showEvent(QShowEvent* event) override;

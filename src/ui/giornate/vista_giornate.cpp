@@ -1,6 +1,7 @@
 #include "ui/giornate/vista_giornate.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -8,6 +9,7 @@
 #include <algorithm>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/trascinamento.h"
 #include "ui/giornate/striscia_giornata.h"
 
 namespace cronovia {
@@ -107,6 +109,19 @@ VistaGiornate::VistaGiornate(ModelloGiornate& modello, QWidget* parent)
     setMouseTracking(true);
     setItemDelegate(new Delegato(modello_, *this));
     setModel(&modello_);
+    auto* trascina = new Trascinamento(*this, [this](const QPoint& punto) {
+        const QModelIndex index = indexAt(punto);
+        return index.isValid() ? std::optional(Trascinata{index.row(), {}}) : std::nullopt;
+    });
+    connect(trascina, &Trascinamento::Lasciata, this, [this](const Trascinata& trascinata, int prima) {
+        if (trascinata.giornata) Q_EMIT GiornataLasciata(*trascinata.giornata, prima);
+    });
+}
+
+void VistaGiornate::keyPressEvent(QKeyEvent* event) {
+    const bool freccia = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (!freccia || event->modifiers() != Qt::AltModifier) return QListView::keyPressEvent(event);
+    Q_EMIT Sposta(event->key() == Qt::Key_Up ? -1 : 1);
 }
 
 QRect VistaGiornate::Striscia(const QRect& riga) const {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/comandi_inserimento.h"
+#include "app/comandi_righe.h"
 
 namespace cronovia {
 
@@ -19,13 +20,65 @@ void SchermoGriglia::Collega() {
         esegui_([&] { comandi::SelezionaRiga(postazione_, postazione_.documento.RigaCorrente() + righe); });
         vista_->setFocus();
     });
+    connect(vista_, &VistaGriglia::Estensione, this, [this](int righe) {
+        esegui_([&] { comandi::SceglieFino(postazione_, postazione_.documento.RigaCorrente() + righe); });
+        vista_->setFocus();
+    });
+    connect(vista_, &VistaGriglia::SceltaFino, this,
+            [this](int riga) { esegui_([&] { comandi::SceglieFino(postazione_, riga + 1); }); });
+    connect(vista_, &VistaGriglia::Sposta, this, [this](int passo) {
+        Cambia([this, passo] { passo < 0 ? comandi::SpostaSu(postazione_) : comandi::SpostaGiu(postazione_); });
+    });
+    connect(vista_, &VistaGriglia::Togli, this, [this] { Cambia([this] { comandi::TogliScelte(postazione_); }); });
     connect(vista_, &VistaGriglia::Piega, this, &SchermoGriglia::Piega);
+    auto* trascina = new Trascinamento(*vista_, [this](const QPoint& punto) { return Presa(punto); });
+    connect(trascina, &Trascinamento::Lasciata, this, &SchermoGriglia::Lasciata);
     // However a row became the current one, commands act on it.
     connect(vista_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
         DiceLaCorrente();
         if (postazione_.documento.Calcolata() || postazione_.Su<schermata::Guida>()) return;
         esegui_([&] { comandi::SelezionaRiga(postazione_, riga + 1); });
     });
+}
+
+// Where stages can be changed; the rows keep the keyboard.
+void SchermoGriglia::Cambia(const std::function<void()>& comando) {
+    if (!postazione_.Su<schermata::Inserimento>() && !postazione_.Su<schermata::Cronovia>()) return;
+    esegui_(comando);
+    vista_->setFocus();
+}
+
+// In the itinerary the rows that are selected, when the press is on them; in the schedule the day of a line.
+std::optional<Trascinata> SchermoGriglia::Presa(const QPoint& punto) const {
+    const QModelIndex index = vista_->indexAt(punto);
+    if (!index.isValid()) return std::nullopt;
+    if (postazione_.Su<schermata::Cronovia>()) {
+        const std::optional<int> giornata = modello_.Linea(index.row());
+        return giornata ? std::optional(Trascinata{giornata, {}}) : std::nullopt;
+    }
+    if (!postazione_.Su<schermata::Inserimento>()) return std::nullopt;
+    const int riga = index.row() + 1;
+    const Tratto scelte = comandi::RigheScelte(postazione_);
+    if (riga > NumeroTappe(postazione_.documento.Righe())) return std::nullopt;
+    return Trascinata{std::nullopt, scelte.da <= riga && riga <= scelte.a ? scelte : Tratto{riga, riga}};
+}
+
+void SchermoGriglia::Lasciata(const Trascinata& trascinata, int prima) {
+    if (postazione_.Su<schermata::Cronovia>()) {
+        if (!trascinata.giornata) return;
+        const RigheMostrate& mostrate = modello_.Mostrate();
+        const int altra = prima >= mostrate.Numero() ? mostrate.Giornate()
+                          : mostrate.Linea(prima)    ? mostrate.GiornataDi(prima)
+                                                     : mostrate.GiornataDi(prima) + 1;
+        return Cambia([&] { comandi::SpostaGiornataPrimaDi(postazione_, *trascinata.giornata, altra); });
+    }
+    Tratto righe = trascinata.righe;
+    if (trascinata.giornata) {
+        const auto tappe = Giorni().Righe(*trascinata.giornata);
+        if (!tappe) return;
+        righe = {tappe->first, tappe->second};
+    }
+    Cambia([&] { comandi::SpostaPrimaDi(postazione_, righe, prima + 1); });
 }
 
 void SchermoGriglia::Mostra() {
@@ -42,12 +95,15 @@ void SchermoGriglia::Mostra() {
     } else if (!cronovia) {
         vista_->clearSpans();
         modello_.MostraItinerario(documento.Righe(), documento.Riepilogo(), kRigheMinimeGriglia);
-        modello_.SegnaGiorni(Giorni().Cambi());
+        SegnaGiorni();
     }
     if (!cronovia) mostrata_.reset();
     vista_->NascondiColonna(static_cast<int>(Colonna::Guida), cronovia.has_value());
     vista_->ImpostaSelezione(!cronovia);
-    if (!cronovia) vista_->SelezionaRiga(documento.RigaCorrente() - 1);
+    if (!cronovia) {
+        const Tratto scelte = comandi::RigheScelte(postazione_);
+        vista_->SelezionaRighe(scelte.da - 1, scelte.a - 1, documento.RigaCorrente() - 1);
+    }
     const auto* inserimento = postazione_.Su<schermata::Inserimento>();
     const bool conElenco =
         postazione_.Su<schermata::ElencoMete>() || (inserimento != nullptr && inserimento->elencoTappe);
@@ -67,6 +123,8 @@ const GiorniItinerario& SchermoGriglia::Giorni() {
     return giorni_;
 }
 
+void SchermoGriglia::SegnaGiorni() { modello_.SegnaGiorni(Giorni().Cambi()); }
+
 void SchermoGriglia::DiceLaCorrente() {
     const int griglia = vista_->currentIndex().row();
     const RigheMostrate& mostrate = modello_.Mostrate();
@@ -74,6 +132,7 @@ void SchermoGriglia::DiceLaCorrente() {
     if (!postazione_.documento.Calcolata()) {
         Q_EMIT Corrente(Giorni().GiornataDi(griglia + 1).value_or(-1), -1);
     } else if (griglia < mostrate.Numero()) {
+        if (auto* sopra = postazione_.Su<schermata::Cronovia>()) sopra->giornata = mostrate.GiornataDi(griglia);
         Q_EMIT Corrente(mostrate.GiornataDi(griglia), mostrate.Riga(griglia).value_or(-1));
     }
 }

@@ -6,6 +6,7 @@
 #include "app/postazione.h"
 #include "schedule/giorni_itinerario.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/trascinamento.h"
 #include "ui/griglia/modello_griglia.h"
 #include "ui/griglia/vista_griglia.h"
 
@@ -25,6 +26,9 @@ class SchermoGriglia : public QObject {
     /// Shows the itinerary or the schedule of the document.
     void Mostra();
 
+    /// Marks in the itinerary where the days of the last schedule begin.
+    void SegnaGiorni();
+
     /// Goes to a row of the last schedule, or to a day of it: in the itinerary to the stage that it is about. Both
     /// count from 0.
     void VaiAllaRiga(int riga);
@@ -41,6 +45,9 @@ class SchermoGriglia : public QObject {
     void DistendiRighe();
     [[nodiscard]] const GiorniItinerario& Giorni();
     void VaiAllaTappa(int riga);
+    void Cambia(const std::function<void()>& comando);
+    [[nodiscard]] std::optional<Trascinata> Presa(const QPoint& punto) const;
+    void Lasciata(const Trascinata& trascinata, int prima);
     void Piega(int riga, std::optional<bool> chiusa);
 
     Postazione& postazione_;

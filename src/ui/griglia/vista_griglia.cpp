@@ -92,6 +92,17 @@ void VistaGriglia::SelezionaRiga(int riga) {
     inSelezione_ = false;
 }
 
+void VistaGriglia::SelezionaRighe(int prima, int ultima, int corrente) {
+    if (prima == ultima || model() == nullptr || ultima >= model()->rowCount()) return SelezionaRiga(corrente);
+    inSelezione_ = true;
+    const QModelIndex index = model()->index(corrente, 1);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    selectionModel()->select({model()->index(prima, 0), model()->index(ultima, model()->columnCount() - 1)},
+                             QItemSelectionModel::ClearAndSelect);
+    scrollTo(index);
+    inSelezione_ = false;
+}
+
 void VistaGriglia::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (!inSelezione_ && current.isValid()) Q_EMIT RigaCorrente(current.row());
@@ -119,10 +130,27 @@ bool VistaGriglia::PiegaConTasto(const QKeyEvent& event) {
     }
 }
 
+// What is selected moves with Alt and the arrows.
+bool VistaGriglia::CambiaConTasto(const QKeyEvent& event) {
+    if (diGuida_) return false;
+    const bool freccia = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+    if (freccia && event.modifiers() == Qt::AltModifier) {
+        Q_EMIT Sposta(event.key() == Qt::Key_Up ? -1 : 1);
+        return true;
+    }
+    if (event.key() != Qt::Key_Delete || event.modifiers() != Qt::NoModifier) return false;
+    Q_EMIT Togli();
+    return true;
+}
+
 // The sign stands at the beginning of the line.
 void VistaGriglia::mousePressEvent(QMouseEvent* event) {
-    QTableView::mousePressEvent(event);
     const QModelIndex index = indexAt(event->pos());
+    if (diTappe_ && index.isValid() && event->button() == Qt::LeftButton && event->modifiers() == Qt::ShiftModifier) {
+        Q_EMIT SceltaFino(index.row());
+        return;
+    }
+    QTableView::mousePressEvent(event);
     if (!index.data(kRuoloLinea).toBool() || event->button() != Qt::LeftButton) return;
     if (event->pos().x() < visualRect(index).left() + kLarghezzaSegno) Q_EMIT Piega(index.row(), std::nullopt);
 }
@@ -135,7 +163,7 @@ void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void VistaGriglia::keyPressEvent(QKeyEvent* event) {
-    if (PiegaConTasto(*event)) return event->accept();
+    if (PiegaConTasto(*event) || CambiaConTasto(*event)) return event->accept();
     int passo = 0;
     switch (event->key()) {
         case Qt::Key_Up:
@@ -167,7 +195,11 @@ void VistaGriglia::keyPressEvent(QKeyEvent* event) {
         QTableView::keyPressEvent(event);
         return;
     }
-    Q_EMIT Spostamento(passo);
+    if (event->modifiers() == Qt::ShiftModifier) {
+        Q_EMIT Estensione(passo);
+    } else {
+        Q_EMIT Spostamento(passo);
+    }
 }
 
 void VistaGriglia::resizeEvent(QResizeEvent* event) {

@@ -18,6 +18,8 @@ class VistaGriglia : public QTableView {
     void ImpostaSelezione(bool diTappe) { diTappe_ = diTappe; }
     /// Selects a row, counted from 0, and scrolls to it; a row that is not there changes nothing.
     void SelezionaRiga(int riga);
+    /// Selects rows from the first to the last of them, one of which becomes the current one.
+    void SelezionaRighe(int prima, int ultima, int corrente);
 
     /// Shows the guide, with columns of its own; shows stages and schedules again.
     void MostraGuida(QAbstractItemModel& guida);
@@ -31,8 +33,13 @@ class VistaGriglia : public QTableView {
     void RipristinaLarghezze(const QByteArray& larghezze);
 
   Q_SIGNALS:
-    /// The person wants to be so many rows further down.
+    /// The person wants to be so many rows further down; and to select the rows up to there; up to a row.
     void Spostamento(int righe);
+    void Estensione(int righe);
+    void SceltaFino(int riga);
+    /// The rows that are selected, or the current day, are to go one place up or down; to be taken away.
+    void Sposta(int passo);
+    void Togli();
     /// Another row became the current one; not while the rows are shown anew.
     void RigaCorrente(int riga);
     /// The line of a day, or a row below it, is to be closed or opened; nothing: the other of the two.
@@ -50,6 +57,7 @@ class VistaGriglia : public QTableView {
 
     [[nodiscard]] bool ConGiornate() const { return !diTappe_ && !diGuida_ && model() != nullptr; }
     bool PiegaConTasto(const QKeyEvent& event);
+    bool CambiaConTasto(const QKeyEvent& event);
     void AdattaLarghezze();
     void AzzeraLarghezze();
     [[nodiscard]] LarghezzeScelte& Proprie() { return proprie_[diGuida_ ? 1 : 0]; }

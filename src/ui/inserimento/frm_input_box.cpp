@@ -130,6 +130,7 @@ void FrmInputBox::Mostra(int riga, const CampiTappa& campi) {
     txtTappa_->setText(campi.localita);
     txtNumStrada_->setText(campi.numStrada);
     txtKm_->setText(campi.km == 0 ? QString() : QString::number(campi.km));
+    txtKm_->setPlaceholderText(campi.kmDaIndicare ? u"da indicare"_s : QString());
     if (campi.tipo) cmbTipoStrada_->setCurrentIndex(static_cast<int>(*campi.tipo));
     MostraVoce(*cmbSosta_[0], Zero(campi.sosta.giorni, 2));
     MostraVoce(*cmbSosta_[1], Zero(campi.sosta.ore, 2));
@@ -154,6 +155,7 @@ CampiTappa FrmInputBox::Campi() const {
     const QString km = txtKm_->text().trimmed();
     campi.kmLeggibili = SoloCifre(km);
     campi.km = campi.kmLeggibili ? km.toInt() : 0;
+    campi.kmDaIndicare = km.isEmpty() && !txtKm_->placeholderText().isEmpty();
     campi.kmProgressivi = txtKm_->isModified() && chkKm_->isChecked();
     campi.tipo = LeggiTipoStrada(cmbTipoStrada_->currentText().left(1));
     campi.sosta = {cmbSosta_[0]->currentText().toInt(), cmbSosta_[1]->currentText().toInt(),

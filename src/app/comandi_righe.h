@@ -1,0 +1,39 @@
+// The commands that move, copy and take away whole stretches: the rows selected in the entry of stages, or the stages
+// of a day. Each is one step that can be taken back; in the schedule it is computed anew at once.
+#pragma once
+
+#include "app/postazione.h"
+#include "itinerary/tratti.h"
+
+namespace cronovia::comandi {
+
+/// The rows selected in the entry of stages, the current one among them.
+[[nodiscard]] Tratto RigheScelte(const Postazione& p);
+/// Goes to a row, and selects all from where the selection begins.
+void SceglieFino(Postazione& p, int riga);
+
+// On the rows selected; in the schedule on the stages of the day that is current there.
+void SpostaSu(Postazione& p);
+void SpostaGiu(Postazione& p);
+void DuplicaScelte(Postazione& p);
+void TogliScelte(Postazione& p);
+
+/// Puts rows before row `dove`; the stages that are reached on a day one day up or down, or before those of another
+/// one. Days count from 0.
+void SpostaPrimaDi(Postazione& p, Tratto righe, int dove);
+void SpostaGiornata(Postazione& p, int giornata, int passo);
+void SpostaGiornataPrimaDi(Postazione& p, int giornata, int altra);
+/// Has the day, from 0, end at the last stage that is reached on it, or lets it go on there; the current day.
+void FineGiornata(Postazione& p, int giornata);
+void FineGiornataCorrente(Postazione& p);
+
+/// The rows selected as text for the program and for spreadsheets.
+void Copia(Postazione& p);
+void Taglia(Postazione& p);
+/// Stages as text, before the current row; all of them or none.
+void Incolla(Postazione& p);
+
+/// Puts a place on the way to the current stage, after asking which.
+void DividiTappaCorrente(Postazione& p);
+
+}  // namespace cronovia::comandi
