@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kMargine = 4;
 constexpr int kOreFraNumeri = 3;
+constexpr int kGiorniProposti = 4;
 
 int AltezzaStriscia(const QWidget& vista) { return vista.fontMetrics().height() + 6; }
 
@@ -122,6 +123,12 @@ void VistaGiornate::keyPressEvent(QKeyEvent* event) {
     const bool freccia = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (!freccia || event->modifiers() != Qt::AltModifier) return QListView::keyPressEvent(event);
     Q_EMIT Sposta(event->key() == Qt::Key_Up ? -1 : 1);
+}
+
+// A few days, so that a small window keeps room for its rows.
+QSize VistaGiornate::sizeHint() const {
+    const int giorno = AltezzaStriscia(*this) + 2 * kMargine;
+    return {QListView::sizeHint().width(), fontMetrics().height() + 6 + kGiorniProposti * giorno};
 }
 
 QRect VistaGiornate::Striscia(const QRect& riga) const {

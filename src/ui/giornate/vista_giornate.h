@@ -24,6 +24,7 @@ class VistaGiornate : public QListView {
     [[nodiscard]] QPoint Punto(int giornata, Centesimi ora) const;
     /// What is told of the bar at a point; empty where there is none.
     [[nodiscard]] QString Suggerimento(const QPoint& punto) const;
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] int RigaSegnata() const { return segnata_; }
 
   Q_SIGNALS:

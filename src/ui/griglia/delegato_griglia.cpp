@@ -23,12 +23,16 @@ void DelegatoGriglia::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const bool dentro = index.data(kRuoloCambioDentro).toBool();
     painter->setPen(QPen(testo, 1.4, dentro ? Qt::DashLine : Qt::SolidLine));
     painter->drawLine(option.rect.topLeft(), option.rect.topRight());
-    const int resto =
-        option.rect.width() - option.fontMetrics.horizontalAdvance(index.data().toString()) - 3 * kMargineGiorno;
-    if (index.column() == static_cast<int>(Colonna::Tappa) && option.fontMetrics.horizontalAdvance(giorno) < resto) {
+    if (index.column() == static_cast<int>(Colonna::Tappa)) {
+        const QFontMetrics& misure = option.fontMetrics;
+        const int resto = option.rect.width() - misure.horizontalAdvance(index.data().toString()) - 3 * kMargineGiorno;
+        const QString numero = giorno.section(u' ', 1);
+        const QString& nome = misure.horizontalAdvance(giorno) < resto ? giorno : numero;
         const QColor sfondo = option.palette.color(scelta ? QPalette::Highlight : QPalette::Base);
         painter->setPen(Misto(testo, sfondo, scelta ? 0 : 25));
-        painter->drawText(option.rect.adjusted(0, 0, -kMargineGiorno, 0), Qt::AlignRight | Qt::AlignVCenter, giorno);
+        if (misure.horizontalAdvance(nome) < resto) {
+            painter->drawText(option.rect.adjusted(0, 0, -kMargineGiorno, 0), Qt::AlignRight | Qt::AlignVCenter, nome);
+        }
     }
     painter->restore();
 }

@@ -12,7 +12,7 @@ class DelegatoGriglia : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     /// A rule above the row, broken where the day begins within it; the name of the day at the end of the cell of the
-    /// stage, when there is room.
+    /// stage, or its number, as there is room.
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 

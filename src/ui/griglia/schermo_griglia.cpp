@@ -96,6 +96,7 @@ void SchermoGriglia::Mostra() {
         vista_->clearSpans();
         modello_.MostraItinerario(documento.Righe(), documento.Riepilogo(), kRigheMinimeGriglia);
         SegnaGiorni();
+        DistendiDaIndicare();
     }
     if (!cronovia) mostrata_.reset();
     vista_->NascondiColonna(static_cast<int>(Colonna::Guida), cronovia.has_value());
@@ -174,6 +175,16 @@ void SchermoGriglia::DistendiRighe() {
         } else if (modello_.SegnoDellaRiga(riga) == Segno::Guida) {
             vista_->setSpan(riga, kPrima, 1, kColonneDistese);
         }
+    }
+}
+
+// What is to be told takes the columns of what follows from it.
+void SchermoGriglia::DistendiDaIndicare() {
+    constexpr int kPrima = static_cast<int>(Colonna::Km);
+    constexpr int kColonneDistese = static_cast<int>(Colonna::Sosta) - kPrima;
+    const RigheItinerario& righe = postazione_.documento.Righe();
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        if (righe[i].kmDaIndicare) vista_->setSpan(static_cast<int>(i), kPrima, 1, kColonneDistese);
     }
 }
 

@@ -43,6 +43,7 @@ class SchermoGriglia : public QObject {
   private:
     void Collega();
     void DistendiRighe();
+    void DistendiDaIndicare();
     [[nodiscard]] const GiorniItinerario& Giorni();
     void VaiAllaTappa(int riga);
     void Cambia(const std::function<void()>& comando);
