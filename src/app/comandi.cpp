@@ -9,47 +9,82 @@
 
 namespace cronovia {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
-    {Comando::Nuovo, u"cmdNuovo", u"&Nuovo", u"Inserisce una nuova mèta", &comandi::Nuovo},
-    {Comando::Ricerca, u"cmdRicerca", u"Ricerca mè&ta", u"Cerca una mèta tra quelle memorizzate", &comandi::Ricerca},
-    {Comando::Salva, u"cmdSalva", u"Sal&va", u"Salva i dati della mèta", &comandi::Salva},
-    {Comando::CancMeta, u"cmdCancMeta", u"Canc.&mèta", u"Cancella la mèta con il suo itinerario", &comandi::CancMeta},
-    {Comando::Calcola, u"cmdCalcola", u"&Calcola", u"Calcola la cronovia del viaggio", &comandi::Calcola},
-    {Comando::Stampa, u"cmdStampa", u"&Stampa", u"Stampa la cronovia", &comandi::Stampa},
-    {Comando::Itinerario, u"cmdItinerario", u"&Itinerario", u"Inserisce o modifica le tappe dell'itinerario",
-     &comandi::Itinerario},
-    {Comando::GuidaCitta, u"cmdGuidaCitta", u"&Guida città", u"Inserisce o modifica la guida delle città",
-     &comandi::GuidaCitta},
-    {Comando::CancItin, u"cmdCancItin", u"C&anc.Itin.", u"Cancella tutto l'itinerario della mèta", &comandi::CancItin},
-    {Comando::Esce, u"cmdEsce", u"&Esce", u"Esce dal form", &comandi::Esce},
-    {Comando::Import, u"cmdImport", u"Im&port", u"Importa mète da un file di scambio", &comandi::Import},
-    {Comando::Export, u"cmdExport", u"E&xport", u"Esporta mète su un file di scambio", &comandi::Export},
-    {Comando::Converte, u"cmdConverte", u"Converte", u"Recupera i dati della versione precedente", &comandi::Converte},
-    {Comando::Inserisce, u"cmdInserisce", u"&Inserisce tappa", u"Inserisce la tappa nella riga corrente",
-     &comandi::Inserisce},
-    {Comando::Aggiunge, u"cmdAggiunge", u"&Aggiunge riga vuota", u"Apre una riga vuota prima di quella corrente",
-     &comandi::Aggiunge},
-    {Comando::Cancella, u"cmdCancella", u"&Cancella riga/tappa", u"Cancella la riga corrente", &comandi::Cancella},
-    {Comando::Ricalcola, u"cmdRicalcola", u"Ricalc&ola", u"Calcola la cronovia con le modifiche in corso",
-     &comandi::Ricalcola},
-    {Comando::Ritorno, u"cmdRitorno", u"Ri&torno a start",
-     u"Inserisce il ritorno alla località di partenza, dalla località più vicina", &comandi::Ritorno},
-    {Comando::Cerca, u"cmdCerca", u"C&erca località", u"Cerca una località dell'itinerario", &comandi::Cerca},
-    {Comando::Fine, u"cmdFine", u"&Fine inser.", u"Chiude l'inserimento dell'itinerario", &comandi::Fine},
-    {Comando::Memorizza, u"cmdMemorizza", u"&Salva Reset", u"Salva l'itinerario o recupera quello memorizzato",
-     &comandi::Memorizza},
-    {Comando::Duplica, u"cmdDuplica", u"Copia da altre &mète", u"Duplica da altra meta", &comandi::Duplica},
-    {Comando::AzzeraSoste, u"cmdAzzeraSoste", u"A&zzera soste itiner.", u"Toglie tutte le soste dell'itinerario",
-     &comandi::AzzeraSoste},
-    {Comando::Trasferisce, u"cmdTrasferisce", u"Copia soste guida ->itin.",
-     u"Aggiunge alle soste i tempi di visita della guida", &comandi::Trasferisce},
-    {Comando::AltriPacchetti, u"cmdMapPoint", u"Altri Pacc&h.", u"Recepisce dati forniti da pacchetti commerciali",
-     &comandi::AltriPacchetti},
-}};
+constexpr std::array<DescrizioneComando, kComandi> Tabella() {
+    using namespace momento;
+    // The fields of the trip can be typed into.
+    constexpr Momenti kCampiLiberi = kNuova | kAperta | kElencoMete | kInserimento | kElencoTappe | kCopia | kGuida;
+    return {{
+        {Comando::Nuovo, u"cmdNuovo", u"&Nuovo", u"&Nuova mèta", u"Ctrl+N", u"Inserisce una nuova mèta", Menu::File,
+         kVuota | kNuova | kAperta | kElencoMete, &comandi::Nuovo},
+        {Comando::Ricerca, u"cmdRicerca", u"Ricerca mè&ta", nullptr, u"Ctrl+O",
+         u"Cerca una mèta tra quelle memorizzate", Menu::File, kNuovaDopoAltra | kAperta, &comandi::Ricerca},
+        {Comando::Salva, u"cmdSalva", u"Sal&va", u"Sal&va mèta", u"Ctrl+S", u"Salva i dati della mèta", Menu::File,
+         kNuova | kAperta, &comandi::Salva},
+        {Comando::CancMeta, u"cmdCancMeta", u"Canc.&mèta", u"Cancella &mèta", u"",
+         u"Cancella la mèta con il suo itinerario", Menu::File, kAperta, &comandi::CancMeta},
+        {Comando::Import, u"cmdImport", u"Im&port", u"Im&porta mète…", u"", u"Importa mète da un file di scambio",
+         Menu::File, kVuota | kAperta, &comandi::Import, true},
+        {Comando::Export, u"cmdExport", u"E&xport", u"E&sporta mète…", u"", u"Esporta mète su un file di scambio",
+         Menu::File, kAperta, &comandi::Export},
+        {Comando::Converte, u"cmdConverte", u"Converte", u"&Converte i vecchi dati", u"",
+         u"Recupera i dati della versione precedente", Menu::File, kVecchiDati, &comandi::Converte},
+        {Comando::Esce, u"cmdEsce", u"&Esce", nullptr, u"Ctrl+Q", u"Esce dal form", Menu::File,
+         kVuota | kNuova | kAperta | kElencoMete | kCorsa, &comandi::Esce, true},
+        {Comando::Annulla, u"cmdAnnulla", u"Annulla", nullptr, u"Ctrl+Z", u"Annulla l'ultima modifica", Menu::Modifica,
+         kAnnullabile, &comandi::Annulla},
+        {Comando::Ripeti, u"cmdRipeti", u"Ripeti", nullptr, u"Ctrl+Shift+Z", u"Ripete la modifica annullata",
+         Menu::Modifica, kRipetibile, &comandi::Ripeti},
+        {Comando::SalvaDefault, u"cmdDefault_0", u"Sa&lva", u"&Salva come valori abituali", u"",
+         u"Salva i tempi e le velocità come valori abituali", Menu::Modifica, kCampiLiberi, &comandi::SalvaDefault,
+         true},
+        {Comando::CaricaDefault, u"cmdDefault_1", u"Carica", u"&Carica i valori abituali", u"",
+         u"Carica i valori abituali", Menu::Modifica, kCampiLiberi, &comandi::CaricaDefault},
+        {Comando::RipristinaDefault, u"cmdDefault_2", u"&Reset", u"&Ripristina i valori iniziali", u"",
+         u"Ripristina i valori iniziali del programma", Menu::Modifica, kCampiLiberi, &comandi::RipristinaDefault},
+        {Comando::Itinerario, u"cmdItinerario", u"&Itinerario", u"&Inserimento delle tappe", u"Ctrl+I",
+         u"Inserisce o modifica le tappe dell'itinerario", Menu::Itinerario, kAperta, &comandi::Itinerario},
+        {Comando::CancItin, u"cmdCancItin", u"C&anc.Itin.", u"Cancella itiner&ario", u"",
+         u"Cancella tutto l'itinerario della mèta", Menu::Itinerario, kAperta, &comandi::CancItin},
+        {Comando::Inserisce, u"cmdInserisce", u"&Inserisce tappa", nullptr, u"",
+         u"Inserisce la tappa nella riga corrente", Menu::Itinerario, kInserimento, &comandi::Inserisce, true},
+        {Comando::Aggiunge, u"cmdAggiunge", u"&Aggiunge riga vuota", nullptr, u"",
+         u"Apre una riga vuota prima di quella corrente", Menu::Itinerario, kInserimento, &comandi::Aggiunge},
+        {Comando::Cancella, u"cmdCancella", u"&Cancella riga/tappa", nullptr, u"", u"Cancella la riga corrente",
+         Menu::Itinerario, kDueTappe, &comandi::Cancella},
+        {Comando::Cerca, u"cmdCerca", u"C&erca località", nullptr, u"Ctrl+F", u"Cerca una località dell'itinerario",
+         Menu::Itinerario, kInserimento, &comandi::Cerca},
+        {Comando::Ritorno, u"cmdRitorno", u"Ri&torno a start", nullptr, u"",
+         u"Inserisce il ritorno alla località di partenza, dalla località più vicina", Menu::Itinerario, kDueTappe,
+         &comandi::Ritorno},
+        {Comando::Duplica, u"cmdDuplica", u"Copia da altre &mète", nullptr, u"", u"Duplica da altra meta",
+         Menu::Itinerario, kInserimento, &comandi::Duplica},
+        {Comando::AltriPacchetti, u"cmdMapPoint", u"Altri Pacc&h.", u"Altri pacc&hetti…", u"",
+         u"Recepisce dati forniti da pacchetti commerciali", Menu::Itinerario, kSenzaTappe, &comandi::AltriPacchetti},
+        {Comando::AzzeraSoste, u"cmdAzzeraSoste", u"A&zzera soste itiner.", u"A&zzera soste dell'itinerario", u"",
+         u"Toglie tutte le soste dell'itinerario", Menu::Itinerario, kInserimento, &comandi::AzzeraSoste},
+        {Comando::Trasferisce, u"cmdTrasferisce", u"Copia soste guida ->itin.",
+         u"Copia soste della &guida nell'itinerario", u"", u"Aggiunge alle soste i tempi di visita della guida",
+         Menu::Itinerario, kInserimento, &comandi::Trasferisce},
+        {Comando::Memorizza, u"cmdMemorizza", u"&Salva Reset", u"&Salva o recupera l'itinerario", u"Ctrl+S",
+         u"Salva l'itinerario o recupera quello memorizzato", Menu::Itinerario, kInserimento, &comandi::Memorizza,
+         true},
+        {Comando::Fine, u"cmdFine", u"&Fine inser.", u"&Fine inserimento", u"", u"Chiude l'inserimento dell'itinerario",
+         Menu::Itinerario, kInserimento | kElencoTappe | kCopia, &comandi::Fine},
+        {Comando::Calcola, u"cmdCalcola", u"&Calcola", u"&Calcola cronovia", u"F9", u"Calcola la cronovia del viaggio",
+         Menu::Cronovia, kVuota | kNuova | kAperta | kCronovia | kStampa, &comandi::Calcola},
+        {Comando::Ricalcola, u"cmdRicalcola", u"Ricalc&ola", nullptr, u"F9",
+         u"Calcola la cronovia con le modifiche in corso", Menu::Cronovia, kDueTappe, &comandi::Ricalcola},
+        {Comando::Stampa, u"cmdStampa", u"&Stampa", u"&Stampa cronovia…", u"Ctrl+P", u"Stampa la cronovia",
+         Menu::Cronovia, kVuota | kNuova | kAperta | kCronovia | kStampa, &comandi::Stampa, true},
+        {Comando::GuidaCitta, u"cmdGuidaCitta", u"&Guida città", nullptr, u"Ctrl+G",
+         u"Inserisce o modifica la guida delle città", Menu::Guida, kAperta, &comandi::GuidaCitta},
+        {Comando::Informazioni, u"cmdInformazioni", u"Informazioni", u"Informazioni su &Cronovia", u"",
+         u"Versione del programma, e dove sono i tuoi dati", Menu::Aiuto, kLibera, &comandi::Informazioni, true},
+    }};
+}
+constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = Tabella();
 
 constexpr bool InOrdine() {
     for (std::size_t i = 0; i < kComandi; ++i) {
@@ -66,9 +101,13 @@ const std::array<DescrizioneComando, kComandi>& TabellaComandi() { return kDescr
 const DescrizioneComando& Descrizione(Comando comando) { return kDescrizioni[static_cast<std::size_t>(comando)]; }
 
 QString Scritta(Comando comando, const StatoComandi& stato) {
-    if (comando == Comando::Calcola && stato.sblocca) return u"S&blocca"_s;
-    if (comando == Comando::Esce && stato.stop) return u"&Stop"_s;
-    return QString::fromUtf16(Descrizione(comando).scritta);
+    const auto propria = stato.scritte.find(comando);
+    return propria != stato.scritte.end() ? propria->second : QString::fromUtf16(Descrizione(comando).scritta);
+}
+
+QString VoceDiMenu(Comando comando, const StatoComandi& stato) {
+    const char16_t* voce = Descrizione(comando).voce;
+    return voce == nullptr || stato.scritte.contains(comando) ? Scritta(comando, stato) : QString::fromUtf16(voce);
 }
 
 }  // namespace cronovia

@@ -1,4 +1,4 @@
-// The commands of the two rows of buttons as values: what buttons, keys and tests know of them.
+// The commands of the window as values: what menus, buttons, keys and tests know of them.
 #pragma once
 
 #include <array>
@@ -7,20 +7,30 @@
 
 namespace cronovia {
 
-/// One command, in words and as a procedure.
+/// The menus, from left to right.
+enum class Menu { File, Modifica, Itinerario, Cronovia, Guida, Vista, Aiuto };
+inline constexpr std::size_t kMenu = static_cast<std::size_t>(Menu::Aiuto) + 1;
+
+/// One command, in words and as a procedure. It stands in a menu, and has a button where a screen places one.
 struct DescrizioneComando {
     Comando comando;
-    const char16_t* nome;         ///< of its controls
-    const char16_t* scritta;      ///< caption; its letter, which no other has on that screen, is marked by "&"
+    const char16_t* nome;         ///< of its button: "cmd" and a word; of its action: that word, its first letter small
+    const char16_t* scritta;      ///< of its button; its letter, which no other has on that screen, is marked by "&"
+    const char16_t* voce;         ///< in the menu; null: as on the button
+    const char16_t* scorciatoia;  ///< "Ctrl+S", or empty; those enabled together have different ones
     const char16_t* istruzione;   ///< tip, plain text
+    Menu menu;
+    Momenti quando;               ///< it can be used in these moments
     void (*esegui)(Postazione&);  ///< does it; tells by itself what goes wrong
+    bool stacca = false;          ///< a line parts it from the one above in the menu
 };
 
 /// In the order of `Comando`.
 [[nodiscard]] const std::array<DescrizioneComando, kComandi>& TabellaComandi();
 [[nodiscard]] const DescrizioneComando& Descrizione(Comando comando);
 
-/// The caption at this moment: one command unlocks what it computed, another one stops what runs.
+/// Captions at this moment: one command unlocks what it computed, another one stops what runs, undo names its step.
 [[nodiscard]] QString Scritta(Comando comando, const StatoComandi& stato);
+[[nodiscard]] QString VoceDiMenu(Comando comando, const StatoComandi& stato);
 
 }  // namespace cronovia

@@ -1,5 +1,7 @@
 #include "app/comandi_viaggio.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <utility>
 
 #include "app/comandi_cronovia.h"
@@ -153,6 +155,12 @@ void Ripeti(Postazione& p) {
     if (!p.DaRipetere() || !VoceNonPersa(p)) return;
     p.Prova([&] { p.documento.Modifiche().Ripeti(*p.AmbitoInVista()); });
     Segue(p);
+}
+
+void Informazioni(Postazione& p) {
+    p.Mostra(u"Cronovia %1\n\nI tuoi dati sono in:\n%2"_s.arg(QCoreApplication::applicationVersion(),
+                                                              QDir::toNativeSeparators(p.sessione.Cartella())),
+             u"Informazioni su Cronovia"_s, Icon::Information);
 }
 
 }  // namespace cronovia::comandi

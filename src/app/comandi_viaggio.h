@@ -37,4 +37,7 @@ void Esce(Postazione& p);
 void Annulla(Postazione& p);
 void Ripeti(Postazione& p);
 
+/// Tells which program this is, and where its data lies.
+void Informazioni(Postazione& p);
+
 }  // namespace cronovia::comandi

@@ -24,7 +24,9 @@ bool Postazione::SenzaMete() const {
 }
 
 StatoComandi Postazione::Comandi() const {
-    return StatoDeiComandi({NumeroTappe(documento.Righe()), !documento.Codice().isEmpty(), attivita}, schermata);
+    return StatoDeiComandi(
+        {NumeroTappe(documento.Righe()), !documento.Codice().isEmpty(), attivita, DaAnnullare(), DaRipetere()},
+        schermata);
 }
 
 bool Postazione::Prova(const std::function<void()>& azione, const QString& mancato) {
@@ -97,7 +99,9 @@ std::optional<Ambito> Postazione::AmbitoInVista() const {
         return inserimento->elencoTappe ? std::nullopt : std::optional(Ambito::Viaggio);
     }
     if (Su<schermata::Cronovia>()) return Ambito::Viaggio;
-    return Comandi().Abilitato(Comando::Import) ? std::optional(Ambito::Archivio) : std::nullopt;
+    const auto* viaggio = Su<schermata::Viaggio>();
+    return viaggio != nullptr && viaggio->fase != schermata::Viaggio::Fase::Nuova ? std::optional(Ambito::Archivio)
+                                                                                  : std::nullopt;
 }
 
 std::optional<QString> Postazione::DaAnnullare() const {

@@ -1,71 +1,73 @@
 #include "app/stato_comandi.h"
 
-#include <initializer_list>
+#include "app/comandi.h"
 
 namespace cronovia {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-using Comandi = std::initializer_list<Comando>;
-
-constexpr Comandi kPrincipali = {Comando::Nuovo,    Comando::Ricerca, Comando::Salva,      Comando::CancMeta,
-                                 Comando::Calcola,  Comando::Stampa,  Comando::Itinerario, Comando::GuidaCitta,
-                                 Comando::CancItin, Comando::Esce,    Comando::Import,     Comando::Export};
-constexpr Comandi kSempreInInserimento = {Comando::Inserisce,   Comando::Aggiunge,   Comando::Cerca,
-                                          Comando::Fine,        Comando::Memorizza,  Comando::Duplica,
-                                          Comando::AzzeraSoste, Comando::Trasferisce};
-constexpr Comandi kConDueTappe = {Comando::Ricalcola, Comando::Ritorno, Comando::Cancella};
-
-/// Enables what a screen allows while nothing else goes on.
-struct Abilita {
+/// What a screen contributes while nothing goes on.
+struct MomentiDelloSchermo {
     const Fatti& fatti;
-    StatoComandi& stato;
 
-    void Solo(Comandi comandi) const {
-        for (const Comando comando : comandi) stato.abilitati.set(static_cast<std::size_t>(comando));
-    }
-
-    void operator()(const schermata::Viaggio& viaggio) const {
+    Momenti operator()(const schermata::Viaggio& viaggio) const {
         using Fase = schermata::Viaggio::Fase;
+        const Momenti vecchi = viaggio.converteOfferto ? momento::kVecchiDati : 0;
         switch (viaggio.fase) {
             case Fase::Vuota:
-                Solo({Comando::Nuovo, Comando::Import, Comando::Esce, Comando::Calcola, Comando::Stampa});
-                break;
+                return vecchi | momento::kVuota;
             case Fase::Nuova:
-                Solo({Comando::Nuovo, Comando::Salva, Comando::Esce, Comando::Calcola, Comando::Stampa});
-                if (fatti.metaAperta) Solo({Comando::Ricerca});
-                break;
+                return vecchi | momento::kNuova | (fatti.metaAperta ? momento::kNuovaDopoAltra : 0);
             case Fase::Aperta:
-                Solo(kPrincipali);
                 break;
         }
-        if (viaggio.converteOfferto) Solo({Comando::Converte});
+        return vecchi | momento::kAperta;
     }
-    void operator()(const schermata::ElencoMete& /*elenco*/) const { Solo({Comando::Nuovo, Comando::Esce}); }
-    void operator()(const schermata::Inserimento& inserimento) const {
-        if (inserimento.elencoTappe) return Solo({Comando::Fine});
-        Solo(kSempreInInserimento);
-        if (fatti.tappe >= 2) Solo(kConDueTappe);
-        if (fatti.tappe < (inserimento.appenaInserita ? 1 : 2)) Solo({Comando::AltriPacchetti});
+    Momenti operator()(const schermata::ElencoMete& /*elenco*/) const { return momento::kElencoMete; }
+    Momenti operator()(const schermata::Inserimento& inserimento) const {
+        if (inserimento.elencoTappe) return momento::kElencoTappe;
+        return momento::kInserimento | (fatti.tappe >= 2 ? momento::kDueTappe : 0) |
+               (fatti.tappe < (inserimento.appenaInserita ? 1 : 2) ? momento::kSenzaTappe : 0);
     }
-    void operator()(const schermata::Cronovia& /*cronovia*/) const { Solo({Comando::Calcola, Comando::Stampa}); }
-    void operator()(const schermata::Stampa& stampa) const {
-        if (!stampa.inCorso) Solo({Comando::Calcola, Comando::Stampa});
-    }
-    void operator()(const schermata::Guida& /*guida*/) const {}
-    void operator()(const schermata::Copia& /*copia*/) const { Solo({Comando::Fine}); }
-    void operator()(const schermata::Scambio& /*scambio*/) const {}
+    Momenti operator()(const schermata::Cronovia& /*cronovia*/) const { return momento::kCronovia; }
+    Momenti operator()(const schermata::Stampa& /*stampa*/) const { return momento::kStampa; }
+    Momenti operator()(const schermata::Guida& /*guida*/) const { return momento::kGuida; }
+    Momenti operator()(const schermata::Copia& /*copia*/) const { return momento::kCopia; }
+    Momenti operator()(const schermata::Scambio& /*scambio*/) const { return momento::kScambio; }
 };
+
+Momenti MomentiDi(const Fatti& fatti, const Schermata& schermata) {
+    if (fatti.attivita == Attivita::Corsa) return momento::kCorsa;
+    const auto* stampa = std::get_if<schermata::Stampa>(&schermata);
+    if (fatti.attivita == Attivita::Scrittura || (stampa != nullptr && stampa->inCorso)) return 0;
+    return momento::kLibera | std::visit(MomentiDelloSchermo{fatti}, schermata) |
+           (fatti.annulla ? momento::kAnnullabile : 0) | (fatti.ripeti ? momento::kRipetibile : 0);
+}
+
+// What follows the verb is no mnemonic.
+QString DelPasso(const QString& verbo, const QString& nome) {
+    return verbo + u' ' + QString(nome).replace(u'&', u"&&"_s);
+}
 
 }  // namespace
 
 StatoComandi StatoDeiComandi(const Fatti& fatti, const Schermata& schermata) {
     StatoComandi stato;
-    stato.stop = fatti.attivita == Attivita::Corsa;
-    stato.sblocca = !stato.stop && (std::holds_alternative<schermata::Cronovia>(schermata) ||
-                                    std::holds_alternative<schermata::Stampa>(schermata));
-    if (stato.stop) stato.abilitati.set(static_cast<std::size_t>(Comando::Esce));
-    if (fatti.attivita == Attivita::Nessuna) std::visit(Abilita{fatti, stato}, schermata);
+    const Momenti adesso = MomentiDi(fatti, schermata);
+    for (const DescrizioneComando& d : TabellaComandi()) {
+        if ((d.quando & adesso) != 0) stato.abilitati.set(static_cast<std::size_t>(d.comando));
+    }
+    const bool stampa = std::holds_alternative<schermata::Stampa>(schermata);
+    if (fatti.attivita == Attivita::Corsa) {
+        stato.scritte[Comando::Esce] = u"&Stop"_s;
+    } else if (stampa || std::holds_alternative<schermata::Cronovia>(schermata)) {
+        stato.scritte[Comando::Calcola] = u"S&blocca"_s;
+    }
+    if (stampa) stato.scritte[Comando::Stampa] = u"Stampa"_s;  // its letter is that of the print frames
+    if (fatti.annulla) stato.scritte[Comando::Annulla] = DelPasso(u"Annulla"_s, *fatti.annulla);
+    if (fatti.ripeti) stato.scritte[Comando::Ripeti] = DelPasso(u"Ripeti"_s, *fatti.ripeti);
     return stato;
 }
 

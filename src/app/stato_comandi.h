@@ -3,42 +3,79 @@
 
 #include <bitset>
 #include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
 
 #include "app/schermate.h"
 
 namespace cronovia {
 
-/// The commands that have a button on the trip screen or on that of the entry.
+/// The commands of the window, in the order of their menus.
 enum class Comando {
-    // The main commands.
+    // File
     Nuovo,
     Ricerca,
     Salva,
     CancMeta,
-    Calcola,
-    Stampa,
-    Itinerario,
-    GuidaCitta,
-    CancItin,
-    Esce,
     Import,
     Export,
     Converte,
-    // Those of the itinerary.
+    Esce,
+    // Modifica
+    Annulla,
+    Ripeti,
+    SalvaDefault,
+    CaricaDefault,
+    RipristinaDefault,
+    // Itinerario
+    Itinerario,
+    CancItin,
     Inserisce,
     Aggiunge,
     Cancella,
-    Ricalcola,
-    Ritorno,
     Cerca,
-    Fine,
-    Memorizza,
+    Ritorno,
     Duplica,
+    AltriPacchetti,
     AzzeraSoste,
     Trasferisce,
-    AltriPacchetti
+    Memorizza,
+    Fine,
+    // Cronovia
+    Calcola,
+    Ricalcola,
+    Stampa,
+    // Guida
+    GuidaCitta,
+    // Aiuto
+    Informazioni
 };
-inline constexpr std::size_t kComandi = static_cast<std::size_t>(Comando::AltriPacchetti) + 1;
+inline constexpr std::size_t kComandi = static_cast<std::size_t>(Comando::Informazioni) + 1;
+
+/// Moments in which commands can be used, as bits: several hold at once.
+using Momenti = std::uint32_t;
+namespace momento {
+inline constexpr Momenti kVuota = 1U << 0;           ///< the archive has no trip, none was begun
+inline constexpr Momenti kNuova = 1U << 1;           ///< a new trip is filled in
+inline constexpr Momenti kNuovaDopoAltra = 1U << 2;  ///< and a stored one was open before
+inline constexpr Momenti kAperta = 1U << 3;          ///< a stored trip is open
+inline constexpr Momenti kVecchiDati = 1U << 4;      ///< data of the earlier release is offered
+inline constexpr Momenti kElencoMete = 1U << 5;
+inline constexpr Momenti kInserimento = 1U << 6;
+inline constexpr Momenti kDueTappe = 1U << 7;     ///< stages are entered, and there are two at least
+inline constexpr Momenti kSenzaTappe = 1U << 8;   ///< stages are entered, and there is none behind the departure
+inline constexpr Momenti kElencoTappe = 1U << 9;  ///< the places to go to are listed over the entry
+inline constexpr Momenti kCronovia = 1U << 10;
+inline constexpr Momenti kStampa = 1U << 11;
+inline constexpr Momenti kGuida = 1U << 12;
+inline constexpr Momenti kCopia = 1U << 13;
+inline constexpr Momenti kScambio = 1U << 14;
+inline constexpr Momenti kAnnullabile = 1U << 15;  ///< there is a step to be taken back; to be made again
+inline constexpr Momenti kRipetibile = 1U << 16;
+inline constexpr Momenti kCorsa = 1U << 17;   ///< a run that can be stopped is on; nothing else holds then
+inline constexpr Momenti kLibera = 1U << 18;  ///< nothing goes on, whatever the screen
+}  // namespace momento
 
 /// What goes on at this moment.
 enum class Attivita {
@@ -52,18 +89,19 @@ struct Fatti {
     int tappe = 0;            ///< stages of the itinerary
     bool metaAperta = false;  ///< a stored trip is open, or was before the one that is filled in
     Attivita attivita = Attivita::Nessuna;
+    std::optional<QString> annulla = {};  ///< names of the steps that undo and redo are about; none: there is nothing
+    std::optional<QString> ripeti = {};
 };
 
 /// The commands at one moment.
 struct StatoComandi {
     std::bitset<kComandi> abilitati;
-    bool sblocca = false;  ///< Calculate reads Unlock
-    bool stop = false;     ///< Exit reads Stop
+    std::map<Comando, QString> scritte;  ///< captions that are not those of the table
 
     [[nodiscard]] bool Abilitato(Comando comando) const { return abilitati[static_cast<std::size_t>(comando)]; }
 };
 
-/// Depends on nothing but these two: a command is enabled when the screen allows it and nothing else goes on.
+/// Depends on nothing but these two: a command is enabled in its moments, while nothing else goes on.
 StatoComandi StatoDeiComandi(const Fatti& fatti, const Schermata& schermata);
 
 }  // namespace cronovia

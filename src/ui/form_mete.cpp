@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
@@ -19,6 +20,7 @@
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
+#include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
 #include "ui/inserimento/frm_divisione.h"
@@ -41,19 +43,21 @@ constexpr QMargins kCornice(8, 40, 8, 8);
 
 FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     : aspetto_(QDir(cartella).filePath(u"Cronovia.ini"_s), QSettings::IniFormat),
+      azioni_(*this),
       avanzamento_(new Avanzamento),
       interazione_(*this),
       postazione_(cartella, NuoviVolti(std::move(adesso))),
       cmbRicercaTappa_(new ElencoScelta(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
-      viaggio_(new SchermoViaggio(postazione_, [this](const auto& comando) { Esegui(comando); })),
-      bottoni_(new FrmBottoni),
+      viaggio_(new SchermoViaggio(postazione_, azioni_, [this](const auto& comando) { Esegui(comando); })),
+      bottoni_(new FrmBottoni(azioni_)),
       griglia_(postazione_, [this](const auto& comando) { Esegui(comando); }),
-      inserimento_(postazione_, *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
+      inserimento_(postazione_, azioni_, *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
       copia_(postazione_, inserimento_.Area(), [this](const auto& comando) { Esegui(comando); }),
       guida_(postazione_, griglia_.Vista(), *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
       scambio_(postazione_, [this](const auto& comando) { Esegui(comando); }) {
     setObjectName(u"formMete"_s);
     Disponi();
+    CompletaMenu();
     Collega();
     CreaGiornate();
     RendiLeggibile();
@@ -121,7 +125,20 @@ void FormMete::CreaStampe(QGridLayout& area) {
                                            [this](const auto& comando) { Esegui(comando); }};
     stampa_ = new ComandoStampa(ambiente, area);
     guida_.ImpostaStampa(*new ComandoStampaGuida(ambiente, stampa_->Stampante(), area));
-    azioni_ = new AzioniModifica(*this, {&inserimento_.Riquadro(), &griglia_.Vista()}, postazione_, ambiente.esegui);
+}
+
+// What stands in menus beside the commands.
+void FormMete::CompletaMenu() {
+    griglia_.Vista().addActions({&azioni_.Di(Comando::Annulla), &azioni_.Di(Comando::Ripeti)});
+    azioni_.MenuDi(Menu::Vista).addActions(griglia_.Vista().horizontalHeader()->actions());
+    QMenu& aiuto = azioni_.MenuDi(Menu::Aiuto);
+    QAction* informazioni = aiuto.actions().constFirst();
+    for (const Istruzioni& istruzioni : TutteLeIstruzioni()) {
+        auto* azione = new QAction(istruzioni.titolo, this);
+        azione->setObjectName(u'h' + istruzioni.pulsante.mid(4));
+        connect(azione, &QAction::triggered, this, [this, istruzioni] { MostraIstruzioni(istruzioni, *this); });
+        aiuto.insertAction(informazioni, azione);
+    }
 }
 
 // Grid and panel follow each other's current row.
@@ -129,7 +146,6 @@ void FormMete::CreaGiornate() {
     giornate_ = new PannelloGiornate;
     giornate_->hide();
     AggiungiPannello(*giornate_, Qt::BottomDockWidgetArea);
-    addAction(giornate_->toggleViewAction());
     connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
     connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
     connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
@@ -156,8 +172,7 @@ void FormMete::Collega() {
     new RichiestaDiFine(*this, [this] { Termina(); });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &FormMete::FineSessione, Qt::DirectConnection);
     connect(viaggio_, &SchermoViaggio::Cambiata, this, &FormMete::Raccogli);
-    connect(bottoni_, &FrmBottoni::Premuto, this, &FormMete::EseguiComando);
-    connect(&inserimento_.Riquadro(), &FrmInputBox::Premuto, this, &FormMete::EseguiComando);
+    connect(&azioni_, &Azioni::Chiesto, this, &FormMete::EseguiComando);
     connect(viaggio_, &SchermoViaggio::ElencoChiuso, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
     connect(cmbRicercaTappa_, &ElencoScelta::Rinuncia, this, [this] {
         QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, {});
@@ -203,7 +218,7 @@ void FormMete::Esegui(const std::function<void()>& comando) {
 
 // Without a trip all begins with a new one.
 void FormMete::FuocoSenzaMete() {
-    if (postazione_.SenzaMete()) bottoni_->Pulsante(Comando::Nuovo).setFocus();
+    if (postazione_.SenzaMete()) azioni_.Pulsante(Comando::Nuovo).setFocus();
 }
 
 void FormMete::EseguiComando(Comando comando) {
@@ -344,7 +359,7 @@ void FormMete::Invio() {
     auto* pulsante = qobject_cast<QPushButton*>(focusWidget());
     const bool sullaTappa = inserimento_.Area().isAncestorOf(fuoco) || fuoco == &griglia_.Vista();
     if (pulsante == nullptr && sullaTappa && postazione_.InInserimento()) {
-        pulsante = &inserimento_.Riquadro().Pulsante(Comando::Inserisce);
+        pulsante = &azioni_.Pulsante(Comando::Inserisce);
     }
     if (pulsante != nullptr) return pulsante->click();
     do {
@@ -355,19 +370,16 @@ void FormMete::Invio() {
 void FormMete::Mostra() {
     mostrando_ = true;
     if (postazione_.dalVivo && postazione_.attivita == Attivita::Nessuna) postazione_.documento.CalcolaDalVivo();
-    const StatoComandi stato = postazione_.Comandi();
     viaggio_->Mostra(!postazione_.documento.Calcolata() && !postazione_.InCorsa() &&
                      !postazione_.Su<schermata::Scambio>() && !guida_.StampaAperta() && !postazione_.SenzaMete());
     if (!guida_.Mostra(kRigheMinimeGriglia)) griglia_.Mostra();
     copia_.Mostra();
-    inserimento_.Mostra(stato);
+    inserimento_.Mostra();
     scambio_.Mostra();
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
-    bottoni_->Applica(stato);
+    bottoni_->Mostra(postazione_.ConverteOfferto());
     stampa_->Mostra();
-    // Its letter is that of the print frames then.
-    if (stampa_->Aperto()) bottoni_->Pulsante(Comando::Stampa).setText(u"Stampa"_s);
-    azioni_->Mostra(!guida_.StampaAperta());
+    azioni_.Applica(guida_.StampaAperta() ? StatoComandi() : postazione_.Comandi());
     for (Pannello* pannello : pannelli_) pannello->Mostra(postazione_);
     MostraTitolo();
     mostrando_ = false;
@@ -390,6 +402,7 @@ void FormMete::MostraTitolo() {
 void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
     if (!restoreDockWidget(&pannello)) addDockWidget(lato, &pannello);
     pannelli_.push_back(&pannello);
+    azioni_.MenuDi(Menu::Vista).addAction(pannello.toggleViewAction());
     pannello.Mostra(postazione_);
 }
 

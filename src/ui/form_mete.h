@@ -6,9 +6,8 @@
 #include <QTimer>
 #include <functional>
 
-#include "app/comandi.h"
 #include "ui/comuni/avanzamento.h"
-#include "ui/comuni/azioni_modifica.h"
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/interazione_finestra.h"
 #include "ui/comuni/pannello.h"
@@ -53,6 +52,7 @@ class FormMete : public QMainWindow {
     QWidget* CreaAreaGriglia();
     void CreaStampe(QGridLayout& area);
     void CreaGiornate();
+    void CompletaMenu();
     void Collega();
     void Raccogli();
     void ConcludiIlCampo();
@@ -75,6 +75,7 @@ class FormMete : public QMainWindow {
     void RicordaAspetto();
 
     QSettings aspetto_;
+    Azioni azioni_;
     Avanzamento* avanzamento_;
     InterazioneFinestra interazione_;
     Postazione postazione_;
@@ -88,7 +89,6 @@ class FormMete : public QMainWindow {
     SchermoScambio scambio_;
     QWidget* areaGriglia_ = nullptr;
     ComandoStampa* stampa_ = nullptr;
-    AzioniModifica* azioni_ = nullptr;
     PannelloGiornate* giornate_ = nullptr;
     QAction* dalVivo_ = new QAction(QStringLiteral("Calcolo &dal vivo"), this);
     QTimer attesaDalVivo_;  // until what is typed has been taken over

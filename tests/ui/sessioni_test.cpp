@@ -32,6 +32,7 @@
 //   expect-bar NAME DAY HH:MM TEXT    the same of a bar
 //   expect-focus NAME
 //   expect-enabled NAME BUTTONS       those within that can be pressed, by name without "cmd"
+//   expect-menu NAME ENTRIES          those that can be chosen, with their keys, joined by "|"
 //   expect-on · expect-off · expect-visible · expect-hidden NAME...
 //   expect-file FILE TEXT             how the file begins; expect-no-file FILE
 //
@@ -47,6 +48,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QRadioButton>
 #include <QTextDocument>
@@ -161,6 +163,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
             prende(pulsante->text(), *pulsante);
             EXPECT_EQ(pulsante->shortcut(), QKeySequence::mnemonic(pulsante->text())) << pulsante->text().toStdString();
         }
+        for (const QAction* menu : form_->menuBar()->actions()) prende(menu->text(), *form_->menuBar());
         for (const auto* scritta : form_->findChildren<QLabel*>()) {
             if (scritta->buddy() != nullptr) prende(scritta->text(), *scritta);
         }
@@ -290,6 +293,17 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
                  bottoni.at(bottone.section(u'/', 0, 0)),
                  {},
                  preset.isEmpty() ? QMessageBox::NoButton : bottoni.at(preset)});
+    }
+
+    // What can be chosen from a menu, with its keys.
+    QString Voci(const QString& nome) {
+        QStringList voci;
+        for (const QAction* azione : Trova<QMenu>(nome).actions()) {
+            if (!azione->isEnabled() || azione->isSeparator()) continue;
+            const QString tasti = azione->shortcut().toString();
+            voci += azione->text() + (tasti.isEmpty() ? tasti : u' ' + tasti);
+        }
+        return voci.join(u'|').remove(u'&');
     }
 
     QString Premibili(const QString& nome) {
@@ -449,6 +463,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-tip"_s, {2, [this](auto& p) { AttesoSuggerimento(p); }}},
         {u"expect-focus"_s, {1, [this](auto& p) { AttesoFuoco(p[0]); }}},
         {u"expect-enabled"_s, {2, [this](auto& p) { Uguale(Premibili(p[0]), p[1]); }}},
+        {u"expect-menu"_s, {1, [this](auto& p) { Uguale(Voci(p[0]), p[1]); }}},
         {u"expect-on"_s, {1, Tutti(&Acceso, true)}},
         {u"expect-off"_s, {1, Tutti(&Acceso, false)}},
         {u"expect-visible"_s, {1, Tutti(&Visibile, true)}},

@@ -4,7 +4,6 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMessageBox>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QTextDocument>
@@ -18,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const char* kAiuto = "aiuto";
+constexpr const char* kNonBlocca = "nonBlocca";
 constexpr int kAria = 7;  // of a list, in pixels
 
 void Presenta(QWidget& controllo, const QString& nome, const QString& istruzione) {
@@ -152,8 +151,10 @@ QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzi
 }
 
 QPushButton* NuovoPulsante(const DescrizioneComando& comando) {
-    return NuovoPulsante(QString::fromUtf16(comando.nome), QString::fromUtf16(comando.scritta),
-                         QString::fromUtf16(comando.istruzione));
+    QPushButton* pulsante = NuovoPulsante(QString::fromUtf16(comando.nome), QString::fromUtf16(comando.scritta),
+                                          QString::fromUtf16(comando.istruzione));
+    LasciaAbilitato(*pulsante);
+    return pulsante;
 }
 
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione) {
@@ -169,23 +170,11 @@ QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo) {
     return etichetta;
 }
 
-QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QString& istruzioni) {
-    QPushButton* aiuto = NuovoPulsante(nome, u"[?]"_s, u"Informazioni operative"_s);
-    aiuto->setAccessibleName(u"Informazioni operative: %1"_s.arg(titolo));
-    aiuto->setFlat(true);
-    aiuto->setProperty(kAiuto, true);
-    LarghezzaPer(*aiuto, 4, 8);
-    QObject::connect(aiuto, &QPushButton::clicked, aiuto, [aiuto, titolo, istruzioni] {
-        QMessageBox box(QMessageBox::Information, titolo, istruzioni, QMessageBox::Ok, aiuto->window());
-        box.setTextFormat(Qt::PlainText);
-        box.exec();
-    });
-    return aiuto;
-}
+void LasciaAbilitato(QWidget& controllo) { controllo.setProperty(kNonBlocca, true); }
 
 void Blocca(const QWidget& riquadro, bool bloccato) {
     for (QWidget* controllo : riquadro.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        if (!controllo->property(kAiuto).toBool()) controllo->setEnabled(!bloccato);
+        if (!controllo->property(kNonBlocca).toBool()) controllo->setEnabled(!bloccato);
     }
 }
 

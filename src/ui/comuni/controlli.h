@@ -53,11 +53,9 @@ QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QS
 /// A label that leads to its control by its mnemonic and names it.
 QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);
 
-/// The "[?]" button of a frame, which shows these instructions.
-QPushButton* NuovoAiuto(const QString& nome, const QString& titolo, const QString& istruzioni);
-
-/// Disables all that a frame holds, or enables it, but for its help, which is always there.
+/// Disables all that a frame holds, or enables it, but for what is always as it is: its help, buttons of commands.
 void Blocca(const QWidget& riquadro, bool bloccato);
+void LasciaAbilitato(QWidget& controllo);
 
 /// Little room between the controls of a frame, so that all frames fit beside each other in a small window.
 void StringiRiquadro(QLayout& layout);

@@ -24,7 +24,7 @@ FrmTratto::FrmTratto(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, par
     auto* riga = new QHBoxLayout;
     riga->addWidget(chkInsSoste_);
     riga->addStretch();
-    riga->addWidget(NuovoAiuto(u"cmdHelpDuplica"_s, u"Copia da altre mète"_s, AiutoDuplica()));
+    riga->addWidget(NuovoAiuto(AiutoDuplica()));
     layout->addLayout(riga);
     layout->addLayout(CreaComandi());
     layout->addStretch();

@@ -65,7 +65,7 @@ QLayout* FrmGuida::CreaCampi() {
     griglia->addWidget(txtGDescr_, 1, 1);
     griglia->addWidget(cmbGTipo_, 1, 2);
     griglia->addLayout(ore, 1, 3);
-    griglia->addWidget(NuovoAiuto(u"cmdHelpGuida"_s, u"Guida città"_s, AiutoGuida()), 1, 4);
+    griglia->addWidget(NuovoAiuto(AiutoGuida()), 1, 4);
     griglia->setColumnStretch(0, 2);
     griglia->setColumnStretch(1, 5);
     return griglia;

@@ -31,11 +31,11 @@ bool SoloCifre(const QString& testo) { return std::all_of(testo.begin(), testo.e
 
 }  // namespace
 
-FrmInputBox::FrmInputBox(QWidget* parent) : QGroupBox(u"Inserimento itinerario:"_s, parent) {
+FrmInputBox::FrmInputBox(Azioni& azioni) : QGroupBox(u"Inserimento itinerario:"_s) {
     setObjectName(u"frmInputBox"_s);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(CreaCampi());
-    layout->addWidget(CreaComandi());
+    layout->addWidget(CreaComandi(azioni));
     layout->addStretch();
 }
 
@@ -79,7 +79,7 @@ QWidget* FrmInputBox::CreaCampi() {
     auto* riga = new QHBoxLayout;
     riga->addWidget(txtRiga_);
     riga->addStretch();
-    riga->addWidget(NuovoAiuto(u"cmdHelpInserimento"_s, u"Inserimento itinerario"_s, AiutoInserimento()));
+    riga->addWidget(NuovoAiuto(AiutoInserimento()));
     auto* km = new QHBoxLayout;
     km->addWidget(txtKm_);
     km->addWidget(chkKm_);
@@ -108,7 +108,7 @@ QWidget* FrmInputBox::CreaCampi() {
     return campi;
 }
 
-QWidget* FrmInputBox::CreaComandi() {
+QWidget* FrmInputBox::CreaComandi(Azioni& azioni) {
     auto* gruppo = new QFrame;
     gruppo->setObjectName(u"frmInsItOperativa"_s);
     auto* layout = new QGridLayout(gruppo);
@@ -116,10 +116,7 @@ QWidget* FrmInputBox::CreaComandi() {
     layout->setSpacing(3);
     int indice = 0;
     for (const Comando comando : kDisposizione) {
-        QPushButton* pulsante = NuovoPulsante(Descrizione(comando));
-        connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
-        pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
-        layout->addWidget(pulsante, indice / 2, indice % 2);
+        layout->addWidget(azioni.NuovoPulsante(comando), indice / 2, indice % 2);
         ++indice;
     }
     return gruppo;
@@ -142,10 +139,6 @@ void FrmInputBox::MostraKmProgressivi(std::optional<bool> possibili) {
     chkKm_->setVisible(possibili.has_value());
     chkKm_->setEnabled(possibili.value_or(false));
     chkKm_->setChecked(possibili.value_or(false));
-}
-
-void FrmInputBox::Applica(const StatoComandi& stato) {
-    for (const Comando comando : kDisposizione) Pulsante(comando).setEnabled(stato.Abilitato(comando));
 }
 
 CampiTappa FrmInputBox::Campi() const {

@@ -10,8 +10,8 @@
 #include <array>
 #include <optional>
 
-#include "app/comandi.h"
 #include "itinerary/modifiche.h"
+#include "ui/comuni/azioni.h"
 
 namespace cronovia {
 
@@ -19,31 +19,26 @@ class FrmInputBox : public QGroupBox {
     Q_OBJECT
 
   public:
-    explicit FrmInputBox(QWidget* parent = nullptr);
+    explicit FrmInputBox(Azioni& azioni);
 
     /// Puts a row, counted from 1, and its fields into the controls; without a type that of the road stays.
     void Mostra(int riga, const CampiTappa& campi);
     /// Whether kilometres can be progressive ones, which the person may deny; nothing: not shown.
     void MostraKmProgressivi(std::optional<bool> possibili);
-    /// Enables the commands.
-    void Applica(const StatoComandi& stato);
     /// What the controls hold, trimmed; kilometres that are no number are 0 and so marked.
     [[nodiscard]] CampiTappa Campi() const;
     /// Beside the fields; nothing is shown for the empty text.
     void MostraSuggerimenti(const QString& testo);
     void FuocoSullaTappa();
     void FuocoSuiKm();
-    /// The button of one of the itinerary's commands.
-    [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
 
   Q_SIGNALS:
-    void Premuto(Comando comando);
     /// The fields hold something else.
     void Cambiata();
 
   private:
     QWidget* CreaCampi();
-    QWidget* CreaComandi();
+    static QWidget* CreaComandi(Azioni& azioni);
 
     QLineEdit* txtRiga_;
     QLineEdit* txtTappa_;
@@ -54,7 +49,6 @@ class FrmInputBox : public QGroupBox {
     QCheckBox* chkEndDay_;
     QCheckBox* chkKm_;
     QLabel* lblSuggerimenti_ = nullptr;
-    std::array<QPushButton*, kComandi> pulsanti_{};
 };
 
 }  // namespace cronovia

@@ -14,11 +14,11 @@ constexpr int kColonneLocalita = 31;
 
 }  // namespace
 
-SchermoInserimento::SchermoInserimento(Postazione& postazione, ElencoScelta& elenco, Esegui esegui)
+SchermoInserimento::SchermoInserimento(Postazione& postazione, Azioni& azioni, ElencoScelta& elenco, Esegui esegui)
     : postazione_(postazione),
       elenco_(elenco),
       esegui_(std::move(esegui)),
-      riquadro_(new FrmInputBox),
+      riquadro_(new FrmInputBox(azioni)),
       area_(new QScrollArea) {
     area_->setWidget(riquadro_);
     area_->setWidgetResizable(true);
@@ -43,8 +43,7 @@ void SchermoInserimento::Raccogli() {
 }
 
 // What is being typed stays, unless another stage has come into its row.
-void SchermoInserimento::Mostra(const StatoComandi& stato) {
-    riquadro_->Applica(stato);
+void SchermoInserimento::Mostra() {
     const auto* inserimento = postazione_.Su<schermata::Inserimento>();
     MostraElenco(inserimento != nullptr && inserimento->elencoTappe);
     if (!postazione_.InInserimento()) {

@@ -17,14 +17,14 @@ class SchermoInserimento : public QObject {
 
   public:
     /// The list is shared with the guide screen.
-    SchermoInserimento(Postazione& postazione, ElencoScelta& elenco, Esegui esegui);
+    SchermoInserimento(Postazione& postazione, Azioni& azioni, ElencoScelta& elenco, Esegui esegui);
 
     /// The frame as it is placed, in an area that scrolls; the copy screen shows and hides it.
     [[nodiscard]] QScrollArea& Area() const { return *area_; }
     [[nodiscard]] FrmInputBox& Riquadro() const { return *riquadro_; }
     /// What the entry fields hold goes to the screen's state.
     void Raccogli();
-    void Mostra(const StatoComandi& stato);
+    void Mostra();
     /// Puts the focus on the place to be typed, while stages are entered.
     void FuocoSullaTappa();
     /// The same after a stage was written; when it was refused, on what is wrong.

@@ -2,8 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-
-#include "ui/comuni/controlli.h"
+#include <array>
 
 namespace cronovia {
 
@@ -18,7 +17,7 @@ constexpr std::array<Comando, 12> kDisposizioneMeta = {
 
 }  // namespace
 
-FrmBottoni::FrmBottoni(QWidget* parent) : QFrame(parent), cmdConverte_(NuovoPulsante(Descrizione(Comando::Converte))) {
+FrmBottoni::FrmBottoni(Azioni& azioni) : cmdConverte_(azioni.NuovoPulsante(Comando::Converte)) {
     setObjectName(u"frmBottoni"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -27,23 +26,11 @@ FrmBottoni::FrmBottoni(QWidget* parent) : QFrame(parent), cmdConverte_(NuovoPuls
     auto* riga = new QHBoxLayout;
     layout->addLayout(riga);
     for (const Comando comando : kDisposizioneMeta) {
-        QPushButton* pulsante = NuovoPulsante(Descrizione(comando));
+        QPushButton* pulsante = azioni.NuovoPulsante(comando);
         // All alike, and together no wider than a small window.
         pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(pulsante->text()));
         pulsante->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        connect(pulsante, &QPushButton::clicked, this, [this, comando] { Q_EMIT Premuto(comando); });
-        pulsanti_[static_cast<std::size_t>(comando)] = pulsante;
         riga->addWidget(pulsante, 1);
-    }
-    connect(cmdConverte_, &QPushButton::clicked, this, [this] { Q_EMIT Premuto(Comando::Converte); });
-}
-
-void FrmBottoni::Applica(const StatoComandi& stato) {
-    cmdConverte_->setVisible(stato.Abilitato(Comando::Converte));
-    cmdConverte_->setEnabled(stato.Abilitato(Comando::Converte));
-    for (const Comando comando : kDisposizioneMeta) {
-        Pulsante(comando).setEnabled(stato.Abilitato(comando));
-        Pulsante(comando).setText(Scritta(comando, stato));
     }
 }
 

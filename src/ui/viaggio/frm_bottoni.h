@@ -3,28 +3,19 @@
 
 #include <QFrame>
 #include <QPushButton>
-#include <array>
 
-#include "app/comandi.h"
+#include "ui/comuni/azioni.h"
 
 namespace cronovia {
 
 class FrmBottoni : public QFrame {
-    Q_OBJECT
-
   public:
-    explicit FrmBottoni(QWidget* parent = nullptr);
+    explicit FrmBottoni(Azioni& azioni);
 
-    /// Enabled and captions as they are at this moment.
-    void Applica(const StatoComandi& stato);
-    /// The button of one of the main commands.
-    [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
-
-  Q_SIGNALS:
-    void Premuto(Comando comando);
+    /// The conversion of old data is shown while it is on offer.
+    void Mostra(bool converteOfferto) { cmdConverte_->setVisible(converteOfferto); }
 
   private:
-    std::array<QPushButton*, kComandi> pulsanti_{};
     QPushButton* cmdConverte_;
 };
 

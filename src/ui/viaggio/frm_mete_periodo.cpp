@@ -72,7 +72,7 @@ void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
     layout.addWidget(txtCodice_, 0, 2);
     layout.addWidget(NuovaEtichetta(u"Nazione"_s, *txtNazione_), 1, 0);
     layout.addWidget(txtNazione_, 1, 1);
-    layout.addWidget(NuovoAiuto(u"cmdHelpPeriodo"_s, u"Periodo del viaggio"_s, AiutoPeriodo()), 1, 2, Qt::AlignRight);
+    layout.addWidget(NuovoAiuto(AiutoPeriodo()), 1, 2, Qt::AlignRight);
 }
 
 void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {

@@ -36,7 +36,7 @@ constexpr std::array<Orario, FrmMeteTempi::kOrari> kVociOrario = {{
 
 }  // namespace
 
-FrmMeteTempi::FrmMeteTempi(QWidget* parent) : QGroupBox(u"Tempi tecnici giornalieri/Riposi/Visite:"_s, parent) {
+FrmMeteTempi::FrmMeteTempi(Azioni& azioni) : QGroupBox(u"Tempi tecnici giornalieri/Riposi/Visite:"_s) {
     setObjectName(u"frmMeteTempi"_s);
     auto* layout = new QGridLayout(this);
     layout->addWidget(new QLabel(u"Orari attività"_s), 0, 0, 1, 2);
@@ -51,7 +51,7 @@ FrmMeteTempi::FrmMeteTempi(QWidget* parent) : QGroupBox(u"Tempi tecnici giornali
     AggiungiOrario(*layout, 7, 5, 2, u"alle"_s);
     AggiungiOrario(*layout, 8, 4, 2, u"Tragh."_s);
     CreaRiposi(*layout);
-    CreaDefault(*layout);
+    CreaDefault(azioni, *layout);
     StringiRiquadro(*layout);
     layout->setRowStretch(7, 1);
 }
@@ -110,20 +110,13 @@ void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
     layout.setColumnMinimumWidth(4, 4);
 }
 
-void FrmMeteTempi::CreaDefault(QGridLayout& layout) {
-    const std::array<std::pair<QString, QString>, 3> comandi = {
-        {{u"Sa&lva"_s, u"Salva i tempi e le velocità come valori abituali"_s},
-         {u"Carica"_s, u"Carica i valori abituali"_s},
-         {u"&Reset"_s, u"Ripristina i valori iniziali del programma"_s}}};
+void FrmMeteTempi::CreaDefault(Azioni& azioni, QGridLayout& layout) {
     auto* riga = new QHBoxLayout;
-    for (int i = 0; i < 3; ++i) {
-        const auto& [scritta, istruzione] = comandi[static_cast<std::size_t>(i)];
-        QPushButton* pulsante = NuovoPulsante(NomeDiSerie(u"cmdDefault"_s, i), scritta, istruzione);
-        connect(pulsante, &QPushButton::clicked, this, [this, i] { Q_EMIT Default(i); });
-        riga->addWidget(pulsante);
+    for (const Comando comando : {Comando::SalvaDefault, Comando::CaricaDefault, Comando::RipristinaDefault}) {
+        riga->addWidget(azioni.NuovoPulsante(comando));
     }
     riga->addStretch();
-    riga->addWidget(NuovoAiuto(u"cmdHelpTempi"_s, u"Tempi tecnici giornalieri"_s, AiutoTempi()));
+    riga->addWidget(NuovoAiuto(AiutoTempi()));
     layout.addLayout(riga, 6, 0, 1, 7);
 }
 

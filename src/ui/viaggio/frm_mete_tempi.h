@@ -3,10 +3,10 @@
 
 #include <QComboBox>
 #include <QGroupBox>
-#include <QPushButton>
 #include <array>
 
 #include "trips/meta.h"
+#include "ui/comuni/azioni.h"
 
 class QGridLayout;
 
@@ -19,7 +19,7 @@ class FrmMeteTempi : public QGroupBox {
     /// Hours with minutes, in the order of `cmbOra_0` to `cmbOra_8`.
     static constexpr std::size_t kOrari = 9;
 
-    explicit FrmMeteTempi(QWidget* parent = nullptr);
+    explicit FrmMeteTempi(Azioni& azioni);
 
     void Mostra(const ParametriViaggio& parametri);
     /// Puts what the fields hold into the parameters; speeds and policy stay.
@@ -32,8 +32,6 @@ class FrmMeteTempi : public QGroupBox {
     void Cambiata();
     /// An hour or its minutes lost the focus.
     void OrarioLasciato();
-    /// One of the personal-default commands: 0 save, 1 load, 2 reset.
-    void Default(int comando);
 
   protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
@@ -42,7 +40,7 @@ class FrmMeteTempi : public QGroupBox {
     void AggiungiOrario(QGridLayout& layout, std::size_t orario, int riga, int colonna, const QString& etichetta);
     void CreaRiposi(QGridLayout& layout);
     QComboBox* CreaRiposo(const QString& nome, const QStringList& voci, const QString& istruzione);
-    void CreaDefault(QGridLayout& layout);
+    static void CreaDefault(Azioni& azioni, QGridLayout& layout);
 
     std::array<QComboBox*, kOrari> cmbOra_{};
     std::array<QComboBox*, kOrari> cmbMin_{};

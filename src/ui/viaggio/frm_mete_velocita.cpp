@@ -53,8 +53,7 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
     txtTragh_ = NuovoRisultato(u"txtTragh"_s, 3, u"Numero dei traghetti"_s);
     layout->addWidget(new QLabel(u"Traghetti"_s), kTipiStrada + 2, 0);
     layout->addWidget(txtTragh_, kTipiStrada + 2, 1);
-    layout->addWidget(NuovoAiuto(u"cmdHelpVelocita"_s, u"Percorrenze"_s, AiutoVelocita()), kTipiStrada + 2, 3,
-                      Qt::AlignRight);
+    layout->addWidget(NuovoAiuto(AiutoVelocita()), kTipiStrada + 2, 3, Qt::AlignRight);
     layout->setRowStretch(kTipiStrada + 3, 1);
 }
 

@@ -1,7 +1,6 @@
 #include "ui/viaggio/schermo_viaggio.h"
 
 #include <QHBoxLayout>
-#include <array>
 #include <utility>
 
 #include "app/comandi_viaggio.h"
@@ -28,12 +27,12 @@ QString TestoInElenco(const MetaInElenco& meta) {
 
 }  // namespace
 
-SchermoViaggio::SchermoViaggio(Postazione& postazione, Esegui esegui)
+SchermoViaggio::SchermoViaggio(Postazione& postazione, Azioni& azioni, Esegui esegui)
     : postazione_(postazione),
       esegui_(std::move(esegui)),
       periodo_(new FrmMetePeriodo(postazione.volti.adesso().date().year())),
       velocita_(new FrmMeteVelocita),
-      tempi_(new FrmMeteTempi),
+      tempi_(new FrmMeteTempi(azioni)),
       cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)) {
     cmbRicerca_->Intesta(RigaElenco(u"Mèta"_s, u"Nazione"_s, u"Partenza"_s));
     auto* layout = new QHBoxLayout(this);
@@ -54,10 +53,6 @@ void SchermoViaggio::Collega() {
             [this] { esegui_([this] { postazione_.documento.AggiornaOrari(); }); });
     connect(tempi_, &FrmMeteTempi::OrarioLasciato, this,
             [this] { esegui_([this] { postazione_.documento.ControllaOrari(); }); });
-    connect(tempi_, &FrmMeteTempi::Default, this, [this](int quale) {
-        constexpr std::array kDefault = {&comandi::SalvaDefault, &comandi::CaricaDefault, &comandi::RipristinaDefault};
-        esegui_([&] { kDefault.at(static_cast<std::size_t>(quale))(postazione_); });
-    });
     connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
         esegui_([&] { comandi::ScegliMeta(postazione_, voce->data(Qt::UserRole).toString()); });
         if (!postazione_.Su<schermata::ElencoMete>()) Q_EMIT ElencoChiuso();

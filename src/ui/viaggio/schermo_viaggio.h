@@ -16,7 +16,7 @@ class SchermoViaggio : public QWidget {
     Q_OBJECT
 
   public:
-    SchermoViaggio(Postazione& postazione, Esegui esegui);
+    SchermoViaggio(Postazione& postazione, Azioni& azioni, Esegui esegui);
 
     /// The list of trips, for the window to place.
     [[nodiscard]] ElencoScelta& Elenco() const { return *cmbRicerca_; }

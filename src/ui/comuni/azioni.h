@@ -1,0 +1,45 @@
+// The commands as actions: in the menu, on buttons and behind keys it is the same one.
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QPushButton>
+#include <array>
+
+#include "app/comandi.h"
+
+class QMainWindow;
+
+namespace cronovia {
+
+class Azioni : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Fills the menu bar of the window with all commands of the table. They are disabled until `Applica`.
+    explicit Azioni(QMainWindow& finestra);
+
+    /// A button that does the command; whoever asks for it places it. One for each command.
+    QPushButton* NuovoPulsante(Comando comando);
+    /// That button; the command must have one.
+    [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
+    [[nodiscard]] QAction& Di(Comando comando) const { return *azioni_[static_cast<std::size_t>(comando)]; }
+    /// For what is no command of the table: panels shown and hidden, instructions.
+    [[nodiscard]] QMenu& MenuDi(Menu menu) const { return *menu_[static_cast<std::size_t>(menu)]; }
+
+    /// Enabled and captions as they are at this moment.
+    void Applica(const StatoComandi& stato);
+
+  Q_SIGNALS:
+    /// The person wants the command, by whatever means.
+    void Chiesto(Comando comando);
+
+  private:
+    void CreaAzione(const DescrizioneComando& comando);
+
+    std::array<QMenu*, kMenu> menu_{};
+    std::array<QAction*, kComandi> azioni_{};
+    std::array<QPushButton*, kComandi> pulsanti_{};
+};
+
+}  // namespace cronovia
