@@ -78,7 +78,7 @@ constexpr std::array<DescrizioneComando, kComandi> Tabella() {
          u"Calcola la cronovia con le modifiche in corso", Menu::Cronovia, kDueTappe, &comandi::Ricalcola},
         {Comando::Stampa, u"cmdStampa", u"&Stampa", u"&Stampa cronovia…", u"Ctrl+P", u"Stampa la cronovia",
          Menu::Cronovia, kVuota | kNuova | kAperta | kCronovia | kStampa, &comandi::Stampa, true},
-        {Comando::GuidaCitta, u"cmdGuidaCitta", u"&Guida città", nullptr, u"Ctrl+G",
+        {Comando::GuidaCitta, u"cmdGuidaCitta", u"&Guida città", nullptr, u"Ctrl+U",
          u"Inserisce o modifica la guida delle città", Menu::Guida, kAperta, &comandi::GuidaCitta},
         {Comando::Informazioni, u"cmdInformazioni", u"Informazioni", u"Informazioni su &Cronovia", u"",
          u"Versione del programma, e dove sono i tuoi dati", Menu::Aiuto, kLibera, &comandi::Informazioni, true},

@@ -157,6 +157,7 @@ void FormMete::CreaGiornate() {
     });
     dalVivo_->setObjectName(u"calcoloDalVivo"_s);
     dalVivo_->setCheckable(true);
+    azioni_.MenuDi(Menu::Cronovia).addAction(dalVivo_);
     connect(dalVivo_, &QAction::toggled, this, [this](bool acceso) {
         postazione_.dalVivo = acceso;
         Mostra();
