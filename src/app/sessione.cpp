@@ -81,8 +81,8 @@ Meta Sessione::MetaProposta(const QDateTime& adesso) {
 
 QString Sessione::NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio) {
     Meta meta = ConInizio(inizio, CaricaDefaultMeta(archive_));
-    meta.localita = localita.normalized(QString::NormalizationForm_C).toUpper();
-    meta.nazione = nazione.toUpper();
+    meta.localita = Maiuscolo(localita.normalized(QString::NormalizationForm_C));
+    meta.nazione = Maiuscolo(nazione);
     return InserisciMeta(archive_, meta);
 }
 

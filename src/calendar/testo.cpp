@@ -56,12 +56,18 @@ QString RiempiPrima(QStringView testo, int lunghezza, QChar riempimento) {
     return pieno;
 }
 
+QString Maiuscolo(QStringView testo) {
+    QString maiuscolo = testo.toString();
+    for (QChar& c : maiuscolo) c = c.toUpper();
+    return maiuscolo;
+}
+
 QString PrimoMaiuscolo(QStringView testo) {
-    const QString maiuscolo = testo.trimmed().toString().toUpper();
-    QString risultato = maiuscolo;
-    for (qsizetype i = 1; i < maiuscolo.size(); ++i) {
-        const QChar precedente = maiuscolo.at(i - 1);
-        if (precedente.isLetter() || precedente.isMark()) risultato[i] = maiuscolo.at(i).toLower();
+    QString risultato = Maiuscolo(testo.trimmed());
+    bool dentro = false;
+    for (QChar& c : risultato) {
+        if (dentro) c = c.toLower();
+        dentro = c.isLetter() || c.isMark();
     }
     return risultato;
 }

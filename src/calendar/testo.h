@@ -26,6 +26,9 @@ QString RiempiDopo(QStringView testo, int lunghezza, QChar riempimento);
 /// Pads on the left: the last `lunghezza` characters of fill characters followed by the text.
 QString RiempiPrima(QStringView testo, int lunghezza, QChar riempimento);
 
+/// Capital letters, each in the place of its small one; a letter without a capital stays: "straße" is "STRAßE".
+QString Maiuscolo(QStringView testo);
+
 /// Title case: a letter that follows a letter of any alphabet becomes small, every other one capital: "SANT'ANNA" is
 /// "Sant'Anna", "NÎMES-2A" is "Nîmes-2A".
 QString PrimoMaiuscolo(QStringView testo);

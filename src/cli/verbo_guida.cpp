@@ -48,7 +48,7 @@ struct Annotazione {
 
 Annotazione LeggiAnnotazione(const QStringList& argomenti) {
     const auto testo = [&](qsizetype i) { return SenzaBlankInutili(Composto(argomenti.at(i))); };
-    Annotazione letta{testo(0).toUpper(), {testo(2), testo(1), 0, 0}};
+    Annotazione letta{Maiuscolo(testo(0)), {testo(2), testo(1), 0, 0}};
     if (letta.localita.isEmpty()) throw WrongUsage(u"Manca la località."_s);
     if (argomenti.size() < 4) return letta;
     static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);

@@ -12,9 +12,9 @@ namespace {
 using namespace Qt::StringLiterals;
 
 TEST(Testo, TitleCase) {
-    for (const QString& caso :
-         {u"SANT'ANNA=Sant'Anna"_s, u"  reggio emilia =Reggio Emilia"_s, u"CITTÀ DI=Città Di"_s, u"cefalùpa=Cefalùpa"_s,
-          u"èze=Èze"_s, u"FÜSSEN-O\u0308RE 2A=Füssen-O\u0308re 2A"_s, u"ΑΘΗΝΑ=Αθηνα"_s, u"   ="_s}) {
+    for (const QString& caso : {u"SANT'ANNA=Sant'Anna"_s, u"  reggio emilia =Reggio Emilia"_s, u"CITTÀ DI=Città Di"_s,
+                                u"cefalùpa=Cefalùpa"_s, u"èze=Èze"_s, u"FÜSSEN-O\u0308RE 2A=Füssen-O\u0308re 2A"_s,
+                                u"ΑΘΗΝΑ=Αθηνα"_s, u"großGLOCKNER=Großglockner"_s, u"   ="_s}) {
         EXPECT_EQ(PrimoMaiuscolo(caso.section(u'=', 0, 0)), caso.section(u'=', 1));
     }
 }

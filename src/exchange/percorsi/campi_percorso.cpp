@@ -61,6 +61,6 @@ std::optional<int> LeggiKm(QStringView campo) {
 
 int KmConUnita(QStringView campo) { return Contiene(campo, u"km") ? LeggiKm(campo).value_or(0) : 0; }
 
-bool TuttoMaiuscolo(QStringView testo) { return testo == testo.toString().toUpper(); }
+bool TuttoMaiuscolo(QStringView testo) { return testo == Maiuscolo(testo); }
 
 }  // namespace cronovia

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "calendar/testo.h"
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -14,7 +16,7 @@ QString NomeLocalita(QStringView testo) {
     constexpr QStringView kVicinoA = u"vicino a";
     const bool vicino = nome.startsWith(kVicinoA, Qt::CaseInsensitive);
     if (vicino && (nome.size() == kVicinoA.size() || nome[kVicinoA.size()] == u' ')) nome = nome.mid(kVicinoA.size());
-    return nome.trimmed().left(TappaInCorso::kMassimoNome).trimmed().toString().toUpper();
+    return Maiuscolo(nome.trimmed().left(TappaInCorso::kMassimoNome).trimmed());
 }
 
 }  // namespace

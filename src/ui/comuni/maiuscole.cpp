@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QValidator>
 
+#include "calendar/testo.h"
+
 namespace cronovia {
 
 namespace {
@@ -28,12 +30,6 @@ class Maiuscole : public QValidator {
         QCoreApplication::sendEvent(casella, &altro);
         event->setAccepted(altro.isAccepted());
         return true;
-    }
-
-  private:
-    static QString Maiuscolo(const QString& testo) {
-        const QString maiuscolo = testo.toUpper();
-        return maiuscolo.size() == testo.size() ? maiuscolo : testo;
     }
 };
 
