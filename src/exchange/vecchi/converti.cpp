@@ -100,7 +100,7 @@ class Convertitore {
     void ConvertiItinerario(const QString& codice, const QString& nome);
     void MemorizzaTappe(const QString& codice, const std::map<QString, std::vector<QString>>& tappe);
     void ConvertiGuida(const QString& path);
-    void MemorizzaVoce(const std::vector<QString>& valori, NomiPresenti& presenti);
+    std::int64_t MemorizzaVoce(const std::vector<QString>& valori, NomiPresenti& presenti);
     template <typename Visita>
     void ScorriRecord(const QString& path, const FormaRecord& forma, Visita&& visita);
     [[nodiscard]] std::optional<Record> Memorizzata(const QString& codice) {
@@ -177,9 +177,10 @@ void Convertitore::ConvertiMete(const QString& path) {
     });
 }
 
-// Before anything is written, when a stored trip may change.
+// Before anything is written, when a stored trip or entry of the guide may change.
 void Convertitore::CopiaDatabase(const QString& copia, const QString& path) {
-    if (!CambiaMeteMemorizzate(copia, path)) return;
+    const bool guida = file_.Trova(NomeVecchiaGuida()) && archive_.Count(Table::GuidaCitta) > 0;
+    if (!guida && !CambiaMeteMemorizzate(copia, path)) return;
     copiaDatabase_ = file_.PostoPerDatabase(u"VandroCronovia.mdb"_s);
     archive_.CopyTo(copiaDatabase_);
 }
@@ -282,14 +283,19 @@ void Convertitore::MemorizzaTappe(const QString& codice, const std::map<QString,
 void Convertitore::ConvertiGuida(const QString& path) {
     progress_.Title(u"Conversione file guida città"_s);
     NomiPresenti presenti(archive_, Table::GuidaCitta, {guida::Localita, guida::Descrizione});
+    const std::int64_t ultima = archive_.LastId(Table::GuidaCitta);
+    QSet<std::int64_t> sostituite;
     ScorriRecord(path, FormaVecchiaGuida(), [&](const RecordFisso& record) {
         const StatoRecord stato = StatoVecchiaVoce(record);
-        if (stato == StatoRecord::Valido) MemorizzaVoce(ValoriVecchiaVoce(record), presenti);
+        if (stato != StatoRecord::Valido) return stato;
+        const std::int64_t voce = MemorizzaVoce(ValoriVecchiaVoce(record), presenti);
+        if (voce <= ultima) sostituite.insert(voce);
         return stato;
     });
+    esito_.vociSostituite = sostituite.size();
 }
 
-void Convertitore::MemorizzaVoce(const std::vector<QString>& valori, NomiPresenti& presenti) {
+std::int64_t Convertitore::MemorizzaVoce(const std::vector<QString>& valori, NomiPresenti& presenti) {
     const std::array localita = {NamePattern::ForName(valori[guida::Localita])};
     std::optional<std::int64_t> id = presenti.Trova(localita, valori[guida::Descrizione].trimmed());
     if (id) {
@@ -299,12 +305,13 @@ void Convertitore::MemorizzaVoce(const std::vector<QString>& valori, NomiPresent
     }
     presenti.Scritta(*id, valori);
     ++esito_.voci;
+    return *id;
 }
 
 // The files told of a change that did not come when none of them could be read.
 void Convertitore::TieniCopiaDatabase() {
     if (copiaDatabase_.isEmpty()) return;
-    if (esito_.meteSostituite.empty()) {
+    if (esito_.meteSostituite.empty() && esito_.vociSostituite == 0) {
         file_.Togli(copiaDatabase_);
     } else {
         esito_.copiaDatabase = QFileInfo(copiaDatabase_).fileName();
@@ -351,6 +358,10 @@ QString TestoEsito(const EsitoConversione& esito) {
         righe += u"%1 %2: ora %3"_s.arg(codice, prima, adesso);
     testo +=
         Elenco(u"Mète sostituite (il database com'era prima è %1, con le copie):"_s.arg(esito.copiaDatabase), righe);
+    if (esito.vociSostituite > 0) {
+        testo += u"\r\n\r\nAnnotazioni della guida sostituite: %1 (il database com'era prima è %2, con le copie)"_s.arg(
+            Raggruppa(esito.vociSostituite), esito.copiaDatabase);
+    }
     righe.clear();
     for (const auto& [meta, campo] : esito.campiSostituiti) righe += meta + u": "_s + campo;
     testo += Elenco(u"Campi illeggibili, convertiti con il valore predefinito:"_s, righe);

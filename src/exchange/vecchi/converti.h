@@ -40,7 +40,8 @@ struct EsitoConversione {
         QString adesso;  ///< the destination that came, or whose stages it has now
     };
     std::vector<MetaSostituita> meteSostituite;
-    QString copiaDatabase;  ///< name of the copy in the folder of the copies; when a trip was replaced
+    qint64 vociSostituite = 0;  ///< stored entries of the guide in whose place others of the same name came
+    QString copiaDatabase;      ///< name of the copy in the folder of the copies; when a trip or an entry was replaced
     /// A file that the person should look after, and why.
     struct FileLasciato {
         QString nome;
@@ -51,10 +52,10 @@ struct EsitoConversione {
 };
 
 /// Trips, stages and guide entries are added, or change those stored under the same code, sequence, locality and
-/// description; nothing else goes. Whole or not at all; before a stored trip changes, the database is copied. A field
-/// of a trip that cannot be read gets its default, a record that ends too early is passed over. The guide gets its nine
-/// standard types. The files converted are removed at the very end, that of the trips last. A `Failure` when there is
-/// no file of trips, or when that or the guide's is not what it should be.
+/// description; nothing else goes. Whole or not at all; before a stored trip or entry changes, the database is copied.
+/// A field of a trip that cannot be read gets its default, a record that ends too early is passed over. The guide gets
+/// its nine standard types. The files converted are removed at the very end, that of the trips last. A `Failure` when
+/// there is no file of trips, or when that or the guide's is not what it should be.
 EsitoConversione ConvertiVecchiFile(const RichiestaConversione& richiesta, Progress& progress);
 
 /// The text of the closing box.

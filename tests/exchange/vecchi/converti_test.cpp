@@ -132,16 +132,18 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAfterACopyAndTheRestStay
     archive_.Insert(Table::Itinerari, std::vector<QString>{u"000007"_s, u"0001"_s, u"X"_s, u"1"_s, u"x"_s, u"A"_s,
                                                            u"00:01:00"_s, u"00:02:00"_s, u"1"_s});
     Inserisci(archive_, Table::Itinerari, {u"000007"_s, u"0002"_s, u"RESTA"_s});
-    Inserisci(archive_, Table::GuidaCitta, {u"L'AQUILA "_s, u"01"_s, u"Fontana "_s});
+    Inserisci(archive_, Table::GuidaCitta, {u"L'AQUILA"_s, u"01"_s, u"Fontana "_s});
     const QStringList prima = prova::Tutto(archive_);
     Scrivi(u"VandMete.dat"_s, Vecchia("PROVENZA", "0007") + Vecchia("NUOVA", "8"));
     Scrivi(u"vand0007.dat"_s, Tappe("1|1\nAIX|98|A"));
     Scrivi(u"vand0009.dat"_s, Tappe("1|1\nBRA|7|P"));
     Scrivi(u"VandGuid.dat"_s, Voce("L\"AQUILA|2|FONTANA|0030|0"));
     const QString testo = TestoEsito(Converti());
-    EXPECT_TRUE(
-        testo.contains(u"Mète sostituite (il database com'era prima è VandroCronovia.mdb, con le copie):\r\n"
-                       "000007 9: ora PROVENZA\r\n000009 SOLO QUI: ora con le tappe di vand0009.dat\r\n\r\nFile"_s))
+    EXPECT_TRUE(testo.contains(
+        u"Mète sostituite (il database com'era prima è VandroCronovia.mdb, con le copie):\r\n"
+        "000007 9: ora PROVENZA\r\n000009 SOLO QUI: ora con le tappe di vand0009.dat\r\n\r\n"
+        "Annotazioni della guida sostituite: 1 (il database com'era prima è VandroCronovia.mdb, con le copie)"
+        "\r\n\r\nFile"_s))
         << testo.toStdString();
     EXPECT_THAT(LeMete().first(), ::testing::Eq(u"000007|PROVENZA|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|"
                                                 "1930|0130|2200|15|02|01|07|0900|1830|9|9|9"_s));
@@ -150,6 +152,14 @@ TEST_F(Conversione, WhatIsStoredUnderTheSameNamesChangesAfterACopyAndTheRestStay
     EXPECT_EQ(LeMete().size(), 4);
     Archive copia = Archive::Open(cartella_.Path() + u'/' + copie_);
     EXPECT_EQ(prova::Tutto(copia), prima);
+    // So it is when the guide alone changes, and there is no copy of what changes by nothing.
+    for (const auto& [nome, sostituite] : {std::pair{"ALTRA", 0}, {"FONTANA", 1}}) {
+        Scrivi(u"VandMete.dat"_s, Vecchia(nome, sostituite == 0 ? "21" : "22"));
+        Scrivi(u"VandGuid.dat"_s, Voce(QByteArray("L\"AQUILA|2|") + nome + "|0030|0"));
+        const EsitoConversione esito = Converti();
+        EXPECT_EQ(esito.vociSostituite, sostituite);
+        EXPECT_EQ(esito.copiaDatabase.isEmpty(), sostituite == 0);
+    }
 }
 
 TEST_F(Conversione, WholeRecordsBeforeATornOneAreConverted) {
