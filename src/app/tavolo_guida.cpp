@@ -56,9 +56,27 @@ int TavoloGuida::RigaDi(const RigaGuida& riga) const {
     return RigaDi(riga.localita, riga.voce ? std::optional(riga.voce->id) : std::nullopt);
 }
 
+// Whether another entry says the very same.
+bool TavoloGuida::GiaPresente(const CampiVoce& campi) const {
+    const RigaGuida& qui = Corrente();
+    const int codice = CodiceTipoGuida(tipi_, campi.tipo);
+    return std::any_of(elenco_->begin(), elenco_->end(), [&](const RigaGuida& riga) {
+        if (!riga.voce || riga.localita != qui.localita || (qui.voce && qui.voce->id == riga.voce->id)) return false;
+        return riga.voce->descrizione == campi.descrizione.trimmed() && ValoreNumerico(riga.voce->codice) == codice &&
+               riga.voce->tempo == Durata{0, campi.ore, campi.minuti};
+    });
+}
+
 bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
-    if (const auto errore = ControllaVoce(tipi_, campi)) {
-        interaction_.Show(*errore);
+    if (const auto difetto = DifettoDellaVoce(tipi_, campi)) {
+        interaction_.Show({difetto->messaggio, {}, Icon::Exclamation});
+        return false;
+    }
+    if (GiaPresente(campi)) {
+        interaction_.Show({u"L'annotazione «%1» di %2 c'è già, con la stessa tipologia e lo stesso tempo."_s.arg(
+                               campi.descrizione.trimmed(), Corrente().localita),
+                           {},
+                           Icon::Exclamation});
         return false;
     }
     const RigaGuida riga = Corrente();
@@ -86,7 +104,7 @@ bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
 }
 
 void TavoloGuida::SalvaScritti() {
-    SalvaVoce(archive_, Corrente().localita, Corrente().voce, tipi_, scritti_);
+    if (!GiaPresente(scritti_)) SalvaVoce(archive_, Corrente().localita, Corrente().voce, tipi_, scritti_);
     campi_ = scritti_;
 }
 

@@ -50,7 +50,7 @@ class TavoloGuida {
     /// Makes a row the current one, the last when there are not so many, and loads the fields from it.
     void VaiAllaRiga(int riga);
     /// Saves the fields in the place of the entry of the current row, or as a new one from a locality's row. Tells why
-    /// they cannot be saved; false then.
+    /// they cannot be saved, also when the same is there already; false then.
     bool SalvaRiga(const CampiVoce& campi);
     /// What was typed goes to the archive and nowhere else, for a program that ends. A `Failure` when it cannot be
     /// saved.
@@ -64,6 +64,7 @@ class TavoloGuida {
   private:
     void CreaElenco();
     void Mostra(const CampiVoce& campi);
+    [[nodiscard]] bool GiaPresente(const CampiVoce& campi) const;
     [[nodiscard]] Passo PassoDi(const QString& nome, ModificaGuida modifica);
     ModificaGuida Disfa(const QString& nome, const ModificaGuida& modifica);
     [[nodiscard]] int RigaDi(const QString& localita, std::optional<std::int64_t> voce) const;

@@ -50,28 +50,28 @@ CampiVoce CampiDellaVoce(const VoceGuida& voce) {
     return {voce.descrizione, voce.tipo, voce.tempo.ore, voce.tempo.minuti};
 }
 
-std::optional<Message> ControllaVoce(const std::vector<TipoGuida>& tipi, const CampiVoce& campi) {
-    const auto errore = [](const QString& manca) {
-        return Message{u"Errore! Manca %1!!!"_s.arg(manca), {}, Icon::Exclamation};
+std::optional<DifettoVoce> DifettoDellaVoce(const std::vector<TipoGuida>& tipi, const CampiVoce& campi) {
+    const auto manca = [](guida::Field campo, const QString& nome) {
+        return DifettoVoce{campo, u"Errore! Manca %1!!!"_s.arg(nome)};
     };
-    if (campi.descrizione.trimmed().isEmpty()) return errore(u"la descrizione"_s);
+    if (campi.descrizione.trimmed().isEmpty()) return manca(guida::Descrizione, u"la descrizione"_s);
     const int larghezza = Width(Table::GuidaCitta, guida::Descrizione);
     if (campi.descrizione.trimmed().size() > larghezza) {
-        return Message{
-            u"La descrizione è troppo lunga: al massimo %1 caratteri."_s.arg(larghezza), {}, Icon::Exclamation};
+        return DifettoVoce{guida::Descrizione,
+                           u"La descrizione è troppo lunga: al massimo %1 caratteri."_s.arg(larghezza)};
     }
     const int codice = CodiceTipoGuida(tipi, campi.tipo);
-    if (codice < 0) return errore(u"la tipologia"_s);
+    if (codice < 0) return manca(guida::CodiceGuida, u"la tipologia"_s);
     const bool obbligatorio = std::any_of(tipi.begin(), tipi.end(), [&](const TipoGuida& tipo) {
         return ValoreNumerico(tipo.codice) == codice && tipo.tempoObbligatorio;
     });
-    if (obbligatorio && campi.ore == 0 && campi.minuti == 0) return errore(u"il tempo stimato"_s);
+    if (obbligatorio && campi.ore == 0 && campi.minuti == 0) return manca(guida::TempoSosta, u"il tempo stimato"_s);
     return std::nullopt;
 }
 
 ModificaGuida SalvaVoce(Archive& archive, const QString& localita, const std::optional<VoceGuida>& mostrata,
                         const std::vector<TipoGuida>& tipi, const CampiVoce& campi) {
-    if (const auto errore = ControllaVoce(tipi, campi)) throw Failure(errore->text);
+    if (const auto difetto = DifettoDellaVoce(tipi, campi)) throw Failure(difetto->messaggio);
     const int larghezza = Width(Table::GuidaCitta, guida::Localita);
     if (localita.size() > larghezza) {
         throw Failure(u"Il nome della località è troppo lungo: al massimo %1 caratteri."_s.arg(larghezza));

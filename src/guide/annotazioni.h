@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "guide/guida_citta.h"
-#include "interaction/interaction.h"
 #include "store/archive.h"
 
 namespace cronovia {
@@ -24,9 +23,15 @@ struct CampiVoce {
 /// The fields of an entry.
 CampiVoce CampiDellaVoce(const VoceGuida& voce);
 
-/// Why the fields cannot become an entry: without description or with one too wide for its field, without a
-/// known type, a visit without its time.
-std::optional<Message> ControllaVoce(const std::vector<TipoGuida>& tipi, const CampiVoce& campi);
+/// Why the fields cannot become an entry, and the one that it is about.
+struct DifettoVoce {
+    guida::Field campo = guida::Descrizione;
+    QString messaggio;
+};
+
+/// The first reason: without description or with one too wide for its field, without a known type, a visit without its
+/// time.
+std::optional<DifettoVoce> DifettoDellaVoce(const std::vector<TipoGuida>& tipi, const CampiVoce& campi);
 
 /// The values of one entry before and after a change; nothing where there is none.
 struct ModificaGuida {
@@ -36,8 +41,8 @@ struct ModificaGuida {
 
 /// Puts the fields in the place of the entry that a row shows, under the locality of that row; adds them when the row
 /// shows none, or one that is there no more. Of several entries alike in locality, type, description and time, the one
-/// that was added first is changed. A `Failure` with the reason of `ControllaVoce` when they cannot become an entry, or
-/// when the name of the locality is too wide for its field.
+/// that was added first is changed. A `Failure` with the reason of `DifettoDellaVoce` when they cannot become an entry,
+/// or when the name of the locality is too wide for its field.
 ModificaGuida SalvaVoce(Archive& archive, const QString& localita, const std::optional<VoceGuida>& mostrata,
                         const std::vector<TipoGuida>& tipi, const CampiVoce& campi);
 

@@ -119,9 +119,11 @@ CampiVoce FrmGuida::Campi() const {
     return {txtGDescr_->text(), cmbGTipo_->currentText(), cmbGH_->currentText().toInt(), cmbGM_->currentText().toInt()};
 }
 
-void FrmGuida::FuocoSulCampoMancante() {
-    if (txtGDescr_->text().trimmed().isEmpty()) return FuocoSullaDescrizione();
-    (cmbGTipo_->findText(cmbGTipo_->currentText()) < 0 ? cmbGTipo_ : cmbGH_)->setFocus();
+void FrmGuida::FuocoSulCampo(guida::Field campo) {
+    if (campo == guida::CodiceGuida) return cmbGTipo_->setFocus();
+    if (campo == guida::TempoSosta) return cmbGH_->setFocus();
+    txtGDescr_->setFocus();
+    txtGDescr_->end(false);
 }
 
 void FrmGuida::FuocoSullaDescrizione() {

@@ -26,7 +26,8 @@ class FrmGuida : public QGroupBox {
     [[nodiscard]] CampiVoce Campi() const;
     void FuocoSullaDescrizione();
     /// On what an entry that was refused lacks.
-    void FuocoSulCampoMancante();
+    /// Nothing is selected: what was typed is put right.
+    void FuocoSulCampo(guida::Field campo);
     /// What Enter does where nothing was typed.
     [[nodiscard]] QPushButton& PulsanteFine() const { return *cmdFineInserimento_; }
 

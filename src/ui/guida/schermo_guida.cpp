@@ -71,7 +71,12 @@ const TavoloGuida* SchermoGuida::Tavolo() const {
 
 void SchermoGuida::Fuoco() {
     if (!Tavolo()) return;
-    CampiCambiati() ? riquadro_->FuocoSulCampoMancante() : riquadro_->FuocoSullaDescrizione();
+    CampiCambiati() ? FuocoSulCampoMancante() : riquadro_->FuocoSullaDescrizione();
+}
+
+void SchermoGuida::FuocoSulCampoMancante() {
+    const auto difetto = DifettoDellaVoce(Tavolo()->Tipi(), riquadro_->Campi());
+    riquadro_->FuocoSulCampo(difetto ? difetto->campo : guida::Descrizione);
 }
 
 // A question waits until the mouse has let the row go: the grid would select it afterwards.
@@ -107,7 +112,7 @@ void SchermoGuida::Salva() {
     const CampiVoce campi = riquadro_->Campi();
     bool salvata = false;
     Comanda([&](TavoloGuida& tavolo) { salvata = tavolo.SalvaRiga(campi); });
-    salvata ? riquadro_->FuocoSullaDescrizione() : riquadro_->FuocoSulCampoMancante();
+    salvata ? riquadro_->FuocoSullaDescrizione() : FuocoSulCampoMancante();
 }
 
 bool SchermoGuida::StampaAperta() const { return stampa_ != nullptr && stampa_->Aperto(); }

@@ -47,6 +47,7 @@ class SchermoGuida : public QObject {
     void MostraElenco(const TavoloGuida& tavolo);
     void Abilita(const TavoloGuida& tavolo);
     [[nodiscard]] bool CampiCambiati() const;
+    void FuocoSulCampoMancante();
 
     struct Mostrato {
         int riga = 0;
