@@ -118,7 +118,11 @@ void CancItin(Postazione& p) {
 }
 
 void SalvaDefault(Postazione& p) {
-    Default(p, u"salvare"_s, [&] { MemorizzaDefaultMeta(p.sessione.Archivio(), p.documento.Campi().parametri); });
+    const ParametriViaggio& parametri = p.documento.Campi().parametri;
+    Default(p, u"salvare"_s, [&] {
+        if (const auto difetto = DifettoDeiParametri(parametri)) p.daCorreggere = difetto->campo;
+        MemorizzaDefaultMeta(p.sessione.Archivio(), parametri);
+    });
 }
 
 void CaricaDefault(Postazione& p) {

@@ -31,6 +31,13 @@ TavoloGuida* ConVoceScritta(Postazione& p) {
     return guida != nullptr && guida->tavolo->Modificata() ? guida->tavolo.get() : nullptr;
 }
 
+QStringList NonSalvate(Postazione& p) {
+    QStringList nonSalvate;
+    if (TavoloGuida* tavolo = ConVoceScritta(p)) nonSalvate += VoceNonSalvata(p.documento, *tavolo);
+    if (p.documento.Modificato()) nonSalvate += MetaNonSalvata(p.documento);
+    return nonSalvate;
+}
+
 Answer ChiedeSeSalvare(Postazione& p, const QStringList& nonSalvate) {
     return p.volti.interazione.Ask(
         {nonSalvate.join(u"\n\n"_s) + u"\n\nVuoi salvare?"_s, u"Modifiche non salvate"_s, true, Answer::Yes, true});
@@ -70,14 +77,24 @@ bool QualcosaDaSalvare(const Postazione& p) {
 }
 
 bool NientePerso(Postazione& p) {
-    QStringList nonSalvate;
-    TavoloGuida* tavolo = ConVoceScritta(p);
-    if (tavolo != nullptr) nonSalvate += VoceNonSalvata(p.documento, *tavolo);
-    if (p.documento.Modificato()) nonSalvate += MetaNonSalvata(p.documento);
+    const QStringList nonSalvate = NonSalvate(p);
     if (nonSalvate.isEmpty()) return true;
+    TavoloGuida* tavolo = ConVoceScritta(p);
     const Answer risposta = ChiedeSeSalvare(p, nonSalvate);
     if (risposta != Answer::Yes) return risposta == Answer::No;
     return (tavolo == nullptr || SalvaVoceScritta(p, *tavolo)) && (!p.documento.Modificato() || SalvaTutto(p));
+}
+
+bool NientePersoAMeta(Postazione& p) {
+    const QStringList nonSalvate = NonSalvate(p);
+    if (nonSalvate.isEmpty()) return p.attivita != Attivita::Scrittura;
+    const Answer risposta = ChiedeSeSalvare(p, nonSalvate);
+    if (risposta != Answer::Yes) return risposta == Answer::No;
+    const bool libera = p.attivita == Attivita::Nessuna;
+    if (libera && !p.Prova([&] { SalvaSenzaChiedere(p); }, Mancato(p.documento))) return false;
+    if (!QualcosaDaSalvare(p)) return true;
+    p.Mostra(u"Non si può salvare tutto mentre un altro comando è in corso: concludilo e riprova."_s);
+    return false;
 }
 
 void Rinuncia(Postazione& p) {

@@ -12,6 +12,9 @@ namespace cronovia {
 /// would be lost, and saves on Yes; false when the person wants to stay, or what was typed cannot be saved. On No it is
 /// left as it is.
 [[nodiscard]] bool NientePerso(Postazione& p);
+/// The same for the end of the desktop session while another command has not ended, with a box open perhaps: nothing is
+/// dropped or loaded anew under it, and what it keeps from being saved is told.
+[[nodiscard]] bool NientePersoAMeta(Postazione& p);
 /// Drops all that is not saved, the entry of the guide too: the trip is in front as it was loaded.
 void Rinuncia(Postazione& p);
 /// As `NientePerso`, for the entry of the guide alone, before another one comes into the fields.

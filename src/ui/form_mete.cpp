@@ -201,8 +201,8 @@ void FormMete::ConcludiIlCampo() {
 }
 
 // A long command lets the window live; what the person asks for meanwhile is not begun.
-void FormMete::Esegui(const std::function<void()>& comando) {
-    if (mostrando_ || inCorso_) return;
+bool FormMete::Esegui(const std::function<void()>& comando) {
+    if (mostrando_ || inCorso_ || viaggio_->RifiutaIlCampo()) return false;
     inCorso_ = true;
     postazione_.daCorreggere.reset();
     avanzamento_->NuovaOperazione();
@@ -215,6 +215,7 @@ void FormMete::Esegui(const std::function<void()>& comando) {
     if (fuoco != nullptr && fuoco->isVisible() && fuoco->isEnabled()) fuoco->setFocus();
     if (postazione_.daCorreggere) viaggio_->FuocoSulCampo(*postazione_.daCorreggere);
     FuocoSenzaMete();
+    return true;
 }
 
 // Without a trip all begins with a new one.
@@ -226,7 +227,7 @@ void FormMete::EseguiComando(Comando comando) {
     Raccogli();
     if (comando == Comando::Esce) return comandi::Esce(postazione_);  // stops a command that has begun
     const bool calcolata = postazione_.documento.Calcolata().has_value();
-    Esegui([&] { Descrizione(comando).esegui(postazione_); });
+    if (!Esegui([&] { Descrizione(comando).esegui(postazione_); })) return;
     if (calcolata != postazione_.documento.Calcolata().has_value()) return FuocoSulleRighe();
     if (!postazione_.daCorreggere) MettiIlFuoco(comando);
 }
@@ -320,9 +321,15 @@ void FormMete::FineSessione(QSessionManager& sessione) {
         Congeda(postazione_);
         return;
     }
-    const bool chiudo = PossoChiudere();
+    const bool finisce = PuoFinireLaSessione();
     sessione.release();
-    if (!chiudo) sessione.cancel();
+    if (!finisce) sessione.cancel();
+}
+
+bool FormMete::PuoFinireLaSessione() {
+    if (!inCorso_) return PossoChiudere();
+    ConcludiIlCampo();
+    return NientePersoAMeta(postazione_);
 }
 
 // Boxes that are open are called off once all is saved that can be, and the command that showed them ends.

@@ -38,6 +38,8 @@ class FormMete : public QMainWindow {
 
     /// Opens the import of an exchange file.
     void ApriFile(const QString& file);
+    /// The desktop session is about to end: asks for what would be lost, above a box that is open too. Whether it may.
+    [[nodiscard]] bool PuoFinireLaSessione();
     /// Puts a panel, which then belongs to the window, where the person had it last, else on that side.
     void AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato);
 
@@ -56,8 +58,8 @@ class FormMete : public QMainWindow {
     void Collega();
     void Raccogli();
     void ConcludiIlCampo();
-    /// Runs a command on what the fields hold, then shows the state anew.
-    void Esegui(const std::function<void()>& comando);
+    /// Runs a command on what the fields hold, then shows the state anew; false when it cannot begin now.
+    bool Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);
     void MettiIlFuoco(Comando dopo);
     void FuocoSulleRighe();

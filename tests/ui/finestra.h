@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 #include <deque>
+#include <functional>
 #include <memory>
 
 #include "support/prova.h"
@@ -47,7 +48,9 @@ class FinestraTest : public testing::Test {
         QString file;                                           ///< for a file dialog; none: it is called off
         /// What Enter answers when it is asked; without one that is the answer that loses nothing.
         QMessageBox::StandardButton preset = QMessageBox::NoButton;
+        std::function<void()> intanto = {};  ///< happens while it is open
     };
+    void Intanto(std::function<void()> cosa) { attese_.back().intanto = std::move(cosa); }
     void Attendi(Attesa attesa) { attese_.push_back(std::move(attesa)); }
     /// A failure when something that must have come did not.
     void TuttoVenuto() {
@@ -129,21 +132,28 @@ class FinestraTest : public testing::Test {
         if (dialogo == nullptr || !dialogo->isVisible() || dialogo == servito_) return;
         servito_ = dialogo;
         auto* box = qobject_cast<QMessageBox*>(dialogo);
-        auto* scelta = qobject_cast<QFileDialog*>(dialogo);
-        const auto che = box != nullptr ? Attesa::Che::Box : scelta != nullptr ? Attesa::Che::File : Attesa::Che::Altro;
+        const bool scelta = qobject_cast<QFileDialog*>(dialogo) != nullptr;
+        const auto che = box != nullptr ? Attesa::Che::Box : scelta ? Attesa::Che::File : Attesa::Che::Altro;
         const Attesa attesa = attese_.empty() ? Attesa() : attese_.front();
         if (attese_.empty() || attesa.che != che || (box != nullptr && box->button(attesa.bottone) == nullptr)) {
             ADD_FAILURE() << "unexpected: " << (box != nullptr ? box->text() : dialogo->windowTitle()).toStdString();
             return dialogo->done(box != nullptr ? int{QMessageBox::No} : int{QDialog::Rejected});
         }
         attese_.pop_front();
-        if (box != nullptr) return RispondiBox(*box, attesa);
-        if (scelta != nullptr) return ScegliFile(*scelta, attesa.file);
-        visto_ = QString::fromLatin1(dialogo->metaObject()->className());
-        for (const QAction* azione : dialogo->findChildren<QAction*>()) {
+        if (!attesa.intanto) return Rispondi(*dialogo, attesa);
+        QTimer::singleShot(0, dialogo, [this, dialogo, attesa] {
+            attesa.intanto();
+            Rispondi(*dialogo, attesa);
+        });
+    }
+    void Rispondi(QDialog& dialogo, const Attesa& attesa) {
+        if (auto* box = qobject_cast<QMessageBox*>(&dialogo)) return RispondiBox(*box, attesa);
+        if (auto* scelta = qobject_cast<QFileDialog*>(&dialogo)) return ScegliFile(*scelta, attesa.file);
+        visto_ = QString::fromLatin1(dialogo.metaObject()->className());
+        for (const QAction* azione : dialogo.findChildren<QAction*>()) {
             if (azione->isVisible() && !azione->text().isEmpty()) visto_ += u'|' + azione->text();
         }
-        dialogo->reject();
+        dialogo.reject();
     }
     void RispondiBox(QMessageBox& box, const Attesa& attesa) {
         if (attesa.testo.endsWith(u'…')) {

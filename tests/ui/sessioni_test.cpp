@@ -4,8 +4,11 @@
 //
 //   open [HH:MM] · close              the window, on 5 June 2027; opened again, it is a new one on the same folder
 //   signal-end                        the system ends the program, and the window has to close
+//   session-end yes|no|unasked        the desktop session ends: whether it may; without that the person can be asked
+//   meanwhile-session-end yes|no      that happens while the box is open that was announced before
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
+//   exchange FILE TRIPS STAGES        an exchange file, its values between "|"
 //   sql TEXT                          what another program does to the archive
 //   answer BUTTON TEXT [TITLE]        the next box is a question, and Enter would say yes: else as in "Sì/No", where
 //                                     Enter would say no; message TEXT [TITLE]: is told, and read with Ok
@@ -51,6 +54,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QRadioButton>
+#include <QSessionManager>
 #include <QTextDocument>
 #include <QUrl>
 #include <csignal>
@@ -58,6 +62,7 @@
 #include <map>
 
 #include "cli/programma.h"
+#include "exchange/scambio.h"
 #include "support/parole.h"
 #include "ui/finestra.h"
 
@@ -275,6 +280,11 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         }
     }
 
+    void FinisceLaSessione(const QString& puo) {
+        if (puo == u"unasked"_s) return Q_EMIT qGuiApp->commitDataRequest(*qGuiApp->findChild<QSessionManager*>());
+        Uguale(form_->PuoFinireLaSessione() ? u"yes"_s : u"no"_s, puo);
+    }
+
     void AltroProgramma(const QString& istruzione) {
         SQLite::Database(Archive::FilePath(cartella_.Path()).toStdString(), SQLite::OPEN_READWRITE)
             .exec(istruzione.toStdString());
@@ -364,6 +374,15 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
           [this](auto&) {
               std::raise(SIGTERM);
               EXPECT_TRUE(QTest::qWaitFor([this] { return !form_->isVisible(); }, 5000));
+          }}},
+        {u"session-end"_s, {1, [this](auto& p) { FinisceLaSessione(p[0]); }}},
+        {u"meanwhile-session-end"_s, {1, [this](auto& p) { Intanto([this, puo = p[0]] { FinisceLaSessione(puo); }); }}},
+        {u"exchange"_s,
+         {3,
+          [this](auto& p) {
+              cartella_.Crea();
+              prova::ScriviFile(p[0], prova::Sezione('\xFF', p[1].toLatin1() + '\n') +
+                                          prova::Sezione('\xFE', p[2].toLatin1() + '\n'));
           }}},
         {u"run"_s, {1, [this](auto& p) { Esegui(p); }}},
         {u"write"_s,
@@ -472,7 +491,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
          {2, [](auto& p) { Uguale(QString::fromUtf8(prova::LeggiFile(p[0])).left(p[1].size()), p[1]); }}},
         {u"expect-no-file"_s, {1, [](auto& p) { EXPECT_FALSE(QFile::exists(p[0])); }}},
     };
-    const QStringList annunci_ = {u"answer"_s, u"message"_s, u"choose"_s, u"dismiss"_s};
+    const QStringList annunci_ = {u"answer"_s, u"message"_s, u"choose"_s, u"dismiss"_s, u"meanwhile-session-end"_s};
 };
 
 std::vector<QString> File() {

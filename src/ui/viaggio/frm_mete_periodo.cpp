@@ -1,8 +1,10 @@
 #include "ui/viaggio/frm_mete_periodo.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <algorithm>
 
 #include "calendar/date.h"
@@ -82,8 +84,10 @@ void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
     const std::array<QStringList, 5> voci = {Numeri(1, 31, 2), Numeri(1, 12, 2),
                                              Numeri(kPrimoAnno, annoCorrente + kAnniAvanti, 4), Numeri(0, 24, 2),
                                              Quarti()};
-    const std::array<QString, 5> nomi = {u"Giorno d'inizio"_s, u"Mese d'inizio"_s, u"Anno d'inizio"_s,
-                                         u"Ora d'inizio"_s, u"Minuti d'inizio"_s};
+    const std::array<QString, 5> nomi = {
+        u"Giorno d'inizio"_s, u"Mese d'inizio"_s,
+        u"Anno d'inizio (dal %1 al %2)"_s.arg(kPrimoGiorno.anno).arg(kUltimoGiorno.anno), u"Ora d'inizio"_s,
+        u"Minuti d'inizio"_s};
     for (std::size_t i = 0; i < cmbInizio_.size(); ++i) {
         cmbInizio_[i] = NuovoElenco(NomeDiSerie(u"cmbInizio"_s, static_cast<int>(i)), voci[i], nomi[i]);
         layout->addWidget(cmbInizio_[i]);
@@ -92,7 +96,40 @@ void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
             Q_EMIT InizioCambiato();
         });
     }
+    LasciaScrivereAnno();
     layout->addStretch();
+}
+
+// Years beyond those on offer are typed.
+void FrmMetePeriodo::LasciaScrivereAnno() {
+    LasciaScrivereCifre(*cmbInizio_[2], 4);
+    connect(cmbInizio_[2]->lineEdit(), &QLineEdit::editingFinished, this, &FrmMetePeriodo::AnnoScritto);
+}
+
+// A button that the mouse holds is let go before a box comes: its command says that the year is refused then.
+void FrmMetePeriodo::AnnoScritto() {
+    if (AnnoFuoriCalendario()) {
+        constexpr int kFinoAllaProssimaOcchiata = 20;
+        const auto tenuto = [] { return QGuiApplication::mouseButtons() != Qt::NoButton; };
+        QTimer::singleShot(tenuto() ? kFinoAllaProssimaOcchiata : 0, this,
+                           [this, tenuto] { tenuto() ? AnnoScritto() : static_cast<void>(RifiutaAnno()); });
+    } else if (cmbInizio_[2]->currentText() != annoMostrato_) {
+        MostraInizio(Inizio());
+        Q_EMIT InizioCambiato();
+    }
+}
+
+bool FrmMetePeriodo::AnnoFuoriCalendario() const {
+    const QString anno = cmbInizio_[2]->currentText();
+    const int numero = anno.toInt();
+    return anno != annoMostrato_ && (numero < kPrimoGiorno.anno || numero > kUltimoGiorno.anno);
+}
+
+bool FrmMetePeriodo::RifiutaAnno() {
+    if (!AnnoFuoriCalendario()) return false;
+    MostraInizio(Inizio());
+    Q_EMIT AnnoRifiutato();
+    return true;
 }
 
 void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
@@ -137,10 +174,9 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
 
 // The parts of the date that are chosen, the day kept within its month.
 PartiData FrmMetePeriodo::Inizio() const {
-    const auto parte = [this](std::size_t i) {
-        return RiempiPrima(cmbInizio_[i]->currentText(), i == 2 ? 4 : 2, u' ');
-    };
-    return LeggiPartiData(parte(0) + parte(1) + parte(2));
+    const auto parte = [this](std::size_t i) { return RiempiPrima(cmbInizio_[i]->currentText(), 2, u' '); };
+    const QString anno = AnnoFuoriCalendario() ? annoMostrato_ : cmbInizio_[2]->currentText();
+    return LeggiPartiData(parte(0) + parte(1) + RiempiPrima(anno, 4, u' '));
 }
 
 void FrmMetePeriodo::MostraInizio(const PartiData& parti) {
@@ -155,6 +191,7 @@ void FrmMetePeriodo::MostraInizio(const PartiData& parti) {
             cmbInizio_[i]->setCurrentIndex(-1);
         }
     }
+    annoMostrato_ = cmbInizio_[2]->currentText();
     const std::optional<NumeroGiorno> giorno = parti.Giorno();
     txtInizioGSett_->setText(giorno ? GiornoSettimana(*giorno) : QString());
 }
@@ -195,6 +232,11 @@ void FrmMetePeriodo::FuocoSullInizio() {
         if (parte->currentIndex() < 0) return parte->setFocus();
     }
     cmbInizio_[2]->setFocus();
+}
+
+void FrmMetePeriodo::FuocoSullAnno() {
+    cmbInizio_[2]->setFocus();
+    cmbInizio_[2]->lineEdit()->selectAll();
 }
 
 void FrmMetePeriodo::FuocoSullaLocalita() { txtLocalita_->setFocus(); }

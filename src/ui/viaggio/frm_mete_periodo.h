@@ -30,17 +30,25 @@ class FrmMetePeriodo : public QGroupBox {
     void FuocoSullaNazione();
     /// On the part of the start that is missing, else on the year.
     void FuocoSullInizio();
+    void FuocoSullAnno();
+    /// Puts the year back that was there before a typed one out of the calendar, and says so by `AnnoRifiutato`; false
+    /// when there is none. Meanwhile the fields hold the year that was there.
+    bool RifiutaAnno();
 
   Q_SIGNALS:
     /// The person changed a field; a part of the start.
     void Cambiata();
     void InizioCambiato();
+    void AnnoRifiutato();
 
   private:
     void CreaMeta(QGridLayout& layout);
     void CreaInizio(QGridLayout& griglia, int annoCorrente);
     void CreaFine(QGridLayout& griglia);
     void CreaCalcolo(QGridLayout& griglia);
+    void LasciaScrivereAnno();
+    void AnnoScritto();
+    [[nodiscard]] bool AnnoFuoriCalendario() const;
     [[nodiscard]] PartiData Inizio() const;
     void MostraInizio(const PartiData& parti);
 
@@ -48,6 +56,7 @@ class FrmMetePeriodo : public QGroupBox {
     QLineEdit* txtLocalita_;
     QLineEdit* txtNazione_;
     std::array<QComboBox*, 5> cmbInizio_{};
+    QString annoMostrato_;
     QLineEdit* txtInizioGSett_;
     std::array<QLineEdit*, 7> txtFine_{};
     QComboBox* cmbGiorni_;

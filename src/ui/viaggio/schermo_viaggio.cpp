@@ -51,6 +51,10 @@ void SchermoViaggio::Collega() {
     connect(tempi_, &FrmMeteTempi::Cambiata, this, &SchermoViaggio::Cambiata);
     connect(periodo_, &FrmMetePeriodo::InizioCambiato, this,
             [this] { esegui_([this] { postazione_.documento.AggiornaOrari(); }); });
+    connect(periodo_, &FrmMetePeriodo::AnnoRifiutato, this, [this] {
+        esegui_([this] { postazione_.Mostra(MessaggioData()); });
+        periodo_->FuocoSullAnno();
+    });
     connect(tempi_, &FrmMeteTempi::OrarioLasciato, this,
             [this] { esegui_([this] { postazione_.documento.ControllaOrari(); }); });
     connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
@@ -76,6 +80,8 @@ void SchermoViaggio::Raccogli() {
     const Meta letta = Letta();
     if (letta != mostrata_) postazione_.documento.ImpostaCampi(letta);
 }
+
+bool SchermoViaggio::RifiutaIlCampo() { return periodo_->RifiutaAnno(); }
 
 bool SchermoViaggio::ConcludiIlCampo() {
     if (!tempi_->OrarioInCorso()) return false;

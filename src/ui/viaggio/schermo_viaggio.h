@@ -24,6 +24,8 @@ class SchermoViaggio : public QWidget {
     void Raccogli();
     /// Shows the document in the fields, which can be used when they are `liberi`, and the list while it is open.
     void Mostra(bool liberi);
+    /// Puts back and tells what is being typed and cannot be; false when there is nothing of the kind.
+    bool RifiutaIlCampo();
     /// Takes over and checks the field that is being filled in, as if it had been left; true when others changed by it.
     bool ConcludiIlCampo();
     /// On the control of a field for which the trip cannot be saved.
