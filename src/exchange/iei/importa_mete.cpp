@@ -52,7 +52,11 @@ class Importatore {
         }
     }
 
-    EsitoImport& Esito() { return esito_; }
+    EsitoImport Esito() {
+        if (!inserite_.empty()) esito_.ultimaMeta = inserite_.back();
+        esito_.lettura = lettore_.Scarti();
+        return std::move(esito_);
+    }
 
   private:
     void ImportaMeta(RigaIei& riga);
@@ -71,6 +75,7 @@ class Importatore {
     NomiPresenti tappe_;
     NomiPresenti guida_;
     QHash<QString, bool> conTappe_;  // localities looked up since the last stage was added
+    std::vector<QString> inserite_;  // codes of the trips
     EsitoImport esito_;
 };
 
@@ -95,7 +100,7 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     meta->stato = StatoMeta::Inserita;
     ++esito_.meteInserite;
     AggiustaData(riga.valori[mete::DataInizio]);
-    esito_.ultimaMeta = meta->codice;
+    inserite_.push_back(meta->codice);
     Inserisci(riga, meta->codice, mete_);
 }
 
@@ -138,6 +143,7 @@ void Importatore::Togli(MetaDaImportare& meta) {
     mete_.Dimentica();
     tappe_.Dimentica();
     meta.stato = StatoMeta::TroppoLunga;
+    std::erase(inserite_, meta.codice);
     --esito_.meteInserite;
     esito_.tappeInserite -= meta.tappe;
     ++esito_.meteTroppoLunghe;
@@ -190,8 +196,7 @@ EsitoImport ImportaRighe(Archive& archive, MappaCodici& codici, QIODevice& devic
     while (lettore.Leggi(riga)) {
         importatore.Importa(riga);
     }
-    importatore.Esito().lettura = lettore.Scarti();
-    return std::move(importatore.Esito());
+    return importatore.Esito();
 }
 
 // `Stopped` on a stop.
