@@ -42,10 +42,10 @@ void MettiPercorso(Postazione& p, RigheItinerario percorso) {
 }
 
 void SalvaTappe(Postazione& p) {
-    EsitoMemorizzazione esito;
-    p.MentreScrive(u"L'itinerario non è stato salvato."_s,
-                   [&] { esito = p.documento.SalvaTappe(p.volti.avanzamento); });
-    if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
+    const int riga = p.documento.RigaCorrente();
+    const bool salvate = SalvaOChiede(p, u"L'itinerario non è stato salvato."_s,
+                                      [&] { return p.documento.SalvaTappe(p.volti.avanzamento); });
+    if (salvate) SelezionaRiga(p, riga);
 }
 
 }  // namespace

@@ -87,10 +87,7 @@ void Importa(Postazione& p, const TavoloScambio& tavolo) {
     if (!importate || esito.interrotta) return;
     const bool qualcosa = esito.meteInserite + esito.tappeInserite + esito.vociInserite > 0;
     Storia& storia = p.documento.Modifiche();
-    if (qualcosa) {
-        storia.Dimentica(Ambito::Archivio);  // an import before this one cannot be taken back any more
-        storia.Ricorda(PassoImport(p, file, esito.traccia, p.documento.Codice()));
-    }
+    if (qualcosa) storia.Ricorda(PassoImport(p, file, esito.traccia, p.documento.Codice()));
     Torna(p);
     if (esito.meteInserite == 1) ScegliMeta(p, esito.ultimaMeta);
     p.volti.mostra();

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <tuple>
 #include <utility>
 
 #include "app/comandi_cronovia.h"
@@ -25,6 +26,36 @@ void Default(Postazione& p, const QString& verbo, const std::function<void()>& a
         azione();
         p.Mostra(u"Operazione eseguita!"_s, titolo, Icon::Information);
     });
+}
+
+// The trip comes back with what it had when it was deleted, and in front unless something typed is there.
+Passo PassoCancellazione(Postazione& p, const QString& nome, const MetaCancellata& cancellata) {
+    const auto disfa = [&p, nome, cancellata](const Passo&) -> std::optional<Passo> {
+        const QString codice = RimettiMeta(p.sessione.Archivio(), cancellata);
+        if (!p.documento.Modificato()) {
+            p.documento.Apri(codice);
+            p.schermata = schermata::Viaggio{Fase::Aperta};
+        }
+        p.volti.mostra();
+        p.Mostra(u"La mèta «%1» è di nuovo nell'archivio, con il codice %2."_s.arg(nome, codice), {},
+                 Icon::Information);
+        return std::nullopt;
+    };
+    return {u"cancellazione di «%1»"_s.arg(nome), Ambito::Archivio, disfa, {}};
+}
+
+// A trip that was changed meanwhile is shown as it is now, unless that would cost what is typed.
+void CancellaOMostra(Postazione& p, const QString& mancato, const std::function<void()>& cancella) {
+    bool cambiata = false;
+    p.MentreScrive(mancato, [&] {
+        try {
+            cancella();
+        } catch (const MetaCambiata&) {
+            cambiata = true;
+            throw;
+        }
+    });
+    if (cambiata && !p.documento.Modificato()) p.Prova([&] { p.VaiAlViaggio(); });
 }
 
 // The screen in front after a step was taken back or made again.
@@ -83,9 +114,10 @@ void ChiudiElencoMete(Postazione& p) {
 void Salva(Postazione& p) {
     const std::optional<Salvataggio> salvataggio = DecideSalvataggio(p);
     if (!salvataggio || !Confermato(p, *salvataggio)) return;
-    p.MentreScrive(u"La mèta non è stata salvata."_s, [&] {
+    std::ignore = SalvaOChiede(p, u"La mèta non è stata salvata."_s, [&] {
         p.documento.SalvaCampi(*salvataggio);
         p.schermata = schermata::Viaggio{Fase::Aperta};
+        return EsitoMemorizzazione();
     });
 }
 
@@ -93,8 +125,10 @@ void CancMeta(Postazione& p) {
     if (SenzaMeta(p)) return;
     p.Prova([&] {
         if (!BoxConferma(p.volti.interazione, Operazione::AnnullamentoMeta, p.documento.Nome())) return;
-        p.MentreScrive(u"La mèta non è stata cancellata."_s, [&] {
-            p.documento.Cancella(p.volti.avanzamento);
+        CancellaOMostra(p, u"La mèta non è stata cancellata."_s, [&] {
+            const QString nome = p.documento.Caricati().localita.trimmed();
+            const MetaCancellata cancellata = p.documento.Cancella(p.volti.avanzamento);
+            p.documento.Modifiche().Ricorda(PassoCancellazione(p, nome, cancellata));
             p.VaiAlViaggio();
         });
     });
@@ -110,7 +144,7 @@ void CancItin(Postazione& p) {
                                u"Annullamento itinerario"_s)) {
             return;
         }
-        p.MentreScrive(u"L'itinerario non è stato cancellato."_s, [&] {
+        CancellaOMostra(p, u"L'itinerario non è stato cancellato."_s, [&] {
             p.documento.CancellaTappe(p.volti.avanzamento);
             p.documento.RicaricaTappe();
         });

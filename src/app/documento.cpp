@@ -20,6 +20,11 @@ bool StessoCalcolo(const Meta& a, const Meta& b) {
 
 }  // namespace
 
+void Documento::Metti(MetaAperta aperta) {
+    letta_ = Memorizzata(aperta);
+    Metti(aperta.meta, std::move(aperta.tappe));
+}
+
 void Documento::Metti(const Meta& campi, RigheItinerario righe) {
     ImpostaCampi(campi);
     if (const auto giorno = campi_.partiInizio.Giorno()) {
@@ -49,7 +54,7 @@ void Documento::Apri(const QString& codice) {
     const Archive::Mark adesso = archivio.PresentMark();
     transaction.Commit();
     storia_.SegueArchivio(prima, adesso);
-    Metti(scelta.meta, std::move(scelta.tappe));
+    Metti(std::move(scelta));
     codice_ = codice;
 }
 
@@ -61,21 +66,29 @@ void Documento::Ricarica(const QDateTime& adesso) {
     if (codice.isEmpty()) {
         Proponi(adesso);
     } else {
-        MetaAperta aperta = sessione_.ApriMeta(codice);
-        Metti(aperta.meta, std::move(aperta.tappe));
+        Metti(sessione_.ApriMeta(codice));
     }
     codice_ = codice;
 }
 
-void Documento::Proponi(const QDateTime& adesso) { Metti(sessione_.MetaProposta(adesso), {}); }
+void Documento::Proponi(const QDateTime& adesso) {
+    const Meta proposta = sessione_.MetaProposta(adesso);
+    letta_ = {};
+    Metti(proposta, {});
+}
 
-void Documento::RicaricaTappe() { MettiTappe(sessione_.ApriMeta(codice_).tappe); }
+void Documento::RicaricaTappe() {
+    MetaAperta aperta = sessione_.ApriMeta(codice_);
+    letta_.tappe = Memorizzata(aperta).tappe;
+    MettiTappe(std::move(aperta.tappe));
+}
 
 void Documento::Scarta() { Metti(caricati_, caricate_); }
 
 void Documento::DiventaNuova() {
     campi_.codice.clear();
     caricati_ = Meta();
+    letta_ = {};
     MettiTappe({});
     codice_ = RicercaMetaCorrente(sessione_.Archivio());
 }
@@ -216,16 +229,13 @@ void Documento::Ricomponi() {
 
 QString Documento::Nome() const { return u"%1 (%2)"_s.arg(caricati_.localita.trimmed(), codice_); }
 
-// Within the transaction that writes: another window may have deleted the trip, or given its code to another one since.
-void Documento::ConfermaCheELei() {
-    const Meta memorizzata = sessione_.ApriMeta(caricati_.codice).meta;
-    if (memorizzata.localita == caricati_.localita) return;
-    throw Failure(u"La mèta con il codice %1 non è più «%2», ma «%3»: un'altra finestra l'ha cambiata."_s.arg(
-        caricati_.codice, caricati_.localita, memorizzata.localita));
+// Within the transaction that writes: nothing comes between what is compared and what is written.
+void Documento::RifiutaSeDiversa(const std::optional<MetaMemorizzata>& attesa) {
+    std::optional<MetaMemorizzata> adesso = LeggiMemorizzata(sessione_.Archivio(), letta_.meta.codice);
+    if (adesso != attesa) throw MetaCambiata(letta_, std::move(adesso));
 }
 
 QString Documento::ScriviCampi(const Salvataggio& deciso) {
-    if (!campi_.codice.isEmpty()) ConfermaCheELei();
     const Salvataggio adesso = DecidiSalvataggio();
     if (adesso.nuova != deciso.nuova) {
         throw Failure(u"Nel frattempo un'altra finestra ha salvato o cancellato la mèta «%1»: riprova."_s.arg(
@@ -234,53 +244,69 @@ QString Documento::ScriviCampi(const Salvataggio& deciso) {
     return SalvaMeta(sessione_.Archivio(), campi_, adesso);
 }
 
-EsitoMemorizzazione Documento::ScriviTappe(Progress& progress) {
-    ConfermaCheELei();
-    return MemorizzaTappeItinerario(sessione_.Archivio(), codice_, righe_, orario_, progress);
+EsitoMemorizzazione Documento::ScriviTappe(const QString& codice, Progress& progress) {
+    return MemorizzaTappeItinerario(sessione_.Archivio(), codice, righe_, orario_, progress);
 }
 
 // What was written is read within the same transaction: nothing can fail after it was committed.
 void Documento::Concludi(Transaction& transaction, const QString& codice) {
     MetaAperta salvata = sessione_.ApriMeta(codice);
     transaction.Commit();
-    Metti(salvata.meta, std::move(salvata.tappe));
+    Metti(std::move(salvata));
     codice_ = codice;
     AggiornaOrari();
 }
 
 void Documento::SalvaCampi(const Salvataggio& deciso) {
     Transaction transaction(sessione_.Archivio());
+    if (!campi_.codice.isEmpty()) RifiutaSeDiversa(letta_);
     Concludi(transaction, ScriviCampi(deciso));
 }
 
 EsitoMemorizzazione Documento::SalvaTappe(Progress& progress) {
     Transaction transaction(sessione_.Archivio());
-    const EsitoMemorizzazione esito = ScriviTappe(progress);
+    RifiutaSeDiversa(letta_);
+    const EsitoMemorizzazione esito = ScriviTappe(codice_, progress);
+    RigheItinerario scritte = TappeMemorizzate(sessione_.Archivio(), codice_);
     transaction.Commit();
     caricate_ = righe_;
+    letta_.tappe = std::move(scritte);
     return esito;
 }
 
 EsitoMemorizzazione Documento::SalvaTutto(const Salvataggio& deciso, Progress& progress) {
     Transaction transaction(sessione_.Archivio());
+    if (!campi_.codice.isEmpty()) RifiutaSeDiversa(letta_);
     EsitoMemorizzazione esito;
-    if (TappeModificate()) esito = ScriviTappe(progress);
+    if (TappeModificate()) esito = ScriviTappe(codice_, progress);
     Concludi(transaction, CampiModificati() ? ScriviCampi(deciso) : codice_);
+    return esito;
+}
+
+EsitoMemorizzazione Documento::Sovrascrivi(const MetaCambiata& vista, Progress& progress) {
+    Transaction transaction(sessione_.Archivio());
+    RifiutaSeDiversa(vista.Adesso());
+    Archive& archivio = sessione_.Archivio();
+    const QString codice =
+        vista.Persa() ? InserisciMeta(archivio, campi_) : SalvaMeta(archivio, campi_, {false, letta_.meta.codice});
+    const EsitoMemorizzazione esito = ScriviTappe(codice, progress);
+    Concludi(transaction, codice);
     return esito;
 }
 
 void Documento::CancellaTappe(Progress& progress) {
     Transaction transaction(sessione_.Archivio());
-    ConfermaCheELei();
+    RifiutaSeDiversa(letta_);
     MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, orario_, progress);
     transaction.Commit();
 }
 
-void Documento::Cancella(Progress& progress) {
+MetaCancellata Documento::Cancella(Progress& progress) {
     Transaction transaction(sessione_.Archivio());
-    ConfermaCheELei();
-    CancellaMeta(sessione_.Archivio(), codice_, progress);
+    RifiutaSeDiversa(letta_);
+    MetaCancellata cancellata = CancellaMeta(sessione_.Archivio(), codice_, progress);
     transaction.Commit();
+    return cancellata;
 }
 
 }  // namespace cronovia

@@ -5,6 +5,7 @@
 #include <QString>
 #include <optional>
 
+#include "app/confronto.h"
 #include "app/sessione.h"
 #include "app/storia.h"
 #include "itinerary/itinerari.h"
@@ -96,7 +97,7 @@ class Documento {
 
     // Saving.
     [[nodiscard]] Salvataggio DecidiSalvataggio() { return cronovia::DecidiSalvataggio(sessione_.Archivio(), campi_); }
-    // All of it is refused when the trip was deleted meanwhile, or its code is that of a trip with another destination.
+    // All of it is a `MetaCambiata` when the stored trip is no longer what it was when it was loaded.
     /// Saves the fields and loads the trip anew, which may have got another code. Refused too when that would now be
     /// another thing than was decided, a new trip or a change.
     void SalvaCampi(const Salvataggio& deciso);
@@ -104,20 +105,24 @@ class Documento {
     EsitoMemorizzazione SalvaTutto(const Salvataggio& deciso, Progress& progress);
     /// Replaces the stored stages by those that are open.
     EsitoMemorizzazione SalvaTappe(Progress& progress);
+    /// Saves fields and stages in the place of what is stored since, as the person was shown it; as a new trip when the
+    /// open one is gone. Refused when it is another thing by now, and when a new trip's destination is stored already.
+    EsitoMemorizzazione Sovrascrivi(const MetaCambiata& vista, Progress& progress);
     /// Delete the stored stages, and the stored trip with them; what is open stays as it is until it is loaded anew.
     void CancellaTappe(Progress& progress);
-    void Cancella(Progress& progress);
+    MetaCancellata Cancella(Progress& progress);
 
   private:
     struct Stato {
         RigheItinerario righe;
         int rigaCorrente = 1;
     };
-    void ConfermaCheELei();
+    void RifiutaSeDiversa(const std::optional<MetaMemorizzata>& attesa);
+    void Metti(MetaAperta aperta);
     void Metti(const Meta& campi, RigheItinerario righe);
     void MettiTappe(RigheItinerario righe);
     QString ScriviCampi(const Salvataggio& deciso);
-    EsitoMemorizzazione ScriviTappe(Progress& progress);
+    EsitoMemorizzazione ScriviTappe(const QString& codice, Progress& progress);
     void Concludi(Transaction& transaction, const QString& codice);
     void Mostra(Stato stato);
     void RicalcolaTempi();
@@ -142,7 +147,8 @@ class Documento {
     int rigaCorrente_ = 1;
     Meta caricati_;
     RigheItinerario caricate_;
-    Storia storia_;
+    MetaMemorizzata letta_;  // what the archive held then; empty for a new trip
+    Storia storia_{[this] { return sessione_.Archivio().OwnChanges(); }};
     std::optional<LettoreGuida> guida_;  // its answers, as of `guidaLetta_`
     Archive::Mark guidaLetta_;
 };

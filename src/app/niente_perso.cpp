@@ -43,6 +43,15 @@ Answer ChiedeSeSalvare(Postazione& p, const QStringList& nonSalvate) {
         {nonSalvate.join(u"\n\n"_s) + u"\n\nVuoi salvare?"_s, u"Modifiche non salvate"_s, true, Answer::Yes, true});
 }
 
+Answer ChiedeSeSovrascrivere(Postazione& p, const MetaCambiata& cambiata) {
+    const QString sovrascrivi = cambiata.Persa() ? u"«Sovrascrivi» salva la tua come nuova mèta."_s
+                                                 : u"«Sovrascrivi» mette la tua al suo posto."_s;
+    return p.volti.interazione.Ask(
+        {cambiata.Message() +
+             u"\n\n«Ricarica» mostra l'archivio com'è adesso e rinuncia a ciò che hai scritto tu.\n"_s + sovrascrivi,
+         u"Mèta cambiata nell'archivio"_s, true, Answer::Cancel, false, u"&Sovrascrivi"_s, u"&Ricarica"_s});
+}
+
 bool SalvaVoceScritta(Postazione& p, TavoloGuida& tavolo) {
     bool salvata = false;
     p.Prova([&] { salvata = tavolo.SalvaRiga(tavolo.Scritti()); });
@@ -136,13 +145,33 @@ bool SalvaTutto(Postazione& p) {
     const auto salvataggio = campi ? DecideSalvataggio(p, Mancato(documento)) : Salvataggio();
     if (!salvataggio) return false;
     if (campi && TroppoNuova(documento.Campi(), *salvataggio) && !Confermato(p, *salvataggio)) return false;
+    return SalvaOChiede(p, Mancato(documento), [&] { return documento.SalvaTutto(*salvataggio, p.volti.avanzamento); });
+}
+
+bool SalvaOChiede(Postazione& p, const QString& mancato, const std::function<EsitoMemorizzazione()>& salva) {
     EsitoMemorizzazione esito;
-    const bool salvata = p.MentreScrive(Mancato(documento), [&] {
-        esito = documento.SalvaTutto(*salvataggio, p.volti.avanzamento);
-        if (auto* viaggio = p.Su<schermata::Viaggio>()) viaggio->fase = schermata::Viaggio::Fase::Aperta;
-    });
-    if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
-    return salvata;
+    std::optional<MetaCambiata> cambiata;
+    std::function<EsitoMemorizzazione()> tentativo = salva;
+    for (;;) {
+        cambiata.reset();
+        const bool salvata = p.MentreScrive(mancato, [&] {
+            try {
+                esito = tentativo();
+                if (auto* viaggio = p.Su<schermata::Viaggio>()) viaggio->fase = schermata::Viaggio::Fase::Aperta;
+            } catch (const MetaCambiata& failure) {
+                cambiata = failure;
+            }
+        });
+        if (!cambiata) {
+            if (esito.nomiAccorciati > 0) p.Mostra(TestoNomiAccorciati(esito));
+            return salvata;
+        }
+        const Answer risposta = ChiedeSeSovrascrivere(p, *cambiata);
+        if (risposta == Answer::No) p.Prova([&] { p.VaiAlViaggio(); });
+        if (risposta != Answer::Yes) return false;
+        const MetaCambiata vista = *cambiata;
+        tentativo = [&p, vista] { return p.documento.Sovrascrivi(vista, p.volti.avanzamento); };
+    }
 }
 
 // What is left unsaved here, since it is incomplete or the archive refuses it, is what a recovery file has to hold.

@@ -25,6 +25,12 @@ void Rinuncia(Postazione& p);
 /// Saves what was changed of the trip, whole or not at all. Tells what was shortened, or what went wrong: false then.
 [[nodiscard]] bool SalvaTutto(Postazione& p);
 
+/// Runs what saves the open trip, or stages of it. When the stored trip was changed meanwhile the person is shown how,
+/// and may have it loaded, give up, or save fields and stages all the same. Tells what was shortened, or `mancato` and
+/// what went wrong; false unless the trip was saved.
+[[nodiscard]] bool SalvaOChiede(Postazione& p, const QString& mancato,
+                                const std::function<EsitoMemorizzazione()>& salva);
+
 /// What saving the trip's fields will do. Tells what was not done (`mancato`, may be empty) and why they cannot be
 /// saved, and notes the field that it is about; nothing then.
 std::optional<Salvataggio> DecideSalvataggio(Postazione& p, const QString& mancato = {});

@@ -107,10 +107,7 @@ std::optional<Ambito> Postazione::AmbitoInVista() const {
 std::optional<QString> Postazione::DaAnnullare() const {
     const std::optional<Ambito> ambito = AmbitoInVista();
     const Passo* passo = ambito ? documento.Modifiche().DaAnnullare(*ambito) : nullptr;
-    if (passo == nullptr) return std::nullopt;
-    // What this window wrote since is known without asking the file; another one's changes are found when it is tried.
-    const bool ancora = !passo->archivio || passo->archivio->own == sessione.Archivio().OwnChanges();
-    return ancora ? std::optional(passo->nome) : std::nullopt;
+    return passo == nullptr ? std::nullopt : std::optional(passo->nome);
 }
 
 std::optional<QString> Postazione::DaRipetere() const {

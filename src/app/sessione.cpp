@@ -42,6 +42,7 @@ MetaAperta Sessione::ApriMeta(const QString& codice, LettoreGuida& guida) {
     std::optional<Meta> meta = CaricaMeta(archive_, completo);
     if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
+    aperta.memorizzata = *meta;
     aperta.meta = std::move(*meta);
     aperta.orario = OrarioCorretto(aperta.meta.parametri);
     aperta.tappe = CaricaTappeItinerario(archive_, completo, aperta.orario, guida);

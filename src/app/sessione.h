@@ -22,6 +22,7 @@ struct MetaAperta {
     OrarioCorretto orario;  ///< of its parameters
     std::vector<Tappa> tappe;
     RiepilogoItinerario riepilogo;
+    Meta memorizzata = {};  ///< as the archive holds it
 };
 
 /// What a single calculation does differently from the stored trip.

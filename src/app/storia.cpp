@@ -11,21 +11,22 @@ void Togli(std::vector<Passo>& passi, Ambito ambito) {
     std::erase_if(passi, [ambito](const Passo& passo) { return passo.ambito == ambito; });
 }
 
-auto Ultimo(auto& passi, Ambito ambito) {
-    return std::find_if(passi.rbegin(), passi.rend(), [ambito](const Passo& p) { return p.ambito == ambito; });
-}
+}  // namespace
 
-const Passo* Prossimo(const std::vector<Passo>& passi, Ambito ambito) {
-    const auto ultimo = Ultimo(passi, ambito);
+bool Storia::Valido(const Passo& passo) const { return !passo.archivio || passo.archivio->own == proprie_(); }
+
+const Passo* Storia::Prossimo(const std::vector<Passo>& passi, Ambito ambito) const {
+    const auto ultimo =
+        std::find_if(passi.rbegin(), passi.rend(), [&](const Passo& p) { return p.ambito == ambito && Valido(p); });
     return ultimo == passi.rend() ? nullptr : &*ultimo;
 }
 
 // The step is in neither list while it works, which may add and forget others.
-void Sposta(std::vector<Passo>& da, std::vector<Passo>& a, Ambito ambito) {
-    const auto ultimo = Ultimo(da, ambito);
-    if (ultimo == da.rend()) return;
-    const Passo passo = std::move(*ultimo);
-    da.erase(std::prev(ultimo.base()));
+void Storia::Sposta(std::vector<Passo>& da, std::vector<Passo>& a, Ambito ambito) const {
+    const Passo* prossimo = Prossimo(da, ambito);
+    if (prossimo == nullptr) return;
+    const Passo passo = *prossimo;
+    da.erase(da.begin() + (prossimo - da.data()));
     try {
         if (std::optional<Passo> inverso = passo.disfa(passo)) a.push_back(std::move(*inverso));
     } catch (const PassoPerduto&) {
@@ -35,8 +36,6 @@ void Sposta(std::vector<Passo>& da, std::vector<Passo>& a, Ambito ambito) {
         throw;
     }
 }
-
-}  // namespace
 
 void Storia::Ricorda(Passo passo) {
     Togli(annullati_, passo.ambito);

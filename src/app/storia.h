@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "interaction/failure.h"
@@ -39,6 +41,10 @@ class PassoPerduto : public Failure {
 /// Steps in the order in which they were made, and those that were taken back. It changes nothing by itself.
 class Storia {
   public:
+    /// `proprie` tells how many changes this window has made to the archive: a step that needs it as it was before some
+    /// of them is passed over. What others changed is found when the step is tried.
+    explicit Storia(std::function<std::int64_t()> proprie) : proprie_(std::move(proprie)) {}
+
     /// Adds a step that was made. Steps of its kind that were taken back are forgotten.
     void Ricorda(Passo passo);
     /// Drops the steps of that kind, made and taken back.
@@ -58,6 +64,11 @@ class Storia {
     void SegueArchivio(const Archive::Mark& prima, const Archive::Mark& adesso);
 
   private:
+    [[nodiscard]] bool Valido(const Passo& passo) const;
+    [[nodiscard]] const Passo* Prossimo(const std::vector<Passo>& passi, Ambito ambito) const;
+    void Sposta(std::vector<Passo>& da, std::vector<Passo>& a, Ambito ambito) const;
+
+    std::function<std::int64_t()> proprie_;
     std::vector<Passo> fatti_;
     std::vector<Passo> annullati_;
 };

@@ -19,6 +19,7 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
         throw Failure(u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
             QDir::toNativeSeparators(path)));
     }
+    Transaction transaction(sessione.Archivio());  // the trip that was found is the one that gets them
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     const std::optional<EsitoMemorizzazione> esito =
         MemorizzaPrimeTappe(sessione.Archivio(), aperta.meta.codice, *tappe, aperta.orario, progress);
@@ -27,6 +28,7 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
             u"La mèta con il codice %1 ha già delle tappe: un percorso si importa solo con itinerario "
             "vuoto."_s.arg(aperta.meta.codice));
     }
+    transaction.Commit();
     uscita << RiassuntoPercorso(*tappe) << '\n';
     if (esito->nomiAccorciati > 0) uscita << TestoNomiAccorciati(*esito) << '\n';
 }

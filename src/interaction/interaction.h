@@ -25,6 +25,8 @@ struct Question {
     bool cancellable = false;
     Answer preset = Answer::Yes;  ///< what Enter answers
     bool salva = false;           ///< Yes reads "Salva", No "Non salvare"
+    QString si = {};              ///< what Yes reads instead, and No: both or none
+    QString no = {};
 };
 
 /// The face of the program towards one command: the window shows boxes, the command line prints, tests script answers.

@@ -101,9 +101,7 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
     return archive.Select({Table::Itinerari, {DellaMeta(codiceMeta)}}, {itinerari::Sequenza});
 }
 
-std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario,
-                                         LettoreGuida& guida) {
-    const ReadSnapshot momento(archive);
+std::vector<Tappa> TappeMemorizzate(Archive& archive, const QString& codiceMeta) {
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
         Tappa tappa;
@@ -117,6 +115,13 @@ std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codice
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
         tappe.push_back(std::move(tappa));
     }
+    return tappe;
+}
+
+std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario,
+                                         LettoreGuida& guida) {
+    const ReadSnapshot momento(archive);
+    std::vector<Tappa> tappe = TappeMemorizzate(archive, codiceMeta);
     MettiVisite(guida, tappe, orario);
     return tappe;
 }

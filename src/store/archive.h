@@ -114,6 +114,11 @@ class Archive {
     /// Deletes the rows whose ids are greater than `after` and at most `last`.
     void DeleteRange(Table table, std::int64_t after, std::int64_t last);
 
+    /// Keys that nothing new gets while this object lives, though no row has them any more. Who hands out keys heeds
+    /// it.
+    void Retire(const QString& key) { retired_.push_back(key); }
+    [[nodiscard]] const std::vector<QString>& Retired() const { return retired_; }
+
     /// Deletes the rows whose field matches the pattern, all rows without a condition; returns how many.
     int DeleteMatching(Table table, const std::optional<Condition>& condition, Progress& progress);
 
@@ -128,6 +133,7 @@ class Archive {
 
     std::unique_ptr<Connection> connection_;
     std::int64_t rowsRead_ = 0;
+    std::vector<QString> retired_;
 };
 
 /// All that is read while it lives is from one moment of the archive, whatever other programs write. They wait until

@@ -36,6 +36,13 @@ std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
     return archive.SelectFirst({Table::MeteVandro, {{mete::Localita, NamePattern::ForName(meta.localita.trimmed())}}});
 }
 
+void RifiutaLocalitaPresente(Archive& archive, const Meta& nuova) {
+    if (const auto gia = StessaLocalita(archive, nuova)) {
+        throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*gia)[mete::Localita].trimmed(),
+                                                                       (*gia)[mete::CodiceMeta]));
+    }
+}
+
 // Within a transaction of the caller. A code that another window took meanwhile is left to it.
 QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvataggio) {
     Meta meta = nuova;
@@ -43,7 +50,7 @@ QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvatagg
     if (meta.localita.contains("AUTOSTRADA"_L1, Qt::CaseInsensitive)) meta.localita = meta.localita.toLower();
     meta.codice = salvataggio.codice;
     std::optional<Record> record = archive.SelectFirst(PerCodice(meta.codice));
-    if (record && salvataggio.nuova) meta.codice = NuovoCodiceMeta(CodiciDelleMete(archive));
+    if (record && salvataggio.nuova) meta.codice = CodiceLibero(archive);
     if (record && !salvataggio.nuova) {
         record->values = ValoriDellaMeta(meta);
         archive.Update(Table::MeteVandro, *record);
@@ -83,11 +90,17 @@ std::vector<QString> CodiciDelleMete(Archive& archive) {
     return codici;
 }
 
+QString CodiceLibero(Archive& archive) {
+    std::vector<QString> codici = CodiciDelleMete(archive);
+    codici.insert(codici.end(), archive.Retired().begin(), archive.Retired().end());
+    return NuovoCodiceMeta(codici);
+}
+
 Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta) {
     Rifiuta(DifettoDellaMeta(meta));
     if (ValoreNumerico(meta.codice) != 0) return {false, meta.codice};
     if (const auto gia = StessaLocalita(archive, meta)) return {false, (*gia)[mete::CodiceMeta]};
-    return {true, NuovoCodiceMeta(CodiciDelleMete(archive))};
+    return {true, CodiceLibero(archive)};
 }
 
 QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio) {
@@ -101,11 +114,8 @@ QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvata
 QString InserisciMeta(Archive& archive, const Meta& nuova) {
     Rifiuta(DifettoDellaMeta(nuova));
     Transaction transaction(archive);
-    if (const auto gia = StessaLocalita(archive, nuova)) {
-        throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*gia)[mete::Localita].trimmed(),
-                                                                       (*gia)[mete::CodiceMeta]));
-    }
-    QString codice = NuovoCodiceMeta(CodiciDelleMete(archive));
+    RifiutaLocalitaPresente(archive, nuova);
+    QString codice = CodiceLibero(archive);
     Scrivi(archive, nuova, {true, codice});
     transaction.Commit();
     return codice;
@@ -130,13 +140,36 @@ std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco) {
     return elenco;
 }
 
-void CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
+MetaCancellata CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
     Transaction transaction(archive);
-    const NamePattern questa = NamePattern::Exactly(codice);
-    archive.DeleteMatching(Table::Itinerari, Condition{itinerari::CodiceMeta, questa}, progress);
-    archive.DeleteMatching(Table::MeteVandro, Condition{mete::CodiceMeta, questa}, progress);
+    const Condition tappa{itinerari::CodiceMeta, NamePattern::Exactly(codice)};
+    const Condition meta{mete::CodiceMeta, NamePattern::Exactly(codice)};
+    MetaCancellata cancellata{archive.Select({Table::MeteVandro, {meta}}), archive.Select({Table::Itinerari, {tappa}})};
+    archive.DeleteMatching(Table::Itinerari, tappa, progress);
+    archive.DeleteMatching(Table::MeteVandro, meta, progress);
     transaction.Commit();
+    archive.Retire(codice);
     progress.Advance(0, 0);
+    return cancellata;
+}
+
+QString RimettiMeta(Archive& archive, const MetaCancellata& cancellata) {
+    Transaction transaction(archive);
+    QString codice;
+    for (Record meta : cancellata.meta) {
+        RifiutaLocalitaPresente(archive, MetaDaRecord(meta));
+        if (codice.isEmpty()) codice = meta[mete::CodiceMeta];
+        if (archive.Exists(PerCodice(codice))) codice = CodiceLibero(archive);
+        meta[mete::CodiceMeta] = codice;
+        archive.Insert(Table::MeteVandro, meta.values);
+    }
+    for (Record tappa : cancellata.tappe) {
+        tappa[itinerari::CodiceMeta] = codice;
+        archive.Insert(Table::Itinerari, tappa.values);
+    }
+    SalvaIlCodiceMetaCorrente(archive, codice);
+    transaction.Commit();
+    return codice;
 }
 
 ParametriViaggio CaricaDefaultMeta(Archive& archive) {

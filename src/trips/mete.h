@@ -21,6 +21,9 @@ QString NuovoCodiceMeta(std::span<const QString> codici);
 /// All codes in use, in rising order.
 std::vector<QString> CodiciDelleMete(Archive& archive);
 
+/// The code for a new trip of the archive: none in use, nor one of a trip that was deleted since it was opened.
+QString CodiceLibero(Archive& archive);
+
 /// What saving a trip will do.
 struct Salvataggio {
     bool nuova = false;  ///< a new trip; else the stored one with `codice` is changed
@@ -58,8 +61,17 @@ std::vector<MetaInElenco> ElencoMete(Archive& archive, QualiMete quali = QualiMe
 /// The same list with the trips that name a motorway behind the others.
 std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco);
 
-/// Deletes a trip with its itinerary, whole or not at all.
-void CancellaMeta(Archive& archive, const QString& codice, Progress& progress);
+/// A trip that was deleted, with its itinerary, as the rows that it had.
+struct MetaCancellata {
+    std::vector<Record> meta;
+    std::vector<Record> tappe;
+};
+
+/// Deletes a trip with its itinerary, whole or not at all. No new trip gets its code while the archive is open.
+MetaCancellata CancellaMeta(Archive& archive, const QString& codice, Progress& progress);
+/// Puts it back, makes it the current trip and returns its code, another one when that was taken meanwhile. Refused
+/// when a trip has its destination by now.
+QString RimettiMeta(Archive& archive, const MetaCancellata& cancellata);
 
 /// The personal defaults; the standard ones when none are stored.
 ParametriViaggio CaricaDefaultMeta(Archive& archive);

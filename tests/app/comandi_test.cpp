@@ -242,16 +242,23 @@ TEST_F(ComandiTest, ARouteIsPutIntoAnEmptyItineraryAndTakenAwayAgain) {
     EXPECT_EQ(Memorizzate(), Righe());
 }
 
-TEST_F(ComandiTest, NothingOfATripDeletedMeanwhileIsLeftForTheNextOfItsCode) {
+TEST_F(ComandiTest, ATripChangedMeanwhileIsNeverOverwrittenUnseen) {
     NuovaMeta(u"UNO"_s);
     MetaConTappe(u"DUE"_s, {u"A"_s});
     const std::unique_ptr<Postazione> altra = NuovaPostazione();
     copione_.Domanda(u"Confermi annullamento meta?\n\nDUE (000002)"_s, u"Annullamento meta"_s, Answer::Yes);
     comandi::CancMeta(*altra);
-    const auto rifiutata = [this](const QString& perche) {
-        DomandaModifiche(u"La mèta «DUE» (codice 000002) ha modifiche non salvate."_s, Answer::Yes);
-        copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + perche);
+    const auto salva = [this](const QString& perche, const QString& sovrascrivi, Answer risposta) {
+        DomandaModifiche(u"La mèta «DUE» (codice %1) ha modifiche non salvate."_s.arg(Viaggio().Codice()), Answer::Yes);
+        copione_.Domanda(
+            perche +
+                u"\n\n«Ricarica» mostra l'archivio com'è adesso e rinuncia a ciò che hai scritto tu.\n«Sovrascrivi» "_s +
+                sovrascrivi,
+            u"Mèta cambiata nell'archivio"_s, risposta, true);
         comandi::Fine(*postazione_);
+    };
+    const auto rifiutata = [&](const QString& perche) {
+        salva(perche, u"salva la tua come nuova mèta."_s, Answer::Cancel);
         EXPECT_EQ(Righe(), u"A"_s);
         EXPECT_EQ(Sessione(cartella_.Path()).Archivio().Count(Table::Itinerari), 0);
         for (const auto& comando : std::vector<std::function<void()>>{
@@ -260,19 +267,72 @@ TEST_F(ComandiTest, NothingOfATripDeletedMeanwhileIsLeftForTheNextOfItsCode) {
             EXPECT_EQ(prova::MessaggioDi(comando), perche);
         }
     };
-    rifiutata(u"Non esiste nessuna mèta con il codice 000002."_s);
-    altra->sessione.NuovaMeta(u"TRE"_s, u"ITALIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
-    rifiutata(u"La mèta con il codice 000002 non è più «DUE», ma «TRE»: un'altra finestra l'ha cambiata."_s);
-    DomandaModifiche(u"La mèta «DUE» (codice 000002) ha modifiche non salvate."_s, Answer::No);
-    comandi::Fine(*postazione_);
-    EXPECT_EQ(Viaggio().Campi().localita, u"TRE"_s);
+    rifiutata(u"La mèta «DUE» (codice 000002) non è più nell'archivio: un'altra finestra l'ha cancellata."_s);
+    const auto altraNuova = [this](const QString& nome) {
+        return Sessione(cartella_.Path()).NuovaMeta(nome, u"ITALIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
+    };
+    ASSERT_EQ(altraNuova(u"TRE"_s), u"000002"_s);
+    const QString unAltra =
+        u"La mèta con il codice 000002 non è più «DUE», ma «TRE»: un'altra finestra l'ha cambiata."_s;
+    rifiutata(unAltra);
+    salva(unAltra, u"salva la tua come nuova mèta."_s, Answer::Yes);
+    EXPECT_EQ(Viaggio().Codice(), u"000003"_s);
+    EXPECT_EQ(Memorizzate(u"2"_s) + u'|' + Memorizzate(u"3"_s), u"|A"_s);
+    // What the person was shown is overwritten, and nothing that came after it.
+    comandi::Itinerario(*postazione_);
+    Inserisce(u"B"_s, 5);
+    const auto altroScrive = [this](const char* sql) { AltroProgramma(sql); };
+    altroScrive("UPDATE Itinerari SET Chilometri = '7'; UPDATE MeteVandro SET Nazione = 'MALTA'");
+    const QString cambiata =
+        u"Un'altra finestra ha modificato la mèta «DUE» (codice 000003) dopo che l'hai aperta.\n\n"
+        "Che cosa è cambiato:\n- dati della mèta: nazione\n- tappe cambiate: A"_s;
+    salva(cambiata, u"mette la tua al suo posto."_s, Answer::Cancel);
+    const MetaCambiata vista = [this] {
+        try {
+            Viaggio().Cancella(avanzamento_);
+        } catch (const MetaCambiata& failure) {
+            return failure;
+        }
+        throw std::logic_error("deleted");
+    }();
+    altroScrive("INSERT INTO Itinerari (CodiceMeta, Sequenza, Localita) VALUES ('000003', '0002', 'Z')");
+    EXPECT_EQ(prova::MessaggioDi([&] { Viaggio().Sovrascrivi(vista, avanzamento_); }),
+              QString(cambiata).replace(u"- tappe"_s, u"- tappe aggiunte: Z\n- tappe"_s));
+    EXPECT_EQ(Memorizzate(u"3"_s), u"A Z"_s);
+    Viaggio().Ricarica({});
+    EXPECT_EQ(Righe() + Viaggio().Campi().nazione, u"A ZMALTA"_s);
     comandi::Nuovo(*postazione_);
     Destinazione(u"SEI"_s, u"ITALIA"_s);
     const Salvataggio nuova = Viaggio().DecidiSalvataggio();
-    altra->sessione.NuovaMeta(u"SEI"_s, u"FRANCIA"_s, QDateTime({2027, 6, 5}, {9, 0}));
+    altraNuova(u"SEI"_s);
     EXPECT_EQ(prova::MessaggioDi([&] { Viaggio().SalvaCampi(nuova); }),
               u"Nel frattempo un'altra finestra ha salvato o cancellato la mèta «SEI»: riprova."_s);
-    EXPECT_EQ(Viaggio().Codice(), u"000002"_s);
+    EXPECT_EQ(Viaggio().Codice(), u"000003"_s);
+}
+
+TEST_F(ComandiTest, ADeletedTripComesBackAndItsCodeIsNoOneElsesMeanwhile) {
+    for (const auto& nome : {u"UNO"_s, u"DUE"_s}) {
+        MetaConTappe(nome, {nome, u"X"_s});
+        Esce(Answer::Yes);
+    }
+    CancMeta(Answer::Yes);
+    CancMeta(Answer::Yes);
+    EXPECT_EQ(Schermo(), u"vuota"_s);
+    NuovaMeta(u"TRE"_s);
+    EXPECT_EQ(Viaggio().Codice(), u"000003"_s);
+    EXPECT_EQ(postazione_->DaAnnullare(), u"cancellazione di «UNO»"_s);
+    copione_.Messaggio(u"La mèta «UNO» è di nuovo nell'archivio, con il codice 000001."_s);
+    comandi::Annulla(*postazione_);
+    EXPECT_EQ(Righe(), u"UNO X"_s);
+    // Where the name was given away the step waits; where the code was, another one is taken.
+    ASSERT_EQ(Sessione(cartella_.Path()).NuovaMeta(u"DUE"_s, u"MALTA"_s, QDateTime({2027, 6, 5}, {9, 0})), u"000002"_s);
+    copione_.Messaggio(u"Esiste già la mèta DUE con il codice 000002."_s);
+    comandi::Annulla(*postazione_);
+    AltroProgramma("UPDATE MeteVandro SET Localita = 'ALTRA' WHERE CodiceMeta = '000002'");
+    copione_.Messaggio(u"La mèta «DUE» è di nuovo nell'archivio, con il codice 000004."_s);
+    comandi::Annulla(*postazione_);
+    EXPECT_EQ(Righe() + u'|' + Memorizzate(u"2"_s) + u'|' + Memorizzate(u"4"_s), u"DUE X||DUE X"_s);
+    EXPECT_EQ(postazione_->DaAnnullare(), std::nullopt);
 }
 
 TEST_F(ComandiTest, TheHistoryOfATripGoesWithIt) {

@@ -291,11 +291,15 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     }
 
     void Annuncia(const QString& bottone, const QString& testo, const QString& titolo) {
-        static const std::map<QString, QMessageBox::StandardButton> bottoni = {
-            {u"Sì"_s, QMessageBox::Yes},         {u"No"_s, QMessageBox::No},
-            {u"Annulla"_s, QMessageBox::Cancel}, {u"Altro"_s, QMessageBox::Discard},
-            {u"Salva"_s, QMessageBox::Save},     {u"Non salvare"_s, QMessageBox::Discard},
-            {u"Ok"_s, QMessageBox::Ok}};
+        static const std::map<QString, QMessageBox::StandardButton> bottoni = {{u"Sì"_s, QMessageBox::Yes},
+                                                                               {u"No"_s, QMessageBox::No},
+                                                                               {u"Annulla"_s, QMessageBox::Cancel},
+                                                                               {u"Altro"_s, QMessageBox::Discard},
+                                                                               {u"Salva"_s, QMessageBox::Save},
+                                                                               {u"Non salvare"_s, QMessageBox::Discard},
+                                                                               {u"Sovrascrivi"_s, QMessageBox::Yes},
+                                                                               {u"Ricarica"_s, QMessageBox::No},
+                                                                               {u"Ok"_s, QMessageBox::Ok}};
         const QString preset = bottone.section(u'/', 1);
         Attendi({Attesa::Che::Box,
                  testo,

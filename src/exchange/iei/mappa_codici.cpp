@@ -31,6 +31,9 @@ class CodiciOccupati {
             occupati_[static_cast<std::size_t>(*numero)] = true;
             ultimo_ = std::max(ultimo_, *numero);
         });
+        for (const QString& codice : archive.Retired()) {
+            if (const std::optional<int> numero = NumeroDelCodice(codice)) Occupa(*numero);
+        }
     }
 
     bool Occupa(int numero) {

@@ -66,6 +66,8 @@ Answer InterazioneFinestra::Ask(const Question& question) {
     box.setDefaultButton(question.salva ? si : Bottone(question.preset));
     if (question.salva) box.button(si)->setText(u"&Salva"_s);
     if (question.salva) box.button(no)->setText(u"&Non salvare"_s);
+    if (!question.si.isEmpty()) box.button(si)->setText(question.si);
+    if (!question.no.isEmpty()) box.button(no)->setText(question.no);
     // Closing the box by its frame leaves everything as it is.
     box.setEscapeButton(question.cancellable ? QMessageBox::Cancel : QMessageBox::No);
     const int bottone = box.exec();
