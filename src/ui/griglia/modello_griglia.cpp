@@ -69,6 +69,16 @@ QString Testo(const CambioGiorno& cambio) {
     return cambio.da == cambio.a ? u"Giorno %1"_s.arg(cambio.da) : u"Giorni %1-%2"_s.arg(cambio.da).arg(cambio.a);
 }
 
+// How long one could stay here and be home in time all the same.
+QString TestoMargine(Centesimi margine) {
+    if (margine < 0_cent) return u"Il limite è passato da %1 ore."_s.arg(TestoOreBrevi(0_cent - margine));
+    const Durata durata = InDurata(margine, kGiornoOrologio);
+    const QString ore = TestoOreBrevi(InCentesimi({0, durata.ore, durata.minuti}, kGiornoOrologio));
+    if (durata.giorni == 0) return u"Margine: %1 ore."_s.arg(ore);
+    return u"Margine: %1 %2 e %3 ore."_s.arg(QString::number(durata.giorni),
+                                             durata.giorni == 1 ? u"giorno"_s : u"giorni"_s, ore);
+}
+
 // A little of the text's colour, whatever the theme.
 QBrush SfondoDellaLinea() {
     const QPalette& colori = QApplication::palette();
@@ -188,6 +198,10 @@ QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
     if (cronovia_ && colonna == Colonna::Note) {
         const auto motivo = motivi_.find(*mostrate_.Riga(riga));
         if (motivo != motivi_.end()) testi += motivo->second;
+    }
+    if (cronovia_ && colonna == Colonna::LimiteRitorno) {
+        const RigaCronovia& dati = cronovia_->righe[static_cast<std::size_t>(*mostrate_.Riga(riga))];
+        if (const auto margine = MargineRientro(dati)) testi += TestoMargine(*margine);
     }
     if (const CambioGiorno* cambio = Cambio(riga); cambio != nullptr && colonna == Colonna::Tappa) {
         testi += Testo(*cambio) + (cambio->dentro ? u": comincia lungo la strada o durante la sosta"_s

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -101,6 +102,13 @@ void VistaGriglia::SelezionaRighe(int prima, int ultima, int corrente) {
                              QItemSelectionModel::ClearAndSelect);
     scrollTo(index);
     inSelezione_ = false;
+}
+
+// The line of a day is wider than the view: nothing is gained by going aside for it.
+void VistaGriglia::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    const int prima = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    if (index.data(kRuoloLinea).toBool()) horizontalScrollBar()->setValue(prima);
 }
 
 void VistaGriglia::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

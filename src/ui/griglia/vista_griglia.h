@@ -32,6 +32,8 @@ class VistaGriglia : public QTableView {
     [[nodiscard]] QByteArray Larghezze() const;
     void RipristinaLarghezze(const QByteArray& larghezze);
 
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
   Q_SIGNALS:
     /// The person wants to be so many rows further down; and to select the rows up to there; up to a row.
     void Spostamento(int righe);
