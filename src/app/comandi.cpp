@@ -4,6 +4,7 @@
 #include "app/comandi_cronovia.h"
 #include "app/comandi_guida.h"
 #include "app/comandi_inserimento.h"
+#include "app/comandi_righe.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 
@@ -36,6 +37,25 @@ constexpr std::array<DescrizioneComando, kComandi> Tabella() {
          kAnnullabile, &comandi::Annulla},
         {Comando::Ripeti, u"cmdRipeti", u"Ripeti", nullptr, u"Ctrl+Shift+Z", u"Ripete la modifica annullata",
          Menu::Modifica, kRipetibile, &comandi::Ripeti},
+        {Comando::Taglia, u"cmdTaglia", u"Taglia", u"&Taglia righe", u"Ctrl+X",
+         u"Copia le righe scelte e le toglie dall'itinerario", Menu::Modifica, kInserimento, &comandi::Taglia, true},
+        {Comando::Copia, u"cmdCopia", u"Copia", u"C&opia righe", u"Ctrl+C",
+         u"Copia le righe scelte, anche per un foglio di calcolo", Menu::Modifica, kInserimento, &comandi::Copia},
+        {Comando::Incolla, u"cmdIncolla", u"Incolla", u"&Incolla righe", u"Ctrl+V",
+         u"Incolla le righe copiate, anche da un foglio di calcolo, prima della riga corrente", Menu::Modifica,
+         kInserimento, &comandi::Incolla},
+        {Comando::DuplicaRighe, u"cmdDuplicaRighe", u"Duplica", u"&Duplica righe", u"Ctrl+D",
+         u"Ripete le righe scelte, o le tappe del giorno, subito dopo", Menu::Modifica, kInserimento | kCronovia,
+         &comandi::DuplicaScelte},
+        {Comando::TogliRighe, u"cmdTogliRighe", u"Toglie", u"To&glie righe\tCanc", u"",
+         u"Toglie le righe scelte, o le tappe del giorno", Menu::Modifica, kInserimento | kCronovia,
+         &comandi::TogliScelte},
+        {Comando::SpostaSu, u"cmdSpostaSu", u"Sposta su", u"Sposta s&u\tAlt+Su", u"",
+         u"Sposta in su le righe scelte, o le tappe del giorno", Menu::Modifica, kInserimento | kCronovia,
+         &comandi::SpostaSu},
+        {Comando::SpostaGiu, u"cmdSpostaGiu", u"Sposta giù", u"Sposta giù\tAlt+Giù", u"",
+         u"Sposta in giù le righe scelte, o le tappe del giorno", Menu::Modifica, kInserimento | kCronovia,
+         &comandi::SpostaGiu},
         {Comando::SalvaDefault, u"cmdDefault_0", u"Sa&lva", u"&Salva come valori abituali", u"",
          u"Salva i tempi e le velocità come valori abituali", Menu::Modifica, kCampiLiberi, &comandi::SalvaDefault,
          true},
@@ -53,6 +73,9 @@ constexpr std::array<DescrizioneComando, kComandi> Tabella() {
          u"Apre una riga vuota prima di quella corrente", Menu::Itinerario, kInserimento, &comandi::Aggiunge},
         {Comando::Cancella, u"cmdCancella", u"&Cancella riga/tappa", nullptr, u"", u"Cancella la riga corrente",
          Menu::Itinerario, kDueTappe, &comandi::Cancella},
+        {Comando::DividiTappa, u"cmdDividiTappa", u"Divide la tappa", u"&Divide la tappa…", u"",
+         u"Mette una località lungo la strada della tappa corrente", Menu::Itinerario, kInserimento,
+         &comandi::DividiTappaCorrente},
         {Comando::Cerca, u"cmdCerca", u"C&erca località", nullptr, u"Ctrl+F", u"Cerca una località dell'itinerario",
          Menu::Itinerario, kInserimento, &comandi::Cerca},
         {Comando::Ritorno, u"cmdRitorno", u"Ri&torno a start", nullptr, u"",
@@ -76,6 +99,9 @@ constexpr std::array<DescrizioneComando, kComandi> Tabella() {
          Menu::Cronovia, kVuota | kNuova | kAperta | kCronovia | kStampa, &comandi::Calcola},
         {Comando::Ricalcola, u"cmdRicalcola", u"Ricalc&ola", nullptr, u"F9",
          u"Calcola la cronovia con le modifiche in corso", Menu::Cronovia, kDueTappe, &comandi::Ricalcola},
+        {Comando::FineGiornata, u"cmdFineGiornata", u"Fine giornata", u"&Fine giornata, sì o no", u"",
+         u"Fa finire il giorno all'ultima tappa raggiunta, o toglie la fine della giornata", Menu::Cronovia, kCronovia,
+         &comandi::FineGiornataCorrente},
         {Comando::Stampa, u"cmdStampa", u"&Stampa", u"&Stampa cronovia…", u"Ctrl+P", u"Stampa la cronovia",
          Menu::Cronovia, kVuota | kNuova | kAperta | kCronovia | kStampa, &comandi::Stampa, true},
         {Comando::GuidaCitta, u"cmdGuidaCitta", u"&Guida città", nullptr, u"Ctrl+U",

@@ -25,6 +25,13 @@ enum class Comando {
     // Modifica
     Annulla,
     Ripeti,
+    Taglia,
+    Copia,
+    Incolla,
+    DuplicaRighe,
+    TogliRighe,
+    SpostaSu,
+    SpostaGiu,
     SalvaDefault,
     CaricaDefault,
     RipristinaDefault,
@@ -34,6 +41,7 @@ enum class Comando {
     Inserisce,
     Aggiunge,
     Cancella,
+    DividiTappa,
     Cerca,
     Ritorno,
     Duplica,
@@ -45,6 +53,7 @@ enum class Comando {
     // Cronovia
     Calcola,
     Ricalcola,
+    FineGiornata,
     Stampa,
     // Guida
     GuidaCitta,

@@ -129,7 +129,11 @@ void FormMete::CreaStampe(QGridLayout& area) {
 
 // What stands in menus beside the commands.
 void FormMete::CompletaMenu() {
-    griglia_.Vista().addActions({&azioni_.Di(Comando::Annulla), &azioni_.Di(Comando::Ripeti)});
+    for (const Comando comando :
+         {Comando::Annulla, Comando::Ripeti, Comando::Taglia, Comando::Copia, Comando::Incolla, Comando::DuplicaRighe,
+          Comando::TogliRighe, Comando::SpostaSu, Comando::SpostaGiu, Comando::DividiTappa, Comando::FineGiornata}) {
+        griglia_.Vista().addAction(&azioni_.Di(comando));
+    }
     azioni_.MenuDi(Menu::Vista).addActions(griglia_.Vista().horizontalHeader()->actions());
     QMenu& aiuto = azioni_.MenuDi(Menu::Aiuto);
     QAction* informazioni = aiuto.actions().constFirst();

@@ -23,6 +23,7 @@
 //   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
 //   entry NAME TEXT                   a further entry, as if the list had been shown with it
 //   drop NAME FILE                    as the desktop does it, which would like to move the file
+//   drop-rows NAME FIRST LAST ROW     rows of the itinerary, before another one
 //   resize W H · drag TABLE COL W     the window; a column by its edge
 //   expect NAME TEXT                  what a control says; boxes that can be ticked say "on" or "off"
 //   expect-entries NAME "FIRST … LAST" of a drop-down list
@@ -246,6 +247,20 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         QTest::qWait(10);
     }
 
+    // Rows of the itinerary, dragged to the upper half of another one; beyond the last, below all.
+    void LasciaRighe(const QStringList& p) {
+        auto& vista = Usabile<QTableView>(p[0]);
+        const QModelIndex meta = vista.model()->index(p[3].toInt() - 1, 1);
+        vista.scrollTo(meta);
+        const QPoint dove = meta.isValid() ? vista.visualRect(meta).topLeft() + QPoint(5, 2) : QPoint(5, 100'000);
+        const std::unique_ptr<QMimeData> dati(Trascinamento::NuoviDati({std::nullopt, {p[1].toInt(), p[2].toInt()}}));
+        QDragEnterEvent entra(dove, Qt::MoveAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(vista.viewport(), &entra);
+        QDropEvent lascia(dove, Qt::MoveAction, dati.get(), Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(vista.viewport(), &lascia);
+        QCoreApplication::processEvents();
+    }
+
     // Takes hold of the right edge of a column's heading.
     void Trascina(const QString& tabella, int colonna, int larghezza) {
         QHeaderView& testata = *Usabile<QTableView>(tabella).horizontalHeader();
@@ -452,6 +467,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"trigger"_s, {1, [this](auto& p) { Trova<QAction>(p[0]).trigger(); }}},
         {u"beside"_s, {1, [this](auto& p) { QTest::mouseClick(&Trova(p[0]), Qt::LeftButton); }}},
         {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
+        {u"drop-rows"_s, {4, [this](auto& p) { LasciaRighe(p); }}},
         {u"drop"_s, {3, [this](auto& p) { Lascia(p[0], p[1], p[2]); }}},
         {u"entry"_s, {2, [this](auto& p) { Usabile<QListWidget>(p[0]).addItem(p[1]); }}},
         {u"resize"_s, {2, [this](auto& p) { form_->resize(p[0].toInt(), p[1].toInt()); }}},
