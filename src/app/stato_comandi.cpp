@@ -64,6 +64,10 @@ StatoComandi StatoDeiComandi(const Fatti& fatti, const Schermata& schermata) {
         stato.scritte[Comando::Esce] = u"&Stop"_s;
     } else if (stampa || std::holds_alternative<schermata::Cronovia>(schermata)) {
         stato.scritte[Comando::Calcola] = u"S&blocca"_s;
+        stato.scritte[Comando::DuplicaRighe] = u"&Duplica il giorno"_s;
+        stato.scritte[Comando::TogliRighe] = u"To&glie il giorno\tCanc"_s;
+        stato.scritte[Comando::SpostaSu] = u"Sposta s&u il giorno\tAlt+Su"_s;
+        stato.scritte[Comando::SpostaGiu] = u"Sposta giù il giorno\tAlt+Giù"_s;
     }
     if (stampa) stato.scritte[Comando::Stampa] = u"Stampa"_s;  // its letter is that of the print frames
     if (fatti.annulla) stato.scritte[Comando::Annulla] = DelPasso(u"Annulla"_s, *fatti.annulla);

@@ -46,16 +46,22 @@ Istruzioni AiutoTempi() {
 }
 
 Istruzioni AiutoInserimento() {
-    return {u"cmdHelpInserimento"_s, u"Inserimento itinerario"_s,
-            u"Una tappa è la località a cui arrivi. La prima riga è la partenza.\n\n"
-            "Distanza: i chilometri dalla tappa precedente. Dalla terza riga, se quelli progressivi superano 100, puoi "
-            "scrivere i chilometri dall'inizio del viaggio: se il numero è maggiore del progressivo precedente, si "
-            "inserisce la differenza. La casella «Km. progress.» dice se la regola vale per la riga: togli la spunta "
-            "per scrivere quelli "
-            "della tappa.\n\n"
-            "Con distanza 0 serve una sosta, la fine della giornata o un traghetto (TRAGH nel numero di strada).\n\n"
-            "Fai clic su una riga per correggerla. Ctrl+Z annulla, Ctrl+Maiusc+Z ripete. Niente è salvato prima di "
-            "«Salva Reset» o di «Fine inser.»."_s};
+    return {
+        u"cmdHelpInserimento"_s, u"Inserimento itinerario"_s,
+        u"Una tappa è la località a cui arrivi. La prima riga è la partenza.\n\n"
+        "Distanza: i chilometri dalla tappa precedente. Dalla terza riga, se quelli progressivi superano 100, puoi "
+        "scrivere i chilometri dall'inizio del viaggio: se il numero è maggiore del progressivo precedente, si "
+        "inserisce la differenza. La casella «Km. progress.» dice se la regola vale per la riga: togli la spunta "
+        "per scrivere quelli "
+        "della tappa.\n\n"
+        "Con distanza 0 serve una sosta, la fine della giornata o un traghetto (TRAGH nel numero di strada).\n\n"
+        "Con Maiusc scegli più righe, con Alt e le frecce o con il mouse le sposti, con Canc le togli; con Ctrl+C e "
+        "Ctrl+V le copi, anche da e per un foglio di calcolo. I chilometri che così non valgono più diventano «da "
+        "indicare».\n\n"
+        "Le linee tra le tappe mostrano dove cominciano i giorni dell'ultima cronovia; con «Calcolo dal vivo» "
+        "seguono ogni modifica.\n\n"
+        "Fai clic su una riga per correggerla. Ctrl+Z annulla, Ctrl+Maiusc+Z ripete. Niente è salvato prima di "
+        "«Salva Reset» o di «Fine inser.»."_s};
 }
 
 Istruzioni AiutoDuplica() {

@@ -138,7 +138,7 @@ bool VistaGriglia::PiegaConTasto(const QKeyEvent& event) {
     }
 }
 
-// What is selected moves with Alt and the arrows.
+// What is selected moves with Alt and the arrows. A day goes by its line alone, not by one of its rows.
 bool VistaGriglia::CambiaConTasto(const QKeyEvent& event) {
     if (diGuida_) return false;
     const bool freccia = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
@@ -147,6 +147,7 @@ bool VistaGriglia::CambiaConTasto(const QKeyEvent& event) {
         return true;
     }
     if (event.key() != Qt::Key_Delete || event.modifiers() != Qt::NoModifier) return false;
+    if (!diTappe_ && !currentIndex().data(kRuoloLinea).toBool()) return false;
     Q_EMIT Togli();
     return true;
 }
