@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "calendar/testo.h"
-#include "print/stampa_cronovia.h"
+#include "print/testata.h"
 
 namespace cronovia {
 
@@ -13,8 +13,7 @@ namespace {
 
 constexpr double kInterlinea = 3.3;
 constexpr double kRientro = 2;  // of the texts from the left border of their group
-constexpr int kRighe = 8;       // the captions and seven lines
-constexpr std::array<double, 4> kGruppi = {kSinistraCronovia, 66, 125, 193};
+constexpr std::array<double, 4> kGruppi = {kSinistraFoglio, 66, 125, 193};
 
 // The lines of one group, 0 being that of its caption.
 class Gruppo {
@@ -25,19 +24,13 @@ class Gruppo {
           destra_(kGruppi[gruppo + 1]),
           prima_(foglio.RigaStampa() + 1.6) {}
 
-    void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {Famiglia::Times, 8, true}); }
-    void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {Famiglia::Times, 8}); }
-    void VoceGrassetta(const QString& testo, int riga, double x) {
-        Scrivi(testo, riga, sinistra_ + x, {Famiglia::Times, 8, true});
-    }
+    void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {8, true}); }
+    void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {8}); }
+    void VoceGrassetta(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {8, true}); }
     /// Ends at `x`.
     void Numero(const QString& testo, int riga, double x, bool grassetto = false) {
-        foglio_.StampaTesto({testo,
-                             Riga(riga),
-                             sinistra_,
-                             sinistra_ + x + kRientroDestra,
-                             {Famiglia::Times, 8, grassetto},
-                             Allineamento::Destra});
+        foglio_.StampaTesto(
+            {testo, Riga(riga), sinistra_, sinistra_ + x + kRientroDestra, {8, grassetto}, Allineamento::Destra});
     }
 
   private:
@@ -61,6 +54,22 @@ QString Ora(Centesimi orario) {
     return hhmm.left(2) + u':' + hhmm.right(2);
 }
 
+QString Politica(CalcoloSoste calcolo) {
+    switch (calcolo) {
+        case CalcoloSoste::SosteItinerario:
+            return u"dell'itinerario"_s;
+        case CalcoloSoste::SosteGuida:
+            return u"della guida"_s;
+        case CalcoloSoste::SostaMaggiore:
+            return u"la maggiore fra itinerario e guida"_s;
+        case CalcoloSoste::SostaMinore:
+            return u"la minore fra itinerario e guida"_s;
+        case CalcoloSoste::NessunaSosta:
+            break;
+    }
+    return u"nessuna"_s;
+}
+
 void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
     gruppo.Titolo(u"Periodo del viaggio:"_s);
     gruppo.VoceGrassetta(u"Inizio:"_s, 1, kRientro);
@@ -68,6 +77,8 @@ void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
         const NumeroGiorno inizio = *dati.meta.dataInizio;
         gruppo.Voce(DataEOra(GiornoSettimana(inizio), TestoData(inizio), Ora(dati.meta.oraInizio)), 2, kRientro);
     }
+    const int giorni = dati.meta.giorniAdeguamento;
+    gruppo.Voce(u"Giorni voluti: "_s + (giorni > 0 ? QString::number(giorni) : u"quanti ne servono"_s), 7, kRientro);
     gruppo.VoceGrassetta(u"Fine:"_s, 4, kRientro);
     const TestiFine& fine = dati.fine;
     if (fine.giorni.isEmpty()) return;
@@ -92,7 +103,9 @@ void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
         gruppo.Numero(dati.totali.km[i], riga, kKm);
         gruppo.Numero(dati.totali.tempo[i], riga, kTempo);
     }
-    gruppo.Voce(u"(sono previsti %1 traghetti)"_s.arg(dati.totali.traghetti), 7, kRientro);
+    gruppo.Voce(
+        u"(sono previsti %1 traghetti di %2)"_s.arg(dati.totali.traghetti, Ora(dati.orario.Parametri().oreTraghetti)),
+        7, kRientro);
 }
 
 void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {
@@ -113,6 +126,8 @@ void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {
     }
     gruppo.Voce(u"Visite"_s, riga, kRientro);
     gruppo.Voce(u"Dalle %1 alle %2"_s.arg(Ora(p.inizioVisita), Ora(p.fineVisita)), riga, kOra);
+    gruppo.Voce(u"Soste"_s, ++riga, kRientro);
+    gruppo.Voce(Politica(p.calcoloSoste), riga, kOra);
     gruppo.VoceGrassetta(u"Riposi"_s, 1, kRiposi);
     const std::array<QString, 4> riposi = {
         Zero(p.riposoMinuti, 2) + u" minuti"_s, u"ogni "_s + Zero(p.riposoOre, 2) + u" ore;"_s,
@@ -132,8 +147,8 @@ void TracciaCornice(Foglio& foglio, double alto, double basso) {
 }  // namespace
 
 void StampaCaratteristiche(const DatiStampa& dati, Foglio& foglio) {
-    const int prima = foglio.RigaStampa();
-    constexpr int kAltezza = static_cast<int>(kRighe * kInterlinea);
+    const double prima = foglio.RigaStampa();
+    constexpr double kAltezza = 26;
     TracciaCornice(foglio, prima - 2.0, prima + kAltezza + 1.2);
     StampaPeriodo(dati, {foglio, 0});
     StampaPercorrenze(dati, {foglio, 1});

@@ -1,6 +1,9 @@
 #include "print/dati_stampa.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "schedule/testi_giornata.h"
 
 namespace cronovia {
 
@@ -21,17 +24,36 @@ std::vector<RigaStampata> Righe(const Cronovia& cronovia) {
         const RigaCronovia& riga = cronovia.righe[i];
         const RigaCronovia& dopo = cronovia.righe[std::min(i + 1, cronovia.righe.size() - 1)];
         const auto limite = riga.limite ? std::optional(Testi(*riga.limite)) : std::nullopt;
-        righe.push_back(
-            {riga.genere, riga.eventi.riposo, ConSosta(cronovia, dopo), limite, TestiDellaRiga(cronovia, i)});
+        righe.push_back({riga.genere, riga.eventi.riposo, riga.eventi.notte || riga.eventi.notteTardiva,
+                         ConSosta(cronovia, dopo), limite, TestiDellaRiga(cronovia, i), riga.tappa, 0});
     }
     return righe;
+}
+
+std::vector<GiornoStampato> Giorni(const std::vector<Giornata>& giornate, const Cronovia& cronovia) {
+    std::vector<StrisciaDelGiorno> strisce = Strisce(cronovia, giornate);
+    std::vector<GiornoStampato> giorni;
+    giorni.reserve(giornate.size());
+    for (std::size_t i = 0; i < giornate.size(); ++i) {
+        giorni.push_back({giornate[i], TestiRinvii(giornate[i], cronovia), std::move(strisce[i])});
+    }
+    return giorni;
 }
 
 }  // namespace
 
 DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia) {
-    return {meta, cronovia.orario, Righe(cronovia), Testi(cronovia.fine),
-            Testi(cronovia.totali, cronovia.orario.GuidaGiorno())};
+    DatiStampa dati{
+        meta,
+        cronovia.orario,
+        Righe(cronovia),
+        meta.dataInizio ? Giorni(Giornate(cronovia, *meta.dataInizio), cronovia) : std::vector<GiornoStampato>(),
+        Testi(cronovia.fine),
+        Testi(cronovia.totali, cronovia.orario.GuidaGiorno())};
+    for (std::size_t i = 0; i < dati.giorni.size(); ++i) {
+        for (const int riga : dati.giorni[i].giornata.righe) dati.righe[static_cast<std::size_t>(riga)].giorno = i;
+    }
+    return dati;
 }
 
 }  // namespace cronovia

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 #include <vector>
 
 #include "itinerary/riepilogo.h"
 #include "schedule/colonne.h"
 #include "schedule/riga_cronovia.h"
+#include "schedule/strisce.h"
 #include "trips/meta.h"
 
 namespace cronovia {
@@ -16,9 +18,19 @@ namespace cronovia {
 struct RigaStampata {
     GenereRiga genere = GenereRiga::Marcia;
     bool riposo = false;                ///< a short rest follows
+    bool notte = false;                 ///< the night follows
     bool sostaDopo = false;             ///< a stop, or a visit with its time, stands in the row that follows
     std::optional<TestiLimite> limite;  ///< until when one can drive on, or must turn back
     RigaGriglia testi;                  ///< without a locality the row is not printed
+    int tappa = 0;                      ///< rows of one stage have one number
+    std::size_t giorno = 0;             ///< position of its day; those of a day follow each other
+};
+
+/// A day of the schedule.
+struct GiornoStampato {
+    Giornata giornata;
+    QStringList rinvii;  ///< why something is later
+    StrisciaDelGiorno striscia;
 };
 
 /// A snapshot: nothing in it changes with the trip.
@@ -26,6 +38,7 @@ struct DatiStampa {
     Meta meta;
     OrarioCorretto orario;  ///< as the calculation took it
     std::vector<RigaStampata> righe;
+    std::vector<GiornoStampato> giorni;
     TestiFine fine;
     TestiTotali totali;  ///< of the schedule, by road type
 };

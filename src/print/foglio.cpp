@@ -1,5 +1,7 @@
 #include "print/foglio.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace cronovia {
@@ -8,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Carattere kCarattereDelPiede{Famiglia::Times, 6};
+constexpr Carattere kCarattereDelPiede{6.5};
+constexpr double kInterlineaMinima = 2.3;  // of two lines in the least size, which one row has room for
 
 double Ascissa(const TestoColonna& testo, double larghezza) {
     switch (testo.allineamento) {
@@ -28,55 +31,106 @@ QString Inizio(const QString& testo, qsizetype unita) {
     return testo.left(spezzato ? unita - 1 : unita);
 }
 
+// The most units of a text, from `minimo` on, for which something holds that holds for shorter ones.
+template <typename Vale>
+qsizetype Massimo(qsizetype troppo, const Vale& vale) {
+    qsizetype va = 0;
+    while (troppo - va > 1) {
+        const qsizetype mezzo = (va + troppo) / 2;
+        (vale(mezzo) ? va : troppo) = mezzo;
+    }
+    return va;
+}
+
 }  // namespace
 
 Foglio::Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro)
-    : documento_{titolo, {}, lavoro}, piede_(std::move(piede)) {}
+    : documento_{titolo, {}, lavoro, {}}, piede_(std::move(piede)) {}
 
-void Foglio::ApriPagina(int rigaStampa) {
+void Foglio::ApriPagina(double rigaStampa) {
     documento_.pagine.emplace_back();
     rigaStampa_ = rigaStampa;
 }
 
 QString Foglio::Tagliato(const QString& testo, const Carattere& carattere, double larghezza) {
     if (Entra(testo, carattere, larghezza)) return testo;
-    qsizetype entra = 0;
-    for (qsizetype troppo = testo.size(); troppo - entra > 1;) {
-        const qsizetype mezzo = (entra + troppo) / 2;
-        (Entra(Inizio(testo, mezzo), carattere, larghezza) ? entra : troppo) = mezzo;
-    }
-    return Inizio(testo, entra);
+    const QString puntini = u"…"_s;
+    const qsizetype unita = Massimo(
+        testo.size(), [&](qsizetype n) { return Entra(Inizio(testo, n).trimmed() + puntini, carattere, larghezza); });
+    return unita == 0 ? QString() : Inizio(testo, unita).trimmed() + puntini;
+}
+
+TestoCollocato Foglio::Colloca(const TestoColonna& testo) {
+    const double larghezza = Larghezza(testo.testo, testo.carattere);
+    return {testo.testo, testo.carattere, Ascissa(testo, larghezza), BaseDaRiga(testo.y, testo.carattere), larghezza};
 }
 
 void Foglio::StampaTesto(const TestoColonna& testo) {
-    const QString scritto = Tagliato(testo.testo.trimmed(), testo.carattere, testo.x2 - testo.x1 + kEccedenza);
-    if (scritto.isEmpty()) return;
-    const double larghezza = misure_.Larghezza(scritto, testo.carattere);
-    const double base = BaseDaRiga(testo.y, testo.carattere);
-    PaginaCorrente().testi.push_back({scritto, testo.carattere, Ascissa(testo, larghezza), base, larghezza});
+    TestoColonna scritto = testo;
+    scritto.testo = Tagliato(testo.testo.trimmed(), testo.carattere, testo.x2 - testo.x1 + kEccedenza);
+    if (!scritto.testo.isEmpty()) PaginaCorrente().testi.push_back(Colloca(scritto));
 }
 
+void Foglio::StampaAdattato(const TestoColonna& testo) {
+    TestoColonna riga = testo;
+    riga.testo = testo.testo.trimmed();
+    const double larghezza = testo.x2 - testo.x1;
+    riga.carattere = Ristretto(riga.testo, testo.carattere, larghezza);
+    const qsizetype unita = Massimo(
+        riga.testo.size() + 1, [&](qsizetype n) { return Entra(Inizio(riga.testo, n), riga.carattere, larghezza); });
+    const qsizetype spazio = riga.testo.lastIndexOf(u' ', unita);
+    if (unita < riga.testo.size() && spazio > 0) {
+        TestoColonna prima = riga;
+        prima.testo = riga.testo.left(spazio);
+        prima.y -= kInterlineaMinima;
+        StampaTesto(prima);
+        riga.testo = riga.testo.mid(spazio + 1);
+    } else {
+        riga.y = RigaDaBase(BaseDaRiga(testo.y, testo.carattere), riga.carattere);
+    }
+    riga.testo = Tagliato(riga.testo, riga.carattere, larghezza);
+    StampaTesto(riga);
+}
+
+void Foglio::StampaNumeroPagina(TestoColonna colonna) {
+    numeri_.push_back({std::move(colonna), documento_.pagine.size() - 1, PaginaCorrente().testi.size()});
+}
+
+// Widths grow with the size as a straight line.
 Carattere Foglio::Ristretto(const QString& testo, Carattere carattere, double larghezza) {
-    while (carattere.dimensione > kDimensioneMinima && !Entra(testo, carattere, larghezza)) {
-        --carattere.dimensione;
+    const double unitaria = Larghezza(testo, {1, carattere.grassetto, carattere.corsivo});
+    while (carattere.dimensione > kDimensioneMinima && unitaria * carattere.dimensione >= larghezza) {
+        carattere.dimensione = std::max(carattere.dimensione - kPassoDimensione, kDimensioneMinima);
     }
     return carattere;
 }
 
 void Foglio::StampaLogo(const QRectF& area) { PaginaCorrente().immagini.push_back({area, u":/print/logo.svg"_s}); }
 
-void Foglio::StampaFinePagina(std::span<const int> bordi) {
+void Foglio::Segna(const QString& titolo, double y) {
+    documento_.segnalibri.push_back({titolo, documento_.pagine.size() - 1, y});
+}
+
+void Foglio::StampaFinePagina(double sinistra, double destra) {
     if (!PaginaAperta()) return;
     Carattere data = kCarattereDelPiede;
     data.corsivo = true;
-    const auto y = static_cast<double>(rigaStampa_);
-    const auto primo = static_cast<double>(bordi.front());
-    const auto ultimo = static_cast<double>(bordi.back());
-    StampaTesto({piede_.oggi.toString(u"dd/MM/yyyy"_s), y, primo, static_cast<double>(bordi[3]), data});
-    StampaTesto({piede_.destra, y, primo, ultimo + kRientroDestra, kCarattereDelPiede, Allineamento::Destra});
-    rigaStampa_ -= kAltezzaRiga;
-    Traccia(Linea{primo, static_cast<double>(rigaStampa_), ultimo, static_cast<double>(rigaStampa_), Filetto::Spesso});
+    constexpr double kPiede = kUltimaRiga + kAltezzaRiga;
+    const double chiusura = rigaStampa_ - kAltezzaRiga;
+    StampaTesto({piede_.oggi.toString(u"dd/MM/yyyy"_s), kPiede, sinistra, destra, data});
+    StampaTesto({piede_.destra, kPiede, sinistra, destra + kRientroDestra, kCarattereDelPiede, Allineamento::Destra});
+    Traccia(Linea{sinistra, chiusura, destra, chiusura, Filetto::Spesso});
     rigaStampa_ = kNessunaPagina;
+}
+
+Stampato Foglio::Concluso() {
+    for (Numero& numero : numeri_) {
+        numero.colonna.testo =
+            u"Pagina %1 di %2"_s.arg(QString::number(numero.pagina + 1), QString::number(documento_.pagine.size()));
+        auto& testi = documento_.pagine[numero.pagina].testi;
+        testi.insert(testi.begin() + static_cast<std::ptrdiff_t>(numero.testo), Colloca(numero.colonna));
+    }
+    return std::move(documento_);
 }
 
 }  // namespace cronovia

@@ -4,7 +4,7 @@
 #include <QDate>
 #include <QRectF>
 #include <QString>
-#include <span>
+#include <vector>
 
 #include "print/font_stampa.h"
 #include "print/pagina.h"
@@ -12,11 +12,12 @@
 namespace cronovia {
 
 /// Line height, and the last baseline at which a line still belongs to the page; millimetres.
-inline constexpr int kAltezzaRiga = 5;
-inline constexpr int kUltimaRiga = 280;
+inline constexpr double kAltezzaRiga = 5;
+inline constexpr double kUltimaRiga = 280;
 
-/// The least size to which a text is shrunk, in points.
-inline constexpr int kDimensioneMinima = 5;
+/// The least size to which a text is shrunk, in points, and the steps in which that is done.
+inline constexpr double kDimensioneMinima = 6.5;
+inline constexpr double kPassoDimensione = 0.5;
 
 /// How far before its border a text at the right ends.
 inline constexpr double kRientroDestra = 3;
@@ -51,23 +52,33 @@ class Foglio {
     Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro = {});
 
     /// Bottom line of the texts being written; beyond any page when none is open.
-    [[nodiscard]] int RigaStampa() const { return rigaStampa_; }
+    [[nodiscard]] double RigaStampa() const { return rigaStampa_; }
     /// Goes to a line, or on by so much.
-    void RigaStampa(int riga) { rigaStampa_ = riga; }
-    void Avanza(int millimetri) { rigaStampa_ += millimetri; }
+    void RigaStampa(double riga) { rigaStampa_ = riga; }
+    void Avanza(double millimetri) { rigaStampa_ += millimetri; }
     [[nodiscard]] bool PaginaAperta() const { return rigaStampa_ < kNessunaPagina; }
+    /// Whether the next line, and as much behind it, is still of this page.
+    [[nodiscard]] bool Entra(double altezza) const { return rigaStampa_ + altezza <= kUltimaRiga; }
     /// The next line needs a new page.
-    [[nodiscard]] bool PaginaPiena() const { return rigaStampa_ > kUltimaRiga; }
+    [[nodiscard]] bool PaginaPiena() const { return !Entra(0); }
     /// Of the page being written, from 1; 0 before the first.
     [[nodiscard]] int NumeroPagina() const { return static_cast<int>(documento_.pagine.size()); }
 
     /// Opens a page whose first line has its bottom there.
-    void ApriPagina(int rigaStampa);
+    void ApriPagina(double rigaStampa);
 
     /// Puts a text without the blanks around it, nothing when that is empty. What is not narrower than the column plus
-    /// 2 mm loses its last characters. At the left it begins on the border; centred it stands 1 mm left of the middle,
-    /// at the right it ends 3 mm before the border.
+    /// 2 mm is cut. At the left it begins on the border; centred it stands 1 mm left of the middle, at the right it
+    /// ends 3 mm before the border.
     void StampaTesto(const TestoColonna& testo);
+
+    /// Puts a text so that it stays within its column: smaller when it is too wide, on two lines in the least size when
+    /// that is not enough, and cut when nothing else helps. A single line keeps its baseline whatever its size; the
+    /// second of two ends at the bottom line.
+    void StampaAdattato(const TestoColonna& testo);
+
+    /// Puts "Pagina 2 di 10" on the open page as soon as it is known how many there are.
+    void StampaNumeroPagina(TestoColonna colonna);
 
     /// Whether a text is narrower than that.
     bool Entra(const QString& testo, const Carattere& carattere, double larghezza) {
@@ -81,30 +92,42 @@ class Foglio {
     double BaseDaRiga(double riga, const Carattere& carattere) { return riga - misure_.Discesa(carattere); }
     /// The font with the greatest size, up to its own and not under the floor, at which the text is narrower than that.
     Carattere Ristretto(const QString& testo, Carattere carattere, double larghezza);
-    /// The longest beginning of the text that is narrower than that.
+    /// The text where it is narrower than that; else its longest beginning that is with "…" behind it.
     QString Tagliato(const QString& testo, const Carattere& carattere, double larghezza);
 
-    /// A rule or a box of the open page.
+    /// A rule, a box or a bar of the open page.
     void Traccia(const Linea& linea) { PaginaCorrente().linee.push_back(linea); }
     void Traccia(const Riquadro& riquadro) { PaginaCorrente().riquadri.push_back(riquadro); }
+    void Traccia(const Barra& barra) { PaginaCorrente().barre.push_back(barra); }
     /// The program's picture, within that area of the open page.
     void StampaLogo(const QRectF& area);
+    /// What stands at `y` of the open page, by name.
+    void Segna(const QString& titolo, double y);
 
-    /// Ends the page, if one is open: the date under its last line and the text of the window at the right margin, then
-    /// the closing rule from the first to the last border. There are at least four borders.
-    void StampaFinePagina(std::span<const int> bordi);
+    /// Ends the page, if one is open: the closing rule under its last line between two borders; at its foot the date,
+    /// and the text of the window at the right margin.
+    void StampaFinePagina(double sinistra, double destra);
 
-    /// What was written; the page being open is ended first by who wrote it.
-    [[nodiscard]] const Stampato& Scritto() const { return documento_; }
+    /// What was written; the page being open is ended first by who wrote it. Nothing can be written any more.
+    Stampato Concluso();
 
   private:
-    static constexpr int kNessunaPagina = 800;
+    static constexpr double kNessunaPagina = 800;
     Pagina& PaginaCorrente() { return documento_.pagine.back(); }
+    TestoCollocato Colloca(const TestoColonna& testo);
+
+    // Where the number of a page belongs, and among its texts.
+    struct Numero {
+        TestoColonna colonna;
+        std::size_t pagina = 0;
+        std::size_t testo = 0;
+    };
 
     Stampato documento_;
     PieDiPagina piede_;
     Misure misure_;
-    int rigaStampa_ = kNessunaPagina;
+    std::vector<Numero> numeri_;
+    double rigaStampa_ = kNessunaPagina;
 };
 
 }  // namespace cronovia

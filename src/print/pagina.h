@@ -6,15 +6,13 @@
 #include <cstdint>
 #include <vector>
 
+#include "schedule/strisce.h"
+
 namespace cronovia {
 
-/// Families of the printouts: "Times New Roman", "Arial" and "Arial Narrow", or fonts of the same metrics.
-enum class Famiglia : std::uint8_t { Times, Arial, ArialNarrow };
-
-/// A type in its size and style.
+/// The type of the printouts, "Times New Roman" or a font of the same metrics, in one of its sizes and weights.
 struct Carattere {
-    Famiglia famiglia = Famiglia::Times;
-    int dimensione = 8;  ///< points
+    double dimensione = 8;  ///< points
     bool grassetto = false;
     bool corsivo = false;
 
@@ -49,6 +47,13 @@ struct Riquadro {
     bool sfondo = false;
 };
 
+/// A bar in the look of a kind of time.
+struct Barra {
+    QRectF area;
+    GenerePezzo genere = GenerePezzo::Marcia;
+    bool liscia = false;  ///< its ground alone: where a text stands on it
+};
+
 /// A picture in its place.
 struct Immagine {
     QRectF area;
@@ -59,15 +64,24 @@ struct Immagine {
 struct Pagina {
     std::vector<Riquadro> riquadri;
     std::vector<Linea> linee;
+    std::vector<Barra> barre;
     std::vector<Immagine> immagini;
     std::vector<TestoCollocato> testi;  ///< in the order in which they are to be read
+};
+
+/// A place in the document that its reader can jump to by name.
+struct Segnalibro {
+    QString titolo;
+    std::size_t pagina = 0;  ///< position of the page
+    double y = 0;            ///< the upper edge of what it names
 };
 
 /// A printout on A4 sheets, upright. Without pages it is one blank sheet.
 struct Stampato {
     QString titolo;
     std::vector<Pagina> pagine;
-    QString lavoro = {};  ///< what painting it is called while it goes on; the title when empty
+    QString lavoro = {};                      ///< what painting it is called while it goes on; the title when empty
+    std::vector<Segnalibro> segnalibri = {};  ///< in the order of the pages
 };
 
 /// Distance of the model's origin from the left and the upper edge of the sheet: the margin that printers leave.

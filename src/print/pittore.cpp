@@ -1,10 +1,16 @@
 #include "print/pittore.h"
 
+#include <QGlyphRun>
 #include <QHash>
 #include <QPageLayout>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <cmath>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "interaction/failure.h"
 #include "print/font_stampa.h"
@@ -28,7 +34,12 @@ double Spessore(Filetto filetto) {
 }
 
 // Thin rules are grey: they lead the eye and leave the texts the word.
-QColor Colore(Filetto filetto) { return filetto == Filetto::Sottile ? QColor(120, 120, 120) : QColor(Qt::black); }
+QColor Colore(Filetto filetto) { return filetto == Filetto::Sottile ? QColor(165, 165, 165) : QColor(Qt::black); }
+
+constexpr double kPassoTrama = 1.1;    // between two strokes of a bar's pattern, in millimetres
+constexpr double kTrattoTrama = 0.13;  // their thickness
+constexpr double kPuntoTrama = 0.35;   // the size of its dots
+constexpr double kBordoBarra = 0.12;
 
 // In the units of the fonts: one coordinate system for texts and lines.
 double Unita(double millimetri) { return millimetri * kUnitaMillimetro; }
@@ -62,6 +73,8 @@ class Pittore {
         if (!pennello_.begin(&dispositivo)) throw Failure(u"La stampa non è riuscita: la stampante non risponde."_s);
         const double punti = 72.0 * kUnitaPunto;
         pennello_.scale(dispositivo.logicalDpiX() / punti, dispositivo.logicalDpiY() / punti);
+        // Elsewhere a text has to come as a text: what a preview records has no glyphs.
+        aGlifi_ = pennello_.paintEngine()->type() == QPaintEngine::Pdf;
         pennello_.translate(Punto(kMargineFoglio - inizio.x(), kMargineFoglio - inizio.y()));
     }
 
@@ -75,12 +88,10 @@ class Pittore {
             Penna(linea.filetto);
             pennello_.drawLine(Punto(linea.x1, linea.y1), Punto(linea.x2, linea.y2));
         }
+        for (const Barra& barra : pagina.barre) Dipingi(barra);
         for (const Immagine& immagine : pagina.immagini) Dipingi(immagine);
         pennello_.setPen(Qt::black);
-        for (const TestoCollocato& testo : pagina.testi) {
-            pennello_.setFont(font_.Font(testo.carattere));
-            pennello_.drawText(Punto(testo.x, testo.base), testo.testo);
-        }
+        for (const TestoCollocato& testo : pagina.testi) Dipingi(testo);
     }
 
     void Finisci() {
@@ -101,6 +112,75 @@ class Pittore {
         pennello_.drawRect(Area(riquadro.area));
     }
 
+    void Dipingi(const Barra& barra) {
+        const AspettoPezzo& aspetto = Aspetto(barra.genere);
+        pennello_.fillRect(Area(barra.area), QColor::fromRgb(aspetto.fondo));
+        if (barra.liscia) return;
+        const QColor segno = QColor::fromRgb(aspetto.segno);
+        pennello_.save();
+        pennello_.setClipRect(Area(barra.area));
+        pennello_.setPen(QPen(segno, Unita(kTrattoTrama), Qt::SolidLine, Qt::FlatCap));
+        Trama(aspetto.trama, barra.area);
+        pennello_.restore();
+        pennello_.setPen(QPen(segno, Unita(kBordoBarra), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        pennello_.drawRect(Area(barra.area));
+    }
+
+    // The strokes stand at the same places of the page whatever bar they fill, so that bars side by side go on.
+    void Trama(cronovia::Trama trama, const QRectF& area) {
+        using enum cronovia::Trama;
+        const bool incroci = trama == Incroci;
+        const double alto = area.height();
+        if (trama == Diagonali || incroci) {
+            Ripeti(area.left() - alto, area.right(), [&](double x) { Tratto(x, area.bottom(), x + alto, area.top()); });
+        }
+        if (trama == Controdiagonali || incroci) {
+            Ripeti(area.left() - alto, area.right(), [&](double x) { Tratto(x, area.top(), x + alto, area.bottom()); });
+        }
+        if (trama == Verticali) {
+            Ripeti(area.left(), area.right(), [&](double x) { Tratto(x, area.top(), x, area.bottom()); });
+        }
+        if (trama == Orizzontali) {
+            Ripeti(area.top(), area.bottom(), [&](double y) { Tratto(area.left(), y, area.right(), y); });
+        }
+        if (trama == Punti) Ripeti(area.left(), area.right(), [&](double x) { Colonna(x, area); });
+    }
+
+    void Colonna(double x, const QRectF& area) {
+        const QSizeF punto(Unita(kPuntoTrama), Unita(kPuntoTrama));
+        Ripeti(area.top(), area.bottom(),
+               [&](double y) { pennello_.fillRect(QRectF(Punto(x, y), punto), pennello_.pen().color()); });
+    }
+
+    template <typename Segno>
+    static void Ripeti(double da, double a, const Segno& segno) {
+        for (double passo = std::ceil(da / kPassoTrama); passo * kPassoTrama < a; ++passo) segno(passo * kPassoTrama);
+    }
+
+    void Tratto(double x1, double y1, double x2, double y2) { pennello_.drawLine(Punto(x1, y1), Punto(x2, y2)); }
+
+    void Dipingi(const TestoCollocato& testo) {
+        StileStampa& stile = misure_.Stile(testo.carattere);
+        if (!aGlifi_ || !stile.Componibile(testo.testo)) {
+            pennello_.setFont(font_.Font(testo.carattere));
+            pennello_.drawText(Punto(testo.x, testo.base), testo.testo);
+            return;
+        }
+        const TestoComposto composto = stile.Componi(testo.testo, testo.carattere.dimensione);
+        QGlyphRun glifi;
+        glifi.setRawFont(FontGrezzo(testo.carattere));
+        glifi.setRawData(composto.glifi.constData(), composto.origini.constData(),
+                         static_cast<int>(composto.glifi.size()));
+        pennello_.drawGlyphRun(Punto(testo.x, testo.base), glifi);
+    }
+
+    const QRawFont& FontGrezzo(const Carattere& carattere) {
+        const auto trovato =
+            std::find_if(grezzi_.begin(), grezzi_.end(), [&](const auto& grezzo) { return grezzo.first == carattere; });
+        if (trovato != grezzi_.end()) return trovato->second;
+        return grezzi_.emplace_back(carattere, QRawFont::fromFont(font_.Font(carattere))).second;
+    }
+
     void Dipingi(const Immagine& immagine) {
         auto& disegno = disegni_[immagine.sorgente];
         if (!disegno) {
@@ -113,6 +193,9 @@ class Pittore {
     QPagedPaintDevice& dispositivo_;
     QPainter pennello_;
     FontStampa font_;
+    Misure misure_;
+    std::vector<std::pair<Carattere, QRawFont>> grezzi_;
+    bool aGlifi_ = false;
     QHash<QString, std::shared_ptr<QSvgRenderer>> disegni_;
 };
 

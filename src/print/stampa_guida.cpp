@@ -13,14 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<int, 6> kBordiNomi = {5, 43, 81, 119, 157, 195};
-constexpr std::array<int, 5> kBordiVoci = {5, 45, 65, 185, 195};
+constexpr std::array<double, 6> kBordiNomi = {5, 43, 81, 119, 157, 195};
+constexpr std::array<double, 5> kBordiVoci = {5, 45, 65, 185, 195};
 constexpr std::array<QStringView, 5> kIntestazioniNomi = {u"Località", u"Località", u"Località", u"Località",
                                                           u"Località"};
 constexpr std::array<QStringView, 4> kIntestazioniVoci = {u"Localita", u"Tipo", u"Descrizione", u"Sosta"};
-constexpr int kRigaTitolo = 15;
-constexpr double kRientroVoce = 1;  // of a text from the rule at its left
-constexpr Carattere kCarattere{Famiglia::Times, 9};
+constexpr double kRigaTitolo = 15;
+constexpr double kMargineVoce = 1;    // of a text from the rule at its left
+constexpr double kNumeroPagina = 28;  // what the page's number takes of the head
+constexpr Carattere kCarattere{9};
 
 QString LavoroGuida() { return u"Stampa della guida"_s; }
 
@@ -65,7 +66,7 @@ class StampaPagine {
   public:
     StampaPagine(const DatiStampaGuida& dati, const PieDiPagina& piede)
         : dati_(dati),
-          bordi_(dati.opzioni.dettaglio ? std::span<const int>(kBordiVoci) : kBordiNomi),
+          bordi_(dati.opzioni.dettaglio ? std::span<const double>(kBordiVoci) : kBordiNomi),
           foglio_(TitoloStampaGuida(dati), piede, LavoroGuida()) {}
 
     void Stampa(const LocalitaStampata& localita);
@@ -76,7 +77,7 @@ class StampaPagine {
         colonna_ = 0;
     }
     [[nodiscard]] int NumeroPagina() const { return foglio_.NumeroPagina(); }
-    [[nodiscard]] const Stampato& Scritto() const { return foglio_.Scritto(); }
+    [[nodiscard]] Stampato Concluso() { return foglio_.Concluso(); }
 
   private:
     void StampaIntestaPagina();
@@ -85,9 +86,9 @@ class StampaPagine {
     void StampaNellaColonna(std::size_t colonna, const QString& testo, Carattere carattere, Allineamento dove);
 
     const DatiStampaGuida& dati_;
-    std::span<const int> bordi_;
+    std::span<const double> bordi_;
     Foglio foglio_;
-    int cimaTabella_ = 0;
+    double cimaTabella_ = 0;
     std::size_t colonna_ = 0;  // for the next name
 };
 
@@ -96,9 +97,8 @@ void StampaPagine::StampaNellaColonna(std::size_t colonna, const QString& testo,
     const double x1 = bordi_[colonna];
     const double x2 = bordi_[colonna + 1];
     // A centred text stands as far left of the middle as one at the left begins behind its rule.
-    foglio_.StampaTesto({testo, foglio_.RigaStampa() - 0.5, x1 + kRientroVoce,
-                         dove == Allineamento::Centro ? x2 + kRientroVoce : x2 - kRientroVoce,
-                         foglio_.Ristretto(testo, carattere, x2 - x1 - kRientroVoce), dove});
+    foglio_.StampaAdattato({testo, foglio_.RigaStampa() - 0.5, x1 + kMargineVoce,
+                            dove == Allineamento::Centro ? x2 + kMargineVoce : x2 - kMargineVoce / 2, carattere, dove});
 }
 
 void StampaPagine::StampaIntestaPagina() {
@@ -109,21 +109,30 @@ void StampaPagine::StampaIntestaPagina() {
     foglio_.StampaLogo({primo + 1.5, 3.75, 21, 10.5});
     const QString titolo = TitoloStampaGuida(dati_);
     const double x1 = primo + 24;
-    foglio_.StampaTesto({titolo, kRigaTitolo - 3.7, x1, ultimo,
-                         foglio_.Ristretto(titolo, {Famiglia::Times, 11, true}, ultimo - x1 - 2),
-                         Allineamento::Centro});
+    const double x2 = ultimo - kNumeroPagina;
+    constexpr Carattere kCarattereTitolo{11, true};
+    constexpr Carattere kCarattereNumero{9, true, true};
+    const double y = kRigaTitolo - 3.7;
+    foglio_.StampaTesto(
+        {titolo, y, x1, x2, foglio_.Ristretto(titolo, kCarattereTitolo, x2 - x1 - 2), Allineamento::Centro});
+    foglio_.StampaNumeroPagina({{},
+                                foglio_.RigaDaBase(foglio_.BaseDaRiga(y, kCarattereTitolo), kCarattereNumero),
+                                x2,
+                                ultimo,
+                                kCarattereNumero,
+                                Allineamento::Centro});
     cimaTabella_ = kRigaTitolo + 2;
     foglio_.Avanza(kAltezzaRiga + 2);
     const std::span<const QStringView> intestazioni =
         dati_.opzioni.dettaglio ? std::span<const QStringView>(kIntestazioniVoci) : kIntestazioniNomi;
     for (std::size_t i = 0; i < intestazioni.size(); ++i) {
         const bool centrata = dati_.opzioni.dettaglio && i + 1 == intestazioni.size();
-        StampaNellaColonna(i, intestazioni[i].toString(), {Famiglia::Times, 9, true},
+        StampaNellaColonna(i, intestazioni[i].toString(), {9, true},
                            centrata ? Allineamento::Centro : Allineamento::Sinistra);
     }
-    const double y = foglio_.RigaStampa();
-    foglio_.Traccia(Linea{primo, static_cast<double>(cimaTabella_), ultimo, static_cast<double>(cimaTabella_)});
-    foglio_.Traccia(Linea{primo, y, ultimo, y, Filetto::Spesso});
+    const double sotto = foglio_.RigaStampa();
+    foglio_.Traccia(Linea{primo, cimaTabella_, ultimo, cimaTabella_});
+    foglio_.Traccia(Linea{primo, sotto, ultimo, sotto, Filetto::Spesso});
     foglio_.Avanza(kAltezzaRiga);
     colonna_ = 0;
 }
@@ -136,7 +145,7 @@ void StampaPagine::PreparaRiga() {
 
 void StampaPagine::FineRiga() {
     const double y = foglio_.RigaStampa();
-    foglio_.Traccia(Linea{static_cast<double>(bordi_.front()), y, static_cast<double>(bordi_.back()), y});
+    foglio_.Traccia(Linea{bordi_.front(), y, bordi_.back(), y});
     foglio_.Avanza(kAltezzaRiga);
     colonna_ = 0;
 }
@@ -162,11 +171,8 @@ void StampaPagine::Stampa(const LocalitaStampata& localita) {
 void StampaPagine::StampaFinePagina() {
     if (!foglio_.PaginaAperta()) return;
     const double fine = foglio_.RigaStampa() - kAltezzaRiga;
-    for (const int bordo : bordi_) {
-        const double x = bordo;
-        foglio_.Traccia(Linea{x, static_cast<double>(cimaTabella_), x, fine});
-    }
-    foglio_.StampaFinePagina(bordi_);
+    for (const double x : bordi_) foglio_.Traccia(Linea{x, cimaTabella_, x, fine});
+    foglio_.StampaFinePagina(bordi_.front(), bordi_.back());
 }
 
 }  // namespace
@@ -197,7 +203,7 @@ Stampato StampaGuida(const DatiStampaGuida& dati, const PieDiPagina& piede, Prog
     stampa.ChiudiRiga();
     stampa.StampaFinePagina();
     progress.Advance(0, 0);
-    return stampa.Scritto();
+    return stampa.Concluso();
 }
 
 }  // namespace cronovia

@@ -102,7 +102,7 @@ TEST_F(FilePdf, HoldsEveryTextInOrderAndInItsPlace) {
     EXPECT_TRUE(info.contains("(A4)"_L1));
     EXPECT_FALSE(info.contains("Author"_L1));
     const QStringList font = Poppler(u"pdffonts"_s, {path_}).trimmed().split(u'\n').sliced(2);
-    EXPECT_GE(font.size(), 6);
+    EXPECT_EQ(font.size(), 4);  // one family
     for (const QString& riga : font) {
         EXPECT_TRUE(riga.contains(QRegularExpression(u"TrueType .* yes (yes|no ) yes"_s))) << riga.toStdString();
     }

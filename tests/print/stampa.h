@@ -17,7 +17,10 @@ inline const PieDiPagina kPiede{{2027, 1, 31}, u"Cronovia"_s};
 
 inline RigaStampata Riga(const QString& localita, const QString& sosta = {}, const QString& note = {},
                          GenereRiga genere = GenereRiga::Marcia) {
-    RigaStampata riga{genere, note.contains(u"Riposo"_s), false, {}, {}};
+    RigaStampata riga;
+    riga.genere = genere;
+    riga.riposo = note.contains(u"Riposo"_s);
+    riga.notte = note.contains(u"Notte"_s);
     riga.testi[Colonna::Tappa] = localita;
     riga.testi[Colonna::Sosta] = sosta;
     riga.testi[Colonna::Note] = note;
