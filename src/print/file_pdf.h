@@ -7,8 +7,8 @@
 
 namespace cronovia {
 
-/// Writes a document into a file that the caller then closes: with its title, its fonts and texts that can be marked
-/// and copied. A `Failure` when that fails.
+/// Writes a document into a file that the caller then closes: with its title, its bookmarks, its fonts and texts that
+/// can be marked and copied. A `Failure` when that fails.
 void ScriviPdf(const Stampato& documento, FileIntero& file, Progress& progress);
 
 }  // namespace cronovia

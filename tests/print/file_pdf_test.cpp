@@ -97,6 +97,13 @@ TEST_F(FilePdf, HoldsEveryTextInOrderAndInItsPlace) {
     EXPECT_EQ(i, parole.size());
     EXPECT_EQ(titoli_.visti.last(), u"Stampa della cronovia (pag. %1)"_s.arg(documento.pagine.size()));
 
+    // A bookmark for each day, which leads to its page.
+    const QString indice = Poppler(u"pdftohtml"_s, {u"-xml"_s, u"-stdout"_s, u"-i"_s, path_});
+    for (const Segnalibro& segnalibro : documento.segnalibri) {
+        const QString voce = u"<item page=\"%1\">%2</item>"_s.arg(QString::number(segnalibro.pagina + 1),
+                                                                  segnalibro.titolo.toHtmlEscaped());
+        EXPECT_TRUE(indice.contains(voce)) << voce.toStdString();
+    }
     const QString info = Poppler(u"pdfinfo"_s, {path_});
     EXPECT_TRUE(info.contains(QRegularExpression(u"Title: +Cronovia: CAPO NORD\n"_s)));
     EXPECT_TRUE(info.contains("(A4)"_L1));
