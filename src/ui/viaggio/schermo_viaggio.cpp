@@ -78,7 +78,9 @@ Meta SchermoViaggio::Letta() const {
 // What the fields cannot show is no change: it stays until something is typed.
 void SchermoViaggio::Raccogli() {
     const Meta letta = Letta();
-    if (letta != mostrata_) postazione_.documento.ImpostaCampi(letta);
+    if (letta == mostrata_) return;
+    postazione_.documento.ImpostaCampi(letta);
+    mostrata_ = letta;  // what was there before is a change again
 }
 
 bool SchermoViaggio::RifiutaIlCampo() { return periodo_->RifiutaAnno(); }

@@ -49,7 +49,7 @@ class SchermoViaggio : public QWidget {
     FrmMeteVelocita* velocita_;
     FrmMeteTempi* tempi_;
     ElencoScelta* cmbRicerca_;
-    Meta mostrata_;  // what the fields held when they were last shown
+    Meta mostrata_;  // what the fields held when they were last shown or taken over
 };
 
 }  // namespace cronovia
