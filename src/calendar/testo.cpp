@@ -5,6 +5,8 @@
 
 namespace cronovia {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::int64_t kMassimo = std::numeric_limits<int>::max();
@@ -13,12 +15,43 @@ void ScriviCifre(int valore, QChar* inizio, QChar* fine) {
     for (; fine != inizio; valore /= 10) *--fine = QChar(u'0' + valore % 10);
 }
 
+// The characters that turn the direction of what follows them, and the ends of lines and paragraphs.
+bool Capovolge(char16_t c) { return (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069); }
+bool VaACapo(char16_t c) { return (c >= u'\n' && c <= u'\r') || c == 0x85 || c == 0x2028 || c == 0x2029; }
+
+QChar SegnoVisibile(QChar c) {
+    if (!Invisibile(c)) return c;
+    return c == u'\t' || VaACapo(c.unicode()) ? QChar(u' ') : QChar(QChar::ReplacementCharacter);
+}
+
 }  // namespace
 
 bool Cifra(QChar c) { return c >= u'0' && c <= u'9'; }
 
 bool HaCaratteriDiControllo(QStringView testo) {
     return std::any_of(testo.begin(), testo.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+bool Invisibile(QChar c) {
+    const char16_t codice = c.unicode();
+    return codice < 0x20 || (codice >= 0x7F && codice < 0xA0) || Capovolge(codice) || VaACapo(codice);
+}
+
+QString Visibile(QString testo) {
+    for (QChar& c : testo) c = SegnoVisibile(c);
+    return testo;
+}
+
+QString VisibileARighe(QString testo) {
+    testo.replace(u"\r\n"_s, u"\n"_s);
+    for (QChar& c : testo) {
+        if (c != u'\n') c = SegnoVisibile(c);
+    }
+    return testo;
+}
+
+QString Accorciato(const QString& testo, qsizetype massimo) {
+    return testo.size() <= massimo ? testo : testo.left(massimo - 1) + u'…';
 }
 
 QString Zero(int valore, int lunghezza) {

@@ -20,6 +20,20 @@ QString ConNumeri(QStringView forma, std::initializer_list<int> numeri);
 /// Whether one of its characters is a control character: no field of a screen takes them.
 bool HaCaratteriDiControllo(QStringView testo);
 
+/// Whether a character steers what shows it instead of being seen: a control character, one that turns the direction of
+/// writing, the end of a line.
+bool Invisibile(QChar c);
+
+/// The text as it can be shown on one line wherever it came from: tabs and ends of lines are blanks, all else that is
+/// `Invisibile` is the sign for an unknown character. It stays as long as it is.
+QString Visibile(QString testo);
+
+/// The same for a text of several lines, which may end in CR LF and then end in LF.
+QString VisibileARighe(QString testo);
+
+/// At most so many characters, the last of which is "…" when some are left out.
+QString Accorciato(const QString& testo, qsizetype massimo);
+
 /// Pads on the right: the first `lunghezza` characters of the text followed by fill characters.
 QString RiempiDopo(QStringView testo, int lunghezza, QChar riempimento);
 

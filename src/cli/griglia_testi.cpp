@@ -2,6 +2,7 @@
 
 #include "calendar/date.h"
 #include "calendar/durata.h"
+#include "calendar/testo.h"
 
 namespace cronovia {
 
@@ -24,10 +25,11 @@ void ScriviRighe(const std::vector<RigaGriglia>& righe, ScrittoreJson& json) {
 QString TitoloMeta(const Meta& meta) {
     QString titolo = meta.localita;
     if (!meta.nazione.isEmpty()) titolo += u" (%1)"_s.arg(meta.nazione);
-    if (!meta.dataInizio) return titolo;
+    if (!meta.dataInizio) return Visibile(titolo);
     const QString ora = TestoOrario(meta.oraInizio);
-    return titolo + u", partenza %1 %2 ore %3:%4"_s.arg(GiornoSettimana(*meta.dataInizio), TestoData(*meta.dataInizio),
-                                                        ora.left(2), ora.right(2));
+    return Visibile(titolo) + u", partenza %1 %2 ore %3:%4"_s.arg(GiornoSettimana(*meta.dataInizio),
+                                                                  TestoData(*meta.dataInizio), ora.left(2),
+                                                                  ora.right(2));
 }
 
 QString RigaTotali(const TestiTotali& totali) {

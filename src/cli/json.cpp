@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "calendar/testo.h"
+
 namespace cronovia {
 
 namespace {
@@ -11,7 +13,7 @@ constexpr std::size_t kRientro = 4;
 constexpr std::size_t kBlocco = 8 * 1024;
 
 // What may stand in a text only under another name; surrogates are looked at in their pairs elsewhere.
-bool DaNascondere(char16_t c) { return c < 0x20 || c == u'"' || c == u'\\' || QChar::isSurrogate(c); }
+bool DaNascondere(char16_t c) { return c == u'"' || c == u'\\' || QChar::isSurrogate(c) || Invisibile(c); }
 
 void Nascondi(char16_t c, std::u16string& testo) {
     constexpr std::u16string_view kCaratteri = u"\"\\\b\f\n\r\t";

@@ -173,6 +173,15 @@ void Esegui(const Comando& comando, QTextStream& uscita) {
     }
 }
 
+// Whatever names hold, a terminal obeys nothing of it.
+void EseguiSulTerminale(const Comando& comando, QTextStream& uscita) {
+    QString testo;
+    QTextStream raccolta(&testo);
+    Esegui(comando, raccolta);
+    raccolta.flush();
+    uscita << VisibileARighe(testo);
+}
+
 }  // namespace
 
 std::optional<RichiestaFinestra> RichiestaDellaFinestra(const QStringList& riga) {
@@ -202,15 +211,19 @@ int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, QTextStre
     try {
         Comando comando = Leggi(riga);
         comando.richiesta.stampe = stampe;
-        Esegui(comando, uscita);
+        if (comando.richiesta.formato == Formato::Testo) {
+            EseguiSulTerminale(comando, uscita);
+        } else {
+            Esegui(comando, uscita);
+        }
         uscita.flush();
         if (uscita.status() != QTextStream::Ok) throw Failure(u"Il risultato non si può scrivere."_s);
         return kFatto;
     } catch (const WrongUsage& errore) {
-        errori << errore.Message() << u" L'aiuto: cronovia --help\n"_s;
+        errori << Visibile(errore.Message()) << u" L'aiuto: cronovia --help\n"_s;
         return kUsoErrato;
     } catch (const Failure& errore) {
-        errori << errore.Message() << '\n';
+        errori << Visibile(errore.Message()) << '\n';
         return kRifiutato;
     }
 }

@@ -2,16 +2,15 @@
 
 #include <algorithm>
 
+#include "calendar/testo.h"
+#include "files/celle.h"
+
 namespace cronovia {
 
 namespace {
 
 void RigaTsv(QStringList testi, QTextStream& uscita) {
-    for (QString& testo : testi) {
-        for (QChar& c : testo) {
-            if (c == u'\t' || c == u'\n' || c == u'\r') c = u' ';
-        }
-    }
+    for (QString& testo : testi) testo = InCella(testo);
     uscita << testi.join(u'\t') << '\n';
 }
 
@@ -37,7 +36,8 @@ QString RigaAllineata(const QStringList& testi, const std::vector<int>& larghezz
         const int larghezza = larghezze[static_cast<std::size_t>(i)];
         if (larghezza == 0) continue;
         if (!riga.isEmpty()) riga += QStringView(u"  ");
-        riga += aDestra.contains(i) ? testi.at(i).rightJustified(larghezza) : testi.at(i).leftJustified(larghezza);
+        const QString testo = Visibile(testi.at(i));
+        riga += aDestra.contains(i) ? testo.rightJustified(larghezza) : testo.leftJustified(larghezza);
     }
     while (riga.endsWith(u' ')) riga.chop(1);
     return riga;

@@ -25,7 +25,7 @@ QString RigaAllineata(const QStringList& testi, const std::vector<int>& larghezz
 
 void ScriviAllineata(const TabellaTesti& tabella, QTextStream& uscita);
 
-/// Tab-separated lines, the headers first. Tabs and line breaks within a text become blanks.
+/// Tab-separated lines, the headers first, each text as `InCella` makes it.
 void ScriviTsv(const TabellaTesti& tabella, QTextStream& uscita);
 
 }  // namespace cronovia

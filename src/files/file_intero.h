@@ -32,4 +32,11 @@ class FileIntero {
 /// A `Failure` when the path is a folder or the like, or a file that may not be replaced; an archive never may.
 void RifiutaFileEsistente(const QString& path, bool sovrascrivi);
 
+/// Whether both lead to one file, that is there or would be: by other spelling, over links, as another name of it.
+bool StessoPosto(const QString& a, const QString& b);
+
+/// A `Failure` when the path leads to what belongs to that archive: its file, what the database lays beside it, its
+/// copies.
+void RifiutaFileArchivio(const QString& path, const QString& archivio);
+
 }  // namespace cronovia

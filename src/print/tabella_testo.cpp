@@ -1,10 +1,11 @@
 #include "print/tabella_testo.h"
 
 #include <QDir>
-#include <QFileInfo>
 
+#include "files/celle.h"
 #include "files/windows1252.h"
 #include "interaction/failure.h"
+#include "store/archive.h"
 
 namespace cronovia {
 
@@ -14,31 +15,16 @@ namespace {
 
 const QLatin1StringView kFineRiga("\r\n");
 
-// Characters that mean something in the file become blanks.
-QString SuUnaRiga(QString testo) {
-    for (QChar& c : testo) {
-        if (c < u' ') c = u' ';
-    }
-    return testo.trimmed();
-}
-
 QString RigaTabella(const RigaGriglia& riga) {
     QString testo;
     for (std::size_t i = 0; i < static_cast<std::size_t>(Colonna::LimiteRitorno); ++i) {
-        testo += SuUnaRiga(riga[i]) + u'\t';
+        testo += InCella(riga[i].trimmed()) + u'\t';
     }
     return testo + kFineRiga;
 }
 
-// Where a file is, or would be, whatever leads there.
-QString Posto(const QString& path) {
-    const QFileInfo info(path);
-    const QString vero = info.canonicalFilePath();
-    return vero.isEmpty() ? info.dir().canonicalPath() + u'/' + info.fileName() : vero;
-}
-
 QByteArray TabellaCronovia(const DatiStampa& dati) {
-    QString testo = SuUnaRiga(dati.meta.localita) + kFineRiga + kFineRiga;
+    QString testo = InCella(dati.meta.localita.trimmed()) + kFineRiga + kFineRiga;
     const RigaGriglia intestazioni = Intestazioni(Vista::FileTabella);
     QStringList scritte(intestazioni.begin(), intestazioni.end());
     scritte.removeAll(QString());
@@ -53,9 +39,9 @@ QByteArray TabellaCronovia(const DatiStampa& dati) {
 
 QString FileTabella(const QString& cartella) { return QDir(cartella).filePath(u"Vandtabl.txt"_s); }
 
-// Some file systems take capitals and small letters for the same.
 void RifiutaFileTabella(const QString& path, const QString& cartella) {
-    if (Posto(path).compare(Posto(FileTabella(cartella)), Qt::CaseInsensitive) != 0) return;
+    RifiutaFileArchivio(path, Archive::FilePath(cartella));
+    if (!StessoPosto(path, FileTabella(cartella))) return;
     throw Failure(u"Il file %1 è la tabella della cronovia: per le pagine scegli un altro nome."_s.arg(
         QDir::toNativeSeparators(path)));
 }
@@ -63,6 +49,7 @@ void RifiutaFileTabella(const QString& path, const QString& cartella) {
 std::unique_ptr<FileIntero> PreparaTabella(const DatiStampa& dati, const QString& cartella) {
     const QString path = FileTabella(cartella);
     RifiutaFileEsistente(path, true);
+    RifiutaFileArchivio(path, Archive::FilePath(cartella));
     auto file = std::make_unique<FileIntero>(path);
     file->Scrivi(TabellaCronovia(dati));
     file->Completa();

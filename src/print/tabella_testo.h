@@ -12,7 +12,7 @@ namespace cronovia {
 /// Where the table of a data folder lies.
 QString FileTabella(const QString& cartella);
 
-/// A `Failure` when that is the file of the table, under whatever name.
+/// A `Failure` when that is the file of the table, or belongs to the archive, under whatever name.
 void RifiutaFileTabella(const QString& path, const QString& cartella);
 
 /// The new table of a data folder, whole on the disk beside its place, which it takes when it is closed. A `Failure`

@@ -63,6 +63,9 @@ class Archive {
     Archive& operator=(Archive&&) noexcept;
     ~Archive();
 
+    /// Path of this one's file.
+    [[nodiscard]] const QString& Path() const;
+
     /// The rows in the alphabetical order of the fields in `order`, the first one leading; rows alike in them, and all
     /// rows without such fields, in the order in which they were added.
     std::vector<Record> Select(const Search& search, std::initializer_list<int> order = {});

@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 QString Archive::FilePath(const QString& folder) { return QDir(folder).filePath(u"VandroCronovia.mdb"_s); }
 
+const QString& Archive::Path() const { return connection_->Path(); }
+
 Archive Archive::Open(const QString& folder) {
     const QString path = FilePath(folder);
     const QString opening = u"Errore apertura database "_s + QDir::toNativeSeparators(path);

@@ -12,6 +12,7 @@ namespace cronovia {
 namespace {
 
 constexpr std::size_t kMaxRanges = 16;
+constexpr std::size_t kMaxBeginning = 200;  // of a range, in characters; no field is as wide
 
 // Folds the case of one character. A character outside ASCII never becomes an ASCII one (the kelvin sign is no K), so
 // that the ASCII letters of an index key tell all there is to know about its case.
@@ -36,6 +37,21 @@ std::u32string Variants(char32_t folded) {
     return all;
 }
 
+// Sorts intervals and joins those that touch or overlap; those that end before they begin hold nothing.
+void Merge(std::vector<std::pair<char32_t, char32_t>>& intervals) {
+    std::erase_if(intervals, [](const auto& pair) { return pair.second < pair.first; });
+    std::sort(intervals.begin(), intervals.end());
+    std::size_t kept = 0;
+    for (const auto& pair : intervals) {
+        if (kept > 0 && pair.first <= intervals[kept - 1].second) {
+            intervals[kept - 1].second = std::max(intervals[kept - 1].second, pair.second);
+        } else {
+            intervals[kept++] = pair;
+        }
+    }
+    intervals.resize(kept);
+}
+
 QString Text(const std::u32string& characters) {
     return QString::fromUcs4(characters.data(), static_cast<qsizetype>(characters.size()));
 }
@@ -44,14 +60,16 @@ QString Text(const std::u32string& characters) {
 
 NamePattern::NamePattern(QStringView pattern) {
     const QList<uint> characters = pattern.toUcs4();
+    const qsizetype lastEnd = characters.lastIndexOf(U']');
     elements_.reserve(static_cast<std::size_t>(characters.size()));
     for (qsizetype i = 0; i < characters.size(); ++i) {
         Element element;
         const char32_t c = characters.at(i);
-        const qsizetype end = c == U'[' ? characters.indexOf(U']', i + 1) : -1;
+        const qsizetype end = c == U'[' && i < lastEnd ? characters.indexOf(U']', i + 1) : -1;
         if (c == U'?') {
             element.kind = Kind::AnyOne;
         } else if (c == U'*') {
+            if (!elements_.empty() && elements_.back().kind == Kind::AnyRun) continue;
             element.kind = Kind::AnyRun;
         } else if (c == U'#') {
             element.kind = Kind::Digit;
@@ -69,6 +87,7 @@ NamePattern::NamePattern(QStringView pattern) {
             }
             i = end;
             if (element.intervals.empty()) continue;  // "[]" stands for nothing at all
+            Merge(element.intervals);
         } else {
             element.folded = Fold(c);
         }
@@ -101,9 +120,9 @@ bool NamePattern::Accepts(const Element& element, char32_t folded) {
         case Kind::Digit:
             return folded >= U'0' && folded <= U'9';
         case Kind::Set: {
-            const bool within = std::any_of(element.intervals.begin(), element.intervals.end(), [&](const auto& pair) {
-                return pair.first <= folded && folded <= pair.second;
-            });
+            const auto after = std::upper_bound(element.intervals.begin(), element.intervals.end(), folded,
+                                                [](char32_t c, const auto& pair) { return c < pair.first; });
+            const bool within = after != element.intervals.begin() && folded <= std::prev(after)->second;
             return within != element.negated;
         }
         case Kind::AnyRun:
@@ -117,9 +136,11 @@ bool NamePattern::Matches(QStringView text) const {
 }
 
 bool NamePattern::Matches(const std::vector<Element>& elements, QStringView text) {
+    // No two runs stand beside each other: at least every second element takes a character.
+    const auto count = static_cast<qsizetype>(elements.size());
+    if (count > 2 * text.size() + 1) return false;
     const QList<uint> characters = text.toUcs4();
     const auto length = characters.size();
-    const auto count = static_cast<qsizetype>(elements.size());
     qsizetype position = 0;
     qsizetype element = 0;
     qsizetype lastRun = -1;  // the last "*" passed, to which a mismatch goes back
@@ -145,7 +166,9 @@ bool NamePattern::Matches(const std::vector<Element>& elements, QStringView text
 
 NamePattern NamePattern::Then(const NamePattern& next) const {
     NamePattern both = *this;
-    both.elements_.insert(both.elements_.end(), next.elements_.begin(), next.elements_.end());
+    const bool run = !elements_.empty() && elements_.back().kind == Kind::AnyRun && !next.elements_.empty() &&
+                     next.elements_.front().kind == Kind::AnyRun;
+    both.elements_.insert(both.elements_.end(), next.elements_.begin() + (run ? 1 : 0), next.elements_.end());
     if (itself_.empty() && next.itself_.empty()) return both;
     const std::vector<Element>& end = next.itself_.empty() ? next.elements_ : next.itself_;
     if (itself_.empty()) both.itself_ = elements_;
@@ -163,7 +186,7 @@ NamePattern NamePattern::Reversed() const {
 std::vector<NamePattern::Range> NamePattern::Ranges() const {
     std::vector<std::u32string> prefixes(1);
     std::size_t used = 0;
-    for (; used < elements_.size() && elements_[used].kind == Kind::Literal; ++used) {
+    for (; used < elements_.size() && used < kMaxBeginning && elements_[used].kind == Kind::Literal; ++used) {
         const char32_t c = elements_[used].folded;
         if (c < 0x80) {
             for (std::u32string& prefix : prefixes) prefix += c;

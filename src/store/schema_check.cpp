@@ -238,9 +238,14 @@ void RefuseForeignDatabase(SQLite::Database& database, const QString& path) {
 
 void RefuseForeignFile(const QString& path) {
     const QFileInfo info(path);
-    if (!info.exists()) return;
     const QString opening = u"Errore apertura database "_s + QDir::toNativeSeparators(path) + u": "_s;
     if (info.isDir()) throw Failure(opening + u"al suo posto c'è una cartella."_s);
+    for (const char* tail : {"", "-journal", "-wal", "-shm"}) {
+        const QFileInfo part(path + QLatin1StringView(tail));
+        if (!part.exists() || part.isFile()) continue;
+        throw Failure(opening + u"%1 non è un file."_s.arg(QDir::toNativeSeparators(part.filePath())));
+    }
+    if (!info.exists()) return;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throw Failure(opening + u"manca il permesso di leggere il file."_s);
     const QByteArray start = file.read(20);

@@ -35,7 +35,7 @@ TEST(ScrittoreJson, EveryTextIsWrittenSoThatAnotherProgramReadsItAgain) {
              {u"Sant'Anna / Fès"_s, u"Sant'Anna / Fès"_s},
              {u"\"A\\B\""_s, u"\\\"A\\\\B\\\""_s},
              {u"\b\f\n\r\t"_s, u"\\b\\f\\n\\r\\t"_s},
-             {u"a\u0001\u001fb\u007f"_s, u"a\\u0001\\u001fb\u007f"_s},
+             {u"a\u0001\u001fb\u007f"_s, u"a\\u0001\\u001fb\\u007f"_s},
              {QString(1, QChar(0)) + u"0"_s, u"\\u00000"_s},
              {u"\U0001F690 in viaggio"_s, u"\U0001F690 in viaggio"_s},
              {u"x"_s + QChar(0xD83D), u"x\\ud83d"_s},

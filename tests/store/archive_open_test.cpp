@@ -3,6 +3,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include <QStringList>
 #include <memory>
@@ -219,6 +220,13 @@ TEST_F(ArchiveOpen, OtherFilesOrAFolderUnderTheNameAreRefused) {
     ASSERT_TRUE(QDir().mkpath(cartella_.Archivio()));
     EXPECT_TRUE(prova::MessaggioDi([this] { Apri(); }).contains(u"al suo posto c'è una cartella"_s));
     EXPECT_TRUE(QDir(cartella_.Archivio()).isEmpty());
+    ASSERT_TRUE(QDir().rmdir(cartella_.Archivio()));
+    for (const char* coda : {"", "-journal"}) {  // which nobody writes to
+        const std::string tubo = cartella_.Archivio().toStdString() + coda;
+        ASSERT_EQ(mkfifo(tubo.c_str(), 0600), 0);
+        EXPECT_TRUE(prova::MessaggioDi([this] { Apri(); }).endsWith(u"non è un file."_s));
+        std::remove(tubo.c_str());
+    }
 }
 
 TEST_F(ArchiveOpen, AnArchiveLockedByAnotherProgramIsRefused) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
+#include <ctime>
 
 #include "support/prova.h"
 
@@ -55,6 +56,22 @@ TEST(NamePattern, ANameAlwaysFindsItself) {
 
 TEST(NamePattern, ManyStarsOnALongTextEndSoon) {
     EXPECT_FALSE(NamePattern(u"*a*a*a*a*a*a*a*a*b"_s).Matches(QString(5000, u'a')));
+}
+
+// Each as long as a line of commands may be, asked of as many names as a guide may have.
+TEST(NamePattern, LongPatternsEndSoon) {
+    for (const QString& pezzo : {u"*"_s, u"["_s, u"è"_s, u"x"_s, u"*x"_s, u"?"_s, u"[ab"_s, u"[x]"_s, u"*[]"_s}) {
+        const QString lungo = pezzo.repeated(100'000 / pezzo.size());
+        for (const QString& testo : {lungo, u"[!"_s + lungo + u']', u"*x*"_s + lungo + u"*y*"_s}) {
+            const std::clock_t inizio = std::clock();
+            const NamePattern modello(testo);
+            const NamePattern composto = modello.Then(modello).Reversed();
+            const auto tratti = modello.Ranges();
+            const bool tutti = QString(testo).remove(u"[]"_s).remove(u'*').isEmpty();
+            for (int i = 0; i < 2'000; ++i) EXPECT_EQ(modello.Matches(u"Castellammare del Golfo"), tutti);
+            EXPECT_LT(std::clock() - inizio, CLOCKS_PER_SEC / 5) << testo.left(8).toStdString();
+        }
+    }
 }
 
 }  // namespace

@@ -29,6 +29,8 @@ QStringView SenzaBlank(QStringView testo) {
     return testo;
 }
 
+constexpr qsizetype kMassimoNome = 60;  // of a file that is proposed
+
 class ScrittoreIei {
   public:
     explicit ScrittoreIei(const QString& path) : file_(path) {}
@@ -130,6 +132,7 @@ EsitoExport Esportate(const RichiestaExport& richiesta, Progress& progress) {
     const ReadSnapshot momento(richiesta.archive);
     const std::vector<QString> codici = CodiciDaEsportare(richiesta);
     RifiutaFileEsistente(richiesta.path, richiesta.sovrascrivi);
+    RifiutaFileArchivio(richiesta.path, richiesta.archive.Path());
     ScrittoreIei scrittore(richiesta.path);
     EsitoExport esito;
     esito.path = richiesta.path;
@@ -160,9 +163,10 @@ EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
 QString NomeFileExport(std::span<const MetaInElenco> mete) {
     QString nome = mete.empty() ? QString() : mete.front().localita.trimmed();
     for (QChar& c : nome) {
-        if (c < u' ' || QStringView(u"/\\:*?\"<>|").contains(c)) c = u'-';
+        if (Invisibile(c) || QStringView(u"/\\:*?\"<>|").contains(c)) c = u'-';
     }
     while (nome.startsWith(u'.')) nome.remove(0, 1);
+    nome.truncate(kMassimoNome);
     if (nome.isEmpty()) nome = u"Mete"_s;
     if (mete.size() > 1) nome += u" e altre %1"_s.arg(mete.size() - 1);
     return nome + u".iei"_s;

@@ -1,0 +1,20 @@
+#include "files/celle.h"
+
+#include <QRegularExpression>
+
+#include "calendar/testo.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+QString InCella(const QString& testo) {
+    static const QRegularExpression formula(u"^\\s*[=+@-]"_s);
+    // Numbers with signs, and what the schedule itself writes.
+    static const QRegularExpression innocua(u"^([+-]?\\d+([.,]\\d+)*|\\+ Riposo \\d+''( Notte)?)$"_s);
+    const QString cella = Visibile(testo);
+    const bool guardata = formula.match(cella).hasMatch() && !innocua.match(cella).hasMatch();
+    return guardata ? u'\'' + cella : cella;
+}
+
+}  // namespace cronovia

@@ -1,0 +1,12 @@
+// Texts as cells of the files and answers that spreadsheets read.
+#pragma once
+
+#include <QString>
+
+namespace cronovia {
+
+/// The text on one line, `Visibile`, and for a spreadsheet never more than a text: one that begins like a formula, with
+/// "=", "+", "-" or "@", behind blanks too, has "'" before it, unless it is a number or the note of a rest.
+QString InCella(const QString& testo);
+
+}  // namespace cronovia
