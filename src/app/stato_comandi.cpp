@@ -1,5 +1,7 @@
 #include "app/stato_comandi.h"
 
+#include "calendar/testo.h"
+
 #include "app/comandi.h"
 
 namespace cronovia {
@@ -46,9 +48,10 @@ Momenti MomentiDi(const Fatti& fatti, const Schermata& schermata) {
            (fatti.annulla ? momento::kAnnullabile : 0) | (fatti.ripeti ? momento::kRipetibile : 0);
 }
 
-// What follows the verb is no mnemonic.
+// What follows the verb may be anybody's name: no letter of it is a mnemonic, and it ends.
 QString DelPasso(const QString& verbo, const QString& nome) {
-    return verbo + u' ' + QString(nome).replace(u'&', u"&&"_s);
+    constexpr qsizetype kMassimo = 300;
+    return verbo + u' ' + Accorciato(Visibile(nome), kMassimo).replace(u"&"_s, u"&&"_s);
 }
 
 }  // namespace

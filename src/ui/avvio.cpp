@@ -3,14 +3,15 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QMessageBox>
 #include <QTimer>
 #include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
 
 #include "app/cartella_dati.h"
+#include "calendar/testo.h"
 #include "interaction/failure.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/form_mete.h"
 
 namespace cronovia {
@@ -48,10 +49,8 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
         if (!file.isEmpty()) QTimer::singleShot(0, &form, [&] { form.ApriFile(file); });
         return QApplication::exec();
     } catch (const Failure& failure) {
-        std::fputs(qPrintable(failure.Message() + u'\n'), stderr);
-        QMessageBox box(QMessageBox::Critical, u"Cronovia"_s, failure.Message(), QMessageBox::Ok);
-        box.setTextFormat(Qt::PlainText);
-        box.exec();
+        std::fputs(qPrintable(Visibile(failure.Message()) + u'\n'), stderr);
+        Box(QMessageBox::Critical, u"Cronovia"_s, failure.Message(), QMessageBox::Ok).exec();
         return 1;
     }
 }

@@ -23,6 +23,7 @@
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/inserimento/frm_divisione.h"
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
@@ -408,7 +409,7 @@ void FormMete::MostraTitolo() {
     const Documento& documento = postazione_.documento;
     const QString programma = QCoreApplication::applicationName();
     const bool memorizzata = !documento.Campi().codice.isEmpty();
-    setWindowTitle(memorizzata ? documento.Nome() + u" - "_s + programma : programma);
+    cronovia::MostraTitolo(*this, memorizzata ? documento.Nome() + u" - "_s + programma : programma);
 }
 
 void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {

@@ -41,7 +41,8 @@
 //   expect-file FILE TEXT             how the file begins; expect-no-file FILE
 //
 // Whatever comes up unannounced fails, and so does what was announced and did not come in that step. Every table model
-// is watched meanwhile, and that no letter is underlined twice among what can be used.
+// is watched meanwhile, that no letter is underlined twice among what can be used, and that every text is shown as it
+// stands.
 #include <SQLiteCpp/Database.h>
 
 #include <QAbstractItemModelTester>
@@ -56,7 +57,6 @@
 #include <QMimeData>
 #include <QRadioButton>
 #include <QSessionManager>
-#include <QTextDocument>
 #include <QUrl>
 #include <csignal>
 #include <functional>
@@ -76,13 +76,7 @@ const QString kSessioni = QStringLiteral(CRONOVIA_TEST_DATA "/finestra/");
 
 bool Sensibile(const QAbstractButton& pulsante) { return pulsante.isEnabled() && pulsante.isVisible(); }
 
-// What a text looks like where markup is obeyed.
-QString ComeSiLegge(const QString& testo) {
-    if (!Qt::mightBeRichText(testo)) return testo;
-    QTextDocument pagina;
-    pagina.setHtml(testo);
-    return pagina.toPlainText();
-}
+using prova::ComeSiLegge;
 
 QString Celle(const QAbstractItemModel& modello, int riga) {
     QStringList celle;
@@ -147,6 +141,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     void Sorveglia() {
         if (form_ == nullptr) return;
         SorvegliaLettere();
+        prova::TestiMostrati::Sorveglia(*form_);
         for (const auto* tabella : form_->findChildren<QAbstractItemView*>()) {
             QAbstractItemModel* modello = tabella->model();
             if (!tabella->inherits("QTableView") && !tabella->inherits("cronovia::VistaGiornate")) continue;

@@ -1,8 +1,7 @@
 #include "ui/comuni/aiuti.h"
 
-#include <QMessageBox>
-
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -96,9 +95,7 @@ std::vector<Istruzioni> TutteLeIstruzioni() {
 }
 
 void MostraIstruzioni(const Istruzioni& istruzioni, QWidget& finestra) {
-    QMessageBox box(QMessageBox::Information, istruzioni.titolo, istruzioni.testo, QMessageBox::Ok, &finestra);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Box(QMessageBox::Information, istruzioni.titolo, istruzioni.testo, QMessageBox::Ok, &finestra).exec();
 }
 
 QPushButton* NuovoAiuto(const Istruzioni& istruzioni) {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/comuni/testo_mostrato.h"
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -18,10 +20,9 @@ QString TestoARiposo() { return u"Sposta il mouse sui pulsanti/campi attivi per 
 }  // namespace
 
 Avanzamento::Avanzamento(QWidget* parent)
-    : QFrame(parent), lblElaborazione_(new QLabel(TestoARiposo())), txtPerc_(new QProgressBar) {
+    : QFrame(parent), lblElaborazione_(NuovaScritta(TestoARiposo())), txtPerc_(new QProgressBar) {
     setObjectName(u"txtBase"_s);
     lblElaborazione_->setObjectName(u"lblElaborazione"_s);
-    lblElaborazione_->setTextFormat(Qt::PlainText);
     txtPerc_->setObjectName(u"txtPerc"_s);
     txtPerc_->setAccessibleName(u"Avanzamento"_s);
     txtPerc_->setRange(0, 100);
@@ -35,14 +36,14 @@ Avanzamento::Avanzamento(QWidget* parent)
 }
 
 void Avanzamento::Title(const QString& title) {
-    lblElaborazione_->setText(title);
+    MostraScritta(*lblElaborazione_, title);
     LasciaVivereLaFinestra();
 }
 
 void Avanzamento::Advance(double count, double total) {
     const double done = std::clamp(count, 0.0, std::max(total, 0.0));
     if (done == 0.0) {
-        lblElaborazione_->setText(TestoARiposo());
+        MostraScritta(*lblElaborazione_, TestoARiposo());
         txtPerc_->setValue(0);
         txtPerc_->setTextVisible(false);
         return;

@@ -6,10 +6,10 @@
 #include <QLayout>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
-#include <QTextDocument>
 
 #include "calendar/testo.h"
 #include "ui/comuni/colori.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -22,7 +22,7 @@ constexpr int kAria = 7;  // of a list, in pixels
 
 void Presenta(QWidget& controllo, const QString& nome, const QString& istruzione) {
     controllo.setObjectName(nome);
-    controllo.setToolTip(istruzione);
+    MostraIstruzione(controllo, istruzione);
     controllo.setAccessibleName(istruzione);
 }
 
@@ -110,10 +110,6 @@ void LasciaScrivereCifre(QComboBox& elenco, int cifre) {
     elenco.lineEdit()->installEventFilter(new RifiutaTasti(&elenco));
 }
 
-QString TestoPiano(const QString& testo) {
-    return Qt::mightBeRichText(testo) ? Qt::convertFromPlainText(testo, Qt::WhiteSpaceNormal) : testo;
-}
-
 void MostraVoce(QComboBox& elenco, const QString& testo) {
     constexpr int kOspite = Qt::UserRole + 1;
     const QSignalBlocker muto(elenco);
@@ -165,7 +161,7 @@ QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QS
 }
 
 QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo) {
-    auto* etichetta = new QLabel(testo);
+    QLabel* etichetta = NuovaScritta(testo);
     etichetta->setBuddy(&controllo);
     return etichetta;
 }

@@ -30,9 +30,6 @@ QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QStri
 /// nothing, so that what was selected is still replaced by the next one.
 void LasciaScrivereCifre(QComboBox& elenco, int cifre);
 
-/// A text for a tooltip, which would take some texts for markup: it is shown as it stands.
-QString TestoPiano(const QString& testo);
-
 /// Shows a text in a list: as a guest among its items when it has none of that text. Guests that were shown before go.
 void MostraVoce(QComboBox& elenco, const QString& testo);
 

@@ -5,12 +5,14 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
+#include "ui/comuni/testo_mostrato.h"
+
 namespace cronovia {
 
 ElencoScelta::ElencoScelta(const QString& nome, const QString& descrizione) {
     setObjectName(nome);
     setAccessibleName(descrizione);
-    setToolTip(descrizione);
+    MostraIstruzione(*this, descrizione);
     setFrameShape(QFrame::StyledPanel);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setMinimumHeight(240);
@@ -20,7 +22,8 @@ ElencoScelta::ElencoScelta(const QString& nome, const QString& descrizione) {
 }
 
 void ElencoScelta::Intesta(const QString& intestazione) {
-    intestazione_ = new QLabel(intestazione, this);
+    intestazione_ = NuovaScritta(intestazione);
+    intestazione_->setParent(this);
     intestazione_->setObjectName(objectName() + QStringLiteral("_intestazione"));
     intestazione_->setMargin(3);
     QFont grassetto = font();

@@ -1,8 +1,9 @@
 #include "ui/comuni/interazione_finestra.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 #include <QPushButton>
+
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -11,9 +12,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString Titolo(const QString& titolo) { return titolo.isEmpty() ? QCoreApplication::applicationName() : titolo; }
-
-// Some texts are those of files and terminals as well.
-QString InRighe(QString text) { return text.replace("\r\n"_L1, "\n"_L1); }
 
 QMessageBox::Icon Icona(Icon icon) {
     switch (icon) {
@@ -42,14 +40,11 @@ QMessageBox::StandardButton Bottone(Answer answer) {
 }  // namespace
 
 void InterazioneFinestra::Show(const Message& message) {
-    QMessageBox box(Icona(message.icon), Titolo(message.title), InRighe(message.text), QMessageBox::Ok, &finestra_);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Box(Icona(message.icon), Titolo(message.title), message.text, QMessageBox::Ok, &finestra_).exec();
 }
 
 bool InterazioneFinestra::ShowUndoable(const Message& message, const QString& caption) {
-    QMessageBox box(Icona(message.icon), Titolo(message.title), InRighe(message.text), QMessageBox::Ok, &finestra_);
-    box.setTextFormat(Qt::PlainText);
+    Box box(Icona(message.icon), Titolo(message.title), message.text, QMessageBox::Ok, &finestra_);
     box.addButton(QMessageBox::Discard)->setText(caption);
     box.setDefaultButton(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);
@@ -61,8 +56,7 @@ Answer InterazioneFinestra::Ask(const Question& question) {
     const auto no = question.salva ? QMessageBox::Discard : QMessageBox::No;
     QMessageBox::StandardButtons buttons = si | no;
     if (question.cancellable) buttons |= QMessageBox::Cancel;
-    QMessageBox box(QMessageBox::Question, Titolo(question.title), question.text, buttons, &finestra_);
-    box.setTextFormat(Qt::PlainText);
+    Box box(QMessageBox::Question, Titolo(question.title), question.text, buttons, &finestra_);
     box.setDefaultButton(question.salva ? si : Bottone(question.preset));
     if (question.salva) box.button(si)->setText(u"&Salva"_s);
     if (question.salva) box.button(no)->setText(u"&Non salvare"_s);

@@ -1,7 +1,8 @@
 #include "ui/comuni/riquadro_sovrapposto.h"
 
 #include <QKeyEvent>
-#include <QLabel>
+
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -12,7 +13,7 @@ RiquadroSovrapposto::RiquadroSovrapposto(const QString& nome, const QString& scr
     setAutoFillBackground(true);
     setFrameStyle(static_cast<int>(QFrame::WinPanel) | static_cast<int>(QFrame::Raised));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    auto* titolo = new QLabel(scritta);
+    QLabel* titolo = NuovaScritta(scritta);
     QFont grassetto = titolo->font();
     grassetto.setBold(true);
     titolo->setFont(grassetto);

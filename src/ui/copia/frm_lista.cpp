@@ -7,6 +7,8 @@
 #include <numeric>
 #include <span>
 
+#include "ui/comuni/testo_mostrato.h"
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -21,7 +23,7 @@ constexpr std::array<int, 6> kLarghezzeTappe = {420, 2300, 1000, 500, 600, 800};
 
 FrmLista::FrmLista(QWidget* parent)
     : QGroupBox(u"Selezionare la località di inizio e fine"_s, parent),
-      lblLista_(new QLabel),
+      lblLista_(NuovaScritta()),
       mfgCopia_(new QTableView) {
     setObjectName(u"frmLista"_s);
     lblLista_->setObjectName(u"lblLista"_s);
@@ -53,13 +55,14 @@ FrmLista::FrmLista(QWidget* parent)
 void FrmLista::Mostra(const TavoloCopia& copia) {
     mostrando_ = true;
     if (copia.Tappe()) {
-        lblLista_->setText(
+        MostraScritta(
+            *lblLista_,
             u"Seleziona la tappa iniziale e clicca su ASSEGNA/Tappa iniziale, quindi seleziona la tappa finale e "
             "clicca su ASSEGNA/Tappa finale. ATTENZIONE: Per tappa d'inizio non selezionare quella comune alla "
             "precedente per non avere un doppio chilometraggio!!!"_s);
         modello_.Mostra(*copia.Tappe());
     } else {
-        lblLista_->setText(u"Seleziona la mèta dalla quale copiare una parte o tutto l'itinerario"_s);
+        MostraScritta(*lblLista_, u"Seleziona la mèta dalla quale copiare una parte o tutto l'itinerario"_s);
         modello_.Mostra(copia.Mete());
     }
     AdattaLarghezze();

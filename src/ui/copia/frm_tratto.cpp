@@ -7,6 +7,7 @@
 #include "calendar/testo.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -19,7 +20,7 @@ FrmTratto::FrmTratto(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, par
     layout->addWidget(CreaEstremo(1));
     chkInsSoste_ = new QCheckBox(u"Inserire anche le soste:"_s);
     chkInsSoste_->setObjectName(u"chkInsSoste"_s);
-    chkInsSoste_->setToolTip(u"Copia anche le soste e le fini giornata delle tappe"_s);
+    MostraIstruzione(*chkInsSoste_, u"Copia anche le soste e le fini giornata delle tappe"_s);
     chkInsSoste_->setLayoutDirection(Qt::RightToLeft);
     auto* riga = new QHBoxLayout;
     riga->addWidget(chkInsSoste_);
@@ -87,8 +88,8 @@ void FrmTratto::Mostra(const TavoloCopia& copia) {
     for (std::size_t i = 0; i < estremi_.size(); ++i) {
         const std::optional<int> riga = copia.Assegnate()[i];
         const Tappa tappa = riga && copia.Tappe() ? copia.Tappe()->at(static_cast<std::size_t>(*riga - 1)) : Tappa();
-        estremi_[i].txtInsLoc->setText(tappa.localita);
-        estremi_[i].txtInsNS->setText(tappa.numStrada);
+        estremi_[i].txtInsLoc->setText(Visibile(tappa.localita));
+        estremi_[i].txtInsNS->setText(Visibile(tappa.numStrada));
         estremi_[i].txtInsKm->setText(RaggruppaNonZero(tappa.km));
         estremi_[i].txtInsNum->setText(riga ? QString::number(*riga) : QString());
     }

@@ -56,7 +56,7 @@ int ModelloCopia::columnCount(const QModelIndex& parent) const {
 QVariant ModelloCopia::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const auto colonna = static_cast<std::size_t>(index.column());
-    if (role == Qt::DisplayRole) return righe_[static_cast<std::size_t>(index.row())].at(index.column());
+    if (role == Qt::DisplayRole) return Visibile(righe_[static_cast<std::size_t>(index.row())].at(index.column()));
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(allineamenti_[colonna]);
     return {};
 }

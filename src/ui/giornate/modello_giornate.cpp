@@ -4,7 +4,7 @@
 
 #include "calendar/testo.h"
 #include "schedule/testi_giornata.h"
-#include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -64,7 +64,7 @@ QVariant ModelloGiornate::data(const QModelIndex& index, int role) const {
     const QString& intero = testi_[static_cast<std::size_t>(index.row())].intero;
     switch (role) {
         case Qt::DisplayRole:
-            return intero;
+            return Visibile(intero);
         case Qt::ToolTipRole:
             return TestoPiano(intero);
         case Qt::AccessibleTextRole: {

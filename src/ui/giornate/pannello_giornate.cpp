@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/giornate/striscia_giornata.h"
 
 namespace cronovia {
@@ -40,7 +41,7 @@ class Legenda : public QWidget {
 }  // namespace
 
 PannelloGiornate::PannelloGiornate(QWidget* parent)
-    : Pannello(u"Giornate"_s, parent), vista_(new VistaGiornate(modello_)), avviso_(new QLabel) {
+    : Pannello(u"Giornate"_s, parent), vista_(new VistaGiornate(modello_)), avviso_(NuovaScritta()) {
     setObjectName(u"pannelloGiornate"_s);
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     auto* contenuto = new QWidget;

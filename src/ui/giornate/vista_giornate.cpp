@@ -8,7 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/comuni/trascinamento.h"
 #include "ui/giornate/striscia_giornata.h"
 

@@ -7,10 +7,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "calendar/testo.h"
 #include "schedule/testi_giornata.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
-#include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/griglia/icone_righe.h"
 
 namespace cronovia {
@@ -229,7 +230,7 @@ QVariant ModelloGriglia::DatiDellaLinea(int giornata, Colonna colonna, int role)
     if (colonna != Colonna::Numero) return {};
     switch (role) {
         case Qt::DisplayRole:
-            return RigaGiornata(dati, *cronovia_);
+            return Visibile(RigaGiornata(dati, *cronovia_));
         case Qt::AccessibleTextRole:
             return RigaGiornata(dati, *cronovia_) + (mostrate_.Chiusa(giornata) ? u", chiusa"_s : u", aperta"_s);
         case Qt::ToolTipRole:
@@ -249,7 +250,7 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
     if (const std::optional<int> giornata = Linea(index.row())) return DatiDellaLinea(*giornata, colonna, role);
     switch (role) {
         case Qt::DisplayRole:
-            return Testi(index.row())[colonna];
+            return Visibile(Testi(index.row())[colonna]);
         case Qt::ToolTipRole:
             return Suggerimento(index.row(), colonna);
         case Qt::TextAlignmentRole:
@@ -274,7 +275,7 @@ QVariant ModelloGriglia::headerData(int section, Qt::Orientation orientation, in
     const auto colonna = static_cast<Colonna>(section);
     if (role == Qt::DisplayRole) return Intestazioni(cronovia_ ? Vista::Cronovia : Vista::Itinerario)[colonna];
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AllineamentoColonna(colonna));
-    if (role == Qt::ToolTipRole && colonna == Colonna::LimiteRitorno) return SpiegazioneLimite();
+    if (role == Qt::ToolTipRole && colonna == Colonna::LimiteRitorno) return TestoPiano(SpiegazioneLimite());
     return {};
 }
 

@@ -8,6 +8,7 @@
 #include "store/schema.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -24,7 +25,7 @@ FrmGuida::FrmGuida(QWidget* parent) : QGroupBox(u"Guida visite e soste tecniche:
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
     layout->addLayout(CreaCampi());
-    auto* nota = new QLabel(
+    QLabel* nota = NuovaScritta(
         u"Per inserire una nuova annotazione, posizionarsi sulla prima riga della località (quella vuota); per "
         "cancellare/modificare, posizionarsi su quella da cancellare."_s);
     nota->setObjectName(u"lblGNota"_s);
@@ -93,7 +94,7 @@ QLayout* FrmGuida::CreaComandi() {
 
 void FrmGuida::MostraTipi(const std::vector<TipoGuida>& tipi) {
     QStringList nomi;
-    for (const TipoGuida& tipo : tipi) nomi += tipo.descrizione;
+    for (const TipoGuida& tipo : tipi) nomi += Visibile(tipo.descrizione);
     const QString scritto = cmbGTipo_->currentText();
     cmbGTipo_->clear();
     cmbGTipo_->addItems(nomi);
@@ -101,7 +102,7 @@ void FrmGuida::MostraTipi(const std::vector<TipoGuida>& tipi) {
 }
 
 void FrmGuida::Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile) {
-    txtGCitta_->setText(localita);
+    txtGCitta_->setText(Visibile(localita));
     txtGDescr_->setText(campi.descrizione);
     cmbGTipo_->setCurrentIndex(cmbGTipo_->findText(campi.tipo));
     cmbGTipo_->setEditText(campi.tipo);

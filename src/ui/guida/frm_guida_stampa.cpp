@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -20,7 +21,7 @@ struct Scelta {
 QRadioButton* NuovaScelta(const QString& nome, int indice, const Scelta& scelta) {
     auto* opzione = new QRadioButton(scelta.testo);
     opzione->setObjectName(NomeDiSerie(nome, indice));
-    opzione->setToolTip(scelta.istruzione);
+    MostraIstruzione(*opzione, scelta.istruzione);
     return opzione;
 }
 

@@ -3,7 +3,8 @@
 #include <QFont>
 #include <algorithm>
 
-#include "ui/comuni/controlli.h"
+#include "calendar/testo.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/griglia/icone_righe.h"
 #include "ui/griglia/modello_griglia.h"
 
@@ -42,7 +43,7 @@ QVariant ModelloGuida::data(const QModelIndex& index, int role) const {
     const RigaGuida& riga = (*elenco_)[static_cast<std::size_t>(index.row())];
     switch (role) {
         case Qt::DisplayRole:
-            return ColonneGuida(index.row() + 1, riga)[static_cast<std::size_t>(index.column())];
+            return Visibile(ColonneGuida(index.row() + 1, riga)[static_cast<std::size_t>(index.column())]);
         case Qt::ToolTipRole:
             return TestoPiano(ColonneGuida(index.row() + 1, riga)[static_cast<std::size_t>(index.column())]);
         case Qt::TextAlignmentRole:

@@ -158,8 +158,8 @@ void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
             const RigaGuida& riga = (*tavolo.Elenco())[i];
             if (riga.voce) continue;
             const auto numero = static_cast<int>(i) + 1;
-            auto* voce =
-                new QListWidgetItem(RiempiDopo(riga.localita, kCaratteriLocalita, u' ') + Zero(numero, 4), &elenco_);
+            auto* voce = new QListWidgetItem(
+                RiempiDopo(Visibile(riga.localita), kCaratteriLocalita, u' ') + Zero(numero, 4), &elenco_);
             voce->setData(Qt::UserRole, numero);
             if (riga.localita == tavolo.Corrente().localita) elenco_.setCurrentItem(voce);
         }

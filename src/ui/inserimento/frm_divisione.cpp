@@ -10,6 +10,7 @@
 #include "store/schema.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -17,10 +18,9 @@ using namespace Qt::StringLiterals;
 
 std::optional<Divisione> ChiediDivisione(QWidget& finestra, const QString& da, const Tappa& tappa) {
     QDialog dialogo(&finestra);
-    dialogo.setWindowTitle(u"Divide la tappa"_s);
+    MostraTitolo(dialogo, u"Divide la tappa"_s);
     auto* layout = new QFormLayout(&dialogo);
-    auto* tratta = new QLabel(u"Da %1 a %2, %3 km."_s.arg(da, tappa.localita).arg(tappa.km));
-    tratta->setTextFormat(Qt::PlainText);
+    QLabel* tratta = NuovaScritta(u"Da %1 a %2, %3 km."_s.arg(da, tappa.localita).arg(tappa.km));
     auto* localita = NuovaCasella(u"txtDivisione"_s, Width(Table::Itinerari, itinerari::Localita) - 1,
                                   u"La località lungo la strada"_s);
     ScriviMaiuscolo(*localita);
@@ -29,10 +29,9 @@ std::optional<Divisione> ChiediDivisione(QWidget& finestra, const QString& da, c
     km->setRange(1, tappa.km - 1);
     km->setValue(tappa.km / 2);
     km->setAccelerated(true);
-    auto* resto = new QLabel;
-    resto->setTextFormat(Qt::PlainText);
+    QLabel* resto = NuovaScritta();
     const auto mostraResto = [&] {
-        resto->setText(u"Ne restano %1 fino a %2."_s.arg(tappa.km - km->value()).arg(tappa.localita));
+        MostraScritta(*resto, u"Ne restano %1 fino a %2."_s.arg(tappa.km - km->value()).arg(tappa.localita));
     };
     mostraResto();
     auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -40,7 +39,7 @@ std::optional<Divisione> ChiediDivisione(QWidget& finestra, const QString& da, c
     ok->setEnabled(false);
     layout->addRow(tratta);
     layout->addRow(u"&Località intermedia"_s, localita);
-    layout->addRow(u"&Km da %1"_s.arg(QString(da).replace(u'&', u"&&"_s)), km);
+    layout->addRow(u"&Km da %1"_s.arg(InScritta(da)), km);
     layout->addRow(resto);
     layout->addRow(pulsanti);
     QObject::connect(km, &QSpinBox::valueChanged, &dialogo, mostraResto);

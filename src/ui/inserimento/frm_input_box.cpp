@@ -11,6 +11,7 @@
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -70,10 +71,11 @@ QWidget* FrmInputBox::CreaCampi() {
     }
     chkEndDay_ = new QCheckBox(u"Fine giornata"_s);
     chkEndDay_->setObjectName(u"chkEndDay"_s);
-    chkEndDay_->setToolTip(u"Forza la sosta fino alla fine della giornata"_s);
+    MostraIstruzione(*chkEndDay_, u"Forza la sosta fino alla fine della giornata"_s);
     chkKm_ = new QCheckBox(u"Km. progress."_s);
     chkKm_->setObjectName(u"chkKm"_s);
-    chkKm_->setToolTip(
+    MostraIstruzione(
+        *chkKm_,
         u"Se attivo, inserendo un valore superiore al progressivo del giorno precedente, viene inserita la differenza; "
         "senza la spunta i chilometri sono quelli della tappa"_s);
     auto* riga = new QHBoxLayout;
@@ -83,7 +85,7 @@ QWidget* FrmInputBox::CreaCampi() {
     auto* km = new QHBoxLayout;
     km->addWidget(txtKm_);
     km->addWidget(chkKm_);
-    layout->addRow(u"Riga"_s, riga);
+    layout->addRow(NuovaScritta(u"Riga"_s), riga);
     layout->addRow(NuovaEtichetta(u"Ta&ppa"_s, *txtTappa_), txtTappa_);
     layout->addRow(NuovaEtichetta(u"Numero strada (TRAGH=Traghetto)"_s, *txtNumStrada_));
     layout->addRow(txtNumStrada_);
@@ -92,9 +94,8 @@ QWidget* FrmInputBox::CreaCampi() {
     layout->addRow(NuovaEtichetta(u"E&ventuale sosta (in gg:hh:mm):"_s, *cmbSosta_[0]));
     soste->addWidget(chkEndDay_);
     layout->addRow(soste);
-    lblSuggerimenti_ = new QLabel;
+    lblSuggerimenti_ = NuovaScritta();
     lblSuggerimenti_->setObjectName(u"lblSuggerimenti"_s);
-    lblSuggerimenti_->setTextFormat(Qt::PlainText);
     lblSuggerimenti_->setWordWrap(true);
     lblSuggerimenti_->hide();
     layout->addRow(lblSuggerimenti_);
@@ -158,7 +159,7 @@ CampiTappa FrmInputBox::Campi() const {
 }
 
 void FrmInputBox::MostraSuggerimenti(const QString& testo) {
-    lblSuggerimenti_->setText(testo);
+    MostraScritta(*lblSuggerimenti_, testo);
     lblSuggerimenti_->setVisible(!testo.isEmpty());
 }
 

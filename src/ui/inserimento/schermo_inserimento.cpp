@@ -69,8 +69,8 @@ void SchermoInserimento::MostraElenco(bool aperto) {
         for (std::size_t i = 0; i < righe.size(); ++i) {
             if (righe[i].localita.isEmpty()) continue;
             const auto riga = static_cast<int>(i) + 1;
-            auto* voce =
-                new QListWidgetItem(RiempiDopo(righe[i].localita, kColonneLocalita, u' ') + Zero(riga, 4), &elenco_);
+            auto* voce = new QListWidgetItem(
+                RiempiDopo(Visibile(righe[i].localita), kColonneLocalita, u' ') + Zero(riga, 4), &elenco_);
             voce->setData(Qt::UserRole, riga);
             if (riga == postazione_.documento.RigaCorrente()) elenco_.setCurrentItem(voce);
         }

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -15,11 +16,11 @@ FrmExport::FrmExport(QWidget* parent) : QFrame(parent) {
     setObjectName(u"frmExport"_s);
     setFrameShape(QFrame::StyledPanel);
     auto* layout = new QGridLayout(this);
-    auto* titolo = new QLabel(u"Export/Import mete (compresi percorsi e guide città)"_s);
+    QLabel* titolo = NuovaScritta(u"Export/Import mete (compresi percorsi e guide città)"_s);
     QFont grassetto = titolo->font();
     grassetto.setBold(true);
     titolo->setFont(grassetto);
-    auto* istruzioni = new QLabel(u"(Clicca sulla meta che vuoi trasferire da/a Export)"_s);
+    QLabel* istruzioni = NuovaScritta(u"(Clicca sulla meta che vuoi trasferire da/a Export)"_s);
     istruzioni->setObjectName(u"lblExIstruzioni"_s);
     istruzioni->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout->addWidget(titolo, 0, 0);
@@ -93,7 +94,7 @@ void FrmExport::Mostra(const TavoloScambio& tavolo, bool inCorso) {
         const auto indice = static_cast<std::size_t>(i);
         modelli_[indice].Mostra(tavolo.Mete(i));
         mfgImExp_[indice]->setEnabled(!inCorso);
-        etichette_[indice]->setText(tavolo.Etichetta(i));
+        MostraScritta(*etichette_[indice], tavolo.Etichetta(i));
         mfgImExp_[indice]->setAccessibleName(tavolo.Etichetta(i));
         cmdTutto_[indice]->setText(tavolo.ScrittaTutto(i));
         cmdTutto_[indice]->setEnabled(!inCorso && !tavolo.Mete(i).empty());

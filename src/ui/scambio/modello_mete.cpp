@@ -4,6 +4,8 @@
 #include <array>
 #include <numeric>
 
+#include "calendar/testo.h"
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -62,11 +64,11 @@ QVariant ModelloMete::data(const QModelIndex& index, int role) const {
         case Num:
             return numeri_[static_cast<std::size_t>(index.row())];
         case Meta:
-            return meta.presente ? meta.localita + u" (già presente)"_s : meta.localita;
+            return Visibile(meta.presente ? meta.localita + u" (già presente)"_s : meta.localita);
         case Nazione:
-            return meta.nazione;
+            return Visibile(meta.nazione);
         default:
-            return meta.codice;
+            return Visibile(meta.codice);
     }
 }
 

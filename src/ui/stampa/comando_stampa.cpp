@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -11,6 +10,7 @@
 #include "print/stampa_cronovia.h"
 #include "print/stampa_tutto.h"
 #include "print/tabella_testo.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/stampa/stampanti.h"
 
 namespace cronovia {
@@ -24,12 +24,12 @@ QFrame* NuovoStampaInCorso() {
     riquadro->setObjectName(u"frmStampaInCorso"_s);
     riquadro->setFrameShape(QFrame::StyledPanel);
     riquadro->setAutoFillBackground(true);
-    auto* attesa = new QLabel(u"Preparazione moduli in corso... attendere..."_s);
+    QLabel* attesa = NuovaScritta(u"Preparazione moduli in corso... attendere..."_s);
     attesa->setObjectName(u"lblStampaInCorso"_s);
     auto* layout = new QVBoxLayout(riquadro);
     layout->setContentsMargins(24, 18, 24, 18);
     layout->addWidget(attesa);
-    layout->addWidget(new QLabel(u"L'attesa dipende dal sistema."_s));
+    layout->addWidget(NuovaScritta(u"L'attesa dipende dal sistema."_s));
     riquadro->hide();
     return riquadro;
 }

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -11,11 +12,11 @@ using namespace Qt::StringLiterals;
 FrmStampa::FrmStampa() : RiquadroSovrapposto(u"frmStampa"_s, u"Opzioni di stampa:"_s) {
     chkTabella_ = new QCheckBox(u"Cronovia"_s);
     chkTabella_->setObjectName(u"chkTabella"_s);
-    chkTabella_->setToolTip(u"Stampa la cronovia, una riga per tappa"_s);
+    MostraIstruzione(*chkTabella_, u"Stampa la cronovia, una riga per tappa"_s);
     chkTabella_->setChecked(true);
     chkModuli_ = new QCheckBox(u"Moduli \"Diario di bordo\""_s);
     chkModuli_->setObjectName(u"chkModuli"_s);
-    chkModuli_->setToolTip(u"Stampa i moduli in bianco con il programma Fogliax"_s);
+    MostraIstruzione(*chkModuli_, u"Stampa i moduli in bianco con il programma Fogliax"_s);
     stampa_ = NuovoPulsante(u"cmdEsegui_0"_s, u"&Stampa"_s, u"Sceglie la stampante"_s);
     QPushButton* rinuncia = NuovoPulsante(u"cmdEsegui_1"_s, u"&Rinuncia"_s, u"Rinuncia alla stampa"_s);
     QPushButton* anteprima =

@@ -13,6 +13,7 @@
 #include "interaction/failure.h"
 #include "print/file_pdf.h"
 #include "print/pittore.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -80,7 +81,7 @@ void MostraAnteprima(const Stampato& documento, QWidget& finestra, Interaction& 
     carta.setDocName(documento.titolo);
     QPrintPreviewDialog anteprima(&carta, &finestra);
     anteprima.setObjectName(u"anteprima"_s);
-    anteprima.setWindowTitle(u"Anteprima di stampa - "_s + documento.titolo);
+    MostraTitolo(anteprima, u"Anteprima di stampa - "_s + documento.titolo);
     anteprima.resize(finestra.size());
     SoloDaVedere(anteprima);
     QObject::connect(&anteprima, &QPrintPreviewDialog::paintRequested, &anteprima, [&](QPrinter* stampante) {

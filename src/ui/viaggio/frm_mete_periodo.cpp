@@ -14,6 +14,7 @@
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -40,7 +41,7 @@ QHBoxLayout* NuovoGruppo(QGridLayout& griglia, int riga, const QString& nome, co
     auto* layout = new QHBoxLayout(gruppo);
     layout->setContentsMargins({});
     layout->setSpacing(2);
-    griglia.addWidget(new QLabel(scritta), riga, 0);
+    griglia.addWidget(NuovaScritta(scritta), riga, 0);
     griglia.addWidget(gruppo, riga, 1, 1, 2);
     return layout;
 }
@@ -142,7 +143,7 @@ void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
         txtFine_[i] = NuovoRisultato(NomeDiSerie(u"txtFine"_s, static_cast<int>(i)), kCifreFine[i], nomi[i]);
     }
     for (const std::size_t i : {5U, 0U, 1U, 2U, 3U, 4U, 6U}) layout->addWidget(txtFine_[i]);
-    layout->addWidget(new QLabel(u"gg."_s));
+    layout->addWidget(NuovaScritta(u"gg."_s));
     layout->addStretch();
 }
 

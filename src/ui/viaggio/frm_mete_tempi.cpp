@@ -8,6 +8,7 @@
 #include "calendar/testo.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -39,8 +40,8 @@ constexpr std::array<Orario, FrmMeteTempi::kOrari> kVociOrario = {{
 FrmMeteTempi::FrmMeteTempi(Azioni& azioni) : QGroupBox(u"Tempi tecnici giornalieri/Riposi/Visite:"_s) {
     setObjectName(u"frmMeteTempi"_s);
     auto* layout = new QGridLayout(this);
-    layout->addWidget(new QLabel(u"Orari attività"_s), 0, 0, 1, 2);
-    layout->addWidget(new QLabel(u"Durata"_s), 0, 2, 1, 2, Qt::AlignCenter);
+    layout->addWidget(NuovaScritta(u"Orari attività"_s), 0, 0, 1, 2);
+    layout->addWidget(NuovaScritta(u"Durata"_s), 0, 2, 1, 2, Qt::AlignCenter);
     AggiungiOrario(*layout, 0, 1, 0, u"Colaz."_s);
     AggiungiOrario(*layout, 1, 2, 0, u"Pranzo"_s);
     AggiungiOrario(*layout, 4, 2, 2, {});
@@ -98,7 +99,7 @@ void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
     cmbRipH_ = CreaRiposo(u"cmbRipH"_s, Numeri(0, 8, 2), u"Ore di guida dopo le quali si riposa"_s);
     cmbRipG_ = CreaRiposo(u"cmbRipG"_s, Numeri(0, 5, 2), u"Giorni interi di riposo"_s);
     cmbRipGG_ = CreaRiposo(u"cmbRipGG"_s, Numeri(0, 10, 2), u"Giorni di viaggio dopo i quali si riposa"_s);
-    layout.addWidget(new QLabel(u"Riposi"_s), 0, 5, 1, 2);
+    layout.addWidget(NuovaScritta(u"Riposi"_s), 0, 5, 1, 2);
     const std::array<std::pair<QComboBox*, QString>, 4> righe = {
         {{cmbRipM_, u"minuti"_s}, {cmbRipH_, u"ogni h"_s}, {cmbRipG_, u"giorni"_s}, {cmbRipGG_, u"ogni gg"_s}}};
     int riga = 1;

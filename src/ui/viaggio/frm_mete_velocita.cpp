@@ -4,6 +4,7 @@
 
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -23,9 +24,9 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
     setObjectName(u"frmMeteVelocita"_s);
     auto* layout = new QGridLayout(this);
     StringiRiquadro(*layout);
-    layout->addWidget(new QLabel(u"km/h"_s), 0, 1);
-    layout->addWidget(new QLabel(u"Km."_s), 0, 2, Qt::AlignCenter);
-    layout->addWidget(new QLabel(u"Tempo"_s), 0, 3, Qt::AlignCenter);
+    layout->addWidget(NuovaScritta(u"km/h"_s), 0, 1);
+    layout->addWidget(NuovaScritta(u"Km."_s), 0, 2, Qt::AlignCenter);
+    layout->addWidget(NuovaScritta(u"Tempo"_s), 0, 3, Qt::AlignCenter);
     for (int i = 0; i <= kTipiStrada; ++i) {
         const auto indice = static_cast<std::size_t>(i);
         const bool tutti = i == kTipiStrada;
@@ -36,7 +37,7 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
         layout->addWidget(txtKmTot_[indice], i + 1, 2);
         layout->addWidget(txtTempo_[indice], i + 1, 3);
         if (tutti) {
-            layout->addWidget(new QLabel(tipo), i + 1, 0);
+            layout->addWidget(NuovaScritta(tipo), i + 1, 0);
             continue;
         }
         cmbMediaKm_[indice] =
@@ -51,7 +52,7 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
         layout->addWidget(&media, i + 1, 1);
     }
     txtTragh_ = NuovoRisultato(u"txtTragh"_s, 3, u"Numero dei traghetti"_s);
-    layout->addWidget(new QLabel(u"Traghetti"_s), kTipiStrada + 2, 0);
+    layout->addWidget(NuovaScritta(u"Traghetti"_s), kTipiStrada + 2, 0);
     layout->addWidget(txtTragh_, kTipiStrada + 2, 1);
     layout->addWidget(NuovoAiuto(AiutoVelocita()), kTipiStrada + 2, 3, Qt::AlignRight);
     layout->setRowStretch(kTipiStrada + 3, 1);

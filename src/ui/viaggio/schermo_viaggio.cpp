@@ -22,7 +22,8 @@ QString RigaElenco(const QString& localita, const QString& nazione, const QStrin
 }
 
 QString TestoInElenco(const MetaInElenco& meta) {
-    return RigaElenco(meta.localita, meta.nazione, meta.dataInizio ? TestoData(*meta.dataInizio) : QString());
+    return RigaElenco(Visibile(meta.localita), Visibile(meta.nazione),
+                      meta.dataInizio ? TestoData(*meta.dataInizio) : QString());
 }
 
 }  // namespace
