@@ -41,11 +41,12 @@ using ApriSessione = std::function<Sessione()>;
 
 using ProceduraVerbo = void (*)(const ApriSessione&, const Richiesta&, QTextStream& uscita);
 
-/// What draws the pages of the schedule and of the guide. It needs libraries that all other verbs do without, so it
-/// comes from outside.
+/// What draws the pages of the schedule, of the guide and of the days. It needs libraries that all other verbs do
+/// without, so it comes from outside.
 struct Stampe {
     ProceduraVerbo cronovia = nullptr;
     ProceduraVerbo guida = nullptr;
+    ProceduraVerbo giornate = nullptr;
 };
 
 /// What a verb was called with.

@@ -102,6 +102,11 @@ void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, const TabellaTesti
 }  // namespace
 
 void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const bool pdf = richiesta.opzioni.contains(u"pdf"_s);
+    if (!pdf && richiesta.opzioni.contains(u"sovrascrivi"_s)) {
+        throw WrongUsage(u"L'opzione --sovrascrivi vale solo con --pdf."_s);
+    }
+    if (pdf) return richiesta.stampe.giornate(apri, richiesta, uscita);
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
     Progress progress;

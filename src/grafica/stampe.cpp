@@ -10,6 +10,7 @@
 #include "interaction/failure.h"
 #include "print/file_pdf.h"
 #include "print/stampa_cronovia.h"
+#include "print/stampa_giornate.h"
 #include "print/stampa_guida.h"
 #include "print/tabella_testo.h"
 
@@ -43,24 +44,11 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
 }
 
-DatiStampaGuida DatiPerStampa(Sessione& sessione, const Richiesta& richiesta, const OpzioniStampaGuida& opzioni) {
-    const ReadSnapshot momento(sessione.Archivio());
-    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
-    return PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
-}
-
-void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
-    const QString path = richiesta.opzioni.value(u"pdf"_s);
-    if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
-    const OpzioniStampaGuida opzioni{!richiesta.opzioni.contains(u"meta"_s),
-                                     richiesta.opzioni.contains(u"dettaglio"_s)};
-    Sessione sessione = apri();
-    const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
-    if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
+void ScriviFile(const Stampato& documento, const QString& path, const Richiesta& richiesta, Sessione& sessione,
+                QTextStream& uscita) {
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
     Progress progress;
-    const Stampato documento = StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
     file.Chiudi();
@@ -68,8 +56,45 @@ void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
                                                                      QString::number(documento.pagine.size()));
 }
 
+QString FileScelto(const Richiesta& richiesta) {
+    const QString path = richiesta.opzioni.value(u"pdf"_s);
+    if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
+    return path;
+}
+
+void StampaLeGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const QString path = FileScelto(richiesta);
+    const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
+    Sessione sessione = apri();
+    Progress progress;
+    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
+    if (dati.giorni.empty()) throw Failure(u"Niente da stampare: l'itinerario non ha ancora tappe."_s);
+    ScriviFile(StampaGiornate(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress), path,
+               richiesta, sessione, uscita);
+    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+}
+
+DatiStampaGuida DatiPerStampa(Sessione& sessione, const Richiesta& richiesta, const OpzioniStampaGuida& opzioni) {
+    const ReadSnapshot momento(sessione.Archivio());
+    const Meta meta = opzioni.tutte ? Meta() : sessione.ApriMeta(richiesta.opzioni.value(u"meta"_s)).meta;
+    return PreparaStampaGuida(sessione.Archivio(), meta.codice, meta.localita, opzioni);
+}
+
+void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const QString path = FileScelto(richiesta);
+    const OpzioniStampaGuida opzioni{!richiesta.opzioni.contains(u"meta"_s),
+                                     richiesta.opzioni.contains(u"dettaglio"_s)};
+    Sessione sessione = apri();
+    const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
+    if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
+    Progress progress;
+    ScriviFile(StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress), path,
+               richiesta, sessione, uscita);
+}
+
 }  // namespace
 
-Stampe StampeInPdf() { return {&StampaViaggio, &StampaLaGuida}; }
+Stampe StampeInPdf() { return {&StampaViaggio, &StampaLaGuida, &StampaLeGiornate}; }
 
 }  // namespace cronovia

@@ -5,7 +5,7 @@
 
 namespace cronovia {
 
-/// Schedule and guide as PDF files.
+/// Schedule, guide and days as PDF files.
 Stampe StampeInPdf();
 
 }  // namespace cronovia

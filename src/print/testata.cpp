@@ -17,8 +17,8 @@ class RigaDiTesta {
         foglio_.StampaTesto({testo, foglio_.RigaDaBase(base_, carattere), x1, x2, carattere, dove});
     }
     void NumeroPagina(double x1, double x2, Allineamento dove) {
-        constexpr Carattere kCarattere{9, true, true};
-        foglio_.StampaNumeroPagina({{}, foglio_.RigaDaBase(base_, kCarattere), x1, x2, kCarattere, dove});
+        constexpr Carattere kTipoNumero{9, true, true};
+        foglio_.StampaNumeroPagina({{}, foglio_.RigaDaBase(base_, kTipoNumero), x1, x2, kTipoNumero, dove});
     }
 
   private:

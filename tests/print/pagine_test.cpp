@@ -6,6 +6,7 @@
 
 #include <map>
 
+#include "print/stampa_giornate.h"
 #include "print/stampa_guida.h"
 #include "stampa.h"
 
@@ -36,6 +37,9 @@ QString Testo(const Stampato& documento) {
         }
         for (const Linea& l : pagina.linee) {
             testo += u"linea %1 %2\n"_s.arg(Misure({l.x1, l.y1, l.x2 - l.x1, l.y2 - l.y1}), filetto(l.filetto));
+        }
+        for (const Barra& b : pagina.barre) {
+            testo += u"barra %1 %2\n"_s.arg(Misure(b.area), b.liscia ? QString() : Aspetto(b.genere).nome.toString());
         }
         for (const Immagine& i : pagina.immagini) testo += u"immagine %1 %2\n"_s.arg(Misure(i.area), i.sorgente);
         for (const TestoCollocato& t : pagina.testi) {
@@ -113,9 +117,13 @@ Stampato Guida(bool dettaglio) {
 }
 
 TEST(Pagine, AreAsReviewed) {
+    Progress progress;
     const std::pair<const char*, Stampato> casi[] = {
         {"tipi", prova::Stampa(Tipi())},
         {"cronovia", prova::Stampa(prova::DallArchivio(QStringLiteral(CRONOVIA_TEST_DATA "/journeys/politica_3.iei")))},
+        {"giornate",
+         StampaGiornate(prova::DallArchivio(QStringLiteral(CRONOVIA_TEST_DATA "/journeys/traghetto_notturno.iei")),
+                        prova::kPiede, progress)},
         {"guida-nomi", Guida(false)},
         {"guida-voci", Guida(true)}};
     for (const auto& [nome, documento] : casi) {
@@ -128,7 +136,10 @@ TEST(Pagine, AreAsReviewed) {
         EXPECT_EQ(QString::fromUtf8(prova::LeggiFile(path)).toStdString(), testo.toStdString()) << nome;
         for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina);
     }
-    for (const Pagina& pagina : prova::Stampa(prova::CapoNord()).pagine) NienteSiTocca(pagina);
+    const DatiStampa lungo = prova::CapoNord();
+    for (const Stampato& documento : {prova::Stampa(lungo), StampaGiornate(lungo, prova::kPiede, progress)}) {
+        for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina);
+    }
 }
 
 TEST(Pagine, TurnBehindTheLastLineOnlyAndHoldEveryRowOnce) {
