@@ -93,6 +93,23 @@ void Documento::DiventaNuova() {
     codice_ = RicercaMetaCorrente(sessione_.Archivio());
 }
 
+// What was read then is compared when it is saved: a trip that changed since is not overwritten unseen.
+void Documento::Riprendi(const LavoroSospeso& lavoro) {
+    const Meta& letta = lavoro.letta.meta;
+    Archive& archivio = sessione_.Archivio();
+    const ReadSnapshot momento(archivio);
+    const std::optional<MetaMemorizzata> adesso = LeggiMemorizzata(archivio, letta.codice);
+    if (adesso && adesso->meta.localita == letta.localita) {
+        Metti(sessione_.ApriMeta(letta.codice));
+    } else {
+        Metti(lavoro.caricati, lavoro.letta.tappe);
+    }
+    codice_ = letta.codice.isEmpty() ? RicercaMetaCorrente(archivio) : letta.codice;
+    letta_ = lavoro.letta;
+    ImpostaCampi(lavoro.campi);
+    Mostra({lavoro.righe, lavoro.riga});
+}
+
 void Documento::RileggiVisite() {
     RigheItinerario righe = righe_;
     RicalcolaVisite(sessione_.Archivio(), righe, orario_);

@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "app/confronto.h"
+#include "app/recupero.h"
 #include "app/sessione.h"
 #include "app/storia.h"
 #include "itinerary/itinerari.h"
@@ -55,6 +55,9 @@ class Documento {
     /// The fields as they were loaded, or proposed for a new trip.
     [[nodiscard]] const Meta& Caricati() const { return caricati_; }
 
+    /// What the archive held when it was loaded; without code for a new trip.
+    [[nodiscard]] const MetaMemorizzata& Letta() const { return letta_; }
+
     // Loading: all is read before anything is replaced, since what is open may exist nowhere else.
     /// The stored trip with that code becomes the open and the current one.
     void Apri(const QString& codice);
@@ -68,6 +71,8 @@ class Documento {
     void Scarta();
     /// The stored trip is gone: its fields are those of a new one, which is not saved.
     void DiventaNuova();
+    /// Work that a window left behind is open, and not saved, as if it had been typed just now.
+    void Riprendi(const LavoroSospeso& lavoro);
     /// The guide changed underneath: visits are read anew, fields stay.
     void RileggiVisite();
 

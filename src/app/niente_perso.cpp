@@ -1,5 +1,8 @@
 #include "app/niente_perso.h"
 
+#include <QFile>
+#include <algorithm>
+
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -76,6 +79,70 @@ void SalvaSenzaChiedere(Postazione& p) {
     const Salvataggio salvataggio = documento.CampiModificati() ? documento.DecidiSalvataggio() : Salvataggio();
     if (documento.CampiModificati() && TroppoNuova(documento.Campi(), salvataggio)) return;
     documento.SalvaTutto(salvataggio, p.volti.avanzamento);
+}
+
+// What differs from the row's own fields as they are read back: a road without type is shown as one of the last type.
+bool Scritta(const schermata::Inserimento& inserimento) {
+    const CampiTappa& campi = inserimento.campi;
+    const CampiTappa& proposti = inserimento.proposti;
+    return campi.localita != proposti.localita.trimmed() || campi.numStrada != proposti.numStrada.trimmed() ||
+           campi.km != proposti.km || campi.sosta != proposti.sosta || campi.fineGiorno != proposti.fineGiorno;
+}
+
+std::optional<LavoroSospeso> InSospeso(Postazione& p) {
+    const Documento& documento = p.documento;
+    LavoroSospeso lavoro;
+    if (const auto* inserimento = p.Su<schermata::Inserimento>(); inserimento != nullptr && Scritta(*inserimento)) {
+        lavoro.tappa = inserimento->campi;
+    }
+    if (const TavoloGuida* tavolo = ConVoceScritta(p)) {
+        const RigaGuida& riga = tavolo->Corrente();
+        lavoro.voce = {riga.localita, riga.voce ? riga.voce->descrizione : QString(), tavolo->Scritti()};
+    }
+    if (!lavoro.tappa && !lavoro.voce && !documento.Modificato()) return std::nullopt;
+    lavoro.letta = documento.Letta();
+    lavoro.caricati = documento.Caricati();
+    lavoro.campi = documento.Campi();
+    lavoro.righe = documento.Righe();
+    for (Tappa& tappa : lavoro.righe) tappa.guida = {};
+    lavoro.riga = documento.RigaCorrente();
+    return lavoro;
+}
+
+void RiprendiVoce(Postazione& p, const VoceSospesa& voce) {
+    auto tavolo = std::make_unique<TavoloGuida>(p.sessione.Archivio(), p.volti.interazione, p.documento.Codice(),
+                                                p.documento.Modifiche());
+    const auto& righe = *tavolo->Elenco();
+    const auto riga = std::find_if(righe.begin(), righe.end(), [&](const RigaGuida& r) {
+        return r.localita == voce.localita && (r.voce ? r.voce->descrizione : QString()) == voce.mostrata;
+    });
+    if (riga != righe.end()) tavolo->VaiAllaRiga(static_cast<int>(riga - righe.begin()) + 1);
+    tavolo->Scrivi(voce.scritti);
+    p.schermata = schermata::Guida{std::move(tavolo)};
+}
+
+// Stages are saved where they are entered.
+void Riprendi(Postazione& p, const LavoroSospeso& lavoro) {
+    p.documento.Riprendi(lavoro);
+    p.MettiSchermoDelViaggio();
+    if (lavoro.voce) return RiprendiVoce(p, *lavoro.voce);
+    if (!lavoro.tappa && !p.documento.TappeModificate()) return;
+    const CampiTappa proposti = p.documento.CampiCorrenti();
+    p.schermata = schermata::Inserimento{lavoro.tappa.value_or(proposti), proposti, p.documento.RigaCorrente()};
+}
+
+Answer ChiedeSeRecuperare(Postazione& p, const Recupero::Trovato& trovato) {
+    const LavoroSospeso& lavoro = trovato.lavoro;
+    const QString meta = !lavoro.letta.meta.codice.isEmpty() ? NomeDellaMeta(lavoro.letta.meta)
+                                                             : u"nuova «%1»"_s.arg(lavoro.campi.localita.trimmed());
+    QString testo = u"Cronovia si è chiuso prima che il tuo lavoro fosse salvato, il %1.\n\nMèta %2:\n- %3"_s.arg(
+        trovato.scritto.toString(u"dd/MM/yyyy HH:mm"_s), meta, Differenze(lavoro).join(u"\n- "_s));
+    const std::optional<MetaMemorizzata> adesso = LeggiMemorizzata(p.sessione.Archivio(), lavoro.letta.meta.codice);
+    const bool diversa = !lavoro.letta.meta.codice.isEmpty() && adesso != lavoro.letta;
+    if (diversa) testo += u"\n\nNell'archivio questa mèta adesso è un'altra: quando salverai, ti sarà chiesto."_s;
+    testo += u"\n\nVuoi recuperarlo? «Annulla» lo tiene per il prossimo avvio."_s;
+    return p.volti.interazione.Ask(
+        {testo, u"Lavoro non salvato"_s, true, Answer::Yes, false, u"&Recupera"_s, u"&Elimina"_s});
 }
 
 }  // namespace
@@ -174,14 +241,29 @@ bool SalvaOChiede(Postazione& p, const QString& mancato, const std::function<Esi
     }
 }
 
-// What is left unsaved here, since it is incomplete or the archive refuses it, is what a recovery file has to hold.
-bool Congeda(Postazione& p) {
+bool MettiAlSicuro(Postazione& p) {
     if (p.attivita != Attivita::Nessuna) return false;
-    try {
-        SalvaSenzaChiedere(p);
-    } catch (const Failure&) {  // nobody reads it
-    }
+    p.recupero.Segui(InSospeso(p), p.volti.adesso());
     return true;
+}
+
+bool Congeda(Postazione& p) {
+    try {
+        return MettiAlSicuro(p);
+    } catch (const Failure&) {  // nobody reads it
+        return true;
+    }
+}
+
+void OffriRecupero(Postazione& p) {
+    for (const QString& file : p.recupero.Rimasti()) {
+        std::optional<Recupero::Trovato> trovato;
+        if (!p.Prova([&] { trovato = p.recupero.Leggi(file); })) continue;
+        const Answer risposta = ChiedeSeRecuperare(p, *trovato);
+        if (risposta == Answer::No) QFile::remove(file);
+        if (risposta != Answer::Yes) continue;
+        if (p.Prova([&] { Riprendi(p, trovato->lavoro); })) return p.recupero.Riprendi(file, trovato->lavoro);
+    }
 }
 
 }  // namespace cronovia

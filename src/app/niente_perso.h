@@ -35,8 +35,13 @@ void Rinuncia(Postazione& p);
 /// saved, and notes the field that it is about; nothing then.
 std::optional<Salvataggio> DecideSalvataggio(Postazione& p, const QString& mancato = {});
 
-/// The program is made to end and nobody can be asked: saves all that needs no answer, the entry of the guide too.
-/// Nothing happens while another command writes or runs: false then, and it is to be tried again.
+/// Has the recovery file hold what is not saved, what is being typed too, and go when there is nothing. Nothing happens
+/// while a command writes or runs: false then. A `Failure` when the file cannot be written.
+bool MettiAlSicuro(Postazione& p);
+/// The program is made to end and nobody can be asked: nothing is saved that the person did not confirm, the recovery
+/// file holds it. False while another command writes or runs, and it is to be tried again.
 bool Congeda(Postazione& p);
+/// Shows what a window left behind that could not end, and opens it, throws it away or leaves it for later.
+void OffriRecupero(Postazione& p);
 
 }  // namespace cronovia

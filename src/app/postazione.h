@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "app/documento.h"
+#include "app/recupero.h"
 #include "app/schermate.h"
 #include "app/stato_comandi.h"
 #include "interaction/interaction.h"
@@ -47,6 +48,7 @@ struct Postazione {
     Volti volti;
     Sessione sessione;
     Documento documento{sessione};
+    Recupero recupero{sessione.Cartella()};
     Schermata schermata;
     Attivita attivita = Attivita::Nessuna;
     struct {

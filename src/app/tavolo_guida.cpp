@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "calendar/testo.h"
 #include "interaction/failure.h"
 
 namespace cronovia {

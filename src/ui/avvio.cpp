@@ -46,7 +46,10 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
     try {
         FormMete form(CartellaDati(LuoghiDellaPiattaforma(cartella)), &QDateTime::currentDateTime);
         form.show();
-        if (!file.isEmpty()) QTimer::singleShot(0, &form, [&] { form.ApriFile(file); });
+        QTimer::singleShot(0, &form, [&] {
+            form.Comincia();
+            if (!file.isEmpty()) form.ApriFile(file);
+        });
         return QApplication::exec();
     } catch (const Failure& failure) {
         std::fputs(qPrintable(Visibile(failure.Message()) + u'\n'), stderr);

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QSessionManager>
 #include <QVBoxLayout>
+#include <chrono>
 #include <utility>
 
 #include "app/comandi_inserimento.h"
@@ -39,6 +40,9 @@ constexpr int kVersioneAspetto = 1;
 
 // As wide as the frames of the desktops are at most.
 constexpr QMargins kCornice(8, 40, 8, 8);
+
+// No more than this is lost of what is typed, whatever happens.
+constexpr std::chrono::milliseconds kOgniQuantoAlSicuro(1000);
 
 }  // namespace
 
@@ -172,6 +176,30 @@ void FormMete::CreaGiornate() {
         if (!inCorso_) MostraLeGiornate();
     });
     connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
+}
+
+void FormMete::Comincia() {
+    Esegui([&] { OffriRecupero(postazione_); });
+    auto* battito = new QTimer(this);
+    connect(battito, &QTimer::timeout, this, &FormMete::MettiAlSicuro);
+    battito->start(kOgniQuantoAlSicuro);
+}
+
+// What is typed is kept while it is typed; in the middle of a command, what it began with.
+void FormMete::MettiAlSicuro() {
+    if (congedata_ || mostrando_ || !isVisible()) return;
+    if (!inCorso_) {
+        viaggio_->Raccogli();
+        inserimento_.Raccogli();
+        guida_.Raccogli();
+    }
+    try {
+        if (cronovia::MettiAlSicuro(postazione_)) senzaRecupero_ = false;
+    } catch (const Failure& failure) {
+        if (inCorso_ || std::exchange(senzaRecupero_, true)) return;
+        postazione_.Mostra(failure.Message() +
+                           u"\n\nFinché è così, salva spesso: ciò che scrivi non viene messo al sicuro da solo."_s);
+    }
 }
 
 void FormMete::Collega() {
@@ -309,7 +337,9 @@ void FormMete::RendiLeggibile() {
 void FormMete::closeEvent(QCloseEvent* event) {
     event->setAccepted(congedata_ || (!postazione_.InCorsa() && PossoChiudere()));
     if (postazione_.InCorsa()) comandi::Esce(postazione_);
-    if (event->isAccepted()) RicordaAspetto();
+    if (!event->isAccepted()) return;
+    if (!congedata_) postazione_.recupero.Segui({}, {});  // saved or declined
+    RicordaAspetto();
 }
 
 bool FormMete::PossoChiudere() {

@@ -36,6 +36,8 @@ class FormMete : public QMainWindow {
     FormMete& operator=(const FormMete&) = delete;
     ~FormMete() override;
 
+    /// What comes first when the window is shown: offers what an earlier one left unsaved.
+    void Comincia();
     /// Opens the import of an exchange file.
     void ApriFile(const QString& file);
     /// The desktop session is about to end: asks for what would be lost, above a box that is open too. Whether it may.
@@ -58,6 +60,7 @@ class FormMete : public QMainWindow {
     void Collega();
     void Raccogli();
     void ConcludiIlCampo();
+    void MettiAlSicuro();
     /// Runs a command on what the fields hold, then shows the state anew; false when it cannot begin now.
     bool Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);
@@ -96,8 +99,9 @@ class FormMete : public QMainWindow {
     QTimer attesaDalVivo_;  // until what is typed has been taken over
     QList<Pannello*> pannelli_;
     bool mostrando_ = false;
-    bool inCorso_ = false;    // a command has begun and not ended
-    bool congedata_ = false;  // the program was made to end, and nobody is asked any more
+    bool inCorso_ = false;        // a command has begun and not ended
+    bool senzaRecupero_ = false;  // the recovery file could not be written, and the person knows
+    bool congedata_ = false;      // the program was made to end, and nobody is asked any more
 };
 
 }  // namespace cronovia

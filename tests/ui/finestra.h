@@ -38,6 +38,7 @@ class FinestraTest : public testing::Test {
         form_ = std::make_unique<FormMete>(cartella_.Path(), [ora] { return QDateTime({2027, 6, 5}, ora); });
         form_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        form_->Comincia();
     }
 
     /// What comes up next, how it is answered, and what it must say.

@@ -309,6 +309,8 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
                                                                                {u"Non salvare"_s, QMessageBox::Discard},
                                                                                {u"Sovrascrivi"_s, QMessageBox::Yes},
                                                                                {u"Ricarica"_s, QMessageBox::No},
+                                                                               {u"Recupera"_s, QMessageBox::Yes},
+                                                                               {u"Elimina"_s, QMessageBox::No},
                                                                                {u"Ok"_s, QMessageBox::Ok}};
         const QString preset = bottone.section(u'/', 1);
         Attendi({Attesa::Che::Box,

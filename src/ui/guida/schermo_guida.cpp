@@ -136,7 +136,7 @@ bool SchermoGuida::Mostra(int righeMinime) {
                        mostrato_->elenco != tavolo->Elenco() || tavolo->Scritti() != riquadro_->Campi();
     if (nuovo) {
         riquadro_->MostraTipi(tavolo->Tipi());
-        riquadro_->Mostra(tavolo->Corrente().localita, tavolo->Campi(), tavolo->Corrente().voce.has_value());
+        riquadro_->Mostra(tavolo->Corrente().localita, tavolo->Scritti(), tavolo->Corrente().voce.has_value());
         mostrato_ = {tavolo->RigaCorrente(), tavolo->Elenco(), tavolo->Campi()};
     }
     MostraElenco(*tavolo);

@@ -53,7 +53,8 @@ void SchermoInserimento::Mostra() {
     Mostrati adesso{postazione_.documento.RigaCorrente(), postazione_.documento.CampiCorrenti(),
                     comandi::KmProgressivi(postazione_)};
     const bool stessaRiga = mostrati_ && mostrati_->riga == adesso.riga && mostrati_->campi == adesso.campi;
-    if (!stessaRiga) riquadro_->Mostra(adesso.riga, adesso.campi);
+    const bool appenaAperto = inserimento != nullptr && !mostrati_;
+    if (!stessaRiga) riquadro_->Mostra(adesso.riga, appenaAperto ? inserimento->campi : adesso.campi);
     if (!stessaRiga || mostrati_->progressivi != adesso.progressivi) {
         riquadro_->MostraKmProgressivi(adesso.progressivi);
     }

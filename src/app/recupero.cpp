@@ -1,0 +1,191 @@
+#include "app/recupero.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+#include <utility>
+
+#include "files/file_intero.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kFormato = u"recupero di Cronovia"_s;
+constexpr int kVersione = 1;
+constexpr qint64 kMassimiByte = 64LL << 20;
+
+QJsonObject InJson(const Meta& meta) {
+    QJsonObject json;
+    const std::vector<QString> valori = ValoriDellaMeta(meta);
+    for (std::size_t i = 0; i < valori.size(); ++i) {
+        json.insert(Definition(Table::MeteVandro).fields[i].name, valori[i]);
+    }
+    return json;
+}
+
+Meta MetaDaJson(const QJsonValue& json) {
+    Record record;
+    for (const FieldDefinition& campo : Definition(Table::MeteVandro).fields) {
+        record.values.push_back(json[campo.name].toString());
+    }
+    return MetaDaRecord(record);
+}
+
+QJsonArray InJson(const Durata& durata) { return {durata.giorni, durata.ore, durata.minuti}; }
+
+Durata DurataDaJson(const QJsonValue& json) { return {json[0].toInt(), json[1].toInt(), json[2].toInt()}; }
+
+// A stage and what is typed for one have these in common.
+template <typename T>
+QJsonObject StradaInJson(const T& tappa) {
+    return {{u"localita"_s, tappa.localita},
+            {u"strada"_s, tappa.numStrada},
+            {u"km"_s, tappa.km},
+            {u"tipo"_s, LetteraTipoStrada(tappa.tipo)},
+            {u"sosta"_s, InJson(tappa.sosta)},
+            {u"fineGiorno"_s, tappa.fineGiorno}};
+}
+
+template <typename T>
+T StradaDaJson(const QJsonValue& json) {
+    T tappa;
+    tappa.localita = json["localita"_L1].toString();
+    tappa.numStrada = json["strada"_L1].toString();
+    tappa.km = json["km"_L1].toInt();
+    tappa.tipo = LeggiTipoStrada(json["tipo"_L1].toString());
+    tappa.sosta = DurataDaJson(json["sosta"_L1]);
+    tappa.fineGiorno = json["fineGiorno"_L1].toBool();
+    return tappa;
+}
+
+QJsonArray InJson(const RigheItinerario& righe) {
+    QJsonArray json;
+    for (const Tappa& tappa : righe) json.append(StradaInJson(tappa));
+    return json;
+}
+
+RigheItinerario RigheDaJson(const QJsonValue& json) {
+    RigheItinerario righe;
+    for (const QJsonValue& tappa : json.toArray()) righe.push_back(StradaDaJson<Tappa>(tappa));
+    return righe;
+}
+
+QJsonObject InJson(const CampiTappa& campi) {
+    QJsonObject json = StradaInJson(campi);
+    json.insert(u"kmProgressivi"_s, campi.kmProgressivi);
+    return json;
+}
+
+QJsonObject InJson(const VoceSospesa& voce) {
+    return {{u"localita"_s, voce.localita}, {u"mostrata"_s, voce.mostrata}, {u"testo"_s, voce.scritti.descrizione},
+            {u"tipo"_s, voce.scritti.tipo}, {u"ore"_s, voce.scritti.ore},   {u"minuti"_s, voce.scritti.minuti}};
+}
+
+QByteArray InByte(const LavoroSospeso& lavoro, const QDateTime& adesso) {
+    QJsonObject json{{u"formato"_s, kFormato},
+                     {u"versione"_s, kVersione},
+                     {u"scritto"_s, adesso.toString(Qt::ISODate)},
+                     {u"letta"_s, InJson(lavoro.letta.meta)},
+                     {u"tappeLette"_s, InJson(lavoro.letta.tappe)},
+                     {u"caricati"_s, InJson(lavoro.caricati)},
+                     {u"campi"_s, InJson(lavoro.campi)},
+                     {u"righe"_s, InJson(lavoro.righe)},
+                     {u"riga"_s, lavoro.riga}};
+    if (lavoro.tappa) json.insert(u"tappa"_s, InJson(*lavoro.tappa));
+    if (lavoro.voce) json.insert(u"voce"_s, InJson(*lavoro.voce));
+    return QJsonDocument(json).toJson();
+}
+
+std::optional<Recupero::Trovato> DaByte(const QByteArray& byte) {
+    const QJsonObject json = QJsonDocument::fromJson(byte).object();
+    if (json["formato"_L1].toString() != kFormato || json["versione"_L1].toInt() != kVersione) return std::nullopt;
+    LavoroSospeso lavoro{{MetaDaJson(json["letta"_L1]), RigheDaJson(json["tappeLette"_L1])},
+                         MetaDaJson(json["caricati"_L1]),
+                         MetaDaJson(json["campi"_L1]),
+                         RigheDaJson(json["righe"_L1]),
+                         std::max(1, json["riga"_L1].toInt()),
+                         {},
+                         {}};
+    if (const QJsonValue tappa = json["tappa"_L1]; tappa.isObject()) {
+        lavoro.tappa = StradaDaJson<CampiTappa>(tappa);
+        lavoro.tappa->kmProgressivi = tappa["kmProgressivi"_L1].toBool();
+    }
+    if (const QJsonValue voce = json["voce"_L1]; voce.isObject()) {
+        lavoro.voce = {voce["localita"_L1].toString(),
+                       voce["mostrata"_L1].toString(),
+                       {voce["testo"_L1].toString(), voce["tipo"_L1].toString(), voce["ore"_L1].toInt(),
+                        voce["minuti"_L1].toInt()}};
+    }
+    return Recupero::Trovato{std::move(lavoro), QDateTime::fromString(json["scritto"_L1].toString(), Qt::ISODate)};
+}
+
+}  // namespace
+
+QStringList Differenze(const LavoroSospeso& lavoro) {
+    QStringList righe = Differenze({lavoro.caricati, lavoro.letta.tappe}, {lavoro.campi, lavoro.righe});
+    if (lavoro.tappa) righe += u"tappa che stavi scrivendo: %1"_s.arg(lavoro.tappa->localita);
+    if (lavoro.voce) {
+        righe += u"annotazione che stavi scrivendo per %1: %2"_s.arg(lavoro.voce->localita,
+                                                                     lavoro.voce->scritti.descrizione.trimmed());
+    }
+    return righe;
+}
+
+void Recupero::Segui(const std::optional<LavoroSospeso>& lavoro, const QDateTime& adesso) {
+    if (lavoro == scritto_) return;
+    if (!lavoro) {
+        QFile::remove(file_);
+    } else {
+        const QDir cartella(cartella_);
+        for (int i = 1; file_.isEmpty() || (!scritto_ && QFile::exists(file_)); ++i) {
+            file_ = cartella.filePath(i == 1 ? u"Cronovia.recupero"_s : u"Cronovia-%1.recupero"_s.arg(i));
+        }
+        FileIntero file(file_);
+        file.Scrivi(InByte(*lavoro, adesso));
+        file.Chiudi();
+    }
+    scritto_ = lavoro;
+}
+
+QStringList Recupero::Rimasti() const {
+    const QDir cartella(cartella_);
+    // What a window left behind that was killed while it wrote.
+    for (const QString& nome : cartella.entryList({u"Cronovia*.recupero.??????"_s}, QDir::Files)) {
+        QFile::remove(cartella.filePath(nome));
+    }
+    QStringList file;
+    for (const QString& nome : cartella.entryList({u"Cronovia*.recupero"_s}, QDir::Files, QDir::Name)) {
+        file += cartella.filePath(nome);
+    }
+    return file;
+}
+
+Recupero::Trovato Recupero::Leggi(const QString& file) const {
+    QFile aperto(file);
+    if (!aperto.open(QIODevice::ReadOnly)) {
+        throw Failure(
+            u"Il file di recupero %1 non si può leggere: controlla i permessi."_s.arg(QDir::toNativeSeparators(file)));
+    }
+    if (std::optional<Trovato> trovato = DaByte(aperto.read(kMassimiByte))) return std::move(*trovato);
+    aperto.close();
+    const QString scartato = file + u".illeggibile"_s;
+    QFile::remove(scartato);
+    QFile::rename(file, scartato);
+    throw Failure(
+        u"Il file di recupero %1 è incompleto o non è di Cronovia: non si può riprendere, ed è stato messo da "
+        "parte come %2. L'archivio è intatto."_s.arg(QDir::toNativeSeparators(file),
+                                                     QDir::toNativeSeparators(scartato)));
+}
+
+void Recupero::Riprendi(const QString& file, const LavoroSospeso& lavoro) {
+    file_ = file;
+    scritto_ = lavoro;
+}
+
+}  // namespace cronovia
