@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/comandi_copia.h"
+#include "app/comandi_righe.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
 #include "exchange/percorsi/importa_percorso.h"
@@ -107,6 +108,7 @@ void Aggiunge(Postazione& p) {
 }
 
 void Cancella(Postazione& p) {
+    if (const Tratto scelte = RigheScelte(p); scelte.da < scelte.a) return TogliScelte(p);
     const int riga = p.documento.RigaCorrente();
     Modifica(p, u"cancellazione di una riga"_s, CancellaRiga(p.documento.Righe(), riga), riga);
 }

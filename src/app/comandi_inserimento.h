@@ -16,7 +16,7 @@ void SelezionaRiga(Postazione& p, int riga);
 /// Writes the entry fields into the current row and goes to the next; tells why that cannot be, and then the fields
 /// stay as they are.
 void Inserisce(Postazione& p);
-/// Opens a free row before the current one; takes the current one away.
+/// Opens a free row before the current one; takes the current one away, or all that are selected.
 void Aggiunge(Postazione& p);
 void Cancella(Postazione& p);
 /// Takes all stops away, after a question.

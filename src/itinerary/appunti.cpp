@@ -98,7 +98,7 @@ class RigaDegliAppunti {
     }
     // A locality is stored one character shorter than its field.
     [[nodiscard]] QString Nome(Cella cella, itinerari::Field campo, int meno) const {
-        const QString nome = Testo(cella).normalized(QString::NormalizationForm_C).toUpper();
+        QString nome = Testo(cella).normalized(QString::NormalizationForm_C).toUpper();
         const int larghezza = Width(Table::Itinerari, campo) - meno;
         if (nome.size() > larghezza) Rifiuta(u"«%1» ha più di %2 caratteri"_s.arg(nome).arg(larghezza));
         return nome;

@@ -51,13 +51,13 @@ EsitoSpostamento Concluso(RigheConOrigine righe, Tratto tratto) {
     EsitoSpostamento esito;
     esito.tratto = tratto;
     QString luogo;
-    for (auto& [tappa, da] : righe) {
-        if (!SenzaLuogo(tappa)) {
-            const bool rotta = da && !StessoLuogo(*da, luogo);
-            if (rotta && (luogo.isEmpty() ? DiventaPartenza(tappa) : PerdeIKm(tappa))) ++esito.daIndicare;
-            luogo = tappa.localita;
+    for (RigaConOrigine& riga : righe) {
+        if (!SenzaLuogo(riga.tappa)) {
+            const bool rotta = riga.da && !StessoLuogo(*riga.da, luogo);
+            if (rotta && (luogo.isEmpty() ? DiventaPartenza(riga.tappa) : PerdeIKm(riga.tappa))) ++esito.daIndicare;
+            luogo = riga.tappa.localita;
         }
-        esito.righe.push_back(std::move(tappa));
+        esito.righe.push_back(std::move(riga.tappa));
     }
     return esito;
 }

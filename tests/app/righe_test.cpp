@@ -66,7 +66,7 @@ TEST_F(RigheTest, KilometresToBeToldAreKeptInTheArchiveAndInWaysBack) {
     Scegli(2, 3);
     comandi::DuplicaScelte(*postazione_);
     EXPECT_EQ(Tappe(), u"B A? C? A? C? D"_s);
-    comandi::TogliScelte(*postazione_);
+    comandi::Cancella(*postazione_);  // all that are selected
     Memorizza(Answer::Yes);
     Viaggio().RicaricaTappe();
     EXPECT_EQ(Tappe(), u"B A? C? D"_s);
