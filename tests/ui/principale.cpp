@@ -1,8 +1,13 @@
-// The window's tests run without a display. "ui_test --avvio FOLDER" starts the program's window as the program does.
+// The window's tests run without a display. "ui_test --avvio FOLDER" starts the program's window as the program does,
+// "--scrive FOLDER" with somebody who types in it.
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDateTime>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QRandomGenerator>
+#include <QTest>
 #include <QTimer>
 #include <cstdio>
 #include <cstring>
@@ -12,6 +17,7 @@
 namespace {
 
 bool soloAvvio = false;
+bool cheScrive = false;
 
 // Reads the language of the standard buttons out, then a box, which it closes; else it closes the window.
 void ChiudiTutto() {
@@ -24,7 +30,25 @@ void ChiudiTutto() {
     }
 }
 
+// Types into the country of the trip, without end, fast and slowly, and tells when it held what.
+void Scrivi() {
+    static int battuti = 0;
+    for (QWidget* controllo : QApplication::allWidgets()) {
+        if (controllo->objectName() != QLatin1String("txtNazione")) continue;
+        if (++battuti % 12 == 0) QTest::keyClick(controllo, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(controllo, static_cast<char>('A' + battuti % 23));
+        const QString adesso = qobject_cast<QLineEdit*>(controllo)->text();
+        std::printf("%lld %s\n", QDateTime::currentMSecsSinceEpoch(), qPrintable(adesso));
+        std::fflush(stdout);
+    }
+    QTimer::singleShot(QRandomGenerator::global()->bounded(10, 300), qApp, &Scrivi);
+}
+
 void PersonaCheChiude() {
+    if (cheScrive) {
+        QMetaObject::invokeMethod(
+            qApp, [] { QTimer::singleShot(300, qApp, &Scrivi); }, Qt::QueuedConnection);
+    }
     if (!soloAvvio) return;
     QMetaObject::invokeMethod(
         qApp, [] { QTimer::singleShot(100, qApp, &ChiudiTutto); }, Qt::QueuedConnection);
@@ -42,7 +66,8 @@ void FallisciSuAvviso(QtMsgType tipo, const QMessageLogContext& /*contesto*/, co
 int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     soloAvvio = argc == 3 && std::strcmp(argv[1], "--avvio") == 0;
-    if (soloAvvio) return cronovia::ApriFinestra(argc, argv, QString::fromLocal8Bit(argv[2]));
+    cheScrive = argc == 3 && std::strcmp(argv[1], "--scrive") == 0;
+    if (soloAvvio || cheScrive) return cronovia::ApriFinestra(argc, argv, QString::fromLocal8Bit(argv[2]));
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Cronovia"));
