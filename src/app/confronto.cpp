@@ -33,6 +33,7 @@ QStringList CampiDiversi(const Meta& prima, const Meta& dopo) {
         const auto campo = static_cast<std::size_t>(i);
         if (vecchi[campo] != nuovi[campo]) nomi += NomeCampoMeta(static_cast<mete::Field>(i));
     }
+    if (prima.scadenza != dopo.scadenza) nomi += u"rientro entro"_s;
     return nomi;
 }
 

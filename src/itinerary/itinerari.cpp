@@ -49,6 +49,15 @@ void MettiVisite(LettoreGuida& guida, std::span<Tappa> tappe, const OrarioCorret
     }
 }
 
+// At the last row of a stage: there it is reached.
+void MemorizzaVincoli(Archive& archive, const std::vector<QString>& riga, const Vincoli& vincoli) {
+    std::vector<QString> valori = ValoriDeiVincoli(vincoli);
+    valori[vincoli::CodiceMeta] = riga[itinerari::CodiceMeta];
+    valori[vincoli::Sequenza] = riga[itinerari::Sequenza];
+    valori[vincoli::Localita] = riga[itinerari::Localita];
+    archive.Insert(Table::Vincoli, valori);
+}
+
 // The rows of one stage; `sequenza` counts on.
 void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& tappa, const QString& soggiornoGuida,
                     int& sequenza) {
@@ -69,12 +78,53 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
         valori[itinerari::SostaGuidaCitta] = u" "_s;
         resto -= parte;
     } while (resto > 0);
+    if (tappa.vincoli) MemorizzaVincoli(archive, valori, tappa.vincoli.Valore());
 }
 
 void RifiutaTroppeTappe(std::span<const Tappa> tappe) {
     if (RecordNecessari(tappe) <= kMassimoRecord) return;
     throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
 }
+
+// Both tables begin with the code.
+void CancellaVincoli(Archive& archive, const QString& codiceMeta) {
+    Progress muto;
+    archive.DeleteMatching(Table::Vincoli, DellaMeta(codiceMeta), muto);
+}
+
+// What is set for the stages of a trip, each at the row with its number and its locality. Where an earlier release
+// moved the stages it goes to the first stage of the locality that has nothing yet.
+class VincoliMemorizzati {
+  public:
+    VincoliMemorizzati(Archive& archive, const QString& codiceMeta)
+        : record_(archive.Select({Table::Vincoli, {DellaMeta(codiceMeta)}}, {vincoli::Sequenza})) {}
+
+    VincoliTappa Prendi(const QString& sequenza, const QString& localita) {
+        return Prendi([&](const Record& r) {
+            return r[vincoli::Sequenza] == sequenza && r[vincoli::Localita].trimmed() == localita;
+        });
+    }
+
+    void DaiIResti(std::span<Tappa> tappe) {
+        for (Tappa& tappa : tappe) {
+            if (record_.empty()) return;
+            if (tappa.vincoli) continue;
+            tappa.vincoli = Prendi([&](const Record& r) { return r[vincoli::Localita].trimmed() == tappa.localita; });
+        }
+    }
+
+  private:
+    template <typename Suo>
+    VincoliTappa Prendi(Suo&& suo) {
+        const auto trovato = std::find_if(record_.begin(), record_.end(), suo);
+        if (trovato == record_.end()) return {};
+        VincoliTappa vincoli = LeggiVincoli(trovato->values).vincoli;
+        record_.erase(trovato);
+        return vincoli;
+    }
+
+    std::vector<Record> record_;
+};
 
 // To a trip without rows, within a transaction of the caller.
 EsitoMemorizzazione Aggiungi(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
@@ -102,6 +152,8 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
 }
 
 std::vector<Tappa> TappeMemorizzate(Archive& archive, const QString& codiceMeta) {
+    const ReadSnapshot momento(archive);
+    VincoliMemorizzati vincoli(archive, codiceMeta);
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
         Tappa tappa;
@@ -113,8 +165,10 @@ std::vector<Tappa> TappeMemorizzate(Archive& archive, const QString& codiceMeta)
         tappa.tipo = LeggiTipoStrada(record[itinerari::TipoStrada]);
         tappa.sosta = LeggiDurata(record[itinerari::TempoSosta].trimmed());
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
+        tappa.vincoli = vincoli.Prendi(record[itinerari::Sequenza], tappa.localita);
         tappe.push_back(std::move(tappa));
     }
+    vincoli.DaiIResti(tappe);
     return tappe;
 }
 
@@ -164,6 +218,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
     RifiutaTroppeTappe(tappe);
     Transaction transaction(archive);
     archive.DeleteMatching(Table::Itinerari, DellaMeta(codiceMeta), progress);
+    CancellaVincoli(archive, codiceMeta);
     const EsitoMemorizzazione esito = Aggiungi(archive, codiceMeta, tappe, orario, progress);
     transaction.Commit();
     progress.Advance(0, 0);
@@ -179,6 +234,7 @@ std::optional<EsitoMemorizzazione> MemorizzaPrimeTappe(Archive& archive, const Q
         throw Failure(u"La mèta con il codice %1 non c'è più."_s.arg(codiceMeta));
     }
     if (archive.Exists({Table::Itinerari, {DellaMeta(codiceMeta)}})) return std::nullopt;
+    CancellaVincoli(archive, codiceMeta);
     const EsitoMemorizzazione esito = Aggiungi(archive, codiceMeta, tappe, orario, progress);
     transaction.Commit();
     progress.Advance(0, 0);

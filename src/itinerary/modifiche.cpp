@@ -82,6 +82,11 @@ RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa
     return righe;
 }
 
+RigheItinerario ImpostaVincoli(RigheItinerario righe, int riga, const VincoliTappa& vincoli) {
+    if (Esiste(righe, riga) && !righe[Indice(riga)].localita.trimmed().isEmpty()) righe[Indice(riga)].vincoli = vincoli;
+    return righe;
+}
+
 RigheItinerario InserisciRigheItinerario(RigheItinerario righe, int riga, int numero) {
     const auto indice = std::min(Indice(riga), righe.size());
     righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(indice), static_cast<std::size_t>(numero), Tappa());

@@ -51,6 +51,9 @@ std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga);
 /// Writes a stage into a row, beyond the last row too, with free rows between; without kilometres it has no road type.
 RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa& campi);
 
+/// Sets what others set for the stage of a row; nothing changes for a free row.
+RigheItinerario ImpostaVincoli(RigheItinerario righe, int riga, const VincoliTappa& vincoli);
+
 /// Opens `numero` free rows before a row; beyond the last row at the end.
 RigheItinerario InserisciRigheItinerario(RigheItinerario righe, int riga, int numero);
 

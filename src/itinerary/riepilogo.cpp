@@ -48,8 +48,8 @@ RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const
         if (tappa.Traghetto()) ++riepilogo.totali.traghetti;
         TempiTappa tempi;
         const int media = orario.Parametri().mediaKm[Indice(tappa.TipoEffettivo())];
-        if (tappa.km != 0 && media > 0) tempi.tempo = TempoDiGuida(tappa.km, media);
-        riepilogo.totali.Aggiunge(tappa.TipoEffettivo(), tappa.km, tempi.tempo.value_or(0_cent));
+        if (tappa.KmGuidati() != 0 && media > 0) tempi.tempo = TempoDiGuida(tappa.km, media);
+        riepilogo.totali.Aggiunge(tappa.TipoEffettivo(), tappa.KmGuidati(), tempi.tempo.value_or(0_cent));
         tempi.kmProgressivi = riepilogo.totali.km[kTuttiITipi];
         riepilogo.tappe.push_back(tempi);
     }
@@ -69,7 +69,7 @@ std::vector<int> GiorniProposti(const RiepilogoItinerario& riepilogo) {
 
 std::optional<TipoStrada> TipoSenzaMedia(std::span<const Tappa> tappe, const OrarioCorretto& orario) {
     for (const Tappa& tappa : tappe) {
-        if (tappa.km > 0 && orario.Parametri().mediaKm[Indice(tappa.TipoEffettivo())] <= 0)
+        if (tappa.KmGuidati() > 0 && orario.Parametri().mediaKm[Indice(tappa.TipoEffettivo())] <= 0)
             return tappa.TipoEffettivo();
     }
     return std::nullopt;

@@ -51,7 +51,8 @@ struct RiepilogoItinerario {
     int giorniAdeguamento = 0;  ///< the days wanted, raised to the least ones
 };
 
-/// Adds up all rows; a free row has a leg of 0 km. `giorniAdeguamento` are the days wanted, 0 for as many as needed.
+/// Adds up all rows; a free row, or a ferry with its own hours, has a leg of 0 km. `giorniAdeguamento` are the days
+/// wanted, 0 for as many as needed.
 RiepilogoItinerario CalcolaKmTempiItinerario(std::span<const Tappa> tappe, const OrarioCorretto& orario,
                                              int giorniAdeguamento);
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "calendar/durata.h"
+#include "itinerary/vincoli.h"
 #include "trips/meta.h"
 
 namespace cronovia {
@@ -21,8 +22,12 @@ struct Tappa {
     bool fineGiorno = false;         ///< the day ends here
     Durata guida;                    ///< visit times of the guide at this stage; days as in `sosta`
     bool kmDaIndicare = false;       ///< the kilometres are not known any more: `km` is 0 until they are told
+    VincoliTappa vincoli = {};       ///< what others set for it
 
-    [[nodiscard]] bool Traghetto() const { return numStrada.contains(QStringView(u"TRAGH")); }
+    /// Reached by ferry: so says its road, or the ferry's own hours.
+    [[nodiscard]] bool Traghetto() const { return numStrada.contains(QStringView(u"TRAGH")) || vincoli.ConTraghetto(); }
+    /// The kilometres that are driven: a ferry with its own hours has none.
+    [[nodiscard]] int KmGuidati() const { return vincoli.ConTraghetto() ? 0 : km; }
     [[nodiscard]] TipoStrada TipoEffettivo() const { return tipo.value_or(TipoStrada::Locale); }
     /// Nothing is planned here, neither a stop nor the day's end.
     [[nodiscard]] bool SenzaSosta() const { return sosta.Nulla() && !fineGiorno; }

@@ -21,6 +21,14 @@ Tappa Raggiunta(const Tappa& luogo, const Tappa* tratto) {
     return tappa;
 }
 
+// They hold on other days too; the ferry of the way back has other hours.
+VincoliTappa VincoliCopiati(const Tappa& tappa, bool stessoVerso) {
+    if (!tappa.vincoli) return {};
+    Vincoli vincoli = SenzaDate(tappa.vincoli).Valore();
+    if (!stessoVerso) vincoli.traghetto.reset();
+    return vincoli;
+}
+
 }  // namespace
 
 ItinerarioConTratto Ritorno(std::span<const Tappa> righe) {
@@ -60,6 +68,7 @@ ItinerarioConTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const
         if (conSoste) {
             tappa.sosta = sorgente[indice].sosta;
             tappa.fineGiorno = sorgente[indice].fineGiorno;
+            tappa.vincoli = VincoliCopiati(sorgente[indice], passo > 0);
         }
         nuove.push_back(std::move(tappa));
     }

@@ -35,7 +35,8 @@ Tratto TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int
 
 /// Puts a stretch after the stage of row `riga`, or before it when that row is free. A leg driven the other way has the
 /// road and kilometres of the stage that follows in the source; behind its last stage there is none. Stops, with the
-/// ends of days, come along with `conSoste`. The first new row is the current one.
+/// ends of days and what others set, come along with `conSoste`, but for dates and for the ferries of a leg driven the
+/// other way. The first new row is the current one.
 ItinerarioConTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto,
                                 bool conSoste);
 

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "store/connection.h"
+#include "store/schema_check.h"
 
 namespace cronovia {
 
@@ -46,7 +47,9 @@ template <auto Make>
 const std::string& SqlFor(Table table) {
     static const std::vector<std::string> texts = [] {
         std::vector<std::string> all;
-        for (const Table t : AllTables()) all.push_back(Make(Definition(t)));
+        for (const auto* tables : {&AllTables(), &TablesOnDemand()}) {
+            for (const Table t : *tables) all.push_back(Make(Definition(t)));
+        }
         return all;
     }();
     return texts.at(static_cast<std::size_t>(table) - 1);
@@ -191,7 +194,14 @@ Archive::Archive(Archive&&) noexcept = default;
 Archive& Archive::operator=(Archive&&) noexcept = default;
 Archive::~Archive() = default;
 
+bool Archive::Has(Table table) {
+    const auto& onDemand = TablesOnDemand();
+    if (std::find(onDemand.begin(), onDemand.end(), table) == onDemand.end()) return true;
+    return Guarded(connection_->Path(), [&] { return HasTable(connection_->Database(), table); });
+}
+
 void Archive::Scan(const Search& search, const std::function<bool(Record&&)>& visit) {
+    if (!Has(search.table)) return;
     const TableDefinition& definition = Definition(search.table);
     const auto run = [&](SQLite::Statement& statement) {
         bool goOn = true;
@@ -293,10 +303,12 @@ std::optional<std::int64_t> Archive::Find(const Search& search) {
 }
 
 std::int64_t Archive::Count(Table table) {
+    if (!Has(table)) return 0;
     return connection_->Number("SELECT COUNT(*) FROM " + Name(Definition(table).name));
 }
 
 std::int64_t Archive::LastId(Table table) {
+    if (!Has(table)) return 0;
     return connection_->Number("SELECT COALESCE(MAX(rowid), 0) FROM " + Name(Definition(table).name));
 }
 
@@ -308,6 +320,7 @@ std::int64_t Archive::Insert(Table table, std::span<const QString> values) {
     const TableDefinition& definition = Definition(table);
     CheckWidths(definition, values);
     return Guarded(connection_->Path(), [&] {
+        if (!Has(table)) MakeTable(connection_->Database(), table);
         SQLite::Statement& statement = connection_->ForWriting(InsertSql(table));
         BindValues(statement, definition, values);
         statement.exec();
@@ -339,6 +352,7 @@ void Archive::Delete(Table table, std::int64_t id) {
 }
 
 void Archive::DeleteRange(Table table, std::int64_t after, std::int64_t last) {
+    if (!Has(table)) return;
     Guarded(connection_->Path(), [&] {
         SQLite::Statement& statement =
             connection_->ForWriting("DELETE FROM " + Name(Definition(table).name) + " WHERE rowid > ? AND rowid <= ?");

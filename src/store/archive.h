@@ -132,6 +132,7 @@ class Archive {
     class Connection;
 
     explicit Archive(std::unique_ptr<Connection> connection);
+    bool Has(Table table);
     void Scan(const Search& search, const std::function<bool(Record&&)>& visit);
 
     std::unique_ptr<Connection> connection_;

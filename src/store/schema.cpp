@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 const TableDefinition& Definition(Table table) {
 #define CRONOVIA_DEFINITION(name, width) {u"" #name ""_s, width},
-    static const std::array<TableDefinition, 6> definitions = {{
+    static const std::array<TableDefinition, 8> definitions = {{
         {u"MeteVandro"_s,
          {CRONOVIA_METE_FIELDS(CRONOVIA_DEFINITION)},
          {u"CodiceMeta"_s, u"Localita"_s},
@@ -27,6 +27,8 @@ const TableDefinition& Definition(Table table) {
          {u"MetaCorrente"_s},
          u"della mèta corrente"_s},
         {u"Parametri"_s, {CRONOVIA_PARAMETRI_FIELDS(CRONOVIA_DEFINITION)}, {}, u"dei parametri"_s},
+        {u"Vincoli"_s, {CRONOVIA_VINCOLI_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"degli orari fissati"_s},
+        {u"Scadenze"_s, {CRONOVIA_SCADENZE_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"delle scadenze"_s},
     }};
 #undef CRONOVIA_DEFINITION
     return definitions.at(static_cast<std::size_t>(table) - 1);
@@ -37,6 +39,11 @@ int Width(Table table, int field) { return Definition(table).fields.at(static_ca
 const std::vector<Table>& AllTables() {
     static const std::vector<Table> tables = {Table::MeteVandro, Table::Itinerari,    Table::GuidaCitta,
                                               Table::TipoGuida,  Table::MetaCorrente, Table::Parametri};
+    return tables;
+}
+
+const std::vector<Table>& TablesOnDemand() {
+    static const std::vector<Table> tables = {Table::Vincoli, Table::Scadenze};
     return tables;
 }
 

@@ -14,6 +14,8 @@ enum class Table {
     TipoGuida,       ///< the types of guide entries
     MetaCorrente,    ///< at most one row: the code of the trip last chosen or saved
     Parametri,       ///< at most one row: the personal default travel parameters
+    Vincoli,         ///< at most one row per stage: what others set for it, and notes
+    Scadenze,        ///< at most one row per trip: when one has to be home
 };
 
 // The fields of the tables with their widths, in the order of their columns. What else is told of fields (their
@@ -70,6 +72,33 @@ enum class Table {
 #define CRONOVIA_PARAMETRI_FIELDS(FIELD)    \
     CRONOVIA_SHARED_PARAMETER_FIELDS(FIELD) \
     FIELD(CalcoloSoste, 1)
+// The locality tells that the row is still about the stage, or the trip: an earlier release knows nothing of the row.
+#define CRONOVIA_VINCOLI_FIELDS(FIELD) \
+    FIELD(CodiceMeta, 6)               \
+    FIELD(Sequenza, 4)                 \
+    FIELD(Localita, 30)                \
+    FIELD(TraghettoOra, 4)             \
+    FIELD(TraghettoData, 8)            \
+    FIELD(Navigazione, 8)              \
+    FIELD(Imbarco, 4)                  \
+    FIELD(NonPrimaOra, 4)              \
+    FIELD(NonPrimaData, 8)             \
+    FIELD(NonDopoOra, 4)               \
+    FIELD(NonDopoData, 8)              \
+    FIELD(VisiteDa, 4)                 \
+    FIELD(VisiteA, 4)                  \
+    FIELD(Nota, 500)                   \
+    FIELD(Telefono, 30)                \
+    FIELD(Link, 200)                   \
+    FIELD(Prenotazione, 40)            \
+    FIELD(PrezzoTraghetto, 8)          \
+    FIELD(PrezzoNotte, 8)              \
+    FIELD(PrezzoIngresso, 8)
+#define CRONOVIA_SCADENZE_FIELDS(FIELD) \
+    FIELD(CodiceMeta, 6)                \
+    FIELD(Localita, 30)                 \
+    FIELD(RientroData, 8)               \
+    FIELD(RientroOra, 4)
 
 // Positions of the fields in their tables' records; `kCampi` is how many there are.
 #define CRONOVIA_POSITION(name, width) name,
@@ -91,6 +120,12 @@ enum Field { CRONOVIA_METACORRENTE_FIELDS(CRONOVIA_POSITION) kCampi };
 namespace parametri {
 enum Field { CRONOVIA_PARAMETRI_FIELDS(CRONOVIA_POSITION) kCampi };
 }  // namespace parametri
+namespace vincoli {
+enum Field { CRONOVIA_VINCOLI_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace vincoli
+namespace scadenze {
+enum Field { CRONOVIA_SCADENZE_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace scadenze
 #undef CRONOVIA_POSITION
 
 /// A field: 0 for yes/no, else a text of at most so many characters.
@@ -113,7 +148,10 @@ const TableDefinition& Definition(Table table);
 /// Characters that a text field holds, 0 for a yes/no field; `field` is its position in the table.
 int Width(Table table, int field);
 
-/// All tables, in the order of their numbers.
+/// The tables that every archive has, in the order of their numbers.
 const std::vector<Table>& AllTables();
+
+/// Those behind them, which an archive has once something was written into them.
+const std::vector<Table>& TablesOnDemand();
 
 }  // namespace cronovia

@@ -205,14 +205,22 @@ bool AnyTable(SQLite::Database& database) {
     return IntegerOf(database, "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table'") > 0;
 }
 
+// Those of every archive, and those on demand that this one has.
+std::vector<Table> TablesOf(SQLite::Database& database) {
+    std::vector<Table> tables = AllTables();
+    std::copy_if(TablesOnDemand().begin(), TablesOnDemand().end(), std::back_inserter(tables),
+                 [&](Table table) { return HasTable(database, table); });
+    return tables;
+}
+
 bool UpToDate(SQLite::Database& database) {
-    const std::vector<Table>& tables = AllTables();
+    const std::vector<Table> tables = TablesOf(database);
     return std::all_of(tables.begin(), tables.end(),
                        [&](Table table) { return StateOf(database, Definition(table)).complete; });
 }
 
 void CheckEveryTable(SQLite::Database& database, const QString& path) {
-    for (const Table each : AllTables()) {
+    for (const Table each : TablesOf(database)) {
         const TableDefinition& table = Definition(each);
         const TableState state = StateOf(database, table);
         if (state.rebuild) RefuseValuesThatDoNotFit(database, table, state.columns, path);
@@ -259,6 +267,16 @@ void RefuseForeignFile(const QString& path) {
     }
 }
 
+bool HasTable(SQLite::Database& database, Table table) {
+    return database.tableExists(Definition(table).name.toStdString());
+}
+
+void MakeTable(SQLite::Database& database, Table table) {
+    const TableDefinition& definition = Definition(table);
+    CreateTable(database, definition.name, DeclaredColumns(definition));
+    MendIndexes(database, definition);
+}
+
 void UpdateTables(SQLite::Database& database, const QString& path) {
     RefuseForeignDatabase(database, path);
     if (UpToDate(database)) return;
@@ -266,7 +284,7 @@ void UpdateTables(SQLite::Database& database, const QString& path) {
     if (AnyTable(database)) KeepCopy(database, path);
     database.exec("BEGIN IMMEDIATE");
     try {
-        for (const Table each : AllTables()) {
+        for (const Table each : TablesOf(database)) {
             const TableDefinition& table = Definition(each);
             const TableState state = StateOf(database, table);
             if (state.columns.empty()) CreateTable(database, table.name, DeclaredColumns(table));

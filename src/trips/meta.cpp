@@ -84,6 +84,15 @@ QString NomeTipoStrada(TipoStrada tipo) {
     return u"Locale"_s;
 }
 
+std::optional<Scadenza> Scadenza::Da(const std::optional<OraFissa>& ora) {
+    if (!ora || !ora->Data()) return std::nullopt;
+    return Scadenza(*ora);
+}
+
+std::optional<Scadenza> Scadenza::Leggi(QStringView data, QStringView ora) {
+    return Da(OraFissa::Da(LeggiMinuti(ora).value_or(-1), LeggiDataScritta(data)));
+}
+
 Centesimi LeggiOrario(QStringView hhmm) {
     return InCentesimi({0, NonNegativo(hhmm.mid(0, 2)), NonNegativo(hhmm.mid(2, 2))}, kGiornoOrologio);
 }

@@ -7,6 +7,7 @@
 
 #include "calendar/centesimi.h"
 #include "calendar/date.h"
+#include "calendar/ora_fissa.h"
 #include "store/archive.h"
 
 namespace cronovia {
@@ -52,6 +53,24 @@ struct ParametriViaggio {
     friend bool operator==(const ParametriViaggio&, const ParametriViaggio&) = default;
 };
 
+/// When one has to be home: an hour of a day of the calendar.
+class Scadenza {
+  public:
+    /// Nothing when the hour has no day.
+    static std::optional<Scadenza> Da(const std::optional<OraFissa>& ora);
+    /// "ddmmyyyy" and "hhmm", or as people write them; nothing when they are none.
+    static std::optional<Scadenza> Leggi(QStringView data, QStringView ora);
+
+    [[nodiscard]] const OraFissa& Ora() const { return ora_; }
+    [[nodiscard]] Istante Momento() const { return ora_.Il({}); }
+    friend bool operator==(const Scadenza&, const Scadenza&) = default;
+
+  private:
+    explicit Scadenza(const OraFissa& ora) : ora_(ora) {}
+
+    OraFissa ora_;
+};
+
 /// A trip ("mèta"), as typed or stored: nothing in it is corrected yet.
 struct Meta {
     QString codice;    ///< six digits; empty for a trip not saved yet
@@ -62,6 +81,7 @@ struct Meta {
     Centesimi oraInizio;                     ///< time of day at which the journey begins
     int giorniAdeguamento = 0;               ///< days that the trip shall last; 0 = as many as it needs
     ParametriViaggio parametri;
+    std::optional<Scadenza> scadenza = {};  ///< when one has to be home
 
     friend bool operator==(const Meta&, const Meta&) = default;
 };

@@ -1,6 +1,7 @@
 #include "trips/mete.h"
 
 #include <algorithm>
+#include <array>
 
 #include "calendar/testo.h"
 #include "interaction/failure.h"
@@ -12,6 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Search PerCodice(QStringView codice) { return {Table::MeteVandro, {{mete::CodiceMeta, NamePattern::Exactly(codice)}}}; }
+
+Search ScadenzaDi(QStringView codice) {
+    return {Table::Scadenze, {{scadenze::CodiceMeta, NamePattern::Exactly(codice)}}};
+}
 
 bool HaTappe(Archive& archive, const QString& codice) {
     return archive.Exists({Table::Itinerari, {{itinerari::CodiceMeta, NamePattern::Exactly(codice)}}});
@@ -57,6 +62,7 @@ QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvatagg
     } else {
         archive.Insert(Table::MeteVandro, ValoriDellaMeta(meta));
     }
+    ScriviScadenza(archive, meta);
     SalvaIlCodiceMetaCorrente(archive, meta.codice);
     return meta.codice;
 }
@@ -64,9 +70,24 @@ QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvatagg
 }  // namespace
 
 std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice) {
+    const ReadSnapshot momento(archive);
     const std::optional<Record> record = archive.SelectFirst(PerCodice(codice));
     if (!record) return std::nullopt;
-    return MetaDaRecord(*record);
+    Meta meta = MetaDaRecord(*record);
+    const std::optional<Record> scadenza = archive.SelectFirst(ScadenzaDi(codice));
+    if (scadenza && (*scadenza)[scadenze::Localita].trimmed() == meta.localita) {
+        meta.scadenza = Scadenza::Leggi((*scadenza)[scadenze::RientroData], (*scadenza)[scadenze::RientroOra]);
+    }
+    return meta;
+}
+
+void ScriviScadenza(Archive& archive, const Meta& meta) {
+    Progress muto;
+    archive.DeleteMatching(Table::Scadenze, ScadenzaDi(meta.codice).conditions.front(), muto);
+    if (!meta.scadenza) return;
+    const OraFissa& ora = meta.scadenza->Ora();
+    archive.Insert(Table::Scadenze, std::array{meta.codice, meta.localita, DataMemorizzata(*ora.Data()),
+                                               TestoMinutiMemorizzati(ora.Minuti())});
 }
 
 QString NuovoCodiceMeta(std::span<const QString> codici) {
@@ -142,9 +163,12 @@ std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco) {
 
 MetaCancellata CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
     Transaction transaction(archive);
+    // The code is the first field of all four tables.
     const Condition tappa{itinerari::CodiceMeta, NamePattern::Exactly(codice)};
     const Condition meta{mete::CodiceMeta, NamePattern::Exactly(codice)};
-    MetaCancellata cancellata{archive.Select({Table::MeteVandro, {meta}}), archive.Select({Table::Itinerari, {tappa}})};
+    MetaCancellata cancellata{archive.Select({Table::MeteVandro, {meta}}), archive.Select({Table::Itinerari, {tappa}}),
+                              archive.Select({Table::Vincoli, {tappa}}), archive.Select({Table::Scadenze, {tappa}})};
+    for (const Table tabella : {Table::Vincoli, Table::Scadenze}) archive.DeleteMatching(tabella, tappa, progress);
     archive.DeleteMatching(Table::Itinerari, tappa, progress);
     archive.DeleteMatching(Table::MeteVandro, meta, progress);
     transaction.Commit();
@@ -163,10 +187,15 @@ QString RimettiMeta(Archive& archive, const MetaCancellata& cancellata) {
         meta[mete::CodiceMeta] = codice;
         archive.Insert(Table::MeteVandro, meta.values);
     }
-    for (Record tappa : cancellata.tappe) {
-        tappa[itinerari::CodiceMeta] = codice;
-        archive.Insert(Table::Itinerari, tappa.values);
-    }
+    const auto rimetti = [&](Table tabella, const std::vector<Record>& righe) {
+        for (Record riga : righe) {
+            riga.values.front() = codice;
+            archive.Insert(tabella, riga.values);
+        }
+    };
+    rimetti(Table::Itinerari, cancellata.tappe);
+    rimetti(Table::Vincoli, cancellata.vincoli);
+    rimetti(Table::Scadenze, cancellata.scadenze);
     SalvaIlCodiceMetaCorrente(archive, codice);
     transaction.Commit();
     return codice;

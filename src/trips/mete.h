@@ -15,6 +15,9 @@ namespace cronovia {
 /// The trip with that code, or nothing.
 std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice);
 
+/// Stores when one has to be home, or that it does not matter; within a transaction of the caller. Saving a trip does.
+void ScriviScadenza(Archive& archive, const Meta& meta);
+
 /// The code for a new trip: 1 when there is none, the lowest free number else, in six digits. `codici` in any order.
 QString NuovoCodiceMeta(std::span<const QString> codici);
 
@@ -65,6 +68,8 @@ std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco);
 struct MetaCancellata {
     std::vector<Record> meta;
     std::vector<Record> tappe;
+    std::vector<Record> vincoli = {};
+    std::vector<Record> scadenze = {};
 };
 
 /// Deletes a trip with its itinerary, whole or not at all. No new trip gets its code while the archive is open.

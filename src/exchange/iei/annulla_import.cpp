@@ -18,7 +18,8 @@ void AnnullaImport(Archive& archive, const TracciaImport& traccia) {
 }
 
 OsservaAggiunte::OsservaAggiunte(Archive& archive) : archive_(archive) {
-    for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta}) {
+    for (const Table tabella :
+         {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta, Table::Vincoli, Table::Scadenze}) {
         const std::int64_t ultima = archive.LastId(tabella);
         traccia_.aggiunte.push_back({tabella, ultima, ultima});
     }

@@ -38,6 +38,7 @@ QString Differenze(const EsitoImport& esito) {
     conta(u"date d'inizio fuori dal loro mese, corrette"_s, esito.dateCorrette);
     conta(u"date d'inizio mancanti o illeggibili, lasciate vuote"_s, esito.dateIlleggibili);
     conta(u"soste che non sono una durata, non inserite"_s, esito.sosteRifiutate);
+    conta(u"orari fissati, prezzi o note non validi, non inseriti"_s, esito.orariRifiutati);
     conta(u"tratti stradali non inseriti perché la loro mèta non è nel file o non è stata inserita"_s,
           esito.tappeSenzaMeta);
     conta(u"righe non lette perché prima della prima sezione"_s, esito.lettura.righePrimaDelleSezioni);

@@ -1,6 +1,8 @@
 #include "exchange/iei/esporta_mete.h"
 
 #include <QSet>
+#include <algorithm>
+#include <optional>
 
 #include "calendar/testo.h"
 #include "exchange/iei/lettore_iei.h"
@@ -35,13 +37,20 @@ class ScrittoreIei {
   public:
     explicit ScrittoreIei(const QString& path) : file_(path) {}
 
-    void Intestazione(Table tabella) {
+    void Intestazione(Table tabella, const std::optional<CampiAggiunti>& aggiunti = {}) {
         for (const FieldDefinition& campo : Definition(tabella).fields) Valore(tabella, campo.name);
+        if (aggiunti) {
+            const auto& campi = Definition(aggiunti->tabella).fields;
+            for (std::size_t i = static_cast<std::size_t>(aggiunti->primo); i < campi.size(); ++i) {
+                Valore(tabella, campi[i].name);
+            }
+        }
         FineRiga();
     }
 
-    void Riga(Table tabella, const Record& record) {
+    void Riga(Table tabella, const Record& record, std::span<const QString> aggiunti = {}) {
         for (const QString& valore : record.values) Valore(tabella, valore);
+        for (const QString& valore : aggiunti) Valore(tabella, valore);
         FineRiga();
     }
 
@@ -97,17 +106,57 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     return codici;
 }
 
+// The fields behind a section's own, when a trip has something in them.
+std::optional<CampiAggiunti> AggiuntiScritti(Archive& archive, Table tabella, const std::vector<QString>& codici) {
+    const std::optional<CampiAggiunti> aggiunti = AggiuntiAllaSezione(tabella);
+    const auto ne_ha = [&](const QString& codice) { return archive.Exists(PerCodice(aggiunti->tabella, codice)); };
+    return aggiunti && std::any_of(codici.begin(), codici.end(), ne_ha) ? aggiunti : std::nullopt;
+}
+
+// What a trip has in them, for each of its records. Both tables have the key's fields under the same names; the key
+// ends with the locality, and a trip's code is its first field.
+class Aggiunte {
+  public:
+    Aggiunte(Archive& archive, const std::optional<CampiAggiunti>& campi, const QString& codice) : campi_(campi) {
+        if (campi) record_ = archive.Select(PerCodice(campi->tabella, codice));
+    }
+
+    std::vector<QString> Per(const Record& record) {
+        if (!campi_) return {};
+        const auto chiave = static_cast<std::ptrdiff_t>(campi_->primo);
+        const auto sua = [&](const Record& altra) {
+            for (int i = 0; i < chiave; ++i) {
+                if (altra[i].trimmed() != record[i].trimmed()) return false;
+            }
+            return true;
+        };
+        const auto trovata = std::find_if(record_.begin(), record_.end(), sua);
+        if (trovata == record_.end()) {
+            return std::vector<QString>(Definition(campi_->tabella).fields.size() - static_cast<std::size_t>(chiave));
+        }
+        std::vector<QString> valori(trovata->values.begin() + chiave, trovata->values.end());
+        record_.erase(trovata);
+        return valori;
+    }
+
+  private:
+    std::optional<CampiAggiunti> campi_;
+    std::vector<Record> record_;
+};
+
 // One of the two sections that go trip after trip; returns its records.
 qint64 ScriviSezione(Archive& archive, Table tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
                      Progress& progress) {
-    scrittore.Intestazione(tabella);
+    const std::optional<CampiAggiunti> aggiunti = AggiuntiScritti(archive, tabella, codici);
+    scrittore.Intestazione(tabella, aggiunti);
     qint64 scritti = 0;
     double fatte = 0;
     for (const QString& codice : codici) {
         HeedStop(progress);
         progress.Advance(++fatte, static_cast<double>(codici.size()));
+        Aggiunte aggiunte(archive, aggiunti, codice);
         for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
-            scrittore.Riga(tabella, record);
+            scrittore.Riga(tabella, record, aggiunte.Per(record));
             ++scritti;
             if (tabella == Table::MeteVandro) break;
         }

@@ -11,6 +11,8 @@
 #include "exchange/iei/mappa_codici.h"
 #include "exchange/nomi_presenti.h"
 #include "interaction/failure.h"
+#include "itinerary/vincoli.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 
@@ -62,6 +64,8 @@ class Importatore {
     void ImportaMeta(RigaIei& riga);
     void ImportaTappa(RigaIei& riga);
     void ImportaVoce(RigaIei& riga);
+    void ImportaScadenza(const RigaIei& riga);
+    void ImportaVincoli(const RigaIei& riga);
     void AggiustaData(QString& data);
     void AggiustaSosta(QString& sosta);
     void Togli(MetaDaImportare& meta);
@@ -102,6 +106,7 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     AggiustaData(riga.valori[mete::DataInizio]);
     inserite_.push_back(meta->codice);
     Inserisci(riga, meta->codice, mete_);
+    ImportaScadenza(riga);
 }
 
 void Importatore::AggiustaData(QString& data) {
@@ -131,15 +136,44 @@ void Importatore::ImportaTappa(RigaIei& riga) {
         ++esito_.tappeInserite;
         AggiustaSosta(riga.valori[itinerari::TempoSosta]);
         Inserisci(riga, meta->codice, tappe_);
+        ImportaVincoli(riga);
     }
+}
+
+// Of a record that was added.
+void Importatore::ImportaScadenza(const RigaIei& riga) {
+    if (riga.aggiunti.empty()) return;
+    const auto scadenza = Scadenza::Leggi(riga.aggiunti[scadenze::RientroData], riga.aggiunti[scadenze::RientroOra]);
+    if (!scadenza) {
+        ++esito_.orariRifiutati;
+        return;
+    }
+    Meta meta;
+    meta.codice = riga.valori[mete::CodiceMeta];
+    meta.localita = riga.valori[mete::Localita];
+    meta.scadenza = scadenza;
+    ScriviScadenza(archive_, meta);
+}
+
+void Importatore::ImportaVincoli(const RigaIei& riga) {
+    if (riga.aggiunti.empty()) return;
+    const VincoliLetti letti = LeggiVincoli(riga.aggiunti);
+    esito_.orariRifiutati += letti.rifiutati;
+    if (!letti.vincoli) return;
+    std::vector<QString> valori = ValoriDeiVincoli(letti.vincoli.Valore());
+    valori[vincoli::CodiceMeta] = riga.valori[itinerari::CodiceMeta];
+    valori[vincoli::Sequenza] = riga.valori[itinerari::Sequenza];
+    valori[vincoli::Localita] = riga.valori[itinerari::Localita];
+    archive_.Insert(Table::Vincoli, valori);
 }
 
 // What was added of a trip goes again: no part of it is worth having.
 void Importatore::Togli(MetaDaImportare& meta) {
     Progress muto;
     const NamePattern questa = NamePattern::Exactly(meta.codice);
-    archive_.DeleteMatching(Table::Itinerari, Condition{itinerari::CodiceMeta, questa}, muto);
-    archive_.DeleteMatching(Table::MeteVandro, Condition{mete::CodiceMeta, questa}, muto);
+    for (const Table tabella : {Table::Vincoli, Table::Scadenze, Table::Itinerari, Table::MeteVandro}) {
+        archive_.DeleteMatching(tabella, Condition{mete::CodiceMeta, questa}, muto);
+    }
     mete_.Dimentica();
     tappe_.Dimentica();
     meta.stato = StatoMeta::TroppoLunga;

@@ -41,6 +41,7 @@ struct EsitoImport {
     qint64 dateCorrette = 0;      ///< of the trips added: days outside their month, now its first or last one
     qint64 dateIlleggibili = 0;   ///< that are no date at all, or empty under their heading; stored as one blank
     qint64 sosteRifiutate = 0;    ///< that are no duration, negative ones among them; stored as one blank
+    qint64 orariRifiutati = 0;    ///< hours that others set, prices and notes that cannot be; left out
     ScartiLettura lettura;
 
     TracciaImport traccia;  ///< to take it back by

@@ -14,11 +14,21 @@ constexpr std::array<Table, 3> kSezioni = {Table::MeteVandro, Table::Itinerari, 
 // Some editors put it at the start of whatever they save.
 constexpr QByteArrayView kSegnoUtf8 = "\xEF\xBB\xBF";
 
+// Its own fields, and behind them the added ones.
+std::vector<FieldDefinition> CampiDellaSezione(Table tabella) {
+    std::vector<FieldDefinition> campi = Definition(tabella).fields;
+    if (const auto aggiunti = AggiuntiAllaSezione(tabella)) {
+        const auto& altri = Definition(aggiunti->tabella).fields;
+        campi.insert(campi.end(), altri.begin() + aggiunti->primo, altri.end());
+    }
+    return campi;
+}
+
 std::size_t Numero(Table tabella) { return static_cast<std::size_t>(tabella) - 1; }
 
 // Empty when no column is named as a field. Of two columns of the same name the first one counts.
 std::vector<int> MappaDelleColonne(Table tabella, const Colonne& colonne) {
-    const std::vector<FieldDefinition>& campi = Definition(tabella).fields;
+    const std::vector<FieldDefinition> campi = CampiDellaSezione(tabella);
     std::vector<int> mappa;
     bool qualcuno = false;
     for (const QByteArrayView nome : colonne.valori) {
@@ -33,7 +43,23 @@ std::vector<int> MappaDelleColonne(Table tabella, const Colonne& colonne) {
     return qualcuno ? mappa : std::vector<int>();
 }
 
+void Metti(const QString& valore, std::size_t campo, RigaIei& riga) {
+    if (campo < riga.valori.size()) {
+        riga.valori[campo] = valore;
+    } else if (!valore.isEmpty()) {
+        const CampiAggiunti aggiunti = AggiuntiAllaSezione(riga.tabella).value();
+        riga.aggiunti.resize(Definition(aggiunti.tabella).fields.size());
+        riga.aggiunti[campo - riga.valori.size() + static_cast<std::size_t>(aggiunti.primo)] = valore;
+    }
+}
+
 }  // namespace
+
+std::optional<CampiAggiunti> AggiuntiAllaSezione(Table tabella) {
+    if (tabella == Table::MeteVandro) return CampiAggiunti{Table::Scadenze, scadenze::RientroData};
+    if (tabella == Table::Itinerari) return CampiAggiunti{Table::Vincoli, vincoli::TraghettoOra};
+    return std::nullopt;
+}
 
 LettoreIei::LettoreIei(QIODevice& device, Lettura lettura, Progress& progress)
     : righe_(device),
@@ -104,9 +130,10 @@ void LettoreIei::Riempi(const Colonne& colonne, RigaIei& riga) {
     const MappaColonne& mappa = Mappa(*sezione_);
     riga.tabella = *sezione_;
     riga.valori.assign(Definition(*sezione_).fields.size(), QString());
+    riga.aggiunti.clear();
     const std::size_t comuni = std::min(mappa.size(), colonne.valori.size());
     for (std::size_t i = 0; i < comuni; ++i) {
-        if (mappa[i] >= 0) riga.valori[static_cast<std::size_t>(mappa[i])] = DaWindows1252(colonne.valori[i]);
+        if (mappa[i] >= 0) Metti(DaWindows1252(colonne.valori[i]), static_cast<std::size_t>(mappa[i]), riga);
     }
     if (colonne.valori.size() < mappa.size()) ++scarti_.righeIncomplete;
     scarti_.valoriInPiu += std::count_if(colonne.valori.begin() + static_cast<std::ptrdiff_t>(comuni),

@@ -18,10 +18,19 @@ namespace cronovia {
 /// The separator of a section, which is numbered as its table: FF trips, FE stages, FD guide.
 constexpr char SeparatoreSezione(Table tabella) { return static_cast<char>(0x100 - static_cast<int>(tabella)); }
 
+/// What a section may have behind its own fields: those of a table that is about the same records, from `primo` on,
+/// behind its key.
+struct CampiAggiunti {
+    Table tabella;
+    int primo;
+};
+std::optional<CampiAggiunti> AggiuntiAllaSezione(Table tabella);
+
 /// One record of an exchange file.
 struct RigaIei {
     Table tabella = Table::MeteVandro;
-    std::vector<QString> valori;  ///< in the order of the table's fields; empty where the file has none
+    std::vector<QString> valori;         ///< in the order of the table's fields; empty where the file has none
+    std::vector<QString> aggiunti = {};  ///< in the order of the other table's fields; none where none is filled
 };
 
 /// What a reader found and could not take as it stood.

@@ -97,6 +97,41 @@ TEST_F(Export, IntoAnEmptyFolderAndBackGivesTheSameRows) {
     EXPECT_EQ(ImportaMete({archive_, file_, {}}, progress_).meteScartate, 3);
 }
 
+TEST_F(Export, CarriesTheHoursThatOthersSetBehindTheOtherColumns) {
+    TreMete();
+    const QStringList prima = prova::Tutto(archive_);
+    Esporta({u"000001"_s});
+    const QByteArray senza = LeggiFile(file_);
+    const QByteArray ore =
+        "2200|28062027|00:08:30|0100|||1500||1000|1300|Chiedere il ponte 7|0586 1|https://a.it|X9|180,50||";
+    const QByteArray guaste = "2400||00:08:30||1600||1500|||||||||-3|";  // no hour, none between two, a price below 0
+    const QByteArray tappe = kCampiTappe.chopped(1) +
+                             "|TraghettoOra|TraghettoData|Navigazione|Imbarco|NonPrimaOra|NonPrimaData|NonDopoOra|"
+                             "NonDopoData|VisiteDa|VisiteA|Nota|Telefono|Link|Prenotazione|PrezzoTraghetto|PrezzoNotte|"
+                             "PrezzoIngresso\n";
+    const QByteArray mete = kCampiMete.chopped(1) + "|RientroData|RientroOra\n";
+    const auto file = [&](const QByteArray& meta, const QByteArray& olbia) {
+        return prova::Sezione('\xFF', mete + "000007|Sardegna|I" + QByteArray(22, '|') + meta + "\n") +
+               prova::Sezione('\xFE', tappe + "000007|0001|Livorno||||||" + QByteArray(17, '|') + "\n" +
+                                          "000007|0002|Olbia||||||" + olbia + "\n");
+    };
+    const QByteArray buono = file("04072027|2000", "|" + ore);
+    prova::ScriviFile(file_, buono);
+    EXPECT_FALSE(TestoEsito(prova::Importa(archive_, buono)).contains(u"orari fissati"_s));
+    EXPECT_EQ(CaricaMeta(archive_, u"000007"_s)->scadenza, Scadenza::Leggi(u"04/07/2027", u"20:00"));
+    Esporta({u"000007"_s}, true);
+    EXPECT_EQ(LeggiFile(file_).toStdString(), buono.toStdString()) << "the same file again";
+    Esporta({u"000001"_s}, true);
+    EXPECT_EQ(LeggiFile(file_), senza) << "a trip without them";
+    CancellaMeta(archive_, u"000007"_s, progress_);
+    EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
+    EXPECT_EQ(prova::Tutto(archive_), prima);
+
+    const EsitoImport esito = prova::Importa(archive_, file("31022027|2000", "|" + guaste));
+    EXPECT_EQ(esito.orariRifiutati, 4);
+    EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
+}
+
 TEST(NomeFileExport, IsThatOfTheFirstTripAsEverySystemTakesIt) {
     for (const auto& [localita, nome] :
          std::vector<std::pair<QStringList, QString>>{{{u" CAPO NORD "_s}, u"CAPO NORD.iei"_s},
