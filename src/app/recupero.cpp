@@ -47,6 +47,7 @@ QJsonObject StradaInJson(const T& tappa) {
     return {{u"localita"_s, tappa.localita},
             {u"strada"_s, tappa.numStrada},
             {u"km"_s, tappa.km},
+            {u"kmDaIndicare"_s, tappa.kmDaIndicare},
             {u"tipo"_s, LetteraTipoStrada(tappa.tipo)},
             {u"sosta"_s, InJson(tappa.sosta)},
             {u"fineGiorno"_s, tappa.fineGiorno}};
@@ -58,6 +59,7 @@ T StradaDaJson(const QJsonValue& json) {
     tappa.localita = json["localita"_L1].toString();
     tappa.numStrada = json["strada"_L1].toString();
     tappa.km = json["km"_L1].toInt();
+    tappa.kmDaIndicare = json["kmDaIndicare"_L1].toBool();
     tappa.tipo = LeggiTipoStrada(json["tipo"_L1].toString());
     tappa.sosta = DurataDaJson(json["sosta"_L1]);
     tappa.fineGiorno = json["fineGiorno"_L1].toBool();
