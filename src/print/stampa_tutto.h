@@ -11,12 +11,21 @@
 
 namespace cronovia {
 
+/// Which pages are wanted.
+struct PagineScelte {
+    bool cronovia = false;
+    bool giornate = false;
+};
+
+/// The pages that were chosen in one document, the days first; each part counts its own.
+Stampato StampaLeScelte(const DatiStampa& dati, const PieDiPagina& piede, PagineScelte scelte, Progress& progress);
+
 /// A print run; `dati` must outlive it.
 struct RichiestaStampa {
     const DatiStampa& dati;
     PieDiPagina piede;
     QString cartella;                             ///< where the table file lies
-    bool tabella = false;                         ///< the schedule goes to the printer
+    PagineScelte pagine;                          ///< what goes to the printer
     bool moduli = false;                          ///< forms for the logbook are wanted
     std::function<void(const Stampato&)> stampa;  ///< prints on what was chosen; may throw a `Failure`
     std::function<void()> avviaModuli;            ///< starts the logbook program; may throw a `Failure`

@@ -8,6 +8,7 @@
 
 #include "print/stampa_giornate.h"
 #include "print/stampa_guida.h"
+#include "print/stampa_tutto.h"
 #include "stampa.h"
 
 namespace cronovia {
@@ -137,9 +138,13 @@ TEST(Pagine, AreAsReviewed) {
         for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina);
     }
     const DatiStampa lungo = prova::CapoNord();
-    for (const Stampato& documento : {prova::Stampa(lungo), StampaGiornate(lungo, prova::kPiede, progress)}) {
-        for (const Pagina& pagina : documento.pagine) NienteSiTocca(pagina);
-    }
+    const Stampato giornate = StampaLeScelte(lungo, prova::kPiede, {false, true}, progress);
+    const Stampato insieme = StampaLeScelte(lungo, prova::kPiede, {true, true}, progress);
+    for (const Pagina& pagina : insieme.pagine) NienteSiTocca(pagina);
+    ASSERT_EQ(insieme.pagine.size(), giornate.pagine.size() + prova::Stampa(lungo).pagine.size());
+    EXPECT_EQ(insieme.segnalibri.front().pagina, 0U);
+    EXPECT_EQ(insieme.segnalibri.at(1).pagina, giornate.pagine.size());
+    EXPECT_EQ(insieme.segnalibri.back().pagina, insieme.pagine.size() - 1);
 }
 
 TEST(Pagine, TurnBehindTheLastLineOnlyAndHoldEveryRowOnce) {

@@ -7,7 +7,6 @@
 
 #include "app/comandi_cronovia.h"
 #include "print/moduli.h"
-#include "print/stampa_cronovia.h"
 #include "print/stampa_tutto.h"
 #include "print/tabella_testo.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -92,13 +91,14 @@ void ComandoStampa::Chiudi() {
 }
 
 void ComandoStampa::MostraAnteprima() {
-    const Stampato documento = StampaCronovia(Dati(), Piede(), ambiente_.avanzamento);
+    const Stampato documento =
+        StampaLeScelte(Dati(), Piede(), {opzioni_->Tabella(), opzioni_->Giornate()}, ambiente_.avanzamento);
     cronovia::MostraAnteprima(documento, ambiente_.finestra, ambiente_.interazione);
 }
 
 // Without a file, printing to a file has not begun.
 void ComandoStampa::Stampa() {
-    if (!stampante_->SceltoFilePdf() || !opzioni_->Tabella()) {
+    if (!stampante_->SceltoFilePdf() || !(opzioni_->Tabella() || opzioni_->Giornate())) {
         const QString stampante = stampante_->Scelta();
         EseguiStampa([&](const Stampato& documento) {
             StampaSuStampante(documento, stampante, ambiente_.interazione, ambiente_.avanzamento);
@@ -121,8 +121,13 @@ void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& sta
     const DatiStampa dati = Dati();
     Chiudi();
     comandi::StampaInCorso(ambiente_.postazione);
-    StampaTutto({dati, Piede(), ambiente_.postazione.sessione.Cartella(), opzioni_->Tabella(), opzioni_->Moduli(),
-                 stampa, [&] { AvviaModuli(dati); }},
+    StampaTutto({dati,
+                 Piede(),
+                 ambiente_.postazione.sessione.Cartella(),
+                 {opzioni_->Tabella(), opzioni_->Giornate()},
+                 opzioni_->Moduli(),
+                 stampa,
+                 [&] { AvviaModuli(dati); }},
                 ambiente_.interazione, ambiente_.avanzamento);
     comandi::FineStampa(ambiente_.postazione);
 }

@@ -14,6 +14,9 @@ FrmStampa::FrmStampa() : RiquadroSovrapposto(u"frmStampa"_s, u"Opzioni di stampa
     chkTabella_->setObjectName(u"chkTabella"_s);
     MostraIstruzione(*chkTabella_, u"Stampa la cronovia, una riga per tappa"_s);
     chkTabella_->setChecked(true);
+    chkGiornate_ = new QCheckBox(u"Giornate"_s);
+    chkGiornate_->setObjectName(u"chkGiornate"_s);
+    MostraIstruzione(*chkGiornate_, u"Stampa prima i giorni del viaggio, ognuno con le sue 24 ore"_s);
     chkModuli_ = new QCheckBox(u"Moduli \"Diario di bordo\""_s);
     chkModuli_->setObjectName(u"chkModuli"_s);
     MostraIstruzione(*chkModuli_, u"Stampa i moduli in bianco con il programma Fogliax"_s);
@@ -24,6 +27,7 @@ FrmStampa::FrmStampa() : RiquadroSovrapposto(u"frmStampa"_s, u"Opzioni di stampa
     Pulsanti(stampa_, rinuncia);
     QVBoxLayout& layout = Contenuto();
     layout.addWidget(chkTabella_);
+    layout.addWidget(chkGiornate_);
     layout.addWidget(chkModuli_);
     layout.addSpacing(8);
     auto* riga = new QHBoxLayout;
@@ -32,7 +36,9 @@ FrmStampa::FrmStampa() : RiquadroSovrapposto(u"frmStampa"_s, u"Opzioni di stampa
     connect(stampa_, &QPushButton::clicked, this, &FrmStampa::Stampa);
     connect(anteprima, &QPushButton::clicked, this, &FrmStampa::Anteprima);
     connect(rinuncia, &QPushButton::clicked, this, &FrmStampa::Rinuncia);
-    connect(chkTabella_, &QCheckBox::toggled, anteprima, &QPushButton::setEnabled);
+    for (const QCheckBox* pagine : {chkTabella_, chkGiornate_}) {
+        connect(pagine, &QCheckBox::toggled, anteprima, [=, this] { anteprima->setEnabled(Tabella() || Giornate()); });
+    }
 }
 
 void FrmStampa::Apri() {

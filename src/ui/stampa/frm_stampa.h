@@ -15,8 +15,9 @@ class FrmStampa : public RiquadroSovrapposto {
 
     /// Shown, in use, with the focus on its first button.
     void Apri();
-    /// What is ticked: the schedule, the forms of the logbook.
+    /// What is ticked: the schedule, the days, the forms of the logbook.
     [[nodiscard]] bool Tabella() const { return chkTabella_->isChecked(); }
+    [[nodiscard]] bool Giornate() const { return chkGiornate_->isChecked(); }
     [[nodiscard]] bool Moduli() const { return chkModuli_->isChecked(); }
 
   Q_SIGNALS:
@@ -26,6 +27,7 @@ class FrmStampa : public RiquadroSovrapposto {
 
   private:
     QCheckBox* chkTabella_;
+    QCheckBox* chkGiornate_;
     QCheckBox* chkModuli_;
     QPushButton* stampa_;
 };
