@@ -26,6 +26,10 @@ QJsonObject InJson(const Meta& meta) {
     for (std::size_t i = 0; i < valori.size(); ++i) {
         json.insert(Definition(Table::MeteVandro).fields[i].name, valori[i]);
     }
+    if (meta.scadenza) {
+        const OraFissa& ora = meta.scadenza->Ora();
+        json.insert(u"scadenza"_s, QJsonArray{DataMemorizzata(*ora.Data()), TestoMinutiMemorizzati(ora.Minuti())});
+    }
     return json;
 }
 
@@ -34,7 +38,10 @@ Meta MetaDaJson(const QJsonValue& json) {
     for (const FieldDefinition& campo : Definition(Table::MeteVandro).fields) {
         record.values.push_back(json[campo.name].toString());
     }
-    return MetaDaRecord(record);
+    Meta meta = MetaDaRecord(record);
+    const QJsonValue scadenza = json["scadenza"_L1];
+    meta.scadenza = Scadenza::Leggi(scadenza[0].toString(), scadenza[1].toString());
+    return meta;
 }
 
 QJsonArray InJson(const Durata& durata) { return {durata.giorni, durata.ore, durata.minuti}; }
@@ -68,13 +75,27 @@ T StradaDaJson(const QJsonValue& json) {
 
 QJsonArray InJson(const RigheItinerario& righe) {
     QJsonArray json;
-    for (const Tappa& tappa : righe) json.append(StradaInJson(tappa));
+    for (const Tappa& tappa : righe) {
+        QJsonObject riga = StradaInJson(tappa);
+        if (tappa.vincoli) {
+            const std::vector<QString> valori = ValoriDeiVincoli(tappa.vincoli.Valore());
+            riga.insert(u"vincoli"_s, QJsonArray::fromStringList({valori.begin(), valori.end()}));
+        }
+        json.append(riga);
+    }
     return json;
 }
 
 RigheItinerario RigheDaJson(const QJsonValue& json) {
     RigheItinerario righe;
-    for (const QJsonValue& tappa : json.toArray()) righe.push_back(StradaDaJson<Tappa>(tappa));
+    for (const QJsonValue& riga : json.toArray()) {
+        Tappa& tappa = righe.emplace_back(StradaDaJson<Tappa>(riga));
+        std::vector<QString> valori(vincoli::kCampi);
+        for (std::size_t i = 0; i < valori.size(); ++i) {
+            valori[i] = riga["vincoli"_L1][static_cast<qsizetype>(i)].toString();
+        }
+        tappa.vincoli = LeggiVincoli(valori).vincoli;
+    }
     return righe;
 }
 
