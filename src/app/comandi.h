@@ -7,11 +7,11 @@
 
 namespace cronovia {
 
-/// The menus, from left to right.
-enum class Menu { File, Modifica, Itinerario, Cronovia, Guida, Vista, Aiuto };
-inline constexpr std::size_t kMenu = static_cast<std::size_t>(Menu::Aiuto) + 1;
+/// The menus, from left to right; `Nessuno` is for what lives in a frame that is chosen from.
+enum class Menu { File, Modifica, Itinerario, Cronovia, Guida, Vista, Aiuto, Nessuno };
+inline constexpr std::size_t kMenu = static_cast<std::size_t>(Menu::Nessuno);
 
-/// One command, in words and as a procedure. It stands in a menu, and has a button where a screen places one.
+/// One command, in words and as a procedure. It has a button where a screen places one.
 struct DescrizioneComando {
     Comando comando;
     const char16_t* nome;         ///< of its button: "cmd" and a word; of its action: that word, its first letter small

@@ -28,12 +28,20 @@ void SullaCopia(Postazione& p, const std::function<void(TavoloCopia&)>& comando)
     if (copia->tavolo.Mete().empty()) RinunciaDuplicaItinerario(p);
 }
 
-void InserisciTratto(Postazione& p, bool conSoste) {
+void AssegnaInizio(Postazione& p) {
+    SullaCopia(p, [](TavoloCopia& tavolo) { tavolo.Assegna(0); });
+}
+
+void AssegnaFine(Postazione& p) {
+    SullaCopia(p, [](TavoloCopia& tavolo) { tavolo.Assegna(1); });
+}
+
+void InserisciTratto(Postazione& p) {
     auto* copia = p.Su<schermata::Copia>();
     const std::optional<Tratto> tratto = copia ? copia->tavolo.Scelto() : std::nullopt;
     if (!tratto || !BoxConferma(p.volti.interazione, Operazione::InserimentoTratto)) return;
     ItinerarioConTratto esito =
-        CopiaTratto(p.documento.Righe(), p.documento.RigaCorrente(), *copia->tavolo.Tappe(), *tratto, conSoste);
+        CopiaTratto(p.documento.Righe(), p.documento.RigaCorrente(), *copia->tavolo.Tappe(), *tratto, copia->conSoste);
     if (!Modifica(p, u"copia di un percorso"_s, std::move(esito.righe), esito.rigaCorrente)) return;
     p.schermata = NuovoInserimento(p.documento);
 }

@@ -9,8 +9,11 @@ namespace cronovia::comandi {
 void Duplica(Postazione& p);
 /// Does something on the screen; it closes when nothing is left to choose from.
 void SullaCopia(Postazione& p, const std::function<void(TavoloCopia&)>& comando);
+/// The current stage becomes the first one of the stretch; the last one.
+void AssegnaInizio(Postazione& p);
+void AssegnaFine(Postazione& p);
 /// Copies the stretch that was chosen, after a question; nothing before both its ends are.
-void InserisciTratto(Postazione& p, bool conSoste);
+void InserisciTratto(Postazione& p);
 /// Back to the entry of stages as it was left.
 void RinunciaDuplicaItinerario(Postazione& p);
 

@@ -73,18 +73,37 @@ void RicalcolaSulPosto(Postazione& p) {
 }
 
 void Stampa(Postazione& p) {
+    if (auto* stampa = p.Su<schermata::Stampa>()) {
+        stampa->passo = schermata::PassoStampa::Scelte;
+        return;
+    }
     if (SenzaMeta(p)) return;
     Esegui(p);
     if (auto* cronovia = p.Su<schermata::Cronovia>()) p.schermata = schermata::Stampa{*cronovia};
 }
 
+void ScegliStampante(Postazione& p) {
+    if (auto* passo = p.PassoDiStampa()) *passo = schermata::PassoStampa::Stampante;
+}
+
+void RinunciaStampa(Postazione& p) {
+    auto* passo = p.PassoDiStampa();
+    if (passo == nullptr || *passo != schermata::PassoStampa::Stampante) return FineStampa(p);
+    *passo = schermata::PassoStampa::Scelte;
+}
+
+void Anteprima(Postazione& p) { p.volti.anteprima(); }
+
+void AvviaStampa(Postazione& p) { p.volti.stampa(); }
+
 void StampaInCorso(Postazione& p) {
-    if (auto* stampa = p.Su<schermata::Stampa>()) stampa->inCorso = true;
+    if (auto* passo = p.PassoDiStampa()) *passo = schermata::PassoStampa::InCorso;
     p.volti.mostra();
 }
 
 void FineStampa(Postazione& p) {
     if (auto* stampa = p.Su<schermata::Stampa>()) p.schermata = schermata::Cronovia{stampa->da};
+    if (auto* guida = p.Su<schermata::Guida>()) guida->stampa.reset();
 }
 
 }  // namespace cronovia::comandi

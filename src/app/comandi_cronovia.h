@@ -14,9 +14,18 @@ void Ricalcola(Postazione& p);
 /// schedule that cannot be computed, which is told. Nothing happens on other screens.
 void RicalcolaSulPosto(Postazione& p);
 
-/// Computes the schedule when none is on screen; with one, the choices of its printout come in front.
+/// Computes the schedule when none is on screen; with one, the choices of its printout come in front, also from the
+/// printers.
 void Stampa(Postazione& p);
-/// The run has begun, nothing else can be given; the choices are left, after the run or without one.
+
+// Printing, of the schedule or of the guide, as the screen in front is.
+/// From what is to be printed on to the printer; one step back from there.
+void ScegliStampante(Postazione& p);
+void RinunciaStampa(Postazione& p);
+/// Shows the pages; prints them.
+void Anteprima(Postazione& p);
+void AvviaStampa(Postazione& p);
+/// The run has begun, nothing else can be given; it has ended, and what was printed is in front again.
 void StampaInCorso(Postazione& p);
 void FineStampa(Postazione& p);
 

@@ -37,6 +37,18 @@ void VaiAllaRigaGuida(Postazione& p, int riga) {
     SullaGuida(p, [&](TavoloGuida& t) { t.VaiAllaRiga(t.RigaDi(meta)); });
 }
 
+void SalvaRigaGuida(Postazione& p) {
+    SullaGuida(p, [](TavoloGuida& tavolo) { tavolo.SalvaRiga(tavolo.Scritti()); });
+}
+
+void CercaInGuida(Postazione& p) {
+    SullaGuida(p, [](TavoloGuida& tavolo) { tavolo.Cerca(); });
+}
+
+void StampaGuida(Postazione& p) {
+    if (auto* guida = p.Su<schermata::Guida>()) guida->stampa = schermata::PassoStampa::Scelte;
+}
+
 void CancellaRigaGuida(Postazione& p) {
     if (VoceNonPersa(p)) SullaGuida(p, [](TavoloGuida& tavolo) { tavolo.CancellaRiga(); });
 }

@@ -11,6 +11,11 @@ void GuidaCitta(Postazione& p);
 void SullaGuida(Postazione& p, const std::function<void(TavoloGuida&)>& comando);
 /// Goes to a row, counted from 1; asks first when the text of an entry would be lost.
 void VaiAllaRigaGuida(Postazione& p, int riga);
+/// Saves what the fields hold; tells why it cannot be.
+void SalvaRigaGuida(Postazione& p);
+/// Opens the list of localities; the choice of what to print.
+void CercaInGuida(Postazione& p);
+void StampaGuida(Postazione& p);
 /// Asks the same before it deletes the entry of the current row.
 void CancellaRigaGuida(Postazione& p);
 /// Asks the same. The itinerary comes back as it is stored, with the visits that the guide now has.

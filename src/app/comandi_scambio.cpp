@@ -138,6 +138,14 @@ void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& coma
     if (auto* scambio = p.Su<schermata::Scambio>(); scambio != nullptr && !p.InCorsa()) comando(scambio->tavolo);
 }
 
+void ScambiaTutteDaPrima(Postazione& p) {
+    SulloScambio(p, [](TavoloScambio& tavolo) { tavolo.TrasferisceTutte(0); });
+}
+
+void ScambiaTutteDaSeconda(Postazione& p) {
+    SulloScambio(p, [](TavoloScambio& tavolo) { tavolo.TrasferisceTutte(1); });
+}
+
 void ImExp(Postazione& p) {
     const auto* scambio = p.Su<schermata::Scambio>();
     if (scambio == nullptr || scambio->tavolo.Scelte().empty()) return;

@@ -14,6 +14,9 @@ void ApriFile(Postazione& p, const QString& file);
 
 /// Does something on the screen; nothing while a run is on.
 void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& comando);
+/// Move all trips of one list behind those of the other.
+void ScambiaTutteDaPrima(Postazione& p);
+void ScambiaTutteDaSeconda(Postazione& p);
 /// Exports or imports the trips that are chosen, after a question. An import that added something closes the
 /// screen: the single trip that came in is open then, else the one that was.
 void ImExp(Postazione& p);

@@ -23,6 +23,17 @@ bool Postazione::SenzaMete() const {
     return viaggio != nullptr && viaggio->fase == schermata::Viaggio::Fase::Vuota;
 }
 
+schermata::PassoStampa* Postazione::PassoDiStampa() {
+    if (auto* stampa = Su<schermata::Stampa>()) return &stampa->passo;
+    auto* guida = Su<schermata::Guida>();
+    return guida != nullptr && guida->stampa ? &*guida->stampa : nullptr;
+}
+
+bool Postazione::StampaAperta() const {
+    const auto* guida = Su<schermata::Guida>();
+    return Su<schermata::Stampa>() || (guida != nullptr && guida->stampa);
+}
+
 StatoComandi Postazione::Comandi() const {
     return StatoDeiComandi(
         {NumeroTappe(documento.Righe()), !documento.Codice().isEmpty(), attivita, DaAnnullare(), DaRipetere()},
@@ -93,7 +104,7 @@ bool Postazione::ChiedeSePerdere(const QString& testo, const QString& titolo) {
 
 std::optional<Ambito> Postazione::AmbitoInVista() const {
     if (const auto* guida = Su<schermata::Guida>()) {
-        return guida->tavolo->ElencoLocalitaVisibile() ? std::nullopt : std::optional(Ambito::Guida);
+        return guida->stampa || guida->tavolo->ElencoLocalitaVisibile() ? std::nullopt : std::optional(Ambito::Guida);
     }
     if (const auto* inserimento = Su<schermata::Inserimento>()) {
         return inserimento->elencoTappe ? std::nullopt : std::optional(Ambito::Viaggio);

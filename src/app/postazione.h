@@ -36,6 +36,8 @@ struct Volti {
     std::function<void(const QString&)> scriviAppunti = {};
     /// Where to part the leg that leads from a place to a stage; nothing when the person does not want to.
     std::function<std::optional<Divisione>(const QString& da, const Tappa& tappa)> chiediDivisione = {};
+    std::function<void()> anteprima = {};  ///< shows the pages that the screen in front would print
+    std::function<void()> stampa = {};     ///< prints them on the printer chosen
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.
@@ -69,6 +71,9 @@ struct Postazione {
     }
     /// The stages are being entered, alone or beside the list to copy from.
     [[nodiscard]] bool InInserimento() const { return Su<schermata::Inserimento>() || Su<schermata::Copia>(); }
+    /// The step of the printout that is chosen on the screen in front; null when there is none.
+    [[nodiscard]] schermata::PassoStampa* PassoDiStampa();
+    [[nodiscard]] bool StampaAperta() const;
     /// A run that can be stopped is on.
     [[nodiscard]] bool InCorsa() const { return attivita == Attivita::Corsa; }
     [[nodiscard]] bool ConverteOfferto() const;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -46,21 +47,31 @@ struct Cronovia {
     int giornata = 0;                       ///< the day of the current row, from 0
 };
 
-/// What is to be printed of the schedule, and the run.
+/// How far a printout has come.
+enum class PassoStampa {
+    Scelte,     ///< what is to be printed
+    Stampante,  ///< on what
+    InCorso,
+};
+
+/// Printing the schedule.
 struct Stampa {
     Cronovia da;
-    bool inCorso = false;
+    PassoStampa passo = PassoStampa::Scelte;
+    bool pagine = true;  ///< more is to be printed than the forms of the logbook
 };
 
 /// The guide list of the trip.
 struct Guida {
-    std::unique_ptr<TavoloGuida> tavolo;  ///< never null; its address does not change while the screen is open
+    std::unique_ptr<TavoloGuida> tavolo;     ///< never null; its address does not change while the screen is open
+    std::optional<PassoStampa> stampa = {};  ///< of its printout, while that is chosen
 };
 
 /// A stretch of another trip is chosen, beside the entry of stages.
 struct Copia {
     TavoloCopia tavolo;
-    Inserimento da;  ///< where it leads back to
+    Inserimento da;         ///< where it leads back to
+    bool conSoste = false;  ///< stops come along
 };
 
 /// Export or import of trips.

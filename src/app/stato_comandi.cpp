@@ -34,16 +34,37 @@ struct MomentiDelloSchermo {
                (fatti.tappe < (inserimento.appenaInserita ? 1 : 2) ? momento::kSenzaTappe : 0);
     }
     Momenti operator()(const schermata::Cronovia& /*cronovia*/) const { return momento::kCronovia; }
-    Momenti operator()(const schermata::Stampa& /*stampa*/) const { return momento::kStampa; }
-    Momenti operator()(const schermata::Guida& /*guida*/) const { return momento::kGuida; }
-    Momenti operator()(const schermata::Copia& /*copia*/) const { return momento::kCopia; }
-    Momenti operator()(const schermata::Scambio& /*scambio*/) const { return momento::kScambio; }
+    Momenti operator()(const schermata::Stampa& stampa) const {
+        if (stampa.passo == schermata::PassoStampa::Stampante) return momento::kStampa | momento::kStampante;
+        return momento::kStampa | momento::kSceltaStampa | (stampa.pagine ? momento::kPagine : 0);
+    }
+    Momenti operator()(const schermata::Guida& guida) const {
+        if (guida.stampa == schermata::PassoStampa::Scelte) return momento::kSceltaStampaGuida;
+        if (guida.stampa == schermata::PassoStampa::Stampante) return momento::kStampante;
+        if (guida.tavolo == nullptr || guida.tavolo->ElencoLocalitaVisibile()) return momento::kElencoGuida;
+        return momento::kGuida | (guida.tavolo->Corrente().voce ? momento::kVoce : 0);
+    }
+    Momenti operator()(const schermata::Copia& copia) const {
+        return momento::kCopia | (copia.tavolo.Tappe() ? momento::kTratto : 0) |
+               (copia.tavolo.Scelto() ? momento::kTrattoScelto : 0);
+    }
+    Momenti operator()(const schermata::Scambio& scambio) const {
+        return momento::kScambio | (scambio.tavolo.Mete(0).empty() ? 0 : momento::kPrimaPiena) |
+               (scambio.tavolo.Mete(1).empty() ? 0 : momento::kSecondaPiena) |
+               (scambio.tavolo.Scelte().empty() ? 0 : momento::kMeteScelte);
+    }
 };
+
+bool SiStampa(const Schermata& schermata) {
+    const auto* stampa = std::get_if<schermata::Stampa>(&schermata);
+    const auto* guida = std::get_if<schermata::Guida>(&schermata);
+    return (stampa != nullptr && stampa->passo == schermata::PassoStampa::InCorso) ||
+           (guida != nullptr && guida->stampa == schermata::PassoStampa::InCorso);
+}
 
 Momenti MomentiDi(const Fatti& fatti, const Schermata& schermata) {
     if (fatti.attivita == Attivita::Corsa) return momento::kCorsa;
-    const auto* stampa = std::get_if<schermata::Stampa>(&schermata);
-    if (fatti.attivita == Attivita::Scrittura || (stampa != nullptr && stampa->inCorso)) return 0;
+    if (fatti.attivita == Attivita::Scrittura || SiStampa(schermata)) return 0;
     return momento::kLibera | std::visit(MomentiDelloSchermo{fatti}, schermata) |
            (fatti.annulla ? momento::kAnnullabile : 0) | (fatti.ripeti ? momento::kRipetibile : 0);
 }
@@ -73,6 +94,11 @@ StatoComandi StatoDeiComandi(const Fatti& fatti, const Schermata& schermata) {
         stato.scritte[Comando::SpostaGiu] = u"Sposta giù il giorno\tAlt+Giù"_s;
     }
     if (stampa) stato.scritte[Comando::Stampa] = u"Stampa"_s;  // its letter is that of the print frames
+    if (const auto* scambio = std::get_if<schermata::Scambio>(&schermata)) {
+        stato.scritte[Comando::ScambiaTutteDaPrima] = scambio->tavolo.ScrittaTutto(0);
+        stato.scritte[Comando::ScambiaTutteDaSeconda] = scambio->tavolo.ScrittaTutto(1);
+        stato.scritte[Comando::ImExp] = scambio->tavolo.ScrittaImExp();
+    }
     if (fatti.annulla) stato.scritte[Comando::Annulla] = DelPasso(u"Annulla"_s, *fatti.annulla);
     if (fatti.ripeti) stato.scritte[Comando::Ripeti] = DelPasso(u"Ripeti"_s, *fatti.ripeti);
     return stato;

@@ -21,6 +21,10 @@ enum class Comando {
     Import,
     Export,
     Converte,
+    ScambiaTutteDaPrima,
+    ScambiaTutteDaSeconda,
+    ImExp,
+    FineScambio,
     Esce,
     // Modifica
     Annulla,
@@ -50,13 +54,30 @@ enum class Comando {
     Trasferisce,
     Memorizza,
     Fine,
+    AssegnaInizio,
+    AssegnaFine,
+    InserisceTratto,
+    RinunciaCopia,
     // Cronovia
     Calcola,
     Ricalcola,
     FineGiornata,
     Stampa,
+    ScegliStampante,
+    Anteprima,
+    RinunciaStampa,
+    AvviaStampa,
+    RinunciaStampante,
     // Guida
     GuidaCitta,
+    SalvaRigaGuida,
+    CancellaRigaGuida,
+    CercaInGuida,
+    StampaGuida,
+    FineGuida,
+    ScegliStampanteGuida,
+    AnteprimaGuida,
+    RinunciaStampaGuida,
     // Aiuto
     Informazioni
 };
@@ -76,14 +97,25 @@ inline constexpr Momenti kDueTappe = 1U << 7;     ///< stages are entered, and t
 inline constexpr Momenti kSenzaTappe = 1U << 8;   ///< stages are entered, and there is none behind the departure
 inline constexpr Momenti kElencoTappe = 1U << 9;  ///< the places to go to are listed over the entry
 inline constexpr Momenti kCronovia = 1U << 10;
-inline constexpr Momenti kStampa = 1U << 11;
-inline constexpr Momenti kGuida = 1U << 12;
+inline constexpr Momenti kStampa = 1U << 11;  ///< the schedule is to be printed: what or on what is chosen
+inline constexpr Momenti kGuida = 1U << 12;   ///< its list is in use
 inline constexpr Momenti kCopia = 1U << 13;
 inline constexpr Momenti kScambio = 1U << 14;
 inline constexpr Momenti kAnnullabile = 1U << 15;  ///< there is a step to be taken back; to be made again
 inline constexpr Momenti kRipetibile = 1U << 16;
-inline constexpr Momenti kCorsa = 1U << 17;   ///< a run that can be stopped is on; nothing else holds then
-inline constexpr Momenti kLibera = 1U << 18;  ///< nothing goes on, whatever the screen
+inline constexpr Momenti kCorsa = 1U << 17;              ///< a run that can be stopped is on; nothing else holds then
+inline constexpr Momenti kLibera = 1U << 18;             ///< nothing goes on, whatever the screen
+inline constexpr Momenti kSceltaStampa = 1U << 19;       ///< what to print of the schedule is chosen
+inline constexpr Momenti kPagine = 1U << 20;             ///< and there are pages to look at
+inline constexpr Momenti kSceltaStampaGuida = 1U << 21;  ///< what to print of the guide is chosen
+inline constexpr Momenti kStampante = 1U << 22;          ///< a printer is chosen, for whatever printout
+inline constexpr Momenti kVoce = 1U << 23;               ///< the current row of the guide has an entry
+inline constexpr Momenti kTratto = 1U << 24;             ///< the stages to copy from are listed
+inline constexpr Momenti kTrattoScelto = 1U << 25;       ///< and both ends are assigned
+inline constexpr Momenti kPrimaPiena = 1U << 26;         ///< a list of the exchange screen has trips
+inline constexpr Momenti kSecondaPiena = 1U << 27;
+inline constexpr Momenti kElencoGuida = 1U << 29;  ///< the localities of the guide are listed over it
+inline constexpr Momenti kMeteScelte = 1U << 28;   ///< the one whose trips the run takes
 }  // namespace momento
 
 /// What goes on at this moment.

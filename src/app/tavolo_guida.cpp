@@ -68,7 +68,8 @@ bool TavoloGuida::GiaPresente(const CampiVoce& campi) const {
     });
 }
 
-bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
+// The fields come by value: they may be those of the table, which change here.
+bool TavoloGuida::SalvaRiga(CampiVoce campi) {
     if (const auto difetto = DifettoDellaVoce(tipi_, campi)) {
         interaction_.Show({difetto->messaggio, {}, Icon::Exclamation});
         return false;
@@ -90,7 +91,7 @@ bool TavoloGuida::SalvaRiga(const CampiVoce& campi) {
     // From a locality's row one goes on adding; an entry is followed to where it is listed now.
     VaiAllaRiga(RigaDi(riga.localita, voce));
     if (!riga.voce) {
-        CampiVoce prossima = campi;
+        CampiVoce prossima = std::move(campi);
         prossima.descrizione.clear();
         Mostra(prossima);
     }

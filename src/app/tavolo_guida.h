@@ -51,7 +51,7 @@ class TavoloGuida {
     void VaiAllaRiga(int riga);
     /// Saves the fields in the place of the entry of the current row, or as a new one from a locality's row. Tells why
     /// they cannot be saved, also when the same is there already; false then.
-    bool SalvaRiga(const CampiVoce& campi);
+    bool SalvaRiga(CampiVoce campi);
     /// What was typed goes to the archive and nowhere else, for a program that ends. A `Failure` when it cannot be
     /// saved.
     void SalvaScritti();

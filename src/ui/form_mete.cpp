@@ -57,9 +57,10 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       bottoni_(new FrmBottoni(azioni_)),
       griglia_(postazione_, [this](const auto& comando) { Esegui(comando); }),
       inserimento_(postazione_, azioni_, *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
-      copia_(postazione_, inserimento_.Area(), [this](const auto& comando) { Esegui(comando); }),
-      guida_(postazione_, griglia_.Vista(), *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
-      scambio_(postazione_, [this](const auto& comando) { Esegui(comando); }) {
+      copia_(postazione_, azioni_, inserimento_.Area(), [this](const auto& comando) { Esegui(comando); }),
+      guida_(postazione_, azioni_, griglia_.Vista(), *cmbRicercaTappa_,
+             [this](const auto& comando) { Esegui(comando); }),
+      scambio_(postazione_, azioni_, [this](const auto& comando) { Esegui(comando); }) {
     setObjectName(u"formMete"_s);
     Disponi();
     CompletaMenu();
@@ -79,16 +80,19 @@ FormMete::~FormMete() {
 }
 
 Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
-    return {interazione_,
-            *avanzamento_,
-            std::move(adesso),
-            [this] { Mostra(); },
-            [this](FileChiesto quale) { return ScegliFile(quale); },
-            [this] { close(); },
-            [this] { avanzamento_->ChiediStop(); },
-            [] { return QGuiApplication::clipboard()->text(); },
-            [](const QString& testo) { QGuiApplication::clipboard()->setText(testo); },
-            [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); }};
+    return {
+        interazione_,
+        *avanzamento_,
+        std::move(adesso),
+        [this] { Mostra(); },
+        [this](FileChiesto quale) { return ScegliFile(quale); },
+        [this] { close(); },
+        [this] { avanzamento_->ChiediStop(); },
+        [] { return QGuiApplication::clipboard()->text(); },
+        [](const QString& testo) { QGuiApplication::clipboard()->setText(testo); },
+        [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); },
+        [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->MostraAnteprima() : stampa_->MostraAnteprima(); },
+        [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); }};
 }
 
 void FormMete::Disponi() {
@@ -126,10 +130,12 @@ QWidget* FormMete::CreaAreaGriglia() {
 }
 
 void FormMete::CreaStampe(QGridLayout& area) {
-    const ComandoStampa::Ambiente ambiente{postazione_, interazione_, *avanzamento_, *this,
-                                           [this](const auto& comando) { Esegui(comando); }};
-    stampa_ = new ComandoStampa(ambiente, area);
-    guida_.ImpostaStampa(*new ComandoStampaGuida(ambiente, stampa_->Stampante(), area));
+    const Ambiente ambiente{postazione_, interazione_, *avanzamento_, *this,
+                            [this](const auto& comando) { Esegui(comando); }};
+    stampante_ = new FrmSelStampa(azioni_);
+    stampa_ = new ComandoStampa(ambiente, azioni_, *stampante_, area);
+    stampaGuida_ = new ComandoStampaGuida(ambiente, azioni_, *stampante_, area);
+    area.addWidget(stampante_, 0, 0, Qt::AlignCenter);
 }
 
 // What stands in menus beside the commands.
@@ -213,8 +219,6 @@ void FormMete::Collega() {
         keyPressEvent(&esc);
     });
     connect(&griglia_.Vista(), &QTableView::clicked, this, [this] { inserimento_.FuocoSullaTappa(); });
-    connect(&copia_, &SchermoCopia::Chiusa, this, [this] { inserimento_.FuocoSullaTappa(); });
-    connect(&scambio_, &SchermoScambio::Chiuso, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
     connect(new RicezioneFile(*this), &RicezioneFile::Arrivato, this, &FormMete::ApriFile);
 }
 
@@ -224,6 +228,7 @@ void FormMete::Raccogli() {
     viaggio_->Raccogli();
     inserimento_.Raccogli();
     guida_.Raccogli();
+    copia_.Raccogli();
     if (postazione_.dalVivo && !inCorso_) attesaDalVivo_.start();
 }
 
@@ -275,13 +280,25 @@ void FormMete::MettiIlFuoco(Comando dopo) {
         case Comando::Stampa:
             return stampa_->Fuoco();
         case Comando::GuidaCitta:
+        case Comando::SalvaRigaGuida:
+        case Comando::CancellaRigaGuida:
+        case Comando::RinunciaStampaGuida:
             return guida_.Fuoco();
+        case Comando::AvviaStampa:
+            return postazione_.StampaAperta() ? void() : guida_.Fuoco();
+        case Comando::FineGuida:
+        case Comando::ImExp:
+        case Comando::FineScambio:
+            return FuocoDopoLoSchermo();
         case Comando::Import:
         case Comando::Export:
             return scambio_.Fuoco();
         case Comando::Duplica:
+        case Comando::AssegnaInizio:
+        case Comando::AssegnaFine:
             return copia_.Fuoco();
         case Comando::Cerca:
+        case Comando::CercaInGuida:
             return cmbRicercaTappa_->setFocus();
         case Comando::Inserisce:
             return inserimento_.FuocoDopoInserisce();
@@ -291,15 +308,23 @@ void FormMete::MettiIlFuoco(Comando dopo) {
         case Comando::Ritorno:
         case Comando::Fine:
         case Comando::AltriPacchetti:
+        case Comando::InserisceTratto:
+        case Comando::RinunciaCopia:
             return inserimento_.FuocoSullaTappa();
         default:
             return;
     }
 }
 
+// A screen that was not left goes on; else the rows are in front again.
+void FormMete::FuocoDopoLoSchermo() {
+    if (postazione_.Su<schermata::Guida>()) return guida_.Fuoco();
+    if (!postazione_.Su<schermata::Scambio>()) griglia_.Vista().setFocus();
+}
+
 // What was computed is read in the grid; stages are typed on.
 void FormMete::FuocoSulleRighe() {
-    if (stampa_->Aperto()) return stampa_->Fuoco();
+    if (postazione_.StampaAperta()) return stampa_->Fuoco();
     if (postazione_.InInserimento()) return inserimento_.FuocoSullaTappa();
     griglia_.Vista().setFocus();
 }
@@ -389,8 +414,8 @@ void FormMete::keyPressEvent(QKeyEvent* event) {
         Q_EMIT viaggio_->Elenco().Rinuncia();
     } else if (event->key() == Qt::Key_Escape && inserimento != nullptr && inserimento->elencoTappe) {
         Esegui([this] { comandi::Fine(postazione_); });
-    } else if (event->key() == Qt::Key_Escape && stampa_->Aperto()) {
-        stampa_->Rinuncia();
+    } else if (event->key() == Qt::Key_Escape && postazione_.StampaAperta()) {
+        EseguiComando(Comando::RinunciaStampa);
     } else {
         QMainWindow::keyPressEvent(event);
     }
@@ -413,8 +438,10 @@ void FormMete::Invio() {
 void FormMete::Mostra() {
     mostrando_ = true;
     if (postazione_.dalVivo && postazione_.attivita == Attivita::Nessuna) postazione_.documento.CalcolaDalVivo();
+    stampa_->Raccogli();
+    azioni_.Applica(postazione_.Comandi());
     viaggio_->Mostra(!postazione_.documento.Calcolata() && !postazione_.InCorsa() &&
-                     !postazione_.Su<schermata::Scambio>() && !guida_.StampaAperta() && !postazione_.SenzaMete());
+                     !postazione_.Su<schermata::Scambio>() && !postazione_.StampaAperta() && !postazione_.SenzaMete());
     if (!guida_.Mostra(kRigheMinimeGriglia)) griglia_.Mostra();
     copia_.Mostra();
     inserimento_.Mostra();
@@ -422,7 +449,10 @@ void FormMete::Mostra() {
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
     bottoni_->Mostra(postazione_.ConverteOfferto());
     stampa_->Mostra();
-    azioni_.Applica(guida_.StampaAperta() ? StatoComandi() : postazione_.Comandi());
+    stampaGuida_->Mostra();
+    const auto* passo = postazione_.PassoDiStampa();
+    const bool suStampante = passo != nullptr && *passo == schermata::PassoStampa::Stampante;
+    stampante_->Mostra(suStampante, suStampante);
     for (Pannello* pannello : pannelli_) pannello->Mostra(postazione_);
     MostraTitolo();
     mostrando_ = false;

@@ -14,6 +14,7 @@
 #include "ui/copia/schermo_copia.h"
 #include "ui/giornate/pannello_giornate.h"
 #include "ui/griglia/schermo_griglia.h"
+#include "ui/guida/comando_stampa_guida.h"
 #include "ui/guida/schermo_guida.h"
 #include "ui/inserimento/schermo_inserimento.h"
 #include "ui/scambio/schermo_scambio.h"
@@ -65,6 +66,7 @@ class FormMete : public QMainWindow {
     bool Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);
     void MettiIlFuoco(Comando dopo);
+    void FuocoDopoLoSchermo();
     void FuocoSulleRighe();
     [[nodiscard]] QString ScegliFile(FileChiesto quale);
     void Invio();
@@ -93,7 +95,9 @@ class FormMete : public QMainWindow {
     SchermoGuida guida_;
     SchermoScambio scambio_;
     QWidget* areaGriglia_ = nullptr;
+    FrmSelStampa* stampante_ = nullptr;
     ComandoStampa* stampa_ = nullptr;
+    ComandoStampaGuida* stampaGuida_ = nullptr;
     PannelloGiornate* giornate_ = nullptr;
     QAction* dalVivo_ = new QAction(QStringLiteral("Calcolo &dal vivo"), this);
     QTimer attesaDalVivo_;  // until what is typed has been taken over

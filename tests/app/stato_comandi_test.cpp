@@ -21,7 +21,7 @@ QString Abilitati(const Fatti& fatti, const Schermata& schermata) {
 }
 
 TEST(StatoComandi, ARunLeavesStopAloneAndWritingNothing) {
-    EXPECT_EQ(Abilitati({5, true}, schermata::Stampa{{}, true}), u""_s);
+    EXPECT_EQ(Abilitati({5, true}, schermata::Stampa{{}, schermata::PassoStampa::InCorso}), u""_s);
     for (const Fase fase : {Fase::Vuota, Fase::Nuova, Fase::Aperta}) {
         EXPECT_EQ(Abilitati({5, true, Attivita::Scrittura}, schermata::Viaggio{fase}), u""_s);
         EXPECT_EQ(Abilitati({5, true, Attivita::Corsa}, schermata::Viaggio{fase}), u"Esce"_s);

@@ -41,6 +41,7 @@ void Azioni::CreaAzione(const DescrizioneComando& comando) {
     azione->setMenuRole(QAction::NoRole);
     connect(azione, &QAction::triggered, this, [this, quale = comando.comando] { Q_EMIT Chiesto(quale); });
     azioni_[static_cast<std::size_t>(comando.comando)] = azione;
+    if (comando.menu == Menu::Nessuno) return;
     if (comando.stacca) MenuDi(comando.menu).addSeparator();
     MenuDi(comando.menu).addAction(azione);
 }

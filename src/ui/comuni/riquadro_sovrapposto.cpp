@@ -28,6 +28,17 @@ void RiquadroSovrapposto::Pulsanti(QPushButton* conferma, QPushButton* rinuncia)
     rinuncia_ = rinuncia;
 }
 
+void RiquadroSovrapposto::Mostra(bool aperto, bool inUso) {
+    if (!aperto) return hide();
+    const bool prima = isVisible() && isEnabled();
+    if (!isVisible()) Prepara();
+    setEnabled(inUso);
+    if (!inUso || prima) return;
+    show();
+    raise();
+    Fuoco();
+}
+
 void RiquadroSovrapposto::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         rinuncia_->click();

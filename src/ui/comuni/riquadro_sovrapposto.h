@@ -15,7 +15,15 @@ class RiquadroSovrapposto : public QFrame {
   public:
     RiquadroSovrapposto(const QString& nome, const QString& scritta);
 
+    /// On show while it is `aperto`; in use then unless another frame lies over it, and with the focus once it is.
+    void Mostra(bool aperto, bool inUso);
+
+    void Fuoco() { PrimoControllo().setFocus(); }
+
   protected:
+    /// Before it is shown, and what gets the focus then.
+    virtual void Prepara() {}
+    [[nodiscard]] virtual QWidget& PrimoControllo() const { return *conferma_; }
     [[nodiscard]] QVBoxLayout& Contenuto() const { return *contenuto_; }
     /// The two buttons, for the frame to place.
     void Pulsanti(QPushButton* conferma, QPushButton* rinuncia);

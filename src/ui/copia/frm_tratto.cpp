@@ -13,11 +13,11 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-FrmTratto::FrmTratto(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, parent) {
+FrmTratto::FrmTratto(Azioni& azioni) : QGroupBox(u"Tratto dal percorso:"_s) {
     setObjectName(u"frmTratto"_s);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(CreaEstremo(0));
-    layout->addWidget(CreaEstremo(1));
+    layout->addWidget(CreaEstremo(0, azioni.NuovoPulsante(Comando::AssegnaInizio)));
+    layout->addWidget(CreaEstremo(1, azioni.NuovoPulsante(Comando::AssegnaFine)));
     chkInsSoste_ = new QCheckBox(u"Inserire anche le soste:"_s);
     chkInsSoste_->setObjectName(u"chkInsSoste"_s);
     MostraIstruzione(*chkInsSoste_, u"Copia anche le soste e le fini giornata delle tappe"_s);
@@ -27,19 +27,18 @@ FrmTratto::FrmTratto(QWidget* parent) : QGroupBox(u"Tratto dal percorso:"_s, par
     riga->addStretch();
     riga->addWidget(NuovoAiuto(AiutoDuplica()));
     layout->addLayout(riga);
-    layout->addLayout(CreaComandi());
+    auto* comandi = new QHBoxLayout;
+    comandi->addWidget(azioni.NuovoPulsante(Comando::InserisceTratto));
+    comandi->addWidget(azioni.NuovoPulsante(Comando::RinunciaCopia));
+    layout->addLayout(comandi);
     layout->addStretch();
 }
 
-QWidget* FrmTratto::CreaEstremo(int estremo) {
+QWidget* FrmTratto::CreaEstremo(int estremo, QPushButton* assegna) {
     const bool inizio = estremo == 0;
     auto* riquadro = new QFrame;
     riquadro->setObjectName(inizio ? u"frmInizio"_s : u"frmArrivo"_s);
     riquadro->setFrameShape(QFrame::StyledPanel);
-    QPushButton* assegna = NuovoPulsante(
-        NomeDiSerie(u"cmdAssegna"_s, estremo), inizio ? u"Assegna tappa &iniziale"_s : u"Assegna tappa &finale"_s,
-        inizio ? u"La località corrente sarà la prima inserita"_s : u"La località corrente sarà l'ultima inserita"_s);
-    connect(assegna, &QPushButton::clicked, this, [this, estremo] { Q_EMIT Assegna(estremo); });
     auto* layout = new QGridLayout(riquadro);
     layout->setVerticalSpacing(3);
     layout->addWidget(assegna, 0, 0, 1, 4);
@@ -71,19 +70,6 @@ QWidget* FrmTratto::CreaEstremo(int estremo) {
     return riquadro;
 }
 
-QLayout* FrmTratto::CreaComandi() {
-    auto* riga = new QHBoxLayout;
-    cmdInsEsegui_ = NuovoPulsante(NomeDiSerie(u"cmdInsEsegui"_s, 0), u"Inserisce &percorso"_s,
-                                  u"Inserisce il tratto selezionato nel verso indicato"_s);
-    QPushButton* rinuncia = NuovoPulsante(NomeDiSerie(u"cmdInsEsegui"_s, 1), u"Rin&uncia"_s,
-                                          u"Rinuncia alla duplicazione dell'itinerario"_s);
-    connect(cmdInsEsegui_, &QPushButton::clicked, this, &FrmTratto::Esegui);
-    connect(rinuncia, &QPushButton::clicked, this, &FrmTratto::Rinuncia);
-    riga->addWidget(cmdInsEsegui_);
-    riga->addWidget(rinuncia);
-    return riga;
-}
-
 void FrmTratto::Mostra(const TavoloCopia& copia) {
     for (std::size_t i = 0; i < estremi_.size(); ++i) {
         const std::optional<int> riga = copia.Assegnate()[i];
@@ -93,7 +79,6 @@ void FrmTratto::Mostra(const TavoloCopia& copia) {
         estremi_[i].txtInsKm->setText(RaggruppaNonZero(tappa.km));
         estremi_[i].txtInsNum->setText(riga ? QString::number(*riga) : QString());
     }
-    cmdInsEsegui_->setEnabled(copia.Scelto().has_value());
 }
 
 }  // namespace cronovia

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "app/tavolo_copia.h"
+#include "ui/comuni/azioni.h"
 
 namespace cronovia {
 
@@ -15,23 +16,16 @@ class FrmTratto : public QGroupBox {
     Q_OBJECT
 
   public:
-    explicit FrmTratto(QWidget* parent = nullptr);
+    explicit FrmTratto(Azioni& azioni);
 
-    /// Shows the stages assigned; the copy can be made once both are.
+    /// Shows the stages assigned.
     void Mostra(const TavoloCopia& copia);
     /// No stops, until the person wants them.
     void Azzera() { chkInsSoste_->setChecked(false); }
     [[nodiscard]] bool ConSoste() const { return chkInsSoste_->isChecked(); }
 
-  Q_SIGNALS:
-    /// The current stage shall be the first (0) or the last (1) of the stretch.
-    void Assegna(int estremo);
-    void Esegui();
-    void Rinuncia();
-
   private:
-    QWidget* CreaEstremo(int estremo);
-    QLayout* CreaComandi();
+    QWidget* CreaEstremo(int estremo, QPushButton* assegna);
 
     /// The boxes of one end of the stretch.
     struct Estremo {
@@ -42,7 +36,6 @@ class FrmTratto : public QGroupBox {
     };
     std::array<Estremo, 2> estremi_;
     QCheckBox* chkInsSoste_;
-    QPushButton* cmdInsEsegui_;
 };
 
 }  // namespace cronovia

@@ -7,12 +7,13 @@
 
 namespace cronovia {
 
-SchermoCopia::SchermoCopia(Postazione& postazione, QWidget& inserimento, Esegui esegui)
+SchermoCopia::SchermoCopia(Postazione& postazione, Azioni& azioni, QWidget& inserimento, Esegui esegui)
     : postazione_(postazione),
+      azioni_(azioni),
       inserimento_(inserimento),
       esegui_(std::move(esegui)),
       lista_(new FrmLista),
-      tratto_(new FrmTratto) {
+      tratto_(new FrmTratto(azioni)) {
     lista_->hide();
     tratto_->hide();
     Collega();
@@ -25,14 +26,6 @@ void SchermoCopia::Collega() {
     });
     connect(lista_, &FrmLista::Corrente, this,
             [this](int riga) { Comanda([riga](TavoloCopia& copia) { copia.SelezionaRiga(riga); }); });
-    connect(tratto_, &FrmTratto::Assegna, this, [this](int estremo) {
-        Comanda([estremo](TavoloCopia& copia) { copia.Assegna(static_cast<std::size_t>(estremo)); });
-        lista_->Fuoco();
-    });
-    connect(tratto_, &FrmTratto::Esegui, this,
-            [this] { Chiude([this] { comandi::InserisciTratto(postazione_, tratto_->ConSoste()); }); });
-    connect(tratto_, &FrmTratto::Rinuncia, this,
-            [this] { Chiude([this] { comandi::RinunciaDuplicaItinerario(postazione_); }); });
 }
 
 void SchermoCopia::Fuoco() {
@@ -43,10 +36,8 @@ void SchermoCopia::Comanda(const std::function<void(TavoloCopia&)>& comando) {
     if (aperto_) esegui_([&] { comandi::SullaCopia(postazione_, comando); });
 }
 
-// A command that may close the lists.
-void SchermoCopia::Chiude(const std::function<void()>& comando) {
-    esegui_(comando);
-    if (!aperto_) Q_EMIT Chiusa();
+void SchermoCopia::Raccogli() {
+    if (auto* copia = postazione_.Su<schermata::Copia>()) copia->conSoste = tratto_->ConSoste();
 }
 
 void SchermoCopia::Scegli(int riga) {
@@ -74,7 +65,7 @@ bool SchermoCopia::Tasto(const QKeyEvent& tasto) {
     const auto* copia = postazione_.Su<schermata::Copia>();
     if (copia == nullptr) return false;
     if (tasto.key() == Qt::Key_Escape) {
-        Chiude([this] { comandi::RinunciaDuplicaItinerario(postazione_); });
+        azioni_.Di(Comando::RinunciaCopia).trigger();
         return true;
     }
     const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;

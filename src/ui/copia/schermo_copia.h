@@ -17,27 +17,25 @@ class SchermoCopia : public QObject {
 
   public:
     /// `inserimento` gives way while a stretch is chosen.
-    SchermoCopia(Postazione& postazione, QWidget& inserimento, Esegui esegui);
+    SchermoCopia(Postazione& postazione, Azioni& azioni, QWidget& inserimento, Esegui esegui);
 
     [[nodiscard]] FrmLista& Lista() const { return *lista_; }
     [[nodiscard]] FrmTratto& RiquadroTratto() const { return *tratto_; }
+    /// Whether stops come along goes to the screen's state.
+    void Raccogli();
     /// Shows the lists and the stretch while the screen is open, the entry frame else.
     void Mostra();
     void Fuoco();
     /// The keys that mean something on this screen; false for all others, and while it is closed.
     bool Tasto(const QKeyEvent& tasto);
 
-  Q_SIGNALS:
-    /// The entry frame is back.
-    void Chiusa();
-
   private:
     void Collega();
     void Comanda(const std::function<void(TavoloCopia&)>& comando);
     void Scegli(int riga);
-    void Chiude(const std::function<void()>& comando);
 
     Postazione& postazione_;
+    Azioni& azioni_;
     QWidget& inserimento_;
     Esegui esegui_;
     FrmLista* lista_;

@@ -3,54 +3,32 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 
+#include "app/comandi_cronovia.h"
 #include "app/comandi_guida.h"
 #include "interaction/failure.h"
-#include "print/tabella_testo.h"
 #include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-ComandoStampaGuida::ComandoStampaGuida(const ComandoStampa::Ambiente& ambiente, FrmSelStampa& stampante,
+ComandoStampaGuida::ComandoStampaGuida(const Ambiente& ambiente, Azioni& azioni, FrmSelStampa& stampante,
                                        QGridLayout& area)
-    : QObject(&ambiente.finestra), ambiente_(ambiente), stampante_(stampante), opzioni_(new FrmGuidaStampa) {
+    : QObject(&ambiente.finestra), ambiente_(ambiente), stampante_(stampante), opzioni_(new FrmGuidaStampa(azioni)) {
     area.addWidget(opzioni_, 0, 0, Qt::AlignCenter);
-    connect(opzioni_, &FrmGuidaStampa::Stampa, this, [this] {
-        stampante_.VisualizzaListaStampanti();
-        // Both frames have the same keys.
-        opzioni_->setEnabled(false);
-    });
-    connect(opzioni_, &FrmGuidaStampa::Rinuncia, this, &ComandoStampaGuida::Rinuncia);
-    connect(opzioni_, &FrmGuidaStampa::Anteprima, this, [this] {
-        ambiente_.esegui([this] {
-            if (const auto documento = Prepara())
-                MostraAnteprima(*documento, ambiente_.finestra, ambiente_.interazione);
-        });
-    });
-    connect(&stampante_, &FrmSelStampa::Stampa, this, [this] {
-        if (Aperto()) ambiente_.esegui([this] { Stampa(); });
-    });
-    connect(&stampante_, &FrmSelStampa::Rinuncia, this, [this] {
-        if (Aperto()) Rinuncia();
-    });
 }
 
-void ComandoStampaGuida::Apri() {
-    opzioni_->Apri();
-    Q_EMIT Cambiato();
+void ComandoStampaGuida::Mostra() {
+    using schermata::PassoStampa;
+    const auto* guida = ambiente_.postazione.Su<schermata::Guida>();
+    const std::optional<PassoStampa> passo = guida != nullptr ? guida->stampa : std::nullopt;
+    opzioni_->Mostra(passo && passo != PassoStampa::InCorso, passo == PassoStampa::Scelte);
 }
 
-void ComandoStampaGuida::Rinuncia() {
-    if (!stampante_.isVisible()) return Chiudi();
-    stampante_.hide();
-    opzioni_->Apri();
-}
-
-void ComandoStampaGuida::Chiudi() {
-    stampante_.hide();
-    opzioni_->hide();
-    Q_EMIT Cambiato();
+void ComandoStampaGuida::MostraAnteprima() {
+    if (const auto documento = Prepara()) {
+        cronovia::MostraAnteprima(*documento, ambiente_.finestra, ambiente_.interazione);
+    }
 }
 
 // Nothing, and the person hears why, when there is nothing to print.
@@ -71,23 +49,12 @@ std::optional<Stampato> ComandoStampaGuida::Prepara() {
 void ComandoStampaGuida::Stampa() {
     const std::optional<Stampato> documento = Prepara();
     if (!documento) return;
-    const bool suFile = stampante_.SceltoFilePdf();
-    const QString stampante = stampante_.Scelta();
-    const QString path = suFile ? ChiediFilePdf(ambiente_.finestra, documento->titolo) : QString();
-    if (suFile && path.isEmpty()) {
-        ambiente_.interazione.Show({NessunFileScelto(), {}, Icon::None});
-        return;
-    }
-    Chiudi();
-    comandi::SullaGuida(ambiente_.postazione, [&](const TavoloGuida&) {
-        if (path.isEmpty()) {
-            StampaSuStampante(*documento, stampante, ambiente_.interazione, ambiente_.avanzamento);
-        } else {
-            RifiutaFileTabella(path, ambiente_.postazione.sessione.Cartella());
-            StampaSuFile(*documento, path, ambiente_.avanzamento);
-        }
-        ambiente_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});
-    });
+    const auto uscita = ChiediUscita(ambiente_, stampante_.Scelta(), stampante_.SceltoFilePdf(), documento->titolo);
+    if (!uscita) return;
+    comandi::StampaInCorso(ambiente_.postazione);
+    const bool stampata = ambiente_.postazione.Prova([&] { uscita(*documento); });
+    comandi::FineStampa(ambiente_.postazione);
+    if (stampata) ambiente_.interazione.Show({u"Stampa della guida completata..."_s, {}, Icon::None});
 }
 
 }  // namespace cronovia

@@ -13,25 +13,18 @@ class ComandoStampaGuida : public QObject {
     Q_OBJECT
 
   public:
-    /// Puts its frame over the area; the choice of the printer is that of the schedule.
-    ComandoStampaGuida(const ComandoStampa::Ambiente& ambiente, FrmSelStampa& stampante, QGridLayout& area);
+    /// Puts its frame over the area; the choice of the printer is that of all printouts.
+    ComandoStampaGuida(const Ambiente& ambiente, Azioni& azioni, FrmSelStampa& stampante, QGridLayout& area);
 
-    void Apri();
-    /// The frames are on show.
-    [[nodiscard]] bool Aperto() const { return opzioni_->isVisible(); }
-    /// From the printers back to the options, from there back to the guide.
-    void Rinuncia();
-
-  Q_SIGNALS:
-    /// The frames came or went.
-    void Cambiato();
+    /// Shows what is to be printed while that is chosen; to be called whenever the state is shown anew.
+    void Mostra();
+    void MostraAnteprima();
+    void Stampa();
 
   private:
-    void Chiudi();
-    void Stampa();
     [[nodiscard]] std::optional<Stampato> Prepara();
 
-    ComandoStampa::Ambiente ambiente_;
+    Ambiente ambiente_;
     FrmSelStampa& stampante_;
     FrmGuidaStampa* opzioni_;
 };

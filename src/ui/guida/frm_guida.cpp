@@ -20,7 +20,7 @@ int LarghezzaCampo(guida::Field campo) { return Width(Table::GuidaCitta, campo);
 
 }  // namespace
 
-FrmGuida::FrmGuida(QWidget* parent) : QGroupBox(u"Guida visite e soste tecniche:"_s, parent) {
+FrmGuida::FrmGuida(Azioni& azioni) : QGroupBox(u"Guida visite e soste tecniche:"_s) {
     setObjectName(u"frmGuida"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(4);
@@ -31,7 +31,7 @@ FrmGuida::FrmGuida(QWidget* parent) : QGroupBox(u"Guida visite e soste tecniche:
     nota->setObjectName(u"lblGNota"_s);
     nota->setWordWrap(true);
     layout->addWidget(nota);
-    layout->addLayout(CreaComandi());
+    layout->addLayout(CreaComandi(azioni));
 }
 
 QLayout* FrmGuida::CreaCampi() {
@@ -72,23 +72,14 @@ QLayout* FrmGuida::CreaCampi() {
     return griglia;
 }
 
-QLayout* FrmGuida::CreaComandi() {
+QLayout* FrmGuida::CreaComandi(Azioni& azioni) {
     auto* riga = new QHBoxLayout;
-    const auto aggiungi = [&](const QString& nome, const QString& scritta, const QString& istruzione,
-                              void (FrmGuida::*segnale)()) {
-        QPushButton* pulsante = NuovoPulsante(nome, scritta, istruzione);
-        connect(pulsante, &QPushButton::clicked, this, segnale);
-        riga->addWidget(pulsante);
-        return pulsante;
-    };
-    aggiungi(u"cmdSalvaRiga"_s, u"&Salva riga"_s, u"Salva la descrizione inserita"_s, &FrmGuida::Salva);
-    cmdCancellaRiga_ =
-        aggiungi(u"cmdCancellaRiga"_s, u"&Cancella riga"_s, u"Cancella la descrizione"_s, &FrmGuida::Cancella);
-    aggiungi(u"cmdFind"_s, u"C&erca"_s, u"Cerca una località dell'itinerario"_s, &FrmGuida::Cerca);
+    for (const Comando comando : {Comando::SalvaRigaGuida, Comando::CancellaRigaGuida, Comando::CercaInGuida}) {
+        riga->addWidget(azioni.NuovoPulsante(comando));
+    }
     riga->addStretch();
-    aggiungi(u"cmdStampaGuidaCitta"_s, u"St&ampa"_s, u"Stampa la guida delle città"_s, &FrmGuida::Stampa);
-    cmdFineInserimento_ = aggiungi(u"cmdFineInserimento"_s, u"&Fine inserimento"_s,
-                                   u"Fine dell''inserimento della guida ed esce dalla modalità"_s, &FrmGuida::Fine);
+    riga->addWidget(azioni.NuovoPulsante(Comando::StampaGuida));
+    riga->addWidget(azioni.NuovoPulsante(Comando::FineGuida));
     return riga;
 }
 
@@ -101,19 +92,13 @@ void FrmGuida::MostraTipi(const std::vector<TipoGuida>& tipi) {
     cmbGTipo_->setEditText(scritto);
 }
 
-void FrmGuida::Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile) {
+void FrmGuida::Mostra(const QString& localita, const CampiVoce& campi) {
     txtGCitta_->setText(Visibile(localita));
     txtGDescr_->setText(campi.descrizione);
     cmbGTipo_->setCurrentIndex(cmbGTipo_->findText(campi.tipo));
     cmbGTipo_->setEditText(campi.tipo);
     MostraVoce(*cmbGH_, Zero(campi.ore, 2));
     MostraVoce(*cmbGM_, Zero(campi.minuti, 2));
-    cancellabile_ = cancellabile;
-}
-
-void FrmGuida::Abilita(bool libero) {
-    Blocca(*this, !libero);
-    cmdCancellaRiga_->setEnabled(libero && cancellabile_);
 }
 
 CampiVoce FrmGuida::Campi() const {

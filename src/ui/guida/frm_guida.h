@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "guide/annotazioni.h"
+#include "ui/comuni/azioni.h"
 
 namespace cronovia {
 
@@ -15,41 +16,28 @@ class FrmGuida : public QGroupBox {
     Q_OBJECT
 
   public:
-    explicit FrmGuida(QWidget* parent = nullptr);
+    explicit FrmGuida(Azioni& azioni);
 
     /// The types on offer; what is typed stays.
     void MostraTipi(const std::vector<TipoGuida>& tipi);
-    /// Shows the fields of a row; only a row with an entry can be deleted.
-    void Mostra(const QString& localita, const CampiVoce& campi, bool cancellabile);
-    void Abilita(bool libero);
+    /// Shows the fields of a row; what is typed into them goes.
+    void Mostra(const QString& localita, const CampiVoce& campi);
     /// What the fields hold, as it was typed.
     [[nodiscard]] CampiVoce Campi() const;
     void FuocoSullaDescrizione();
     /// On what an entry that was refused lacks.
     /// Nothing is selected: what was typed is put right.
     void FuocoSulCampo(guida::Field campo);
-    /// What Enter does where nothing was typed.
-    [[nodiscard]] QPushButton& PulsanteFine() const { return *cmdFineInserimento_; }
-
-  Q_SIGNALS:
-    void Salva();
-    void Cancella();
-    void Cerca();
-    void Fine();
-    void Stampa();
 
   private:
     QLayout* CreaCampi();
-    QLayout* CreaComandi();
+    static QLayout* CreaComandi(Azioni& azioni);
 
     QLineEdit* txtGCitta_;
     QLineEdit* txtGDescr_;
     QComboBox* cmbGTipo_;
     QComboBox* cmbGH_;
     QComboBox* cmbGM_;
-    QPushButton* cmdCancellaRiga_;
-    QPushButton* cmdFineInserimento_;
-    bool cancellabile_ = false;  // the row that is shown
 };
 
 }  // namespace cronovia

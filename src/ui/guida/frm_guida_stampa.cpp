@@ -27,7 +27,7 @@ QRadioButton* NuovaScelta(const QString& nome, int indice, const Scelta& scelta)
 
 }  // namespace
 
-FrmGuidaStampa::FrmGuidaStampa() : RiquadroSovrapposto(u"frmGuidaStampa"_s, u"Guida da stampare:"_s) {
+FrmGuidaStampa::FrmGuidaStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmGuidaStampa"_s, u"Guida da stampare:"_s) {
     const QString lista = u"optGuidaListaStampa"_s;
     optGuidaListaStampa_ = {
         NuovaScelta(lista, 0, {u"&Tutte"_s, u"Tutte le località della guida, in ordine alfabetico"_s}),
@@ -46,30 +46,19 @@ FrmGuidaStampa::FrmGuidaStampa() : RiquadroSovrapposto(u"frmGuidaStampa"_s, u"Gu
     };
     optGuidaListaStampa_[1]->setChecked(true);
     optGuidaDettaglioStampa_[1]->setChecked(true);
-    stampa_ = NuovoPulsante(u"cmdStampaGuida_0"_s, u"&Stampa"_s, u"Sceglie la stampante"_s);
-    QPushButton* rinuncia = NuovoPulsante(u"cmdStampaGuida_1"_s, u"&Rinuncia"_s, u"Rinuncia alla stampa"_s);
-    QPushButton* anteprima =
-        NuovoPulsante(u"cmdAnteprimaGuida"_s, u"&Anteprima"_s, u"Mostra sullo schermo le pagine della guida"_s);
-    Pulsanti(stampa_, rinuncia);
+    QPushButton* stampa = azioni.NuovoPulsante(Comando::ScegliStampanteGuida);
+    QPushButton* anteprima = azioni.NuovoPulsante(Comando::AnteprimaGuida);
+    QPushButton* rinuncia = azioni.NuovoPulsante(Comando::RinunciaStampaGuida);
+    Pulsanti(stampa, rinuncia);
     auto* gruppi = new QHBoxLayout;
     gruppi->addWidget(
         gruppo(u"frmGuidaStampaLista"_s, u"Località in stampa:"_s, optGuidaListaStampa_[1], optGuidaListaStampa_[0]));
     gruppi->addWidget(gruppo(u"frmStampaGuidaDettaglio"_s, u"Dettaglio:"_s, optGuidaDettaglioStampa_[0],
                              optGuidaDettaglioStampa_[1]));
     auto* riga = new QHBoxLayout;
-    for (QPushButton* pulsante : {stampa_, anteprima, rinuncia}) riga->addWidget(pulsante);
+    for (QPushButton* pulsante : {stampa, anteprima, rinuncia}) riga->addWidget(pulsante);
     Contenuto().addLayout(gruppi);
     Contenuto().addLayout(riga);
-    connect(stampa_, &QPushButton::clicked, this, &FrmGuidaStampa::Stampa);
-    connect(anteprima, &QPushButton::clicked, this, &FrmGuidaStampa::Anteprima);
-    connect(rinuncia, &QPushButton::clicked, this, &FrmGuidaStampa::Rinuncia);
-}
-
-void FrmGuidaStampa::Apri() {
-    setEnabled(true);
-    show();
-    raise();
-    stampa_->setFocus();
 }
 
 OpzioniStampaGuida FrmGuidaStampa::Opzioni() const {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "print/stampa_guida.h"
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/riquadro_sovrapposto.h"
 
 namespace cronovia {
@@ -13,19 +14,11 @@ class FrmGuidaStampa : public RiquadroSovrapposto {
     Q_OBJECT
 
   public:
-    FrmGuidaStampa();
+    explicit FrmGuidaStampa(Azioni& azioni);
 
-    /// Shown, in use, with the focus on its first button.
-    void Apri();
     [[nodiscard]] OpzioniStampaGuida Opzioni() const;
 
-  Q_SIGNALS:
-    void Stampa();
-    void Anteprima();
-    void Rinuncia();
-
   private:
-    QPushButton* stampa_;
     std::array<QRadioButton*, 2> optGuidaListaStampa_{};
     std::array<QRadioButton*, 2> optGuidaDettaglioStampa_{};
 };

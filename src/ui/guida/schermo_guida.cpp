@@ -8,6 +8,7 @@
 
 #include "app/comandi_guida.h"
 #include "calendar/testo.h"
+#include "ui/comuni/controlli.h"
 
 namespace cronovia {
 
@@ -19,26 +20,19 @@ constexpr int kCaratteriLocalita = 22;
 
 }  // namespace
 
-SchermoGuida::SchermoGuida(Postazione& postazione, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui)
-    : postazione_(postazione), griglia_(griglia), elenco_(elenco), esegui_(std::move(esegui)), riquadro_(new FrmGuida) {
+SchermoGuida::SchermoGuida(Postazione& postazione, Azioni& azioni, VistaGriglia& griglia, ElencoScelta& elenco,
+                           Esegui esegui)
+    : postazione_(postazione),
+      azioni_(azioni),
+      griglia_(griglia),
+      elenco_(elenco),
+      esegui_(std::move(esegui)),
+      riquadro_(new FrmGuida(azioni)) {
     riquadro_->hide();
     Collega();
 }
 
 void SchermoGuida::Collega() {
-    connect(riquadro_, &FrmGuida::Salva, this, &SchermoGuida::Salva);
-    connect(riquadro_, &FrmGuida::Cancella, this, [this] {
-        esegui_([this] { comandi::CancellaRigaGuida(postazione_); });
-        Fuoco();
-    });
-    connect(riquadro_, &FrmGuida::Cerca, this, [this] {
-        Comanda([](TavoloGuida& tavolo) { tavolo.Cerca(); });
-        elenco_.setFocus();
-    });
-    connect(riquadro_, &FrmGuida::Fine, this, [this] {
-        esegui_([this] { comandi::FineGuida(postazione_); });
-        Tavolo() ? Fuoco() : griglia_.setFocus();
-    });
     griglia_.viewport()->installEventFilter(this);
     connect(&griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
         if (!CampiCambiati()) return VaiAllaRiga(riga + 1);
@@ -50,17 +44,6 @@ void SchermoGuida::Collega() {
         if (!Tavolo()) return;
         VaiAllaRiga(voce->data(Qt::UserRole).toInt());
         Fuoco();
-    });
-}
-
-void SchermoGuida::ImpostaStampa(ComandoStampaGuida& stampa) {
-    stampa_ = &stampa;
-    connect(riquadro_, &FrmGuida::Stampa, stampa_, &ComandoStampaGuida::Apri);
-    connect(stampa_, &ComandoStampaGuida::Cambiato, this, [this] {
-        if (!Tavolo()) return;
-        Abilita(*Tavolo());
-        esegui_([] {});  // what else is free now
-        if (!stampa_->Aperto()) riquadro_->FuocoSullaDescrizione();
     });
 }
 
@@ -108,15 +91,6 @@ void SchermoGuida::Raccogli() {
     }
 }
 
-void SchermoGuida::Salva() {
-    const CampiVoce campi = riquadro_->Campi();
-    bool salvata = false;
-    Comanda([&](TavoloGuida& tavolo) { salvata = tavolo.SalvaRiga(campi); });
-    salvata ? riquadro_->FuocoSullaDescrizione() : FuocoSulCampoMancante();
-}
-
-bool SchermoGuida::StampaAperta() const { return stampa_ != nullptr && stampa_->Aperto(); }
-
 bool SchermoGuida::CampiCambiati() const { return mostrato_ && riquadro_->Campi() != mostrato_->campi; }
 
 bool SchermoGuida::Mostra(int righeMinime) {
@@ -136,7 +110,7 @@ bool SchermoGuida::Mostra(int righeMinime) {
                        mostrato_->elenco != tavolo->Elenco() || tavolo->Scritti() != riquadro_->Campi();
     if (nuovo) {
         riquadro_->MostraTipi(tavolo->Tipi());
-        riquadro_->Mostra(tavolo->Corrente().localita, tavolo->Scritti(), tavolo->Corrente().voce.has_value());
+        riquadro_->Mostra(tavolo->Corrente().localita, tavolo->Scritti());
         mostrato_ = {tavolo->RigaCorrente(), tavolo->Elenco(), tavolo->Campi()};
     }
     MostraElenco(*tavolo);
@@ -146,9 +120,9 @@ bool SchermoGuida::Mostra(int righeMinime) {
 
 // Beside a list to choose from, and beside the choices of the printout, nothing else can be used.
 void SchermoGuida::Abilita(const TavoloGuida& tavolo) {
-    const bool libero = !tavolo.ElencoLocalitaVisibile() && !stampa_->Aperto();
+    const bool libero = !tavolo.ElencoLocalitaVisibile() && !postazione_.StampaAperta();
     griglia_.setEnabled(libero);
-    riquadro_->Abilita(libero);
+    Blocca(*riquadro_, !libero);
 }
 
 void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
@@ -174,9 +148,8 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
     const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
     const bool esc = tasto.key() == Qt::Key_Escape;
     if (!invio && !esc) return false;
-    if (stampa_->Aperto()) {
-        if (esc) stampa_->Rinuncia();
-    } else if (esc && tavolo->ElencoLocalitaVisibile()) {
+    if (postazione_.StampaAperta()) return false;
+    if (esc && tavolo->ElencoLocalitaVisibile()) {
         Comanda([](TavoloGuida& t) { t.ChiudiElenco(); });
         riquadro_->FuocoSullaDescrizione();
     } else if (tavolo->ElencoLocalitaVisibile()) {
@@ -186,12 +159,12 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
     } else if (invio && !riquadro_->isAncestorOf(riquadro_->window()->focusWidget())) {
         riquadro_->FuocoSullaDescrizione();  // in the grid, or in a field of the trip
     } else if (invio && CampiCambiati()) {
-        Salva();
+        azioni_.Pulsante(Comando::SalvaRigaGuida).click();
     } else if (esc && CampiCambiati()) {
         VaiAllaRiga(tavolo->RigaCorrente());
         Fuoco();
     } else {
-        riquadro_->PulsanteFine().click();
+        azioni_.Pulsante(Comando::FineGuida).click();
     }
     return true;
 }

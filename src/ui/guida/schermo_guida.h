@@ -8,7 +8,6 @@
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/esegui.h"
 #include "ui/griglia/vista_griglia.h"
-#include "ui/guida/comando_stampa_guida.h"
 #include "ui/guida/frm_guida.h"
 #include "ui/guida/modello_guida.h"
 
@@ -20,18 +19,15 @@ class SchermoGuida : public QObject {
     Q_OBJECT
 
   public:
-    SchermoGuida(Postazione& postazione, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui);
+    SchermoGuida(Postazione& postazione, Azioni& azioni, VistaGriglia& griglia, ElencoScelta& elenco, Esegui esegui);
 
     [[nodiscard]] FrmGuida& Riquadro() const { return *riquadro_; }
-    void ImpostaStampa(ComandoStampaGuida& stampa);
     /// What the fields hold goes to the screen's state.
     void Raccogli();
     /// To the entry of a description, while the screen is open; when something is typed, to what it lacks.
     void Fuoco();
     /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
     bool Mostra(int righeMinime);
-    /// The choices of the printout lie over the screen.
-    [[nodiscard]] bool StampaAperta() const;
     /// The keys that mean something on this screen; false for all others, and while it is closed.
     bool Tasto(const QKeyEvent& tasto);
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
@@ -43,7 +39,6 @@ class SchermoGuida : public QObject {
     void Comanda(const std::function<void(TavoloGuida&)>& comando);
     void VaiAllaRiga(int riga);
     void VaiAllaRigaAttesa();
-    void Salva();
     void MostraElenco(const TavoloGuida& tavolo);
     void Abilita(const TavoloGuida& tavolo);
     [[nodiscard]] bool CampiCambiati() const;
@@ -56,11 +51,11 @@ class SchermoGuida : public QObject {
     };
 
     Postazione& postazione_;
+    Azioni& azioni_;
     VistaGriglia& griglia_;
     ElencoScelta& elenco_;
     Esegui esegui_;
     FrmGuida* riquadro_;
-    ComandoStampaGuida* stampa_ = nullptr;
     ModelloGuida modello_;
     std::optional<Mostrato> mostrato_;  // what was last put into the fields
     std::optional<int> rigaAttesa_;     // gone to once the mouse has let it go

@@ -12,7 +12,7 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-FrmExport::FrmExport(QWidget* parent) : QFrame(parent) {
+FrmExport::FrmExport(Azioni& azioni) : azioni_(azioni) {
     setObjectName(u"frmExport"_s);
     setFrameShape(QFrame::StyledPanel);
     auto* layout = new QGridLayout(this);
@@ -34,7 +34,7 @@ FrmExport::FrmExport(QWidget* parent) : QFrame(parent) {
         layout->addWidget(mfgImExp_[indice], 2, 2 * i);
         layout->setColumnStretch(2 * i, 1);
     }
-    layout->addWidget(CreaPulsanti(), 2, 1);
+    layout->addWidget(CreaPulsanti(azioni), 2, 1);
     Mostra(TavoloScambio(ModoScambio::Export, {}, {}), false);
     hide();
 }
@@ -66,25 +66,18 @@ QTableView* FrmExport::NuovaGriglia(int indice) {
     return griglia;
 }
 
-QWidget* FrmExport::CreaPulsanti() {
+QWidget* FrmExport::CreaPulsanti(Azioni& azioni) {
     auto* colonna = new QWidget;
     auto* layout = new QVBoxLayout(colonna);
     layout->addStretch();
-    for (int i = 0; i < 2; ++i) {
-        QPushButton* pulsante =
-            NuovoPulsante(NomeDiSerie(u"cmdTutto"_s, i), {}, u"Trasferisce tutte le mete sull'altra finestra"_s);
+    for (const Comando comando : {Comando::ScambiaTutteDaPrima, Comando::ScambiaTutteDaSeconda}) {
+        QPushButton* pulsante = azioni.NuovoPulsante(comando);
         pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(u"<--- Tutti [999999]"_s) + 24);
-        connect(pulsante, &QPushButton::clicked, this, [this, i] { Q_EMIT TrasferisceTutte(i); });
-        cmdTutto_[static_cast<std::size_t>(i)] = pulsante;
         layout->addWidget(pulsante);
     }
     layout->addSpacing(24);
-    cmdImExp_[0] = NuovoPulsante(u"cmdImExp_0"_s, {}, u"Avvia il trasferimento delle mete scelte"_s);
-    cmdImExp_[1] = NuovoPulsante(u"cmdImExp_1"_s, u"&Fine"_s, u"Rinuncia all'import-export in corso"_s);
-    connect(cmdImExp_[0], &QPushButton::clicked, this, &FrmExport::ImExp);
-    connect(cmdImExp_[1], &QPushButton::clicked, this, &FrmExport::Fine);
-    layout->addWidget(cmdImExp_[0]);
-    layout->addWidget(cmdImExp_[1]);
+    layout->addWidget(azioni.NuovoPulsante(Comando::ImExp));
+    layout->addWidget(azioni.NuovoPulsante(Comando::FineScambio));
     layout->addStretch();
     return colonna;
 }
@@ -96,12 +89,7 @@ void FrmExport::Mostra(const TavoloScambio& tavolo, bool inCorso) {
         mfgImExp_[indice]->setEnabled(!inCorso);
         MostraScritta(*etichette_[indice], tavolo.Etichetta(i));
         mfgImExp_[indice]->setAccessibleName(tavolo.Etichetta(i));
-        cmdTutto_[indice]->setText(tavolo.ScrittaTutto(i));
-        cmdTutto_[indice]->setEnabled(!inCorso && !tavolo.Mete(i).empty());
     }
-    cmdImExp_[0]->setText(tavolo.ScrittaImExp());
-    cmdImExp_[0]->setEnabled(!inCorso && !tavolo.Scelte().empty());
-    cmdImExp_[1]->setEnabled(!inCorso);
 }
 
 void FrmExport::FuocoSullaScelta(ModoScambio modo) {
@@ -124,7 +112,7 @@ bool FrmExport::eventFilter(QObject* oggetto, QEvent* event) {
 
 void FrmExport::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        cmdImExp_[1]->click();
+        azioni_.Pulsante(Comando::FineScambio).click();
     } else {
         QFrame::keyPressEvent(event);
     }

@@ -3,11 +3,11 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QPushButton>
 #include <QTableView>
 #include <array>
 
 #include "app/tavolo_scambio.h"
+#include "ui/comuni/azioni.h"
 #include "ui/scambio/modello_mete.h"
 
 namespace cronovia {
@@ -16,7 +16,7 @@ class FrmExport : public QFrame {
     Q_OBJECT
 
   public:
-    explicit FrmExport(QWidget* parent = nullptr);
+    explicit FrmExport(Azioni& azioni);
 
     /// While a run is on, nothing in the frame can be used.
     void Mostra(const TavoloScambio& tavolo, bool inCorso);
@@ -24,11 +24,8 @@ class FrmExport : public QFrame {
     void FuocoSullaScelta(ModoScambio modo);
 
   Q_SIGNALS:
-    /// The trip of a row of a grid is to move to the other one; all of them.
+    /// The trip of a row of a grid is to move to the other one.
     void Trasferisce(int griglia, int riga);
-    void TrasferisceTutte(int griglia);
-    void ImExp();
-    void Fine();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -36,13 +33,12 @@ class FrmExport : public QFrame {
 
   private:
     QTableView* NuovaGriglia(int indice);
-    QWidget* CreaPulsanti();
+    static QWidget* CreaPulsanti(Azioni& azioni);
 
     std::array<ModelloMete, 2> modelli_;
     std::array<QTableView*, 2> mfgImExp_{};
     std::array<QLabel*, 2> etichette_{};
-    std::array<QPushButton*, 2> cmdTutto_{};
-    std::array<QPushButton*, 2> cmdImExp_{};
+    Azioni& azioni_;
 };
 
 }  // namespace cronovia

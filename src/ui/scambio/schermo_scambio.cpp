@@ -6,23 +6,12 @@
 
 namespace cronovia {
 
-SchermoScambio::SchermoScambio(Postazione& postazione, Esegui esegui)
-    : postazione_(postazione), esegui_(std::move(esegui)), riquadro_(new FrmExport) {
-    const auto comanda = [this](const std::function<void(TavoloScambio&)>& comando) {
-        esegui_([&] { comandi::SulloScambio(postazione_, comando); });
-    };
-    connect(riquadro_, &FrmExport::Trasferisce, this, [comanda](int griglia, int riga) {
-        comanda([&](TavoloScambio& tavolo) { tavolo.TrasferisceMeta(griglia, riga); });
-    });
-    connect(riquadro_, &FrmExport::TrasferisceTutte, this,
-            [comanda](int griglia) { comanda([&](TavoloScambio& tavolo) { tavolo.TrasferisceTutte(griglia); }); });
-    connect(riquadro_, &FrmExport::ImExp, this, [this] {
-        esegui_([this] { comandi::ImExp(postazione_); });
-        if (!postazione_.Su<schermata::Scambio>()) Q_EMIT Chiuso();
-    });
-    connect(riquadro_, &FrmExport::Fine, this, [this] {
-        esegui_([this] { comandi::FineScambio(postazione_); });
-        Q_EMIT Chiuso();
+SchermoScambio::SchermoScambio(Postazione& postazione, Azioni& azioni, Esegui esegui)
+    : postazione_(postazione), esegui_(std::move(esegui)), riquadro_(new FrmExport(azioni)) {
+    connect(riquadro_, &FrmExport::Trasferisce, this, [this](int griglia, int riga) {
+        esegui_([&] {
+            comandi::SulloScambio(postazione_, [&](TavoloScambio& tavolo) { tavolo.TrasferisceMeta(griglia, riga); });
+        });
     });
 }
 

@@ -13,17 +13,13 @@ class SchermoScambio : public QObject {
     Q_OBJECT
 
   public:
-    SchermoScambio(Postazione& postazione, Esegui esegui);
+    SchermoScambio(Postazione& postazione, Azioni& azioni, Esegui esegui);
 
     /// The frame, for the window to place.
     [[nodiscard]] FrmExport& Riquadro() const { return *riquadro_; }
     void Mostra();
     /// Puts the focus on the list to choose from, while the screen is open.
     void Fuoco();
-
-  Q_SIGNALS:
-    /// The person has left the screen.
-    void Chiuso();
 
   private:
     Postazione& postazione_;

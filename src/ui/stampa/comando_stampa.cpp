@@ -35,59 +35,45 @@ QFrame* NuovoStampaInCorso() {
 
 }  // namespace
 
-ComandoStampa::ComandoStampa(Ambiente ambiente, QGridLayout& area)
+std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, const QString& stampante, bool suFile,
+                                                  const QString& titolo) {
+    if (!suFile) {
+        return [&ambiente, stampante](const Stampato& documento) {
+            StampaSuStampante(documento, stampante, ambiente.interazione, ambiente.avanzamento);
+        };
+    }
+    const QString path = ChiediFilePdf(ambiente.finestra, titolo);
+    if (path.isEmpty()) {
+        ambiente.interazione.Show({u"Nessun file scelto: niente è stato stampato."_s, {}, Icon::None});
+        return {};
+    }
+    return [&ambiente, path](const Stampato& documento) {
+        RifiutaFileTabella(path, ambiente.postazione.sessione.Cartella());
+        StampaSuFile(documento, path, ambiente.avanzamento);
+    };
+}
+
+ComandoStampa::ComandoStampa(Ambiente ambiente, Azioni& azioni, FrmSelStampa& stampante, QGridLayout& area)
     : QObject(&ambiente.finestra),
       ambiente_(std::move(ambiente)),
-      opzioni_(new FrmStampa),
-      stampante_(new FrmSelStampa),
+      opzioni_(new FrmStampa(azioni)),
+      stampante_(stampante),
       inCorso_(NuovoStampaInCorso()) {
-    for (QWidget* riquadro :
-         {static_cast<QWidget*>(opzioni_), static_cast<QWidget*>(stampante_), static_cast<QWidget*>(inCorso_)}) {
+    for (QWidget* riquadro : {static_cast<QWidget*>(opzioni_), static_cast<QWidget*>(inCorso_)}) {
         area.addWidget(riquadro, 0, 0, Qt::AlignCenter);
     }
-    connect(opzioni_, &FrmStampa::Stampa, this, [this] {
-        stampante_->VisualizzaListaStampanti();
-        // Both frames have the same keys.
-        opzioni_->setEnabled(false);
-    });
-    connect(opzioni_, &FrmStampa::Anteprima, this, [this] { ambiente_.esegui([this] { MostraAnteprima(); }); });
-    connect(stampante_, &FrmSelStampa::Stampa, this, [this] {
-        if (opzioni_->isVisible()) ambiente_.esegui([this] { Stampa(); });
-    });
-    connect(opzioni_, &FrmStampa::Rinuncia, this, &ComandoStampa::Rinuncia);
-    connect(stampante_, &FrmSelStampa::Rinuncia, this, [this] {
-        if (opzioni_->isVisible()) Rinuncia();
-    });
+    connect(opzioni_, &FrmStampa::Cambiata, this, [this] { ambiente_.esegui([] {}); });  // what else can be done now
+}
+
+void ComandoStampa::Raccogli() {
+    if (auto* stampa = ambiente_.postazione.Su<schermata::Stampa>()) stampa->pagine = opzioni_->Pagine();
 }
 
 void ComandoStampa::Mostra() {
+    using schermata::PassoStampa;
     const auto* stampa = ambiente_.postazione.Su<schermata::Stampa>();
-    const bool aperta = stampa != nullptr && !stampa->inCorso;
-    if (aperta == opzioni_->isVisible()) return;
-    Chiudi();
-    if (aperta) opzioni_->Apri();
-}
-
-void ComandoStampa::Fuoco() {
-    if (!opzioni_->isVisible()) return;
-    stampante_->hide();
-    opzioni_->Apri();
-}
-
-// From the printers back to the options, from there back to the schedule.
-void ComandoStampa::Rinuncia() {
-    if (stampante_->isVisible()) {
-        stampante_->hide();
-        opzioni_->Apri();
-        return;
-    }
-    Chiudi();
-    ambiente_.esegui([this] { comandi::FineStampa(ambiente_.postazione); });
-}
-
-void ComandoStampa::Chiudi() {
-    opzioni_->hide();
-    stampante_->hide();
+    opzioni_->Mostra(stampa != nullptr && stampa->passo != PassoStampa::InCorso,
+                     stampa != nullptr && stampa->passo == PassoStampa::Scelte);
 }
 
 void ComandoStampa::MostraAnteprima() {
@@ -98,28 +84,14 @@ void ComandoStampa::MostraAnteprima() {
 
 // Without a file, printing to a file has not begun.
 void ComandoStampa::Stampa() {
-    if (!stampante_->SceltoFilePdf() || !(opzioni_->Tabella() || opzioni_->Giornate())) {
-        const QString stampante = stampante_->Scelta();
-        EseguiStampa([&](const Stampato& documento) {
-            StampaSuStampante(documento, stampante, ambiente_.interazione, ambiente_.avanzamento);
-        });
-        return;
-    }
-    const QString path =
-        ChiediFilePdf(ambiente_.finestra, u"Cronovia "_s + ambiente_.postazione.documento.Campi().localita);
-    if (path.isEmpty()) {
-        ambiente_.interazione.Show({NessunFileScelto(), {}, Icon::None});
-        return;
-    }
-    EseguiStampa([&](const Stampato& documento) {
-        RifiutaFileTabella(path, ambiente_.postazione.sessione.Cartella());
-        StampaSuFile(documento, path, ambiente_.avanzamento);
-    });
+    const QString titolo = u"Cronovia "_s + ambiente_.postazione.documento.Campi().localita;
+    const auto uscita =
+        ChiediUscita(ambiente_, stampante_.Scelta(), stampante_.SceltoFilePdf() && opzioni_->Pagine(), titolo);
+    if (uscita) EseguiStampa(uscita);
 }
 
 void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& stampa) {
     const DatiStampa dati = Dati();
-    Chiudi();
     comandi::StampaInCorso(ambiente_.postazione);
     StampaTutto({dati,
                  Piede(),

@@ -14,42 +14,44 @@ class QGridLayout;
 
 namespace cronovia {
 
+/// What printing from the window needs of it.
+struct Ambiente {
+    Postazione& postazione;
+    Interaction& interazione;
+    Progress& avanzamento;
+    QWidget& finestra;
+    Esegui esegui;
+};
+
+/// How a printout leaves by the printer that is chosen, or into a file (`suFile`) that the person is asked for; null,
+/// and the person is told, when none was named.
+std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, const QString& stampante, bool suFile,
+                                                  const QString& titolo);
+
 class ComandoStampa : public QObject {
     Q_OBJECT
 
   public:
-    struct Ambiente {
-        Postazione& postazione;
-        Interaction& interazione;
-        Progress& avanzamento;
-        QWidget& finestra;
-        Esegui esegui;
-    };
+    /// Puts its frames over the area. The choice of the printer is there for all printouts.
+    ComandoStampa(Ambiente ambiente, Azioni& azioni, FrmSelStampa& stampante, QGridLayout& area);
 
-    /// Puts its frames over the area.
-    ComandoStampa(Ambiente ambiente, QGridLayout& area);
-
+    /// What is ticked goes to the screen's state.
+    void Raccogli();
     /// Shows what is to be printed while that is chosen; to be called whenever the state is shown anew.
     void Mostra();
-    /// Back to what is to be printed, if that is chosen.
-    void Fuoco();
-    [[nodiscard]] bool Aperto() const { return opzioni_->isVisible() || stampante_->isVisible(); }
-    void Rinuncia();
-    /// The choice of the printer, of which there is one for all printouts.
-    [[nodiscard]] FrmSelStampa& Stampante() const { return *stampante_; }
-
-  private:
+    void Fuoco() { opzioni_->Fuoco(); }
     void MostraAnteprima();
     void Stampa();
+
+  private:
     void EseguiStampa(const std::function<void(const Stampato&)>& stampa);
     void AvviaModuli(const DatiStampa& dati);
-    void Chiudi();
     [[nodiscard]] DatiStampa Dati() const;
     [[nodiscard]] PieDiPagina Piede() const;
 
     Ambiente ambiente_;
     FrmStampa* opzioni_;
-    FrmSelStampa* stampante_;
+    FrmSelStampa& stampante_;
     QFrame* inCorso_;
 };
 

@@ -2,19 +2,19 @@
 
 #include <QHBoxLayout>
 
-#include "ui/comuni/controlli.h"
 #include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-FrmSelStampa::FrmSelStampa() : RiquadroSovrapposto(u"frmSelStampa"_s, u"Stampante:"_s), lstStampanti_(new QListWidget) {
+FrmSelStampa::FrmSelStampa(Azioni& azioni)
+    : RiquadroSovrapposto(u"frmSelStampa"_s, u"Stampante:"_s), lstStampanti_(new QListWidget) {
     lstStampanti_->setObjectName(u"lstStampanti"_s);
     lstStampanti_->setAccessibleName(u"Stampanti"_s);
     lstStampanti_->setMinimumSize(260, 130);
-    QPushButton* stampa = NuovoPulsante(u"cmdSelStampante_0"_s, u"&Stampa"_s, u"Avvio della stampa"_s);
-    QPushButton* rinuncia = NuovoPulsante(u"cmdSelStampante_1"_s, u"&Rinuncia"_s, u"Rinuncia alla stampa"_s);
+    QPushButton* stampa = azioni.NuovoPulsante(Comando::AvviaStampa);
+    QPushButton* rinuncia = azioni.NuovoPulsante(Comando::RinunciaStampante);
     Pulsanti(stampa, rinuncia);
     QVBoxLayout& layout = Contenuto();
     layout.addWidget(lstStampanti_);
@@ -22,21 +22,16 @@ FrmSelStampa::FrmSelStampa() : RiquadroSovrapposto(u"frmSelStampa"_s, u"Stampant
     riga->addWidget(stampa);
     riga->addWidget(rinuncia);
     layout.addLayout(riga);
-    connect(stampa, &QPushButton::clicked, this, &FrmSelStampa::Stampa);
-    connect(rinuncia, &QPushButton::clicked, this, &FrmSelStampa::Rinuncia);
-    connect(lstStampanti_, &QListWidget::itemDoubleClicked, this, &FrmSelStampa::Stampa);
+    connect(lstStampanti_, &QListWidget::itemDoubleClicked, stampa, &QPushButton::click);
 }
 
-void FrmSelStampa::VisualizzaListaStampanti() {
+void FrmSelStampa::Prepara() {
     lstStampanti_->clear();
     lstStampanti_->addItems(NomiStampanti());
     const auto trovate = lstStampanti_->findItems(StampantePredefinita(), Qt::MatchExactly | Qt::MatchCaseSensitive);
     auto* filePdf = new QListWidgetItem(u"File PDF"_s, lstStampanti_);
     filePdf->setData(Qt::UserRole, true);
     lstStampanti_->setCurrentItem(trovate.value(0, lstStampanti_->item(0)));
-    show();
-    raise();
-    lstStampanti_->setFocus();
 }
 
 QString FrmSelStampa::Scelta() const {

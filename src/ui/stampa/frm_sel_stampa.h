@@ -3,6 +3,7 @@
 
 #include <QListWidget>
 
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/riquadro_sovrapposto.h"
 
 namespace cronovia {
@@ -11,18 +12,17 @@ class FrmSelStampa : public RiquadroSovrapposto {
     Q_OBJECT
 
   public:
-    FrmSelStampa();
+    explicit FrmSelStampa(Azioni& azioni);
 
-    /// Fills the list with the printers that there are now, the PDF file as the last, and shows it.
-    void VisualizzaListaStampanti();
     /// Name of the current entry; empty without one.
     [[nodiscard]] QString Scelta() const;
     /// The PDF file is chosen; a printer that bears its name is not.
     [[nodiscard]] bool SceltoFilePdf() const;
 
-  Q_SIGNALS:
-    void Stampa();
-    void Rinuncia();
+  protected:
+    /// Fills the list with the printers that there are now, the PDF file as the last.
+    void Prepara() override;
+    [[nodiscard]] QWidget& PrimoControllo() const override { return *lstStampanti_; }
 
   private:
     QListWidget* lstStampanti_;

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/riquadro_sovrapposto.h"
 
 namespace cronovia {
@@ -11,25 +12,23 @@ class FrmStampa : public RiquadroSovrapposto {
     Q_OBJECT
 
   public:
-    FrmStampa();
+    explicit FrmStampa(Azioni& azioni);
 
-    /// Shown, in use, with the focus on its first button.
-    void Apri();
     /// What is ticked: the schedule, the days, the forms of the logbook.
     [[nodiscard]] bool Tabella() const { return chkTabella_->isChecked(); }
     [[nodiscard]] bool Giornate() const { return chkGiornate_->isChecked(); }
+    /// One of the first two: there are pages to look at.
+    [[nodiscard]] bool Pagine() const { return Tabella() || Giornate(); }
     [[nodiscard]] bool Moduli() const { return chkModuli_->isChecked(); }
 
   Q_SIGNALS:
-    void Stampa();
-    void Anteprima();
-    void Rinuncia();
+    /// Something else is ticked.
+    void Cambiata();
 
   private:
     QCheckBox* chkTabella_;
     QCheckBox* chkGiornate_;
     QCheckBox* chkModuli_;
-    QPushButton* stampa_;
 };
 
 }  // namespace cronovia

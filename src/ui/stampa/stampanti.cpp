@@ -50,8 +50,6 @@ QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }
 
-QString NessunFileScelto() { return u"Nessun file scelto: niente è stato stampato."_s; }
-
 void StampaSuFile(const Stampato& documento, const QString& path, Progress& progress) {
     RifiutaFileEsistente(path, true);
     FileIntero file(path);

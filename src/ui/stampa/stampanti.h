@@ -18,8 +18,6 @@ QString StampantePredefinita();
 
 /// Asks for the file of a PDF printout; empty when the person gave up.
 QString ChiediFilePdf(QWidget& finestra, const QString& titolo);
-/// What is said then.
-QString NessunFileScelto();
 
 /// Replaces the file, whole or not at all. A `Failure` when that cannot be done.
 void StampaSuFile(const Stampato& documento, const QString& path, Progress& progress);
