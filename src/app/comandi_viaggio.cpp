@@ -183,6 +183,35 @@ bool PossoChiudere(Postazione& p) {
     return true;
 }
 
+bool GuardaArchivio(Postazione& p) {
+    if (p.attivita != Attivita::Nessuna) return false;
+    std::optional<MetaMemorizzata> adesso;
+    try {
+        if (p.sessione.Archivio().PresentMark().others == p.scrittiDaAltri) return false;
+        p.scrittiDaAltri = p.sessione.Archivio().PresentMark().others;
+        adesso = LeggiMemorizzata(p.sessione.Archivio(), p.documento.Letta().meta.codice);
+    } catch (const Failure&) {
+        return false;  // whoever needs the archive will tell
+    }
+    const bool nuova = p.documento.Letta().meta.codice.isEmpty();
+    if (nuova ? !p.SenzaMete() : adesso == p.documento.Letta()) return false;
+    const bool ricaricabile = p.Su<schermata::Viaggio>() || p.Su<schermata::Inserimento>();
+    if (!ricaricabile || QualcosaDiScritto(p)) {
+        p.avviso = u"Un altro programma ha modificato questa mèta nell'archivio: prima di salvare ti sarà chiesto."_s;
+        return true;
+    }
+    const bool inserimento = p.Su<schermata::Inserimento>() != nullptr;
+    const QString codice = p.documento.Codice();
+    const int riga = p.documento.RigaCorrente();
+    p.Prova([&] { p.VaiAlViaggio(); });
+    p.avviso = u"Un altro programma ha modificato questa mèta: ora la vedi com'è nell'archivio."_s;
+    if (inserimento && p.documento.Codice() == codice) {
+        Itinerario(p);
+        SelezionaRiga(p, riga);
+    }
+    return true;
+}
+
 void Annulla(Postazione& p) {
     if (!p.DaAnnullare() || !VoceNonPersa(p)) return;
     p.Prova([&] { p.documento.Modifiche().Annulla(*p.AmbitoInVista()); });

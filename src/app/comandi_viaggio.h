@@ -33,6 +33,10 @@ void Esce(Postazione& p);
 /// Tells that no trip is open; false when one is.
 [[nodiscard]] bool SenzaMeta(Postazione& p);
 
+/// Has the window show what another program wrote to the open trip since it was looked at last; tells beside the work
+/// where that would cost what is typed. False when there is nothing new to show.
+bool GuardaArchivio(Postazione& p);
+
 /// Take the last change back that the screen in front is about, and make it again.
 void Annulla(Postazione& p);
 void Ripeti(Postazione& p);

@@ -152,6 +152,8 @@ bool QualcosaDaSalvare(const Postazione& p) {
     return p.documento.Modificato() || (guida != nullptr && guida->tavolo->Modificata());
 }
 
+bool QualcosaDiScritto(Postazione& p) { return InSospeso(p).has_value(); }
+
 bool NientePerso(Postazione& p) {
     const QStringList nonSalvate = NonSalvate(p);
     if (nonSalvate.isEmpty()) return true;

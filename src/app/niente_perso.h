@@ -8,6 +8,9 @@ namespace cronovia {
 /// The trip differs from what was loaded, or an entry of the guide from what its row shows.
 [[nodiscard]] bool QualcosaDaSalvare(const Postazione& p);
 
+/// Or something is being typed besides, in the entry of a stage.
+[[nodiscard]] bool QualcosaDiScritto(Postazione& p);
+
 /// Every command that replaces what is open calls this first. Asks whether to save, naming the trip, when something
 /// would be lost, and saves on Yes; false when the person wants to stay, or what was typed cannot be saved. On No it is
 /// left as it is.

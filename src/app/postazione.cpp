@@ -9,6 +9,7 @@
 namespace cronovia {
 
 Postazione::Postazione(const QString& cartella, Volti facce) : volti(std::move(facce)), sessione(cartella) {
+    scrittiDaAltri = sessione.Archivio().PresentMark().others;
     VaiAlViaggio();
     Su<schermata::Viaggio>()->converteOfferto = CiSonoVecchiFile(cartella);
 }

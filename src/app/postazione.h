@@ -50,6 +50,8 @@ struct Postazione {
     Volti volti;
     Sessione sessione;
     Documento documento{sessione};
+    std::int64_t scrittiDaAltri = 0;  ///< what others had written when the archive was looked at last
+    QString avviso = {};              ///< told beside the work, until the next command
     Recupero recupero{sessione.Cartella()};
     Schermata schermata;
     Attivita attivita = Attivita::Nessuna;

@@ -11,6 +11,7 @@
 #include "app/cartella_dati.h"
 #include "calendar/testo.h"
 #include "interaction/failure.h"
+#include "ui/comuni/finestra_unica.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/form_mete.h"
 
@@ -44,7 +45,11 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
         QCoreApplication::installTranslator(&italiano);
     }
     try {
-        FormMete form(CartellaDati(LuoghiDellaPiattaforma(cartella)), &QDateTime::currentDateTime);
+        const QString dati = CartellaDati(LuoghiDellaPiattaforma(cartella));
+        FinestraUnica unica;
+        if (unica.Consegna(dati, file)) return 0;
+        FormMete form(dati, &QDateTime::currentDateTime);
+        QObject::connect(&unica, &FinestraUnica::Richiamata, &form, &FormMete::Richiama);
         form.show();
         QTimer::singleShot(0, &form, [&] {
             form.Comincia();

@@ -101,7 +101,12 @@ void FormMete::Disponi() {
     layout->setContentsMargins(4, 4, 4, 4);
     layout->setSpacing(4);
     areaGriglia_ = CreaAreaGriglia();
+    avviso_->setObjectName(u"lblAvviso"_s);
+    avviso_->setTextFormat(Qt::PlainText);
+    avviso_->setWordWrap(true);
+    avviso_->hide();
     layout->addWidget(viaggio_);
+    layout->addWidget(avviso_);
     layout->addWidget(avanzamento_);
     layout->addWidget(areaGriglia_, 1);
     layout->addWidget(&scambio_.Riquadro(), 1);
@@ -191,6 +196,29 @@ void FormMete::Comincia() {
     battito->start(kOgniQuantoAlSicuro);
 }
 
+void FormMete::Richiama(const QString& file, const QByteArray& attivazione) {
+    if (!attivazione.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", attivazione);  // of the next activation
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    QApplication::alert(this);
+    if (!file.isEmpty()) daAprire_ = file;
+    QTimer::singleShot(0, this, &FormMete::ApriQuandoLibera);  // the other start gets its answer first
+}
+
+void FormMete::ApriQuandoLibera() {
+    if (daAprire_.isEmpty() || inCorso_ || mostrando_ || QApplication::activeModalWidget() != nullptr) return;
+    ApriFile(std::exchange(daAprire_, {}));
+}
+
+void FormMete::GuardaArchivio() {
+    if (inCorso_ || mostrando_ || congedata_ || areaGriglia_ == nullptr || QApplication::activeModalWidget() != nullptr)
+        return;
+    Raccogli();
+    if (comandi::GuardaArchivio(postazione_)) Mostra();
+}
+
 // What is typed is kept while it is typed; in the middle of a command, what it began with.
 void FormMete::MettiAlSicuro() {
     if (congedata_ || mostrando_ || !isVisible()) return;
@@ -199,6 +227,7 @@ void FormMete::MettiAlSicuro() {
         inserimento_.Raccogli();
         guida_.Raccogli();
     }
+    ApriQuandoLibera();
     try {
         if (cronovia::MettiAlSicuro(postazione_)) senzaRecupero_ = false;
     } catch (const Failure& failure) {
@@ -243,6 +272,7 @@ bool FormMete::Esegui(const std::function<void()>& comando) {
     if (mostrando_ || inCorso_ || viaggio_->RifiutaIlCampo()) return false;
     inCorso_ = true;
     postazione_.daCorreggere.reset();
+    postazione_.avviso.clear();
     avanzamento_->NuovaOperazione();
     const QPointer<QWidget> fuoco = focusWidget();
     ConcludiIlCampo();
@@ -351,6 +381,7 @@ bool FormMete::event(QEvent* event) {
     const bool trattato = QMainWindow::event(event);
     const auto tipo = event->type();
     if (tipo == QEvent::ApplicationPaletteChange || tipo == QEvent::StyleChange) RendiLeggibile();
+    if (tipo == QEvent::WindowActivate) GuardaArchivio();
     return trattato;
 }
 
@@ -446,6 +477,8 @@ void FormMete::Mostra() {
     copia_.Mostra();
     inserimento_.Mostra();
     scambio_.Mostra();
+    avviso_->setText(postazione_.avviso);
+    avviso_->setVisible(!postazione_.avviso.isEmpty());
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
     bottoni_->Mostra(postazione_.ConverteOfferto());
     stampa_->Mostra();

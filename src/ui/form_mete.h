@@ -39,6 +39,9 @@ class FormMete : public QMainWindow {
 
     /// What comes first when the window is shown: offers what an earlier one left unsaved.
     void Comincia();
+    /// The person started the program once more: comes to the front, and opens the file when one is named, after the
+    /// command that is on. `attivazione` is the desktop's word for that.
+    void Richiama(const QString& file, const QByteArray& attivazione);
     /// Opens the import of an exchange file.
     void ApriFile(const QString& file);
     /// The desktop session is about to end: asks for what would be lost, above a box that is open too. Whether it may.
@@ -62,6 +65,8 @@ class FormMete : public QMainWindow {
     void Raccogli();
     void ConcludiIlCampo();
     void MettiAlSicuro();
+    void ApriQuandoLibera();
+    void GuardaArchivio();
     /// Runs a command on what the fields hold, then shows the state anew; false when it cannot begin now.
     bool Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);
@@ -96,6 +101,8 @@ class FormMete : public QMainWindow {
     SchermoScambio scambio_;
     QWidget* areaGriglia_ = nullptr;
     FrmSelStampa* stampante_ = nullptr;
+    QLabel* avviso_ = new QLabel;
+    QString daAprire_;  // a file that was handed over in the middle of a command
     ComandoStampa* stampa_ = nullptr;
     ComandoStampaGuida* stampaGuida_ = nullptr;
     PannelloGiornate* giornate_ = nullptr;

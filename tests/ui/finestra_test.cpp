@@ -2,10 +2,12 @@
 // starts.
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLocalSocket>
 #include <QProcess>
 #include <set>
 
 #include "cli/programma.h"
+#include "ui/comuni/finestra_unica.h"
 #include "ui/finestra.h"
 
 namespace cronovia {
@@ -122,6 +124,36 @@ TEST_F(ControlliTest, ALongFitIsStoppedHalfWay) {
     const QAbstractItemModel& modello = *Trova<QTableView>(u"mfgTab"_s).model();
     EXPECT_EQ(modello.headerData(7, Qt::Horizontal).toString(), u"Itinerario"_s);
     EXPECT_TRUE(Trova<QPushButton>(u"cmdNuovo"_s).isEnabled());
+}
+
+TEST_F(ControlliTest, ASecondStartHandsOverToTheWindowThatIsOpen) {
+    Importa(QStringLiteral(CRONOVIA_EXAMPLES "/sicilia.iei"));
+    const auto avvia = [this](QProcess& processo, const QStringList& altro) {
+        processo.start(QStringLiteral(CRONOVIA_PROGRAM),
+                       QStringList{u"--cartella"_s, cartella_.Path() + u"/."_s} + altro);
+    };
+    // One that was killed leaves its name behind.
+    QProcess uccisa;
+    avvia(uccisa, {});
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] {
+            QLocalSocket presa;
+            presa.connectToServer(NomeDellaFinestra(cartella_.Path()));
+            return presa.waitForConnected(100);
+        },
+        20'000));
+    uccisa.kill();
+    uccisa.waitForFinished();
+    FinestraUnica unica;
+    ASSERT_FALSE(unica.Consegna(cartella_.Path(), {}));
+    Apri();
+    QObject::connect(&unica, &FinestraUnica::Richiamata, form_.get(), &FormMete::Richiama);
+    form_->showMinimized();
+    QProcess seconda;
+    avvia(seconda, {QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return seconda.state() == QProcess::NotRunning; }, 20'000));
+    EXPECT_EQ(seconda.exitCode(), 0) << seconda.readAllStandardError().toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Trova(u"frmExport"_s).isVisible() && !form_->isMinimized(); }, 5000));
 }
 
 TEST_F(ControlliTest, AProcessEndsWithAMessageWhenTheArchiveCannotBeOpened) {

@@ -6,6 +6,7 @@
 //   signal-end                        the system ends the program, and the window has to close
 //   session-end yes|no|unasked        the desktop session ends: whether it may; without that the person can be asked
 //   meanwhile-session-end yes|no      that happens while the box is open that was announced before
+//   come-back                         the window gets the focus from another program's
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
 //   exchange FILE TRIPS STAGES        an exchange file, its values between "|"
@@ -399,6 +400,12 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
               cartella_.Crea();
               prova::ScriviFile(p[0], prova::Sezione('\xFF', p[1].toLatin1() + '\n') +
                                           prova::Sezione('\xFE', p[2].toLatin1() + '\n'));
+          }}},
+        {u"come-back"_s,
+         {0,
+          [this](auto&) {
+              QEvent torna(QEvent::WindowActivate);
+              QApplication::sendEvent(form_.get(), &torna);
           }}},
         {u"run"_s, {1, [this](auto& p) { Esegui(p); }}},
         {u"write"_s,

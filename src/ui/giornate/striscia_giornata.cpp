@@ -46,7 +46,7 @@ QColor Leggibile(const QColor& fondo) {
     return Contrasto(fondo, Qt::black) > Contrasto(fondo, Qt::white) ? Qt::black : Qt::white;
 }
 
-QRectF Barra(const QRect& area, const PezzoDelGiorno& pezzo) {
+QRectF AreaDelPezzo(const QRect& area, const PezzoDelGiorno& pezzo) {
     const double da = AscissaDellOra(area, pezzo.da);
     return {da, area.top() + 0.5, std::max(AscissaDellOra(area, pezzo.a) - da, 1.0), area.height() - 1.0};
 }
@@ -87,7 +87,7 @@ const PezzoDelGiorno* PezzoIn(const QRect& area, const StrisciaDelGiorno& strisc
     if (!area.contains(punto)) return nullptr;
     // The last of those that share a point is the one on top.
     const auto pezzo = std::find_if(striscia.rbegin(), striscia.rend(), [&](const PezzoDelGiorno& p) {
-        const QRectF barra = Barra(area, p);
+        const QRectF barra = AreaDelPezzo(area, p);
         return barra.left() <= punto.x() && punto.x() <= barra.right();
     });
     return pezzo == striscia.rend() ? nullptr : &*pezzo;
@@ -108,7 +108,7 @@ void DipingiStriscia(QPainter& painter, const QRect& area, const StrisciaDelGior
     painter.save();
     DipingiOre(painter, area, aspetto);
     for (const PezzoDelGiorno& pezzo : striscia) {
-        const QRectF barra = Barra(area, pezzo);
+        const QRectF barra = AreaDelPezzo(area, pezzo);
         DipingiBarra(painter, barra, pezzo.genere, aspetto.colori);
         ScriviNome(painter, barra, pezzo, Fondo(pezzo.genere, aspetto.colori));
     }
@@ -116,7 +116,7 @@ void DipingiStriscia(QPainter& painter, const QRect& area, const StrisciaDelGior
     painter.setPen(QPen(aspetto.colori.color(QPalette::Text), 2.5));
     for (const PezzoDelGiorno& pezzo : striscia) {
         const bool segnata = pezzo.riga != PezzoDelGiorno::kSenzaRiga && pezzo.riga == aspetto.rigaSegnata;
-        if (segnata) painter.drawRect(Barra(area, pezzo).adjusted(0, 0.5, 0, -0.5));
+        if (segnata) painter.drawRect(AreaDelPezzo(area, pezzo).adjusted(0, 0.5, 0, -0.5));
     }
     painter.restore();
 }
