@@ -47,15 +47,21 @@ void Documento::MettiTappe(RigheItinerario righe) {
 
 void Documento::Apri(const QString& codice) {
     MetaAperta scelta = sessione_.ApriMeta(codice);  // refused here when another window deleted it
+    RicordaCorrente(codice);
+    Metti(std::move(scelta));
+    codice_ = codice;
+}
+
+// A damaged archive can be read, so trips can be opened.
+void Documento::RicordaCorrente(const QString& codice) {
     Archive& archivio = sessione_.Archivio();
+    if (!archivio.Damage().isEmpty()) return;
     Transaction transaction(archivio);
     const Archive::Mark prima = archivio.PresentMark();
     SalvaIlCodiceMetaCorrente(archivio, codice);
     const Archive::Mark adesso = archivio.PresentMark();
     transaction.Commit();
     storia_.SegueArchivio(prima, adesso);
-    Metti(std::move(scelta));
-    codice_ = codice;
 }
 
 void Documento::Ricarica(const QDateTime& adesso) {
@@ -312,6 +318,7 @@ EsitoMemorizzazione Documento::Sovrascrivi(const MetaCambiata& vista, Progress& 
 }
 
 void Documento::CancellaTappe(Progress& progress) {
+    sessione_.Archivio().KeepCopy(u"prima di cancellare"_s);
     Transaction transaction(sessione_.Archivio());
     RifiutaSeDiversa(letta_);
     MemorizzaTappeItinerario(sessione_.Archivio(), codice_, {}, orario_, progress);
@@ -319,6 +326,7 @@ void Documento::CancellaTappe(Progress& progress) {
 }
 
 MetaCancellata Documento::Cancella(Progress& progress) {
+    sessione_.Archivio().KeepCopy(u"prima di cancellare"_s);
     Transaction transaction(sessione_.Archivio());
     RifiutaSeDiversa(letta_);
     MetaCancellata cancellata = CancellaMeta(sessione_.Archivio(), codice_, progress);

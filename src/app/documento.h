@@ -122,6 +122,7 @@ class Documento {
         RigheItinerario righe;
         int rigaCorrente = 1;
     };
+    void RicordaCorrente(const QString& codice);
     void RifiutaSeDiversa(const std::optional<MetaMemorizzata>& attesa);
     void Metti(MetaAperta aperta);
     void Metti(const Meta& campi, RigheItinerario righe);

@@ -8,8 +8,10 @@
 
 namespace cronovia {
 
-Postazione::Postazione(const QString& cartella, Volti facce) : volti(std::move(facce)), sessione(cartella) {
+Postazione::Postazione(const QString& cartella, Volti facce)
+    : volti(std::move(facce)), sessione(cartella, {volti.adesso, [this](const QString& frase) { avvisi += frase; }}) {
     scrittiDaAltri = sessione.Archivio().PresentMark().others;
+    avviso = sessione.Archivio().Damage();
     VaiAlViaggio();
     Su<schermata::Viaggio>()->converteOfferto = CiSonoVecchiFile(cartella);
 }
@@ -44,6 +46,7 @@ StatoComandi Postazione::Comandi() const {
 bool Postazione::Prova(const std::function<void()>& azione, const QString& mancato) {
     try {
         azione();
+        while (!avvisi.isEmpty()) Mostra(avvisi.takeFirst());
         return true;
     } catch (const Failure& failure) {
         const QString inizio = mancato.isEmpty() ? QString() : mancato + QStringLiteral("\n\n");

@@ -48,6 +48,7 @@ struct Postazione {
     Postazione& operator=(const Postazione&) = delete;
 
     Volti volti;
+    QStringList avvisi = {};  ///< what is to be told after a command, besides its own words
     Sessione sessione;
     Documento documento{sessione};
     std::int64_t scrittiDaAltri = 0;  ///< what others had written when the archive was looked at last

@@ -1,6 +1,7 @@
 #include "app/sessione.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "calendar/durata.h"
 #include "calendar/testo.h"
@@ -26,9 +27,15 @@ Meta ConInizio(const QDateTime& inizio, const ParametriViaggio& parametri) {
 
 }  // namespace
 
-Sessione::Sessione(const QString& cartella) : cartella_(cartella), archive_(Archive::Open(cartella)) {
+Sessione::Sessione(const QString& cartella, Custode custode) : cartella_(cartella), archive_(Archive::Open(cartella)) {
+    archive_.KeepDailyCopies(std::move(custode.adesso), std::move(custode.avvisa));
+    if (!archive_.Damage().isEmpty()) return;
     CompletaTipiGuida(archive_);
     CompletaDefaultMeta(archive_);
+}
+
+void Sessione::RifiutaSeDanneggiato() const {
+    if (!archive_.Damage().isEmpty()) throw Failure(archive_.Damage());
 }
 
 MetaAperta Sessione::ApriMeta(const QString& codice) {

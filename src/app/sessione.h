@@ -3,6 +3,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -37,12 +38,21 @@ struct MetaCalcolata {
     EsitoCalcolo esito;
 };
 
+/// What keeping copies needs: a clock, and who is told, in a sentence, that the copy of a day could not be kept.
+struct Custode {
+    std::function<QDateTime()> adesso = &QDateTime::currentDateTime;
+    std::function<void(const QString&)> avvisa = [](const QString&) {};
+};
+
 /// Holds no trip: who asks for one keeps it.
 class Sessione {
   public:
     /// Opens the archive of a data folder; a new one gets the guide types and the standard parameters. A `Failure` when
-    /// it cannot be opened.
-    explicit Sessione(const QString& cartella);
+    /// it cannot be opened; a damaged one can be read.
+    explicit Sessione(const QString& cartella, Custode custode = {});
+
+    /// A `Failure` when the archive is damaged: for those who write down what they read.
+    void RifiutaSeDanneggiato() const;
 
     Archive& Archivio() { return archive_; }
     [[nodiscard]] const Archive& Archivio() const { return archive_; }

@@ -1,7 +1,9 @@
 #include "cli/riga_comando.h"
 
 #include <QCommandLineParser>
+#include <QScopeGuard>
 #include <algorithm>
+#include <utility>
 
 #include "app/cartella_dati.h"
 #include "calendar/testo.h"
@@ -155,7 +157,24 @@ Comando Leggi(const QStringList& riga) {
     return LeggiVerbo(*verbo, cartella, resto);
 }
 
-void Esegui(const Comando& comando, QTextStream& uscita) {
+// What a verb leaves to be told besides its answer.
+struct Avvisi {
+    QStringList frasi;
+    QString danno;  // of the archive; the answer may be incomplete then
+};
+
+void EseguiVerbo(const Comando& comando, QTextStream& uscita, Avvisi& avvisi) {
+    const auto apri = [&] {
+        Custode custode;
+        custode.avvisa = [&](const QString& frase) { avvisi.frasi += frase; };
+        Sessione sessione(comando.richiesta.cartella, std::move(custode));
+        avvisi.danno = sessione.Archivio().Damage();
+        return sessione;
+    };
+    comando.verbo->esegui(apri, comando.richiesta, uscita);
+}
+
+void Esegui(const Comando& comando, QTextStream& uscita, Avvisi& avvisi) {
     switch (comando.genere) {
         case Comando::Genere::Versione:
             uscita << u"cronovia %1\n"_s.arg(QLatin1StringView(CRONOVIA_VERSION));
@@ -167,19 +186,20 @@ void Esegui(const Comando& comando, QTextStream& uscita) {
             ScriviAiutoDelVerbo(*comando.verbo, uscita);
             break;
         case Comando::Genere::Verbo:
-            comando.verbo->esegui([&] { return Sessione(CartellaDati(LuoghiDellaPiattaforma(comando.cartella))); },
-                                  comando.richiesta, uscita);
+            EseguiVerbo(comando, uscita, avvisi);
             break;
     }
 }
 
 // Whatever names hold, a terminal obeys nothing of it.
-void EseguiSulTerminale(const Comando& comando, QTextStream& uscita) {
+void EseguiSulTerminale(const Comando& comando, QTextStream& uscita, Avvisi& avvisi) {
     QString testo;
     QTextStream raccolta(&testo);
-    Esegui(comando, raccolta);
-    raccolta.flush();
-    uscita << VisibileARighe(testo);
+    const auto consegna = qScopeGuard([&] {  // what was said before a refusal too
+        raccolta.flush();
+        uscita << VisibileARighe(testo);
+    });
+    Esegui(comando, raccolta, avvisi);
 }
 
 }  // namespace
@@ -208,22 +228,27 @@ bool VuoleCaratteri(const QStringList& riga) {
 }
 
 int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, QTextStream& uscita, QTextStream& errori) {
+    Avvisi avvisi;
     try {
         Comando comando = Leggi(riga);
         comando.richiesta.stampe = stampe;
+        comando.richiesta.cartella = CartellaDati(LuoghiDellaPiattaforma(comando.cartella));
         if (comando.richiesta.formato == Formato::Testo) {
-            EseguiSulTerminale(comando, uscita);
+            EseguiSulTerminale(comando, uscita, avvisi);
         } else {
-            Esegui(comando, uscita);
+            Esegui(comando, uscita, avvisi);
         }
         uscita.flush();
         if (uscita.status() != QTextStream::Ok) throw Failure(u"Il risultato non si può scrivere."_s);
+        for (const QString& frase : avvisi.frasi) errori << Visibile(frase) << '\n';
+        if (!avvisi.danno.isEmpty()) throw Failure(avvisi.danno);
         return kFatto;
     } catch (const WrongUsage& errore) {
         errori << Visibile(errore.Message()) << u" L'aiuto: cronovia --help\n"_s;
         return kUsoErrato;
     } catch (const Failure& errore) {
         errori << Visibile(errore.Message()) << '\n';
+        if (!avvisi.danno.isEmpty() && avvisi.danno != errore.Message()) errori << Visibile(avvisi.danno) << '\n';
         return kRifiutato;
     }
 }

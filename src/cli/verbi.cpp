@@ -89,6 +89,29 @@ std::vector<Verbo> VerbiDellArchivio() {
     };
 }
 
+std::vector<Verbo> VerbiDelleCopie() {
+    return {
+        {u"verifica"_s, {}, u"Guarda se l'archivio è in ordine."_s, {}, 0, 0, true, &EseguiVerifica},
+        {u"copie"_s,
+         {},
+         u"Elenca le copie dell'archivio che Cronovia tiene nella cartella Copie."_s,
+         {},
+         0,
+         0,
+         true,
+         &EseguiCopie},
+        {u"ripristina"_s,
+         u"COPIA"_s,
+         u"Rimette al suo posto una copia, per numero o nome come li elenca «copie», o un file; l'archivio di adesso "
+         "diventa una copia."_s,
+         {{u"prova"_s, {}, u"Dice soltanto che cosa cambierebbe."_s}},
+         1,
+         1,
+         false,
+         &EseguiRipristina},
+    };
+}
+
 std::vector<Verbo> VerbiDelViaggio() {
     return {
         {u"itinerario"_s,
@@ -143,6 +166,7 @@ const std::vector<Verbo>& Verbi() {
     static const std::vector<Verbo> verbi = [] {
         std::vector<Verbo> tutti = VerbiDellArchivio();
         for (Verbo& verbo : VerbiDelViaggio()) tutti.push_back(std::move(verbo));
+        for (Verbo& verbo : VerbiDelleCopie()) tutti.push_back(std::move(verbo));
         return tutti;
     }();
     return verbi;

@@ -55,6 +55,7 @@ struct Richiesta {
     QMap<QString, QString> opzioni;  ///< the options given; a switch with an empty value
     Formato formato = Formato::Testo;
     Stampe stampe;
+    QString cartella;  ///< the data folder, for who does not open the archive as the others do
 
     /// The whole number of an option within its limits; nothing when it was not given, `WrongUsage` when it is none.
     [[nodiscard]] std::optional<int> Intero(const QString& nome, int minimo, int massimo) const;
@@ -88,5 +89,8 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiVerifica(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiCopie(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiRipristina(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 
 }  // namespace cronovia

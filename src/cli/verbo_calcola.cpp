@@ -99,11 +99,12 @@ void ScriviJson(const EsitoCalcolo& esito, QTextStream& uscita) {
 
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
+    const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     Sessione sessione = apri();
+    if (tabella) sessione.RifiutaSeDanneggiato();
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
-    const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());
     if (richiesta.formato == Formato::Testo) {
         ScriviTesto(aperta.meta, esito, uscita);

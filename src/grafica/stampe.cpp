@@ -25,6 +25,7 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     const QString path = richiesta.opzioni.value(u"pdf"_s);
     Sessione sessione = apri();
+    sessione.RifiutaSeDanneggiato();
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
@@ -46,6 +47,7 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 
 void ScriviFile(const Stampato& documento, const QString& path, const Richiesta& richiesta, Sessione& sessione,
                 QTextStream& uscita) {
+    sessione.RifiutaSeDanneggiato();
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
     Progress progress;

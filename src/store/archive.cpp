@@ -312,7 +312,7 @@ std::int64_t Archive::LastId(Table table) {
     return connection_->Number("SELECT COALESCE(MAX(rowid), 0) FROM " + Name(Definition(table).name));
 }
 
-Archive::Mark Archive::PresentMark() { return {connection_->Number("PRAGMA data_version"), OwnChanges()}; }
+Archive::Mark Archive::PresentMark() { return connection_->PresentMark(); }
 
 std::int64_t Archive::OwnChanges() const { return connection_->Database().getTotalChanges(); }
 

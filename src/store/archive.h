@@ -1,6 +1,7 @@
 // The archive: one database file with all trips, itineraries and the city guide.
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QStringView>
 #include <cstdint>
@@ -53,8 +54,11 @@ class Archive {
   public:
     /// Opens the archive of a data folder, which is made when it does not exist, as is the file. Missing tables, fields
     /// and indexes are added and changed widths followed, after a copy of the file was laid beside it; a file that
-    /// cannot be used is refused and left as it was.
+    /// cannot be used is refused and left as it was. As much of it is checked as takes no time worth mentioning.
     static Archive Open(const QString& folder);
+
+    /// Opens a copy to be read only. A `Failure` when it cannot be, or when its tables are those of an older release.
+    static Archive OpenCopy(const QString& path);
 
     /// Path of the database file in a data folder.
     static QString FilePath(const QString& folder);
@@ -65,6 +69,21 @@ class Archive {
 
     /// Path of this one's file.
     [[nodiscard]] const QString& Path() const;
+
+    /// A sentence about its damage; empty as far as is known. While it is damaged nothing can be written, and what is
+    /// read may be incomplete.
+    [[nodiscard]] const QString& Damage() const;
+    /// Checks its pages and indexes, unless that was done since it was written to; a `Failure` when it is damaged. For
+    /// those who hand on much of what they read.
+    void ConfirmSound();
+
+    /// From now on a copy is kept before the first write of each day, by that clock. A write does not fail for want of
+    /// a copy: `tell` gets a sentence then.
+    void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell);
+    /// Keeps a copy before something that takes or changes much: `reason` is "prima di importare" or the like. A
+    /// `Failure` when that cannot be done. Nothing happens when no daily copies are kept either, when there is nothing
+    /// worth it, or when nothing was written since the last one.
+    void KeepCopy(const QString& reason);
 
     /// The rows in the alphabetical order of the fields in `order`, the first one leading; rows alike in them, and all
     /// rows without such fields, in the order in which they were added.
@@ -84,8 +103,8 @@ class Archive {
     void ForEachMatch(Table table, int field, std::span<const NamePattern> patterns,
                       const std::function<void(std::size_t, Record&&)>& visit);
 
-    /// Lays a copy of the file under a path where there is none: as it was written last, also within a transaction that
-    /// has written nothing yet.
+    /// Lays a checked copy of the file under a path where there is none: as it was written last, also within a
+    /// transaction that has written nothing yet.
     void CopyTo(const QString& path) const;
 
     /// How many rows a table has.
@@ -138,6 +157,7 @@ class Archive {
     std::unique_ptr<Connection> connection_;
     std::int64_t rowsRead_ = 0;
     std::vector<QString> retired_;
+    std::optional<Mark> confirmed_;  // the moment at which all was seen to be in order
 };
 
 /// All that is read while it lives is from one moment of the archive, whatever other programs write. They wait until

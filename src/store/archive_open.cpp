@@ -1,16 +1,41 @@
-// Opening the archive of a data folder.
+// Opening the archive of a data folder, and looking whether it can be relied on.
 #include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <memory>
 
 #include "store/archive.h"
+#include "store/archive_check.h"
 #include "store/connection.h"
+#include "store/copies.h"
+#include "store/foreign_file.h"
 #include "store/schema_check.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A new archive gets its name when it is complete. Whoever made one meanwhile was first.
+void CreateFile(const QString& path) {
+    const QString unfinished = u"%1-%2.parziale"_s.arg(path, QString::number(QCoreApplication::applicationPid()));
+    QFile::remove(unfinished);
+    try {
+        SQLite::Database database(unfinished.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        UpdateTables(database, unfinished);
+    } catch (...) {
+        QFile::remove(unfinished);
+        throw;
+    }
+    if (!QFile::rename(unfinished, path)) QFile::remove(unfinished);
+}
+
+}  // namespace
 
 QString Archive::FilePath(const QString& folder) { return QDir(folder).filePath(u"VandroCronovia.mdb"_s); }
 
@@ -22,20 +47,62 @@ Archive Archive::Open(const QString& folder) {
     if (!QDir().mkpath(folder)) throw Failure(opening + u": la cartella non si può creare."_s);
     RefuseForeignFile(path);
     try {
+        if (!QFileInfo::exists(path)) CreateFile(path);
         auto connection = std::make_unique<Connection>(path);
-        UpdateTables(connection->Database(), path);
-        return Archive(std::move(connection));
+        SQLite::Database& database = connection->Database();
+        RefuseForeignDatabase(database, path);
+        const CheckDepth depth = DepthAtOpening(database);
+        if (AnyDamage(CheckDatabase(database, depth))) {
+            connection->MarkDamaged();
+            return Archive(std::move(connection));
+        }
+        UpdateTables(database, path);
+        Archive archive(std::move(connection));
+        if (depth >= CheckDepth::Indexes) archive.confirmed_ = archive.PresentMark();
+        return archive;
     } catch (const SQLite::Exception& error) {
-        throw Failure(opening + u": "_s + DatabaseReason(error) + u"."_s);
+        const bool damaged = (error.getErrorCode() & 0xFF) == SQLITE_CORRUPT;
+        throw Failure(opening + u": "_s + DatabaseReason(error) + u"."_s +
+                      (damaged ? u" Una copia la rimette al suo posto «cronovia ripristina»."_s : QString()));
     }
+}
+
+Archive Archive::OpenCopy(const QString& path) {
+    return Guarded(path, [&] {
+        auto connection = std::make_unique<Connection>(path);
+        connection->Database().exec("PRAGMA query_only = ON");
+        if (!UpToDate(connection->Database())) {
+            throw Failure(u"La copia %1 è di una versione precedente."_s.arg(QDir::toNativeSeparators(path)));
+        }
+        return Archive(std::move(connection));
+    });
+}
+
+const QString& Archive::Damage() const { return connection_->Damage(); }
+
+void Archive::ConfirmSound() {
+    if (!Damage().isEmpty()) throw Failure(Damage());
+    const Mark present = PresentMark();
+    if (confirmed_ == present) return;
+    Guarded(connection_->Path(), [&] {
+        if (AnyDamage(CheckDatabase(connection_->Database(), CheckDepth::Indexes))) connection_->MarkDamaged();
+    });
+    if (!Damage().isEmpty()) throw Failure(Damage());
+    confirmed_ = present;
 }
 
 // Through a connection of its own: that of a transaction cannot be copied from.
 void Archive::CopyTo(const QString& path) const {
     Guarded(connection_->Path(), [&] {
-        SQLite::Database source(connection_->Path().toStdString(), SQLite::OPEN_READONLY);
-        CopyDatabase(source, path);
+        SQLite::Database source(connection_->Path().toStdString(), SQLite::OPEN_READONLY, kBusyTimeoutMs);
+        LayCopy(source, [&](int number) { return number == 1 ? path : u"%1 %2"_s.arg(path).arg(number); });
     });
 }
+
+void Archive::KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell) {
+    connection_->KeepDailyCopies(std::move(now), std::move(tell));
+}
+
+void Archive::KeepCopy(const QString& reason) { connection_->KeepCopy(reason); }
 
 }  // namespace cronovia

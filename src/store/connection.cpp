@@ -6,14 +6,13 @@
 #include <QDir>
 #include <QScopeGuard>
 #include <stdexcept>
+#include <utility>
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kBusyTimeoutMs = 3000;
 
 QString KnownReason(int code) {
     switch (code & 0xFF) {
@@ -41,6 +40,17 @@ QString KnownReason(int code) {
 
 }  // namespace
 
+void Distrust(SQLite::Database& database) {
+    sqlite3* handle = database.getHandle();
+    for (const auto& [option, value] : {std::pair{SQLITE_DBCONFIG_DEFENSIVE, 1},
+                                        {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                                        {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                        {SQLITE_DBCONFIG_ENABLE_VIEW, 0}}) {
+        sqlite3_db_config(handle, option, value, nullptr);
+    }
+    database.exec("PRAGMA cell_size_check = ON");
+}
+
 QString DatabaseReason(const SQLite::Exception& error) {
     const QString reason = KnownReason(error.getErrorCode());
     return reason.isEmpty() ? u"errore del database («%1»)"_s.arg(QString::fromUtf8(error.what())) : reason;
@@ -52,9 +62,8 @@ Failure DatabaseFailure(const SQLite::Exception& error, const QString& path) {
 
 // A connection belongs to one thread: nothing need be locked for each value that is read.
 Archive::Connection::Connection(const QString& path)
-    : path_(path),
-      database_(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
-                kBusyTimeoutMs) {
+    : path_(path), database_(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, kBusyTimeoutMs) {
+    Distrust(database_);
     database_.exec("PRAGMA cache_size = -32000");
 }
 
@@ -68,10 +77,21 @@ SQLite::Statement& Archive::Connection::Prepared(const std::string& sql) {
 
 SQLite::Statement& Archive::Connection::ForWriting(const std::string& sql) {
     if (reading_) throw std::logic_error("written within a read snapshot: " + sql);
+    if (!InTransaction()) KeepCopyOfToday();
+    if (!damage_.isEmpty()) throw Failure(damage_);
     return Prepared(sql);
 }
 
 bool Archive::Connection::InTransaction() const { return sqlite3_get_autocommit(database_.getHandle()) == 0; }
+
+void Archive::Connection::MarkDamaged() {
+    damage_ =
+        u"L'archivio %1 è danneggiato: quello che si legge può essere incompleto, e finché è così non si scrive "
+        u"niente. "
+        "Che cos'ha lo dice «cronovia verifica»; «cronovia ripristina» rimette al suo posto una copia."_s.arg(
+            QDir::toNativeSeparators(path_));
+    database_.tryExec("PRAGMA query_only = ON");
+}
 
 void Archive::Connection::BeginReading() {
     Prepared("BEGIN").exec();

@@ -4,8 +4,11 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 
+#include <QDateTime>
 #include <QString>
 #include <QStringView>
+#include <functional>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -13,6 +16,12 @@
 #include "store/archive.h"
 
 namespace cronovia {
+
+/// How long another program that writes is waited for.
+inline constexpr int kBusyTimeoutMs = 3000;
+
+/// Has a connection run nothing that the file brings with it, and look twice at its pages.
+void Distrust(SQLite::Database& database);
 
 /// What went wrong, as the end of an Italian sentence.
 QString DatabaseReason(const SQLite::Exception& error);
@@ -56,11 +65,23 @@ class Archive::Connection {
     /// A statement ready to be bound; it stays prepared for the next time.
     SQLite::Statement& Prepared(const std::string& sql);
 
-    /// The same for a statement that changes the archive; a `std::logic_error` while one moment of it is being read.
+    /// The same for a statement that changes the archive; a `std::logic_error` while one moment of it is being read, a
+    /// `Failure` when it is damaged. Outside a transaction the copy of the day comes first.
     SQLite::Statement& ForWriting(const std::string& sql);
 
     /// Whether a transaction or a read snapshot is open.
     [[nodiscard]] bool InTransaction() const;
+
+    /// What the archive suffers from, for the person; empty as far as is known.
+    [[nodiscard]] const QString& Damage() const { return damage_; }
+    /// It is damaged: nothing can be written any more.
+    void MarkDamaged();
+
+    // See `Archive`.
+    Mark PresentMark();
+    void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell);
+    void KeepCopy(const QString& reason);
+
     /// The two ends of a read snapshot, the outermost one.
     void BeginReading();
     void EndReading();
@@ -69,10 +90,23 @@ class Archive::Connection {
     std::int64_t Number(const std::string& sql);
 
   private:
+    void KeepCopyOfToday();
+    void LayCopyNow(const QString& reason);
+
+    /// Who keeps copies, and what was kept.
+    struct Keeping {
+        std::function<QDateTime()> now;
+        std::function<void(const QString&)> tell;
+        QDate day;                 // for which there is a copy, or was none to be had
+        std::optional<Mark> mark;  // of the archive at the last copy
+    };
+
     QString path_;
     SQLite::Database database_;
     std::unordered_map<std::string, SQLite::Statement> statements_;
     bool reading_ = false;
+    QString damage_;
+    std::optional<Keeping> keeping_;
 };
 
 }  // namespace cronovia

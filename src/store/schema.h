@@ -142,6 +142,10 @@ struct TableDefinition {
     QString people;                       ///< what messages call its contents, with its article: "delle mète"
 };
 
+/// What marks a database file as an archive, and the number of its tables' form.
+inline constexpr int kApplicationId = 0x56437276;  // "VCrv"
+inline constexpr int kSchemaVersion = 1;
+
 /// What a table is declared as.
 const TableDefinition& Definition(Table table);
 

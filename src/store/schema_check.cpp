@@ -1,14 +1,10 @@
 #include "store/schema_check.h"
 
-#include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
-#include <sqlite3.h>
 
-#include <QByteArray>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 #include <algorithm>
@@ -16,24 +12,15 @@
 #include <vector>
 
 #include "interaction/failure.h"
+#include "store/copies.h"
+#include "store/foreign_file.h"
 #include "store/schema.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-// Another program may hold the file.
-void CopyDatabase(SQLite::Database& database, const QString& path) {
-    SQLite::Database target(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    SQLite::Backup backup(target, database);
-    const int result = backup.executeStep();
-    if (result != SQLITE_DONE) throw SQLite::Exception("backup", result);
-}
-
 namespace {
-
-constexpr int kApplicationId = 0x56437276;  // "VCrv"
-constexpr int kSchemaVersion = 1;
 
 struct Column {
     QString name;
@@ -52,8 +39,6 @@ std::string ColumnSql(const Column& column) {
     if (column.ours) sql += column.type.startsWith("TEXT"_L1) ? " COLLATE NOCASE NOT NULL DEFAULT ''" : " DEFAULT 0";
     return sql;
 }
-
-int IntegerOf(SQLite::Database& database, const char* sql) { return database.execAndGet(sql).getInt(); }
 
 std::vector<Column> ColumnsOf(SQLite::Database& database, const QString& table) {
     std::vector<Column> columns;
@@ -181,31 +166,22 @@ void MendIndexes(SQLite::Database& database, const TableDefinition& table) {
 // Lays a copy beside the file, under the first free number.
 void KeepCopy(SQLite::Database& database, const QString& path) {
     const QFileInfo file(path);
-    QString copy;
-    for (int number = 1; copy.isEmpty() || QFile::exists(copy); ++number) {
-        copy = file.dir().filePath(
+    LayCopy(database, [&](int number) {
+        return file.dir().filePath(
             u"%1-copia%2.%3"_s.arg(file.completeBaseName(), QString::number(number), file.suffix()));
-    }
-    const QString unfinished = copy + u".parziale"_s;
-    QFile::remove(unfinished);
-    try {
-        CopyDatabase(database, unfinished);
-    } catch (const SQLite::Exception&) {
-        QFile::remove(unfinished);
-        throw;
-    }
-    if (!QFile::rename(unfinished, copy)) {
-        QFile::remove(unfinished);
-        throw Failure(u"Errore apertura database %1: la sua copia %2 non si può scrivere."_s.arg(
-            QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
+    });
+}
+
+void CheckEveryTable(SQLite::Database& database, const QString& path) {
+    for (const Table each : TablesOf(database)) {
+        const TableDefinition& table = Definition(each);
+        const TableState state = StateOf(database, table);
+        if (state.rebuild) RefuseValuesThatDoNotFit(database, table, state.columns, path);
     }
 }
 
-bool AnyTable(SQLite::Database& database) {
-    return IntegerOf(database, "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table'") > 0;
-}
+}  // namespace
 
-// Those of every archive, and those on demand that this one has.
 std::vector<Table> TablesOf(SQLite::Database& database) {
     std::vector<Table> tables = AllTables();
     std::copy_if(TablesOnDemand().begin(), TablesOnDemand().end(), std::back_inserter(tables),
@@ -219,54 +195,6 @@ bool UpToDate(SQLite::Database& database) {
                        [&](Table table) { return StateOf(database, Definition(table)).complete; });
 }
 
-void CheckEveryTable(SQLite::Database& database, const QString& path) {
-    for (const Table each : TablesOf(database)) {
-        const TableDefinition& table = Definition(each);
-        const TableState state = StateOf(database, table);
-        if (state.rebuild) RefuseValuesThatDoNotFit(database, table, state.columns, path);
-    }
-}
-
-void RefuseForeignDatabase(SQLite::Database& database, const QString& path) {
-    if (IntegerOf(database, "PRAGMA user_version") > kSchemaVersion) {
-        throw Failure(u"Errore apertura database %1: l'archivio è di una versione più recente di Cronovia."_s.arg(
-            QDir::toNativeSeparators(path)));
-    }
-    const std::vector<Table>& tables = AllTables();
-    const bool ours = IntegerOf(database, "PRAGMA application_id") == kApplicationId || !AnyTable(database) ||
-                      std::any_of(tables.begin(), tables.end(),
-                                  [&](Table t) { return !ColumnsOf(database, Definition(t).name).empty(); });
-    if (!ours) {
-        throw Failure(u"Errore apertura database %1: il file è un archivio di un altro programma."_s.arg(
-            QDir::toNativeSeparators(path)));
-    }
-}
-
-}  // namespace
-
-void RefuseForeignFile(const QString& path) {
-    const QFileInfo info(path);
-    const QString opening = u"Errore apertura database "_s + QDir::toNativeSeparators(path) + u": "_s;
-    if (info.isDir()) throw Failure(opening + u"al suo posto c'è una cartella."_s);
-    for (const char* tail : {"", "-journal", "-wal", "-shm"}) {
-        const QFileInfo part(path + QLatin1StringView(tail));
-        if (!part.exists() || part.isFile()) continue;
-        throw Failure(opening + u"%1 non è un file."_s.arg(QDir::toNativeSeparators(part.filePath())));
-    }
-    if (!info.exists()) return;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throw Failure(opening + u"manca il permesso di leggere il file."_s);
-    const QByteArray start = file.read(20);
-    if (start.startsWith(QByteArray("\x00\x01\x00\x00Standard Jet DB", 19))) {
-        throw Failure(opening +
-                      u"è un archivio Jet dell'edizione precedente, che Cronovia non può usare; il file è "
-                      "rimasto com'era."_s);
-    }
-    if (!start.isEmpty() && !start.startsWith(QByteArray("SQLite format 3\0", 16))) {
-        throw Failure(opening + u"il file non è un archivio di Cronovia; è rimasto com'era."_s);
-    }
-}
-
 bool HasTable(SQLite::Database& database, Table table) {
     return database.tableExists(Definition(table).name.toStdString());
 }
@@ -278,10 +206,9 @@ void MakeTable(SQLite::Database& database, Table table) {
 }
 
 void UpdateTables(SQLite::Database& database, const QString& path) {
-    RefuseForeignDatabase(database, path);
     if (UpToDate(database)) return;
     CheckEveryTable(database, path);
-    if (AnyTable(database)) KeepCopy(database, path);
+    if (HasTables(database)) KeepCopy(database, path);
     database.exec("BEGIN IMMEDIATE");
     try {
         for (const Table each : TablesOf(database)) {

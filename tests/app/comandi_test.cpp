@@ -178,9 +178,8 @@ TEST_F(ComandiTest, WhatCannotBeSavedStaysOnScreen) {
     EXPECT_EQ(postazione_->documento.Riepilogo().tappe.size(), 3U);
     EXPECT_EQ(postazione_->DaAnnullare(), u"inserimento di C"_s);
     // A disk that is full in the midst of it.
-    const SQLite::Database altro = AltroProgramma(
-        "CREATE TRIGGER pieno BEFORE INSERT ON Itinerari WHEN NEW.Sequenza = '0003' "
-        "BEGIN SELECT RAISE(ABORT, 'pieno'); END");
+    const SQLite::Database altro =
+        AltroProgramma("ALTER TABLE Itinerari ADD COLUMN pieno TEXT CHECK (Sequenza <> '0003')");
     DomandaModifiche(Answer::Yes);
     copione_.Messaggio(u"L'itinerario non è stato salvato.\n\n"_s + Archivio(u"…"_s));
     EXPECT_FALSE(comandi::PossoChiudere(*postazione_));
@@ -188,7 +187,7 @@ TEST_F(ComandiTest, WhatCannotBeSavedStaysOnScreen) {
     EXPECT_EQ(Memorizzate(), u"A B"_s);
     // Nor is a trip lost whose deletion fails.
     Esce(Answer::No);
-    AltroProgramma("CREATE TRIGGER fermo BEFORE DELETE ON MeteVandro BEGIN SELECT RAISE(ABORT, 'fermo'); END");
+    const SQLite::Database ancora = AltroProgramma("BEGIN IMMEDIATE");
     copione_.Domanda(u"Confermi annullamento meta?\n\nUNO (000001)"_s, u"Annullamento meta"_s, Answer::Yes);
     copione_.Messaggio(u"La mèta non è stata cancellata.\n\n"_s + Archivio(u"…"_s));
     comandi::CancMeta(*postazione_);

@@ -12,6 +12,7 @@
 //   = CODE                     its exit code, when that is not 0
 //   @ scrivi FILE TEXT         a file, made beforehand; @ mostra FILE: what a file holds now, from Windows-1252
 //   @ cartella FOLDER          a folder, made beforehand
+//   @ guasta FILE PLACE        one byte of a file becomes 0
 //   @ uguali FILE FILE         two files that must be the same
 //
 // Whoever is refused leaves all files as they were, and a verb that only reads the archive.
@@ -83,6 +84,11 @@ class VerbaliTest : public testing::TestWithParam<QString> {
     QString Preparazione(const QStringList& parole) {
         if (parole[0] == u"cartella"_s) QDir().mkpath(parole[1]);
         if (parole[0] == u"scrivi"_s) prova::ScriviFile(parole[1], parole[2].toLatin1());
+        if (parole[0] == u"guasta"_s) {
+            QByteArray byte = prova::LeggiFile(parole[1]);
+            byte[parole[2].toInt()] = '\0';
+            prova::ScriviFile(parole[1], byte);
+        }
         if (parole[0] == u"uguali"_s) {
             EXPECT_EQ(prova::LeggiFile(parole[1]), prova::LeggiFile(parole[2]));
         }
@@ -94,6 +100,10 @@ class VerbaliTest : public testing::TestWithParam<QString> {
         if (testo.isEmpty()) return {};
         static const QRegularExpression quando(u"Vecchi file \\d{4}-\\d\\d-\\d\\d \\d\\d\\.\\d\\d\\.\\d\\d"_s);
         testo.replace(cartella_.Path(), u"{cartella}"_s).replace(kEsempi, u"{esempi}"_s);
+        static const QRegularExpression copia(
+            u"(VandroCronovia(?: danneggiato)? )\\d{4}-\\d\\d-\\d\\d \\d\\d\\.\\d\\d\\.\\d\\d(?: \\d(?= |\\.))?|"
+            "(^| )\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d(?=  +\\d+ +\\d+ +\\d+  )"_s);
+        testo.replace(copia, u"\\1\\2{quando}"_s);
         testo.replace(quando, u"Vecchi file {quando}"_s).replace(u"\r"_s, u"\\r"_s);
         EXPECT_TRUE(testo.endsWith(u'\n')) << testo.toStdString();
         testo.chop(1);
@@ -107,6 +117,7 @@ class VerbaliTest : public testing::TestWithParam<QString> {
         for (QDirIterator i(cartella_.Path(), QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
              i.hasNext();) {
             const QFileInfo file(i.next());
+            if (file.filePath().startsWith(cartella_.Path() + u"/Copie"_s)) continue;  // kept before a refusal too
             contenuto[file.filePath()] = file.isFile() ? prova::LeggiFile(file.filePath()) : QByteArray();
         }
         return contenuto;

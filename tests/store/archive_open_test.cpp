@@ -157,16 +157,26 @@ TEST_F(ArchiveOpen, DatabasesThatCannotBeMendedAreRefused) {
         Esegui(cartella_.Archivio(), sql);
         AttendiRifiuto(parola);
     }
-    QFile::remove(cartella_.Archivio());
-    Esegui(cartella_.Archivio(), "CREATE TABLE clienti (nome TEXT)");
-    AttendiRifiuto(u"altro programma"_s);
+    for (const char* sql : {"CREATE TABLE clienti (nome TEXT)", "CREATE TABLE MeteVandro (CodiceMeta TEXT, voto INT)",
+                            "CREATE TABLE Parametri (chiave TEXT, valore TEXT); PRAGMA application_id = 1447260790"}) {
+        QFile::remove(cartella_.Archivio());
+        Esegui(cartella_.Archivio(), sql);
+        AttendiRifiuto(u"altro programma"_s);
+    }
+    for (const char* sql :
+         {"CREATE VIEW v AS SELECT 1", "CREATE TRIGGER t AFTER INSERT ON Parametri BEGIN SELECT 1; END",
+          "ALTER TABLE Parametri RENAME TO p; CREATE VIEW Parametri AS SELECT * FROM p"}) {
+        QFile::remove(cartella_.Archivio());
+        CreaArchivio();
+        Esegui(cartella_.Archivio(), sql);
+        AttendiRifiuto(u""_s);
+    }
 }
 
 TEST_F(ArchiveOpen, NothingIsMendedWithoutACopy) {
     CreaArchivio();
     Esegui(cartella_.Archivio(), "DROP TABLE Parametri");
-    ASSERT_TRUE(QDir().mkpath(Copia() + u".parziale"_s));  // in the way of the copy
-    AttendiRifiuto(u"controlla i permessi e la cartella"_s);
+    prova::ConDiscoPieno(8192, [this] { AttendiRifiuto(u"sul disco"_s); });
 }
 
 // Locks each copy as soon as it is begun, as another program may.
@@ -210,6 +220,7 @@ TEST_F(ArchiveOpen, OtherFilesOrAFolderUnderTheNameAreRefused) {
     const QByteArray archivio = prova::LeggiFile(cartella_.Archivio());
     for (const auto& [byte, parola] :
          {std::pair{QByteArray("\x00\x01\x00\x00Standard Jet DB\x00\x01", 21), u"archivio Jet"_s},
+          {QByteArray(), u"il file è vuoto"_s},
           {QByteArray("caro diario"), u"non è un archivio di Cronovia"_s},
           {QByteArray("SQLite format 3\0", 16) + QByteArray(4080, 'x'), u"non è un archivio di Cronovia"_s},
           {archivio.left(archivio.size() / 2), u"danneggiato"_s}}) {

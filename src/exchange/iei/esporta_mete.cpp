@@ -179,6 +179,7 @@ qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress
 // `Stopped` on a stop: the file, never closed, is not there.
 EsitoExport Esportate(const RichiestaExport& richiesta, Progress& progress) {
     const ReadSnapshot momento(richiesta.archive);
+    richiesta.archive.ConfirmSound();
     const std::vector<QString> codici = CodiciDaEsportare(richiesta);
     RifiutaFileEsistente(richiesta.path, richiesta.sovrascrivi);
     RifiutaFileArchivio(richiesta.path, richiesta.archive.Path());

@@ -239,6 +239,7 @@ EsitoImport Importate(const RichiestaImport& richiesta, QIODevice& device, Progr
     progress.Title(u"Importazione mète"_s);
     ScorriMete(device, richiesta.path, LetturaPerImport(Table::MeteVandro), progress,
                [&](const RigaIei& riga) { codici.Aggiungi(riga.valori[mete::CodiceMeta]); });
+    richiesta.archive.KeepCopy(u"prima di importare"_s);
     Transaction transaction(richiesta.archive);
     codici.Scegli(richiesta.codici, richiesta.archive);
     OsservaAggiunte aggiunte(richiesta.archive);

@@ -124,6 +124,8 @@ EsitoConversione Convertitore::Esegui() {
     const std::optional<QString> mete = file_.Trova(NomeVecchieMete());
     const std::optional<QString> guida = file_.Trova(NomeVecchiaGuida());
     if (!mete) throw Failure(u"Non c'è niente da convertire: manca il file %1."_s.arg(NomeVecchieMete()));
+    archive_.ConfirmSound();
+    archive_.KeepCopy(u"prima di convertire"_s);
     {
         Transaction transaction(archive_);
         ConvertiMete(*mete);
