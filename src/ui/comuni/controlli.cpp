@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr const char* kNonBlocca = "nonBlocca";
-constexpr int kAria = 7;  // of a list, in pixels
+constexpr int kAria = 2;  // of a list, in pixels
 
 void Presenta(QWidget& controllo, const QString& nome, const QString& istruzione) {
     controllo.setObjectName(nome);

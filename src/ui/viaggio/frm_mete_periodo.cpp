@@ -57,7 +57,7 @@ FrmMetePeriodo::FrmMetePeriodo(int annoCorrente, QWidget* parent) : QGroupBox(u"
     CreaFine(*layout);
     CreaCalcolo(*layout);
     layout->setColumnStretch(1, 1);
-    layout->setRowStretch(5, 1);
+    layout->setRowStretch(6, 1);
 }
 
 void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
@@ -79,9 +79,11 @@ void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
 }
 
 void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
-    QHBoxLayout* layout = NuovoGruppo(griglia, 2, u"frmMeteInizio"_s, u"Inizio:"_s);
+    // Two rows, or the lists would not fit into a small window beside those of the other frames.
+    QHBoxLayout* giorno = NuovoGruppo(griglia, 2, u"frmMeteInizio"_s, u"Inizio:"_s);
+    QHBoxLayout* ora = NuovoGruppo(griglia, 3, u"frmMeteOraInizio"_s, u"alle ore:"_s);
     txtInizioGSett_ = NuovoRisultato(u"txtInizioGSett"_s, 3, u"Giorno della settimana della partenza"_s);
-    layout->addWidget(txtInizioGSett_);
+    giorno->addWidget(txtInizioGSett_);
     const std::array<QStringList, 5> voci = {Numeri(1, 31, 2), Numeri(1, 12, 2),
                                              Numeri(kPrimoAnno, annoCorrente + kAnniAvanti, 4), Numeri(0, 24, 2),
                                              Quarti()};
@@ -91,14 +93,15 @@ void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
         u"Minuti d'inizio"_s};
     for (std::size_t i = 0; i < cmbInizio_.size(); ++i) {
         cmbInizio_[i] = NuovoElenco(NomeDiSerie(u"cmbInizio"_s, static_cast<int>(i)), voci[i], nomi[i]);
-        layout->addWidget(cmbInizio_[i]);
+        (i < 3 ? giorno : ora)->addWidget(cmbInizio_[i]);
         connect(cmbInizio_[i], &QComboBox::activated, this, [this] {
             MostraInizio(Inizio());
             Q_EMIT InizioCambiato();
         });
     }
     LasciaScrivereAnno();
-    layout->addStretch();
+    giorno->addStretch();
+    ora->addStretch();
 }
 
 // Years beyond those on offer are typed.
@@ -134,7 +137,7 @@ bool FrmMetePeriodo::RifiutaAnno() {
 }
 
 void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
-    QHBoxLayout* layout = NuovoGruppo(griglia, 3, u"frmMeteFine"_s, u"Fine:"_s);
+    QHBoxLayout* layout = NuovoGruppo(griglia, 4, u"frmMeteFine"_s, u"Fine:"_s);
     const std::array<QString, 7> nomi = {u"Giorno di fine"_s,  u"Mese di fine"_s,
                                          u"Anno di fine"_s,    u"Ora di fine"_s,
                                          u"Minuti di fine"_s,  u"Giorno della settimana della fine"_s,
@@ -165,12 +168,12 @@ void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
                              u"4 - Sosta minore"_s, u"5 - Nessuna sosta!"_s},
                             u"Soste che il calcolo prende in considerazione"_s);
     connect(cmbSoste_, &QComboBox::activated, this, &FrmMetePeriodo::Cambiata);
-    griglia.addWidget(NuovaEtichetta(u"Giorni"_s, *cmbGiorni_), 4, 0);
+    griglia.addWidget(NuovaEtichetta(u"Giorni"_s, *cmbGiorni_), 5, 0);
     layout->addWidget(cmbGiorni_);
     layout->addWidget(NuovaEtichetta(u"Soste"_s, *cmbSoste_));
     layout->addWidget(cmbSoste_);
     layout->addStretch();
-    griglia.addLayout(layout, 4, 1, 1, 2);
+    griglia.addLayout(layout, 5, 1, 1, 2);
 }
 
 // The parts of the date that are chosen, the day kept within its month.

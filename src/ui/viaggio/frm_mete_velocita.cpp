@@ -31,9 +31,9 @@ FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s,
         const auto indice = static_cast<std::size_t>(i);
         const bool tutti = i == kTipiStrada;
         const QString tipo = tutti ? u"Totale"_s : NomeTipoStrada(static_cast<TipoStrada>(i));
-        txtKmTot_[indice] = NuovoRisultato(NomeDiSerie(u"txtKmTot"_s, i), 7, u"Chilometri: %1"_s.arg(tipo));
+        txtKmTot_[indice] = NuovoRisultato(NomeDiSerie(u"txtKmTot"_s, i), 6, u"Chilometri: %1"_s.arg(tipo));
         txtTempo_[indice] =
-            NuovoRisultato(NomeDiSerie(u"txtTempo"_s, i), 9, u"Tempo di guida (gg:hh:mm): %1"_s.arg(tipo));
+            NuovoRisultato(NomeDiSerie(u"txtTempo"_s, i), 8, u"Tempo di guida (gg:hh:mm): %1"_s.arg(tipo));
         layout->addWidget(txtKmTot_[indice], i + 1, 2);
         layout->addWidget(txtTempo_[indice], i + 1, 3);
         if (tutti) {
