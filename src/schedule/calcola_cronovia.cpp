@@ -33,6 +33,12 @@ void RifiutaSenzaKm(std::span<const Tappa> tappe) {
     throw Failure(u"Calcolo impossibile: mancano i chilometri per arrivare a %1%2."_s.arg(nomi.join(u", "_s), resto));
 }
 
+// A stop would wait for visiting hours for ever.
+void RifiutaSenzaVisite(const OrarioCorretto& orario) {
+    if (orario.Parametri().fineVisita > orario.Parametri().inizioVisita && orario.VisitaGiorno() > 0_cent) return;
+    throw Failure(u"Calcolo impossibile: l'orario di fine visite non è dopo quello d'inizio."_s);
+}
+
 void RifiutaSeIncalcolabile(const Meta& meta, const OrarioCorretto& orario, std::span<const Tappa> tappe) {
     if (!meta.dataInizio) throw Failure(u"Calcolo impossibile: la data d'inizio della mèta non è valida."_s);
     RifiutaSenzaKm(tappe);
@@ -40,15 +46,14 @@ void RifiutaSeIncalcolabile(const Meta& meta, const OrarioCorretto& orario, std:
         throw Failure(
             u"Calcolo impossibile: la velocità media per le strade di tipo «%1» è 0."_s.arg(NomeTipoStrada(*tipo)));
     }
-    if (orario.Parametri().fineVisita <= orario.Parametri().inizioVisita) {
-        throw Failure(u"Calcolo impossibile: l'orario di fine visite non è dopo quello d'inizio."_s);
-    }
+    RifiutaSenzaVisite(orario);
 }
 
-// First guess of the trip's days: driving and stops in visiting days, and a quarter more.
+// First guess of the trip's days: driving and stops in visiting days, and a quarter more. Meals that leave no day for
+// driving make its time negative.
 double StimaGiorni(const Totali& totali, Centesimi totaleSoste, const OrarioCorretto& orario) {
     const Centesimi guida = ArrotondaAlMinuto(totali.tempo[kTuttiITipi], orario.GuidaGiorno());
-    const int giorni = InDurata(guida + totaleSoste, orario.VisitaGiorno()).giorni;
+    const int giorni = std::max(0, InDurata(guida + totaleSoste, orario.VisitaGiorno()).giorni);
     return std::floor((giorni + 1) * 1.25 + 0.5);
 }
 
@@ -96,6 +101,7 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
     do {
         // Hours beyond their limits settle from pass to pass.
         if (esito.tentativi > 0) orario = OrarioCorretto(orario.Parametri());
+        RifiutaSenzaVisite(orario);
         const float fattore = daAdeguare ? CalcolaFattore(meta.giorniAdeguamento, riferimento) : 1.0F;
         ++esito.tentativi;
         progress.Title(TitoloTentativo(esito.tentativi, riferimento, meta.giorniAdeguamento, fattore));

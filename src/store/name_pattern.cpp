@@ -184,10 +184,29 @@ NamePattern NamePattern::Reversed() const {
 }
 
 std::vector<NamePattern::Range> NamePattern::Ranges() const {
+    std::vector<Range> ranges = Ranges(elements_);
+    if (ranges.empty() || itself_.empty() || BeginsAsElements()) return ranges;
+    const std::vector<Range> own = Ranges(itself_);
+    if (own.empty()) return own;
+    ranges.insert(ranges.end(), own.begin(), own.end());
+    return ranges;
+}
+
+// An empty set takes no character of a text, but two of the name that it stands in.
+bool NamePattern::BeginsAsElements() const {
+    const auto used = static_cast<std::size_t>(
+        std::find_if(elements_.begin(), elements_.end(), [](const Element& e) { return e.kind != Kind::Literal; }) -
+        elements_.begin());
+    if (itself_.size() < used || (used == elements_.size() && itself_.size() != used)) return false;
+    return std::equal(elements_.begin(), elements_.begin() + static_cast<std::ptrdiff_t>(used), itself_.begin(),
+                      [](const Element& a, const Element& b) { return b.kind == a.kind && b.folded == a.folded; });
+}
+
+std::vector<NamePattern::Range> NamePattern::Ranges(const std::vector<Element>& elements) {
     std::vector<std::u32string> prefixes(1);
     std::size_t used = 0;
-    for (; used < elements_.size() && used < kMaxBeginning && elements_[used].kind == Kind::Literal; ++used) {
-        const char32_t c = elements_[used].folded;
+    for (; used < elements.size() && used < kMaxBeginning && elements[used].kind == Kind::Literal; ++used) {
+        const char32_t c = elements[used].folded;
         if (c < 0x80) {
             for (std::u32string& prefix : prefixes) prefix += c;
             continue;
@@ -201,7 +220,7 @@ std::vector<NamePattern::Range> NamePattern::Ranges() const {
         }
         prefixes = std::move(longer);
     }
-    const bool whole = used == elements_.size();
+    const bool whole = used == elements.size();
     if (used == 0 && !whole) return {};
     std::vector<Range> ranges;
     ranges.reserve(prefixes.size());

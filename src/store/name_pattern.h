@@ -57,9 +57,11 @@ class NamePattern {
     NamePattern() = default;
     static bool Accepts(const Element& element, char32_t folded);
     static bool Matches(const std::vector<Element>& elements, QStringView text);
+    static std::vector<Range> Ranges(const std::vector<Element>& elements);
+    [[nodiscard]] bool BeginsAsElements() const;  // whether texts like `itself_` lie within the pattern's ranges
 
     std::vector<Element> elements_;
-    std::vector<Element> itself_;  // what matches besides; within the ranges of the pattern
+    std::vector<Element> itself_;  // what matches besides
 };
 
 }  // namespace cronovia
