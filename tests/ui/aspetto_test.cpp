@@ -60,11 +60,18 @@ TEST_F(AspettoTest, DisabledTextsAreLegibleInEveryTheme) {
                          colori.color(QPalette::Disabled, QPalette::Base)) >= 4.5;
     };
     for (const QColor& sfondo : {QColor(240, 240, 240), QColor(40, 40, 45)}) {
-        QApplication::setPalette(QPalette(sfondo, sfondo));
+        QPalette tema(sfondo, sfondo);
+        tema.setColor(QPalette::Disabled, QPalette::Highlight, sfondo.darker(120));
+        tema.setColor(QPalette::Disabled, QPalette::HighlightedText, sfondo);
+        QApplication::setPalette(tema);
         QCoreApplication::processEvents();
         EXPECT_TRUE(siLegge(u"txtLocalita"_s)) << sfondo.name().toStdString();
         EXPECT_TRUE(siLegge(u"cmbOra_1"_s)) << sfondo.name().toStdString();
         EXPECT_TRUE(siLegge(u"txtKmTot_0"_s)) << sfondo.name().toStdString();
+        const QPalette griglia = Trova(u"mfgTab"_s).palette();
+        EXPECT_GE(Contrasto(griglia.color(QPalette::Disabled, QPalette::HighlightedText),
+                            griglia.color(QPalette::Disabled, QPalette::Highlight)),
+                  4.5);
         EXPECT_EQ(Trova(u"txtKmTot_0"_s).palette().color(QPalette::Base), sfondo);
     }
     QApplication::setPalette(prima);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace cronovia {
 
@@ -15,6 +16,17 @@ constexpr int kPasso = 10;  // hundredths
 double Luminanza(const QColor& colore) {
     const auto lineare = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
     return 0.2126 * lineare(colore.redF()) + 0.7152 * lineare(colore.greenF()) + 0.0722 * lineare(colore.blueF());
+}
+
+// From one colour towards another, no further than to be seen on all grounds.
+QColor Leggibile(const QColor& spento, const QColor& acceso, std::span<const QColor> sfondi) {
+    const auto siLegge = [&](const QColor& colore) {
+        return std::all_of(sfondi.begin(), sfondi.end(),
+                           [&](const QColor& sfondo) { return Contrasto(colore, sfondo) >= kContrastoMinimo; });
+    };
+    int centesimi = 0;
+    while (centesimi < 100 && !siLegge(Misto(spento, acceso, centesimi))) centesimi += kPasso;
+    return Misto(spento, acceso, centesimi);
 }
 
 class SegueIntorno : public QObject {
@@ -51,22 +63,22 @@ double Contrasto(const QColor& a, const QColor& b) {
     return (chiaro + 0.05) / (scuro + 0.05);
 }
 
-// Controls are drawn on any of the three grounds: a text has to be seen on all of them.
+// Controls are drawn on any of the three grounds: a text has to be seen on all of them. What is selected is drawn on a
+// fourth one, in the colour of selected or of other text, whichever tells itself from it more.
 QPalette ConDisabilitatiLeggibili(QPalette palette) {
-    constexpr std::array kSfondi = {QPalette::Window, QPalette::Base, QPalette::Button};
-    constexpr std::array kTesti = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
-    for (const QPalette::ColorRole testo : kTesti) {
-        const QColor spento = palette.color(QPalette::Disabled, testo);
-        const QColor acceso = palette.color(QPalette::Active, testo);
-        const auto siLegge = [&](const QColor& colore) {
-            return std::all_of(kSfondi.begin(), kSfondi.end(), [&](QPalette::ColorRole sfondo) {
-                return Contrasto(colore, palette.color(QPalette::Disabled, sfondo)) >= kContrastoMinimo;
-            });
-        };
-        int centesimi = 0;
-        while (centesimi < 100 && !siLegge(Misto(spento, acceso, centesimi))) centesimi += kPasso;
-        palette.setColor(QPalette::Disabled, testo, Misto(spento, acceso, centesimi));
+    const auto disabilitato = [&](QPalette::ColorRole ruolo) { return palette.color(QPalette::Disabled, ruolo); };
+    const auto attivo = [&](QPalette::ColorRole ruolo) { return palette.color(QPalette::Active, ruolo); };
+    const std::array sfondi = {disabilitato(QPalette::Window), disabilitato(QPalette::Base),
+                               disabilitato(QPalette::Button)};
+    for (const QPalette::ColorRole testo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, testo, Leggibile(disabilitato(testo), attivo(testo), sfondi));
     }
+    const std::array scelto = {disabilitato(QPalette::Highlight)};
+    const QColor acceso =
+        std::max(attivo(QPalette::HighlightedText), attivo(QPalette::Text),
+                 [&](const QColor& a, const QColor& b) { return Contrasto(a, scelto[0]) < Contrasto(b, scelto[0]); });
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
+                     Leggibile(disabilitato(QPalette::HighlightedText), acceso, scelto));
     return palette;
 }
 
