@@ -52,6 +52,20 @@ class SenzaRotella : public QObject {
     }
 };
 
+// A letter with Alt is a command's; where that is not to be had now, the letter would be typed over what is selected.
+class SenzaAlt : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+        if (evento->type() != QEvent::KeyPress) return false;
+        const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+        if (tasto.modifiers() != Qt::AltModifier || tasto.text().isEmpty()) return false;
+        evento->ignore();
+        return true;
+    }
+};
+
 // A box would keep the keys of undo to itself, even with nothing of its own to undo.
 class AnnullaDellaFinestra : public QObject {
   public:
@@ -130,6 +144,7 @@ QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString
     auto* casella = new QLineEdit;
     Presenta(*casella, nome, istruzione);
     casella->setMaxLength(larghezzaMassima);
+    casella->installEventFilter(new SenzaAlt(casella));
     return casella;
 }
 
