@@ -22,7 +22,11 @@ class StampaTuttoTest : public testing::Test {
     }
     void Esegui(bool tabella, bool moduli) {
         Progress progress;
-        StampaTutto({dati_, prova::kPiede, cartella_.Path(), {tabella, false}, moduli,
+        StampaTutto({dati_,
+                     prova::kPiede,
+                     cartella_.Path(),
+                     {tabella, false},
+                     moduli,
                      [this](const Stampato& documento) {
                          pagine_ = static_cast<int>(documento.pagine.size());
                          if (guasto_) throw Failure(u"La stampante tace."_s);
