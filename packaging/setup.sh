@@ -7,7 +7,7 @@ packages_for() {
     case $1 in
         build) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-liberation libsqlitecpp-dev libsqlite3-dev ;;
         test) echo libgtest-dev libgmock-dev poppler-utils ;;
-        check) echo clang-format clang-tidy ;;
+        check) echo clang-format clang-tidy python3 ;;
         bench) echo libbenchmark-dev sqlite3 ;;
         fuzz) echo clang libclang-rt-14-dev ;;
         *) fail "setup.sh: there is no task \"$1\"" ;;
