@@ -102,7 +102,6 @@ void FormMete::Disponi() {
     layout->setSpacing(4);
     areaGriglia_ = CreaAreaGriglia();
     avviso_->setObjectName(u"lblAvviso"_s);
-    avviso_->setTextFormat(Qt::PlainText);
     avviso_->setWordWrap(true);
     avviso_->hide();
     layout->addWidget(viaggio_);
@@ -477,7 +476,7 @@ void FormMete::Mostra() {
     copia_.Mostra();
     inserimento_.Mostra();
     scambio_.Mostra();
-    avviso_->setText(postazione_.avviso);
+    MostraScritta(*avviso_, postazione_.avviso);
     avviso_->setVisible(!postazione_.avviso.isEmpty());
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
     bottoni_->Mostra(postazione_.ConverteOfferto());

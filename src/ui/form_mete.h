@@ -11,6 +11,7 @@
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/interazione_finestra.h"
 #include "ui/comuni/pannello.h"
+#include "ui/comuni/testo_mostrato.h"
 #include "ui/copia/schermo_copia.h"
 #include "ui/giornate/pannello_giornate.h"
 #include "ui/griglia/schermo_griglia.h"
@@ -101,7 +102,7 @@ class FormMete : public QMainWindow {
     SchermoScambio scambio_;
     QWidget* areaGriglia_ = nullptr;
     FrmSelStampa* stampante_ = nullptr;
-    QLabel* avviso_ = new QLabel;
+    QLabel* avviso_ = NuovaScritta();
     QString daAprire_;  // a file that was handed over in the middle of a command
     ComandoStampa* stampa_ = nullptr;
     ComandoStampaGuida* stampaGuida_ = nullptr;

@@ -4,6 +4,7 @@
 #include <QMenuBar>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
 
@@ -36,7 +37,7 @@ Azioni::Azioni(QMainWindow& finestra) : QObject(&finestra) {
 void Azioni::CreaAzione(const DescrizioneComando& comando) {
     auto* azione = new QAction(this);
     azione->setObjectName(NomeAzione(comando.nome));
-    azione->setToolTip(QString::fromUtf16(comando.istruzione));
+    azione->setToolTip(TestoPiano(QString::fromUtf16(comando.istruzione)));
     azione->setShortcut(QKeySequence::fromString(QString::fromUtf16(comando.scorciatoia), QKeySequence::PortableText));
     azione->setMenuRole(QAction::NoRole);
     connect(azione, &QAction::triggered, this, [this, quale = comando.comando] { Q_EMIT Chiesto(quale); });
