@@ -88,7 +88,7 @@ QJsonArray InJson(const RigheItinerario& righe) {
 
 RigheItinerario RigheDaJson(const QJsonValue& json) {
     RigheItinerario righe;
-    for (const QJsonValue& riga : json.toArray()) {
+    for (const QJsonValue riga : json.toArray()) {
         Tappa& tappa = righe.emplace_back(StradaDaJson<Tappa>(riga));
         std::vector<QString> valori(vincoli::kCampi);
         for (std::size_t i = 0; i < valori.size(); ++i) {

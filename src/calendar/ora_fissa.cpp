@@ -67,7 +67,7 @@ std::optional<NumeroGiorno> LeggiDataScritta(QStringView testo) {
 }
 
 QString Testo(const OraFissa& ora) {
-    const QString orario = TestoMinuti(ora.Minuti());
+    QString orario = TestoMinuti(ora.Minuti());
     if (!ora.Data()) return orario;
     return GiornoSettimana(*ora.Data()).toLower() + u' ' + TestoData(*ora.Data()) + u' ' + orario;
 }

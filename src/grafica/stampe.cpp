@@ -59,7 +59,7 @@ void ScriviFile(const Stampato& documento, const QString& path, const Richiesta&
 }
 
 QString FileScelto(const Richiesta& richiesta) {
-    const QString path = richiesta.opzioni.value(u"pdf"_s);
+    QString path = richiesta.opzioni.value(u"pdf"_s);
     if (path.isEmpty()) throw WrongUsage(u"All'opzione --pdf manca il file."_s);
     return path;
 }

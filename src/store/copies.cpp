@@ -151,7 +151,7 @@ std::vector<ArchiveCopy> CopiesOf(const QString& folder) {
 }
 
 QString KeepCopy(SQLite::Database& source, const QString& folder, const QDateTime& now, const QString& reason) {
-    const QString laid = LayAmongCopies(source, folder, now, reason);
+    QString laid = LayAmongCopies(source, folder, now, reason);
     ThinCopies(folder, now.date());
     return laid;
 }

@@ -186,7 +186,7 @@ NamePattern NamePattern::Reversed() const {
 std::vector<NamePattern::Range> NamePattern::Ranges() const {
     std::vector<Range> ranges = Ranges(elements_);
     if (ranges.empty() || itself_.empty() || BeginsAsElements()) return ranges;
-    const std::vector<Range> own = Ranges(itself_);
+    std::vector<Range> own = Ranges(itself_);
     if (own.empty()) return own;
     ranges.insert(ranges.end(), own.begin(), own.end());
     return ranges;
