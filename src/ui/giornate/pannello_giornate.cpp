@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/giornate/striscia_giornata.h"
@@ -37,6 +38,15 @@ class Legenda : public QWidget {
         }
     }
 };
+
+// Why there are no days to show; kilometres that are missing come before a calculation.
+QString PercheVuoto(const Documento& documento) {
+    if (!documento.Impedimento().isEmpty()) return documento.Impedimento();
+    const RigheItinerario& righe = documento.Righe();
+    const bool mancano = std::any_of(righe.begin(), righe.end(), [](const Tappa& t) { return t.kmDaIndicare; });
+    return mancano ? u"Indica i chilometri che mancano, poi calcola la cronovia per vedere le giornate."_s
+                   : u"Calcola la cronovia per vedere le giornate."_s;
+}
 
 }  // namespace
 
@@ -79,10 +89,7 @@ void PannelloGiornate::Aggiorna() {
     mostrata_ = documento_->VersioneCronovia();
     const Cronovia* cronovia = documento_->Ultima();
     modello_.Mostra(cronovia, documento_->Giornate());
-    const QString& impedimento = documento_->Impedimento();
-    avviso_->setText(cronovia != nullptr      ? QString()
-                     : !impedimento.isEmpty() ? impedimento
-                                              : u"Calcola la cronovia per vedere le giornate."_s);
+    MostraScritta(*avviso_, cronovia != nullptr ? QString() : PercheVuoto(*documento_));
     avviso_->setVisible(cronovia == nullptr);
 }
 
