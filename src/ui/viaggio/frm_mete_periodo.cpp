@@ -56,6 +56,7 @@ FrmMetePeriodo::FrmMetePeriodo(int annoCorrente, QWidget* parent) : QGroupBox(u"
     CreaInizio(*layout, annoCorrente);
     CreaFine(*layout);
     CreaCalcolo(*layout);
+    layout->addWidget(NuovoAiuto(AiutoPeriodo()), 1, 2, Qt::AlignRight);  // Tab reaches it behind the fields
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(6, 1);
 }
@@ -75,7 +76,6 @@ void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
     layout.addWidget(txtCodice_, 0, 2);
     layout.addWidget(NuovaEtichetta(u"Nazione"_s, *txtNazione_), 1, 0);
     layout.addWidget(txtNazione_, 1, 1);
-    layout.addWidget(NuovoAiuto(AiutoPeriodo()), 1, 2, Qt::AlignRight);
 }
 
 void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
