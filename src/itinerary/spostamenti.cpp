@@ -1,6 +1,7 @@
 #include "itinerary/spostamenti.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace cronovia {
@@ -32,19 +33,21 @@ RigheConOrigine ConOrigine(const RigheItinerario& righe) {
 }
 
 // The departure has no leg.
-bool DiventaPartenza(Tappa& tappa) {
+void DiventaPartenza(Tappa& tappa) {
     tappa.numStrada.clear();
     tappa.km = 0;
     tappa.kmDaIndicare = false;
     tappa.tipo.reset();
-    return false;
 }
 
-bool PerdeIKm(Tappa& tappa) {
-    if (tappa.kmDaIndicare) return false;
+// From another place than its own: whether kilometres were lost by it.
+bool CambiaOrigine(Tappa& tappa, const QString& luogo) {
+    if (luogo.isEmpty()) {
+        DiventaPartenza(tappa);
+        return false;
+    }
     tappa.km = 0;
-    tappa.kmDaIndicare = true;
-    return true;
+    return !std::exchange(tappa.kmDaIndicare, true);
 }
 
 EsitoSpostamento Concluso(RigheConOrigine righe, Tratto tratto) {
@@ -54,7 +57,7 @@ EsitoSpostamento Concluso(RigheConOrigine righe, Tratto tratto) {
     for (RigaConOrigine& riga : righe) {
         if (!SenzaLuogo(riga.tappa)) {
             const bool rotta = riga.da && !StessoLuogo(*riga.da, luogo);
-            if (rotta && (luogo.isEmpty() ? DiventaPartenza(riga.tappa) : PerdeIKm(riga.tappa))) ++esito.daIndicare;
+            if (rotta && CambiaOrigine(riga.tappa, luogo)) ++esito.daIndicare;
             luogo = riga.tappa.localita;
         }
         esito.righe.push_back(std::move(riga.tappa));
