@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the schedule takes: one pass, a whole calculation beside guides of several sizes, loading and saving.
 #include <benchmark/benchmark.h>
 

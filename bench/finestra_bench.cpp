@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From process start to a painted window: the program's on the long example beside an empty one with as many widgets.
 // Run without arguments; it starts itself for each window.
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The days in the window: a repaint of the panel with 60 of them, and a stage that is entered while the schedule of
 // 1,000 stages with their guide is computed as one goes, from the key to the painted rows, with the panel and without.
 #include <benchmark/benchmark.h>

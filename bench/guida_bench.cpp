@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the guide screen takes to come up, and a save on it, with 1,000 localities and 100,000 entries in the guide:
 // once with all entries on the way of the trip, once with most of them elsewhere.
 #include <benchmark/benchmark.h>

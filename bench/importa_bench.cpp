@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Import of a large exchange file beside what the sqlite3 shell needs for the same rows.
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a line with a verb costs from its start to its end, as a process of its own. `Time` is what passes, `cpu` the
 // least processor time of all runs, `per_tappa` the share of a stage in it.
 #include <benchmark/benchmark.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The display that the benchmarks of the window paint on.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long a printout takes, and that painting holds no more memory for many pages than for few.
 #include <benchmark/benchmark.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Journeys and guides of any size for the benchmarks.
 #pragma once
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Targets of this project: one interface target that carries the compiler settings, one static library per room,
 # one executable per test room.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An archive with one example, some of whose bytes are others: each six of the input are a place (four) and what is put
 // there (one, as often as the last one says). What must hold: the archive is refused with a sentence, or it opens and
 // is read to its end, and then what is computed from it ends too.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Schedules of trips made of anything that an itinerary can hold. What must hold for each: nothing crashes, the clock
 // never runs backwards, the journey ends within its bounds, and each of its dates is a day of the journey once.
 #include <fuzzer/FuzzedDataProvider.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Exchange files made of anything: the list of their trips, and the import into an archive. What must hold for each:
 // nothing crashes, every listed trip is taken or known already, and a second import finds them all.
 #include <QBuffer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Search patterns and texts made of anything, cut at the first zero. What must hold for each: a name finds itself, a
 // pattern read backwards finds the text read backwards, and what is found lies in the stretches that are looked
 // through.

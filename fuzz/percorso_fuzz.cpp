@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Routes of other programs made of anything, as they are and under the header of either layout. What must hold for
 // each: nothing crashes, every stage is one that an itinerary can hold, and the same text in UTF-16 gives the same.
 #include <QBuffer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The earlier release's files made of anything. The input is cut into the file of trips, that of the stages of trip 1
 // and the guide, after as many bytes as its first four say. What must hold: nothing crashes, a refusal leaves archive
 // and folder as they were, and the same files once more change nothing.

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds one of the CMake presets into build/PRESET; silent unless it fails.
 #   packaging/build.sh PRESET
 set -eu

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages that a task needs and this machine lacks; silent when nothing is missing.
 #   packaging/setup.sh TASK...    TASK is one of: build test check bench fuzz
 set -eu

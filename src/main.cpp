@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A line with a verb is run here; the window, and what draws pages, are in a library that only they need.
 #include <QCoreApplication>
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lies before the C library (LD_PRELOAD) and lets calls fail that change files below a folder, as a full or broken disk
 // does. The environment says which: DISCO_CARTELLA names the folder, DISCO_GUASTO the call that fails, counted from 1
 // (0: none), DISCO_POI all that follow it too. The number of calls is written to the file DISCO_CONTO at the end.

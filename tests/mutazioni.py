@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Small faults put into the program one at a time, to see whether the tests notice them.
 
     tests/mutazioni.py --numero 150            that many places, drawn over all rooms of src

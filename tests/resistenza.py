@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What the archive stands: damaged files, the program killed at any moment, a disk that fails at any call.
 
     tests/resistenza.py guasti --numero 600      archives with damaged bytes: no changed answer, no new data

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Reads every `#include "room/..."` under src/ against the arrows between the rooms, as the linker reads the calls. The
 # arrows are those of each room's CMakeLists.txt: what it links, and what those link.
 #   cmake -D ROOT=<checkout> -P stanze.cmake

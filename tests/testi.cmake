@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # What the window shows goes through the gate in ui/comuni/testo_mostrato.h: whoever makes a label or a box, or gives a
 # tooltip or a title, by himself would show a name as markup one day.
 #   cmake -D ROOT=<checkout> -P testi.cmake

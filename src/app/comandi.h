@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the window as values: what menus, buttons, keys and tests know of them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comandi_cronovia.h"
 
 #include "app/comandi_inserimento.h"

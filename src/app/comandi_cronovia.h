@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that compute the schedule, unlock it and print it.
 #pragma once
 

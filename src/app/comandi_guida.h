@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that lead into the guide screen and out of it; those on it are `TavoloGuida`'s.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that move, copy and take away whole stretches: the rows selected in the entry of stages, or the stages
 // of a day. Each is one step that can be taken back; in the schedule it is computed anew at once.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the exchange screen, and the conversion of the earlier release's data.
 #pragma once
 

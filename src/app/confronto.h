@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A trip as the archive held it, and in what another state of it differs.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copies of the archive as people choose among them, and putting one into its place.
 #pragma once
 

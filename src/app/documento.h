@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The open trip: its fields, stages and schedule, what was loaded, and the changes since.
 #pragma once
 

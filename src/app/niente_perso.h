@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is typed and not saved yet: asked for before a command replaces it, kept when nobody can be asked.
 #pragma once
 

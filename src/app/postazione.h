@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What every command works on: the archive, the open trip, the screen in front, and the faces to ask and tell.
 #pragma once
 

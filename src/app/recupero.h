@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Work that is typed and not saved, in a file beside the archive that outlives the program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The screens of the window as values: each has what exists only while it is open.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What both faces of the program work on: the open archive, and what is read and computed from it.
 #pragma once
 

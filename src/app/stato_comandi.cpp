@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/stato_comandi.h"
 
 #include "calendar/testo.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which commands can be used: facts of the document and the screen in front in, enabled commands and captions out.
 #pragma once
 

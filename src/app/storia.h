@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one history of changes that can be taken back and done again.
 #pragma once
 

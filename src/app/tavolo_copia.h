@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the copy screen works on: the trips to copy from, then the stages of the one that was chosen.
 #pragma once
 

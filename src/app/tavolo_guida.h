@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the guide screen works on: the guide list of a trip, the row that is current in it, and the changes made.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the exchange screen works on: the trips to choose from and those that are chosen.
 #pragma once
 

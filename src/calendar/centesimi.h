@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hundredths of an hour, the unit in which travel times are computed.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Durations as people write them, and their way into hundredths of an hour and back.
 #pragma once
 

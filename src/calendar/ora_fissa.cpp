@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "calendar/ora_fissa.h"
 
 #include <algorithm>

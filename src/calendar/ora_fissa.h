@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hours that others set, and moments of the travelling clock.
 #pragma once
 

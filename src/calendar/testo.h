@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Small text and number helpers that all rooms share.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows of the main grid and totals as the command line writes them.
 #pragma once
 

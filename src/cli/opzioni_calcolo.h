@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options of the verbs that compute a schedule.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the command line puts its results: aligned for people, TSV and JSON for programs.
 #pragma once
 

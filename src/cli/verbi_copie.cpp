@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // verifica, copie, ripristina.
 #include <QFileInfo>
 #include <QMap>

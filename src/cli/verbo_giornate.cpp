@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // giornate.
 #include "calendar/testo.h"
 #include "cli/griglia_testi.h"

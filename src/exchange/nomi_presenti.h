@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whether a name is stored already, asked for each of the many rows that come from a file.
 #pragma once
 

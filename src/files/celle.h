@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts as cells of the files and answers that spreadsheets read.
 #pragma once
 

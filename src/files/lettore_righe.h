@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of a text file that came from elsewhere and may hold anything.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The code page of the text files that travel to other programs.
 #pragma once
 

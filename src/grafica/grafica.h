@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The part of the program that needs a window system: the window itself, and what draws pages. It is a library that is
 // loaded when a line asks for one of them, so that all other lines start without it.
 #pragma once

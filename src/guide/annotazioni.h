@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verbs that change the city guide, and how a change is taken back.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The city guide: what is worth a visit and where a camper can stand, per locality.
 #pragma once
 

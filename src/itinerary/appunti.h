@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stages as text between the itinerary and a spreadsheet: a line each, cells parted by tabs, a heading first.
 #pragma once
 

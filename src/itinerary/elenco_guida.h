@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The guide of a trip: its localities, each with the entries of the guide.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verbs that change an itinerary on screen. Rows are counted from 1; a row without locality is free.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The verbs that move whole stretches of an itinerary. A leg whose stage comes to follow another place than before has
 // kilometres that are to be told anew; none are guessed. Rows are counted from 1.
 #pragma once

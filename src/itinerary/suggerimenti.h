@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hints beside the entry of a stage: what its fields will not do as one may expect. None of them is a refusal.
 #pragma once
 

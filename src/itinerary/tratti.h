@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stages made from stages that exist already: the way back, and stretches of other trips. Rows are counted from 1.
 #pragma once
 

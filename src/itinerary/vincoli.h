@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What others set for a stage: when its ferry leaves, when one has to be there, when its visit is open, and what one
 // notes of it. What is not possible cannot be made.
 #pragma once

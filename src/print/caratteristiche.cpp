@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The block of the page header that repeats what the trip was computed with.
 #include <array>
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the printouts of a schedule are made from: a snapshot of trip and schedule as texts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sheet that a printout is written on, line by line and page by page.
 #pragma once
 

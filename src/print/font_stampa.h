@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The font of the printouts and the room that its texts take.
 #pragma once
 

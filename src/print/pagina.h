@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The page model: what stands where on paper, before anything is painted.
 #pragma once
 

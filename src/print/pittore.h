@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Paints a document: on a printer, into a PDF file, for the preview.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bookmarks for PDF files, which Qt's writer does not know.
 #pragma once
 

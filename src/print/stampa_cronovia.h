@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The schedule on paper: one line per row under a line for its day, and a header that names the trip.
 #pragma once
 

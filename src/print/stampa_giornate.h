@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The days of a journey on paper: a table with a strip of 24 hours for each.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The city guide on paper: names of localities, five to a line, or the entries of each.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The print run: the table file, the pages, the forms for the logbook.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The schedule as a text file that spreadsheets read.
 #pragma once
 

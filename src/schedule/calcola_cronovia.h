@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Computing a trip's schedule, fitted to the days wanted.
 #pragma once
 

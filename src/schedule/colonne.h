@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The columns of the main grid: the one place where stages and schedule rows become texts, and where columns have
 // their headings.
 #pragma once

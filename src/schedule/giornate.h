@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The days of a journey: what each date from the start to the end holds, and why things were put off.
 #pragma once
 

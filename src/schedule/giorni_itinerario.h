@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The days of a journey seen from its itinerary: where they break, and which stages are those of a day.
 #pragma once
 

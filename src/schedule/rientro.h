@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The quick return: up to when one can drive on, or turn back, and still be home in time.
 #pragma once
 

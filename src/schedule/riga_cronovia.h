@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The computed schedule: a timed row for every driving piece, stop and guide entry.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One pass over a trip: from the calculation table to timed rows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stop at a stage, spread over the visiting hours of as many days as it takes.
 #pragma once
 

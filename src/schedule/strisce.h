@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The picture of a day: its 24 hours as bars of what they are spent on, for screen and paper alike.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table that a calculation works on: the stages with the stops that the trip's policy retains.
 #pragma once
 

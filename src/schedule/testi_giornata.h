@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The words for the days of a journey, the same in the window, on paper and on the command line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The archive: one database file with all trips, itineraries and the city guide.
 #pragma once
 

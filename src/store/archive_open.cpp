@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening the archive of a data folder, and looking whether it can be relied on.
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>

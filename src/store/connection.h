@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one place that speaks to SQLite: statements are prepared once, errors become messages for the person.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copies that an open archive keeps of itself.
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Copies of the archive: how one is laid, where they are kept, which of them stay.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files under the archive's name that are none of ours.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Names looked up by what is literal in a pattern, be it at the beginning or at the end.
 #pragma once
 

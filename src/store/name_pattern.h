@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pattern language in which localities and descriptions are compared.
 #pragma once
 

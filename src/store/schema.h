@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tables of the archive: names, fields with their widths, indexes.
 #pragma once
 

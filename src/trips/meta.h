@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A trip and the travel parameters that drive its schedule.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Trips in the archive: reading, creating, the personal defaults and the current trip.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window: places the screens and panels, has commands run, and shows the state after each.
 #pragma once
 

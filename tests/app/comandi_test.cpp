@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the trip screen, the entry and the schedule, without a window.
 #include <SQLiteCpp/Database.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a recovery file gives back.
 #include "app/recupero.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stretches of an itinerary that are moved, copied and parted, as the window's commands do it.
 #include "app/comandi_righe.h"
 

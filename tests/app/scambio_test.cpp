@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exchange screen without a widget, taking an import back, and the earlier release's data from the window.
 #include <gmock/gmock.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What can be pressed while something runs, and on a screen that no session stops at; the sessions at the window see
 // the others.
 #include "app/comandi.h"

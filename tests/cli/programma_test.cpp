@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What no transcript can say of the program.
 #include "programma.h"
 #include "exchange/scambio.h"

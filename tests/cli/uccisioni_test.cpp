@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program killed at any moment while it imports or converts: what it did is whole or absent, and nothing is lost.
 // Some kills per run of the tests; CRONOVIA_UCCISIONI names another number for each of the two.
 #include <QElapsedTimer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the program answers and refuses, as reviewed transcripts in tests/data/cli: one file, one data folder. After a
 // change they are written anew by
 //     CRONOVIA_RIGENERA=1 build/dev/tests/cli/cli_test --gtest_filter='*Verbali*'

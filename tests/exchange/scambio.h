@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Exchange files and archives of the tests, written short.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PDF files, read back with poppler's tools.
 #include "print/file_pdf.h"
 

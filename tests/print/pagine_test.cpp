@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pages as reviewed: tests/data/pagine holds what stands where on them, a line for each text, rule, box and picture, in
 // millimetres. After a change they are written anew by
 //     CRONOVIA_RIGENERA=1 build/dev/tests/print/print_test --gtest_filter='Pagine*'

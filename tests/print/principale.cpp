@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fonts need an application, but no display.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Schedules to print: made-up rows, and the long example.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pages of the guide.
 #include "print/stampa_guida.h"
 

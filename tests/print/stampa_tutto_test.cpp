@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The print run: table file, printer, logbook program, and what the person hears of them.
 #include "print/stampa_tutto.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What whole journeys do not show: refusals, passes that help nothing, timetables and lengths beyond all reason.
 #include "schedule/calcola_cronovia.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening a data folder: what is made, what is mended, what is refused and left alone.
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searching with patterns: complete in every case, and through the index where there is one to use.
 #include <gtest/gtest.h>
 #include <sqlite3.h>

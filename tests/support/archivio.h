@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Archives that belong to one test, and what stands in them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A person whose answers are written down beforehand.
 #pragma once
 

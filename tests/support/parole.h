@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scripts and transcripts: lines of words.
 #pragma once
 

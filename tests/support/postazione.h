@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the window without a window: a data folder, a person with ready answers, short ways to do and to
 // look.
 #pragma once

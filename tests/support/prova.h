@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What tests of several rooms share: a data folder of their own, whole files, readable messages.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window remembers of its looks from one start to the next.
 #include <QHeaderView>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window as a person has it: controls found by name, mouse and keyboard, boxes and dialogs answered by a script.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a written session cannot say: every control is named and reached, a long calculation is stopped, a process
 // starts.
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window's tests run without a display. "ui_test --avvio FOLDER" starts the program's window as the program does,
 // "--scrive FOLDER" with somebody who types in it.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sessions at the window, written down in tests/data/finestra: one file each, a line for each step. A line is a verb
 // with its words; what holds blanks stands in quotes, with \n, \" and \\; {cartella} is the data folder, {esempi} that
 // of the examples. What comes up by itself is announced before the step that brings it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for every text that a window shows, whoever wrote it: it looks as it stands.
 #pragma once
 

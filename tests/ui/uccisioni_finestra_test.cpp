@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window killed at any moment while somebody types: what was typed more than two seconds before is not lost. Some
 // kills per run of the tests; CRONOVIA_UCCISIONI names another number.
 #include <QDateTime>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole journeys against reviewed answers: tests/data/journeys holds exchange files, and beside each what its trip's
 // itinerary and schedule are; tests/data/giornate the days of some of them, and of the examples. After a change the
 // answers are written anew by

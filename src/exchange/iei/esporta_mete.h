@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Export: trips with their stages, and the whole city guide, as an exchange file.
 #pragma once
 

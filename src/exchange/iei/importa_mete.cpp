@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "exchange/iei/importa_mete.h"
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Import: the trips of an exchange file, with their stages, and its city guide join the archive.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exchange file: three sections of lines, trips, stages and city guide, each with the names of its fields on top.
 // Every value ends with the section's separator byte, so that the byte tells the section of a line.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which trips of an exchange file an import takes, and under which codes.
 #pragma once
 

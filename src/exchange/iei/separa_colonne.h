@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The values of one line of a text file that came from elsewhere.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fields of a line of a route planner's export, and what is read out of them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Import of a route that another program has computed: the stages of a new itinerary.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Instructions with clock times: the hour, the kilometres so far, the instruction, further columns.
 #include <algorithm>
 #include <utility>

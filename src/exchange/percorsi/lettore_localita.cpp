@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Localities with directions: the place or the road, the direction, the distance, further columns.
 #include <algorithm>
 #include <utility>

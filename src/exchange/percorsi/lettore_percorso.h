@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Route planners' exports: tables of driving instructions as tab-separated text, in two layouts, told by their headers.
 #pragma once
 

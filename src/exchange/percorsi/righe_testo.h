@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines of a text file as texts, whichever of the usual encodings the file has.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a route planner's export tells between one stage and the next.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data files of the earlier release join the archive.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files of fixed-length records, as the earlier release wrote them.
 #pragma once
 

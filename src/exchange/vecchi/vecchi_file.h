@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The files of the earlier release in a data folder: found, copied away, and removed once they are converted.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The records of the earlier release's three kinds of files, and what becomes of them in the tables.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The progress of long operations: a status text and a bar.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands as actions: in the menu, on buttons and behind keys it is the same one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Colours that stay legible, whatever theme is on.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A list to choose from by click or by Enter, in letters of equal width; a click beside it gives up.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One window for each data folder: a second start hands over to the first one and ends.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Questions and messages as boxes over the window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The system wants the program to end: a signal, which cannot wait for a person.
 #pragma once
 

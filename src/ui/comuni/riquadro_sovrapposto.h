@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A frame that lies over the grid and is left by one of two buttons.
 #pragma once
 

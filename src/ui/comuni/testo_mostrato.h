@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The gate through which texts come on screen. Names of trips and places, of files and printers may hold anything: what
 // is shown is what they hold, never markup, a letter to press, a turned direction of writing or a row without end.
 #pragma once

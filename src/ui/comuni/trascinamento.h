@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rows that are dragged to another place of a list, or from one list to another.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/copia/frm_tratto.h"
 
 #include <QGridLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stretch to copy: its first and last stage, whether its stops come along.
 #pragma once
 

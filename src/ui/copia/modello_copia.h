@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list to copy from: trips, or the stages of one.
 #pragma once
 

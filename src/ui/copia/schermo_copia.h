@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copy screen: the list to copy from below the grid, the stretch in the place of the entry frame.
 #pragma once
 

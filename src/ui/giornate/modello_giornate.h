@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The days of the schedule, a row each, with the bars of their 24 hours.
 #pragma once
 

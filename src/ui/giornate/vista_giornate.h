@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The strips of the days, one below the other, under a scale of the hours.
 #pragma once
 

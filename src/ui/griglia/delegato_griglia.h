@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Draws the cells of the grid, with the marks where days begin in an itinerary.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Small signs, drawn in the colours of the theme, that tell the rows of the grid apart.
 #pragma once
 

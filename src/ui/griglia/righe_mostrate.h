@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which rows of the grid stand for which rows of the schedule.
 #pragma once
 

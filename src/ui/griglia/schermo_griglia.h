@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main grid with the itinerary, or with the schedule.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The kinds of rows that the grid tells apart by a small sign.
 #pragma once
 

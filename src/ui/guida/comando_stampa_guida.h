@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing the guide from its screen: options, printer, run.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of the main grid while it shows the guide of a trip.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The guide screen: the guide list in the main grid, its frame below.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The question where to part the leg to a stage.
 #pragma once
 

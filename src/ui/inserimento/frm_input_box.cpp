@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/inserimento/frm_input_box.h"
 
 #include <QFormLayout>

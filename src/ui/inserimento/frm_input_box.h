@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Entry of the itinerary's stages, with the commands that change them.
 #pragma once
 

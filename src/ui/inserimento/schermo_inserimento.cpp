@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/inserimento/schermo_inserimento.h"
 
 #include "app/comandi_inserimento.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The entry screen: its frame beside the grid, and the list of places to go to.
 #pragma once
 

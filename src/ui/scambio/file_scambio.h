@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Exchange files chosen in a dialog, dropped on the window, or handed over by the desktop.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/scambio/frm_export.h"
 
 #include <QGridLayout>

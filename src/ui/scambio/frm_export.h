@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exchange screen: two grids between which trips are moved, and the run.
 #pragma once
 

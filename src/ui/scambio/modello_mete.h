@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of a picking grid: trips by number, destination, country and code.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exchange screen in the window, and the files that are dropped on it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printers of this machine, the PDF file that can always be had instead, and the preview.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The day's timetable, the rests, and the personal defaults.
 #pragma once
 

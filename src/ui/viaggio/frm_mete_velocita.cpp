@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/viaggio/frm_mete_velocita.h"
 
 #include <QGridLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Average speeds, with kilometres and driving times by type of road.
 #pragma once
 

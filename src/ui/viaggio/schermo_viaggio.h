@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The trip screen: the fields of the trip, and the list of trips over the grid.
 #pragma once
 

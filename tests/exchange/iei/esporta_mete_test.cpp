@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exchange file that is written, byte by byte, and that nothing else is touched.
 #include "exchange/iei/esporta_mete.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Importing into archives that hold something already: codes, duplicates, what is cut, what is told.
 #include "exchange/iei/importa_mete.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading exchange files of every kind of health.
 #include "exchange/iei/lettore_iei.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Splitting lines that any program may have written.
 #include "exchange/iei/separa_colonne.h"
 

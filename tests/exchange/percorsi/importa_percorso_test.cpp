@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Routes of other programs: each rule of the two layouts, the encodings, whole examples, files that are none.
 #include "exchange/percorsi/importa_percorso.h"
 

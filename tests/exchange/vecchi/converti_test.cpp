@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The earlier release's files joining an archive: what becomes of each field, what is left alone, what is refused.
 #include "exchange/vecchi/converti.h"
 

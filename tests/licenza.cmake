@@ -1,0 +1,27 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Every source file names the licence in its first line, or in its second one behind a `#!`.
+#   cmake -D ROOT=<checkout> -P licenza.cmake
+cmake_minimum_required(VERSION 3.25)
+
+set(files)
+foreach(folder IN ITEMS src tests bench fuzz packaging cmake)
+  foreach(kind IN ITEMS cpp h c py sh cmake CMakeLists.txt)
+    file(GLOB_RECURSE found "${ROOT}/${folder}/*.${kind}" "${ROOT}/${folder}/${kind}")
+    list(APPEND files ${found})
+  endforeach()
+endforeach()
+list(LENGTH files count)
+if(count LESS 400)
+  message(FATAL_ERROR "Only ${count} files were found: they are no longer where this looks.")
+endif()
+foreach(file IN LISTS files)
+  file(STRINGS "${file}" lines LIMIT_COUNT 2)
+  if(NOT lines MATCHES "(^|;)(//|#) SPDX-License-Identifier: GPL-3.0-or-later")
+    list(APPEND wrong "${file}")
+  endif()
+endforeach()
+if(wrong)
+  list(JOIN wrong "\n" wrong)
+  message(FATAL_ERROR "Without the line of the licence:\n${wrong}")
+endif()
+message(STATUS "${count} files")
