@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comandi.h"
 
+#include "app/comandi_archivio.h"
 #include "app/comandi_copia.h"
 #include "app/comandi_cronovia.h"
 #include "app/comandi_guida.h"
@@ -34,6 +35,11 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      Menu::File, kAperta, &comandi::Export},
     {Comando::Converte, u"cmdConverte", u"Converte", u"&Converte i vecchi dati", u"",
      u"Recupera i dati della versione precedente", Menu::File, kVecchiDati, &comandi::Converte},
+    {Comando::Ripristina, u"cmdRipristina", u"Ripristina", u"&Ripristina una copia…", u"",
+     u"Rimette al suo posto una copia dell'archivio", Menu::File, kVuota | kNuova | kAperta, &comandi::Ripristina,
+     true},
+    {Comando::Ripara, u"cmdRipara", u"Ripara", u"Ripara l'&archivio…", u"",
+     u"Controlla l'archivio e, se è danneggiato, lo ripara", Menu::File, kVuota | kNuova | kAperta, &comandi::Ripara},
     {Comando::ScambiaTutteDaPrima, u"cmdTutto_0", u"Tutti", nullptr, u"",
      u"Trasferisce tutte le mete sull'altra finestra", Menu::Nessuno, kPrimaPiena, &comandi::ScambiaTutteDaPrima},
     {Comando::ScambiaTutteDaSeconda, u"cmdTutto_1", u"Tutti", nullptr, u"",

@@ -26,14 +26,6 @@ void Torna(Postazione& p) {
     p.VaiAlViaggio();
 }
 
-// What an exchange reads or changes is the archive: nothing may be left beside it.
-bool NullaInSospeso(Postazione& p) {
-    if (!NientePerso(p)) return false;
-    p.documento.Scarta();
-    return true;
-}
-
-// Taken back, the trip that was open before (`aperta`) is open again where the one that is open goes.
 Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia, const QString& aperta) {
     const auto disfa = [&p, file, traccia, aperta](const Passo& passo) -> std::optional<Passo> {
         Archive& archivio = p.sessione.Archivio();

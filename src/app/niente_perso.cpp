@@ -176,6 +176,12 @@ bool NientePersoAMeta(Postazione& p) {
     return false;
 }
 
+bool NullaInSospeso(Postazione& p) {
+    if (!NientePerso(p)) return false;
+    p.documento.Scarta();
+    return true;
+}
+
 void Rinuncia(Postazione& p) {
     if (!QualcosaDaSalvare(p)) return;
     p.documento.Scarta();

@@ -19,6 +19,8 @@ namespace cronovia {
 /// The same for the end of the desktop session while another command has not ended, with a box open perhaps: nothing is
 /// dropped or loaded anew under it, and what it keeps from being saved is told.
 [[nodiscard]] bool NientePersoAMeta(Postazione& p);
+/// The same before what reads or changes the archive as a whole, beside which nothing may be left: on No it is dropped.
+[[nodiscard]] bool NullaInSospeso(Postazione& p);
 /// Drops all that is not saved, the entry of the guide too: the trip is in front as it was loaded.
 void Rinuncia(Postazione& p);
 /// As `NientePerso`, for the entry of the guide alone, before another one comes into the fields.

@@ -12,10 +12,11 @@ namespace cronovia {
 Postazione::Postazione(const QString& cartella, Volti facce)
     : volti(std::move(facce)), sessione(cartella, {volti.adesso, [this](const QString& frase) { avvisi += frase; }}) {
     scrittiDaAltri = sessione.Archivio().PresentMark().others;
-    avviso = sessione.Archivio().Damage();
     VaiAlViaggio();
     Su<schermata::Viaggio>()->converteOfferto = CiSonoVecchiFile(cartella);
 }
+
+QString Postazione::DaAvvisare() const { return avviso.isEmpty() ? sessione.Archivio().Damage() : avviso; }
 
 bool Postazione::ConverteOfferto() const {
     const auto* viaggio = Su<schermata::Viaggio>();

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "app/copie.h"
 #include "app/documento.h"
 #include "app/recupero.h"
 #include "app/schermate.h"
@@ -39,6 +40,8 @@ struct Volti {
     std::function<std::optional<Divisione>(const QString& da, const Tappa& tappa)> chiediDivisione = {};
     std::function<void()> anteprima = {};  ///< shows the pages that the screen in front would print
     std::function<void()> stampa = {};     ///< prints them on the printer chosen
+    /// Path of the copy to be put back; nothing when the person does not want any.
+    std::function<std::optional<QString>(const std::vector<CopiaInElenco>&)> scegliCopia = {};
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.
@@ -78,6 +81,8 @@ struct Postazione {
     /// The step of the printout that is chosen on the screen in front; null when there is none.
     [[nodiscard]] schermata::PassoStampa* PassoDiStampa();
     [[nodiscard]] bool StampaAperta() const;
+    /// What is told beside the work; a damaged archive's sentence stays there.
+    [[nodiscard]] QString DaAvvisare() const;
     /// A run that can be stopped is on.
     [[nodiscard]] bool InCorsa() const { return attivita == Attivita::Corsa; }
     [[nodiscard]] bool ConverteOfferto() const;

@@ -28,8 +28,18 @@ Meta ConInizio(const QDateTime& inizio, const ParametriViaggio& parametri) {
 
 }  // namespace
 
-Sessione::Sessione(const QString& cartella, Custode custode) : cartella_(cartella), archive_(Archive::Open(cartella)) {
-    archive_.KeepDailyCopies(std::move(custode.adesso), std::move(custode.avvisa));
+Sessione::Sessione(const QString& cartella, Custode custode)
+    : cartella_(cartella), custode_(std::move(custode)), archive_(Archive::Open(cartella)) {
+    Prepara();
+}
+
+void Sessione::Riapri() {
+    archive_ = Archive::Open(cartella_);
+    Prepara();
+}
+
+void Sessione::Prepara() {
+    archive_.KeepDailyCopies(custode_.adesso, custode_.avvisa);
     if (!archive_.Damage().isEmpty()) return;
     CompletaTipiGuida(archive_);
     CompletaDefaultMeta(archive_);

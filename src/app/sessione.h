@@ -52,6 +52,9 @@ class Sessione {
     /// it cannot be opened; a damaged one can be read.
     explicit Sessione(const QString& cartella, Custode custode = {});
 
+    /// Opens the archive anew, after another file came into its place. A `Failure` when that cannot be done.
+    void Riapri();
+
     /// A `Failure` when the archive is damaged: for those who write down what they read.
     void RifiutaSeDanneggiato() const;
 
@@ -79,7 +82,10 @@ class Sessione {
     static EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, LettoreGuida& guida,
                                 Progress& progress);
 
+    void Prepara();
+
     QString cartella_;
+    Custode custode_;
     Archive archive_;
 };
 

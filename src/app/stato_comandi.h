@@ -22,6 +22,8 @@ enum class Comando {
     Import,
     Export,
     Converte,
+    Ripristina,
+    Ripara,
     ScambiaTutteDaPrima,
     ScambiaTutteDaSeconda,
     ImExp,

@@ -92,7 +92,15 @@ std::vector<Verbo> VerbiDellArchivio() {
 
 std::vector<Verbo> VerbiDelleCopie() {
     return {
-        {u"verifica"_s, {}, u"Guarda se l'archivio è in ordine."_s, {}, 0, 0, true, &EseguiVerifica},
+        {u"verifica"_s,
+         {},
+         u"Guarda se l'archivio è in ordine, o lo ripara."_s,
+         {{u"ripara"_s, {}, u"Dice che cosa si salva di un archivio danneggiato, senza cambiarlo."_s},
+          {u"conferma"_s, {}, u"Con --ripara: mette l'archivio riparato al posto di quello danneggiato, che resta."_s}},
+         0,
+         0,
+         true,
+         &EseguiVerifica},
         {u"copie"_s,
          {},
          u"Elenca le copie dell'archivio che Cronovia tiene nella cartella Copie."_s,

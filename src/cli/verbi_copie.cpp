@@ -2,8 +2,10 @@
 // verifica, copie, ripristina.
 #include <QFileInfo>
 #include <QMap>
+#include <functional>
 
 #include "app/copie.h"
+#include "app/riparazione.h"
 #include "calendar/testo.h"
 #include "cli/json.h"
 #include "cli/verbi.h"
@@ -66,34 +68,56 @@ TabellaTesti TabellaDelleCopie(const std::vector<CopiaInElenco>& copie) {
     return tabella;
 }
 
+// A table in the format wanted; the text for people is written by `testo`.
+void Scrivi(const TabellaTesti& tabella, Formato formato, QTextStream& uscita, const std::function<void()>& testo) {
+    if (formato == Formato::Json) return ScriviOggetti(tabella, uscita);
+    if (formato == Formato::Tsv) return ScriviTsv(tabella, uscita);
+    testo();
+}
+
+TabellaTesti TabellaDellaRiparazione(const Repair& riparazione) {
+    TabellaTesti tabella{{u"Tabella"_s, u"Salvate"_s, u"DallaCopia"_s, u"Perse"_s}, {}, {}};
+    for (const RepairedTable& riparata : riparazione.tables) {
+        tabella.righe.push_back({Definition(riparata.table).name, QString::number(riparata.kept),
+                                 QString::number(riparata.fromCopy), QString::number(riparata.lost)});
+    }
+    return tabella;
+}
+
+void Ripara(const Richiesta& richiesta, bool conferma, QTextStream& uscita) {
+    const Repair riparazione = PrepareRepair(richiesta.cartella);
+    Scrivi(TabellaDellaRiparazione(riparazione), richiesta.formato, uscita,
+           [&] { uscita << TestoRiparazione(riparazione); });
+    if (!conferma) {
+        throw Failure(
+            u"L'archivio è rimasto com'era, danneggiato. Per mettere al suo posto quello riparato: cronovia "
+            "verifica --ripara --conferma"_s);
+    }
+    const QString daParte = ApplyRepair(richiesta.cartella, riparazione, QDateTime::currentDateTime());
+    if (richiesta.formato == Formato::Testo) uscita << TestoRiparata(daParte) << '\n';
+}
+
 }  // namespace
 
 void EseguiVerifica(const ApriSessione& /*apri*/, const Richiesta& richiesta, QTextStream& uscita) {
+    const bool ripara = richiesta.opzioni.contains(u"ripara"_s);
+    const bool conferma = richiesta.opzioni.contains(u"conferma"_s);
+    if (conferma && !ripara) throw WrongUsage(u"L'opzione --conferma vale solo con --ripara."_s);
     const std::vector<Finding> segnalazioni = CheckArchive(richiesta.cartella);
-    if (richiesta.formato == Formato::Testo) {
-        ScriviSegnalazioni(segnalazioni, uscita);
-    } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TabellaDelleSegnalazioni(segnalazioni), uscita);
-    } else {
-        ScriviOggetti(TabellaDelleSegnalazioni(segnalazioni), uscita);
-    }
+    if (ripara && AnyDamage(segnalazioni)) return Ripara(richiesta, conferma, uscita);
+    Scrivi(TabellaDelleSegnalazioni(segnalazioni), richiesta.formato, uscita,
+           [&] { ScriviSegnalazioni(segnalazioni, uscita); });
     if (!AnyDamage(segnalazioni)) return;
     throw Failure(
-        u"L'archivio è danneggiato. Le copie che ci sono le elenca «cronovia copie», «cronovia ripristina» ne rimette "
-        "una al suo posto."_s);
+        u"L'archivio è danneggiato. «cronovia verifica --ripara» dice che cosa se ne salva, senza cambiarlo."_s);
 }
 
 void EseguiCopie(const ApriSessione& /*apri*/, const Richiesta& richiesta, QTextStream& uscita) {
     const TabellaTesti tabella = TabellaDelleCopie(ElencoCopie(richiesta.cartella));
-    if (richiesta.formato == Formato::Json) {
-        ScriviOggetti(tabella, uscita);
-    } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(tabella, uscita);
-    } else if (tabella.righe.empty()) {
+    Scrivi(tabella, richiesta.formato, uscita, [&] {
+        if (!tabella.righe.empty()) return ScriviAllineata(tabella, uscita);
         uscita << u"Non c'è ancora nessuna copia: la prima si fa prima di cambiare le mète che ci sono.\n"_s;
-    } else {
-        ScriviAllineata(tabella, uscita);
-    }
+    });
 }
 
 void EseguiRipristina(const ApriSessione& /*apri*/, const Richiesta& richiesta, QTextStream& uscita) {

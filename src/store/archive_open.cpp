@@ -64,7 +64,7 @@ Archive Archive::Open(const QString& folder) {
     } catch (const SQLite::Exception& error) {
         const bool damaged = (error.getErrorCode() & 0xFF) == SQLITE_CORRUPT;
         throw Failure(opening + u": "_s + DatabaseReason(error) + u"."_s +
-                      (damaged ? u" Una copia la rimette al suo posto «cronovia ripristina»."_s : QString()));
+                      (damaged ? u" Che cosa se ne salva lo dice «cronovia verifica --ripara»."_s : QString()));
     }
 }
 

@@ -89,7 +89,7 @@ void Archive::Connection::MarkDamaged() {
     damage_ =
         u"L'archivio %1 è danneggiato: quello che si legge può essere incompleto, e finché è così non si scrive "
         u"niente. "
-        "Che cos'ha lo dice «cronovia verifica»; «cronovia ripristina» rimette al suo posto una copia."_s.arg(
+        "Per ripararlo: «Ripara l'archivio…» nel menu File, o «cronovia verifica --ripara»."_s.arg(
             QDir::toNativeSeparators(path_));
     database_.tryExec("PRAGMA query_only = ON");
 }

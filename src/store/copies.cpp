@@ -108,25 +108,6 @@ QString LayAmongCopies(SQLite::Database& source, const QString& folder, const QD
     });
 }
 
-// Byte by byte, since nothing in it can be relied on.
-QString LayAside(const QString& path, const QDateTime& now) {
-    const QFileInfo file(path);
-    const auto name = [&](int number) {
-        const QString again = number == 1 ? QString() : u" %1"_s.arg(number);
-        return file.dir().filePath(
-            u"%1 danneggiato %2%3.mdb"_s.arg(file.completeBaseName(), now.toString(kStamp), again));
-    };
-    int number = 1;
-    while (QFileInfo::exists(name(number))) ++number;
-    const QString unfinished = name(number) + u".parziale"_s;
-    QFile::remove(unfinished);
-    if (QFile::copy(path, unfinished) && QFile::rename(unfinished, name(number))) return name(number);
-    QFile::remove(unfinished);
-    throw Failure(
-        u"Il file %1 non si può mettere da parte nella sua cartella: manca lo spazio o il permesso. Non è "
-        "stato cambiato niente."_s.arg(QDir::toNativeSeparators(path)));
-}
-
 }  // namespace
 
 QString LayCopy(SQLite::Database& source, const std::function<QString(int)>& name) {
@@ -188,6 +169,25 @@ std::vector<std::optional<std::int64_t>> RowsIn(const QString& path) {
         }
         return rows;
     });
+}
+
+// Byte by byte, since nothing in it can be relied on.
+QString LayAside(const QString& path, const QDateTime& now) {
+    const QFileInfo file(path);
+    const auto name = [&](int number) {
+        const QString again = number == 1 ? QString() : u" %1"_s.arg(number);
+        return file.dir().filePath(
+            u"%1 danneggiato %2%3.mdb"_s.arg(file.completeBaseName(), now.toString(kStamp), again));
+    };
+    int number = 1;
+    while (QFileInfo::exists(name(number))) ++number;
+    const QString unfinished = name(number) + u".parziale"_s;
+    QFile::remove(unfinished);
+    if (QFile::copy(path, unfinished) && QFile::rename(unfinished, name(number))) return name(number);
+    QFile::remove(unfinished);
+    throw Failure(
+        u"Il file %1 non si può mettere da parte nella sua cartella: manca lo spazio o il permesso. Non è "
+        "stato cambiato niente."_s.arg(QDir::toNativeSeparators(path)));
 }
 
 QString KeepPresent(const QString& folder, const QDateTime& now, const QString& reason) {

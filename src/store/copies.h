@@ -51,6 +51,9 @@ std::vector<std::optional<std::int64_t>> RowsIn(const QString& path);
 /// beside itself. Returns the path; empty when there was no file or it was empty. A `Failure` when that cannot be done.
 QString KeepPresent(const QString& folder, const QDateTime& now, const QString& reason);
 
+/// Lays a file as it is beside itself, as a damaged one; returns the path. A `Failure` when that cannot be done.
+QString LayAside(const QString& path, const QDateTime& now);
+
 /// Removes the copies that need not stay.
 void ThinCopies(const QString& folder, const QDate& today);
 

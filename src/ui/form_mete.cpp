@@ -22,6 +22,7 @@
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
+#include "ui/archivio/frm_copie.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
@@ -93,7 +94,8 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [](const QString& testo) { QGuiApplication::clipboard()->setText(testo); },
         [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->MostraAnteprima() : stampa_->MostraAnteprima(); },
-        [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); }};
+        [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); },
+        [this](const std::vector<CopiaInElenco>& copie) { return ScegliCopia(*this, copie); }};
 }
 
 void FormMete::Disponi() {
@@ -477,8 +479,9 @@ void FormMete::Mostra() {
     copia_.Mostra();
     inserimento_.Mostra();
     scambio_.Mostra();
-    MostraScritta(*avviso_, postazione_.avviso);
-    avviso_->setVisible(!postazione_.avviso.isEmpty());
+    const QString avviso = postazione_.DaAvvisare();
+    MostraScritta(*avviso_, avviso);
+    avviso_->setVisible(!avviso.isEmpty());
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
     bottoni_->Mostra(postazione_.ConverteOfferto());
     stampa_->Mostra();

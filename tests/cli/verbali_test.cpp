@@ -85,11 +85,7 @@ class VerbaliTest : public testing::TestWithParam<QString> {
     QString Preparazione(const QStringList& parole) {
         if (parole[0] == u"cartella"_s) QDir().mkpath(parole[1]);
         if (parole[0] == u"scrivi"_s) prova::ScriviFile(parole[1], parole[2].toLatin1());
-        if (parole[0] == u"guasta"_s) {
-            QByteArray byte = prova::LeggiFile(parole[1]);
-            byte[parole[2].toInt()] = '\0';
-            prova::ScriviFile(parole[1], byte);
-        }
+        if (parole[0] == u"guasta"_s) prova::Guasta(parole[1], parole[2].toInt());
         if (parole[0] == u"uguali"_s) {
             EXPECT_EQ(prova::LeggiFile(parole[1]), prova::LeggiFile(parole[2]));
         }
@@ -103,8 +99,9 @@ class VerbaliTest : public testing::TestWithParam<QString> {
         testo.replace(cartella_.Path(), u"{cartella}"_s).replace(kEsempi, u"{esempi}"_s);
         static const QRegularExpression copia(
             u"(VandroCronovia(?: danneggiato)? )\\d{4}-\\d\\d-\\d\\d \\d\\d\\.\\d\\d\\.\\d\\d(?: \\d(?= |\\.))?|"
+            "((?:in ordine, del|ripristinare, è del) )\\d\\d/\\d\\d/\\d{4} ore \\d\\d:\\d\\d|"
             "(^| )\\d\\d/\\d\\d/\\d{4} \\d\\d:\\d\\d(?=  +\\d+ +\\d+ +\\d+  )"_s);
-        testo.replace(copia, u"\\1\\2{quando}"_s);
+        testo.replace(copia, u"\\1\\2\\3{quando}"_s);
         testo.replace(quando, u"Vecchi file {quando}"_s).replace(u"\r"_s, u"\\r"_s);
         EXPECT_TRUE(testo.endsWith(u'\n')) << testo.toStdString();
         testo.chop(1);

@@ -48,6 +48,14 @@ inline void ScriviFile(const QString& path, const QByteArray& byte) {
     ASSERT_EQ(file.write(byte), byte.size());
 }
 
+/// One byte of a file becomes 0.
+inline void Guasta(const QString& percorso, qsizetype posto) {
+    QByteArray byte = LeggiFile(percorso);
+    ASSERT_LT(posto, byte.size());
+    byte[posto] = '\0';
+    ScriviFile(percorso, byte);
+}
+
 /// Does something while no file may grow over so many bytes.
 template <typename Azione>
 void ConDiscoPieno(rlim_t byte, Azione&& azione) {

@@ -156,7 +156,7 @@ class FinestraTest : public testing::Test {
         for (const QAction* azione : dialogo.findChildren<QAction*>()) {
             if (azione->isVisible() && !azione->text().isEmpty()) visto_ += u'|' + azione->text();
         }
-        dialogo.reject();
+        attesa.file.isEmpty() ? dialogo.reject() : dialogo.accept();
     }
     void RispondiBox(QMessageBox& box, const Attesa& attesa) {
         if (attesa.testo.endsWith(u'…')) {

@@ -15,7 +15,9 @@
 //   answer BUTTON TEXT [TITLE]        the next box is a question, and Enter would say yes: else as in "Sì/No", where
 //                                     Enter would say no; message TEXT [TITLE]: is told, and read with Ok
 //   choose [FILE]                     the next dialog asks for a file; without one it is called off
-//   dismiss                           the next dialog of any other kind is closed; expect-seen TEXT: what it was
+//   dismiss · confirm                 the next dialog of any other kind is closed, or accepted as it stands;
+//                                     expect-seen TEXT: what it was
+//   spoil FILE PLACE                  one byte of a file becomes 0
 //   type NAME TEXT · keys TEXT        typed over what is there; typed where the focus is
 //   key KEY... · focus NAME           as in "Ctrl+Z", where the focus is
 //   press NAME · click NAME ROW       a button or box; a row of a table (from 1), an entry of a list
@@ -428,6 +430,12 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
           [this](auto&) {
               Attendi({Attesa::Che::Altro, u"a dialog"_s, {}, {}, {}});
           }}},
+        {u"confirm"_s,
+         {0,
+          [this](auto&) {
+              Attendi({Attesa::Che::Altro, u"a dialog"_s, {}, {}, u"ok"_s});
+          }}},
+        {u"spoil"_s, {2, [](auto& p) { prova::Guasta(p[0], p[1].toInt()); }}},
         {u"expect-seen"_s, {1, [this](auto& p) { Uguale(visto_, p[0]); }}},
         {u"type"_s, {2, [this](auto& p) { Scrivi(p[0], p[1]); }}},
         {u"keys"_s, {1, [this](auto& p) { Batti(p[0]); }}},
@@ -516,7 +524,8 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
          {2, [](auto& p) { Uguale(QString::fromUtf8(prova::LeggiFile(p[0])).left(p[1].size()), p[1]); }}},
         {u"expect-no-file"_s, {1, [](auto& p) { EXPECT_FALSE(QFile::exists(p[0])); }}},
     };
-    const QStringList annunci_ = {u"answer"_s, u"message"_s, u"choose"_s, u"dismiss"_s, u"meanwhile-session-end"_s};
+    const QStringList annunci_ = {u"answer"_s,  u"message"_s, u"choose"_s,
+                                  u"dismiss"_s, u"confirm"_s, u"meanwhile-session-end"_s};
 };
 
 std::vector<QString> File() {
