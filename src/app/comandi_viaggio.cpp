@@ -213,6 +213,24 @@ bool GuardaArchivio(Postazione& p) {
     return true;
 }
 
+void SalvaAltrove(Postazione& p) {
+    const QString cartella = p.volti.scegliFile(FileChiesto::Cartella);
+    if (cartella.isEmpty()) return;
+    const QString prima = QDir::toNativeSeparators(p.sessione.Cartella());
+    if (!p.MentreScrive(u"L'archivio non è stato copiato."_s, [&] { p.sessione.TrasferisciIn(cartella); })) return;
+    p.documento.Modifiche().ArchivioSostituito();
+    p.scrittiDaAltri = p.sessione.Archivio().PresentMark().others;
+    Recupero vecchio = std::exchange(p.recupero, Recupero(cartella));
+    p.Prova([&] { MettiAlSicuro(p); });
+    vecchio.Segui({}, {});
+    const QString dove = QDir::toNativeSeparators(cartella);
+    p.Mostra(
+        u"L'archivio è ora anche nella cartella %1, e la finestra lavora lì. Ciò che non era salvato è ancora da "
+        "salvare.\n\nAl prossimo avvio Cronovia cerca di nuovo nella cartella %2: rimetti lì l'archivio, oppure "
+        "avvia il programma con l'opzione --cartella."_s.arg(dove, prima),
+        {}, Icon::Information);
+}
+
 void Annulla(Postazione& p) {
     if (!p.DaAnnullare() || !VoceNonPersa(p)) return;
     p.Prova([&] { p.documento.Modifiche().Annulla(*p.AmbitoInVista()); });

@@ -38,6 +38,9 @@ void Esce(Postazione& p);
 /// where that would cost what is typed. False when there is nothing new to show.
 bool GuardaArchivio(Postazione& p);
 
+/// Copies the archive to a folder that the person names and works on there; what is typed stays as it is.
+void SalvaAltrove(Postazione& p);
+
 /// Take the last change back that the screen in front is about, and make it again.
 void Annulla(Postazione& p);
 void Ripeti(Postazione& p);

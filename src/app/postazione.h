@@ -17,7 +17,7 @@
 namespace cronovia {
 
 /// Which file a command asks for.
-enum class FileChiesto { Import, Export, Percorso };
+enum class FileChiesto { Import, Export, Percorso, Cartella };
 
 /// A place on the way to a stage, and its kilometres from where that leg begins.
 struct Divisione {

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/sessione.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
 #include <algorithm>
 #include <utility>
 
@@ -47,6 +51,22 @@ void Sessione::Prepara() {
 
 void Sessione::RifiutaSeDanneggiato() const {
     if (!archive_.Damage().isEmpty()) throw Failure(archive_.Damage());
+}
+
+void Sessione::TrasferisciIn(const QString& cartella) {
+    const QString path = Archive::FilePath(cartella);
+    if (QFileInfo::exists(path)) {
+        throw Failure(
+            u"Nella cartella %1 c'è già un archivio: scegline un'altra."_s.arg(QDir::toNativeSeparators(cartella)));
+    }
+    auto incompleta = qScopeGuard([&] { QFile::remove(path); });
+    archive_.CopyAsOpenTo(path);
+    Archive copia = Archive::Open(cartella);
+    incompleta.dismiss();
+    copia.KeepDailyCopies(custode_.adesso, custode_.avvisa);
+    for (const QString& codice : archive_.Retired()) copia.Retire(codice);
+    archive_ = std::move(copia);
+    cartella_ = cartella;
 }
 
 MetaAperta Sessione::ApriMeta(const QString& codice) {

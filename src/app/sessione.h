@@ -62,6 +62,9 @@ class Sessione {
     [[nodiscard]] const Archive& Archivio() const { return archive_; }
     [[nodiscard]] const QString& Cartella() const { return cartella_; }
 
+    /// Goes on in another folder, which has no archive yet, with a copy of this one, which may be gone from its place.
+    void TrasferisciIn(const QString& cartella);
+
     /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.
     MetaAperta ApriMeta(const QString& codice);
 

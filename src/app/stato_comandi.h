@@ -24,6 +24,7 @@ enum class Comando {
     Converte,
     Ripristina,
     Ripara,
+    SalvaAltrove,
     ScambiaTutteDaPrima,
     ScambiaTutteDaSeconda,
     ImExp,

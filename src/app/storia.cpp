@@ -48,6 +48,10 @@ void Storia::Dimentica(Ambito ambito) {
     Togli(annullati_, ambito);
 }
 
+void Storia::ArchivioSostituito() {
+    std::erase_if(fatti_, [](const Passo& passo) { return passo.archivio.has_value(); });
+}
+
 const Passo* Storia::DaAnnullare(Ambito ambito) const { return Prossimo(fatti_, ambito); }
 const Passo* Storia::DaRipetere(Ambito ambito) const { return Prossimo(annullati_, ambito); }
 

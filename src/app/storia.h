@@ -60,6 +60,8 @@ class Storia {
     void Annulla(Ambito ambito);
     void Ripeti(Ambito ambito);
 
+    /// The archive is another object now: the steps that need it unchanged go.
+    void ArchivioSostituito();
     /// A change that no step minds, such as which trip is current: steps that need the archive as it was before it are
     /// content with how it is now.
     void SegueArchivio(const Archive::Mark& prima, const Archive::Mark& adesso);

@@ -108,6 +108,9 @@ class Archive {
     /// transaction that has written nothing yet.
     void CopyTo(const QString& path) const;
 
+    /// The same as this object sees the file, even when that was moved or deleted meanwhile.
+    void CopyAsOpenTo(const QString& path) const;
+
     /// How many rows a table has.
     std::int64_t Count(Table table);
 

@@ -100,6 +100,13 @@ void Archive::CopyTo(const QString& path) const {
     });
 }
 
+void Archive::CopyAsOpenTo(const QString& path) const {
+    Guarded(connection_->Path(), [&] {
+        LayCopy(connection_->Database(),
+                [&](int number) { return number == 1 ? path : u"%1 %2"_s.arg(path).arg(number); });
+    });
+}
+
 void Archive::KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell) {
     connection_->KeepDailyCopies(std::move(now), std::move(tell));
 }

@@ -53,6 +53,10 @@ void Distrust(SQLite::Database& database) {
 }
 
 QString DatabaseReason(const SQLite::Exception& error) {
+    if (error.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) {
+        return u"il file è stato spostato o cancellato mentre era aperto; nella finestra, «Salva in un'altra "
+               "cartella…» del menu File conserva il tuo lavoro"_s;
+    }
     const QString reason = KnownReason(error.getErrorCode());
     return reason.isEmpty() ? u"errore del database («%1»)"_s.arg(QString::fromUtf8(error.what())) : reason;
 }
@@ -88,8 +92,7 @@ bool Archive::Connection::InTransaction() const { return sqlite3_get_autocommit(
 void Archive::Connection::MarkDamaged() {
     damage_ =
         u"L'archivio %1 è danneggiato: quello che si legge può essere incompleto, e finché è così non si scrive "
-        u"niente. "
-        "Per ripararlo: «Ripara l'archivio…» nel menu File, o «cronovia verifica --ripara»."_s.arg(
+        "niente. Per ripararlo: «Ripara l'archivio…» nel menu File, o «cronovia verifica --ripara»."_s.arg(
             QDir::toNativeSeparators(path_));
     database_.tryExec("PRAGMA query_only = ON");
 }

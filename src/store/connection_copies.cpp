@@ -57,6 +57,7 @@ void Archive::Connection::LayCopyNow(const QString& reason) {
 
 void Archive::Connection::KeepCopyOfToday() {
     if (!keeping_ || !damage_.isEmpty()) return;
+    if (!QFileInfo::exists(path_)) return;  // moved away: the writing tells of it
     const QDateTime now = keeping_->now();
     if (keeping_->day == now.date()) return;
     const std::vector<ArchiveCopy> copies = CopiesOf(QFileInfo(path_).path());

@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -369,6 +370,8 @@ QString FormMete::ScegliFile(FileChiesto quale) {
             return ScegliFileDaEsportare(*this, postazione_.Su<schermata::Scambio>()->tavolo.FileProposto());
         case FileChiesto::Percorso:
             return ScegliFilePercorso(*this);
+        case FileChiesto::Cartella:
+            return QFileDialog::getExistingDirectory(this, u"Salva in un'altra cartella"_s);
     }
     return {};
 }

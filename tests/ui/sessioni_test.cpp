@@ -11,6 +11,7 @@
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
 //   exchange FILE TRIPS STAGES        an exchange file, its values between "|"
+//   move FILE FILE                    what another program does to files
 //   sql TEXT                          what another program does to the archive
 //   answer BUTTON TEXT [TITLE]        the next box is a question, and Enter would say yes: else as in "Sì/No", where
 //                                     Enter would say no; message TEXT [TITLE]: is told, and read with Ok
@@ -417,6 +418,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
               QDir().mkpath(QFileInfo(p[0]).path());
               prova::ScriviFile(p[0], p[1].toUtf8());
           }}},
+        {u"move"_s, {2, [](auto& p) { EXPECT_TRUE(QFile::rename(p[0], p[1])); }}},
         {u"sql"_s, {1, [this](auto& p) { AltroProgramma(p[0]); }}},
         {u"answer"_s, {2, [this](auto& p) { Annuncia(p[0], p[1], p[2]); }}},
         {u"message"_s, {1, [this](auto& p) { Annuncia(u"Ok"_s, p[0], p[1]); }}},
