@@ -30,16 +30,17 @@ QString Differenze(const EsitoImport& esito) {
     const auto conta = [&](const QString& cosa, qint64 quanti) {
         if (quanti > 0) righe += cosa + u": "_s + Raggruppa(quanti);
     };
-    for (const auto& [campo, quanti] : esito.accorciati) conta(CampoAccorciato(campo.first, campo.second), quanti);
+    for (const auto& [campo, quanti] : esito.ritocchi.accorciati)
+        conta(CampoAccorciato(campo.first, campo.second), quanti);
     conta(
         u"mète non inserite perché il loro codice è ripetuto nel file (i loro tratti stanno con quelli della prima)"_s,
         esito.codiciRipetuti);
     conta(u"mète non inserite perché senza località o senza un codice valido"_s, esito.meteIncomplete);
     conta(u"mète non inserite perché hanno più di 9.999 tratti stradali"_s, esito.meteTroppoLunghe);
-    conta(u"date d'inizio fuori dal loro mese, corrette"_s, esito.dateCorrette);
-    conta(u"date d'inizio mancanti o illeggibili, lasciate vuote"_s, esito.dateIlleggibili);
-    conta(u"soste che non sono una durata, non inserite"_s, esito.sosteRifiutate);
-    conta(u"orari fissati, prezzi o note non validi, non inseriti"_s, esito.orariRifiutati);
+    conta(u"date d'inizio fuori dal loro mese, corrette"_s, esito.ritocchi.dateCorrette);
+    conta(u"date d'inizio mancanti o illeggibili, lasciate vuote"_s, esito.ritocchi.dateIlleggibili);
+    conta(u"soste che non sono una durata, non inserite"_s, esito.ritocchi.sosteRifiutate);
+    conta(u"orari fissati, prezzi o note non validi, non inseriti"_s, esito.ritocchi.orariRifiutati);
     conta(u"tratti stradali non inseriti perché la loro mèta non è nel file o non è stata inserita"_s,
           esito.tappeSenzaMeta);
     conta(u"righe non lette perché prima della prima sezione"_s, esito.lettura.righePrimaDelleSezioni);

@@ -57,6 +57,7 @@ class Importatore {
 
     EsitoImport Esito() {
         if (!inserite_.empty()) esito_.ultimaMeta = inserite_.back();
+        for (const auto& [codice, ritocchi] : ritocchi_) esito_.ritocchi += ritocchi;
         esito_.lettura = lettore_.Scarti();
         return std::move(esito_);
     }
@@ -67,8 +68,8 @@ class Importatore {
     void ImportaVoce(RigaIei& riga);
     void ImportaScadenza(const RigaIei& riga);
     void ImportaVincoli(const RigaIei& riga);
-    void AggiustaData(QString& data);
-    void AggiustaSosta(QString& sosta);
+    void AggiustaData(QString& data, Ritocchi& ritocchi) const;
+    static void AggiustaSosta(QString& sosta, Ritocchi& ritocchi);
     void Togli(MetaDaImportare& meta);
     bool HaTappe(const QString& localita);
     void Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresenti& presenti);
@@ -79,8 +80,9 @@ class Importatore {
     NomiPresenti mete_;
     NomiPresenti tappe_;
     NomiPresenti guida_;
-    QHash<QString, bool> conTappe_;  // localities looked up since the last stage was added
-    std::vector<QString> inserite_;  // codes of the trips
+    QHash<QString, bool> conTappe_;         // localities looked up since the last stage was added
+    std::vector<QString> inserite_;         // codes of the trips
+    std::map<QString, Ritocchi> ritocchi_;  // by the code of their trip; those of the guide without
     EsitoImport esito_;
 };
 
@@ -104,22 +106,22 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     }
     meta->stato = StatoMeta::Inserita;
     ++esito_.meteInserite;
-    AggiustaData(riga.valori[mete::DataInizio]);
+    AggiustaData(riga.valori[mete::DataInizio], ritocchi_[meta->codice]);
     inserite_.push_back(meta->codice);
     Inserisci(riga, meta->codice, mete_);
     ImportaScadenza(riga);
 }
 
-void Importatore::AggiustaData(QString& data) {
+void Importatore::AggiustaData(QString& data, Ritocchi& ritocchi) const {
     if (LeggiData(data) || !lettore_.HaCampo(Table::MeteVandro, mete::DataInizio)) return;
     const std::optional<NumeroGiorno> vicino = LeggiPartiData(data).Giorno();
-    ++(vicino ? esito_.dateCorrette : esito_.dateIlleggibili);
+    ++(vicino ? ritocchi.dateCorrette : ritocchi.dateIlleggibili);
     data = vicino ? DataMemorizzata(*vicino) : QString();
 }
 
-void Importatore::AggiustaSosta(QString& sosta) {
+void Importatore::AggiustaSosta(QString& sosta, Ritocchi& ritocchi) {
     if (DurataLeggibile(sosta)) return;
-    ++esito_.sosteRifiutate;
+    ++ritocchi.sosteRifiutate;
     sosta.clear();
 }
 
@@ -135,7 +137,7 @@ void Importatore::ImportaTappa(RigaIei& riga) {
         }
         ++meta->tappe;
         ++esito_.tappeInserite;
-        AggiustaSosta(riga.valori[itinerari::TempoSosta]);
+        AggiustaSosta(riga.valori[itinerari::TempoSosta], ritocchi_[meta->codice]);
         Inserisci(riga, meta->codice, tappe_);
         ImportaVincoli(riga);
     }
@@ -146,7 +148,7 @@ void Importatore::ImportaScadenza(const RigaIei& riga) {
     if (riga.aggiunti.empty()) return;
     const auto scadenza = Scadenza::Leggi(riga.aggiunti[scadenze::RientroData], riga.aggiunti[scadenze::RientroOra]);
     if (!scadenza) {
-        ++esito_.orariRifiutati;
+        ++ritocchi_[riga.valori[mete::CodiceMeta]].orariRifiutati;
         return;
     }
     Meta meta;
@@ -159,7 +161,7 @@ void Importatore::ImportaScadenza(const RigaIei& riga) {
 void Importatore::ImportaVincoli(const RigaIei& riga) {
     if (riga.aggiunti.empty()) return;
     const VincoliLetti letti = LeggiVincoli(riga.aggiunti);
-    esito_.orariRifiutati += letti.rifiutati;
+    ritocchi_[riga.valori[itinerari::CodiceMeta]].orariRifiutati += letti.rifiutati;
     if (!letti.vincoli) return;
     std::vector<QString> valori = ValoriDeiVincoli(letti.vincoli.Valore());
     valori[vincoli::CodiceMeta] = riga.valori[itinerari::CodiceMeta];
@@ -179,6 +181,7 @@ void Importatore::Togli(MetaDaImportare& meta) {
     tappe_.Dimentica();
     meta.stato = StatoMeta::TroppoLunga;
     std::erase(inserite_, meta.codice);
+    ritocchi_.erase(meta.codice);
     --esito_.meteInserite;
     esito_.tappeInserite -= meta.tappe;
     ++esito_.meteTroppoLunghe;
@@ -216,7 +219,7 @@ void Importatore::Inserisci(RigaIei& riga, const QString& codiceMeta, NomiPresen
         if (valore.isEmpty()) valore = u" "_s;
         if (valore.size() <= campi[i].width) continue;
         valore.truncate(campi[i].width);
-        ++esito_.accorciati[{riga.tabella, static_cast<int>(i)}];
+        ++ritocchi_[codiceMeta].accorciati[{riga.tabella, static_cast<int>(i)}];
     }
     presenti.Scritta(archive_.Insert(riga.tabella, riga.valori), riga.valori);
 }
@@ -256,6 +259,15 @@ EsitoImport Importate(const RichiestaImport& richiesta, QIODevice& device, Progr
 }
 
 }  // namespace
+
+Ritocchi& Ritocchi::operator+=(const Ritocchi& altri) {
+    for (const auto& [campo, quanti] : altri.accorciati) accorciati[campo] += quanti;
+    dateCorrette += altri.dateCorrette;
+    dateIlleggibili += altri.dateIlleggibili;
+    sosteRifiutate += altri.sosteRifiutate;
+    orariRifiutati += altri.orariRifiutati;
+    return *this;
+}
 
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress) {
     RichiestaImport fissata = richiesta;

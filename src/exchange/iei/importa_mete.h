@@ -24,6 +24,17 @@ struct RichiestaImport {
     std::optional<StatoFile> stato = {};  ///< of the file when its trips were listed; another one is refused
 };
 
+/// What was added otherwise than it stood in the file.
+struct Ritocchi {
+    std::map<std::pair<Table, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
+    qint64 dateCorrette = 0;                             ///< days outside their month, now its first or last one
+    qint64 dateIlleggibili = 0;  ///< that are no date at all, or empty under their heading; stored as one blank
+    qint64 sosteRifiutate = 0;   ///< that are no duration, negative ones among them; stored as one blank
+    qint64 orariRifiutati = 0;   ///< hours that others set, prices and notes that cannot be; left out
+
+    Ritocchi& operator+=(const Ritocchi& altri);
+};
+
 /// What an import did, and what it could not take as it stood.
 struct EsitoImport {
     qint64 meteInserite = 0;
@@ -34,15 +45,11 @@ struct EsitoImport {
     qint64 vociScartate = 0;  ///< were stored already
     bool interrotta = false;  ///< the person stopped it: nothing was added, all else is 0
 
-    std::map<std::pair<Table, int>, qint64> accorciati;  ///< values cut to the width of their field, by its position
-    qint64 codiciRipetuti = 0;                           ///< trips with the code of one before them
+    Ritocchi ritocchi;
+    qint64 codiciRipetuti = 0;    ///< trips with the code of one before them
     qint64 meteIncomplete = 0;    ///< trips without destination, or without a code of at most 20 characters
     qint64 tappeSenzaMeta = 0;    ///< stages of no trip of the file
     qint64 meteTroppoLunghe = 0;  ///< trips of more than 9,999 stages; left out with them
-    qint64 dateCorrette = 0;      ///< of the trips added: days outside their month, now its first or last one
-    qint64 dateIlleggibili = 0;   ///< that are no date at all, or empty under their heading; stored as one blank
-    qint64 sosteRifiutate = 0;    ///< that are no duration, negative ones among them; stored as one blank
-    qint64 orariRifiutati = 0;    ///< hours that others set, prices and notes that cannot be; left out
     ScartiLettura lettura;
 
     TracciaImport traccia;  ///< to take it back by

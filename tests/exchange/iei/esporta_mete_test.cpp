@@ -129,7 +129,7 @@ TEST_F(Export, CarriesTheHoursThatOthersSetBehindTheOtherColumns) {
     EXPECT_EQ(prova::Tutto(archive_), prima);
 
     const EsitoImport esito = prova::Importa(archive_, file("31022027|2000", "|" + guaste));
-    EXPECT_EQ(esito.orariRifiutati, 4);
+    EXPECT_EQ(esito.ritocchi.orariRifiutati, 4);
     EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
 }
 

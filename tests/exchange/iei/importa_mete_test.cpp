@@ -130,16 +130,18 @@ TEST_F(Import, ATripThatCannotBeNumberedStaysOutAndItsGuideToo) {
         tappe += "000001|0001|Lunga\n";
         if (i < 10'000) tappe += "000002|" + QByteArray::number(i).rightJustified(5, '0') + "|Giusta\n";
     }
-    const EsitoImport esito =
-        Importa(archive_, Mete("000001|Alba|I\n000002|Bari|I\n000003|Como|I\n") +
-                              Tappe(tappe + "000003|9999|Lago\n000003|10000|Lago\n000003|0001|Lago\n") +
-                              Guida("Lunga|01|A\nGiusta|01|B\nLago|01|C\n"));
+    const EsitoImport esito = Importa(
+        archive_, Mete("000001|Alba|I\n000002|Bari|I\n000003|Como|" + QByteArray(20, 'x') + "\n") +
+                      Tappe(tappe + "000003|9999|" + QByteArray(99, 'x') + "\n000003|10000|Lago\n000003|0001|Lago\n") +
+                      Guida("Lunga|01|A\nGiusta|01|B\nLago|01|C\n"));
     EXPECT_THAT(LeMete(), ElementsAre(u"000002|Bari|I"_s));
     EXPECT_THAT(LaGuida(), ElementsAre(u"Giusta|01|B"_s));
     EXPECT_EQ(LeTappe().size(), 9'999);
     EXPECT_EQ(LeTappe().back(), u"000002|9999|Giusta"_s);
     EXPECT_EQ(esito.tappeInserite, 9'999);
-    EXPECT_TRUE(TestoEsito(esito).contains(u"mète non inserite perché hanno più di 9.999 tratti stradali: 2"_s));
+    EXPECT_TRUE(
+        TestoEsito(esito).endsWith(u"com'era nel file:\r\n\r\nmète non inserite perché hanno più di 9.999 tratti "
+                                   "stradali: 2."_s));
 }
 
 TEST_F(Import, DatesAndStopsThatAreNoneArePutRightAndTold) {
