@@ -10,13 +10,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Back to where the schedule was computed. The entry fields show what the row has.
+// Back to where the schedule was computed, with what was being typed there.
 void TornaDa(Postazione& p, schermata::Cronovia cronovia) {
     p.documento.Ricomponi();
     if (const auto* viaggio = std::get_if<schermata::Viaggio>(&cronovia.da)) {
         p.schermata = schermata::Viaggio{viaggio->fase};
     } else {
-        p.schermata = NuovoInserimento(p.documento);
+        p.schermata = std::get<schermata::Inserimento>(std::move(cronovia.da));
+        SegueLaRiga(p);
     }
 }
 
@@ -64,7 +65,8 @@ void RicalcolaSulPosto(Postazione& p) {
         p.documento.Ricomponi();
         p.documento.Calcola(p.volti.avanzamento);
     });
-    const schermata::Inserimento inserimento = NuovoInserimento(p.documento);
+    const auto* prima = p.TappaInScrittura();
+    const schermata::Inserimento inserimento = prima != nullptr ? *prima : NuovoInserimento(p.documento);
     if (p.documento.Calcolata()) {
         p.schermata = schermata::Cronovia{inserimento, giornata};
     } else {

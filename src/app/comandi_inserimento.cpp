@@ -16,15 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The entry fields follow the row: what is being typed stays, unless another stage has come into it.
-void SegueLaRiga(Postazione& p) {
-    auto* inserimento = p.Su<schermata::Inserimento>();
-    if (inserimento == nullptr) return;
-    schermata::Inserimento nuovo = NuovoInserimento(p.documento);
-    if (nuovo.riga == inserimento->riga && nuovo.proposti == inserimento->proposti) nuovo.campi = inserimento->campi;
-    *inserimento = std::move(nuovo);
-}
-
 QString CiSonoTappe() {
     return u"Impossibile: sono presenti delle tappe!\n\nE' ammesso solo con itinerario vuoto.\n\n"
            "Se vuoi procedere con l'import da MapPoint,\nè necessario cancellare l'itinerario."_s;
@@ -55,6 +46,17 @@ void SalvaTappe(Postazione& p) {
 schermata::Inserimento NuovoInserimento(const Documento& documento) {
     const CampiTappa campi = documento.CampiCorrenti();
     return {campi, campi, documento.RigaCorrente()};
+}
+
+void SegueLaRiga(Postazione& p) {
+    auto* inserimento = p.TappaInScrittura();
+    if (inserimento == nullptr) return;
+    schermata::Inserimento nuovo = NuovoInserimento(p.documento);
+    if (nuovo.riga == inserimento->riga && nuovo.proposti == inserimento->proposti) {
+        nuovo.campi = std::move(inserimento->campi);
+        nuovo.letti = std::move(inserimento->letti);
+    }
+    *inserimento = std::move(nuovo);
 }
 
 std::optional<bool> KmProgressivi(const Postazione& p) {

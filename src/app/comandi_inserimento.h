@@ -13,6 +13,8 @@ namespace cronovia::comandi {
 void Itinerario(Postazione& p);
 /// Goes to a row, counted from 1.
 void SelezionaRiga(Postazione& p, int riga);
+/// The entry fields follow the row: what is being typed stays, unless another stage has come into it.
+void SegueLaRiga(Postazione& p);
 
 /// Writes the entry fields into the current row and goes to the next; tells why that cannot be, and then the fields
 /// stay as they are.

@@ -61,7 +61,7 @@ void CancellaOMostra(Postazione& p, const QString& mancato, const std::function<
 
 // The screen in front after a step was taken back or made again.
 void Segue(Postazione& p) {
-    if (p.Su<schermata::Inserimento>()) SelezionaRiga(p, p.documento.RigaCorrente());
+    if (p.TappaInScrittura() != nullptr) SelezionaRiga(p, p.documento.RigaCorrente());
     RicalcolaSulPosto(p);
     SullaGuida(p, [](TavoloGuida&) {});
 }
@@ -197,7 +197,7 @@ bool GuardaArchivio(Postazione& p) {
     const bool nuova = p.documento.Letta().meta.codice.isEmpty();
     if (nuova ? !p.SenzaMete() : adesso == p.documento.Letta()) return false;
     const bool ricaricabile = p.Su<schermata::Viaggio>() || p.Su<schermata::Inserimento>();
-    if (!ricaricabile || QualcosaDiScritto(p)) {
+    if (!ricaricabile || QualcosaDaSalvare(p)) {
         p.avviso = u"Un altro programma ha modificato questa mèta nell'archivio: prima di salvare ti sarà chiesto."_s;
         return true;
     }

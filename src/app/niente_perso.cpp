@@ -4,6 +4,7 @@
 #include <QFile>
 #include <algorithm>
 
+#include "app/comandi_inserimento.h"
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -35,9 +36,22 @@ TavoloGuida* ConVoceScritta(Postazione& p) {
     return guida != nullptr && guida->tavolo->Modificata() ? guida->tavolo.get() : nullptr;
 }
 
+const schermata::Inserimento* ConTappaScritta(const Postazione& p) {
+    const auto* inserimento = p.TappaInScrittura();
+    return inserimento != nullptr && inserimento->campi != inserimento->letti ? inserimento : nullptr;
+}
+
+QString TappaNonInserita(const Documento& documento, const schermata::Inserimento& inserimento) {
+    const QString localita = inserimento.campi.localita;
+    const QString tappa = localita.isEmpty() ? u"La tappa"_s : u"La tappa «%1»"_s.arg(localita);
+    return u"%1 che stai scrivendo nella riga %2 non è stata inserita.\nMèta: %3"_s.arg(
+        tappa, QString::number(inserimento.riga), NomeDellaMeta(documento.Caricati()));
+}
+
 QStringList NonSalvate(Postazione& p) {
     QStringList nonSalvate;
     if (TavoloGuida* tavolo = ConVoceScritta(p)) nonSalvate += VoceNonSalvata(p.documento, *tavolo);
+    if (const auto* scritta = ConTappaScritta(p)) nonSalvate += TappaNonInserita(p.documento, *scritta);
     if (p.documento.Modificato()) nonSalvate += MetaNonSalvata(p.documento);
     return nonSalvate;
 }
@@ -62,6 +76,15 @@ bool SalvaVoceScritta(Postazione& p, TavoloGuida& tavolo) {
     return salvata;
 }
 
+// Where it was typed, since a refusal is put right there.
+bool InserisciScritta(Postazione& p, const schermata::Inserimento& scritta) {
+    schermata::Inserimento inserimento = scritta;
+    if (p.documento.Calcolata()) p.documento.Ricomponi();
+    p.schermata = std::move(inserimento);
+    comandi::Inserisce(p);
+    return p.Su<schermata::Inserimento>()->appenaInserita;
+}
+
 // A new trip with the destination of a stored one would take that one's place.
 bool TroppoNuova(const Meta& campi, const Salvataggio& salvataggio) {
     return campi.codice.isEmpty() && !salvataggio.nuova;
@@ -75,6 +98,10 @@ QString Mancato(const Documento& documento) {
 
 void SalvaSenzaChiedere(Postazione& p) {
     if (TavoloGuida* tavolo = ConVoceScritta(p)) tavolo->SalvaScritti();
+    // No other screen is put under a command that has not ended.
+    if (const auto* scritta = ConTappaScritta(p); scritta == p.Su<schermata::Inserimento>() && scritta != nullptr) {
+        if (!InserisciScritta(p, *scritta)) return;
+    }
     Documento& documento = p.documento;
     if (!documento.Modificato()) return;
     const Salvataggio salvataggio = documento.CampiModificati() ? documento.DecidiSalvataggio() : Salvataggio();
@@ -82,20 +109,10 @@ void SalvaSenzaChiedere(Postazione& p) {
     documento.SalvaTutto(salvataggio, p.volti.avanzamento);
 }
 
-// What differs from the row's own fields as they are read back: a road without type is shown as one of the last type.
-bool Scritta(const schermata::Inserimento& inserimento) {
-    const CampiTappa& campi = inserimento.campi;
-    const CampiTappa& proposti = inserimento.proposti;
-    return campi.localita != proposti.localita.trimmed() || campi.numStrada != proposti.numStrada.trimmed() ||
-           campi.km != proposti.km || campi.sosta != proposti.sosta || campi.fineGiorno != proposti.fineGiorno;
-}
-
 std::optional<LavoroSospeso> InSospeso(Postazione& p) {
     const Documento& documento = p.documento;
     LavoroSospeso lavoro;
-    if (const auto* inserimento = p.Su<schermata::Inserimento>(); inserimento != nullptr && Scritta(*inserimento)) {
-        lavoro.tappa = inserimento->campi;
-    }
+    if (const auto* scritta = ConTappaScritta(p)) lavoro.tappa = scritta->campi;
     if (const TavoloGuida* tavolo = ConVoceScritta(p)) {
         const RigaGuida& riga = tavolo->Corrente();
         lavoro.voce = {riga.localita, riga.voce ? riga.voce->descrizione : QString(), tavolo->Scritti()};
@@ -148,12 +165,9 @@ Answer ChiedeSeRecuperare(Postazione& p, const Recupero::Trovato& trovato) {
 
 }  // namespace
 
-bool QualcosaDaSalvare(const Postazione& p) {
-    const auto* guida = p.Su<schermata::Guida>();
-    return p.documento.Modificato() || (guida != nullptr && guida->tavolo->Modificata());
+bool QualcosaDaSalvare(Postazione& p) {
+    return p.documento.Modificato() || ConVoceScritta(p) != nullptr || ConTappaScritta(p) != nullptr;
 }
-
-bool QualcosaDiScritto(Postazione& p) { return InSospeso(p).has_value(); }
 
 bool NientePerso(Postazione& p) {
     const QStringList nonSalvate = NonSalvate(p);
@@ -161,6 +175,7 @@ bool NientePerso(Postazione& p) {
     TavoloGuida* tavolo = ConVoceScritta(p);
     const Answer risposta = ChiedeSeSalvare(p, nonSalvate);
     if (risposta != Answer::Yes) return risposta == Answer::No;
+    if (const auto* scritta = ConTappaScritta(p); scritta != nullptr && !InserisciScritta(p, *scritta)) return false;
     return (tavolo == nullptr || SalvaVoceScritta(p, *tavolo)) && (!p.documento.Modificato() || SalvaTutto(p));
 }
 

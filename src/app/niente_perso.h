@@ -6,22 +6,20 @@
 
 namespace cronovia {
 
-/// The trip differs from what was loaded, or an entry of the guide from what its row shows.
-[[nodiscard]] bool QualcosaDaSalvare(const Postazione& p);
-
-/// Or something is being typed besides, in the entry of a stage.
-[[nodiscard]] bool QualcosaDiScritto(Postazione& p);
+/// The trip differs from what was loaded, or what is typed into a stage or an entry of the guide from what its row
+/// shows.
+[[nodiscard]] bool QualcosaDaSalvare(Postazione& p);
 
 /// Every command that replaces what is open calls this first. Asks whether to save, naming the trip, when something
-/// would be lost, and saves on Yes; false when the person wants to stay, or what was typed cannot be saved. On No it is
-/// left as it is.
+/// would be lost. On Yes it is saved, a stage that was being typed in its row: false when the person wants to stay, or
+/// that cannot be. On No it is left as it is.
 [[nodiscard]] bool NientePerso(Postazione& p);
 /// The same for the end of the desktop session while another command has not ended, with a box open perhaps: nothing is
 /// dropped or loaded anew under it, and what it keeps from being saved is told.
 [[nodiscard]] bool NientePersoAMeta(Postazione& p);
 /// The same before what reads or changes the archive as a whole, beside which nothing may be left: on No it is dropped.
 [[nodiscard]] bool NullaInSospeso(Postazione& p);
-/// Drops all that is not saved, the entry of the guide too: the trip is in front as it was loaded.
+/// Drops all that is not saved, what is being typed too: the trip is in front as it was loaded.
 void Rinuncia(Postazione& p);
 /// As `NientePerso`, for the entry of the guide alone, before another one comes into the fields.
 [[nodiscard]] bool VoceNonPersa(Postazione& p);

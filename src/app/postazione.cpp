@@ -9,6 +9,20 @@
 
 namespace cronovia {
 
+namespace {
+
+// `Postazione`, constant or not.
+template <typename Quale>
+auto TappaInScritturaDi(Quale& p) -> decltype(p.template Su<schermata::Inserimento>()) {
+    if (auto* inserimento = p.template Su<schermata::Inserimento>()) return inserimento;
+    if (auto* copia = p.template Su<schermata::Copia>()) return &copia->da;
+    auto* stampa = p.template Su<schermata::Stampa>();
+    auto* cronovia = stampa != nullptr ? &stampa->da : p.template Su<schermata::Cronovia>();
+    return cronovia != nullptr ? std::get_if<schermata::Inserimento>(&cronovia->da) : nullptr;
+}
+
+}  // namespace
+
 Postazione::Postazione(const QString& cartella, Volti facce)
     : volti(std::move(facce)), sessione(cartella, {volti.adesso, [this](const QString& frase) { avvisi += frase; }}) {
     scrittiDaAltri = sessione.Archivio().PresentMark().others;
@@ -27,6 +41,10 @@ bool Postazione::SenzaMete() const {
     const auto* viaggio = Su<schermata::Viaggio>();
     return viaggio != nullptr && viaggio->fase == schermata::Viaggio::Fase::Vuota;
 }
+
+schermata::Inserimento* Postazione::TappaInScrittura() { return TappaInScritturaDi(*this); }
+
+const schermata::Inserimento* Postazione::TappaInScrittura() const { return TappaInScritturaDi(*this); }
 
 schermata::PassoStampa* Postazione::PassoDiStampa() {
     if (auto* stampa = Su<schermata::Stampa>()) return &stampa->passo;

@@ -76,6 +76,9 @@ struct Postazione {
     [[nodiscard]] const Quale* Su() const {
         return std::get_if<Quale>(&schermata);
     }
+    /// The entry of stages, in front or under the screen in front, which leads back to it; null when there is none.
+    [[nodiscard]] schermata::Inserimento* TappaInScrittura();
+    [[nodiscard]] const schermata::Inserimento* TappaInScrittura() const;
     /// The stages are being entered, alone or beside the list to copy from.
     [[nodiscard]] bool InInserimento() const { return Su<schermata::Inserimento>() || Su<schermata::Copia>(); }
     /// The step of the printout that is chosen on the screen in front; null when there is none.

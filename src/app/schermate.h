@@ -40,6 +40,7 @@ struct Inserimento {
     int ancora = 0;               ///< row at the other end of the rows selected; 0: only the current one is
     bool appenaInserita = false;  ///< the row before the current one was inserted by the last command
     bool elencoTappe = false;     ///< the list of places to go to is open
+    CampiTappa letti = proposti;  ///< the proposal as the fields show it, which cannot show all
 };
 
 /// A schedule in the place of the itinerary.

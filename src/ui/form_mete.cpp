@@ -10,7 +10,6 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
 #include <QSessionManager>
@@ -59,7 +58,8 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       viaggio_(new SchermoViaggio(postazione_, azioni_, [this](const auto& comando) { Esegui(comando); })),
       bottoni_(new FrmBottoni(azioni_)),
       griglia_(postazione_, [this](const auto& comando) { Esegui(comando); }),
-      inserimento_(postazione_, azioni_, *cmbRicercaTappa_, [this](const auto& comando) { Esegui(comando); }),
+      inserimento_(postazione_, azioni_, griglia_.Vista(), *cmbRicercaTappa_,
+                   [this](const auto& comando) { Esegui(comando); }),
       copia_(postazione_, azioni_, inserimento_.Area(), [this](const auto& comando) { Esegui(comando); }),
       guida_(postazione_, azioni_, griglia_.Vista(), *cmbRicercaTappa_,
              [this](const auto& comando) { Esegui(comando); }),
@@ -227,7 +227,6 @@ void FormMete::MettiAlSicuro() {
     if (congedata_ || mostrando_ || !isVisible()) return;
     if (!inCorso_) {
         viaggio_->Raccogli();
-        inserimento_.Raccogli();
         guida_.Raccogli();
     }
     ApriQuandoLibera();
@@ -246,11 +245,6 @@ void FormMete::Collega() {
     connect(viaggio_, &SchermoViaggio::Cambiata, this, &FormMete::Raccogli);
     connect(&azioni_, &Azioni::Chiesto, this, &FormMete::EseguiComando);
     connect(viaggio_, &SchermoViaggio::ElencoChiuso, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
-    connect(cmbRicercaTappa_, &ElencoScelta::Rinuncia, this, [this] {
-        QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, {});
-        keyPressEvent(&esc);
-    });
-    connect(&griglia_.Vista(), &QTableView::clicked, this, [this] { inserimento_.FuocoSullaTappa(); });
     connect(new RicezioneFile(*this), &RicezioneFile::Arrivato, this, &FormMete::ApriFile);
 }
 
@@ -258,7 +252,7 @@ void FormMete::Collega() {
 void FormMete::Raccogli() {
     if (mostrando_) return;
     viaggio_->Raccogli();
-    inserimento_.Raccogli();
+    inserimento_.MostraSuggerimenti();
     guida_.Raccogli();
     copia_.Raccogli();
     if (postazione_.dalVivo && !inCorso_) attesaDalVivo_.start();
@@ -297,69 +291,17 @@ void FormMete::FuocoSenzaMete() {
 void FormMete::EseguiComando(Comando comando) {
     Raccogli();
     if (comando == Comando::Esce) return comandi::Esce(postazione_);  // stops a command that has begun
-    const bool calcolata = postazione_.documento.Calcolata().has_value();
-    if (!Esegui([&] { Descrizione(comando).esegui(postazione_); })) return;
-    if (calcolata != postazione_.documento.Calcolata().has_value()) return FuocoSulleRighe();
-    if (!postazione_.daCorreggere) MettiIlFuoco(comando);
-}
-
-// Where the person goes on after a command.
-void FormMete::MettiIlFuoco(Comando dopo) {
-    switch (dopo) {
-        case Comando::Nuovo:
-            return viaggio_->FuocoSullaLocalita();
-        case Comando::Ricerca:
-            return viaggio_->Elenco().setFocus();
-        case Comando::Stampa:
-            return stampa_->Fuoco();
-        case Comando::GuidaCitta:
-        case Comando::SalvaRigaGuida:
-        case Comando::CancellaRigaGuida:
-        case Comando::RinunciaStampaGuida:
-            return guida_.Fuoco();
-        case Comando::AvviaStampa:
-            return postazione_.StampaAperta() ? void() : guida_.Fuoco();
-        case Comando::FineGuida:
-        case Comando::ImExp:
-        case Comando::FineScambio:
-            return FuocoDopoLoSchermo();
-        case Comando::Import:
-        case Comando::Export:
-            return scambio_.Fuoco();
-        case Comando::Duplica:
-        case Comando::AssegnaInizio:
-        case Comando::AssegnaFine:
-            return copia_.Fuoco();
-        case Comando::Cerca:
-        case Comando::CercaInGuida:
-            return cmbRicercaTappa_->setFocus();
-        case Comando::Inserisce:
-            return inserimento_.FuocoDopoInserisce();
-        case Comando::Itinerario:
-        case Comando::Aggiunge:
-        case Comando::Cancella:
-        case Comando::Ritorno:
-        case Comando::Fine:
-        case Comando::AltriPacchetti:
-        case Comando::InserisceTratto:
-        case Comando::RinunciaCopia:
-            return inserimento_.FuocoSullaTappa();
-        default:
-            return;
+    const std::size_t prima = postazione_.schermata.index();
+    if (!Esegui([&] { Descrizione(comando).esegui(postazione_); }) || postazione_.daCorreggere) return;
+    const bool appenaAperto = postazione_.schermata.index() != prima;
+    for (Schermo* schermo : Schermi()) {
+        if (schermo->FuocoDopo(comando, appenaAperto)) return;
     }
 }
 
-// A screen that was not left goes on; else the rows are in front again.
-void FormMete::FuocoDopoLoSchermo() {
-    if (postazione_.Su<schermata::Guida>()) return guida_.Fuoco();
-    if (!postazione_.Su<schermata::Scambio>()) griglia_.Vista().setFocus();
-}
-
-// What was computed is read in the grid; stages are typed on.
-void FormMete::FuocoSulleRighe() {
-    if (postazione_.StampaAperta()) return stampa_->Fuoco();
-    if (postazione_.InInserimento()) return inserimento_.FuocoSullaTappa();
-    griglia_.Vista().setFocus();
+// Those that take the keys of others come first.
+std::array<Schermo*, 8> FormMete::Schermi() {
+    return {viaggio_, stampa_, stampaGuida_, &guida_, &copia_, &inserimento_, &scambio_, &griglia_};
 }
 
 QString FormMete::ScegliFile(FileChiesto quale) {
@@ -439,33 +381,18 @@ void FormMete::Termina() {
     close();
 }
 
-// Enter presses the button that has the focus, writes the stage that is being entered, else goes to the next field;
-// Escape is what leads back.
+// Enter presses the button that has the focus or goes to the next field, unless it means something to a screen.
 void FormMete::keyPressEvent(QKeyEvent* event) {
-    if (guida_.Tasto(*event) || copia_.Tasto(*event)) return;
-    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        Invio();
-    } else if (event->key() == Qt::Key_Escape && postazione_.Su<schermata::ElencoMete>()) {
-        Q_EMIT viaggio_->Elenco().Rinuncia();
-    } else if (event->key() == Qt::Key_Escape && inserimento != nullptr && inserimento->elencoTappe) {
-        Esegui([this] { comandi::Fine(postazione_); });
-    } else if (event->key() == Qt::Key_Escape && postazione_.StampaAperta()) {
-        EseguiComando(Comando::RinunciaStampa);
-    } else {
-        QMainWindow::keyPressEvent(event);
+    for (Schermo* schermo : Schermi()) {
+        if (schermo->Tasto(*event)) return;
     }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return Invio();
+    QMainWindow::keyPressEvent(event);
 }
 
-// Presses the button that has the focus, writes the stage that is being entered, or goes on to the next field.
 void FormMete::Invio() {
     const QWidget* fuoco = focusWidget();
-    auto* pulsante = qobject_cast<QPushButton*>(focusWidget());
-    const bool sullaTappa = inserimento_.Area().isAncestorOf(fuoco) || fuoco == &griglia_.Vista();
-    if (pulsante == nullptr && sullaTappa && postazione_.InInserimento()) {
-        pulsante = &azioni_.Pulsante(Comando::Inserisce);
-    }
-    if (pulsante != nullptr) return pulsante->click();
+    if (auto* pulsante = qobject_cast<QPushButton*>(focusWidget())) return pulsante->click();
     do {
         focusNextChild();
     } while (qobject_cast<QPushButton*>(focusWidget()) != nullptr && focusWidget() != fuoco);

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QSettings>
 #include <QTimer>
+#include <array>
 #include <functional>
 
 #include "ui/comuni/avanzamento.h"
@@ -12,6 +13,7 @@
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/interazione_finestra.h"
 #include "ui/comuni/pannello.h"
+#include "ui/comuni/schermo.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/copia/schermo_copia.h"
 #include "ui/giornate/pannello_giornate.h"
@@ -72,9 +74,7 @@ class FormMete : public QMainWindow {
     /// Runs a command on what the fields hold, then shows the state anew; false when it cannot begin now.
     bool Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);
-    void MettiIlFuoco(Comando dopo);
-    void FuocoDopoLoSchermo();
-    void FuocoSulleRighe();
+    [[nodiscard]] std::array<Schermo*, 8> Schermi();
     [[nodiscard]] QString ScegliFile(FileChiesto quale);
     void Invio();
     void Mostra();

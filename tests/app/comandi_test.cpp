@@ -174,6 +174,7 @@ TEST_F(ComandiTest, WhatCannotBeSavedStaysOnScreen) {
         const SQLite::Database altro = AltroProgramma("BEGIN EXCLUSIVE");
         copione_.Messaggio(Archivio(u"l'archivio è in uso da un altro programma; riprova tra poco."_s));
         EXPECT_FALSE(Inserisce(u"D"_s, 5));
+        *postazione_->Su<schermata::Inserimento>() = comandi::NuovoInserimento(Viaggio());  // it is wiped out again
     }
     EXPECT_EQ(Righe(), u"A B C"_s);
     EXPECT_EQ(postazione_->documento.Riepilogo().tappe.size(), 3U);

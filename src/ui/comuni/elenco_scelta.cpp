@@ -6,9 +6,14 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
+#include "calendar/testo.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
+
+VoceScelta VoceLocalita(const QString& localita, int colonne, int riga, bool corrente) {
+    return {RiempiDopo(Visibile(localita), colonne, u' ') + Zero(riga, 4), riga, corrente};
+}
 
 ElencoScelta::ElencoScelta(const QString& nome, const QString& descrizione) {
     setObjectName(nome);
@@ -19,7 +24,20 @@ ElencoScelta::ElencoScelta(const QString& nome, const QString& descrizione) {
     setMinimumHeight(240);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     hide();
-    connect(this, &QListWidget::itemClicked, this, &ElencoScelta::Scelta);
+    connect(this, &QListWidget::itemClicked, this,
+            [this](const QListWidgetItem* voce) { Q_EMIT Scelta(voce->data(Qt::UserRole)); });
+}
+
+void ElencoScelta::Mostra(bool aperto, const std::function<std::vector<VoceScelta>()>& voci) {
+    if (aperto && !isVisible()) {
+        clear();
+        for (const VoceScelta& voce : voci()) {
+            auto* mostrata = new QListWidgetItem(voce.testo, this);
+            mostrata->setData(Qt::UserRole, voce.dato);
+            if (voce.corrente) setCurrentItem(mostrata);
+        }
+    }
+    setVisible(aperto);
 }
 
 void ElencoScelta::Intesta(const QString& intestazione) {
@@ -69,7 +87,7 @@ void ElencoScelta::keyPressEvent(QKeyEvent* event) {
         return;
     }
     event->accept();
-    if (currentItem() != nullptr) Q_EMIT Scelta(currentItem());
+    if (currentItem() != nullptr) Q_EMIT Scelta(currentItem()->data(Qt::UserRole));
 }
 
 }  // namespace cronovia

@@ -4,8 +4,21 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QVariant>
+#include <functional>
+#include <vector>
 
 namespace cronovia {
+
+/// An entry: what is read, what stands for it, and whether it is the current one.
+struct VoceScelta {
+    QString testo;
+    QVariant dato;
+    bool corrente = false;
+};
+
+/// A locality in a column of so many characters, with its row, which stands for it.
+VoceScelta VoceLocalita(const QString& localita, int colonne, int riga, bool corrente);
 
 class ElencoScelta : public QListWidget {
     Q_OBJECT
@@ -15,10 +28,12 @@ class ElencoScelta : public QListWidget {
     ElencoScelta(const QString& nome, const QString& descrizione);
     /// Puts a heading over the entries, which stays while they scroll.
     void Intesta(const QString& intestazione);
+    /// Shows the list, with entries that are asked for when it opens, or hides it.
+    void Mostra(bool aperto, const std::function<std::vector<VoceScelta>()>& voci);
 
   Q_SIGNALS:
-    /// Never null.
-    void Scelta(QListWidgetItem* voce);
+    /// What stands for the entry that was chosen.
+    void Scelta(const QVariant& dato);
     /// The person went on elsewhere.
     void Rinuncia();
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/copia/schermo_copia.h"
 
-#include <QKeyEvent>
 #include <utility>
 
 #include "app/comandi_copia.h"
@@ -29,8 +28,11 @@ void SchermoCopia::Collega() {
             [this](int riga) { Comanda([riga](TavoloCopia& copia) { copia.SelezionaRiga(riga); }); });
 }
 
-void SchermoCopia::Fuoco() {
-    if (aperto_) lista_->Fuoco();
+bool SchermoCopia::FuocoDopo(Comando comando, bool appenaAperto) {
+    const bool assegna = comando == Comando::AssegnaInizio || comando == Comando::AssegnaFine;
+    if (!aperto_ || !(appenaAperto || assegna)) return false;
+    lista_->Fuoco();
+    return true;
 }
 
 void SchermoCopia::Comanda(const std::function<void(TavoloCopia&)>& comando) {

@@ -6,14 +6,13 @@
 
 #include "app/postazione.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
 #include "ui/copia/frm_lista.h"
 #include "ui/copia/frm_tratto.h"
 
-class QKeyEvent;
-
 namespace cronovia {
 
-class SchermoCopia : public QObject {
+class SchermoCopia : public QObject, public Schermo {
     Q_OBJECT
 
   public:
@@ -26,9 +25,8 @@ class SchermoCopia : public QObject {
     void Raccogli();
     /// Shows the lists and the stretch while the screen is open, the entry frame else.
     void Mostra();
-    void Fuoco();
-    /// The keys that mean something on this screen; false for all others, and while it is closed.
-    bool Tasto(const QKeyEvent& tasto);
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
+    bool Tasto(const QKeyEvent& tasto) override;
 
   private:
     void Collega();

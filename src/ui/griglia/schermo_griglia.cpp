@@ -113,6 +113,14 @@ void SchermoGriglia::Mostra() {
     DiceLaCorrente();
 }
 
+// What was computed is read here, and a trip that one comes back to.
+bool SchermoGriglia::FuocoDopo(Comando /*comando*/, bool appenaAperto) {
+    const bool davanti = postazione_.Su<schermata::Viaggio>() || postazione_.Su<schermata::Cronovia>();
+    if (!appenaAperto || !davanti || postazione_.SenzaMete()) return false;
+    vista_->setFocus();
+    return true;
+}
+
 // Worked out when it is asked for.
 const GiorniItinerario& SchermoGriglia::Giorni() {
     const Documento& documento = postazione_.documento;

@@ -7,6 +7,7 @@
 #include "app/postazione.h"
 #include "schedule/giorni_itinerario.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
 #include "ui/comuni/trascinamento.h"
 #include "ui/griglia/modello_griglia.h"
 #include "ui/griglia/vista_griglia.h"
@@ -16,7 +17,7 @@ namespace cronovia {
 /// So many rows are on show at least, free ones included.
 inline constexpr int kRigheMinimeGriglia = 17;
 
-class SchermoGriglia : public QObject {
+class SchermoGriglia : public QObject, public Schermo {
     Q_OBJECT
 
   public:
@@ -26,6 +27,7 @@ class SchermoGriglia : public QObject {
     [[nodiscard]] VistaGriglia& Vista() const { return *vista_; }
     /// Shows the itinerary or the schedule of the document.
     void Mostra();
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
 
     /// Marks in the itinerary where the days of the last schedule begin.
     void SegnaGiorni();

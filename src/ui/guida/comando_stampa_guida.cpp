@@ -15,7 +15,11 @@ using namespace Qt::StringLiterals;
 
 ComandoStampaGuida::ComandoStampaGuida(const Ambiente& ambiente, Azioni& azioni, FrmSelStampa& stampante,
                                        QGridLayout& area)
-    : QObject(&ambiente.finestra), ambiente_(ambiente), stampante_(stampante), opzioni_(new FrmGuidaStampa(azioni)) {
+    : QObject(&ambiente.finestra),
+      ambiente_(ambiente),
+      azioni_(azioni),
+      stampante_(stampante),
+      opzioni_(new FrmGuidaStampa(azioni)) {
     area.addWidget(opzioni_, 0, 0, Qt::AlignCenter);
 }
 
@@ -24,6 +28,15 @@ void ComandoStampaGuida::Mostra() {
     const auto* guida = ambiente_.postazione.Su<schermata::Guida>();
     const std::optional<PassoStampa> passo = guida != nullptr ? guida->stampa : std::nullopt;
     opzioni_->Mostra(passo && passo != PassoStampa::InCorso, passo == PassoStampa::Scelte);
+}
+
+// Escape goes back one step.
+bool ComandoStampaGuida::Tasto(const QKeyEvent& tasto) {
+    const auto* guida = ambiente_.postazione.Su<schermata::Guida>();
+    if (tasto.key() != Qt::Key_Escape || guida == nullptr || !guida->stampa) return false;
+    const bool scelte = *guida->stampa == schermata::PassoStampa::Scelte;
+    azioni_.Di(scelte ? Comando::RinunciaStampaGuida : Comando::RinunciaStampante).trigger();
+    return true;
 }
 
 void ComandoStampaGuida::MostraAnteprima() {

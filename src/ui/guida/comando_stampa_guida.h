@@ -10,7 +10,7 @@
 
 namespace cronovia {
 
-class ComandoStampaGuida : public QObject {
+class ComandoStampaGuida : public QObject, public Schermo {
     Q_OBJECT
 
   public:
@@ -19,6 +19,8 @@ class ComandoStampaGuida : public QObject {
 
     /// Shows what is to be printed while that is chosen; to be called whenever the state is shown anew.
     void Mostra();
+    bool FuocoDopo(Comando /*comando*/, bool /*appenaAperto*/) override { return false; }
+    bool Tasto(const QKeyEvent& tasto) override;
     void MostraAnteprima();
     void Stampa();
 
@@ -26,6 +28,7 @@ class ComandoStampaGuida : public QObject {
     [[nodiscard]] std::optional<Stampato> Prepara();
 
     Ambiente ambiente_;
+    Azioni& azioni_;
     FrmSelStampa& stampante_;
     FrmGuidaStampa* opzioni_;
 };

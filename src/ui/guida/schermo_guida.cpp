@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "app/comandi_guida.h"
-#include "calendar/testo.h"
 #include "ui/comuni/controlli.h"
 
 namespace cronovia {
@@ -41,11 +40,12 @@ void SchermoGuida::Collega() {
         if (!mouseTiene_) QTimer::singleShot(0, this, &SchermoGuida::VaiAllaRigaAttesa);
     });
     connect(&griglia_, &QTableView::clicked, this, &SchermoGuida::Fuoco);
-    connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
+    connect(&elenco_, &ElencoScelta::Scelta, this, [this](const QVariant& riga) {
         if (!Tavolo()) return;
-        VaiAllaRiga(voce->data(Qt::UserRole).toInt());
+        VaiAllaRiga(riga.toInt());
         Fuoco();
     });
+    connect(&elenco_, &ElencoScelta::Rinuncia, this, &SchermoGuida::ChiudiElenco);
 }
 
 const TavoloGuida* SchermoGuida::Tavolo() const {
@@ -56,6 +56,25 @@ const TavoloGuida* SchermoGuida::Tavolo() const {
 void SchermoGuida::Fuoco() {
     if (!Tavolo()) return;
     CampiCambiati() ? FuocoSulCampoMancante() : riquadro_->FuocoSullaDescrizione();
+}
+
+bool SchermoGuida::FuocoDopo(Comando comando, bool appenaAperto) {
+    if (!Tavolo() || postazione_.StampaAperta()) return false;
+    switch (comando) {
+        case Comando::CercaInGuida:
+            elenco_.setFocus();
+            return true;
+        case Comando::SalvaRigaGuida:
+        case Comando::CancellaRigaGuida:
+        case Comando::FineGuida:
+        case Comando::RinunciaStampaGuida:
+        case Comando::AvviaStampa:
+            Fuoco();
+            return true;
+        default:
+            if (appenaAperto) Fuoco();
+            return appenaAperto;
+    }
 }
 
 void SchermoGuida::FuocoSulCampoMancante() {
@@ -127,19 +146,23 @@ void SchermoGuida::Abilita(const TavoloGuida& tavolo) {
 }
 
 void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
-    if (tavolo.ElencoLocalitaVisibile() && !elenco_.isVisible()) {
-        elenco_.clear();
-        for (std::size_t i = 0; i < tavolo.Elenco()->size(); ++i) {
-            const RigaGuida& riga = (*tavolo.Elenco())[i];
+    elenco_.Mostra(tavolo.ElencoLocalitaVisibile(), [&] {
+        std::vector<VoceScelta> voci;
+        int numero = 0;
+        for (const RigaGuida& riga : *tavolo.Elenco()) {
+            ++numero;
             if (riga.voce) continue;
-            const auto numero = static_cast<int>(i) + 1;
-            auto* voce = new QListWidgetItem(
-                RiempiDopo(Visibile(riga.localita), kCaratteriLocalita, u' ') + Zero(numero, 4), &elenco_);
-            voce->setData(Qt::UserRole, numero);
-            if (riga.localita == tavolo.Corrente().localita) elenco_.setCurrentItem(voce);
+            const bool corrente = riga.localita == tavolo.Corrente().localita;
+            voci.push_back(VoceLocalita(riga.localita, kCaratteriLocalita, numero, corrente));
         }
-    }
-    elenco_.setVisible(tavolo.ElencoLocalitaVisibile());
+        return voci;
+    });
+}
+
+void SchermoGuida::ChiudiElenco() {
+    if (!Tavolo()) return;
+    Comanda([](TavoloGuida& t) { t.ChiudiElenco(); });
+    riquadro_->FuocoSullaDescrizione();
 }
 
 // Enter saves what was typed and leaves otherwise; Escape goes back one step.
@@ -151,8 +174,7 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
     if (!invio && !esc) return false;
     if (postazione_.StampaAperta()) return false;
     if (esc && tavolo->ElencoLocalitaVisibile()) {
-        Comanda([](TavoloGuida& t) { t.ChiudiElenco(); });
-        riquadro_->FuocoSullaDescrizione();
+        ChiudiElenco();
     } else if (tavolo->ElencoLocalitaVisibile()) {
         return true;
     } else if (auto* pulsante = qobject_cast<QPushButton*>(riquadro_->window()->focusWidget()); invio && pulsante) {

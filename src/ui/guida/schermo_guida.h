@@ -8,15 +8,14 @@
 #include "app/postazione.h"
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
 #include "ui/griglia/vista_griglia.h"
 #include "ui/guida/frm_guida.h"
 #include "ui/guida/modello_guida.h"
 
-class QKeyEvent;
-
 namespace cronovia {
 
-class SchermoGuida : public QObject {
+class SchermoGuida : public QObject, public Schermo {
     Q_OBJECT
 
   public:
@@ -29,8 +28,8 @@ class SchermoGuida : public QObject {
     void Fuoco();
     /// Shows the guide list in the grid and its frame; false when the guide screen is closed.
     bool Mostra(int righeMinime);
-    /// The keys that mean something on this screen; false for all others, and while it is closed.
-    bool Tasto(const QKeyEvent& tasto);
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
+    bool Tasto(const QKeyEvent& tasto) override;
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   private:
@@ -41,6 +40,7 @@ class SchermoGuida : public QObject {
     void VaiAllaRiga(int riga);
     void VaiAllaRigaAttesa();
     void MostraElenco(const TavoloGuida& tavolo);
+    void ChiudiElenco();
     void Abilita(const TavoloGuida& tavolo);
     [[nodiscard]] bool CampiCambiati() const;
     void FuocoSulCampoMancante();

@@ -124,11 +124,21 @@ QWidget* FrmInputBox::CreaComandi(Azioni& azioni) {
     return gruppo;
 }
 
-void FrmInputBox::Mostra(int riga, const CampiTappa& campi) {
+void FrmInputBox::Mostra(int riga, const CampiTappa& campi, std::optional<bool> progressivi) {
+    const QSignalBlocker nessunoScrive(this);
+    const bool nuovi = riga != riga_ || campi != Campi();
+    if (nuovi) MostraCampi(riga, campi);
+    if (nuovi || progressivi != progressivi_) MostraKmProgressivi(progressivi);
+    riga_ = riga;
+    progressivi_ = progressivi;
+}
+
+void FrmInputBox::MostraCampi(int riga, const CampiTappa& campi) {
     txtRiga_->setText(QString::number(riga));
     txtTappa_->setText(campi.localita);
     txtNumStrada_->setText(campi.numStrada);
     txtKm_->setText(campi.km == 0 ? QString() : QString::number(campi.km));
+    txtKm_->setModified(campi.kmProgressivi);
     txtKm_->setPlaceholderText(campi.kmDaIndicare ? u"da indicare"_s : QString());
     if (campi.tipo) cmbTipoStrada_->setCurrentIndex(static_cast<int>(*campi.tipo));
     MostraVoce(*cmbSosta_[0], Zero(campi.sosta.giorni, 2));

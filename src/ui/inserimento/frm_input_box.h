@@ -22,10 +22,9 @@ class FrmInputBox : public QGroupBox {
   public:
     explicit FrmInputBox(Azioni& azioni);
 
-    /// Puts a row, counted from 1, and its fields into the controls; without a type that of the road stays.
-    void Mostra(int riga, const CampiTappa& campi);
-    /// Whether kilometres can be progressive ones, which the person may deny; nothing: not shown.
-    void MostraKmProgressivi(std::optional<bool> possibili);
+    /// Puts a row, counted from 1, and its fields into the controls that show something else; without a type that of
+    /// the road stays. Whether kilometres can be progressive ones, which the person may deny; nothing: not shown.
+    void Mostra(int riga, const CampiTappa& campi, std::optional<bool> progressivi);
     /// What the controls hold, trimmed; kilometres that are no number are 0 and so marked.
     [[nodiscard]] CampiTappa Campi() const;
     /// Beside the fields; nothing is shown for the empty text.
@@ -38,6 +37,8 @@ class FrmInputBox : public QGroupBox {
     void Cambiata();
 
   private:
+    void MostraCampi(int riga, const CampiTappa& campi);
+    void MostraKmProgressivi(std::optional<bool> possibili);
     QWidget* CreaCampi();
     static QWidget* CreaComandi(Azioni& azioni);
 
@@ -50,6 +51,8 @@ class FrmInputBox : public QGroupBox {
     QCheckBox* chkEndDay_;
     QCheckBox* chkKm_;
     QLabel* lblSuggerimenti_ = nullptr;
+    int riga_ = 0;
+    std::optional<bool> progressivi_;
 };
 
 }  // namespace cronovia

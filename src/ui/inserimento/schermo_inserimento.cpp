@@ -2,7 +2,6 @@
 #include "ui/inserimento/schermo_inserimento.h"
 
 #include "app/comandi_inserimento.h"
-#include "calendar/testo.h"
 #include "itinerary/suggerimenti.h"
 
 namespace cronovia {
@@ -15,8 +14,11 @@ constexpr int kColonneLocalita = 31;
 
 }  // namespace
 
-SchermoInserimento::SchermoInserimento(Postazione& postazione, Azioni& azioni, ElencoScelta& elenco, Esegui esegui)
+SchermoInserimento::SchermoInserimento(Postazione& postazione, Azioni& azioni, VistaGriglia& griglia,
+                                       ElencoScelta& elenco, Esegui esegui)
     : postazione_(postazione),
+      azioni_(azioni),
+      griglia_(griglia),
       elenco_(elenco),
       esegui_(std::move(esegui)),
       riquadro_(new FrmInputBox(azioni)),
@@ -28,59 +30,60 @@ SchermoInserimento::SchermoInserimento(Postazione& postazione, Azioni& azioni, E
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->setMinimumWidth(riquadro_->minimumSizeHint().width() + 20);
     area_->setObjectName(u"areaInserimento"_s);
-    connect(riquadro_, &FrmInputBox::Cambiata, this, &SchermoInserimento::MostraSuggerimenti);
-    connect(&elenco_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
+    Collega();
+}
+
+void SchermoInserimento::Collega() {
+    connect(riquadro_, &FrmInputBox::Cambiata, this, &SchermoInserimento::Raccogli);
+    connect(&griglia_, &QTableView::clicked, this, &SchermoInserimento::FuocoSullaTappa);
+    connect(&elenco_, &ElencoScelta::Scelta, this, [this](const QVariant& riga) {
         if (!postazione_.Su<schermata::Inserimento>()) return;
-        esegui_([&] { comandi::ScegliTappa(postazione_, voce->data(Qt::UserRole).toInt()); });
+        esegui_([&] { comandi::ScegliTappa(postazione_, riga.toInt()); });
         FuocoSullaTappa();
     });
+    connect(&elenco_, &ElencoScelta::Rinuncia, this, &SchermoInserimento::ChiudiElenco);
 }
 
 void SchermoInserimento::Raccogli() {
-    auto* inserimento = postazione_.Su<schermata::Inserimento>();
-    if (inserimento == nullptr) return;
-    inserimento->campi = riquadro_->Campi();
-    MostraSuggerimenti();  // a speed may be another one
-}
-
-// What is being typed stays, unless another stage has come into its row.
-void SchermoInserimento::Mostra() {
-    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
-    MostraElenco(inserimento != nullptr && inserimento->elencoTappe);
-    if (!postazione_.InInserimento()) {
-        mostrati_.reset();
-        return;
-    }
-    Mostrati adesso{postazione_.documento.RigaCorrente(), postazione_.documento.CampiCorrenti(),
-                    comandi::KmProgressivi(postazione_)};
-    const bool stessaRiga = mostrati_ && mostrati_->riga == adesso.riga && mostrati_->campi == adesso.campi;
-    const bool appenaAperto = inserimento != nullptr && !mostrati_;
-    if (!stessaRiga) riquadro_->Mostra(adesso.riga, appenaAperto ? inserimento->campi : adesso.campi);
-    if (!stessaRiga || mostrati_->progressivi != adesso.progressivi) {
-        riquadro_->MostraKmProgressivi(adesso.progressivi);
-    }
-    mostrati_ = std::move(adesso);
+    if (!postazione_.InInserimento()) return;
+    postazione_.TappaInScrittura()->campi = riquadro_->Campi();
     MostraSuggerimenti();
 }
 
-void SchermoInserimento::MostraElenco(bool aperto) {
+void SchermoInserimento::Mostra() {
+    MostraElenco();
+    auto* inserimento = postazione_.InInserimento() ? postazione_.TappaInScrittura() : nullptr;
+    if (inserimento == nullptr) return riquadro_->Mostra(0, {}, {});
+    const bool intatti = inserimento->campi == inserimento->letti;
+    riquadro_->Mostra(inserimento->riga, inserimento->campi, comandi::KmProgressivi(postazione_));
+    inserimento->campi = riquadro_->Campi();
+    if (intatti) inserimento->letti = inserimento->campi;
+    MostraSuggerimenti();
+}
+
+void SchermoInserimento::MostraElenco() {
     if (postazione_.Su<schermata::Guida>()) return;  // it has the list
-    if (aperto && !elenco_.isVisible()) {
-        elenco_.clear();
-        const RigheItinerario& righe = postazione_.documento.Righe();
-        for (std::size_t i = 0; i < righe.size(); ++i) {
-            if (righe[i].localita.isEmpty()) continue;
-            const auto riga = static_cast<int>(i) + 1;
-            auto* voce = new QListWidgetItem(
-                RiempiDopo(Visibile(righe[i].localita), kColonneLocalita, u' ') + Zero(riga, 4), &elenco_);
-            voce->setData(Qt::UserRole, riga);
-            if (riga == postazione_.documento.RigaCorrente()) elenco_.setCurrentItem(voce);
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    elenco_.Mostra(inserimento != nullptr && inserimento->elencoTappe, [this] {
+        std::vector<VoceScelta> voci;
+        int riga = 0;
+        for (const Tappa& tappa : postazione_.documento.Righe()) {
+            ++riga;
+            if (tappa.localita.isEmpty()) continue;
+            const bool corrente = riga == postazione_.documento.RigaCorrente();
+            voci.push_back(VoceLocalita(tappa.localita, kColonneLocalita, riga, corrente));
         }
-    }
-    elenco_.setVisible(aperto);
+        return voci;
+    });
+}
+
+void SchermoInserimento::ChiudiElenco() {
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    if (inserimento != nullptr && inserimento->elencoTappe) esegui_([this] { comandi::Fine(postazione_); });
 }
 
 void SchermoInserimento::MostraSuggerimenti() {
+    if (!postazione_.InInserimento()) return;
     const Documento& documento = postazione_.documento;
     CampiTappa campi = riquadro_->Campi();
     campi.km = comandi::KmInseriti(postazione_, campi);
@@ -90,6 +93,46 @@ void SchermoInserimento::MostraSuggerimenti() {
         testi += Testo(suggerimento);
     }
     riquadro_->MostraSuggerimenti(testi.join(u'\n'));
+}
+
+bool SchermoInserimento::FuocoDopo(Comando comando, bool appenaAperto) {
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    if (inserimento == nullptr) return false;
+    switch (comando) {
+        case Comando::Cerca:
+            elenco_.setFocus();
+            return true;
+        case Comando::Inserisce:
+            FuocoDopoInserisce();
+            return true;
+        case Comando::Itinerario:
+        case Comando::Aggiunge:
+        case Comando::Cancella:
+        case Comando::Ritorno:
+        case Comando::AltriPacchetti:
+        case Comando::Fine:
+            FuocoSullaTappa();
+            return true;
+        default:
+            if (appenaAperto) FuocoSullaTappa();
+            return appenaAperto;
+    }
+}
+
+// Enter writes the stage, unless it presses a button; Escape closes the list of places.
+bool SchermoInserimento::Tasto(const QKeyEvent& tasto) {
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    if (inserimento == nullptr) return false;
+    if (tasto.key() == Qt::Key_Escape && inserimento->elencoTappe) {
+        ChiudiElenco();
+        return true;
+    }
+    const QWidget* fuoco = area_->window()->focusWidget();
+    const bool invio = tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter;
+    const bool sullaTappa = area_->isAncestorOf(fuoco) || fuoco == &griglia_;
+    if (!invio || !sullaTappa || qobject_cast<const QPushButton*>(fuoco) != nullptr) return false;
+    azioni_.Pulsante(Comando::Inserisce).click();
+    return true;
 }
 
 // A refused stage is put right where the refusal said.

@@ -4,49 +4,47 @@
 
 #include <QObject>
 #include <QScrollArea>
-#include <optional>
-
 #include "app/postazione.h"
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
+#include "ui/griglia/vista_griglia.h"
 #include "ui/inserimento/frm_input_box.h"
 
 namespace cronovia {
 
-class SchermoInserimento : public QObject {
+class SchermoInserimento : public QObject, public Schermo {
     Q_OBJECT
 
   public:
     /// The list is shared with the guide screen.
-    SchermoInserimento(Postazione& postazione, Azioni& azioni, ElencoScelta& elenco, Esegui esegui);
+    SchermoInserimento(Postazione& postazione, Azioni& azioni, VistaGriglia& griglia, ElencoScelta& elenco,
+                       Esegui esegui);
 
     /// The frame as it is placed, in an area that scrolls; the copy screen shows and hides it.
     [[nodiscard]] QScrollArea& Area() const { return *area_; }
-    [[nodiscard]] FrmInputBox& Riquadro() const { return *riquadro_; }
-    /// What the entry fields hold goes to the screen's state.
-    void Raccogli();
+    /// Shows the screen's state, which what is typed goes to at once.
     void Mostra();
-    /// Puts the focus on the place to be typed, while stages are entered.
-    void FuocoSullaTappa();
-    /// The same after a stage was written; when it was refused, on what is wrong.
-    void FuocoDopoInserisce();
+    /// Beside the fields: also after something changed elsewhere, a speed perhaps.
+    void MostraSuggerimenti();
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
+    bool Tasto(const QKeyEvent& tasto) override;
 
   private:
-    // What was last put into the frame.
-    struct Mostrati {
-        int riga;
-        CampiTappa campi;
-        std::optional<bool> progressivi;
-    };
-    void MostraElenco(bool aperto);
-    void MostraSuggerimenti();
+    void Collega();
+    void Raccogli();
+    void MostraElenco();
+    void ChiudiElenco();
+    void FuocoSullaTappa();
+    void FuocoDopoInserisce();
 
     Postazione& postazione_;
+    Azioni& azioni_;
+    VistaGriglia& griglia_;
     ElencoScelta& elenco_;
     Esegui esegui_;
     FrmInputBox* riquadro_;
     QScrollArea* area_;
-    std::optional<Mostrati> mostrati_;
 };
 
 }  // namespace cronovia

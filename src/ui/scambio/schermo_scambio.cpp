@@ -22,6 +22,12 @@ void SchermoScambio::Mostra() {
     riquadro_->setVisible(scambio != nullptr);
 }
 
+bool SchermoScambio::FuocoDopo(Comando /*comando*/, bool appenaAperto) {
+    if (!appenaAperto || !postazione_.Su<schermata::Scambio>()) return false;
+    Fuoco();
+    return true;
+}
+
 void SchermoScambio::Fuoco() {
     if (const auto* scambio = postazione_.Su<schermata::Scambio>()) {
         riquadro_->FuocoSullaScelta(scambio->tavolo.Modo());

@@ -6,11 +6,12 @@
 
 #include "app/postazione.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
 #include "ui/scambio/frm_export.h"
 
 namespace cronovia {
 
-class SchermoScambio : public QObject {
+class SchermoScambio : public QObject, public Schermo {
     Q_OBJECT
 
   public:
@@ -21,6 +22,7 @@ class SchermoScambio : public QObject {
     void Mostra();
     /// Puts the focus on the list to choose from, while the screen is open.
     void Fuoco();
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
 
   private:
     Postazione& postazione_;

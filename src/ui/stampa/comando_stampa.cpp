@@ -57,6 +57,7 @@ std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, cons
 ComandoStampa::ComandoStampa(Ambiente ambiente, Azioni& azioni, FrmSelStampa& stampante, QGridLayout& area)
     : QObject(&ambiente.finestra),
       ambiente_(std::move(ambiente)),
+      azioni_(azioni),
       opzioni_(new FrmStampa(azioni)),
       stampante_(stampante),
       inCorso_(NuovoStampaInCorso()) {
@@ -75,6 +76,21 @@ void ComandoStampa::Mostra() {
     const auto* stampa = ambiente_.postazione.Su<schermata::Stampa>();
     opzioni_->Mostra(stampa != nullptr && stampa->passo != PassoStampa::InCorso,
                      stampa != nullptr && stampa->passo == PassoStampa::Scelte);
+}
+
+bool ComandoStampa::FuocoDopo(Comando comando, bool appenaAperto) {
+    if (!ambiente_.postazione.Su<schermata::Stampa>() || !(appenaAperto || comando == Comando::Stampa)) return false;
+    opzioni_->Fuoco();
+    return true;
+}
+
+// Escape goes back one step.
+bool ComandoStampa::Tasto(const QKeyEvent& tasto) {
+    const auto* stampa = ambiente_.postazione.Su<schermata::Stampa>();
+    if (tasto.key() != Qt::Key_Escape || stampa == nullptr) return false;
+    const bool scelte = stampa->passo == schermata::PassoStampa::Scelte;
+    azioni_.Di(scelte ? Comando::RinunciaStampa : Comando::RinunciaStampante).trigger();
+    return true;
 }
 
 void ComandoStampa::MostraAnteprima() {

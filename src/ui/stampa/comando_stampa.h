@@ -8,6 +8,7 @@
 #include "print/dati_stampa.h"
 #include "print/foglio.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
 #include "ui/stampa/frm_sel_stampa.h"
 #include "ui/stampa/frm_stampa.h"
 
@@ -29,7 +30,7 @@ struct Ambiente {
 std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, const QString& stampante, bool suFile,
                                                   const QString& titolo);
 
-class ComandoStampa : public QObject {
+class ComandoStampa : public QObject, public Schermo {
     Q_OBJECT
 
   public:
@@ -40,7 +41,8 @@ class ComandoStampa : public QObject {
     void Raccogli();
     /// Shows what is to be printed while that is chosen; to be called whenever the state is shown anew.
     void Mostra();
-    void Fuoco() { opzioni_->Fuoco(); }
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
+    bool Tasto(const QKeyEvent& tasto) override;
     void MostraAnteprima();
     void Stampa();
 
@@ -51,6 +53,7 @@ class ComandoStampa : public QObject {
     [[nodiscard]] PieDiPagina Piede() const;
 
     Ambiente ambiente_;
+    Azioni& azioni_;
     FrmStampa* opzioni_;
     FrmSelStampa& stampante_;
     QFrame* inCorso_;

@@ -59,8 +59,8 @@ void SchermoViaggio::Collega() {
     });
     connect(tempi_, &FrmMeteTempi::OrarioLasciato, this,
             [this] { esegui_([this] { postazione_.documento.ControllaOrari(); }); });
-    connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](QListWidgetItem* voce) {
-        esegui_([&] { comandi::ScegliMeta(postazione_, voce->data(Qt::UserRole).toString()); });
+    connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](const QVariant& codice) {
+        esegui_([&] { comandi::ScegliMeta(postazione_, codice.toString()); });
         if (!postazione_.Su<schermata::ElencoMete>()) Q_EMIT ElencoChiuso();
     });
     connect(cmbRicerca_, &ElencoScelta::Rinuncia, this, [this] {
@@ -92,6 +92,24 @@ bool SchermoViaggio::ConcludiIlCampo() {
     const ParametriViaggio prima = postazione_.documento.Campi().parametri;
     postazione_.documento.ControllaOrari();
     return postazione_.documento.Campi().parametri != prima;
+}
+
+bool SchermoViaggio::FuocoDopo(Comando comando, bool appenaAperto) {
+    const auto* viaggio = postazione_.Su<schermata::Viaggio>();
+    if (viaggio != nullptr && viaggio->fase == schermata::Viaggio::Fase::Nuova && comando == Comando::Nuovo) {
+        periodo_->FuocoSullaLocalita();
+        return true;
+    }
+    if (!appenaAperto || !postazione_.Su<schermata::ElencoMete>()) return false;
+    cmbRicerca_->setFocus();
+    return true;
+}
+
+// Escape closes the list.
+bool SchermoViaggio::Tasto(const QKeyEvent& tasto) {
+    if (tasto.key() != Qt::Key_Escape || !postazione_.Su<schermata::ElencoMete>()) return false;
+    Q_EMIT cmbRicerca_->Rinuncia();
+    return true;
 }
 
 void SchermoViaggio::FuocoSulCampo(mete::Field campo) {
@@ -128,15 +146,13 @@ void SchermoViaggio::Mostra(bool liberi) {
 
 void SchermoViaggio::MostraElenco() {
     const auto* elenco = postazione_.Su<schermata::ElencoMete>();
-    if (elenco != nullptr && !cmbRicerca_->isVisible()) {
-        cmbRicerca_->clear();
+    cmbRicerca_->Mostra(elenco != nullptr, [&] {
+        std::vector<VoceScelta> voci;
         for (const MetaInElenco& meta : elenco->mete) {
-            auto* voce = new QListWidgetItem(TestoInElenco(meta), cmbRicerca_);
-            voce->setData(Qt::UserRole, meta.codice);
-            if (meta.codice == postazione_.documento.Codice()) cmbRicerca_->setCurrentItem(voce);
+            voci.push_back({TestoInElenco(meta), meta.codice, meta.codice == postazione_.documento.Codice()});
         }
-    }
-    cmbRicerca_->setVisible(elenco != nullptr);
+        return voci;
+    });
 }
 
 }  // namespace cronovia

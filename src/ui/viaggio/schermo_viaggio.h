@@ -7,13 +7,14 @@
 #include "app/postazione.h"
 #include "ui/comuni/elenco_scelta.h"
 #include "ui/comuni/esegui.h"
+#include "ui/comuni/schermo.h"
 #include "ui/viaggio/frm_mete_periodo.h"
 #include "ui/viaggio/frm_mete_tempi.h"
 #include "ui/viaggio/frm_mete_velocita.h"
 
 namespace cronovia {
 
-class SchermoViaggio : public QWidget {
+class SchermoViaggio : public QWidget, public Schermo {
     Q_OBJECT
 
   public:
@@ -31,7 +32,8 @@ class SchermoViaggio : public QWidget {
     bool ConcludiIlCampo();
     /// On the control of a field for which the trip cannot be saved.
     void FuocoSulCampo(mete::Field campo);
-    void FuocoSullaLocalita() { periodo_->FuocoSullaLocalita(); }
+    bool FuocoDopo(Comando comando, bool appenaAperto) override;
+    bool Tasto(const QKeyEvent& tasto) override;
 
   Q_SIGNALS:
     /// The person changed a field.
