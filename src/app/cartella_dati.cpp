@@ -2,6 +2,7 @@
 #include "app/cartella_dati.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -19,6 +20,13 @@ QString CartellaDati(const LuoghiPossibili& luoghi) {
 LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta) {
     return {richiesta, QCoreApplication::applicationDirPath(),
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)};
+}
+
+QString FileDelProgramma(const QString& nome) {
+    const QDir programma(QCoreApplication::applicationDirPath());
+    const QString accanto = programma.filePath(nome);
+    if (QFileInfo::exists(accanto)) return accanto;
+    return QDir::cleanPath(programma.filePath(QStringLiteral(CRONOVIA_DATA_FOLDER "/") + nome));
 }
 
 }  // namespace cronovia

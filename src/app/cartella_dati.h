@@ -19,4 +19,8 @@ QString CartellaDati(const LuoghiPossibili& luoghi);
 /// The possible places as this platform has them.
 LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta);
 
+/// Path of a file that comes with the program, as "luoghi.dat": beside it, or where an installation puts such files.
+/// Whether it is there nobody has asked.
+QString FileDelProgramma(const QString& nome);
+
 }  // namespace cronovia

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 const TableDefinition& Definition(Table table) {
 #define CRONOVIA_DEFINITION(name, width) {u"" #name ""_s, width},
-    static const std::array<TableDefinition, 8> definitions = {{
+    static const std::array<TableDefinition, 9> definitions = {{
         {u"MeteVandro"_s,
          {CRONOVIA_METE_FIELDS(CRONOVIA_DEFINITION)},
          {u"CodiceMeta"_s, u"Localita"_s},
@@ -30,6 +30,7 @@ const TableDefinition& Definition(Table table) {
         {u"Parametri"_s, {CRONOVIA_PARAMETRI_FIELDS(CRONOVIA_DEFINITION)}, {}, u"dei parametri"_s},
         {u"Vincoli"_s, {CRONOVIA_VINCOLI_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"degli orari fissati"_s},
         {u"Scadenze"_s, {CRONOVIA_SCADENZE_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"delle scadenze"_s},
+        {u"Posizioni"_s, {CRONOVIA_POSIZIONI_FIELDS(CRONOVIA_DEFINITION)}, {u"Localita"_s}, u"delle posizioni"_s},
     }};
 #undef CRONOVIA_DEFINITION
     return definitions.at(static_cast<std::size_t>(table) - 1);
@@ -44,7 +45,7 @@ const std::vector<Table>& AllTables() {
 }
 
 const std::vector<Table>& TablesOnDemand() {
-    static const std::vector<Table> tables = {Table::Vincoli, Table::Scadenze};
+    static const std::vector<Table> tables = {Table::Vincoli, Table::Scadenze, Table::Posizioni};
     return tables;
 }
 

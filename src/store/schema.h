@@ -17,6 +17,7 @@ enum class Table {
     Parametri,       ///< at most one row: the personal default travel parameters
     Vincoli,         ///< at most one row per stage: what others set for it, and notes
     Scadenze,        ///< at most one row per trip: when one has to be home
+    Posizioni,       ///< at most one row per locality: where it lies, as someone has said
 };
 
 // The fields of the tables with their widths, in the order of their columns. What else is told of fields (their
@@ -100,6 +101,11 @@ enum class Table {
     FIELD(Localita, 30)                 \
     FIELD(RientroData, 8)               \
     FIELD(RientroOra, 4)
+// Degrees, with a point and five places.
+#define CRONOVIA_POSIZIONI_FIELDS(FIELD) \
+    FIELD(Localita, 30)                  \
+    FIELD(Latitudine, 10)                \
+    FIELD(Longitudine, 10)
 
 // Positions of the fields in their tables' records; `kCampi` is how many there are.
 #define CRONOVIA_POSITION(name, width) name,
@@ -127,6 +133,9 @@ enum Field { CRONOVIA_VINCOLI_FIELDS(CRONOVIA_POSITION) kCampi };
 namespace scadenze {
 enum Field { CRONOVIA_SCADENZE_FIELDS(CRONOVIA_POSITION) kCampi };
 }  // namespace scadenze
+namespace posizioni {
+enum Field { CRONOVIA_POSIZIONI_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace posizioni
 #undef CRONOVIA_POSITION
 
 /// A field: 0 for yes/no, else a text of at most so many characters.

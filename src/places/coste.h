@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Coasts and borders of Europe and what is around it, for maps.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "places/posizione.h"
+
+namespace cronovia {
+
+using Linea = std::vector<Posizione>;
+
+struct Coste {
+    std::vector<Linea> terre;    ///< rings, filled together by the odd-even rule; cut where the known part ends
+    std::vector<Linea> confini;  ///< lines
+};
+
+/// The part of the earth that they cover: what is cut off runs along its rim.
+inline constexpr Posizione kAngoloSudOvest{26, -26};
+inline constexpr Posizione kAngoloNordEst{74, 62};
+
+/// Empty when there is no such file, or it is none.
+Coste LeggiCoste(const QString& file);
+
+}  // namespace cronovia
