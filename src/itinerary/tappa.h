@@ -27,6 +27,8 @@ struct Tappa {
 
     /// Reached by ferry: so says its road, or the ferry's own hours.
     [[nodiscard]] bool Traghetto() const { return numStrada.contains(QStringView(u"TRAGH")) || vincoli.ConTraghetto(); }
+    /// A ferry that takes the average time of the trip's ferries, at whichever hour.
+    [[nodiscard]] bool TraghettoSenzaOrario() const { return !vincoli.ConTraghetto() && Traghetto(); }
     /// The kilometres that are driven: a ferry with its own hours has none.
     [[nodiscard]] int KmGuidati() const { return vincoli.ConTraghetto() ? 0 : km; }
     [[nodiscard]] TipoStrada TipoEffettivo() const { return tipo.value_or(TipoStrada::Locale); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "print/stampa_giornate.h"
 
+#include <algorithm>
 #include <array>
 
 #include "calendar/testo.h"
@@ -144,11 +145,14 @@ void StampaTabella::StampaLegenda() {
     constexpr double kCampione = 6;
     constexpr double kFraVoci = 5;
     constexpr Carattere kVoce{7};
-    double x = kInizioStriscia - 20;
+    const bool conAttese = std::any_of(dati_.giorni.begin(), dati_.giorni.end(),
+                                       [](const GiornoStampato& g) { return g.giornata.attesa > 0_cent; });
+    double x = kInizioStriscia - (conAttese ? 40 : 20);
     const double riga = kUltimaRiga + kAltezzaRiga;
     for (int i = 0; i < kGeneriPezzo; ++i) {
         const auto genere = static_cast<GenerePezzo>(i);
         if (genere == GenerePezzo::Cena) continue;  // looks as lunch does
+        if (genere == GenerePezzo::Attesa && !conAttese) continue;
         const QString nome = genere == GenerePezzo::Pranzo ? u"pasto"_s : Aspetto(genere).nome.toString();
         foglio_.Traccia(Barra{{x, riga - 2.6, kCampione, 2.4}, genere});
         x += kCampione + 1;

@@ -9,6 +9,7 @@
 #include "calendar/durata.h"
 #include "interaction/failure.h"
 #include "itinerary/riepilogo.h"
+#include "schedule/ore_fisse.h"
 #include "schedule/rientro.h"
 #include "schedule/simulazione.h"
 #include "trips/orario.h"
@@ -78,6 +79,46 @@ QString Messaggio(int giorniVoluti, double giorniRiferimento, int tentativi) {
     return u"Elaborazione impossibile! (tentativi effettuati n. %1)"_s.arg(tentativi);
 }
 
+bool InTempo(const Passata& passata, Istante entro) {
+    const auto ultima = std::find_if(passata.righe.rbegin(), passata.righe.rend(),
+                                     [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
+    return ultima == passata.righe.rend() || Istante{ultima->data, ultima->ora} <= entro;
+}
+
+// A share of the stops, in thousandths, and the pass with it.
+struct Quota {
+    int millesimi = 0;
+    Passata passata;
+};
+
+// The largest share with which one is home in time; nothing when even without stops one is not. `simula` makes the pass
+// of a share; one that was interrupted is returned as it is.
+template <typename Simula>
+std::optional<Quota> QuotaInTempo(Istante entro, Simula&& simula) {
+    constexpr int kMassimaQuota = 999'000;
+    Quota sicura{0, simula(0)};
+    if (sicura.passata.interrotta) return sicura;
+    if (!InTempo(sicura.passata, entro)) return std::nullopt;
+    int troppo = kMassimaQuota + 1;
+    for (int passo = 1000; troppo - sicura.millesimi > 1; passo *= 2) {
+        const int prova = std::min(sicura.millesimi + passo, (sicura.millesimi + troppo) / 2);
+        Quota quota{prova, simula(prova)};
+        if (quota.passata.interrotta) return quota;
+        if (InTempo(quota.passata, entro)) {
+            sicura = std::move(quota);
+        } else {
+            troppo = prova;
+        }
+    }
+    return sicura;
+}
+
+QString MessaggioScadenza(const Scadenza& scadenza, const std::optional<Quota>& quota) {
+    const QString entro = Testo(scadenza.Ora());
+    if (!quota) return u" Anche senza soste non si è a casa entro %1."_s.arg(entro);
+    return u" Soste al %1% per essere a casa entro %2."_s.arg(quota->millesimi / 10).arg(entro);
+}
+
 std::vector<Durata> SosteDellaTabella(const TabellaCalcolo& tabella) {
     std::vector<Durata> soste;
     soste.reserve(tabella.righe.size());
@@ -97,6 +138,9 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
     const bool daAdeguare = meta.giorniAdeguamento > 0 && riepilogo.totali.km[kTuttiITipi] > 0;
     double riferimento = StimaGiorni(riepilogo.totali, cronovia.tabella.totaleSoste, orario);
     std::vector<Durata> soste = SosteDellaTabella(cronovia.tabella);
+    const auto simula = [&](std::span<const Durata> iniziali, float fattore) {
+        return SimulaPassata({cronovia.tabella, iniziali, *meta.dataInizio, meta.oraInizio, orario, fattore}, progress);
+    };
     EsitoCalcolo esito;
     Passata passata;
     do {
@@ -106,21 +150,36 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
         const float fattore = daAdeguare ? CalcolaFattore(meta.giorniAdeguamento, riferimento) : 1.0F;
         ++esito.tentativi;
         progress.Title(TitoloTentativo(esito.tentativi, riferimento, meta.giorniAdeguamento, fattore));
-        passata = SimulaPassata({cronovia.tabella, soste, *meta.dataInizio, meta.oraInizio, orario, fattore}, progress);
+        passata = simula(soste, fattore);
         if (passata.interrotta) return esito;
         soste = passata.soste;
         riferimento = passata.fine ? passata.fine->giorni : 0;
     } while (daAdeguare && riferimento != meta.giorniAdeguamento && esito.tentativi < kMassimoTentativi);
 
-    SegnaRientro(passata.righe, passata.data, passata.ora, orario, progress);
+    const auto entro = meta.scadenza ? std::optional(meta.scadenza->Momento()) : std::nullopt;
+    QString messaggioScadenza;
+    if (daAdeguare && entro && !InTempo(passata, *entro)) {
+        const std::vector<Durata> intere = SosteDellaTabella(cronovia.tabella);
+        auto quota =
+            QuotaInTempo(*entro, [&](int millesimi) { return simula(intere, static_cast<float>(millesimi / 1000.0)); });
+        messaggioScadenza = MessaggioScadenza(*meta.scadenza, quota);
+        if (quota) passata = std::move(quota->passata);
+        if (passata.interrotta) return esito;
+        riferimento = passata.fine ? passata.fine->giorni : 0;
+    }
+
+    SegnaRientro(passata.righe, cronovia.tabella, entro.value_or(Istante{passata.data, passata.ora}), orario, progress);
     cronovia.righe = std::move(passata.righe);
     cronovia.fasce = std::move(passata.fasce);
     cronovia.rinvii = std::move(passata.rinvii);
+    cronovia.ore = std::move(passata.ore);
     cronovia.fine = passata.fine;
     cronovia.totali = passata.totali;
     cronovia.orario = orario;
+    ConfrontaScadenza(entro, cronovia);
+    SegnaRitardi(cronovia);
     esito.cronovia = std::move(cronovia);
-    esito.messaggio = Messaggio(meta.giorniAdeguamento, riferimento, esito.tentativi);
+    esito.messaggio = Messaggio(meta.giorniAdeguamento, riferimento, esito.tentativi) + messaggioScadenza;
     progress.Advance(0, 0);
     return esito;
 }

@@ -5,6 +5,7 @@
 
 #include "calendar/durata.h"
 #include "calendar/testo.h"
+#include "schedule/testi_ore.h"
 
 namespace cronovia {
 
@@ -83,6 +84,22 @@ void ScriviTratto(const Cronovia& cronovia, const RigaCronovia& riga, const Tapp
     ScriviMomento(riga, testi);
 }
 
+void ScriviTraghetto(const RigaCronovia& riga, const Tappa& tappa, RigaGriglia& testi) {
+    testi[Colonna::Tappa] = tappa.localita;
+    testi[Colonna::NumeroStrada] = tappa.numStrada;
+    testi[Colonna::Note] = u"Traghetto "_s + TestoOreLunghe(tappa.vincoli->traghetto->Navigazione());
+    if (riga.eventi.notte) testi[Colonna::Note] += u" Notte"_s;
+    ScriviMomento(riga, testi);
+}
+
+void ScriviAttesa(const Cronovia& cronovia, const RigaCronovia& riga, RigaGriglia& testi) {
+    const EsitoOra& ora = cronovia.ore[static_cast<std::size_t>(riga.voce)];
+    testi[Colonna::Tappa] = TestoBreve(ora);
+    const QString note = NoteTratto(riga.eventi, cronovia.orario.Parametri().riposoMinuti);
+    testi[Colonna::Note] = Testo(ora, cronovia) + (note.isEmpty() ? QString() : u' ' + note);
+    ScriviMomento(riga, testi);
+}
+
 void ScriviSosta(const RigaCronovia& riga, const Tappa& tappa, RigaGriglia& testi) {
     testi[Colonna::Tappa] = u"a: "_s + PrimoMaiuscolo(tappa.localita);
     testi[Colonna::Sosta] = TestoSosta(riga.sosta, riga.fineGiorno);
@@ -149,6 +166,12 @@ RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione) {
             break;
         case GenereRiga::Guida:
             ScriviGuida((*tabella.voci)[static_cast<std::size_t>(riga.voce)], testi);
+            break;
+        case GenereRiga::Attesa:
+            ScriviAttesa(cronovia, riga, testi);
+            break;
+        case GenereRiga::Traghetto:
+            ScriviTraghetto(riga, tabella.tappa, testi);
             break;
     }
     if (riga.riposoDopo) testi[Colonna::Ora].prepend(u"* "_s);

@@ -122,6 +122,9 @@ class Calendario {
             case GenereFascia::Riposo:
                 ++giornata.riposi;
                 break;
+            case GenereFascia::Attesa:
+                giornata.attesa += tempo;
+                break;
         }
     }
 

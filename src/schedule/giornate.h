@@ -23,6 +23,7 @@ struct Giornata {
     Centesimi guida;      ///< driving time
     Centesimi visite;     ///< time of stops, without ferries
     Centesimi traghetto;  ///< time on ferries
+    Centesimi attesa;     ///< time waited, between breakfast and night, for hours that others set
     bool pranzo = false;  ///< a lunch is taken on the way; the one of a stop is part of it
     bool cena = false;
     int riposi = 0;                 ///< short rests

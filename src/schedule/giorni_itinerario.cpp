@@ -25,12 +25,13 @@ GiorniItinerario::GiorniItinerario(const Cronovia& cronovia, const std::vector<G
     Cambi(cronovia, giornate.front().data);
 }
 
-// The driving to a stage ends on that day; one that takes no time is reached with the one before.
+// The driving or sailing to a stage ends on that day; one that takes no time is reached with the one before.
 void GiorniItinerario::Arrivi(const Cronovia& cronovia, NumeroGiorno partenza) {
     arrivo_.assign(rigaDi_.size(), kMaiRaggiunta);
     for (const Fascia& fascia : cronovia.fasce) {
         int& arrivo = arrivo_[static_cast<std::size_t>(TappaDella(cronovia, fascia))];
-        if (fascia.genere == GenereFascia::Marcia) {
+        const RigaCronovia& riga = cronovia.righe[static_cast<std::size_t>(fascia.riga)];
+        if (fascia.genere == GenereFascia::Marcia || riga.genere == GenereRiga::Traghetto) {
             arrivo = fascia.data - partenza + (fascia.a > kGiornoOrologio ? 1 : 0);
         } else if (arrivo == kMaiRaggiunta) {
             arrivo = fascia.data - partenza;

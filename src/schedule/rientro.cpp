@@ -2,69 +2,13 @@
 #include "schedule/rientro.h"
 
 #include "calendar/durata.h"
+#include "schedule/orologio_indietro.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// More rounds than this find no rest: a timetable whose meals leave no time for driving.
-constexpr int kMassimoGiri = 8;
-
-// A clock that runs backwards through driving, meals and nights.
-class OrologioIndietro {
-  public:
-    OrologioIndietro(NumeroGiorno data, Centesimi ora, const OrarioCorretto& orario)
-        : data_(data), ora_(ora), p_(orario.Parametri()) {
-        GuardaPasti();
-    }
-
-    [[nodiscard]] NumeroGiorno Data() const { return data_; }
-    [[nodiscard]] Centesimi Ora() const { return ora_; }
-
-    void GuardaPasti() {
-        cenaFatta_ = ora_ > p_.oraCena;
-        pranzoFatto_ = ora_ > p_.oraPranzo;
-    }
-
-    void Guida(Centesimi tempo) { ora_ -= tempo; }
-
-    void PastiENotti() {
-        bool mosso = true;
-        for (int giro = 0; mosso && giro < kMassimoGiri; ++giro) {
-            mosso = Pasto(p_.oraCena, p_.durataCena, cenaFatta_);
-            mosso = Pasto(p_.oraPranzo, p_.durataPranzo, pranzoFatto_) || mosso;
-            mosso = Notte() || mosso;
-        }
-    }
-
-  private:
-    bool Pasto(Centesimi pasto, Centesimi durata, bool& fatto) {
-        if (!fatto || ora_ >= pasto + durata) return false;
-        ora_ -= durata;
-        fatto = false;
-        return true;
-    }
-
-    bool Notte() {
-        if (ora_ >= p_.oraColazione) return false;
-        ora_ = p_.oraNotte - (p_.oraColazione - ora_);
-        data_ += -1;
-        cenaFatta_ = true;
-        pranzoFatto_ = true;
-        return true;
-    }
-
-    NumeroGiorno data_;
-    Centesimi ora_;
-    const ParametriViaggio& p_;
-    bool cenaFatta_ = false;
-    bool pranzoFatto_ = false;
-};
-
-// The driving time as the row shows it, to the minute.
-Centesimi TempoMostrato(const RigaCronovia& riga) { return ArrotondaAlMinuto(riga.tempo, kGiornoOrologio); }
 
 // The hour as the row shows it: on the clock of its day, to the minute.
 Centesimi OraMostrata(const RigaCronovia& riga) {
@@ -73,45 +17,70 @@ Centesimi OraMostrata(const RigaCronovia& riga) {
     return InCentesimi(ora, kGiornoOrologio);
 }
 
-void SegnaProsecuzione(std::span<RigaCronovia> righe, OrologioIndietro& orologio) {
-    righe.back().limite = LimiteRitorno{true, orologio.Data(), orologio.Ora()};
+LimiteRitorno Limite(bool prosecuzione, const OrologioIndietro& orologio) {
+    return {prosecuzione, orologio.Momento().data, orologio.Momento().ora};
+}
+
+// Nothing for rows of which the way does not consist.
+const TraghettoAOrario* TraghettoDi(const RigaCronovia& riga, const TabellaCalcolo& tabella) {
+    if (riga.genere != GenereRiga::Traghetto) return nullptr;
+    return &*tabella.righe[static_cast<std::size_t>(riga.tappa)].tappa.vincoli->traghetto;
+}
+
+void SegnaProsecuzione(std::span<RigaCronovia> righe, const TabellaCalcolo& tabella, OrologioIndietro& orologio) {
+    righe.back().limite = Limite(true, orologio);
     bool guidato = false;  // rows below this one were driven
     for (auto riga = righe.rbegin(); riga != righe.rend(); ++riga) {
         const Centesimi tempo = TempoMostrato(*riga);
-        if (tempo == 0_cent) continue;
-        if (guidato) riga->limite = LimiteRitorno{true, orologio.Data(), orologio.Ora()};
-        orologio.Guida(tempo);
-        orologio.PastiENotti();
+        const TraghettoAOrario* traghetto = TraghettoDi(*riga, tabella);
+        if (tempo == 0_cent && traghetto == nullptr) continue;
+        if (guidato) riga->limite = Limite(true, orologio);
+        if (traghetto != nullptr) {
+            orologio.Salpa(*traghetto);
+        } else {
+            orologio.Guida(tempo);
+            orologio.PastiENotti();
+        }
         guidato = true;
     }
 }
 
-void SegnaRitorno(std::span<RigaCronovia> righe, OrologioIndietro& orologio) {
+// Whether turning back at the end of a row is too late: its mark's day, with its own hour, is not before the clock.
+bool TroppoLontana(const RigaCronovia& riga, Istante orologio) {
+    if (!riga.limite) return false;
+    const NumeroGiorno limite = riga.limite->data;
+    return limite > orologio.data || (limite == orologio.data && orologio.ora <= OraMostrata(riga));
+}
+
+void SegnaRitorno(std::span<RigaCronovia> righe, const TabellaCalcolo& tabella, OrologioIndietro& orologio) {
     for (RigaCronovia& riga : righe.subspan(1)) {
         const Centesimi tempo = TempoMostrato(riga);
-        if (tempo == 0_cent) continue;
-        orologio.Guida(tempo);
-        if (riga.limite) {
-            const NumeroGiorno limite = riga.limite->data;
-            if (limite > orologio.Data()) break;
-            if (limite == orologio.Data() && orologio.Ora() <= OraMostrata(riga)) break;
+        const TraghettoAOrario* traghetto = TraghettoDi(riga, tabella);
+        if (tempo == 0_cent && traghetto == nullptr) continue;
+        if (traghetto != nullptr) {
+            orologio.Attraversa(*traghetto);
+        } else {
+            orologio.Guida(tempo);
         }
+        if (TroppoLontana(riga, orologio.Momento())) break;
         orologio.PastiENotti();
-        riga.limite = LimiteRitorno{false, orologio.Data(), orologio.Ora()};
+        riga.limite = Limite(false, orologio);
     }
 }
 
 }  // namespace
 
-void SegnaRientro(std::span<RigaCronovia> righe, NumeroGiorno data, Centesimi ora, const OrarioCorretto& orario,
-                  Progress& progress) {
+Centesimi TempoMostrato(const RigaCronovia& riga) { return ArrotondaAlMinuto(riga.tempo, kGiornoOrologio); }
+
+void SegnaRientro(std::span<RigaCronovia> righe, const TabellaCalcolo& tabella, Istante fine,
+                  const OrarioCorretto& orario, Progress& progress) {
     if (righe.empty()) return;
     progress.Title(u"Calcolo del rientro rapido (prosecuzione)"_s);
-    OrologioIndietro orologio(data, ora, orario);
-    SegnaProsecuzione(righe, orologio);
+    OrologioIndietro orologio(fine, orario);
+    SegnaProsecuzione(righe, tabella, orologio);
     progress.Title(u"Calcolo del rientro rapido (ritorno)"_s);
     orologio.GuardaPasti();
-    SegnaRitorno(righe, orologio);
+    SegnaRitorno(righe, tabella, orologio);
 }
 
 }  // namespace cronovia

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "calendar/date.h"
+#include "calendar/ora_fissa.h"
 #include "itinerary/riepilogo.h"
 #include "schedule/tabella_calcolo.h"
 #include "trips/orario.h"
@@ -17,14 +18,16 @@ namespace cronovia {
 
 /// What a row tells of.
 enum class GenereRiga : std::uint8_t {
-    Tappa,   ///< a stage without driving or stop: only its name
-    Marcia,  ///< a driving piece
-    Sosta,   ///< a stop, a visit or a ferry
-    Guida,   ///< an entry of the city guide
+    Tappa,      ///< a stage without driving or stop: only its name
+    Marcia,     ///< a driving piece
+    Sosta,      ///< a stop, a visit or a ferry without hours of its own
+    Guida,      ///< an entry of the city guide
+    Attesa,     ///< an hour that others set: the wait for it, the time left until it, or how late one is
+    Traghetto,  ///< the sailing of a ferry with its own hours
 };
 
 /// Whether rows of this kind have a day and an hour.
-constexpr bool ConMomento(GenereRiga genere) { return genere == GenereRiga::Marcia || genere == GenereRiga::Sosta; }
+constexpr bool ConMomento(GenereRiga genere) { return genere != GenereRiga::Tappa && genere != GenereRiga::Guida; }
 
 /// What happens at the end of a driving piece, in the order in which it happens.
 struct Eventi {
@@ -54,8 +57,8 @@ struct RigaCronovia {
     bool cambiaGiorno = false;  ///< a night or a change of day falls in it, or right behind it
     Eventi eventi;
     Motivo motivo = Motivo::Nessuno;
-    int tappa = 0;  ///< position of the stage in the calculation table
-    int voce = 0;   ///< position of the entry in the stage's guide entries
+    int tappa = 0;  ///< position of the stage in the calculation table; a wait at the quay is at the stage before
+    int voce = 0;   ///< position of the entry in the stage's guide entries, or of the hour in the schedule's
     int km = 0;     ///< of this piece
     std::int64_t kmProgressivi = 0;
     Centesimi tempo;    ///< driving time of this piece
@@ -66,9 +69,10 @@ struct RigaCronovia {
 };
 
 /// What time is spent on.
-enum class GenereFascia : std::uint8_t { Marcia, Visita, Traghetto, Pranzo, Cena, Riposo };
+enum class GenereFascia : std::uint8_t { Marcia, Visita, Traghetto, Pranzo, Cena, Riposo, Attesa };
 
-/// A time of one day spent on one thing. What lies between two of them is the night, a wait or a day of rest.
+/// A time of one day spent on one thing. What lies between two of them is the night, a day of rest, or a wait for the
+/// visiting hours. Ferries with their own hours end with the day and go on with the next.
 struct Fascia {
     GenereFascia genere = GenereFascia::Marcia;
     int riga = 0;       ///< position of the schedule's row that it belongs to
@@ -80,21 +84,50 @@ struct Fascia {
 /// Why something happens later than a traveller would expect.
 enum class GenereRinvio : std::uint8_t {
     ArrivoTardivo,     ///< reached after the end of the visiting hours: the stop begins the next day
-    TraghettoPerso,    ///< the same of a ferry
+    TraghettoPerso,    ///< the same of a ferry; of one with its own hours: reached when it had left
     SostaSuPiuGiorni,  ///< the stop does not fit into the visiting hours of one day
     NotteTardiva,      ///< a meal or rests ran past the night hour: the night begins behind them
     GiorniDiRiposo,    ///< whole rest days were due before driving on
+    OraMancata,        ///< reached after an hour that others set
+    ImbarcoInRitardo,  ///< the same of a ferry of one day, which is taken to wait
 };
 
 struct Rinvio {
     GenereRinvio genere = GenereRinvio::ArrivoTardivo;
     NumeroGiorno data;  ///< the day on which it turns out; of rest days the first
     int tappa = 0;      ///< position of the stage in the calculation table: where the stop is, or the driving goes
-    Centesimi ritardo;  ///< how far past the visiting hours, or the night hour; 0 for the other kinds
+    Centesimi ritardo;  ///< how far past the visiting hours, the night hour or the hour set; 0 for the other kinds
     int giorni = 0;     ///< days that the stop is spread over, or of rest; 0 for the other kinds
 };
 
-/// End of the trip as of the last driving piece.
+/// Which hour it is that others set.
+enum class GenereOra : std::uint8_t {
+    Partenza,  ///< a ferry leaves
+    NonPrima,  ///< one must not arrive before it
+    NonDopo,   ///< nor after it
+};
+
+/// How the journey meets an hour that others set.
+struct EsitoOra {
+    GenereOra genere = GenereOra::Partenza;
+    int tappa = 0;                     ///< position in the calculation table of the stage that it is set for
+    int riga = 0;                      ///< position of its row
+    Istante ora;                       ///< the hour itself; of a ferry that was missed, the one of the next
+    Centesimi attesa;                  ///< from the arrival, or the meal that it brought, to the hour; nights count
+    Centesimi ritardo;                 ///< past the last moment at which one was in time; 0 when one was
+    bool perso = false;                ///< a ferry left before, so long ago as `ritardo` tells; the next one is taken
+    std::optional<Centesimi> margine;  ///< how much later one could arrive; nothing when it does not matter, or late
+    int daTappa = 0;                   ///< since which stage it could not be met any more, by driving on alone
+};
+
+/// How the end of the journey stands to the hour at which one has to be home.
+struct EsitoScadenza {
+    Istante entro;
+    Centesimi margine;  ///< from the last row to that hour; negative when one is late
+    int daTappa = 0;    ///< since which stage, when one is late
+};
+
+/// End of the trip as of the last driving piece or landing.
 struct FineViaggio {
     NumeroGiorno data;  ///< the day on which the journey would go on
     Centesimi ora;      ///< end of the last piece
@@ -105,9 +138,11 @@ struct FineViaggio {
 struct Cronovia {
     TabellaCalcolo tabella;
     std::vector<RigaCronovia> righe;
-    std::vector<Fascia> fasce;        ///< in the order of time
-    std::vector<Rinvio> rinvii;       ///< in the order of time
-    std::optional<FineViaggio> fine;  ///< nothing without any driving
+    std::vector<Fascia> fasce;              ///< in the order of time
+    std::vector<Rinvio> rinvii;             ///< in the order of time
+    std::vector<EsitoOra> ore;              ///< the hours that others set, in the order of their rows
+    std::optional<FineViaggio> fine;        ///< nothing without any driving
+    std::optional<EsitoScadenza> scadenza;  ///< nothing when none is set, or nothing has an hour
     Totali totali;
     OrarioCorretto orario;  ///< as the last pass took it
 };

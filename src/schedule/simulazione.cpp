@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "schedule/ore_fisse.h"
 #include "schedule/sosta.h"
 
 namespace cronovia {
@@ -57,6 +59,7 @@ class Simulazione {
         orologio_.pranzoFatto = p_.oraPranzo + p_.durataPranzo < orologio_.ora;
         orologio_.cenaFatta = p_.oraCena + p_.durataCena < orologio_.ora;
         orologio_.inizioGuida = orologio_.ora;
+        qui_ = orologio_.Momento();
     }
 
     // A start within a meal waits until just after it.
@@ -76,15 +79,146 @@ class Simulazione {
     void PercorriTappa(int indice) {
         const Tappa& tappa = Riga(indice).tappa;
         if (tappa.Traghetto()) ++passata_.totali.traghetti;
-        if (tappa.SenzaSosta() && tappa.km <= 0) {
+        const Vincoli* vincoli = tappa.vincoli.operator->();
+        const bool conOre = vincoli != nullptr && (vincoli->traghetto || vincoli->arrivo);
+        if (tappa.SenzaSosta() && tappa.km <= 0 && !conOre) {
             NuovaRiga(GenereRiga::Tappa, indice);
             return;
         }
-        for (int resto = tappa.km; resto > 0;) resto -= GuidaPezzo(indice, resto);
-        const bool fermata = Sosta(indice);
+        if (vincoli != nullptr && vincoli->traghetto) {
+            Naviga(indice, *vincoli->traghetto);
+        } else {
+            for (int resto = tappa.km; resto > 0;) resto -= GuidaPezzo(indice, resto);
+        }
+        const bool fermata =
+            vincoli != nullptr && vincoli->arrivo ? SostaAOrario(indice, *vincoli->arrivo) : Sosta(indice);
         const bool ultima = indice + 1 == static_cast<int>(richiesta_.tabella.righe.size());
-        if (tappa.km <= 0 && !fermata && ultima) NuovaRiga(GenereRiga::Tappa, indice);
+        if (tappa.km <= 0 && !fermata && !conOre && ultima) NuovaRiga(GenereRiga::Tappa, indice);
         ElencaGuida(indice);
+    }
+
+    // Waits at the quay and sails, through meals and nights; what is eaten on board counts as eaten.
+    void Naviga(int indice, const TraghettoAOrario& traghetto) {
+        Imbarco imbarco = ImbarcoPer(traghetto, qui_);
+        if (orologio_.Momento() > imbarco.partenza) imbarco = ImbarcoPer(traghetto, orologio_.Momento());
+        const Istante sbarco = imbarco.partenza + traghetto.Navigazione();
+        EsitoOra esito{GenereOra::Partenza, indice,          0, imbarco.partenza, {}, imbarco.ritardo,
+                       imbarco.perso,       imbarco.margine, 0};
+        if (imbarco.ritardo > 0_cent && !imbarco.perso) esito.ora = traghetto.Partenza().Il(imbarco.partenza.data);
+        Aspetta(esito, std::max(indice - 1, 0), imbarco.partenza);
+
+        RigaCronovia& riga = NuovaRiga(GenereRiga::Traghetto, indice);
+        AnnotaFino(GenereFascia::Traghetto, imbarco.partenza, sbarco, 0_cent, kGiornoOrologio);
+        riga.cambiaGiorno = sbarco.data > imbarco.partenza.data;
+        orologio_.Va(sbarco);
+        riga.data = orologio_.data;
+        riga.ora = orologio_.ora;
+        qui_ = sbarco;
+        if (traghetto.Navigazione() >= orario_.VisitaGiorno()) orologio_.ultimoRiposo = orologio_.data;
+        orologio_.pranzoFatto = orologio_.pranzoFatto || orologio_.ora >= p_.oraPranzo;
+        orologio_.cenaFatta = orologio_.cenaFatta || orologio_.ora >= p_.oraCena;
+        Riprendi(riga, Riga(indice).fineGiorno && !ConSosta(indice));
+        passata_.fine = {orologio_.data, riga.ora, orologio_.data - richiesta_.dataPartenza + 1};
+    }
+
+    // The stop at a stage that others set hours for. A visit that takes long, or that is to things that the guide
+    // tells of, uses the time until the hour; another one waits for it.
+    bool SostaAOrario(int indice, const OreDiArrivo& ore) {
+        const NumeroGiorno giorno = (qui_ + 0_cent).data;
+        const auto prima = ore.NonPrima() ? std::optional(ore.NonPrima()->Il(giorno)) : std::nullopt;
+        const auto presto = [&] { return prima && orologio_.Momento() < *prima; };
+        EsitoOra esito{GenereOra::NonDopo, indice, 0, {}, {}, {}, false, {}, 0};
+        if (ore.NonDopo()) {
+            esito.ora = ore.NonDopo()->Il(prima ? std::max(giorno, prima->data) : giorno);
+            esito.margine = esito.ora - qui_;
+            if (*esito.margine < 0_cent) esito.ritardo = 0_cent - *std::exchange(esito.margine, std::nullopt);
+        }
+        const bool attesaConVisita = presto() && VisitaSubito(indice);
+        if (ore.NonDopo() && (attesaConVisita || !presto())) NuovaOra(esito, indice, qui_);
+        if (attesaConVisita) {
+            esito.ritardo = 0_cent;
+            esito.margine.reset();
+        }
+        esito.genere = GenereOra::NonPrima;
+        esito.ora = prima.value_or(esito.ora);
+        if (presto() && !attesaConVisita) Riprendi(Aspetta(esito, indice, *prima), false, ConSosta(indice));
+        const bool fermata = Sosta(indice);
+        if (presto()) Riprendi(Aspetta(esito, indice, *prima), false);
+        return fermata;
+    }
+
+    // Whether a stop follows the arrival: a visit, or a ferry at whichever hour.
+    bool ConSosta(int indice) const {
+        const Durata& sosta = passata_.soste[static_cast<std::size_t>(indice)];
+        return (!sosta.Nulla() && richiesta_.fattoreSoste > 0) || Riga(indice).tappa.TraghettoSenzaOrario();
+    }
+
+    // It may not depend on the hour of the arrival: who comes earlier would leave later.
+    bool VisitaSubito(int indice) const {
+        const RigaCalcolo& riga = Riga(indice);
+        return !riga.sostaGuida.Nulla() || InCentesimi(riga.sosta, orario_.VisitaGiorno()) >= orario_.VisitaGiorno();
+    }
+
+    // The row of an hour that others set, and what is late by it.
+    RigaCronovia& NuovaOra(EsitoOra esito, int tappa, Istante momento) {
+        if (esito.ritardo > 0_cent) {
+            const auto genere = esito.perso                           ? GenereRinvio::TraghettoPerso
+                                : esito.genere == GenereOra::Partenza ? GenereRinvio::ImbarcoInRitardo
+                                                                      : GenereRinvio::OraMancata;
+            passata_.rinvii.push_back({genere, orologio_.data, esito.tappa, esito.ritardo, 0});
+        }
+        esito.riga = static_cast<int>(passata_.righe.size());
+        RigaCronovia& riga = NuovaRiga(GenereRiga::Attesa, tappa);
+        riga.voce = static_cast<int>(passata_.ore.size());
+        riga.data = momento.data;
+        riga.ora = momento.ora;
+        riga.cambiaGiorno = orologio_.data > momento.data;
+        passata_.ore.push_back(esito);
+        return riga;
+    }
+
+    // Lets the time until a later moment go by. The driving begins anew after it only when it is as long as a rest,
+    // and a rest of days is not due any more only when it is as long as that one.
+    RigaCronovia& Aspetta(EsitoOra esito, int tappa, Istante fino) {
+        const Istante inizio = orologio_.Momento();
+        esito.attesa = std::max(fino - inizio, 0_cent);
+        RigaCronovia& riga = NuovaOra(esito, tappa, fino);
+        riga.cambiaGiorno = fino.data > inizio.data;
+        AnnotaFino(GenereFascia::Attesa, inizio, fino, p_.oraColazione, p_.oraNotte);
+        orologio_.Va(fino);
+        if (riga.cambiaGiorno || esito.attesa >= orario_.Riposo()) orologio_.inizioGuida = orologio_.ora;
+        const bool comeRiposo =
+            p_.riposoGiorno > 0 && esito.attesa >= kGiornoOrologio * static_cast<float>(p_.riposoGiorno);
+        if (comeRiposo) orologio_.ultimoRiposo = orologio_.data;
+        qui_ = orologio_.Momento();
+        return riga;
+    }
+
+    // After a wait or a landing: a meal that is going on is ended, after the night hour one sleeps, driving begins
+    // with breakfast. A stop that follows sees to it itself.
+    void Riprendi(RigaCronovia& riga, bool fineGiorno, bool sostaDopo = false) {
+        if (sostaDopo) return;
+        riga.eventi.pranzo = PastoInCorso(GenereFascia::Pranzo, p_.oraPranzo, p_.durataPranzo, orologio_.pranzoFatto);
+        riga.eventi.cena = PastoInCorso(GenereFascia::Cena, p_.oraCena, p_.durataCena, orologio_.cenaFatta);
+        const bool sbarco = riga.genere == GenereRiga::Traghetto;
+        if (sbarco || riga.cambiaGiorno) {
+            orologio_.ora = std::max(orologio_.ora, p_.oraColazione);
+            orologio_.inizioGuida = orologio_.ora;
+        }
+        riga.eventi.notte = fineGiorno || orologio_.ora >= p_.oraNotte - Centesimi(tolleranza_);
+        if (riga.eventi.notte) Notte();
+        riga.cambiaGiorno = riga.cambiaGiorno || riga.eventi.notte;
+    }
+
+    bool PastoInCorso(GenereFascia genere, Centesimi pasto, Centesimi durata, bool& fatto) {
+        const bool passato = orologio_.ora >= pasto;
+        const bool inCorso = passato && !fatto && orologio_.ora < pasto + durata;
+        fatto = fatto || passato;
+        if (!inCorso) return false;
+        const Centesimi inizio = std::exchange(orologio_.ora, pasto + durata);
+        Annota(genere, inizio);
+        orologio_.inizioGuida = orologio_.ora;
+        return true;
     }
 
     // Drives one piece of a leg of which `resto` kilometres are left; returns the piece's kilometres.
@@ -105,11 +239,26 @@ class Simulazione {
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;
         Annota(GenereFascia::Marcia, inizio);
+        qui_ = orologio_.Momento();
+        const Orologio arrivo = orologio_;
+        const std::size_t fasce = passata_.fasce.size();
         PastiENotte(riga.eventi);
-        riga.cambiaGiorno = orologio_.data > riga.data;
         riga.eventi.riposo = Riposi();
+        if (pezzo.km == resto && PerdeIlTraghetto(indice)) {
+            orologio_ = arrivo;
+            passata_.fasce.resize(fasce);
+            riga.eventi = {};
+        }
+        riga.cambiaGiorno = orologio_.data > riga.data;
         passata_.fine = {orologio_.data, riga.ora, orologio_.data - richiesta_.dataPartenza + 1};
         return pezzo.km;
+    }
+
+    // Whether meal, rest or night on arriving at the quay would let the ferry leave: they are taken on board then.
+    bool PerdeIlTraghetto(int indice) const {
+        if (indice + 1 >= static_cast<int>(richiesta_.tabella.righe.size()) || ConSosta(indice)) return false;
+        const VincoliTappa& vincoli = Riga(indice + 1).tappa.vincoli;
+        return vincoli.ConTraghetto() && orologio_.Momento() > ImbarcoPer(*vincoli->traghetto, qui_).partenza;
     }
 
     // The part of `km` kilometres that can be driven before the next rest, meal or night.
@@ -199,15 +348,19 @@ class Simulazione {
 
     bool Sosta(int indice) {
         const RigaCalcolo& tabella = Riga(indice);
+        const Tappa& tappa = tabella.tappa;
         Durata& sosta = passata_.soste[static_cast<std::size_t>(indice)];
         const Durata prevista = sosta;
-        const EsitoSosta esito = CalcolaLaSosta(
-            {sosta, tabella.fineGiorno, tabella.tappa.Traghetto(), richiesta_.fattoreSoste}, orario_, orologio_);
+        const EsitoSosta esito =
+            CalcolaLaSosta({sosta, tabella.fineGiorno, tappa.TraghettoSenzaOrario(), richiesta_.fattoreSoste,
+                            tappa.vincoli ? tappa.vincoli->visite : std::nullopt},
+                           orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
         AnnotaSosta(esito, indice);
         const bool cambiaGiorno = esito.orologio.data > orologio_.data;
         orologio_ = esito.orologio;
         orologio_.inizioGuida = orologio_.ora;
+        qui_ = orologio_.Momento();
         sosta = esito.sosta;
         RigaCronovia& riga = NuovaRiga(GenereRiga::Sosta, indice);
         riga.sosta = prevista;
@@ -225,6 +378,16 @@ class Simulazione {
         passata_.fasce.push_back({genere, riga, orologio_.data, inizio, orologio_.ora});
     }
 
+    // The time between two moments, spent on the last row: each day from an hour to another.
+    void AnnotaFino(GenereFascia genere, Istante da, Istante a, Centesimi mattina, Centesimi sera) {
+        const auto riga = static_cast<int>(passata_.righe.size()) - 1;
+        for (NumeroGiorno giorno = da.data; giorno <= a.data; giorno += 1) {
+            const Centesimi inizio = giorno == da.data ? da.ora : mattina;
+            const Centesimi fine = giorno == a.data ? a.ora : std::max(sera, inizio);
+            if (fine > inizio) passata_.fasce.push_back({genere, riga, giorno, inizio, fine});
+        }
+    }
+
     // What a stop, whose row comes next, spends its time on and puts off.
     void AnnotaSosta(const EsitoSosta& esito, int indice) {
         for (Fascia fascia : esito.fasce) {
@@ -232,7 +395,7 @@ class Simulazione {
             passata_.fasce.push_back(fascia);
         }
         if (esito.ritardo > 0_cent) {
-            const bool traghetto = Riga(indice).tappa.Traghetto();
+            const bool traghetto = Riga(indice).tappa.TraghettoSenzaOrario();
             passata_.rinvii.push_back({traghetto ? GenereRinvio::TraghettoPerso : GenereRinvio::ArrivoTardivo,
                                        orologio_.data, indice, esito.ritardo, 0});
         }
@@ -252,6 +415,7 @@ class Simulazione {
     const ParametriViaggio& p_;
     int tolleranza_;
     Orologio orologio_;
+    Istante qui_;  // since when one is here: before the meal, rests or night that an arrival brought
     std::int64_t kmProgressivi_ = 0;
     Passata passata_;
 };

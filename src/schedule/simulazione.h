@@ -26,6 +26,7 @@ struct Passata {
     std::vector<RigaCronovia> righe;  ///< without marks of the return
     std::vector<Fascia> fasce;
     std::vector<Rinvio> rinvii;
+    std::vector<EsitoOra> ore;  ///< not yet since which stage
     std::vector<Durata> soste;  ///< after scaling, as many as the table's rows; where the next pass starts from
     std::optional<FineViaggio> fine;
     Totali totali;      ///< of what was driven, piece by piece: times may differ from the itinerary's by rounding

@@ -21,25 +21,31 @@ Centesimi Scalata(const RichiestaSosta& richiesta, Centesimi giorno) {
 // Takes the clock through a stop and notes what its time is spent on.
 class Percorrenza {
   public:
-    Percorrenza(const OrarioCorretto& orario, Centesimi traghetto, EsitoSosta& esito)
-        : p_(orario.Parametri()), traghetto_(traghetto), esito_(esito), orologio_(esito.orologio) {}
+    Percorrenza(const OrarioCorretto& orario, const RichiestaSosta& richiesta, Centesimi traghetto, EsitoSosta& esito)
+        : p_(orario.Parametri()),
+          orePosto_(richiesta.visite.has_value()),
+          inizioVisita_(orePosto_ ? richiesta.visite->Apre() : p_.inizioVisita),
+          fineVisita_(orePosto_ ? richiesta.visite->Chiude() : p_.fineVisita),
+          traghetto_(traghetto),
+          esito_(esito),
+          orologio_(esito.orologio) {}
 
     void AspettaLeVisite() {
-        if (orologio_.ora < p_.inizioVisita) orologio_.ora = p_.inizioVisita;
-        if (orologio_.ora <= p_.fineVisita) return;
-        esito_.ritardo = orologio_.ora - p_.fineVisita;
-        orologio_.NuovoGiorno(p_.inizioVisita);
+        if (orologio_.ora < inizioVisita_) orologio_.ora = inizioVisita_;
+        if (orologio_.ora <= fineVisita_) return;
+        esito_.ritardo = orologio_.ora - fineVisita_;
+        orologio_.NuovoGiorno(inizioVisita_);
     }
 
     void DistribuisciSuiGiorni(Centesimi resto) {
         while (resto > 0_cent) {
             Centesimi parte = resto;
-            if (orologio_.ora + parte > p_.fineVisita) parte = p_.fineVisita - orologio_.ora;
+            if (orologio_.ora + parte > fineVisita_) parte = fineVisita_ - orologio_.ora;
             Annota(parte);
             orologio_.ora += parte;
-            if (orologio_.ora >= p_.fineVisita - kFineVisiteVicina) {
+            if (orologio_.ora >= fineVisita_ - kFineVisiteVicina && !(orePosto_ && parte == resto)) {
                 orologio_.data += 1;
-                orologio_.ora = parte == resto ? p_.oraColazione : p_.inizioVisita;
+                orologio_.ora = parte == resto ? p_.oraColazione : inizioVisita_;
             }
             resto -= parte;
         }
@@ -70,6 +76,9 @@ class Percorrenza {
     }
 
     const ParametriViaggio& p_;
+    bool orePosto_;  // the visiting hours are the place's own
+    Centesimi inizioVisita_;
+    Centesimi fineVisita_;
     Centesimi traghetto_;  // still to come
     EsitoSosta& esito_;
     Orologio& orologio_;
@@ -89,6 +98,12 @@ void Orologio::NuovoGiorno(Centesimi ripresa) {
     cenaFatta = false;
 }
 
+void Orologio::Va(Istante momento) {
+    if (momento.data > data) NuovoGiorno(momento.ora);
+    data = momento.data;
+    ora = momento.ora;
+}
+
 EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio) {
     const ParametriViaggio& p = orario.Parametri();
     const Centesimi scalata = Scalata(richiesta, orario.VisitaGiorno());
@@ -100,7 +115,7 @@ EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto&
     const Centesimi traghetto = richiesta.traghetto ? p.oreTraghetti : 0_cent;
     const Centesimi durata = scalata + traghetto;
     Orologio& orologio = esito.orologio;
-    Percorrenza percorrenza(orario, traghetto, esito);
+    Percorrenza percorrenza(orario, richiesta, traghetto, esito);
     percorrenza.AspettaLeVisite();
     percorrenza.DistribuisciSuiGiorni(durata);
     if (richiesta.fineGiorno) {

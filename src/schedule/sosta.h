@@ -2,9 +2,12 @@
 // The stop at a stage, spread over the visiting hours of as many days as it takes.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "calendar/date.h"
+#include "calendar/ora_fissa.h"
+#include "itinerary/vincoli.h"
 #include "schedule/riga_cronovia.h"
 #include "trips/orario.h"
 
@@ -19,16 +22,20 @@ struct Orologio {
     Centesimi inizioGuida;      ///< when the continuous driving began
     NumeroGiorno ultimoRiposo;  ///< day from which the rest days count
 
+    [[nodiscard]] Istante Momento() const { return {data, ora}; }
     /// The next morning: nothing eaten, nothing driven.
     void NuovoGiorno(Centesimi ripresa);
+    /// To a later moment; a new day has no meals yet.
+    void Va(Istante momento);
 };
 
 /// A stop to be made.
 struct RichiestaSosta {
-    Durata sosta;             ///< before scaling; its days are visiting days
-    bool fineGiorno = false;  ///< the journey goes on the next morning
-    bool traghetto = false;   ///< the average time of a ferry comes on top, not scaled
-    float fattore = 1;        ///< what the stop is multiplied by; no stop grows beyond 999 visiting days
+    Durata sosta;                            ///< before scaling; its days are visiting days
+    bool fineGiorno = false;                 ///< the journey goes on the next morning
+    bool traghetto = false;                  ///< the average time of a ferry comes on top, not scaled
+    float fattore = 1;                       ///< what the stop is multiplied by; no stop grows beyond 999 visiting days
+    std::optional<OreDiVisita> visite = {};  ///< its own visiting hours, instead of the trip's
 };
 
 /// The clock after a stop.
@@ -44,7 +51,8 @@ struct EsitoSosta {
 /// Takes the clock through a stop: visits wait for the beginning of the visiting hours, after their end for the next
 /// day, and fill as many days as they take; within 2 hundredths of the end the day's visits are over. Meals whose hour
 /// passed meanwhile count as taken. A stop of a visiting day or more, with its ferry, counts as a rest. The end of the
-/// day alone, without stop or ferry, does nothing. The visiting hours must not be empty.
+/// day alone, without stop or ferry, does nothing. The visiting hours must not be empty. A stop that ends when its own
+/// visiting hours do leaves the rest of the day for driving.
 EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio);
 
 }  // namespace cronovia

@@ -22,6 +22,7 @@ constexpr std::array<AspettoPezzo, kGeneriPezzo> kAspetti = {{
     {u"riposo", Trama::Piena, 0xC65A11, 0x7A3300},
     {u"notte", Trama::Controdiagonali, 0xE4E5EC, 0x9297AD},
     {u"giorno di riposo", Trama::Incroci, 0xEBC9DC, 0x8E4A73},
+    {u"attesa", Trama::Verticali, 0xFFFFFF, 0x6B6B6B},
 }};
 
 GenerePezzo PezzoPer(GenereFascia fascia) {
@@ -36,6 +37,8 @@ GenerePezzo PezzoPer(GenereFascia fascia) {
             return GenerePezzo::Pranzo;
         case GenereFascia::Cena:
             return GenerePezzo::Cena;
+        case GenereFascia::Attesa:
+            return GenerePezzo::Attesa;
         case GenereFascia::Riposo:
             break;
     }

@@ -12,8 +12,18 @@
 namespace cronovia {
 
 /// What a bar stands for.
-enum class GenerePezzo : std::uint8_t { Marcia, Visita, Traghetto, Pranzo, Cena, Riposo, Notte, GiornoDiRiposo };
-inline constexpr int kGeneriPezzo = 8;
+enum class GenerePezzo : std::uint8_t {
+    Marcia,
+    Visita,
+    Traghetto,
+    Pranzo,
+    Cena,
+    Riposo,
+    Notte,
+    GiornoDiRiposo,
+    Attesa
+};
+inline constexpr int kGeneriPezzo = 9;
 
 /// A bar: hours of one day, from 0 to 24.
 struct PezzoDelGiorno {
@@ -27,7 +37,8 @@ struct PezzoDelGiorno {
 };
 using StrisciaDelGiorno = std::vector<PezzoDelGiorno>;
 
-/// The bars of each day, in the order of time and side by side; what lies between two of them is free, or a wait. The
+/// The bars of each day, in the order of time and side by side; what lies between two of them is free, or a wait for
+/// the visiting hours. The
 /// nights are those between two days of the journey, from the night hour to breakfast.
 std::vector<StrisciaDelGiorno> Strisce(const Cronovia& cronovia, const std::vector<Giornata>& giornate);
 

@@ -26,10 +26,23 @@ QString TestoNotte(const Giornata& giornata) {
     return (giornata.ultima ? u"fine "_s : u"notte "_s) + (dove ? luogo : A(luogo));
 }
 
-// A stop that is put off or spread ends on another day; driving is late on its own.
-bool Riguarda(const Rinvio& rinvio, const RigaCronovia& riga) {
-    const bool guida = rinvio.genere == GenereRinvio::NotteTardiva || rinvio.genere == GenereRinvio::GiorniDiRiposo;
-    return guida ? riga.genere == GenereRiga::Marcia && rinvio.data == riga.data : riga.genere == GenereRiga::Sosta;
+// A stop that is put off or spread ends on another day; driving is late on its own. The row of an hour that others set
+// tells itself how late one is.
+bool Riguarda(const Rinvio& rinvio, const RigaCronovia& riga, const Tappa& tappa) {
+    switch (rinvio.genere) {
+        case GenereRinvio::NotteTardiva:
+        case GenereRinvio::GiorniDiRiposo:
+            return riga.genere == GenereRiga::Marcia && rinvio.data == riga.data;
+        case GenereRinvio::OraMancata:
+        case GenereRinvio::ImbarcoInRitardo:
+            return false;
+        case GenereRinvio::TraghettoPerso:
+            return riga.genere == GenereRiga::Sosta && tappa.TraghettoSenzaOrario();
+        case GenereRinvio::ArrivoTardivo:
+        case GenereRinvio::SostaSuPiuGiorni:
+            break;
+    }
+    return riga.genere == GenereRiga::Sosta;
 }
 
 }  // namespace
@@ -46,6 +59,7 @@ QString TestoGiornata(const Giornata& giornata) {
     if (giornata.guida > 0_cent) parti += u"guida "_s + TestoOreBrevi(giornata.guida);
     if (giornata.visite > 0_cent) parti += u"visite "_s + TestoOreBrevi(giornata.visite);
     if (giornata.traghetto > 0_cent) parti += u"traghetto "_s + TestoOreBrevi(giornata.traghetto);
+    if (giornata.attesa > 0_cent) parti += u"attesa "_s + TestoOreBrevi(giornata.attesa);
     if (giornata.riposo) parti += u"giorno di riposo"_s;
     parti += TestoNotte(giornata);
     return parti.join(kFraParti);
@@ -63,12 +77,17 @@ QString Testo(const Rinvio& rinvio, const Cronovia& cronovia) {
         case GenereRinvio::ArrivoTardivo:
             return u"sosta %1 rinviata a domani (arrivo %2 oltre l'orario)"_s.arg(A(luogo), ritardo);
         case GenereRinvio::TraghettoPerso:
+            if (tappa.vincoli.ConTraghetto()) return u"traghetto per %1 perso per %2 ore"_s.arg(luogo, ritardo);
             return u"traghetto %1 rinviato a domani (arrivo %2 oltre l'orario)"_s.arg(A(luogo), ritardo);
         case GenereRinvio::SostaSuPiuGiorni:
-            return (tappa.Traghetto() ? u"traghetto"_s : u"sosta"_s) +
+            return (tappa.TraghettoSenzaOrario() ? u"traghetto"_s : u"sosta"_s) +
                    u" %1 su %2 giorni"_s.arg(A(luogo), QString::number(rinvio.giorni));
         case GenereRinvio::NotteTardiva:
             return u"notte %1 più tardi del solito"_s.arg(ritardo);
+        case GenereRinvio::OraMancata:
+            return u"%1 in ritardo di %2 ore"_s.arg(A(luogo), ritardo);
+        case GenereRinvio::ImbarcoInRitardo:
+            return u"al traghetto per %1 in ritardo di %2 ore"_s.arg(luogo, ritardo);
         case GenereRinvio::GiorniDiRiposo:
             break;
     }
@@ -87,7 +106,8 @@ std::map<int, QString> MotiviDelleRighe(const Cronovia& cronovia) {
         const auto diTappa = [](const RigaCronovia& riga, int tappa) { return riga.tappa < tappa; };
         auto riga = std::lower_bound(cronovia.righe.begin(), cronovia.righe.end(), rinvio.tappa, diTappa);
         for (; riga != cronovia.righe.end() && riga->tappa == rinvio.tappa; ++riga) {
-            if (!Riguarda(rinvio, *riga)) continue;
+            const Tappa& tappa = cronovia.tabella.righe[static_cast<std::size_t>(riga->tappa)].tappa;
+            if (!Riguarda(rinvio, *riga, tappa)) continue;
             QString& testo = motivi[static_cast<int>(riga - cronovia.righe.begin())];
             testo += (testo.isEmpty() ? QString() : u"\n"_s) + Testo(rinvio, cronovia);
         }

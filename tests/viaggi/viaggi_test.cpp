@@ -15,6 +15,7 @@
 #include "schedule/giorni_itinerario.h"
 #include "schedule/strisce.h"
 #include "schedule/testi_giornata.h"
+#include "schedule/testi_ore.h"
 #include "support/prova.h"
 
 namespace cronovia {
@@ -110,7 +111,8 @@ class Viaggi : public testing::Test {
     // The archive holds the trip of one file at a time.
     MetaAperta Importa(const QString& path, const QString& codice) {
         Transaction transaction(sessione_.Archivio());
-        for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta}) {
+        for (const Table tabella :
+             {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta, Table::Vincoli, Table::Scadenze}) {
             sessione_.Archivio().DeleteMatching(tabella, {}, progress_);
         }
         transaction.Commit();
@@ -138,6 +140,7 @@ class Viaggi : public testing::Test {
         SegnanoIGiorni(cronovia, *aperta.meta.dataInizio);
         for (const RigaGriglia& riga : TestiDellaCronovia(cronovia)) testo += Riga(riga);
         testo += RigaTotali(Testi(cronovia.totali, cronovia.orario.GuidaGiorno()));
+        if (cronovia.scadenza) testo += u"scadenza\t"_s + Testo(*cronovia.scadenza, cronovia) + u'\n';
         return testo + u"fine\t"_s + Riga(Testi(cronovia.fine).Elenco()) +
                u"passate\t%1\t%2\n"_s.arg(QString::number(esito.tentativi), esito.messaggio);
     }
