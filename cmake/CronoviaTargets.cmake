@@ -7,11 +7,11 @@ target_compile_features(cronovia_settings INTERFACE cxx_std_20)
 target_include_directories(cronovia_settings INTERFACE "${CMAKE_SOURCE_DIR}/src")
 target_compile_definitions(
   cronovia_settings
-  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
-            CRONOVIA_VERSION="${PROJECT_VERSION}")
+  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
 target_compile_options(
   cronovia_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wold-style-cast
-                              -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+                              -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
+                              $<$<BOOL:${CRONOVIA_WERROR}>:-Werror>)
 # GCC 12 sees an overlap in "literal" + std::string that is not there (GCC bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(cronovia_settings INTERFACE -Wno-restrict)

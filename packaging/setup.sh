@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages that a task needs and this machine lacks; silent when nothing is missing.
-#   packaging/setup.sh TASK...    TASK is one of: build test check bench fuzz
+#   packaging/setup.sh TASK...    TASK is one of: build test check package bench fuzz
 set -eu
 
 packages_for() {
@@ -9,6 +9,7 @@ packages_for() {
         build) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-liberation libsqlitecpp-dev libsqlite3-dev ;;
         test) echo libgtest-dev libgmock-dev poppler-utils ;;
         check) echo clang-format clang-tidy python3 ;;
+        package) echo dpkg-dev lintian desktop-file-utils appstream mandoc debootstrap ;;
         bench) echo libbenchmark-dev sqlite3 ;;
         fuzz) echo clang libclang-rt-14-dev ;;
         *) fail "setup.sh: there is no task \"$1\"" ;;
@@ -55,7 +56,9 @@ if [ "$(id -u)" -ne 0 ]; then
     sudo=sudo
 fi
 
-echo "Installing $missing" >&2
+# Told before sudo asks for a password.
+printf '%s\n' "A questa macchina mancano dei pacchetti Debian. Ora apt-get installa:" "  $missing" >&2
+[ -z "$sudo" ] || echo "Per farlo sudo può chiedere la tua password; con Ctrl+C rinunci." >&2
 log=$(mktemp)
 trap 'rm -f -- "$log"' EXIT
 trap 'exit 130' INT TERM

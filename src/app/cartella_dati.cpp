@@ -6,15 +6,13 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include "store/archive.h"
-
 namespace cronovia {
+
+QString FilePortatile(const QString& programma) { return QDir(programma).filePath(QStringLiteral("portatile")); }
 
 QString CartellaDati(const LuoghiPossibili& luoghi) {
     if (!luoghi.richiesta.isEmpty()) return luoghi.richiesta;
-    const bool portatile =
-        QFileInfo::exists(Archive::FilePath(luoghi.programma)) || QFileInfo(luoghi.programma).isWritable();
-    return portatile ? luoghi.programma : luoghi.utente;
+    return QFileInfo::exists(FilePortatile(luoghi.programma)) ? luoghi.programma : luoghi.utente;
 }
 
 LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta) {

@@ -12,9 +12,12 @@ struct LuoghiPossibili {
     QString utente;     ///< data folder of the user
 };
 
-/// The folder that was asked for; else that of the program, when it already holds the archive or can be written, so
-/// that the program and its data can be carried along; else that of the user.
+/// The folder that was asked for; else that of the program, when a file there marks it as one to be carried along with
+/// its data; else that of the user.
 QString CartellaDati(const LuoghiPossibili& luoghi);
+
+/// The file that marks the folder of a program so; what it holds is nobody's business.
+QString FilePortatile(const QString& programma);
 
 /// The possible places as this platform has them.
 LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta);

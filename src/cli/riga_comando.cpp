@@ -50,7 +50,7 @@ void ScriviAiuto(QTextStream& uscita) {
     }
     const std::vector<int> larghezze = LarghezzeColonne(verbi);
     for (const QStringList& riga : verbi.righe) uscita << RigaAllineata(riga, larghezze, {}) << '\n';
-    uscita << u"\n  --cartella DIR           Cartella dei dati; altrimenti quella del programma o dell'utente.\n"
+    uscita << u"\n  --cartella DIR           Cartella dei dati; altrimenti quella dell'utente.\n"
               "  --formato F              Formato dei risultati: testo, tsv o json.\n"
               "  --help                   Questo aiuto; dopo un verbo, l'aiuto del verbo.\n"
               "  --version                La versione.\n"_s;

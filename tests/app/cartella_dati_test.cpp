@@ -11,21 +11,16 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// Whatever can be written, or holds an archive: without its mark a folder of programs is no place for data.
 TEST(CartellaDati, AskedForElsePortableElseTheUsers) {
     const QTemporaryDir cartella;
     const QString programma = cartella.path();
-    const auto scelta = [&](const QString& richiesta, const QString& del) {
-        return CartellaDati({richiesta, del, u"utente"_s});
-    };
-    EXPECT_EQ(scelta(u"richiesta"_s, programma), u"richiesta"_s);
-    EXPECT_EQ(scelta({}, programma), programma);
-    EXPECT_EQ(scelta({}, programma + u"/manca"_s), u"utente"_s);
-
-    // With an archive, it is the folder even when it cannot be written.
+    const auto scelta = [&](const QString& richiesta) { return CartellaDati({richiesta, programma, u"utente"_s}); };
     prova::ScriviFile(Archive::FilePath(programma), {});
-    QFile::setPermissions(programma, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-    EXPECT_EQ(scelta({}, programma), programma);
-    QFile::setPermissions(programma, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    EXPECT_EQ(scelta({}), u"utente"_s);
+    prova::ScriviFile(FilePortatile(programma), {});
+    EXPECT_EQ(scelta({}), programma);
+    EXPECT_EQ(scelta(u"richiesta"_s), u"richiesta"_s);
 }
 
 }  // namespace
