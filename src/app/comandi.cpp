@@ -4,6 +4,7 @@
 #include "app/comandi_archivio.h"
 #include "app/comandi_copia.h"
 #include "app/comandi_cronovia.h"
+#include "app/comandi_esporta.h"
 #include "app/comandi_guida.h"
 #include "app/comandi_inserimento.h"
 #include "app/comandi_righe.h"
@@ -33,6 +34,9 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      Menu::File, kVuota | kAperta, &comandi::Import, true},
     {Comando::Export, u"cmdExport", u"E&xport", u"E&sporta mète…", u"", u"Esporta mète su un file di scambio",
      Menu::File, kAperta, &comandi::Export},
+    {Comando::PaginaTelefono, u"cmdPaginaTelefono", u"Pagina telefono", u"Pagina per il &telefono…", u"",
+     u"Scrive le giornate come pagina da leggere sul telefono, senza rete", Menu::File, kAperta | kCronovia,
+     &comandi::PaginaTelefono},
     {Comando::Converte, u"cmdConverte", u"Converte", u"&Converte i vecchi dati", u"",
      u"Recupera i dati della versione precedente", Menu::File, kVecchiDati, &comandi::Converte},
     {Comando::Ripristina, u"cmdRipristina", u"Ripristina", u"&Ripristina una copia…", u"",

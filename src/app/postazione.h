@@ -9,6 +9,7 @@
 
 #include "app/copie.h"
 #include "app/documento.h"
+#include "app/file_viaggio.h"
 #include "app/recupero.h"
 #include "app/schermate.h"
 #include "app/stato_comandi.h"
@@ -42,6 +43,8 @@ struct Volti {
     std::function<void()> stampa = {};     ///< prints them on the printer chosen
     /// Path of the copy to be put back; nothing when the person does not want any.
     std::function<std::optional<QString>(const std::vector<CopiaInElenco>&)> scegliCopia = {};
+    /// Where a journey is to be written, the name being a proposal; an empty path when the person does not want it.
+    std::function<QString(const FormatoViaggio& formato, const QString& nome)> scegliFileViaggio = {};
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.

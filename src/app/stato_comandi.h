@@ -21,6 +21,7 @@ enum class Comando {
     CancMeta,
     Import,
     Export,
+    PaginaTelefono,
     Converte,
     Ripristina,
     Ripara,

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <utility>
 
+#include "app/file_viaggio.h"
 #include "calendar/testo.h"
 #include "cli/opzioni_calcolo.h"
 #include "print/tabella_testo.h"
@@ -52,6 +53,13 @@ std::vector<Opzione> ConQuelleDelCalcolo(std::vector<Opzione> altre) {
     return altre;
 }
 
+std::vector<Opzione> ConIFormati(std::vector<Opzione> altre) {
+    for (const FormatoViaggio& formato : FormatiViaggio()) {
+        altre.push_back({formato.opzione.toString(), {}, formato.descrizione.toString()});
+    }
+    return altre;
+}
+
 std::vector<Verbo> VerbiDellArchivio() {
     return {
         {u"elenca"_s, {}, u"Elenca tutte le mète."_s, {}, 0, 0, true, &EseguiElenca},
@@ -71,14 +79,10 @@ std::vector<Verbo> VerbiDellArchivio() {
          -1,
          false,
          &EseguiImporta},
-        {u"esporta"_s,
-         u"FILE.iei [CODICE…]"_s,
-         u"Esporta sul file di scambio tutte le mète, o solo quelle con i codici indicati."_s,
-         {{u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}},
-         1,
-         -1,
-         false,
-         &EseguiEsporta},
+        {u"esporta"_s, u"FILE [CODICE…]"_s,
+         u"Esporta sul file di scambio tutte le mète, o solo quelle con i codici indicati; o una mèta in altri "
+         "formati."_s,
+         ConIFormati({{u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s}}), 1, -1, false, &EseguiEsporta},
         {u"converte"_s,
          {},
          u"Converte i vecchi file della cartella dei dati (VandMete.dat e gli altri); ne resta una copia."_s,

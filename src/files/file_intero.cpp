@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <filesystem>
 
+#include "calendar/testo.h"
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -69,6 +70,17 @@ void RifiutaFileEsistente(const QString& path, bool sovrascrivi) {
     if (!info.isFile()) throw Failure(u"%1 non è un file che si possa scrivere."_s.arg(nome));
     if (!sovrascrivi) throw Failure(u"Il file %1 esiste già: non è stato ricoperto."_s.arg(nome));
     if (UnArchivio(path)) throw Failure(u"Il file %1 è un archivio: non è stato ricoperto."_s.arg(nome));
+}
+
+QString NomeDiFile(const QString& testo, QStringView altrimenti) {
+    constexpr qsizetype kMassimoNome = 60;
+    QString nome = testo.trimmed();
+    for (QChar& c : nome) {
+        if (Invisibile(c) || QStringView(u"/\\:*?\"<>|").contains(c)) c = u'-';
+    }
+    while (nome.startsWith(u'.')) nome.remove(0, 1);
+    nome.truncate(kMassimoNome);
+    return nome.isEmpty() ? altrimenti.toString() : nome;
 }
 
 // Some file systems take capitals and small letters for the same.

@@ -96,7 +96,8 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->MostraAnteprima() : stampa_->MostraAnteprima(); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); },
-        [this](const std::vector<CopiaInElenco>& copie) { return ScegliCopia(*this, copie); }};
+        [this](const std::vector<CopiaInElenco>& copie) { return ScegliCopia(*this, copie); },
+        [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); }};
 }
 
 void FormMete::Disponi() {

@@ -32,7 +32,6 @@ QStringView SenzaBlank(QStringView testo) {
     return testo;
 }
 
-constexpr qsizetype kMassimoNome = 60;  // of a file that is proposed
 
 class ScrittoreIei {
   public:
@@ -212,13 +211,7 @@ EsitoExport EsportaMete(const RichiestaExport& richiesta, Progress& progress) {
 }
 
 QString NomeFileExport(std::span<const MetaInElenco> mete) {
-    QString nome = mete.empty() ? QString() : mete.front().localita.trimmed();
-    for (QChar& c : nome) {
-        if (Invisibile(c) || QStringView(u"/\\:*?\"<>|").contains(c)) c = u'-';
-    }
-    while (nome.startsWith(u'.')) nome.remove(0, 1);
-    nome.truncate(kMassimoNome);
-    if (nome.isEmpty()) nome = u"Mete"_s;
+    QString nome = NomeDiFile(mete.empty() ? QString() : mete.front().localita, u"Mete");
     if (mete.size() > 1) nome += u" e altre %1"_s.arg(mete.size() - 1);
     return nome + u".iei"_s;
 }

@@ -2,13 +2,17 @@
 #include "ui/scambio/file_scambio.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileOpenEvent>
 #include <QMimeData>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
+
+#include "app/file_viaggio.h"
 
 namespace cronovia {
 
@@ -38,6 +42,17 @@ QString ScegliFileDaEsportare(QWidget& finestra, const QString& proposto) {
     dialogo.setDefaultSuffix(u"iei"_s);
     dialogo.selectFile(proposto);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+QString ScegliFileViaggio(QWidget& finestra, const FormatoViaggio& formato, const QString& proposto) {
+    const QDir documenti(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString nome = formato.nome.toString();
+    const QString fine = formato.opzione.toString();
+    QFileDialog dialogo(&finestra, nome, documenti.path(), u"%1 (*.%2)"_s.arg(nome, fine));
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setDefaultSuffix(fine);
+    dialogo.selectFile(proposto);
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }
 

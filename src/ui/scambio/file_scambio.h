@@ -9,9 +9,13 @@ class QWidget;
 
 namespace cronovia {
 
+struct FormatoViaggio;
+
 /// Ask for a file; the empty text when the person wants none.
 QString ScegliFileDaImportare(QWidget& finestra);
 QString ScegliFileDaEsportare(QWidget& finestra, const QString& proposto);
+/// The same for a journey that is written for others; a file that is there is asked about.
+QString ScegliFileViaggio(QWidget& finestra, const FormatoViaggio& formato, const QString& proposto);
 
 /// Tells of exchange files that are dropped anywhere on a window, or that the desktop wants the program to open.
 class RicezioneFile : public QObject {

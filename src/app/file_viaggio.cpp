@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/file_viaggio.h"
+
+#include <QDir>
+#include <algorithm>
+#include <array>
+
+#include "exchange/pagina/pagina_telefono.h"
+#include "files/file_intero.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+FileScritto ScriviPagina(const ViaggioDaScrivere& viaggio) { return {PaginaTelefono(viaggio.meta, viaggio.cronovia)}; }
+
+constexpr std::array kFormati = {
+    FormatoViaggio{u"html", u"Pagina per il telefono",
+                   u"Scrive le giornate di una mèta come pagina per il telefono, che si legge senza rete.",
+                   &ScriviPagina},
+};
+
+}  // namespace
+
+std::span<const FormatoViaggio> FormatiViaggio() { return kFormati; }
+
+const FormatoViaggio& FormatoDi(QStringView opzione) {
+    return *std::find_if(kFormati.begin(), kFormati.end(),
+                         [&](const FormatoViaggio& formato) { return formato.opzione == opzione; });
+}
+
+QString NomeFileViaggio(const FormatoViaggio& formato, const Meta& meta) {
+    return u"%1.%2"_s.arg(NomeDiFile(meta.localita, u"Viaggio"), formato.opzione);
+}
+
+QString ScriviFileViaggio(const ViaggioDaScrivere& viaggio, const FormatoViaggio& formato, const QString& path,
+                          bool sovrascrivi) {
+    viaggio.sessione.RifiutaSeDanneggiato();
+    RifiutaFileEsistente(path, sovrascrivi);
+    RifiutaFileArchivio(path, viaggio.sessione.Archivio().Path());
+    const FileScritto scritto = formato.scrivi(viaggio);
+    FileIntero file(path);
+    file.Scrivi(scritto.contenuto);
+    file.Chiudi();
+    const QString dove = u"%1: è sul file %2."_s.arg(formato.nome, QDir::toNativeSeparators(path));
+    return scritto.avviso.isEmpty() ? dove : dove + u'\n' + scritto.avviso;
+}
+
+}  // namespace cronovia
