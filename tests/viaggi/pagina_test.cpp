@@ -94,6 +94,7 @@ TEST_F(Pagina, TakesNothingForMarkup) {
         vincoli.nota = *Appunto<vincoli::Nota>::Da(ostile);
         vincoli.link = *Appunto<vincoli::Link>::Da(casi[i].link);
         vincoli.telefono = *Appunto<vincoli::Telefono>::Da(casi[i].telefono);
+        vincoli.arrivo = OreDiArrivo::Da(OraFissa::Da(23 * 60), std::nullopt);
         tappa.vincoli = vincoli;
         tappa.localita = u"<b>"_s + ostile + QString::number(i);
         tappa.numStrada = u"<!--"_s;
@@ -102,6 +103,7 @@ TEST_F(Pagina, TakesNothingForMarkup) {
     EXPECT_FALSE(html.contains(u"<img"_s) || html.contains(u"<b>"_s) || html.contains(u"<!--"_s));
     EXPECT_EQ(html.count(u"<a href=\"javascript"_s), 0);
     for (const auto& caso : casi) EXPECT_TRUE(html.contains(caso.atteso)) << caso.atteso.toStdString();
+    EXPECT_EQ(html.count(u"Non prima delle 23:00"_s), std::ssize(casi)) << "each wait is told";
     // The one program that may run is the page's own.
     const QByteArray programma = html.section(u"<script>"_s, 1).section(u"</script>"_s, 0, 0).toUtf8();
     const QByteArray impronta = QCryptographicHash::hash(programma, QCryptographicHash::Sha256).toBase64();

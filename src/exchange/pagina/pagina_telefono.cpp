@@ -9,6 +9,7 @@
 #include "exchange/pagina/schede_giorni.h"
 #include "interaction/failure.h"
 #include "schedule/testi_giornata.h"
+#include "schedule/testi_ore.h"
 
 namespace cronovia {
 
@@ -58,7 +59,7 @@ void ScriviRiassunto(const Meta& meta, const Cronovia& cronovia, const std::vect
     if (const auto& fine = cronovia.fine) {
         voce(u"Fine"_s, GiornoEData(fine->data) + u" alle "_s + TestoOreBrevi(fine->ora));
     }
-    if (meta.scadenza) voce(u"A casa entro"_s, Testo(meta.scadenza->Ora()));
+    if (cronovia.scadenza) voce(u"Rientro"_s, Testo(*cronovia.scadenza, cronovia));
     voce(u"Giorni"_s, QString::number(giornate.size()));
     voce(u"Chilometri"_s, RaggruppaNonZero(cronovia.totali.km[kTuttiITipi]));
     voce(u"Ore di guida"_s, TestoOreBrevi(cronovia.totali.tempo[kTuttiITipi]));

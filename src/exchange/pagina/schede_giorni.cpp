@@ -7,6 +7,7 @@
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 #include "schedule/testi_giornata.h"
+#include "schedule/testi_ore.h"
 
 namespace cronovia {
 
@@ -60,6 +61,9 @@ class Scheda {
     void Vincoli(const RigaCronovia& riga);
 
     [[nodiscard]] const RigaCronovia& Riga(int riga) const { return cronovia_.righe[static_cast<std::size_t>(riga)]; }
+    [[nodiscard]] const EsitoOra& Ora(const RigaCronovia& riga) const {
+        return cronovia_.ore[static_cast<std::size_t>(riga.voce)];
+    }
     [[nodiscard]] const RigaCalcolo& Calcolo(const RigaCronovia& riga) const {
         return cronovia_.tabella.righe[static_cast<std::size_t>(riga.tappa)];
     }
@@ -146,7 +150,8 @@ void Scheda::Pezzo(const PezzoDelGiorno& pezzo) {
     cosa = cosa.left(1).toUpper() + cosa.mid(1) + (verso ? QString() : marcia ? u"a"_s : u" a"_s);
     Voce(notte ? u"dalle "_s + TestoOreBrevi(pezzo.da) : Fra(pezzo.da, pezzo.a), cosa, pezzo.luogo);
     if (conRiga && pezzo.riga == prossima_ &&
-        (marcia || pezzo.genere == GenerePezzo::Visita || pezzo.genere == GenerePezzo::Traghetto)) {
+        (marcia || pezzo.genere == GenerePezzo::Visita || pezzo.genere == GenerePezzo::Traghetto ||
+         pezzo.genere == GenerePezzo::Attesa)) {
         ++prossima_;
         DettagliRiga(pezzo.riga);
     }
@@ -163,9 +168,10 @@ void Scheda::RigheFinoA(int ultima) {
         Voce(ConMomento(riga.genere) ? TestoOreBrevi(riga.ora)
              : partenza              ? TestoOreBrevi(meta_.oraInizio)
                                      : u"–"_s,
-             riga.fineGiorno ? u"Fine della giornata a"_s
-             : partenza      ? u"Partenza da"_s
-                             : QString(),
+             riga.genere == GenereRiga::Attesa ? TestoBreve(Ora(riga))
+             : riga.fineGiorno                 ? u"Fine della giornata a"_s
+             : partenza                        ? u"Partenza da"_s
+                                               : QString(),
              Calcolo(riga).tappa.localita);
         DettagliRiga(prossima_);
         html_.Chiude();
@@ -176,6 +182,7 @@ void Scheda::RigheFinoA(int ultima) {
 void Scheda::DettagliRiga(int riga) {
     const RigaCronovia& r = Riga(riga);
     if (r.genere == GenereRiga::Marcia) Marcia(r);
+    if (r.genere == GenereRiga::Attesa) html_.Elemento(u"p"_s, Testo(Ora(r), cronovia_));
     if (!r.verso) Vincoli(r);
     VociGuida(riga);
 }
