@@ -59,6 +59,16 @@ void ScrittoreJson::Logico(bool vero) {
     scritto_ += vero ? u"true" : u"false";
 }
 
+void ScrittoreJson::Nullo() {
+    IniziaValore();
+    scritto_ += u"null";
+}
+
+void ScrittoreJson::Decimale(double numero, int decimali) {
+    IniziaValore();
+    scritto_ += Caratteri(QString::number(numero, 'f', decimali));
+}
+
 void ScrittoreJson::Testi(std::span<const QString> testi) {
     ApreArray();
     for (const QString& testo : testi) Testo(testo);

@@ -33,6 +33,9 @@ class ScrittoreJson {
     void Testo(QStringView testo);
     void Numero(int numero);
     void Logico(bool vero);
+    void Nullo();
+    /// With a point and so many places.
+    void Decimale(double numero, int decimali);
 
     /// Texts as an array of strings.
     void Testi(std::span<const QString> testi);

@@ -128,12 +128,20 @@ struct Comando {
     Richiesta richiesta;
 };
 
+// A coordinate west or south is no option: with the sign of mathematics it is none to the parser either.
+QStringList ConCoordinate(QStringList riga) {
+    for (QString& parola : riga) {
+        if (parola.size() > 1 && parola.startsWith(u'-') && Cifra(parola[1])) parola[0] = QChar(0x2212);
+    }
+    return riga;
+}
+
 Comando LeggiVerbo(const Verbo& verbo, const QString& cartella, const QStringList& riga) {
     QCommandLineParser parser;
     AggiungiOpzioniComuni(parser);
     if (verbo.conFormato) parser.addOption({u"formato"_s, {}, u"F"_s, u"testo"_s});
     for (const Opzione& opzione : verbo.opzioni) parser.addOption({opzione.nome, {}, opzione.valore});
-    Analizza(parser, riga);
+    Analizza(parser, verbo.conCoordinate ? ConCoordinate(riga) : riga);
     if (parser.isSet(u"help"_s)) return {Comando::Genere::AiutoDelVerbo, &verbo, {}, {}};
     const QString dove = parser.isSet(u"cartella"_s) ? LeggiCartella(parser) : cartella;
     return {Comando::Genere::Verbo, &verbo, dove, LeggiRichiesta(verbo, parser)};

@@ -74,6 +74,7 @@ struct Verbo {
     int massimoArgomenti = 0;  ///< -1: any number
     bool conFormato = false;   ///< answers in the format wanted
     ProceduraVerbo esegui = nullptr;
+    bool conCoordinate = false;  ///< its arguments may be negative numbers, and no options
 };
 
 /// All verbs, in the order of the help.
@@ -88,6 +89,7 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
 void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiLuoghi(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiVerifica(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);

@@ -2,11 +2,16 @@
 // importa, esporta, converte.
 #include <QDateTime>
 
+#include <algorithm>
+
+#include "app/cartella_dati.h"
 #include "app/file_viaggio.h"
 #include "cli/verbi.h"
 #include "exchange/iei/esporta_mete.h"
 #include "exchange/iei/importa_mete.h"
+#include "exchange/navigatori/esporta_percorso.h"
 #include "exchange/vecchi/converti.h"
+#include "schedule/giorni_itinerario.h"
 
 namespace cronovia {
 
@@ -49,6 +54,53 @@ void EsportaViaggio(const ApriSessione& apri, const Richiesta& richiesta, const 
 // The text of a box as lines of a terminal.
 QString Righe(QString testo) { return testo.replace(u"\r\n"_s, u"\n"_s).trimmed() + u'\n'; }
 
+// The format of a navigator that was asked for.
+std::optional<FormatoPercorso> FormatoRichiesto(const Richiesta& richiesta) {
+    std::optional<FormatoPercorso> formato;
+    for (const FormatoPercorso uno : {FormatoPercorso::Gpx, FormatoPercorso::Kml, FormatoPercorso::Itn}) {
+        if (!richiesta.opzioni.contains(Estensione(uno))) continue;
+        if (formato) throw WrongUsage(u"Di --gpx, --kml e --itn se ne può dare solo una."_s);
+        formato = uno;
+    }
+    return formato;
+}
+
+// The stages of each day, with the place where it begins.
+std::vector<std::pair<int, int>> TappeDeiGiorni(Sessione& sessione, const MetaAperta& aperta) {
+    Progress muto;
+    const EsitoCalcolo esito = sessione.Calcola(aperta, {}, muto);
+    const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *aperta.meta.dataInizio);
+    const GiorniItinerario giorni(*esito.cronovia, giornate, aperta.tappe);
+    std::vector<std::pair<int, int>> tappe;
+    for (std::size_t g = 0; g < giornate.size(); ++g) {
+        const auto righe = giorni.Righe(static_cast<int>(g));
+        tappe.push_back(righe ? std::pair{std::max(0, righe->first - 2), righe->second - 1} : std::pair{0, -1});
+    }
+    return tappe;
+}
+
+void EsportaPerNavigatore(const ApriSessione& apri, const Richiesta& richiesta, FormatoPercorso formato,
+                          QTextStream& uscita) {
+    if (richiesta.argomenti.size() != 2) {
+        throw WrongUsage(u"Per un navigatore si esporta una mèta alla volta: FILE CODICE."_s);
+    }
+    Sessione sessione = apri();
+    sessione.RifiutaSeDanneggiato();
+    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.at(1));
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    const std::vector<PosizioneTappa> posizioni =
+        PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+    RichiestaEsportaPercorso percorso{sessione.Archivio(),
+                                      richiesta.argomenti.first(),
+                                      formato,
+                                      richiesta.opzioni.contains(u"sovrascrivi"_s),
+                                      aperta.meta.localita,
+                                      aperta.tappe,
+                                      posizioni};
+    if (richiesta.opzioni.contains(u"per-giorno"_s)) percorso.giorni = TappeDeiGiorni(sessione, aperta);
+    uscita << TestoEsito(EsportaPercorso(percorso)) << '\n';
+}
+
 }  // namespace
 
 void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
@@ -60,8 +112,15 @@ void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 }
 
 void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
-    if (const FormatoViaggio* formato = FormatoChiesto(richiesta)) {
-        return EsportaViaggio(apri, richiesta, *formato, uscita);
+    const FormatoViaggio* const viaggio = FormatoChiesto(richiesta);
+    const std::optional<FormatoPercorso> percorso = FormatoRichiesto(richiesta);
+    if (viaggio != nullptr && percorso) {
+        throw WrongUsage(u"Le opzioni --%1 e --%2 non vanno insieme."_s.arg(viaggio->opzione, Estensione(*percorso)));
+    }
+    if (viaggio != nullptr) return EsportaViaggio(apri, richiesta, *viaggio, uscita);
+    if (percorso) return EsportaPerNavigatore(apri, richiesta, *percorso, uscita);
+    if (richiesta.opzioni.contains(u"per-giorno"_s)) {
+        throw WrongUsage(u"L'opzione --per-giorno vale solo con --gpx, --kml o --itn."_s);
     }
     Sessione sessione = apri();
     std::vector<QString> codici = CodiciRichiesti(richiesta);

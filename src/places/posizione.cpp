@@ -141,7 +141,7 @@ std::optional<Posizione> LeggiPosizione(QStringView latitudine, QStringView long
     const std::optional<double> nord = LeggiGradi(latitudine, u"NS", 90);
     const std::optional<double> est = LeggiGradi(longitudine, u"EOW", 180);
     if (!nord || !est) return std::nullopt;
-    return Posizione{*nord, *est};
+    return Posizione{*nord, *est == 180 ? -180 : *est};
 }
 
 // The cut that leaves the same kind of number on both sides is the one meant.

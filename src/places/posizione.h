@@ -8,7 +8,7 @@
 
 namespace cronovia {
 
-/// In degrees: latitude from -90 to 90, north positive; longitude from -180 to 180, east positive.
+/// In degrees: latitude from -90 to 90, north positive; longitude from -180 to below 180, east positive.
 struct Posizione {
     double latitudine = 0;
     double longitudine = 0;

@@ -15,9 +15,11 @@
 //   @ cartella FOLDER          a folder, made beforehand
 //   @ guasta FILE PLACE        one byte of a file becomes 0
 //   @ uguali FILE FILE         two files that must be the same
+//   @ gpx FILE                 a file that must be GPX 1.1
 //
 // Whoever is refused leaves all files as they were, and a verb that only reads the archive.
 #include <QDirIterator>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include "programma.h"
@@ -88,6 +90,10 @@ class VerbaliTest : public testing::TestWithParam<QString> {
         if (parole[0] == u"guasta"_s) prova::Guasta(parole[1], parole[2].toInt());
         if (parole[0] == u"uguali"_s) {
             EXPECT_EQ(prova::LeggiFile(parole[1]), prova::LeggiFile(parole[2]));
+        }
+        if (parole[0] == u"gpx"_s) {
+            const QStringList argomenti = {u"--noout"_s, u"--schema"_s, kDati + u"navigatori/gpx11.xsd"_s, parole[1]};
+            EXPECT_EQ(QProcess::execute(u"xmllint"_s, argomenti), 0);
         }
         return parole[0] == u"mostra"_s ? Righe(u'|', QString::fromLatin1(prova::LeggiFile(parole[1]))) : QString();
     }
