@@ -163,11 +163,16 @@ def rings_of(geometry):
 
 
 def joined(ring, arcs):
+    """The points of a ring; what lies behind the date line goes on beyond 180 degrees."""
     points = []
     for number in ring:
         arc = arcs[number] if number >= 0 else arcs[~number][::-1]
         points += arc if not points else arc[1:]
-    return points[:-1]
+    turns, whole = 0, []
+    for before, here in zip(points[:1] + points, points):
+        turns += (before[0] - here[0] > 180) - (here[0] - before[0] > 180)
+        whole.append((here[0] + 360 * turns, here[1]))
+    return whole[:-1]
 
 
 def cut(points, axis, limit, sign):

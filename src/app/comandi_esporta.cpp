@@ -25,7 +25,7 @@ void Esporta(Postazione& p, const FormatoViaggio& formato) {
         const Meta& meta = p.documento.Campi();
         const QString path = p.volti.scegliFileViaggio(formato, NomeFileViaggio(formato, meta));
         if (path.isEmpty()) return;
-        p.Mostra(ScriviFileViaggio({p.sessione, meta, cronovia}, formato, path, true), formato.nome.toString(),
+        p.Mostra(ScriviFileViaggio({p.sessione, meta, cronovia, p.documento.Righe()}, formato, path, true), formato.nome.toString(),
                  Icon::Information);
     });
 }

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 
+#include "app/cartella_dati.h"
 #include "exchange/pagina/pagina_telefono.h"
 #include "files/file_intero.h"
+#include "itinerary/posizioni.h"
 
 namespace cronovia {
 
@@ -14,7 +16,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-FileScritto ScriviPagina(const ViaggioDaScrivere& viaggio) { return {PaginaTelefono(viaggio.meta, viaggio.cronovia)}; }
+// Without the file of coasts the maps show the way alone.
+FileScritto ScriviPagina(const ViaggioDaScrivere& viaggio) {
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    const std::vector<PosizioneTappa> posizioni =
+        PosizioniDelViaggio(viaggio.sessione.Archivio(), gazzettino, viaggio.tappe, viaggio.meta.nazione);
+    const Coste coste = LeggiCoste(FileDelProgramma(u"coste.dat"_s));
+    return {PaginaTelefono({viaggio.meta, viaggio.cronovia, viaggio.tappe, posizioni, coste})};
+}
 
 constexpr std::array kFormati = {
     FormatoViaggio{u"html", u"Pagina per il telefono",

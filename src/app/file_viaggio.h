@@ -16,6 +16,7 @@ struct ViaggioDaScrivere {
     Sessione& sessione;
     const Meta& meta;
     const Cronovia& cronovia;
+    std::span<const Tappa> tappe;  ///< from which it was computed
 };
 
 /// What was written, and what is to be said of it.

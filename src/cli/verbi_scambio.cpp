@@ -46,7 +46,7 @@ void EsportaViaggio(const ApriSessione& apri, const Richiesta& richiesta, const 
     Sessione sessione = apri();
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.last(), {}, progress);
-    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia}, formato, richiesta.argomenti.first(),
+    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe}, formato, richiesta.argomenti.first(),
                                 richiesta.opzioni.contains(u"sovrascrivi"_s))
            << '\n';
 }

@@ -9,6 +9,7 @@
 #include "app/sessione.h"
 #include "exchange/iei/importa_mete.h"
 #include "exchange/pagina/pagina_telefono.h"
+#include "itinerary/posizioni.h"
 #include "support/prova.h"
 
 namespace cronovia {
@@ -33,7 +34,12 @@ class Pagina : public testing::Test {
         return sessione_.ApriMeta(codice);
     }
     QString Html(const MetaAperta& aperta) {
-        const QByteArray pagina = PaginaTelefono(aperta.meta, *sessione_.Calcola(aperta, {}, progress_).cronovia);
+        Gazzettino gazzettino(QStringLiteral(CRONOVIA_PLACES "/luoghi.dat"));
+        const std::vector<PosizioneTappa> posizioni =
+            PosizioniDelViaggio(sessione_.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+        const Coste coste = LeggiCoste(QStringLiteral(CRONOVIA_PLACES "/coste.dat"));
+        const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
+        const QByteArray pagina = PaginaTelefono({aperta.meta, cronovia, aperta.tappe, posizioni, coste});
         EXPECT_EQ(Difetti(pagina).toStdString(), "");
         return QString::fromUtf8(pagina);
     }

@@ -12,9 +12,9 @@ namespace {
 constexpr QStringView kStile =
     uR"(
 :root{--carta:#fff;--fondo:#eef1f5;--testo:#1b2430;--tenue:#4c5969;--filo:#cfd6de;--segno:#0b5a8f;--avviso:#8a3b00;
---oggi:#fff3cf}
+--oggi:#fff3cf;--mare:#d5e6f2;--terra:#f7f4ec}
 @media(prefers-color-scheme:dark){:root{--carta:#1b222b;--fondo:#11161c;--testo:#e7ecf2;--tenue:#a9b5c3;--filo:#394552;
---segno:#7fc1f2;--avviso:#ffb27a;--oggi:#3a3218}}
+--segno:#7fc1f2;--avviso:#ffb27a;--oggi:#3a3218;--mare:#14222e;--terra:#262c31}}
 *{box-sizing:border-box}
 html{-webkit-text-size-adjust:100%}
 body{margin:0;background:var(--fondo);color:var(--testo);font:1rem/1.45 system-ui,"Noto Sans",sans-serif}
@@ -40,7 +40,11 @@ dt{color:var(--tenue)}
 dd{margin:0;overflow-wrap:anywhere}
 .striscia{display:block;width:100%;height:1.7rem;margin:.5rem 0 0;border:1px solid var(--filo)}
 .assi{display:flex;justify-content:space-between;margin:0;color:var(--tenue);font-size:.75rem}
-.mappa text{font:600 11px system-ui,"Noto Sans",sans-serif;fill:var(--tenue)}
+.mare{fill:var(--mare)}.terra{fill:var(--terra);fill-rule:evenodd;stroke:var(--filo)}
+.confine{fill:none;stroke:var(--filo);stroke-dasharray:4 3}
+.via{fill:none;stroke:#c65a11;stroke-width:2.5}.pari{stroke:#2f86c6}.traghetto{stroke-dasharray:5 5}
+.luogo{fill:var(--testo)}.incerto{fill:var(--carta);stroke:var(--testo)}.notte{fill:#f7d27a;stroke:var(--testo)}
+.mappa text{paint-order:stroke;stroke:var(--terra);stroke-width:3px;font:600 11px system-ui,"Noto Sans",sans-serif;fill:var(--testo)}
 .mappa{display:block;width:100%;height:auto;margin:.5rem 0}
 .avvisi{margin:.4rem 0;padding:0 0 0 1.1rem;color:var(--avviso)}
 .ore{margin:.5rem 0 0;padding:0;list-style:none}

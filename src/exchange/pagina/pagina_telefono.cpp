@@ -6,6 +6,7 @@
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 #include "exchange/pagina/aspetto_pagina.h"
+#include "exchange/pagina/mappa_svg.h"
 #include "exchange/pagina/schede_giorni.h"
 #include "interaction/failure.h"
 #include "schedule/testi_giornata.h"
@@ -44,8 +45,9 @@ void ScriviTesta(const Meta& meta, ScrittoreHtml& html) {
     html.Chiude();
 }
 
-void ScriviRiassunto(const Meta& meta, const Cronovia& cronovia, const std::vector<Giornata>& giornate,
+void ScriviRiassunto(const DatiPagina& dati, const std::vector<Giornata>& giornate, const MappaViaggio& mappa,
                      ScrittoreHtml& html) {
+    const auto& [meta, cronovia, tappe, posizioni, coste] = dati;
     const auto voce = [&](const QString& nome, const QString& valore) {
         if (valore.isEmpty()) return;
         html.Elemento(u"dt"_s, nome);
@@ -65,6 +67,7 @@ void ScriviRiassunto(const Meta& meta, const Cronovia& cronovia, const std::vect
     voce(u"Ore di guida"_s, TestoOreBrevi(cronovia.totali.tempo[kTuttiITipi]));
     if (cronovia.totali.traghetti > 0) voce(u"Traghetti"_s, QString::number(cronovia.totali.traghetti));
     html.Chiude();
+    ScriviMappa(mappa, coste, html);
     html.Chiude();
 }
 
@@ -102,10 +105,14 @@ void ScriviLegenda(ScrittoreHtml& html) {
 
 }  // namespace
 
-QByteArray PaginaTelefono(const Meta& meta, const Cronovia& cronovia) {
+QByteArray PaginaTelefono(const DatiPagina& dati) {
+    const Meta& meta = dati.meta;
     const std::vector<Giornata> giornate =
-        meta.dataInizio ? Giornate(cronovia, *meta.dataInizio) : std::vector<Giornata>();
+        meta.dataInizio ? Giornate(dati.cronovia, *meta.dataInizio) : std::vector<Giornata>();
     if (giornate.empty()) throw Failure(u"La mèta non ha giornate da scrivere: mancano le tappe."_s);
+    const MappaViaggio mappa = dati.posizioni.empty() ? MappaViaggio()
+                                                      : ComponiMappa(dati.tappe, dati.posizioni, giornate,
+                                                                     {dati.cronovia, giornate, dati.tappe});
     ScrittoreHtml html;
     ScriviTesta(meta, html);
     html.Apre(u"body"_s);
@@ -115,8 +122,8 @@ QByteArray PaginaTelefono(const Meta& meta, const Cronovia& cronovia) {
     html.Chiude();
     ScriviIndice(giornate, html);
     html.Apre(u"main"_s);
-    ScriviRiassunto(meta, cronovia, giornate, html);
-    ScriviSchede(meta, cronovia, giornate, html);
+    ScriviRiassunto(dati, giornate, mappa, html);
+    ScriviSchede(dati, giornate, mappa, html);
     ScriviLegenda(html);
     html.Chiude();
     html.Apre(u"footer"_s);

@@ -6,6 +6,7 @@
 
 #include "calendar/durata.h"
 #include "calendar/testo.h"
+#include "exchange/pagina/mappa_svg.h"
 #include "schedule/testi_giornata.h"
 #include "schedule/testi_ore.h"
 
@@ -43,8 +44,8 @@ bool PaginaDiRete(const QString& link) {
 
 class Scheda {
   public:
-    Scheda(const Meta& meta, const Cronovia& cronovia, ScrittoreHtml& html)
-        : meta_(meta), cronovia_(cronovia), html_(html) {}
+    Scheda(const DatiPagina& dati, const MappaViaggio& mappa, ScrittoreHtml& html)
+        : meta_(dati.meta), cronovia_(dati.cronovia), coste_(dati.coste), mappa_(mappa), html_(html) {}
 
     void Scrivi(const Giornata& giornata, const StrisciaDelGiorno& striscia);
 
@@ -70,6 +71,8 @@ class Scheda {
 
     const Meta& meta_;
     const Cronovia& cronovia_;
+    const Coste& coste_;
+    const MappaViaggio& mappa_;
     ScrittoreHtml& html_;
     int prossima_ = 0;           // the first row that was not written yet
     int ultimaConVincoli_ = -1;  // the last stage of which they were told
@@ -93,6 +96,7 @@ void Scheda::Scrivi(const Giornata& giornata, const StrisciaDelGiorno& striscia)
     if (!giornata.righe.empty()) RigheFinoA(giornata.righe.back());
     html_.Chiude();
     Limite(giornata);
+    ScriviMappa(mappa_, coste_, giornata.numero - 1, html_);
     html_.Chiude();
 }
 
@@ -254,10 +258,10 @@ void Scheda::Vincoli(const RigaCronovia& riga) {
 
 QString AncoraGiornata(const Giornata& giornata) { return u"giorno-%1"_s.arg(giornata.numero); }
 
-void ScriviSchede(const Meta& meta, const Cronovia& cronovia, const std::vector<Giornata>& giornate,
+void ScriviSchede(const DatiPagina& dati, const std::vector<Giornata>& giornate, const MappaViaggio& mappa,
                   ScrittoreHtml& html) {
-    const std::vector<StrisciaDelGiorno> strisce = Strisce(cronovia, giornate);
-    Scheda scheda(meta, cronovia, html);
+    const std::vector<StrisciaDelGiorno> strisce = Strisce(dati.cronovia, giornate);
+    Scheda scheda(dati, mappa, html);
     for (std::size_t i = 0; i < giornate.size(); ++i) scheda.Scrivi(giornate[i], strisce[i]);
 }
 

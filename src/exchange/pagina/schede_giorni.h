@@ -4,9 +4,9 @@
 
 #include <vector>
 
+#include "exchange/pagina/pagina_telefono.h"
 #include "exchange/pagina/scrittore_html.h"
 #include "schedule/strisce.h"
-#include "trips/meta.h"
 
 namespace cronovia {
 
@@ -15,7 +15,7 @@ QString AncoraGiornata(const Giornata& giornata);
 
 /// Writes the cards in the order of the days. What the guide tells of a stop, and what was noted, stands where it is
 /// met first.
-void ScriviSchede(const Meta& meta, const Cronovia& cronovia, const std::vector<Giornata>& giornate,
+void ScriviSchede(const DatiPagina& dati, const std::vector<Giornata>& giornate, const MappaViaggio& mappa,
                   ScrittoreHtml& html);
 
 }  // namespace cronovia

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A journey on the map: what every face of it draws.
+#pragma once
+
+#include <QString>
+#include <span>
+#include <vector>
+
+#include "places/proiezione.h"
+#include "places/scelta_luoghi.h"
+#include "schedule/giorni_itinerario.h"
+
+namespace cronovia {
+
+/// What belongs to no day, since there is no schedule.
+inline constexpr int kSenzaGiornata = -1;
+
+/// A place of the journey.
+struct LuogoSullaMappa {
+    int riga = 0;  ///< of the itinerary, from 1
+    QString nome;
+    PuntoMappa dove;
+    bool certo = false;             ///< its position is known, not guessed from its neighbours
+    bool sosta = false;             ///< one stops here
+    bool notte = false;             ///< a night is spent here
+    int giornata = kSenzaGiornata;  ///< on which it is reached, from 0
+};
+
+/// The straight way from one place to the next.
+struct TrattaSullaMappa {
+    int riga = 0;  ///< of the place that it leads to
+    int giornata = kSenzaGiornata;
+    bool traghetto = false;
+    PuntoMappa da;
+    PuntoMappa a;
+};
+
+/// A part of the plane.
+struct RiquadroMappa {
+    PuntoMappa min;
+    PuntoMappa max;
+
+    [[nodiscard]] double Larghezza() const { return max.x - min.x; }
+    [[nodiscard]] double Altezza() const { return max.y - min.y; }
+    [[nodiscard]] PuntoMappa Centro() const { return {(min.x + max.x) / 2, (min.y + max.y) / 2}; }
+    [[nodiscard]] bool Contiene(const PuntoMappa& punto) const;
+    [[nodiscard]] bool Tocca(const RiquadroMappa& altro) const;
+};
+
+struct MappaViaggio {
+    std::vector<LuogoSullaMappa> luoghi;   ///< in the order of the rows; those without a position are left out
+    std::vector<TrattaSullaMappa> tratte;  ///< between places that follow each other here
+
+    [[nodiscard]] bool Vuota() const { return luoghi.empty(); }
+    /// Where a row of the itinerary lies; null when that is not known.
+    [[nodiscard]] const LuogoSullaMappa* Luogo(int riga) const;
+    /// The part of the plane with all places, or with those of a day and the way to them; at least 30 kilometres
+    /// wide. Nothing without any.
+    [[nodiscard]] std::optional<RiquadroMappa> Riquadro() const;
+    [[nodiscard]] std::optional<RiquadroMappa> Riquadro(int giornata) const;
+};
+
+/// The map of an itinerary: its rows, as many positions, and its days when there is a schedule of just these rows.
+MappaViaggio ComponiMappa(std::span<const Tappa> righe, std::span<const PosizioneTappa> posizioni,
+                          const std::vector<Giornata>& giornate, const GiorniItinerario& giorni);
+
+}  // namespace cronovia
