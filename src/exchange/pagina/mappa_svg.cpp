@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 namespace cronovia {
 
@@ -148,25 +150,44 @@ class Disegno {
         if (!tracciato.isEmpty()) Forma(tracciato, classe);
     }
 
-    // Points far outside are moved to the rim, where many of them become one.
+    // Which of the four sides of what is seen a point lies beyond, as bits.
+    static unsigned Fuori(const PuntoMappa& punto, const RiquadroMappa& visto) {
+        return (punto.x < visto.min.x ? 1U : 0U) | (punto.x > visto.max.x ? 2U : 0U) |
+               (punto.y < visto.min.y ? 4U : 0U) | (punto.y > visto.max.y ? 8U : 0U);
+    }
+
+    // Of points that follow each other beyond one side only the first and the last count, moved near to the rim.
     [[nodiscard]] QString Sfrondato(const std::vector<PuntoMappa>& punti, const RiquadroMappa& visto,
                                     bool chiusa) const {
         const double margineX = visto.Larghezza() * 0.1;
         const double margineY = visto.Altezza() * 0.1;
-        QString tracciato;
-        PuntoSvg prima;
+        std::vector<std::pair<PuntoSvg, unsigned>> tenuti;
         for (const PuntoMappa& punto : punti) {
             const PuntoSvg esatto = scala_({std::clamp(punto.x, visto.min.x - margineX, visto.max.x + margineX),
                                             std::clamp(punto.y, visto.min.y - margineY, visto.max.y + margineY)});
             const PuntoSvg p{std::round(esatto.x), std::round(esatto.y)};
+            const unsigned fuori = Fuori(punto, visto);
+            const std::size_t quanti = tenuti.size();
+            if (quanti > 1 && (tenuti[quanti - 2].second & tenuti[quanti - 1].second & fuori) != 0) {
+                tenuti.back() = {p, fuori};
+            } else if (quanti == 0 || std::hypot(p.x - tenuti.back().first.x, p.y - tenuti.back().first.y) >= kPasso) {
+                tenuti.emplace_back(p, fuori);
+            }
+        }
+        return tenuti.size() < 2 ? QString() : ComeTracciato(tenuti) + (chiusa ? u"Z"_s : QString());
+    }
+
+    static QString ComeTracciato(const std::vector<std::pair<PuntoSvg, unsigned>>& punti) {
+        QString tracciato;
+        PuntoSvg prima;
+        for (const auto& [p, fuori] : punti) {
             const bool primo = tracciato.isEmpty();
-            if (!primo && std::hypot(p.x - prima.x, p.y - prima.y) < kPasso) continue;
-            const QString x = QString::number(primo ? p.x : p.x - prima.x);
             const QString y = QString::number(primo ? p.y : p.y - prima.y);
-            tracciato += (primo ? u'M' : u'l') + x + (y.startsWith(u'-') ? y : u' ' + y);
+            tracciato += (primo ? u'M' : u'l') + QString::number(primo ? p.x : p.x - prima.x);
+            tracciato += y.startsWith(u'-') ? y : u' ' + y;
             prima = p;
         }
-        return chiusa ? tracciato + u'Z' : tracciato;
+        return tracciato;
     }
 
     void Forma(const QString& tracciato, const QString& classe) {

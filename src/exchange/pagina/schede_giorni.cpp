@@ -45,7 +45,11 @@ bool PaginaDiRete(const QString& link) {
 class Scheda {
   public:
     Scheda(const DatiPagina& dati, const MappaViaggio& mappa, ScrittoreHtml& html)
-        : meta_(dati.meta), cronovia_(dati.cronovia), coste_(dati.coste), mappa_(mappa), html_(html) {}
+        : meta_(dati.meta), cronovia_(dati.cronovia), coste_(dati.coste), mappa_(mappa), html_(html) {
+        for (std::size_t i = 0; i < dati.posizioni.size(); ++i) {  // the table leaves free rows out
+            if (!dati.tappe[i].localita.isEmpty()) posizioni_.push_back(dati.posizioni[i]);
+        }
+    }
 
     void Scrivi(const Giornata& giornata, const StrisciaDelGiorno& striscia);
 
@@ -60,6 +64,7 @@ class Scheda {
     void DettagliRiga(int riga);
     void VociGuida(int riga);
     void Vincoli(const RigaCronovia& riga);
+    void SullaMappa(const RigaCronovia& riga);
 
     [[nodiscard]] const RigaCronovia& Riga(int riga) const { return cronovia_.righe[static_cast<std::size_t>(riga)]; }
     [[nodiscard]] const EsitoOra& Ora(const RigaCronovia& riga) const {
@@ -74,8 +79,10 @@ class Scheda {
     const Coste& coste_;
     const MappaViaggio& mappa_;
     ScrittoreHtml& html_;
-    int prossima_ = 0;           // the first row that was not written yet
-    int ultimaConVincoli_ = -1;  // the last stage of which they were told
+    std::vector<PosizioneTappa> posizioni_;  // by stage of the table
+    int prossima_ = 0;                       // the first row that was not written yet
+    int ultimaSullaMappa_ = -1;              // the last stage that was shown the way to
+    int ultimaConVincoli_ = -1;              // the last stage of which they were told
 };
 
 void Scheda::Scrivi(const Giornata& giornata, const StrisciaDelGiorno& striscia) {
@@ -188,6 +195,7 @@ void Scheda::DettagliRiga(int riga) {
     if (r.genere == GenereRiga::Marcia) Marcia(r);
     if (r.genere == GenereRiga::Attesa) html_.Elemento(u"p"_s, Testo(Ora(r), cronovia_));
     if (!r.verso) Vincoli(r);
+    if (!r.verso && r.genere != GenereRiga::Attesa) SullaMappa(r);
     VociGuida(riga);
 }
 
@@ -252,6 +260,18 @@ void Scheda::Vincoli(const RigaCronovia& riga) {
     };
     if (!numero.isEmpty()) rimando(u"tel:"_s + numero, u"Telefono "_s + telefono);
     if (PaginaDiRete(link)) rimando(link, link);
+}
+
+// A link that the phone's own map or navigator opens, once for a stage.
+void Scheda::SullaMappa(const RigaCronovia& riga) {
+    const auto tappa = static_cast<std::size_t>(riga.tappa);
+    if (tappa >= posizioni_.size() || !posizioni_[tappa].Certa() || riga.tappa == ultimaSullaMappa_) return;
+    ultimaSullaMappa_ = riga.tappa;
+    const Posizione& posizione = *posizioni_[tappa].posizione;
+    const QString gradi = TestoGradi(posizione.latitudine) + u',' + TestoGradi(posizione.longitudine);
+    html_.Apre(u"p"_s);
+    html_.Elemento(u"a"_s, u"Apri sulla mappa"_s, {{u"href", u"geo:%1?q=%1"_s.arg(gradi)}});
+    html_.Chiude();
 }
 
 }  // namespace
