@@ -44,6 +44,7 @@ void Documento::MettiTappe(RigheItinerario righe) {
     rigaCorrente_ = 1;
     storia_.Dimentica(Ambito::Viaggio);
     RicalcolaTempi();
+    Ritrova();
 }
 
 void Documento::Apri(const QString& codice) {
@@ -129,9 +130,30 @@ void Documento::RileggiVisite() {
 
 // Fields or stages changed. A schedule on screen stays there until it is dropped.
 void Documento::Decade() {
+    Conserva();
     vale_ = false;
     ultima_.reset();
     if (!cronovia_) giornate_.clear();
+    impedimento_.clear();
+    ++versione_;
+}
+
+// Fields and stages are still those of the schedule.
+void Documento::Conserva() {
+    if (ultima_) {
+        passata_ = {std::move(*ultima_), giornate_, campi_, righe_};
+    } else if (cronovia_ && vale_) {
+        passata_ = {*cronovia_, giornate_, campi_, righe_};
+    }
+}
+
+// A change that was taken back leaves the schedule as true as it was.
+void Documento::Ritrova() {
+    const bool serve = passata_ && !cronovia_ && !ultima_;
+    if (!serve || !StessoCalcolo(passata_->campi, campi_) || passata_->righe != righe_) return;
+    ultima_ = std::move(passata_->cronovia);
+    giornate_ = std::move(passata_->giornate);
+    passata_.reset();
     impedimento_.clear();
     ++versione_;
 }
@@ -150,12 +172,14 @@ void Documento::ImpostaCampi(const Meta& campi) {
     if (!StessoCalcolo(campi, campi_)) Decade();
     campi_ = campi;
     orario_ = OrarioCorretto(campi_.parametri);
+    Ritrova();
 }
 
 void Documento::ImpostaParametri(const ParametriViaggio& parametri) {
     if (parametri != campi_.parametri) Decade();
     campi_.parametri = parametri;
     orario_ = OrarioCorretto(parametri);
+    Ritrova();
 }
 
 // What the program puts right by itself is no change of the person's.
@@ -187,6 +211,7 @@ void Documento::Mostra(Stato stato) {
     if (stato.righe != righe_) Decade();
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
+    Ritrova();
     SelezionaRiga(stato.rigaCorrente);
 }
 

@@ -34,7 +34,8 @@ class Documento {
     [[nodiscard]] const RiepilogoItinerario& Riepilogo() const { return riepilogo_; }
     /// The schedule computed from it, until that is dropped.
     [[nodiscard]] const std::optional<Cronovia>& Calcolata() const { return cronovia_; }
-    /// The last schedule that was computed, dropped or not, while fields and stages are as they were then; else null.
+    /// The last schedule that was computed, dropped or not, while fields and stages are as they were then; also when
+    /// they have become so again. Else null.
     [[nodiscard]] const Cronovia* Ultima() const { return cronovia_ ? &*cronovia_ : ultima_ ? &*ultima_ : nullptr; }
     /// Its days; none without it.
     [[nodiscard]] const std::vector<Giornata>& Giornate() const { return giornate_; }
@@ -123,6 +124,13 @@ class Documento {
         RigheItinerario righe;
         int rigaCorrente = 1;
     };
+    // A schedule with its days, and what it was computed from.
+    struct Passata {
+        Cronovia cronovia;
+        std::vector<Giornata> giornate;
+        Meta campi;
+        RigheItinerario righe;
+    };
     void RicordaCorrente(const QString& codice);
     void RifiutaSeDiversa(const std::optional<MetaMemorizzata>& attesa);
     void Metti(MetaAperta aperta);
@@ -134,6 +142,8 @@ class Documento {
     void Mostra(Stato stato);
     void RicalcolaTempi();
     void Decade();
+    void Conserva();
+    void Ritrova();
     LettoreGuida& Guida();
     EsitoCalcolo CalcolaCon(LettoreGuida& guida, Progress& progress);
     void Correggi(const ParametriViaggio& parametri);
@@ -146,6 +156,7 @@ class Documento {
     RiepilogoItinerario riepilogo_;
     std::optional<Cronovia> cronovia_;
     std::optional<Cronovia> ultima_;
+    std::optional<Passata> passata_;  // the one before the last change
     std::vector<Giornata> giornate_;
     QString impedimento_;
     int versione_ = 0;
