@@ -64,6 +64,10 @@ void Azioni::Applica(const StatoComandi& stato) {
         pulsante->setEnabled(abilitato);
         pulsante->setText(Scritta(d.comando, stato));
     }
+    // They have the same key, and never hold together.
+    const bool ricalcola = stato.Abilitato(Comando::Ricalcola);
+    Di(Comando::Ricalcola).setVisible(ricalcola);
+    Di(Comando::Calcola).setVisible(!ricalcola);
 }
 
 }  // namespace cronovia

@@ -15,6 +15,9 @@ class DelegatoGriglia : public QStyledItemDelegate {
     /// A rule above the row, broken where the day begins within it; the name of the day at the end of the cell of the
     /// stage, or its number, as there is room.
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
 }  // namespace cronovia
