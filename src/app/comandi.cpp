@@ -127,7 +127,7 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      Menu::Cronovia, kVuota | kNuova | kAperta | kCronovia | kStampa, &comandi::Calcola},
     {Comando::Ricalcola, u"cmdRicalcola", u"Ricalc&ola", nullptr, u"F9",
      u"Calcola la cronovia con le modifiche in corso", Menu::Cronovia, kDueTappe, &comandi::Ricalcola},
-    {Comando::FineGiornata, u"cmdFineGiornata", u"Fine giornata", u"&Fine giornata, sì o no", u"",
+    {Comando::FineGiornata, u"cmdFineGiornata", u"Fine giornata", u"&Metti o togli fine giornata", u"",
      u"Fa finire il giorno all'ultima tappa raggiunta, o toglie la fine della giornata", Menu::Cronovia, kCronovia,
      &comandi::FineGiornataCorrente},
     {Comando::Stampa, u"cmdStampa", u"&Stampa", u"&Stampa cronovia…", u"Ctrl+P", u"Stampa la cronovia", Menu::Cronovia,

@@ -2,6 +2,7 @@
 #include "app/comandi_righe.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "app/comandi_cronovia.h"
@@ -35,6 +36,8 @@ void Concludi(Postazione& p, const QString& nome, EsitoSpostamento esito) {
     }
     RicalcolaSulPosto(p);
 }
+
+bool ConLuogo(const Tappa& tappa) { return !tappa.localita.trimmed().isEmpty(); }
 
 GiorniItinerario Giorni(const Postazione& p) {
     const Cronovia* cronovia = p.documento.Ultima();
@@ -81,6 +84,16 @@ void Sposta(Postazione& p, int passo) {
     if (dove >= 1 && scelte.a + std::max(passo, 0) <= NumeroTappe(p.documento.Righe())) SpostaPrimaDi(p, scelte, dove);
 }
 
+void Duplica(Postazione& p, const std::optional<Tratto>& tratto) {
+    const RigheItinerario& righe = p.documento.Righe();
+    if (tratto) Concludi(p, u"duplicazione di "_s + NomeDi(righe, *tratto), DuplicaRighe(righe, *tratto));
+}
+
+void Toglie(Postazione& p, const std::optional<Tratto>& tratto) {
+    const RigheItinerario& righe = p.documento.Righe();
+    if (tratto) Concludi(p, u"cancellazione di "_s + NomeDi(righe, *tratto), TogliRighe(righe, *tratto));
+}
+
 }  // namespace
 
 Tratto RigheScelte(const Postazione& p) {
@@ -100,17 +113,10 @@ void SceglieFino(Postazione& p, int riga) {
 void SpostaSu(Postazione& p) { Sposta(p, -1); }
 void SpostaGiu(Postazione& p) { Sposta(p, 1); }
 
-void DuplicaScelte(Postazione& p) {
-    const auto tratto = Scelto(p);
-    const RigheItinerario& righe = p.documento.Righe();
-    if (tratto) Concludi(p, u"duplicazione di "_s + NomeDi(righe, *tratto), DuplicaRighe(righe, *tratto));
-}
-
-void TogliScelte(Postazione& p) {
-    const auto tratto = Scelto(p);
-    const RigheItinerario& righe = p.documento.Righe();
-    if (tratto) Concludi(p, u"cancellazione di "_s + NomeDi(righe, *tratto), TogliRighe(righe, *tratto));
-}
+void DuplicaScelte(Postazione& p) { Duplica(p, Scelto(p)); }
+void TogliScelte(Postazione& p) { Toglie(p, Scelto(p)); }
+void DuplicaGiornata(Postazione& p, int giornata) { Duplica(p, TappeDelGiorno(p, giornata)); }
+void TogliGiornata(Postazione& p, int giornata) { Toglie(p, TappeDelGiorno(p, giornata)); }
 
 void SpostaPrimaDi(Postazione& p, Tratto righe, int dove) {
     if (!SiPuoCambiare(p)) return;
@@ -132,6 +138,11 @@ void SpostaGiornataPrimaDi(Postazione& p, int giornata, int altra) {
     const auto prima = GiornoVicino(p, altra - 1, 1);
     const int dove = prima ? prima->da : NumeroTappe(p.documento.Righe()) + 1;
     Concludi(p, u"spostamento "_s + NomeDelGiorno(giornata), SpostaRighe(p.documento.Righe(), *tratto, dove));
+}
+
+const Tappa* TappaFinale(const Postazione& p, int giornata) {
+    const auto riga = Giorni(p).RigaFinale(giornata);
+    return riga ? &p.documento.Righe()[static_cast<std::size_t>(*riga - 1)] : nullptr;
 }
 
 void FineGiornata(Postazione& p, int giornata) {
@@ -161,7 +172,9 @@ void Copia(Postazione& p) {
     const auto inizio = std::min(static_cast<std::size_t>(scelte.da - 1), fine);
     const std::span<const Tappa> copiate = std::span(righe).subspan(inizio, fine - inizio);
     if (NumeroTappe(copiate) == 0) return;
-    p.copiate = {TestoPerAppunti(copiate), LuogoPrecedente(righe, scelte.da)};
+    RigheItinerario tappe;
+    std::copy_if(copiate.begin(), copiate.end(), std::back_inserter(tappe), &ConLuogo);
+    p.copiate = {TestoPerAppunti(copiate), std::move(tappe), LuogoPrecedente(righe, scelte.da)};
     p.volti.scriviAppunti(p.copiate.testo);
 }
 
@@ -173,8 +186,9 @@ void Taglia(Postazione& p) {
 void Incolla(Postazione& p) {
     const QString testo = p.volti.leggiAppunti();
     p.Prova([&] {
-        const RigheItinerario nuove = LeggiAppunti(testo);
-        const auto prima = testo == p.copiate.testo ? std::optional(p.copiate.prima) : std::nullopt;
+        const bool proprie = !testo.isEmpty() && testo == p.copiate.testo;
+        const RigheItinerario nuove = proprie ? p.copiate.tappe : LeggiAppunti(testo);
+        const auto prima = proprie ? std::optional(p.copiate.prima) : std::nullopt;
         const int riga = p.documento.RigaCorrente();
         const Tratto tutte{1, static_cast<int>(nuove.size())};
         Concludi(p, u"incollatura di "_s + NomeDi(nuove, tutte),

@@ -24,11 +24,16 @@ void TogliScelte(Postazione& p);
 void SpostaPrimaDi(Postazione& p, Tratto righe, int dove);
 void SpostaGiornata(Postazione& p, int giornata, int passo);
 void SpostaGiornataPrimaDi(Postazione& p, int giornata, int altra);
+/// The stages that are reached on a day once more behind themselves; taken away.
+void DuplicaGiornata(Postazione& p, int giornata);
+void TogliGiornata(Postazione& p, int giornata);
+/// The last stage that is reached on a day, where it can be made to end; null without one.
+[[nodiscard]] const Tappa* TappaFinale(const Postazione& p, int giornata);
 /// Has the day, from 0, end at the last stage that is reached on it, or lets it go on there; the current day.
 void FineGiornata(Postazione& p, int giornata);
 void FineGiornataCorrente(Postazione& p);
 
-/// The rows selected as text for the program and for spreadsheets.
+/// The rows selected as text for spreadsheets; for this window also what no text tells of them.
 void Copia(Postazione& p);
 void Taglia(Postazione& p);
 /// Stages as text, before the current row; all of them or none.

@@ -65,6 +65,7 @@ struct Postazione {
     Attivita attivita = Attivita::Nessuna;
     struct {
         QString testo;
+        RigheItinerario tappe;
         QString prima;                             ///< the place before them; empty before the departure
     } copiate;                                     ///< the stages that were copied last
     bool dalVivo = false;                          ///< the schedule is computed anew after each change

@@ -18,7 +18,6 @@
 #include <utility>
 
 #include "app/comandi_inserimento.h"
-#include "app/comandi_righe.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
@@ -167,18 +166,13 @@ void FormMete::CompletaMenu() {
 
 // Grid and panel follow each other's current row.
 void FormMete::CreaGiornate() {
-    giornate_ = new PannelloGiornate;
+    giornate_ = new PannelloGiornate(postazione_, [this](const auto& comando) { Esegui(comando); });
     giornate_->hide();
     AggiungiPannello(*giornate_, Qt::BottomDockWidgetArea);
     connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
     connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
     connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
-    connect(giornate_, &PannelloGiornate::GiornataLasciata, this, [this](int giornata, int prima) {
-        Esegui([&] { comandi::SpostaGiornataPrimaDi(postazione_, giornata, prima); });
-    });
-    connect(giornate_, &PannelloGiornate::Sposta, this, [this](int giornata, int passo) {
-        Esegui([&] { comandi::SpostaGiornata(postazione_, giornata, passo); });
-    });
+    connect(giornate_, &PannelloGiornate::RigheChieste, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
     dalVivo_->setObjectName(u"calcoloDalVivo"_s);
     dalVivo_->setCheckable(true);
     azioni_.MenuDi(Menu::Cronovia).addAction(dalVivo_);
@@ -230,6 +224,7 @@ void FormMete::MettiAlSicuro() {
         viaggio_->Raccogli();
         guida_.Raccogli();
     }
+    RicordaAspetto();
     ApriQuandoLibera();
     try {
         if (cronovia::MettiAlSicuro(postazione_)) senzaRecupero_ = false;
@@ -457,11 +452,15 @@ void FormMete::RipristinaAspetto() {
     griglia_.Vista().RipristinaLarghezze(aspetto_.value(u"colonne"_s).toByteArray());
 }
 
+// Now and then while the window is open too: whoever ends it by force finds it again as it was.
 void FormMete::RicordaAspetto() {
-    aspetto_.setValue(u"finestra"_s, saveGeometry());
-    aspetto_.setValue(u"pannelli"_s, saveState(kVersioneAspetto));
-    aspetto_.setValue(u"dalVivo"_s, dalVivo_->isChecked());
-    aspetto_.setValue(u"colonne"_s, griglia_.Vista().Larghezze());
+    const auto ricorda = [this](const QString& nome, const QVariant& valore) {
+        if (aspetto_.value(nome) != valore) aspetto_.setValue(nome, valore);
+    };
+    ricorda(u"finestra"_s, saveGeometry());
+    ricorda(u"pannelli"_s, saveState(kVersioneAspetto));
+    ricorda(u"dalVivo"_s, dalVivo_->isChecked());
+    ricorda(u"colonne"_s, griglia_.Vista().Larghezze());
 }
 
 }  // namespace cronovia

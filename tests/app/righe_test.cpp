@@ -33,6 +33,12 @@ class RigheTest : public prova::PostazioneTest {
 };
 
 TEST_F(RigheTest, RowsAreCutCopiedAndPasted) {
+    // What others set for a stage goes with it, though no text tells of it.
+    Vincoli vincoli;
+    vincoli.nota = *Appunto<vincoli::Nota>::Da(u"Ponte 7"_s);
+    RigheItinerario righe = Viaggio().Righe();
+    righe[1].vincoli = vincoli;
+    Viaggio().Modifica(u"nota"_s, righe, 2);
     Scegli(3, 2);
     comandi::Copia(*postazione_);
     comandi::SelezionaRiga(*postazione_, 5);
@@ -45,6 +51,7 @@ TEST_F(RigheTest, RowsAreCutCopiedAndPasted) {
     comandi::SelezionaRiga(*postazione_, 5);
     comandi::Incolla(*postazione_);
     EXPECT_EQ(Tappe(), u"A B C D B? C"_s);
+    EXPECT_EQ(Viaggio().Righe()[4].vincoli, righe[1].vincoli);
     EXPECT_EQ(postazione_->DaAnnullare(), u"incollatura di 2 tappe"_s);
     // What another program wrote is taken at its word, or not at all.
     appunti_ = u"X\t\t12\nY\t\t13"_s;

@@ -4,7 +4,9 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
+#include "app/comandi_righe.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/giornate/striscia_giornata.h"
 
@@ -51,8 +53,12 @@ QString PercheVuoto(const Documento& documento) {
 
 }  // namespace
 
-PannelloGiornate::PannelloGiornate(QWidget* parent)
-    : Pannello(u"Giornate"_s, parent), vista_(new VistaGiornate(modello_)), avviso_(NuovaScritta()) {
+PannelloGiornate::PannelloGiornate(Postazione& postazione, Esegui esegui)
+    : Pannello(u"Giornate"_s),
+      postazione_(postazione),
+      esegui_(std::move(esegui)),
+      vista_(new VistaGiornate(modello_)),
+      avviso_(NuovaScritta()) {
     setObjectName(u"pannelloGiornate"_s);
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     auto* contenuto = new QWidget;
@@ -68,14 +74,57 @@ PannelloGiornate::PannelloGiornate(QWidget* parent)
     setWidget(contenuto);
     connect(vista_, &VistaGiornate::RigaScelta, this, &PannelloGiornate::RigaScelta);
     connect(vista_, &VistaGiornate::GiornataScelta, this, &PannelloGiornate::GiornataScelta);
-    connect(vista_, &VistaGiornate::GiornataLasciata, this, &PannelloGiornate::GiornataLasciata);
-    connect(vista_, &VistaGiornate::Sposta, this, [this](int passo) {
-        if (vista_->currentIndex().isValid()) Q_EMIT Sposta(vista_->currentIndex().row(), passo);
+    connect(vista_, &VistaGiornate::GiornataLasciata, this, [this](int giornata, int prima) {
+        esegui_([&] { comandi::SpostaGiornataPrimaDi(postazione_, giornata, prima); });
     });
+    CreaAzioni();
 }
 
-void PannelloGiornate::Mostra(const Postazione& postazione) {
-    documento_ = &postazione.documento;
+// What can be done with the current day.
+void PannelloGiornate::CreaAzioni() {
+    auto* righe = new QAction(u"&Vai alle sue righe"_s, this);
+    righe->setObjectName(u"vaiAlleRighe"_s);
+    vista_->addAction(righe);
+    connect(righe, &QAction::triggered, this, &PannelloGiornate::RigheChieste);
+    connect(vista_, &VistaGiornate::activated, righe, &QAction::trigger);
+    auto* stacco = new QAction(this);
+    stacco->setSeparator(true);
+    vista_->addAction(stacco);
+    fine_ = NuovaAzione(u"fineDelGiorno"_s, {}, {}, &comandi::FineGiornata);
+    fine_->setCheckable(true);
+    connect(vista_, &VistaGiornate::MenuChiesto, this, &PannelloGiornate::MostraFine);
+    MostraFine();
+    NuovaAzione(u"giornoSu"_s, u"Sposta s&u"_s, Qt::ALT | Qt::Key_Up,
+                [](Postazione& p, int giornata) { comandi::SpostaGiornata(p, giornata, -1); });
+    NuovaAzione(u"giornoGiu"_s, u"Sposta &giù"_s, Qt::ALT | Qt::Key_Down,
+                [](Postazione& p, int giornata) { comandi::SpostaGiornata(p, giornata, 1); });
+    NuovaAzione(u"duplicaGiorno"_s, u"&Duplica le sue tappe"_s, {}, &comandi::DuplicaGiornata);
+    NuovaAzione(u"togliGiorno"_s, u"&Togli le sue tappe"_s, Qt::Key_Delete, &comandi::TogliGiornata);
+}
+
+QAction* PannelloGiornate::NuovaAzione(const QString& nome, const QString& testo, const QKeySequence& tasto,
+                                       DellaGiornata comando) {
+    auto* azione = new QAction(testo, this);
+    azione->setObjectName(nome);
+    azione->setShortcut(tasto);
+    azione->setShortcutContext(Qt::WidgetShortcut);
+    vista_->addAction(azione);
+    connect(azione, &QAction::triggered, this, [this, comando = std::move(comando)] {
+        const QModelIndex giornata = vista_->currentIndex();
+        if (giornata.isValid()) esegui_([&] { comando(postazione_, giornata.row()); });
+    });
+    return azione;
+}
+
+// Where the day can be made to end, and whether it does.
+void PannelloGiornate::MostraFine() {
+    const QModelIndex giornata = vista_->currentIndex();
+    const Tappa* tappa = giornata.isValid() ? comandi::TappaFinale(postazione_, giornata.row()) : nullptr;
+    fine_->setText(u"&Fine giornata"_s + (tappa == nullptr ? QString() : u" a "_s + InScritta(tappa->localita)));
+    fine_->setChecked(tappa != nullptr && tappa->fineGiorno);
+}
+
+void PannelloGiornate::Mostra(const Postazione& /*postazione*/) {
     if (isVisible()) Aggiorna();
 }
 
@@ -86,11 +135,12 @@ void PannelloGiornate::showEvent(QShowEvent* event) {
 }
 
 void PannelloGiornate::Aggiorna() {
-    if (documento_ == nullptr || mostrata_ == documento_->VersioneCronovia()) return;
-    mostrata_ = documento_->VersioneCronovia();
-    const Cronovia* cronovia = documento_->Ultima();
-    modello_.Mostra(cronovia, documento_->Giornate());
-    MostraScritta(*avviso_, cronovia != nullptr ? QString() : PercheVuoto(*documento_));
+    const Documento& documento = postazione_.documento;
+    if (mostrata_ == documento.VersioneCronovia()) return;
+    mostrata_ = documento.VersioneCronovia();
+    const Cronovia* cronovia = documento.Ultima();
+    modello_.Mostra(cronovia, documento.Giornate());
+    MostraScritta(*avviso_, cronovia != nullptr ? QString() : PercheVuoto(documento));
     avviso_->setVisible(cronovia == nullptr);
 }
 

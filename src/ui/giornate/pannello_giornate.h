@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QLabel>
 
+#include "ui/comuni/esegui.h"
 #include "ui/comuni/pannello.h"
 #include "ui/giornate/vista_giornate.h"
 
@@ -14,7 +15,7 @@ class PannelloGiornate : public Pannello {
     Q_OBJECT
 
   public:
-    explicit PannelloGiornate(QWidget* parent = nullptr);
+    PannelloGiornate(Postazione& postazione, Esegui esegui);
 
     void Mostra(const Postazione& postazione) override;
     /// Follows the row of the schedule that is current elsewhere, or the day without a row.
@@ -24,20 +25,26 @@ class PannelloGiornate : public Pannello {
     /// The person wants to see a row of the schedule; a day. Both count from 0.
     void RigaScelta(int riga);
     void GiornataScelta(int giornata);
-    /// A day is to go before another one; so many places down.
-    void GiornataLasciata(int giornata, int prima);
-    void Sposta(int giornata, int passo);
+    /// And to go on among those rows.
+    void RigheChieste();
 
   protected:
     void showEvent(QShowEvent* event) override;
 
   private:
-    void Aggiorna();
+    using DellaGiornata = std::function<void(Postazione&, int giornata)>;
 
+    void CreaAzioni();
+    QAction* NuovaAzione(const QString& nome, const QString& testo, const QKeySequence& tasto, DellaGiornata comando);
+    void Aggiorna();
+    void MostraFine();
+
+    Postazione& postazione_;
+    Esegui esegui_;
     ModelloGiornate modello_;
     VistaGiornate* vista_;
     QLabel* avviso_;
-    const Documento* documento_ = nullptr;
+    QAction* fine_ = nullptr;
     int mostrata_ = -1;  // the version of the schedule
 };
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/giornate/vista_giornate.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -120,10 +121,10 @@ VistaGiornate::VistaGiornate(ModelloGiornate& modello, QWidget* parent)
     });
 }
 
-void VistaGiornate::keyPressEvent(QKeyEvent* event) {
-    const bool freccia = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-    if (!freccia || event->modifiers() != Qt::AltModifier) return QListView::keyPressEvent(event);
-    Q_EMIT Sposta(event->key() == Qt::Key_Up ? -1 : 1);
+void VistaGiornate::contextMenuEvent(QContextMenuEvent* event) {
+    if (!currentIndex().isValid()) return;
+    Q_EMIT MenuChiesto();
+    QMenu::exec(actions(), event->globalPos(), nullptr, this);
 }
 
 // A few days, so that a small window keeps room for its rows.

@@ -32,12 +32,13 @@ class VistaGiornate : public QListView {
     /// The person wants to see a row of the schedule; a day.
     void RigaScelta(int riga);
     void GiornataScelta(int giornata);
-    /// A day is to be moved before another one, both from 0; one place up or down.
+    /// A day is to be moved before another one, both from 0.
     void GiornataLasciata(int giornata, int prima);
-    void Sposta(int passo);
+    /// The actions are about to be shown as the menu of the current day.
+    void MenuChiesto();
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     QModelIndex moveCursor(CursorAction azione, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
