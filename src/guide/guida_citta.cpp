@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guide/guida_citta.h"
 
+#include <QSet>
 #include <algorithm>
 #include <array>
 #include <tuple>
@@ -39,23 +40,36 @@ void InserisciTipiPredefiniti(Archive& archive) {
 // By type code, then description; entries are moved once, into their places.
 void Ordina(VociGuida& voci) {
     struct Chiave {
-        QString testo;
+        QString descrizione;
         std::size_t indice;
     };
     std::vector<Chiave> chiavi;
     chiavi.reserve(voci.size());
-    for (std::size_t i = 0; i < voci.size(); ++i) {
-        chiavi.push_back({voci[i].codice + u'\0' + AlphabeticalKey(voci[i].descrizione), i});
-    }
+    for (std::size_t i = 0; i < voci.size(); ++i) chiavi.push_back({AlphabeticalKey(voci[i].descrizione), i});
     std::sort(chiavi.begin(), chiavi.end(), [&](const Chiave& a, const Chiave& b) {
-        if (const int prima = a.testo.compare(b.testo); prima != 0) return prima < 0;
-        return std::tie(voci[a.indice].descrizione, voci[a.indice].id) <
-               std::tie(voci[b.indice].descrizione, voci[b.indice].id);
+        const VoceGuida& prima = voci[a.indice];
+        const VoceGuida& dopo = voci[b.indice];
+        if (const int codice = prima.codice.compare(dopo.codice); codice != 0) return codice < 0;
+        if (const int testo = a.descrizione.compare(b.descrizione); testo != 0) return testo < 0;
+        return std::tie(prima.descrizione, prima.id) < std::tie(dopo.descrizione, dopo.id);
     });
     VociGuida ordinate;
     ordinate.reserve(voci.size());
     for (const Chiave& chiave : chiavi) ordinate.push_back(std::move(voci[chiave.indice]));
     voci = std::move(ordinate);
+}
+
+// The entries that each of the names, taken as a pattern, matches.
+std::vector<VociGuida> LeggiVoci(Archive& archive, std::span<const QString> nomi, const std::vector<TipoGuida>& tipi) {
+    std::vector<NamePattern> modelli;
+    modelli.reserve(nomi.size());
+    for (const QString& nome : nomi) modelli.push_back(NamePattern::ForName(nome));
+    std::vector<VociGuida> voci(nomi.size());
+    archive.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
+        voci[quale].push_back(VoceDelRecord(record, tipi));
+    });
+    for (VociGuida& trovate : voci) Ordina(trovate);
+    return voci;
 }
 
 }  // namespace
@@ -116,34 +130,23 @@ QString DescrizioneTipoGuida(const std::vector<TipoGuida>& tipi, QStringView cod
 LettoreGuida::LettoreGuida(Archive& archive) : archive_(archive), tipi_(CaricaTipiGuida(archive)) {}
 
 std::shared_ptr<const VociGuida> LettoreGuida::Voci(const QString& localita) {
-    std::shared_ptr<const VociGuida>& letta = letture_[localita];
-    if (letta) return letta;
-    letta = Ordinate(archive_.Select({Table::GuidaCitta, {{guida::Localita, NamePattern::ForName(localita)}}}));
-    return letta;
+    Anticipa({&localita, 1});
+    return letture_.value(localita);
 }
 
 void LettoreGuida::Anticipa(std::span<const QString> localita) {
     std::vector<QString> nuove;
-    std::vector<NamePattern> modelli;
+    QSet<QString> viste;
     for (const QString& nome : localita) {
-        if (letture_.contains(nome)) continue;
-        letture_.insert(nome, nullptr);
+        if (letture_.contains(nome) || viste.contains(nome)) continue;
+        viste.insert(nome);
         nuove.push_back(nome);
-        modelli.push_back(NamePattern::ForName(nome));
     }
     if (nuove.empty()) return;
-    std::vector<std::vector<Record>> trovati(nuove.size());
-    archive_.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli,
-                          [&](std::size_t quale, Record&& record) { trovati[quale].push_back(std::move(record)); });
-    for (std::size_t i = 0; i < nuove.size(); ++i) letture_[nuove[i]] = Ordinate(std::move(trovati[i]));
-}
-
-std::shared_ptr<const VociGuida> LettoreGuida::Ordinate(std::vector<Record> record) const {
-    SortRecords(record, {guida::CodiceGuida, guida::Descrizione});
-    auto voci = std::make_shared<VociGuida>();
-    voci->reserve(record.size());
-    for (const Record& riga : record) voci->push_back(VoceDelRecord(riga, tipi_));
-    return voci;
+    std::vector<VociGuida> voci = LeggiVoci(archive_, nuove, tipi_);
+    for (std::size_t i = 0; i < nuove.size(); ++i) {
+        letture_.insert(nuove[i], std::make_shared<const VociGuida>(std::move(voci[i])));
+    }
 }
 
 Centesimi LettoreGuida::PrendiTempoVisite(const QString& localita) {
@@ -156,21 +159,7 @@ Centesimi LettoreGuida::PrendiTempoVisite(const QString& localita) {
 
 std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita) {
     const ReadSnapshot momento(archive);
-    const std::vector<TipoGuida> tipi = CaricaTipiGuida(archive);
-    std::vector<NamePattern> modelli;
-    modelli.reserve(localita.size());
-    for (const QString& nome : localita) modelli.push_back(NamePattern::ForName(nome));
-    std::vector<VociGuida> voci(localita.size());
-    archive.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
-        VociGuida& trovate = voci[quale];
-        // Texts that are alike are held once.
-        if (!trovate.empty() && trovate.back().localita == record[guida::Localita]) {
-            record[guida::Localita] = trovate.back().localita;
-        }
-        trovate.push_back(VoceDelRecord(record, tipi));
-    });
-    for (VociGuida& trovate : voci) Ordina(trovate);
-    return voci;
+    return LeggiVoci(archive, localita, CaricaTipiGuida(archive));
 }
 
 }  // namespace cronovia

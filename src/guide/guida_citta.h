@@ -80,8 +80,6 @@ class LettoreGuida {
     Centesimi PrendiTempoVisite(const QString& localita);
 
   private:
-    std::shared_ptr<const VociGuida> Ordinate(std::vector<Record> record) const;
-
     Archive& archive_;
     std::vector<TipoGuida> tipi_;
     QHash<QString, std::shared_ptr<const VociGuida>> letture_;

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -66,6 +67,39 @@ Record ReadRecord(const SQLite::Statement& statement, std::size_t fields) {
     for (std::size_t i = 0; i < fields; ++i) record.values.push_back(ColumnText(statement, static_cast<int>(i) + 1));
     return record;
 }
+
+// Reads rows of which neighbours often say the same: a text that stood in the row before is held once with it.
+class RecordReader {
+  public:
+    RecordReader(const SQLite::Statement& statement, std::size_t fields) : statement_(statement), before_(fields) {}
+
+    Record Read() {
+        Record record;
+        record.id = statement_.getColumn(0).getInt64();
+        record.values.reserve(before_.size());
+        for (std::size_t i = 0; i < before_.size(); ++i) {
+            const SQLite::Column column = statement_.getColumn(static_cast<int>(i) + 1);
+            const char* text = column.getText("");
+            const std::string_view utf8(text, static_cast<std::size_t>(column.getBytes()));
+            Value& value = before_[i];
+            if (value.utf8 != utf8) {
+                value.utf8 = utf8;
+                value.text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+            }
+            record.values.push_back(value.text);
+        }
+        return record;
+    }
+
+  private:
+    struct Value {
+        std::string utf8;
+        QString text = QString::fromUtf8("");
+    };
+
+    const SQLite::Statement& statement_;
+    std::vector<Value> before_;
+};
 
 bool Fulfils(const Record& record, const std::vector<Condition>& conditions) {
     return std::all_of(conditions.begin(), conditions.end(),
@@ -142,6 +176,14 @@ class Matcher {
     explicit Matcher(std::span<const NamePattern> patterns) : patterns_(patterns) {}
 
     const std::vector<std::size_t>& Matching(const QString& text, const std::vector<std::size_t>& candidates) {
+        if (last_ && text.constData() == last_->constData()) return matching_;
+        last_ = text;
+        matching_ = Known(text, candidates);
+        return matching_;
+    }
+
+  private:
+    const std::vector<std::size_t>& Known(const QString& text, const std::vector<std::size_t>& candidates) {
         const auto known = known_.constFind(text);
         if (known != known_.constEnd()) return *known;
         std::vector<std::size_t> matching;
@@ -150,9 +192,10 @@ class Matcher {
         return *known_.insert(text, matching);
     }
 
-  private:
     std::span<const NamePattern> patterns_;
     QHash<QString, std::vector<std::size_t>> known_;
+    std::optional<QString> last_;  // held, so that the same characters at the same place are the same text
+    std::vector<std::size_t> matching_;
 };
 
 }  // namespace
@@ -255,12 +298,13 @@ void Archive::ForEachMatch(Table table, int field, std::span<const NamePattern> 
     Guarded(connection_->Path(), [&] {
         SQLite::Statement& statement =
             connection_->Prepared(SelectSql(table) + " WHERE " + column + " BETWEEN ?1 AND ?2");
+        RecordReader reader(statement, definition.fields.size());
         Matcher matcher(patterns);
         for (const Stretch& stretch : stretches) {
             statement.bindNoCopy(1, stretch.from);
             statement.bindNoCopy(2, stretch.to);
             while (statement.executeStep()) {
-                Record record = ReadRecord(statement, definition.fields.size());
+                Record record = reader.Read();
                 hand(matcher.Matching(record[field], stretch.patterns), std::move(record));
             }
             statement.reset();
