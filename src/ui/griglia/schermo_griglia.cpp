@@ -162,7 +162,9 @@ void SchermoGriglia::VaiAllaRiga(int riga) {
 void SchermoGriglia::VaiAllaGiornata(int giornata) {
     if (postazione_.documento.Ultima() == nullptr || postazione_.Su<schermata::Guida>()) return;
     if (postazione_.documento.Calcolata()) {
-        vista_->SelezionaRiga(modello_.Mostrate().DoveLinea(giornata));
+        const int linea = modello_.Mostrate().DoveLinea(giornata);
+        vista_->SelezionaRiga(linea);
+        vista_->scrollTo(modello_.index(linea, 0), QAbstractItemView::PositionAtTop);  // the day's rows are seen
         DiceLaCorrente();
     } else if (const auto righe = Giorni().Righe(giornata)) {
         VaiAllaTappa(righe->first);
