@@ -46,6 +46,10 @@ QString TestoRiparazione(const Repair& riparazione) {
     for (const RepairedTable& tabella : riparazione.tables) {
         if (tabella.kept > 0 || tabella.lost > 0) testo += u"Righe %1.\n"_s.arg(TestoTabellaRiparata(tabella));
     }
+    if (!riparazione.rebuilt.isEmpty()) {
+        testo += u"Di queste mète restano le tappe; data d'inizio e parametri sono da rivedere: %1.\n"_s.arg(
+            riparazione.rebuilt.join(u", "_s));
+    }
     if (!riparazione.doubts.isEmpty()) {
         testo += u"Da controllare, perché nel file si leggono due cose diverse: %1.\n"_s.arg(
             riparazione.doubts.join(u", "_s));

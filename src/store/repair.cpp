@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "store/archive.h"
@@ -34,6 +35,31 @@ std::string FieldName(Table table, int field) {
 
 std::int64_t RowsOf(SQLite::Database& database, Table table) {
     return database.execAndGet("SELECT COUNT(*) FROM " + TableName(table)).getInt64();
+}
+
+// With the person's own parameters, and a day on which nobody wanted to leave: it is theirs to be put right.
+void InsertTrip(SQLite::Database& database, const QString& code, const QString& name, const QDate& day) {
+    SQLite::Statement any(database, "INSERT INTO MeteVandro DEFAULT VALUES");
+    any.exec();
+    const std::int64_t id = database.getLastInsertRowid();
+    const std::vector<FieldDefinition>& fields = Definition(Table::MeteVandro).fields;
+    for (int i = 0; i < std::ssize(fields); ++i) {
+        const bool own = i < mete::MediaAutostrada || i == mete::GiorniAdeguamento;
+        SQLite::Statement set(
+            database,
+            "UPDATE MeteVandro SET " + FieldName(Table::MeteVandro, i) + " = " +
+                (own ? "?" : "COALESCE((SELECT " + FieldName(Table::MeteVandro, i) + " FROM Parametri), '')") +
+                " WHERE rowid = " + std::to_string(id));
+        if (own) {
+            BindText(set, 1,
+                     i == mete::CodiceMeta   ? code
+                     : i == mete::Localita   ? name
+                     : i == mete::DataInizio ? day.toString(u"ddMMyyyy"_s)
+                     : i == mete::OraInizio  ? u"0800"_s
+                                             : QString());
+        }
+        set.exec();
+    }
 }
 
 /// One repair under way, in a folder of its own within the data folder.
@@ -137,6 +163,7 @@ class Repairer {
                 repair_.tables.push_back(Complete(damaged, database, table));
             }
         }
+        RebuildTrips(database);
         database.exec("COMMIT");
         UpdateTables(database, path);
         if (AnyDamage(CheckDatabase(database, CheckDepth::Values))) return false;
@@ -151,7 +178,12 @@ class Repairer {
         RepairedTable repaired{table};
         const IndexWitness witness = WitnessOf(damaged, database, table);
         for (const auto& [id, values] : witness.missing) {
-            ++(TakeFromCopies(database, table, id, values) ? repaired.fromCopy : repaired.lost);
+            const bool taken = TakeFromCopies(database, table, id, values);
+            ++(taken ? repaired.fromCopy : repaired.lost);
+            if (taken || table != Table::MeteVandro) continue;
+            const auto code = values.find(mete::CodiceMeta);
+            const auto name = values.find(mete::Localita);
+            if (code != values.end() && name != values.end()) lostTrips_[code->second] = name->second;
         }
         for (const auto& [id, values] : witness.different) {
             if (TakeFromCopies(database, table, id, values)) {
@@ -162,6 +194,22 @@ class Repairer {
         }
         repaired.kept = RowsOf(database, table);
         return repaired;
+    }
+
+    // Stages without their trip would not be seen, and be those of the next one that gets its code.
+    void RebuildTrips(SQLite::Database& database) {
+        SQLite::Statement orphans(database,
+                                  "SELECT DISTINCT CodiceMeta FROM Itinerari WHERE CodiceMeta NOT IN "
+                                  "(SELECT CodiceMeta FROM MeteVandro) ORDER BY 1");
+        std::vector<QString> codes;
+        while (orphans.executeStep()) codes.push_back(ColumnText(orphans, 0));
+        for (const QString& code : codes) {
+            const auto known = lostTrips_.find(code);
+            const QString name = known != lostTrips_.end() ? known->second : u"RECUPERATA %1"_s.arg(code);
+            InsertTrip(database, code, name, QFileInfo(path_).lastModified().date());
+            repair_.rebuilt += name;
+            ++repair_.tables.front().kept;
+        }
     }
 
     // The newest copy that has the row; older ones are opened when they are needed.
@@ -213,6 +261,7 @@ class Repairer {
     QString path_;
     Repair repair_;
     std::vector<ArchiveCopy> copies_;
+    std::map<QString, QString> lostTrips_;                   // names that an index still knows, by the codes
     std::vector<std::unique_ptr<SQLite::Database>> opened_;  // of these, to take rows from
     std::size_t next_ = 0;                                   // the copy to be opened next
 };

@@ -34,6 +34,7 @@ struct Repair {
     Way way = Way::Indexes;
     QString path;
     std::vector<RepairedTable> tables;
+    QStringList rebuilt;                  ///< names of lost trips, made anew for the stages that are left of them
     QStringList doubts;                   ///< texts of which the file says two things: "«ALBA» o «ALBB»"
     std::optional<ArchiveCopy> lastGood;  ///< the newest copy that is in order
     std::shared_ptr<QTemporaryDir> place;
