@@ -286,7 +286,11 @@ void OffriRecupero(Postazione& p) {
         const Answer risposta = ChiedeSeRecuperare(p, *trovato);
         if (risposta == Answer::No) QFile::remove(file);
         if (risposta != Answer::Yes) continue;
-        if (p.Prova([&] { Riprendi(p, trovato->lavoro); })) return p.recupero.Riprendi(file, trovato->lavoro);
+        const auto riprende = [&] {
+            Riprendi(p, trovato->lavoro);
+            p.recupero.Riprendi(file, trovato->lavoro);
+        };
+        if (p.Prova(riprende)) return;
     }
 }
 

@@ -20,6 +20,7 @@ namespace {
 const QString kFormato = u"recupero di Cronovia"_s;
 constexpr int kVersione = 1;
 constexpr qint64 kMassimiByte = 64LL << 20;
+constexpr int kMassimiFile = 999;
 
 QJsonObject InJson(const Meta& meta) {
     QJsonObject json;
@@ -149,6 +150,13 @@ std::optional<Recupero::Trovato> DaByte(const QByteArray& byte) {
     return Recupero::Trovato{std::move(lavoro), QDateTime::fromString(json["scritto"_L1].toString(), Qt::ISODate)};
 }
 
+// Whether a window that lives holds the file.
+bool InMano(const QString& file) {
+    QLockFile presa(file + u".presa"_s);
+    presa.setStaleLockTime(0);
+    return !presa.tryLock(0) && presa.error() == QLockFile::LockFailedError;
+}
+
 }  // namespace
 
 QStringList Differenze(const LavoroSospeso& lavoro) {
@@ -161,15 +169,28 @@ QStringList Differenze(const LavoroSospeso& lavoro) {
     return righe;
 }
 
+bool Recupero::Prendi(const QString& file) {
+    auto presa = std::make_unique<QLockFile>(file + u".presa"_s);
+    presa->setStaleLockTime(0);
+    const bool mia = presa->tryLock(0) || presa->error() != QLockFile::LockFailedError;  // then the writing tells
+    if (!mia) return false;
+    presa_ = std::move(presa);
+    file_ = file;
+    return true;
+}
+
 void Recupero::Segui(const std::optional<LavoroSospeso>& lavoro, const QDateTime& adesso) {
-    if (lavoro == scritto_) return;
+    if (lavoro == scritto_ && (!lavoro || QFile::exists(file_))) return;
     if (!lavoro) {
         QFile::remove(file_);
+        presa_.reset();
     } else {
         const QDir cartella(cartella_);
-        for (int i = 1; file_.isEmpty() || (!scritto_ && QFile::exists(file_)); ++i) {
-            file_ = cartella.filePath(i == 1 ? u"Cronovia.recupero"_s : u"Cronovia-%1.recupero"_s.arg(i));
+        for (int i = 1; !presa_ && i <= kMassimiFile; ++i) {
+            const QString file = cartella.filePath(i == 1 ? u"Cronovia.recupero"_s : u"Cronovia-%1.recupero"_s.arg(i));
+            if (!QFile::exists(file)) Prendi(file);
         }
+        if (!presa_) throw Failure(u"I file di recupero in questa cartella sono troppi."_s);
         FileIntero file(file_);
         file.Scrivi(InByte(*lavoro, adesso));
         file.Chiudi();
@@ -185,7 +206,8 @@ QStringList Recupero::Rimasti() const {
     }
     QStringList file;
     for (const QString& nome : cartella.entryList({u"Cronovia*.recupero"_s}, QDir::Files, QDir::Name)) {
-        file += cartella.filePath(nome);
+        const QString rimasto = cartella.filePath(nome);
+        if (!InMano(rimasto)) file += rimasto;
     }
     return file;
 }
@@ -208,7 +230,7 @@ Recupero::Trovato Recupero::Leggi(const QString& file) const {
 }
 
 void Recupero::Riprendi(const QString& file, const LavoroSospeso& lavoro) {
-    file_ = file;
+    if (!Prendi(file)) throw Failure(u"Questo lavoro è già aperto in un'altra finestra."_s);
     scritto_ = lavoro;
 }
 

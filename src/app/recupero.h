@@ -3,8 +3,10 @@
 #pragma once
 
 #include <QDateTime>
+#include <QLockFile>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <optional>
 
 #include "app/confronto.h"
@@ -37,7 +39,7 @@ struct LavoroSospeso {
 /// In what the work differs from what was saved, a line for each kind of change.
 QStringList Differenze(const LavoroSospeso& lavoro);
 
-/// The files of one data folder. A window writes to one of its own, so that no other one's goes.
+/// The files of one data folder. A window writes to one of its own, and holds it, so that no other one's goes.
 class Recupero {
   public:
     explicit Recupero(const QString& cartella) : cartella_(cartella) {}
@@ -46,7 +48,7 @@ class Recupero {
     /// cannot be written: then the file is as it was.
     void Segui(const std::optional<LavoroSospeso>& lavoro, const QDateTime& adesso);
 
-    /// Paths of the files that were left behind.
+    /// Paths of the files that were left behind; one that a window holds was not, though it may be too busy to answer.
     [[nodiscard]] QStringList Rimasti() const;
     struct Trovato {
         LavoroSospeso lavoro;
@@ -54,12 +56,15 @@ class Recupero {
     };
     /// Reads one. A `Failure` when it is torn or not one of ours; it is laid aside then under another name.
     [[nodiscard]] Trovato Leggi(const QString& file) const;
-    /// Its work is open now: the file is this window's own.
+    /// Its work is open now: the file is this window's own. A `Failure` when another one was faster.
     void Riprendi(const QString& file, const LavoroSospeso& lavoro);
 
   private:
+    bool Prendi(const QString& file);
+
     QString cartella_;
-    QString file_;  // this window's own, empty before the first writing
+    QString file_;                      // this window's own, empty before the first writing
+    std::unique_ptr<QLockFile> presa_;  // held as long as there is one; whoever is killed lets it go
     std::optional<LavoroSospeso> scritto_;
 };
 

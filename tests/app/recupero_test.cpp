@@ -24,7 +24,15 @@ TEST(RecuperoTest, GivesBackAllThatAStageAndATripCarry) {
     lavoro.campi.dataInizio = lavoro.caricati.dataInizio = lavoro.letta.meta.dataInizio = NumeroGiorno(740000);
     lavoro.campi.scadenza = Scadenza::Leggi(u"28062027", u"20:00");
     Recupero recupero(cartella.Path());
-    recupero.Segui(lavoro, QDateTime::currentDateTime());
+    {
+        Recupero altra(cartella.Path());  // a window that lives, though it may not answer: its work is its own
+        altra.Segui(lavoro, QDateTime::currentDateTime());
+        EXPECT_EQ(recupero.Rimasti(), QStringList());
+        QFile::remove(cartella.Path() + u"/Cronovia.recupero"_s);
+        altra.Segui(lavoro, QDateTime::currentDateTime());
+        recupero.Segui(lavoro, QDateTime::currentDateTime());
+        recupero.Segui({}, {});
+    }
     ASSERT_EQ(recupero.Rimasti().size(), 1);
     EXPECT_TRUE(recupero.Leggi(recupero.Rimasti().front()).lavoro == lavoro);
 }
