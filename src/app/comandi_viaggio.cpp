@@ -66,6 +66,17 @@ void Segue(Postazione& p) {
     SullaGuida(p, [](TavoloGuida&) {});
 }
 
+// The list of trips in front shows those that there are now.
+bool AggiornaElenco(Postazione& p) {
+    if (auto* elenco = p.Su<schermata::ElencoMete>()) {
+        elenco->mete = AutostradeInFondo(ElencoMete(p.sessione.Archivio()));
+        return true;
+    }
+    auto* copia = p.Su<schermata::Copia>();
+    if (copia != nullptr) copia->tavolo.Aggiorna();
+    return copia != nullptr;
+}
+
 }  // namespace
 
 bool SenzaMeta(Postazione& p) {
@@ -187,15 +198,17 @@ bool PossoChiudere(Postazione& p) {
 bool GuardaArchivio(Postazione& p) {
     if (p.attivita != Attivita::Nessuna) return false;
     std::optional<MetaMemorizzata> adesso;
+    bool elencata = false;
     try {
         if (p.sessione.Archivio().PresentMark().others == p.scrittiDaAltri) return false;
         p.scrittiDaAltri = p.sessione.Archivio().PresentMark().others;
+        elencata = AggiornaElenco(p);
         adesso = LeggiMemorizzata(p.sessione.Archivio(), p.documento.Letta().meta.codice);
     } catch (const Failure&) {
         return false;  // whoever needs the archive will tell
     }
     const bool nuova = p.documento.Letta().meta.codice.isEmpty();
-    if (nuova ? !p.SenzaMete() : adesso == p.documento.Letta()) return false;
+    if (nuova ? !p.SenzaMete() : adesso == p.documento.Letta()) return elencata;
     const bool ricaricabile = p.Su<schermata::Viaggio>() || p.Su<schermata::Inserimento>();
     if (!ricaricabile || QualcosaDaSalvare(p)) {
         p.avviso = u"Un altro programma ha modificato questa mèta nell'archivio: prima di salvare ti sarà chiesto."_s;

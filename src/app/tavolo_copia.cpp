@@ -38,6 +38,10 @@ void TavoloCopia::ScegliMeta(int riga) {
     rigaCopia_ = 1;
 }
 
+void TavoloCopia::Aggiorna() {
+    if (!tappe_) ElencaMete();
+}
+
 void TavoloCopia::SelezionaRiga(int riga) {
     rigaCopia_ = std::clamp(riga, 1, static_cast<int>(tappe_ ? tappe_->size() : mete_.size()));
 }

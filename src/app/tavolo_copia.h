@@ -31,6 +31,8 @@ class TavoloCopia {
     /// Shows the stages of the trip in a row of the list, if there is such a row; refused when they are gone meanwhile,
     /// and the list is made anew.
     void ScegliMeta(int riga);
+    /// Makes the list anew while it is shown.
+    void Aggiorna();
     void SelezionaRiga(int riga);
     /// The current row becomes the first (0) or last (1) stage.
     void Assegna(std::size_t estremo) { assegnate_.at(estremo) = rigaCopia_; }

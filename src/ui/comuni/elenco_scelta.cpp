@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "calendar/testo.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -29,15 +30,26 @@ ElencoScelta::ElencoScelta(const QString& nome, const QString& descrizione) {
 }
 
 void ElencoScelta::Mostra(bool aperto, const std::function<std::vector<VoceScelta>()>& voci) {
-    if (aperto && !isVisible()) {
+    const std::vector<VoceScelta> tutte = aperto ? voci() : std::vector<VoceScelta>();
+    if (aperto && !(isVisible() && GiaElencate(tutte))) {
+        const QVariant scelta =
+            isVisible() && currentItem() != nullptr ? currentItem()->data(Qt::UserRole) : QVariant();
         clear();
-        for (const VoceScelta& voce : voci()) {
+        for (const VoceScelta& voce : tutte) {
             auto* mostrata = new QListWidgetItem(voce.testo, this);
             mostrata->setData(Qt::UserRole, voce.dato);
-            if (voce.corrente) setCurrentItem(mostrata);
+            if (scelta.isValid() ? voce.dato == scelta : voce.corrente) setCurrentItem(mostrata);
         }
     }
     setVisible(aperto);
+}
+
+bool ElencoScelta::GiaElencate(const std::vector<VoceScelta>& voci) const {
+    int riga = 0;
+    return count() == std::ssize(voci) && std::all_of(voci.begin(), voci.end(), [&](const VoceScelta& voce) {
+               const QListWidgetItem& mostrata = *item(riga++);
+               return mostrata.text() == voce.testo && mostrata.data(Qt::UserRole) == voce.dato;
+           });
 }
 
 void ElencoScelta::Intesta(const QString& intestazione) {

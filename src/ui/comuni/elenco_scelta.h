@@ -28,7 +28,7 @@ class ElencoScelta : public QListWidget {
     ElencoScelta(const QString& nome, const QString& descrizione);
     /// Puts a heading over the entries, which stays while they scroll.
     void Intesta(const QString& intestazione);
-    /// Shows the list, with entries that are asked for when it opens, or hides it.
+    /// Shows the list, or hides it. While it is open and the entries are the same, nothing moves.
     void Mostra(bool aperto, const std::function<std::vector<VoceScelta>()>& voci);
 
   Q_SIGNALS:
@@ -45,6 +45,8 @@ class ElencoScelta : public QListWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
+    [[nodiscard]] bool GiaElencate(const std::vector<VoceScelta>& voci) const;
+
     QLabel* intestazione_ = nullptr;
 };
 
