@@ -7,10 +7,10 @@
 #include <functional>
 #include <optional>
 
-#include "app/copie.h"
 #include "app/documento.h"
 #include "app/file_viaggio.h"
 #include "app/recupero.h"
+#include "app/rimedi.h"
 #include "app/schermate.h"
 #include "app/stato_comandi.h"
 #include "interaction/interaction.h"
@@ -41,8 +41,7 @@ struct Volti {
     std::function<std::optional<Divisione>(const QString& da, const Tappa& tappa)> chiediDivisione = {};
     std::function<void()> anteprima = {};  ///< shows the pages that the screen in front would print
     std::function<void()> stampa = {};     ///< prints them on the printer chosen
-    /// Path of the copy to be put back; nothing when the person does not want any.
-    std::function<std::optional<QString>(const std::vector<CopiaInElenco>&)> scegliCopia = {};
+    ScegliCopia scegliCopia = {};
     /// Where a journey is to be written, the name being a proposal; an empty path when the person does not want it.
     std::function<QString(const FormatoViaggio& formato, const QString& nome)> scegliFileViaggio = {};
 };

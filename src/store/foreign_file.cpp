@@ -5,6 +5,7 @@
 #include <SQLiteCpp/Statement.h>
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -63,7 +64,17 @@ bool IsOurs(SQLite::Database& database) {
     return mark == 0 && trips && likeness.whole == likeness.present;
 }
 
+constexpr QByteArrayView kJet("\0\1\0\0Standard Jet DB", 19);
+constexpr QByteArrayView kOurs("SQLite format 3\0", 16);
+
 }  // namespace
+
+bool IsDestroyed(const QString& path) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return false;
+    const QByteArray start = file.read(20);
+    return !start.startsWith(kJet) && !start.startsWith(kOurs);
+}
 
 bool HasTables(SQLite::Database& database) {
     return NumberOf(database, "SELECT COUNT(*) FROM sqlite_master WHERE type = 'table'") > 0;
@@ -88,12 +99,12 @@ void RefuseForeignFile(const QString& path) {
                       "Copie, «cronovia ripristina» la rimette al suo posto; altrimenti toglilo, e Cronovia ne fa uno "
                       "nuovo."_s);
     }
-    if (start.startsWith(QByteArray("\x00\x01\x00\x00Standard Jet DB", 19))) {
+    if (start.startsWith(kJet)) {
         throw Failure(opening +
                       u"è un archivio Jet dell'edizione precedente, che Cronovia non può usare; il file è "
                       "rimasto com'era."_s);
     }
-    if (!start.startsWith(QByteArray("SQLite format 3\0", 16))) {
+    if (!start.startsWith(kOurs)) {
         throw Failure(opening + u"il file non è un archivio di Cronovia; è rimasto com'era."_s);
     }
 }

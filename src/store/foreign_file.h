@@ -18,6 +18,10 @@ void RefuseForeignFile(const QString& path);
 /// archive has, and one of a newer schema. Nothing is run that the file brings with it.
 void RefuseForeignDatabase(SQLite::Database& database, const QString& path);
 
+/// Whether what stands there is a file that no program left so: empty, or without the beginning of any database that is
+/// known.
+bool IsDestroyed(const QString& path);
+
 /// Whether it has any table.
 bool HasTables(SQLite::Database& database);
 

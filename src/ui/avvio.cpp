@@ -8,11 +8,15 @@
 #include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "app/cartella_dati.h"
+#include "app/rimedi.h"
 #include "calendar/testo.h"
 #include "interaction/failure.h"
+#include "ui/archivio/frm_copie.h"
 #include "ui/comuni/finestra_unica.h"
+#include "ui/comuni/interazione_finestra.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/form_mete.h"
 
@@ -32,6 +36,22 @@ void SenzaSchermo(QtMsgType type, const QMessageLogContext& /*context*/, const Q
     std::_Exit(1);
 }
 
+// An archive that cannot be opened may be brought back first; nothing when the person would rather not.
+std::unique_ptr<FormMete> Apri(const QString& dati) {
+    QWidget davanti;
+    InterazioneFinestra interazione(davanti);
+    const ScegliCopia scegli = [&](const auto& copie) { return ChiediCopia(davanti, copie); };
+    for (;;) {
+        try {
+            return std::make_unique<FormMete>(dati, &QDateTime::currentDateTime);
+        } catch (const Failure& failure) {
+            const Rimedio rimedio = OffreRimedio({dati, interazione, scegli, QDateTime::currentDateTime()}, failure);
+            if (rimedio == Rimedio::Nessuno) throw;
+            if (rimedio == Rimedio::Rifiutato) return nullptr;
+        }
+    }
+}
+
 }  // namespace
 
 int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString& file) {
@@ -49,12 +69,13 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
         const QString dati = CartellaDati(LuoghiDellaPiattaforma(cartella));
         FinestraUnica unica;
         if (unica.Consegna(dati, file)) return 0;
-        FormMete form(dati, &QDateTime::currentDateTime);
-        QObject::connect(&unica, &FinestraUnica::Richiamata, &form, &FormMete::Richiama);
-        form.show();
-        QTimer::singleShot(0, &form, [&] {
-            form.Comincia();
-            if (!file.isEmpty()) form.ApriFile(file);
+        const std::unique_ptr<FormMete> form = Apri(dati);
+        if (form == nullptr) return 1;
+        QObject::connect(&unica, &FinestraUnica::Richiamata, form.get(), &FormMete::Richiama);
+        form->show();
+        QTimer::singleShot(0, form.get(), [&] {
+            form->Comincia();
+            if (!file.isEmpty()) form->ApriFile(file);
         });
         return QApplication::exec();
     } catch (const Failure& failure) {

@@ -48,7 +48,7 @@ QTableWidget* TabellaCopie(const std::vector<CopiaInElenco>& copie) {
 
 }  // namespace
 
-std::optional<QString> ScegliCopia(QWidget& finestra, const std::vector<CopiaInElenco>& copie) {
+std::optional<QString> ChiediCopia(QWidget& finestra, const std::vector<CopiaInElenco>& copie) {
     QDialog dialogo(&finestra);
     MostraTitolo(dialogo, u"Ripristina una copia"_s);
     auto* layout = new QVBoxLayout(&dialogo);

@@ -13,6 +13,6 @@ namespace cronovia {
 
 /// Path of the copy chosen in a dialog over the window, which lists date, trips, stages, size and reason of each;
 /// nothing when the person does not want any.
-std::optional<QString> ScegliCopia(QWidget& finestra, const std::vector<CopiaInElenco>& copie);
+std::optional<QString> ChiediCopia(QWidget& finestra, const std::vector<CopiaInElenco>& copie);
 
 }  // namespace cronovia

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What brings an archive back, with the questions before it: from the window, and when that cannot open at all.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "app/copie.h"
+#include "interaction/failure.h"
+#include "interaction/interaction.h"
+
+namespace cronovia {
+
+/// Path of the copy to be put back; nothing when the person does not want any.
+using ScegliCopia = std::function<std::optional<QString>(const std::vector<CopiaInElenco>&)>;
+
+struct RichiestaRimedio {
+    const QString& cartella;
+    Interaction& interazione;
+    const ScegliCopia& scegliCopia;
+    QDateTime adesso;
+};
+
+/// Puts a copy that the person chooses into the archive's place, after telling what would change; repairs it, after
+/// telling what is saved. What to tell at the end; nothing when it was not done, which the person knows. A `Failure`
+/// when it could not be done.
+std::optional<QString> RipristinaChiedendo(const RichiestaRimedio& richiesta);
+std::optional<QString> RiparaChiedendo(const RichiestaRimedio& richiesta);
+
+enum class Rimedio {
+    Nessuno,    ///< there is none to offer
+    Rifiutato,  ///< the person knows what was wrong, and wanted none
+    Fatto,
+};
+
+/// Tells why an archive cannot be opened, and offers what may help.
+Rimedio OffreRimedio(const RichiestaRimedio& richiesta, const Failure& guasto);
+
+}  // namespace cronovia

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What is offered when an archive cannot be opened.
+#include "app/rimedi.h"
+
+#include "store/archive.h"
+#include "support/archivio.h"
+#include "support/copione.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class RimediTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        Archive archive = Archive::Open(cartella_.Path());
+        archive.KeepDailyCopies([] { return QDateTime::currentDateTime(); }, [](const QString&) {});
+        prova::NellaGuida(archive, u"ALBA"_s);
+        archive.KeepCopy(u"prima di importare"_s);
+        sano_ = prova::LeggiFile(cartella_.Archivio());
+    }
+    Rimedio Offre() {
+        return OffreRimedio({cartella_.Path(), copione_, scegli_, QDateTime::currentDateTime()}, Failure(u"Guasto."_s));
+    }
+
+    prova::CartellaDiProva cartella_;
+    prova::Copione copione_;
+    QByteArray sano_;
+    ScegliCopia scegli_ = [](const std::vector<CopiaInElenco>& copie) { return copie.front().copia.path; };
+};
+
+TEST_F(RimediTest, AnArchiveThatIsNoMoreComesBackFromItsCopy) {
+    for (const QByteArray& resta : {QByteArray(), QByteArray(9000, 'x'), sano_.left(200)}) {
+        prova::ScriviFile(cartella_.Archivio(), resta);
+        const bool riparabile = resta.startsWith("SQLite");
+        const QString titolo = u"Ripristina una copia"_s;
+        const QString domanda =
+            u"L'archivio di adesso non si può leggere. \nL'archivio di adesso resta tra le copie. Ripristino la copia "
+            "scelta?"_s;
+        const Answer ripristina = riparabile ? Answer::No : Answer::Yes;
+        copione_.Domanda(u"Guasto.\n\nChe cosa vuoi fare?"_s, u"Cronovia"_s, ripristina, riparabile)
+            .Domanda(domanda, titolo, Answer::No)
+            .Domanda(u"Guasto.\n\nChe cosa vuoi fare?"_s, u"Cronovia"_s, ripristina, riparabile)
+            .Domanda(domanda, titolo, Answer::Yes)
+            .Messaggio(u"L'archivio è di nuovo quello della copia …"_s);
+        EXPECT_EQ(Offre(), Rimedio::Fatto) << resta.size();
+        EXPECT_EQ(Archive::Open(cartella_.Path()).Count(Table::GuidaCitta), 1);
+    }
+}
+
+TEST_F(RimediTest, NothingIsOfferedWhereNothingHelps) {
+    EXPECT_EQ(Offre(), Rimedio::Nessuno);  // in order: it is locked, perhaps
+    prova::ScriviFile(cartella_.Archivio(), QByteArray("\0\1\0\0Standard Jet DB\0\1", 21));
+    EXPECT_EQ(Offre(), Rimedio::Nessuno);
+    prova::ScriviFile(cartella_.Archivio(), {});
+    copione_.Domanda(u"Guasto.\n\nChe cosa vuoi fare?"_s, u"Cronovia"_s, Answer::No);
+    EXPECT_EQ(Offre(), Rimedio::Rifiutato);
+    QDir(CopiesFolder(cartella_.Path())).removeRecursively();
+    EXPECT_EQ(Offre(), Rimedio::Nessuno);
+    EXPECT_EQ(prova::LeggiFile(cartella_.Archivio()), QByteArray());
+}
+
+}  // namespace
+}  // namespace cronovia
