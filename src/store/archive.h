@@ -74,6 +74,8 @@ class Archive {
     /// A sentence about its damage; empty as far as is known. While it is damaged nothing can be written, and what is
     /// read may be incomplete.
     [[nodiscard]] const QString& Damage() const;
+    /// Whether it was small enough for that at its opening, or it was done since.
+    [[nodiscard]] bool WasChecked() const { return confirmed_.has_value(); }
     /// Checks its pages and indexes, unless that was done since it was written to; a `Failure` when it is damaged. For
     /// those who hand on much of what they read.
     void ConfirmSound();

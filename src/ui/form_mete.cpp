@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -21,6 +22,7 @@
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
+#include "ui/archivio/controllo_in_pausa.h"
 #include "ui/archivio/frm_copie.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
@@ -45,10 +47,16 @@ constexpr QMargins kCornice(8, 40, 8, 8);
 // No more than this is lost of what is typed, whatever happens.
 constexpr std::chrono::milliseconds kOgniQuantoAlSicuro(1000);
 
+// What is no file is neither waited for nor replaced: nothing is remembered then.
+QString FileDellAspetto(const QString& cartella) {
+    const QFileInfo file(QDir(cartella).filePath(u"Cronovia.ini"_s));
+    return !file.exists() || file.isFile() ? file.filePath() : file.filePath() + u"/niente"_s;
+}
+
 }  // namespace
 
 FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
-    : aspetto_(QDir(cartella).filePath(u"Cronovia.ini"_s), QSettings::IniFormat),
+    : aspetto_(FileDellAspetto(cartella), QSettings::IniFormat),
       azioni_(*this),
       avanzamento_(new Avanzamento),
       interazione_(*this),
@@ -95,7 +103,7 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->MostraAnteprima() : stampa_->MostraAnteprima(); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); },
-        [this](const std::vector<CopiaInElenco>& copie) { return ScegliCopia(*this, copie); },
+        [this](const std::vector<CopiaInElenco>& copie) { return ChiediCopia(*this, copie); },
         [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); }};
 }
 
@@ -192,6 +200,17 @@ void FormMete::Comincia() {
     auto* battito = new QTimer(this);
     connect(battito, &QTimer::timeout, this, &FormMete::MettiAlSicuro);
     battito->start(kOgniQuantoAlSicuro);
+    const Archive& archivio = postazione_.sessione.Archivio();
+    if (archivio.WasChecked() || !archivio.Damage().isEmpty()) return;
+    auto* controllo = new ControlloInPausa(archivio.Path(), this);
+    connect(controllo, &ControlloInPausa::Danneggiato, this, &FormMete::DiceDelDanno);
+}
+
+// In the middle of a command it waits.
+void FormMete::DiceDelDanno() {
+    const auto dice = [this] { postazione_.Prova([this] { postazione_.sessione.Archivio().ConfirmSound(); }); };
+    const bool libera = postazione_.attivita == Attivita::Nessuna && QApplication::activeModalWidget() == nullptr;
+    if (!libera || !Esegui(dice)) QTimer::singleShot(kOgniQuantoAlSicuro, this, &FormMete::DiceDelDanno);
 }
 
 void FormMete::Richiama(const QString& file, const QByteArray& attivazione) {

@@ -71,6 +71,7 @@ class FormMete : public QMainWindow {
     void MettiAlSicuro();
     void ApriQuandoLibera();
     void GuardaArchivio();
+    void DiceDelDanno();
     /// Runs a command on what the fields hold, then shows the state anew; false when it cannot begin now.
     bool Esegui(const std::function<void()>& comando);
     void EseguiComando(Comando comando);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/archive.h"
 
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -9,6 +10,8 @@
 #include <stdexcept>
 #include <thread>
 
+#include "store/archive_check.h"
+#include "store/background_check.h"
 #include "support/archivio.h"
 
 namespace cronovia {
@@ -43,6 +46,48 @@ TEST_F(ArchiveTest, UpdateAndDeleteTouchOneRow) {
     EXPECT_EQ(Localita(), (QStringList{u"Alba"_s, u"Dronero"_s, u"Cuneo"_s}));
     archive_.Delete(Table::GuidaCitta, bra.id);
     EXPECT_EQ(Localita(), (QStringList{u"Alba"_s, u"Cuneo"_s}));
+}
+
+TEST_F(ArchiveTest, WhatDoesNotGoWithOtherRowsIsToldOf) {
+    prova::Inserisci(archive_, Table::MeteVandro, {u"000001"_s});
+    prova::Inserisci(archive_, Table::Itinerari, {u"000001"_s, u"0001"_s});
+    for (const QString& codice : {u"000001"_s, u"000002"_s}) {
+        for (const Table tabella : {Table::Vincoli, Table::Scadenze}) {
+            prova::Inserisci(archive_, tabella, {codice, u"0001"_s});
+        }
+    }
+    prova::Inserisci(archive_, Table::Itinerari, {u"000003"_s, u"0001"_s});
+    QStringList detti;
+    for (const Finding& finding : CheckArchive(cartella_.Path())) detti += finding.text + finding.detail;
+    EXPECT_EQ(detti, (QStringList{u"Ci sono tappe di mète che non ci sono più (tappe: 1).000003"_s,
+                                  u"Ci sono orari fissati di tappe che non ci sono più (tappe: 1).000002 0001"_s,
+                                  u"Ci sono scadenze di mète che non ci sono più (scadenze: 1).000002"_s}));
+}
+
+// Two indexes in each other's place: no page is in disorder.
+TEST_F(ArchiveTest, ALargeOneIsLookedThroughBesideTheWork) {
+    for (const QString& nome : {u"Alba"_s, u"Bra"_s}) prova::Inserisci(archive_, Table::Itinerari, {u"000001"_s, nome});
+    const auto danneggiato = [this] {
+        std::optional<bool> esito;
+        std::atomic<bool> finito = false;
+        BackgroundCheck controllo(archive_.Path());
+        controllo.Start([&](std::optional<bool> damaged) {
+            esito = damaged;
+            finito = true;
+        });
+        while (!finito) std::this_thread::yield();
+        return esito;
+    };
+    EXPECT_EQ(danneggiato(), false);
+    SQLite::Database(archive_.Path().toStdString(), SQLite::OPEN_READWRITE)
+        .exec(
+            "PRAGMA writable_schema = ON; UPDATE sqlite_master SET rootpage = (SELECT SUM(rootpage) FROM "
+            "sqlite_master WHERE name IN ('Itinerari_CodiceMeta', 'Itinerari_Sequenza')) - rootpage WHERE name IN "
+            "('Itinerari_CodiceMeta', 'Itinerari_Sequenza')");
+    EXPECT_EQ(danneggiato(), true);
+    BackgroundCheck fermato(archive_.Path());
+    fermato.Start([](std::optional<bool> damaged) { EXPECT_EQ(damaged, true); });
+    fermato.Stop();
 }
 
 TEST_F(ArchiveTest, WhatIsWiderThanItsFieldIsRefused) {
