@@ -18,7 +18,8 @@ inline void Pretendi(bool vero) {
 inline void SvuotaArchivio(Archive& archive) {
     Transaction transaction(archive);
     Progress progress;
-    for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta}) {
+    for (const Table tabella :
+         {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta, Table::Vincoli, Table::Scadenze}) {
         archive.DeleteMatching(tabella, std::nullopt, progress);
     }
     transaction.Commit();
