@@ -197,14 +197,22 @@ def scritture(radice):
     nuova = pretendi(vuota, "nuova", "CORSICA", "FRANCIA", "--inizio", "05/06/2027 08:00").decode().strip()
     vecchi = copia(base, radice / "vecchi")
     vecchi_file(vecchi)
+    voce = pretendi(base, "guida", "--formato", "tsv").decode().splitlines()[1].split("\t")[:3]
+    rotta = copia(base, radice / "rotta")
+    with open(rotta / ARCHIVIO, "r+b") as archivio:  # an index of the stages: every row can still be read
+        archivio.seek(5 * 4096)
+        archivio.write(b"\0")
     return {
         "nuova": (base, ["nuova", "ROMA", "ITALIA", "--inizio", "05/06/2027 08:00"]),
         "importa": (base, ["importa", ESEMPI / "capo-nord.iei"]),
         "percorso": (vuota, ["percorso", nuova, ESEMPI / "percorsi/livorno-ajaccio.txt"]),
         "guida --aggiungi": (base, ["guida", "--aggiungi", "ASTI", "Ottimo", "Torre Troyana", "00:30"]),
+        "guida --togli": (base, ["guida", "--togli", *voce]),
         "converte": (vecchi, ["converte"]),
         "ripristina": (base, ["ripristina", "1"]),
+        "verifica --ripara": (rotta, ["verifica", "--ripara", "--conferma"]),
         "esporta": (base, ["esporta", "{cartella}/fuori.iei", "--sovrascrivi"]),
+        "giornate --pdf": (base, ["giornate", "3", "--pdf", "{cartella}/fuori.pdf", "--sovrascrivi"]),
         "stampa": (base, ["stampa", "3", "--pdf", "{cartella}/fuori.pdf", "--sovrascrivi"]),
         "calcola --tabella": (base, ["calcola", "3", "--tabella"]),
     }
@@ -224,21 +232,26 @@ def file_interi(cartella):
     return stato
 
 
+def stato(cartella):
+    """As contenuto; of a damaged archive its bytes, after what was begun and not ended was taken back."""
+    return contenuto(cartella) or (cartella / ARCHIVIO).read_bytes()
+
+
 class Scrittura:
     """A verb on a copy of its folder, which is then as before or as after a run that nothing disturbed."""
 
     def __init__(self, radice, nome, prima, parole):
         self.nome, self.prima, self.parole = nome, prima, parole
         self.cartella = copia(prima, radice / "prova")
-        self.dati_prima, self.file_prima = contenuto(prima), file_interi(prima)
+        self.dati_prima, self.file_prima = stato(prima), file_interi(prima)
         inizio = time.monotonic()
         pretendi(self.cartella, *riga(parole, self.cartella))
         self.durata = time.monotonic() - inizio
-        self.dati_dopo, self.file_dopo = contenuto(self.cartella), file_interi(self.cartella)
+        self.dati_dopo, self.file_dopo = stato(self.cartella), file_interi(self.cartella)
 
     def guarda(self, quale, codice):
         """`codice` is None when it was killed. Returns whether the archive is the one after."""
-        dati, file = contenuto(self.cartella), file_interi(self.cartella)
+        dati, file = stato(self.cartella), file_interi(self.cartella)
         if dati not in (self.dati_prima, self.dati_dopo):
             trovato(f"{quale}: l'archivio non è né quello di prima né quello di dopo")
         for nome, byte in file.items():
@@ -250,7 +263,7 @@ class Scrittura:
             trovato(f"{quale}: dice di aver fatto, e non ha fatto")
         if codice == 1 and self.dati_prima != self.dati_dopo and dati == self.dati_dopo:
             trovato(f"{quale}: dice di non aver fatto, e ha fatto")
-        if esegui(self.cartella, "elenca")[0] != 0:
+        if esegui(self.cartella, "elenca")[0] != (1 if isinstance(dati, bytes) else 0):
             trovato(f"{quale}: dopo, l'archivio non si apre")
         return dati == self.dati_dopo and file == self.file_dopo
 
