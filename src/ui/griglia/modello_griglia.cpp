@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "calendar/testo.h"
+#include "itinerary/suggerimenti.h"
 #include "schedule/testi_giornata.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
@@ -193,10 +194,23 @@ Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
     }
 }
 
-// Why something of a row is later than one would expect.
+// The stage that a row is of; null for free rows.
+const Tappa* ModelloGriglia::TappaDi(int riga) const {
+    const auto indice = static_cast<std::size_t>(riga);
+    if (!cronovia_) return indice < righe_.size() ? &righe_[indice] : nullptr;
+    const RigaCronovia& dati = cronovia_->righe[static_cast<std::size_t>(*mostrate_.Riga(riga))];
+    return &cronovia_->tabella.righe[static_cast<std::size_t>(dati.tappa)].tappa;
+}
+
+// Why something of a row is later than one would expect, or takes no time.
 QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
     if (colonna == Colonna::Numero) return Significato(SegnoDellaRiga(riga));
     QStringList testi = {Testi(riga)[colonna]};
+    if (const Tappa* tappa = TappaDi(riga); tappa != nullptr && colonna == Colonna::NumeroStrada) {
+        const bool senzaTempo = !testi.front().isEmpty() && tappa->Traghetto() && !tappa->vincoli.ConTraghetto() &&
+                                tappa->km == 0 && tappa->sosta.Nulla();
+        if (senzaTempo) testi += Testo(cronovia::Suggerimento::TraghettoSenzaTempo);
+    }
     if (cronovia_ && colonna == Colonna::Note) {
         const auto motivo = motivi_.find(*mostrate_.Riga(riga));
         if (motivo != motivi_.end()) testi += motivo->second;

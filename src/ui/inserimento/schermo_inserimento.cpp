@@ -87,10 +87,13 @@ void SchermoInserimento::MostraSuggerimenti() {
     const Documento& documento = postazione_.documento;
     CampiTappa campi = riquadro_->Campi();
     campi.km = comandi::KmInseriti(postazione_, campi);
+    const auto posto = static_cast<std::size_t>(documento.RigaCorrente() - 1);
+    const bool aOrario = posto < documento.Righe().size() && documento.Righe()[posto].vincoli.ConTraghetto();
     QStringList testi;
     for (const Suggerimento suggerimento : SuggerimentiTappa(
              campi, documento.RigaCorrente(), documento.Campi().parametri, documento.Riepilogo().guidaGiorno)) {
-        testi += Testo(suggerimento);
+        const bool falso = aOrario && suggerimento == Suggerimento::TraghettoSenzaTempo;  // it has hours of its own
+        if (!falso) testi += Testo(suggerimento);
     }
     riquadro_->MostraSuggerimenti(testi.join(u'\n'));
 }
