@@ -31,7 +31,7 @@ Coste LeggiCoste(const QString& file) {
         const char* const testa = dati.constData() + posto;
         const auto punti = qFromLittleEndian<std::uint16_t>(testa + 2);
         if (posto + kByteTestaLinea + kBytePunto * punti > dati.size()) return {};
-        Linea linea;
+        LineaCosta linea;
         linea.reserve(punti);
         for (const char* punto = testa + kByteTestaLinea; linea.size() < punti; punto += kBytePunto) {
             linea.push_back({GradiDaCentesimi(punto + 2), GradiDaCentesimi(punto)});

@@ -9,11 +9,11 @@
 
 namespace cronovia {
 
-using Linea = std::vector<Posizione>;
+using LineaCosta = std::vector<Posizione>;
 
 struct Coste {
-    std::vector<Linea> terre;    ///< rings, filled together by the odd-even rule; cut where the known part ends
-    std::vector<Linea> confini;  ///< lines
+    std::vector<LineaCosta> terre;    ///< rings, filled together by the odd-even rule; cut where the known part ends
+    std::vector<LineaCosta> confini;  ///< lines
 };
 
 /// The part of the earth that they cover: what is cut off runs along its rim.

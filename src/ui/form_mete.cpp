@@ -76,6 +76,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     CompletaMenu();
     Collega();
     CreaGiornate();
+    CreaMappa();
     RendiLeggibile();
     RipristinaAspetto();
     Mostra();
@@ -193,6 +194,15 @@ void FormMete::CreaGiornate() {
         if (!inCorso_) MostraLeGiornate();
     });
     connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
+}
+
+void FormMete::CreaMappa() {
+    mappa_ = new PannelloMappa(postazione_, [this](const auto& comando) { Esegui(comando); });
+    mappa_->hide();
+    AggiungiPannello(*mappa_, Qt::RightDockWidgetArea);
+    connect(&griglia_, &SchermoGriglia::TappaCorrente, mappa_, &PannelloMappa::Segue);
+    connect(mappa_, &PannelloMappa::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaTappa);
+    connect(mappa_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
 }
 
 void FormMete::Comincia() {
@@ -443,6 +453,7 @@ void FormMete::Mostra() {
 void FormMete::MostraLeGiornate() {
     if (postazione_.attivita == Attivita::Nessuna) postazione_.documento.CalcolaDalVivo();
     giornate_->Mostra(postazione_);
+    mappa_->Mostra(postazione_);
     griglia_.SegnaGiorni();
 }
 

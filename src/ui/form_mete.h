@@ -21,6 +21,7 @@
 #include "ui/guida/comando_stampa_guida.h"
 #include "ui/guida/schermo_guida.h"
 #include "ui/inserimento/schermo_inserimento.h"
+#include "ui/mappa/pannello_mappa.h"
 #include "ui/scambio/schermo_scambio.h"
 #include "ui/stampa/comando_stampa.h"
 #include "ui/viaggio/frm_bottoni.h"
@@ -64,6 +65,7 @@ class FormMete : public QMainWindow {
     QWidget* CreaAreaGriglia();
     void CreaStampe(QGridLayout& area);
     void CreaGiornate();
+    void CreaMappa();
     void CompletaMenu();
     void Collega();
     void Raccogli();
@@ -109,6 +111,7 @@ class FormMete : public QMainWindow {
     ComandoStampa* stampa_ = nullptr;
     ComandoStampaGuida* stampaGuida_ = nullptr;
     PannelloGiornate* giornate_ = nullptr;
+    PannelloMappa* mappa_ = nullptr;
     QAction* dalVivo_ = new QAction(QStringLiteral("Calcolo &dal vivo"), this);
     QTimer attesaDalVivo_;  // until what is typed has been taken over
     QList<Pannello*> pannelli_;

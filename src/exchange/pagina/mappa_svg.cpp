@@ -132,10 +132,10 @@ class Disegno {
     }
 
     // Only what can be seen, and no more of it than can be told apart.
-    void Tracciato(const std::vector<Linea>& linee, const QString& classe, bool chiuse) {
+    void Tracciato(const std::vector<LineaCosta>& linee, const QString& classe, bool chiuse) {
         const RiquadroMappa visto = scala_.Visto();
         QString tracciato;
-        for (const Linea& linea : linee) {
+        for (const LineaCosta& linea : linee) {
             RiquadroMappa suo{Proietta(linea.front()), Proietta(linea.front())};
             std::vector<PuntoMappa> punti;
             punti.reserve(linea.size());

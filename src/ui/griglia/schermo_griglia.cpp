@@ -140,10 +140,16 @@ void SchermoGriglia::DiceLaCorrente() {
     const RigheMostrate& mostrate = modello_.Mostrate();
     if (griglia < 0 || postazione_.Su<schermata::Guida>()) return;
     if (!postazione_.documento.Calcolata()) {
-        Q_EMIT Corrente(Giorni().GiornataDi(griglia + 1).value_or(-1), -1);
+        const int giornata = Giorni().GiornataDi(griglia + 1).value_or(-1);
+        Q_EMIT Corrente(giornata, -1);
+        Q_EMIT TappaCorrente(giornata, griglia + 1);
     } else if (griglia < mostrate.Numero()) {
         if (auto* sopra = postazione_.Su<schermata::Cronovia>()) sopra->giornata = mostrate.GiornataDi(griglia);
-        Q_EMIT Corrente(mostrate.GiornataDi(griglia), mostrate.Riga(griglia).value_or(-1));
+        const std::optional<int> riga = mostrate.Riga(griglia);
+        const auto& righe = postazione_.documento.Calcolata()->righe;
+        Q_EMIT Corrente(mostrate.GiornataDi(griglia), riga.value_or(-1));
+        Q_EMIT TappaCorrente(mostrate.GiornataDi(griglia),
+                             riga ? Giorni().Riga(righe[static_cast<std::size_t>(*riga)].tappa) : 0);
     }
 }
 
@@ -172,6 +178,14 @@ void SchermoGriglia::VaiAllaGiornata(int giornata) {
 }
 
 void SchermoGriglia::VaiAllaTappa(int riga) {
+    if (postazione_.Su<schermata::Guida>()) return;
+    if (const auto& cronovia = postazione_.documento.Calcolata()) {
+        const auto qui = std::find_if(cronovia->righe.begin(), cronovia->righe.end(), [&](const RigaCronovia& r) {
+            return !r.verso && Giorni().Riga(r.tappa) == riga;
+        });
+        if (qui != cronovia->righe.end()) VaiAllaRiga(static_cast<int>(qui - cronovia->righe.begin()));
+        return;
+    }
     esegui_([&] { comandi::SelezionaRiga(postazione_, riga); });
 }
 

@@ -36,19 +36,22 @@ class SchermoGriglia : public QObject, public Schermo {
     /// count from 0.
     void VaiAllaRiga(int riga);
     void VaiAllaGiornata(int giornata);
+    /// Goes to a row of the itinerary, from 1; in the schedule to where that stage is reached.
+    void VaiAllaTappa(int riga);
     /// Emits `Corrente`.
     void DiceLaCorrente();
 
   Q_SIGNALS:
     /// The day of the last schedule that the current row belongs to, and its row there; -1 where there is none.
     void Corrente(int giornata, int riga);
+    /// The same with the row of the itinerary, from 1; 0 where there is none.
+    void TappaCorrente(int giornata, int riga);
 
   private:
     void Collega();
     void DistendiRighe();
     void DistendiDaIndicare();
     [[nodiscard]] const GiorniItinerario& Giorni();
-    void VaiAllaTappa(int riga);
     void Cambia(const std::function<void()>& comando);
     [[nodiscard]] std::optional<Trascinata> Presa(const QPoint& punto) const;
     void Lasciata(const Trascinata& trascinata, int prima);

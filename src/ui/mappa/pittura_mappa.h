@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Draws a journey on a map: coasts and borders, the way by days, places with their names.
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+#include <QPointF>
+#include <QSizeF>
+#include <vector>
+
+#include "places/coste.h"
+#include "schedule/mappa_viaggio.h"
+
+namespace cronovia {
+
+/// Which part of the plane is seen, in pixels.
+struct Inquadratura {
+    PuntoMappa centro;
+    double scala = 1;  ///< pixels a kilometre
+    QSizeF area;
+
+    [[nodiscard]] QPointF Pixel(const PuntoMappa& punto) const {
+        return {area.width() / 2 + (punto.x - centro.x) * scala, area.height() / 2 + (punto.y - centro.y) * scala};
+    }
+    [[nodiscard]] PuntoMappa Punto(const QPointF& pixel) const {
+        return {centro.x + (pixel.x() - area.width() / 2) / scala, centro.y + (pixel.y() - area.height() / 2) / scala};
+    }
+    [[nodiscard]] RiquadroMappa Visto() const { return {Punto({0, 0}), Punto({area.width(), area.height()})}; }
+};
+
+/// How near one can go, in pixels a kilometre.
+inline constexpr double kMassimaScala = 60;
+
+/// The view that shows a part of the plane whole, with a rim of pixels.
+Inquadratura Adattata(const RiquadroMappa& riquadro, const QSizeF& area, double orlo);
+
+/// The colours of a map, for a light or a dark window.
+struct ColoriMappa {
+    explicit ColoriMappa(const QPalette& palette);
+
+    QColor mare;
+    QColor terra;
+    QColor confine;
+    QColor testo;
+    QColor vie[2];  ///< of days that follow each other
+    QColor notte;
+    QColor corrente;  ///< of the current place
+};
+
+/// Coasts and borders on the plane, ready to be drawn.
+class Sfondo {
+  public:
+    Sfondo() = default;
+    explicit Sfondo(const Coste& coste);
+
+    void Dipingi(QPainter& painter, const Inquadratura& vista, const ColoriMappa& colori) const;
+
+  private:
+    struct Forma {
+        QPainterPath tracciato;  // kilometres
+        RiquadroMappa riquadro;
+    };
+    static std::vector<Forma> Forme(const std::vector<LineaCosta>& linee, bool chiuse);
+
+    std::vector<Forma> terre_;
+    std::vector<Forma> confini_;
+};
+
+/// A name on the map, and the place that it belongs to.
+struct NomeSullaMappa {
+    QRectF posto;
+    QString testo;
+    int luogo = 0;  ///< its position among the places of the map
+};
+
+/// The names that fit without covering each other: departure and end, nights, stops, then the others.
+std::vector<NomeSullaMappa> NomiChiEntrano(const MappaViaggio& mappa, const Inquadratura& vista, const QFont& font);
+
+/// The whole map.
+void DipingiMappa(QPainter& painter, const MappaViaggio& mappa, const Sfondo& sfondo, const Inquadratura& vista,
+                  const ColoriMappa& colori);
+
+}  // namespace cronovia
