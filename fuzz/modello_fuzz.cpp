@@ -17,7 +17,7 @@ QString AllIndietro(const QString& testo) {
     const QList<uint> lettere = testo.toUcs4();
     QString indietro;
     for (auto lettera = lettere.rbegin(); lettera != lettere.rend(); ++lettera) {
-        indietro += QString::fromUcs4(reinterpret_cast<const char32_t*>(&*lettera), 1);
+        indietro += QStringView(QChar::fromUcs4(*lettera));  // a text of its own would lose a mark of byte order
     }
     return indietro;
 }
