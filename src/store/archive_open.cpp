@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <memory>
+#include <optional>
 
 #include "store/archive.h"
 #include "store/archive_check.h"
@@ -21,6 +22,19 @@ namespace cronovia {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// One moment of a database, of which all is read while this lives. Without it each of a hundred small questions would
+/// lock the file and look for a journal by itself.
+class Moment {
+  public:
+    explicit Moment(SQLite::Database& database) : database_(database) { database_.exec("BEGIN"); }
+    Moment(const Moment&) = delete;
+    Moment& operator=(const Moment&) = delete;
+    ~Moment() { database_.tryExec("COMMIT"); }
+
+  private:
+    SQLite::Database& database_;
+};
 
 // A new archive gets its name when it is complete. Whoever made one meanwhile was first.
 void CreateFile(const QString& path) {
@@ -51,13 +65,17 @@ Archive Archive::Open(const QString& folder) {
         if (!QFileInfo::exists(path)) CreateFile(path);
         auto connection = std::make_unique<Connection>(path);
         SQLite::Database& database = connection->Database();
+        auto moment = std::make_optional<Moment>(database);
         RefuseForeignDatabase(database, path);
         const CheckDepth depth = DepthAtOpening(database);
-        if (AnyDamage(CheckDatabase(database, depth))) {
+        const bool damaged = AnyDamage(CheckDatabase(database, depth));
+        const bool current = !damaged && UpToDate(database);
+        moment.reset();
+        if (damaged) {
             connection->MarkDamaged();
             return Archive(std::move(connection));
         }
-        UpdateTables(database, path);
+        if (!current) UpdateTables(database, path);
         Archive archive(std::move(connection));
         if (depth >= CheckDepth::Indexes) archive.confirmed_ = archive.PresentMark();
         return archive;
