@@ -3,10 +3,12 @@
 
 #include <QEvent>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
+#include <QTableView>
 
 #include "calendar/testo.h"
 #include "ui/comuni/colori.h"
@@ -174,6 +176,18 @@ QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QS
     Presenta(*pulsante, nome, istruzione);
     pulsante->setAccessibleName({});
     return pulsante;
+}
+
+void DisponiRighe(QTableView& tabella) {
+    tabella.setSelectionBehavior(QTableView::SelectRows);
+    tabella.setAlternatingRowColors(true);
+    tabella.setShowGrid(false);
+    tabella.setWordWrap(false);
+    tabella.setTabKeyNavigation(false);
+    tabella.verticalHeader()->hide();
+    tabella.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    tabella.verticalHeader()->setDefaultSectionSize(tabella.fontMetrics().height() + 6);
+    tabella.horizontalHeader()->setHighlightSections(false);
 }
 
 QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo) {

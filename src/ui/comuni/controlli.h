@@ -12,6 +12,7 @@
 #include "app/comandi.h"
 
 class QLayout;
+class QTableView;
 
 namespace cronovia {
 
@@ -47,6 +48,9 @@ QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzi
 QPushButton* NuovoPulsante(const DescrizioneComando& comando);
 /// A button that is no command of the table.
 QPushButton* NuovoPulsante(const QString& nome, const QString& scritta, const QString& istruzione);
+
+/// Rows of one line of text each, without rules between; Tab leads out of them.
+void DisponiRighe(QTableView& tabella);
 
 /// A label that leads to its control by its mnemonic and names it.
 QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);

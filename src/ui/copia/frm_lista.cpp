@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/copia/frm_lista.h"
 
-#include <QHeaderView>
 #include <QItemSelection>
 #include <QVBoxLayout>
 #include <array>
 #include <numeric>
 #include <span>
 
+#include "ui/comuni/controlli.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -32,17 +32,9 @@ FrmLista::FrmLista(QWidget* parent)
     mfgCopia_->setObjectName(u"mfgCopia"_s);
     mfgCopia_->setAccessibleName(u"Mète e tappe da copiare"_s);
     mfgCopia_->setModel(&modello_);
-    mfgCopia_->setSelectionBehavior(QTableView::SelectRows);
+    DisponiRighe(*mfgCopia_);
     // What is highlighted is the stretch; a click only says where it goes on.
     mfgCopia_->setSelectionMode(QTableView::NoSelection);
-    mfgCopia_->setAlternatingRowColors(true);
-    mfgCopia_->setShowGrid(false);
-    mfgCopia_->setWordWrap(false);
-    mfgCopia_->setTabKeyNavigation(false);
-    mfgCopia_->verticalHeader()->hide();
-    mfgCopia_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    mfgCopia_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    mfgCopia_->horizontalHeader()->setHighlightSections(false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(lblLista_);

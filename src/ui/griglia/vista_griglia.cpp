@@ -13,6 +13,7 @@
 
 #include "itinerary/elenco_guida.h"
 #include "schedule/colonne.h"
+#include "ui/comuni/controlli.h"
 #include "ui/griglia/delegato_griglia.h"
 #include "ui/griglia/modello_griglia.h"
 
@@ -61,18 +62,10 @@ int Relativa(std::span<const Larghezza> colonne, int i) { return colonne[static_
 VistaGriglia::VistaGriglia(QWidget* parent) : QTableView(parent) {
     setObjectName(u"mfgTab"_s);
     setAccessibleName(u"Itinerario e cronovia"_s);
-    setSelectionBehavior(SelectRows);
+    DisponiRighe(*this);
     setSelectionMode(SingleSelection);
-    setAlternatingRowColors(true);
-    setShowGrid(false);
-    setWordWrap(false);
-    setTabKeyNavigation(false);
     setItemDelegate(new DelegatoGriglia(this));
     setHorizontalScrollMode(ScrollPerPixel);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setMinimumSectionSize(24);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int colonna, int /*prima*/, int larghezza) {
         if (!inAdattamento_) Proprie()[colonna] = larghezza;
@@ -218,7 +211,7 @@ void VistaGriglia::resizeEvent(QResizeEvent* event) {
 }
 
 // Shares out the width that there is, the widest column taking what is left; every one stays wide enough for what it
-// usually holds, or as wide as the person made it.
+// usually holds, or as wide as the person made it. The widest one gives a third of that where all fit then.
 void VistaGriglia::AdattaLarghezze() {
     if (model() == nullptr) return;
     inAdattamento_ = true;
