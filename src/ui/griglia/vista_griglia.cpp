@@ -233,17 +233,16 @@ void VistaGriglia::AdattaLarghezze() {
         if (piuLarga < 0 || Relativa(colonne, i) > Relativa(colonne, piuLarga)) piuLarga = i;
     }
     const int comune = resto;
-    const auto adatta = [&](int i, int parte) {
-        const QString testo = QString::fromUtf16(colonne[static_cast<std::size_t>(i)].testo);
-        const int larga = std::max(misure.horizontalAdvance(testo) + 8, parte);
-        setColumnWidth(i, larga);
-        resto -= larga;
+    const auto usuale = [&](int i) {
+        return misure.horizontalAdvance(QString::fromUtf16(colonne[static_cast<std::size_t>(i)].testo)) + 8;
     };
     for (int i = 0; i < static_cast<int>(colonne.size()); ++i) {
         if (i == piuLarga || isColumnHidden(i) || Proprie().contains(i)) continue;
-        adatta(i, Relativa(colonne, i) * comune / totale);
+        const int larga = std::max(usuale(i), Relativa(colonne, i) * comune / totale);
+        setColumnWidth(i, larga);
+        resto -= larga;
     }
-    if (piuLarga >= 0) adatta(piuLarga, resto);
+    if (piuLarga >= 0) setColumnWidth(piuLarga, resto >= usuale(piuLarga) * 2 / 3 ? resto : usuale(piuLarga));
     inAdattamento_ = false;
 }
 
