@@ -266,7 +266,12 @@ void FormMete::MettiAlSicuro() {
 
 void FormMete::Collega() {
     new RichiestaDiFine(*this, [this] { Termina(); });
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &FormMete::FineSessione, Qt::DirectConnection);
+    connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this,
+        [this](QSessionManager& sessione) {
+            FineSessione({sessione.allowsInteraction(), [&] { sessione.release(); }, [&] { sessione.cancel(); }});
+        },
+        Qt::DirectConnection);
     connect(viaggio_, &SchermoViaggio::Cambiata, this, &FormMete::Raccogli);
     connect(&azioni_, &Azioni::Chiesto, this, &FormMete::EseguiComando);
     connect(viaggio_, &SchermoViaggio::ElencoChiuso, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
@@ -376,17 +381,16 @@ bool FormMete::PossoChiudere() {
     return chiudo;
 }
 
-// The desktop session is about to end.
-void FormMete::FineSessione(QSessionManager& sessione) {
+void FormMete::FineSessione(const FineDellaSessione& fine) {
     if (!isVisible()) return;
-    if (!sessione.allowsInteraction()) {
+    if (!fine.siPuoChiedere) {
         ConcludiIlCampo();
         Congeda(postazione_);
         return;
     }
     const bool finisce = PuoFinireLaSessione();
-    sessione.release();
-    if (!finisce) sessione.cancel();
+    fine.haRisposto();
+    if (!finisce) fine.nonFinisca();
 }
 
 bool FormMete::PuoFinireLaSessione() {

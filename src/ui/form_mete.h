@@ -28,9 +28,15 @@
 #include "ui/viaggio/schermo_viaggio.h"
 
 class QGridLayout;
-class QSessionManager;
 
 namespace cronovia {
+
+/// The desktop session is about to end.
+struct FineDellaSessione {
+    bool siPuoChiedere = false;        ///< the person can be asked
+    std::function<void()> haRisposto;  ///< others may ask now
+    std::function<void()> nonFinisca;  ///< she wants to stay
+};
 
 class FormMete : public QMainWindow {
     Q_OBJECT
@@ -49,8 +55,8 @@ class FormMete : public QMainWindow {
     void Richiama(const QString& file, const QByteArray& attivazione);
     /// Opens the import of an exchange file.
     void ApriFile(const QString& file);
-    /// The desktop session is about to end: asks for what would be lost, above a box that is open too. Whether it may.
-    [[nodiscard]] bool PuoFinireLaSessione();
+    /// Asks for what would be lost, above a box that is open too; keeps it when nobody can be asked.
+    void FineSessione(const FineDellaSessione& fine);
     /// Puts a panel, which then belongs to the window, where the person had it last, else on that side.
     void AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato);
 
@@ -84,7 +90,7 @@ class FormMete : public QMainWindow {
     bool PossoChiudere();
     void FuocoSenzaMete();
     void Termina();
-    void FineSessione(QSessionManager& sessione);
+    [[nodiscard]] bool PuoFinireLaSessione();
     void RendiLeggibile();
     void MostraLeGiornate();
     void MostraTitolo();

@@ -297,7 +297,9 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
 
     void FinisceLaSessione(const QString& puo) {
         if (puo == u"unasked"_s) return Q_EMIT qGuiApp->commitDataRequest(*qGuiApp->findChild<QSessionManager*>());
-        Uguale(form_->PuoFinireLaSessione() ? u"yes"_s : u"no"_s, puo);
+        QStringList detto;
+        form_->FineSessione({true, [&] { detto += u"others"_s; }, [&] { detto += u"stay"_s; }});
+        Uguale(detto.join(u' '), puo == u"yes"_s ? u"others"_s : u"others stay"_s);
     }
 
     void AltroProgramma(const QString& istruzione) {
