@@ -13,9 +13,13 @@ using namespace Qt::StringLiterals;
 TEST(Riepilogo, ARoadTypeInUseWithoutASpeedIsNamed) {
     ParametriViaggio parametri;
     parametri.mediaKm = {0, 65, 50, 0};
-    RigheItinerario vuoto = prova::Righe(u"A B/A1/5 C/A1/5"_s);
+    RigheItinerario vuoto = prova::Righe(u"A B/A1/1 C/A1/9"_s);
+    vuoto[0].tipo = TipoStrada::Autostrada;  // nobody drives to the departure
     vuoto[1].tipo.reset();
     EXPECT_EQ(TipoSenzaMedia(vuoto, OrarioCorretto(parametri)), TipoStrada::Locale);
+    ParametriViaggio lenti;
+    lenti.mediaKm = {1, 1, 1, 1};
+    EXPECT_EQ(TipoSenzaMedia(vuoto, OrarioCorretto(lenti)), std::nullopt);
     const RiepilogoItinerario r = CalcolaKmTempiItinerario(vuoto, OrarioCorretto(parametri), 7);
     EXPECT_FALSE(r.tappe[2].tempo.has_value());
     EXPECT_EQ(r.totali.km[kTuttiITipi], 10);

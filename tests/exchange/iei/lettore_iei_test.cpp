@@ -21,10 +21,15 @@ struct Letto {
     ScartiLettura scarti;
 };
 
+struct Avanzamento : Progress {
+    void Advance(double count, double /*total*/) override { letti = count; }
+    double letti = 0;
+};
+
 Letto Leggi(QByteArray file) {
     QBuffer buffer(&file);
     EXPECT_TRUE(buffer.open(QIODevice::ReadOnly));
-    Progress progress;
+    Avanzamento progress;
     LettoreIei lettore(buffer, {}, progress);
     Letto letto;
     RigaIei riga;
@@ -36,6 +41,7 @@ Letto Leggi(QByteArray file) {
         letto.righe += valori.join(u'|');
     }
     letto.scarti = lettore.Scarti();
+    EXPECT_EQ(progress.letti, static_cast<double>(file.size()));
     return letto;
 }
 
@@ -80,6 +86,8 @@ TEST(LettoreIei, RecordsAndCounts) {
         {"cut within a record", kRoma + Tappe("000001|00"), kLetta + QStringList{u"2|000001|00"_s},
          &ScartiLettura::righeIncomplete, 1},
         {"NUL", Mete(QByteArray("000001|Ro\0ma|Italia\n", 20)), kLetta, &ScartiLettura::caratteriTolti, 1},
+        {"a line as long as the limit", kRoma + "000002\xFF" + QByteArray(65'536 - 7, 'x') + "\n",
+         kLetta + QStringList{u"1|000002|"_s + QString(65'536 - 7, u'x')}, &ScartiLettura::righeIncomplete, 1},
         {"a line longer than the limit by one", kRoma + "000002\xFF" + QByteArray(65'536 - 7 + 1, 'x') + "\n", kLetta,
          &ScartiLettura::righeTroppoLunghe, 1},
         {"a line of 10 MB amid others", kRoma + QByteArray(10'000'000, '\xFF') + "\r\n" + Tappe("000001|0001|Roma\n"),
