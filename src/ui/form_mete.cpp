@@ -365,6 +365,7 @@ bool FormMete::event(QEvent* event) {
 void FormMete::RendiLeggibile() {
     const QPalette leggibile = ConDisabilitatiLeggibili(QApplication::palette());
     if (leggibile != palette()) setPalette(leggibile);
+    MostraLeSpunte(*this);
 }
 
 void FormMete::closeEvent(QCloseEvent* event) {

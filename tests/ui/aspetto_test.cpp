@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the window remembers of its looks from one start to the next.
+#include <QCheckBox>
 #include <QHeaderView>
+#include <QImage>
 
 #include "ui/comuni/colori.h"
 #include "ui/finestra.h"
@@ -52,7 +54,7 @@ TEST_F(AspettoTest, SizeColumnsAndPanelsComeBack) {
     TuttoVenuto();
 }
 
-TEST_F(AspettoTest, DisabledTextsAreLegibleInEveryTheme) {
+TEST_F(AspettoTest, DisabledTextsAndBoxesAreSeenInEveryTheme) {
     Apri();
     const QPalette prima = QApplication::palette();
     const auto siLegge = [this](const QString& nome) {
@@ -74,6 +76,13 @@ TEST_F(AspettoTest, DisabledTextsAreLegibleInEveryTheme) {
                             griglia.color(QPalette::Disabled, QPalette::Highlight)),
                   4.5);
         EXPECT_EQ(Trova(u"txtKmTot_0"_s).palette().color(QPalette::Base), sfondo);
+        // A box that is not ticked is seen by its outline.
+        const QImage spunta = Trova<QCheckBox>(u"chkEndDay"_s).grab().toImage();
+        double bordo = 1;
+        for (int x = 0; x < 12; ++x) {
+            bordo = std::max(bordo, Contrasto(spunta.pixelColor(x, spunta.height() / 2), sfondo));
+        }
+        EXPECT_GE(bordo, 2.5) << sfondo.name().toStdString();
     }
     QApplication::setPalette(prima);
 }

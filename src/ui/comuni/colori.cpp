@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/comuni/colori.h"
 
+#include <QCheckBox>
 #include <QEvent>
+#include <QRadioButton>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -12,6 +14,7 @@ namespace cronovia {
 namespace {
 
 constexpr double kContrastoMinimo = 4.5;
+constexpr double kContrastoDelBordo = 3;
 constexpr int kPasso = 10;  // hundredths
 
 double Luminanza(const QColor& colore) {
@@ -81,6 +84,25 @@ QPalette ConDisabilitatiLeggibili(QPalette palette) {
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
                      Leggibile(disabilitato(QPalette::HighlightedText), acceso, scelto));
     return palette;
+}
+
+void MostraLeSpunte(const QWidget& finestra) {
+    // What the style makes of the ground around a box, and draws its outline with.
+    const auto bordo = [](const QColor& sfondo) { return sfondo.darker(140).lighter(110); };
+    const QColor intorno = finestra.palette().color(QPalette::Active, QPalette::Window);
+    const QColor scritta = finestra.palette().color(QPalette::Active, QPalette::WindowText);
+    int centesimi = 0;
+    while (centesimi < 100 && Contrasto(bordo(Misto(intorno, scritta, centesimi)), intorno) < kContrastoDelBordo) {
+        centesimi += kPasso;
+    }
+    QPalette colori;
+    colori.setColor(QPalette::Window, Misto(intorno, scritta, centesimi));
+    for (auto* pulsante : finestra.findChildren<QAbstractButton*>()) {
+        const bool spunta = qobject_cast<QCheckBox*>(pulsante) || qobject_cast<QRadioButton*>(pulsante);
+        if (spunta && colori.color(QPalette::Window) != pulsante->palette().color(QPalette::Window)) {
+            pulsante->setPalette(colori);
+        }
+    }
 }
 
 void ComeIntorno(QLineEdit& casella) { casella.installEventFilter(new SegueIntorno(&casella)); }

@@ -16,6 +16,10 @@ QColor Misto(const QColor& da, const QColor& a, int centesimi);
 /// The palette with texts of disabled controls that can be read: a contrast of 4.5 at least.
 QPalette ConDisabilitatiLeggibili(QPalette palette);
 
+/// Gives the boxes to be ticked within a window an outline that tells itself from its ground, by a contrast of 3 at
+/// least, where the style takes it from the palette.
+void MostraLeSpunte(const QWidget& finestra);
+
 /// Gives a box the colours of what is around it, disabled or not; follows when they change.
 void ComeIntorno(QLineEdit& casella);
 
