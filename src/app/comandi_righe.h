@@ -13,7 +13,8 @@ namespace cronovia::comandi {
 /// Goes to a row, and selects all from where the selection begins.
 void SceglieFino(Postazione& p, int riga);
 
-// On the rows selected; in the schedule on the stages of the day that is current there.
+/// On the rows selected, in the schedule on the stages of the day that is current there: one place up or down, once
+/// more behind themselves, away. Tell when there is none.
 void SpostaSu(Postazione& p);
 void SpostaGiu(Postazione& p);
 void DuplicaScelte(Postazione& p);

@@ -21,7 +21,8 @@ void Salva(Postazione& p);
 void CancMeta(Postazione& p);
 void CancItin(Postazione& p);
 
-// The personal defaults, each after a question.
+/// The parameters on screen become the personal defaults; these, or those of the program, come on screen. Each after a
+/// question; tells which parameter cannot be saved.
 void SalvaDefault(Postazione& p);
 void CaricaDefault(Postazione& p);
 void RipristinaDefault(Postazione& p);

@@ -79,6 +79,8 @@ class Documento {
     void RileggiVisite();
 
     // Changing.
+    /// What the person typed, as it stands: it is checked when it is saved. A schedule that would now be another one
+    /// does not hold any more.
     void ImpostaCampi(const Meta& campi);
     void ImpostaParametri(const ParametriViaggio& parametri);
     /// Put hours that disagree right, after one was changed; and all that depends on the start of the trip.

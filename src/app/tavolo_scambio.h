@@ -38,7 +38,7 @@ class TavoloScambio {
     /// hold.
     [[nodiscard]] QString FileProposto() const;
 
-    // The texts on screen.
+    /// Headings of the two lists, captions of the buttons that empty them, caption of the run; lists count from 0.
     [[nodiscard]] QString Etichetta(int lista) const;
     [[nodiscard]] QString ScrittaTutto(int lista) const;
     [[nodiscard]] QString ScrittaImExp() const;

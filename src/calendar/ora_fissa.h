@@ -30,6 +30,7 @@ class OraFissa {
     /// Nothing when the minutes since midnight, or the day, are none.
     static std::optional<OraFissa> Da(int minuti, std::optional<NumeroGiorno> data = {});
 
+    /// Minutes since midnight, its day if it has one, and the same minutes as a time of the calculation.
     [[nodiscard]] int Minuti() const { return minuti_; }
     [[nodiscard]] const std::optional<NumeroGiorno>& Data() const { return data_; }
     [[nodiscard]] Centesimi Ora() const;

@@ -57,6 +57,7 @@ class ScrittoreJson {
 /// Records as objects with their field names; blanks at the rim of a value, which only stand for an empty one, go.
 void ScriviRecord(Table tabella, const std::vector<Record>& record, ScrittoreJson& json);
 
+/// An object: kilometres and driving time of each type of road, those of all, ferries; texts as on screen.
 void ScriviTotali(const TestiTotali& totali, ScrittoreJson& json);
 
 }  // namespace cronovia

@@ -24,6 +24,7 @@ std::vector<int> LarghezzeColonne(const TabellaTesti& tabella);
 /// One row, its texts in columns two blanks apart; columns of width 0 are left out, no blank stands at the end.
 QString RigaAllineata(const QStringList& testi, const std::vector<int>& larghezze, const QList<int>& aDestra);
 
+/// Lines as `RigaAllineata` makes them, the headers first.
 void ScriviAllineata(const TabellaTesti& tabella, QTextStream& uscita);
 
 /// Tab-separated lines, the headers first, each text as `InCella` makes it.

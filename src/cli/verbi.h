@@ -80,6 +80,7 @@ struct Verbo {
 /// All verbs, in the order of the help.
 const std::vector<Verbo>& Verbi();
 
+/// What the verbs do; the help tells of each. They write their answer, and what goes wrong is a `Failure`.
 void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiNuova(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);

@@ -24,6 +24,7 @@ class TraghettoAOrario {
     /// Nothing when the sailing takes no time or more than 9 days, or boarding begins a day before or earlier.
     static std::optional<TraghettoAOrario> Da(const OraFissa& partenza, int minutiNavigazione, int minutiImbarco);
 
+    /// Departure, minutes on board, minutes before the departure; the times of the calculation that these are.
     [[nodiscard]] const OraFissa& Partenza() const { return partenza_; }
     [[nodiscard]] int MinutiNavigazione() const { return navigazione_; }
     [[nodiscard]] int MinutiImbarco() const { return imbarco_; }
@@ -68,6 +69,7 @@ class OreDiVisita {
     /// In minutes since midnight, up to 24:00; nothing when it closes before it opens.
     static std::optional<OreDiVisita> Da(int apre, int chiude);
 
+    /// In minutes since midnight; as times of the calculation.
     [[nodiscard]] int MinutiApertura() const { return apre_; }
     [[nodiscard]] int MinutiChiusura() const { return chiude_; }
     [[nodiscard]] Centesimi Apre() const;

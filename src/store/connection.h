@@ -78,7 +78,7 @@ class Archive::Connection {
     /// It is damaged: nothing can be written any more.
     void MarkDamaged();
 
-    // See `Archive`.
+    /// What `Archive` promises by the same names.
     Mark PresentMark();
     void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell);
     void KeepCopy(const QString& reason);

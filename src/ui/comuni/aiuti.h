@@ -15,6 +15,7 @@ struct Istruzioni {
     QString testo;
 };
 
+/// Those of one frame each.
 Istruzioni AiutoPeriodo();
 Istruzioni AiutoVelocita();
 Istruzioni AiutoTempi();

@@ -6,6 +6,7 @@ class QLineEdit;
 
 namespace cronovia {
 
+/// From now on, also for what is pasted; undo in the box takes back what was typed as before.
 void ScriviMaiuscolo(QLineEdit& casella);
 
 }  // namespace cronovia

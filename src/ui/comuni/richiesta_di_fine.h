@@ -13,6 +13,7 @@ class RichiestaDiFine : public QTimer {
     Q_OBJECT
 
   public:
+    /// Belongs to `padrone`; one at a time in a program, since it takes the signal over.
     RichiestaDiFine(QObject& padrone, const std::function<void()>& chiamata);
 };
 

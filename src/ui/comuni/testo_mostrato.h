@@ -30,6 +30,7 @@ class Box : public QMessageBox {
     Q_OBJECT
 
   public:
+    /// Plain texts; the box goes with the window.
     Box(Icon icona, const QString& titolo, const QString& testo, StandardButtons bottoni, QWidget* finestra = nullptr);
 };
 

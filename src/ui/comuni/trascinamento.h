@@ -26,6 +26,7 @@ class Trascinamento : public QObject {
     /// What a press at a point of the view takes hold of; nothing where nothing can be dragged.
     using Presa = std::function<std::optional<Trascinata>(const QPoint&)>;
 
+    /// Belongs to the view.
     Trascinamento(QAbstractItemView& vista, Presa presa);
 
     bool eventFilter(QObject* oggetto, QEvent* event) override;

@@ -17,6 +17,7 @@ class FrmGuidaStampa : public RiquadroSovrapposto {
   public:
     explicit FrmGuidaStampa(Azioni& azioni);
 
+    /// What is chosen at the moment.
     [[nodiscard]] OpzioniStampaGuida Opzioni() const;
 
   private:

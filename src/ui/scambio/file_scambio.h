@@ -25,6 +25,7 @@ class RicezioneFile : public QObject {
     explicit RicezioneFile(QWidget& finestra);
 
   Q_SIGNALS:
+    /// One at a time, by its path.
     void Arrivato(const QString& file);
 
   protected:

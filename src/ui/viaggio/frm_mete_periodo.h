@@ -22,6 +22,7 @@ class FrmMetePeriodo : public QGroupBox {
     /// Years are on offer from 1998 to some years after the current one.
     explicit FrmMetePeriodo(int annoCorrente, QWidget* parent = nullptr);
 
+    /// Destination, start, policy and days wanted; which days are on offer follows from the stages.
     void Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo);
     /// Empty texts without a schedule.
     void MostraFine(const TestiFine& fine);

@@ -22,6 +22,7 @@ class FrmMeteTempi : public QGroupBox {
 
     explicit FrmMeteTempi(Azioni& azioni);
 
+    /// A value that is not on offer is shown for this trip alone.
     void Mostra(const ParametriViaggio& parametri);
     /// Puts what the fields hold into the parameters; speeds and policy stay.
     void Leggi(ParametriViaggio& parametri) const;
@@ -30,6 +31,7 @@ class FrmMeteTempi : public QGroupBox {
     [[nodiscard]] bool OrarioInCorso() const;
 
   Q_SIGNALS:
+    /// The person changed a field.
     void Cambiata();
     /// An hour or its minutes lost the focus.
     void OrarioLasciato();

@@ -18,6 +18,7 @@ class FrmMeteVelocita : public QGroupBox {
   public:
     explicit FrmMeteVelocita(QWidget* parent = nullptr);
 
+    /// A value that is not on offer is shown for this trip alone.
     void Mostra(const ParametriViaggio& parametri);
     /// Kilometres, driving times and ferries, by type of road.
     void MostraTotali(const TestiTotali& totali);
@@ -26,6 +27,7 @@ class FrmMeteVelocita : public QGroupBox {
     void FuocoSullaMedia(TipoStrada tipo);
 
   Q_SIGNALS:
+    /// The person changed a field.
     void Cambiata();
 
   private:
