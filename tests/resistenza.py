@@ -190,14 +190,15 @@ def vecchi_file(cartella):
 
 
 def scritture(radice):
+    voce = ["ALBA", "Ottimo", "Le torri"]
     base = nuova_cartella(radice, "base", "provenza", "sicilia")
+    pretendi(base, "guida", "--aggiungi", *voce, "00:30")
     for nome in ("fuori.iei", "fuori.pdf", "Vandtabl.txt"):
         (base / nome).write_bytes(b"quello di prima")
     vuota = copia(base, radice / "vuota")
     nuova = pretendi(vuota, "nuova", "CORSICA", "FRANCIA", "--inizio", "05/06/2027 08:00").decode().strip()
     vecchi = copia(base, radice / "vecchi")
     vecchi_file(vecchi)
-    voce = pretendi(base, "guida", "--formato", "tsv").decode().splitlines()[1].split("\t")[:3]
     rotta = copia(base, radice / "rotta")
     with open(rotta / ARCHIVIO, "r+b") as archivio:  # an index of the stages: every row can still be read
         archivio.seek(5 * 4096)
