@@ -2,11 +2,13 @@
 #include "app/comandi_inserimento.h"
 
 #include <utility>
+#include "app/cartella_dati.h"
 
 #include "app/comandi_copia.h"
 #include "app/comandi_righe.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
+#include "exchange/navigatori/importa_navigatore.h"
 #include "exchange/percorsi/importa_percorso.h"
 #include "itinerary/tratti.h"
 
@@ -26,12 +28,25 @@ QString NonRiconosciuto() {
            ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."_s;
 }
 
-void MettiPercorso(Postazione& p, RigheItinerario percorso) {
-    if (!p.Chiede(RiassuntoPercorso(percorso) + u"\n\nVuoi riportarle nell'itinerario?"_s, u"Import del percorso"_s)) {
+void MettiPercorso(Postazione& p, PercorsoNavigatore percorso) {
+    QString testo = RiassuntoPercorso(percorso.tappe);
+    const QString stimati = TestoKmStimati(percorso);
+    if (!stimati.isEmpty()) testo += u'\n' + stimati;
+    if (!p.Chiede(testo + u"\n\nVuoi riportarle nell'itinerario?"_s, u"Import del percorso"_s)) return;
+    if (!percorso.posizioni.empty() &&
+        !p.MentreScrive({}, [&] { ConfermaPosizioni(p.sessione.Archivio(), percorso); })) {
         return;
     }
-    const auto prossima = static_cast<int>(percorso.size()) + 1;
-    Modifica(p, u"import del percorso"_s, std::move(percorso), prossima);
+    const auto prossima = static_cast<int>(percorso.tappe.size()) + 1;
+    Modifica(p, u"import del percorso"_s, std::move(percorso.tappe), prossima);
+}
+
+std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Progress& avanzamento) {
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    if (auto percorso = LeggiPercorsoNavigatore(path, gazzettino)) return percorso;
+    auto tappe = LeggiPercorso(path, avanzamento);
+    if (!tappe) return std::nullopt;
+    return PercorsoNavigatore{std::move(*tappe), {}, 0};
 }
 
 void SalvaTappe(Postazione& p) {
@@ -156,8 +171,8 @@ void AltriPacchetti(Postazione& p) {
     if (NumeroTappe(p.documento.Righe()) > 0) return p.Mostra(CiSonoTappe());
     const QString path = p.volti.scegliFile(FileChiesto::Percorso);
     if (path.isEmpty()) return;
-    std::optional<RigheItinerario> percorso;
-    const bool letto = p.MentreScrive({}, [&] { percorso = LeggiPercorso(path, p.volti.avanzamento); });
+    std::optional<PercorsoNavigatore> percorso;
+    const bool letto = p.MentreScrive({}, [&] { percorso = LeggiOgniPercorso(path, p.volti.avanzamento); });
     p.volti.avanzamento.Advance(0, 0);
     if (letto && percorso) {
         MettiPercorso(p, std::move(*percorso));

@@ -46,8 +46,8 @@ void EsportaViaggio(const ApriSessione& apri, const Richiesta& richiesta, const 
     Sessione sessione = apri();
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.last(), {}, progress);
-    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe}, formato, richiesta.argomenti.first(),
-                                richiesta.opzioni.contains(u"sovrascrivi"_s))
+    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe}, formato,
+                                richiesta.argomenti.first(), richiesta.opzioni.contains(u"sovrascrivi"_s))
            << '\n';
 }
 

@@ -2,7 +2,9 @@
 // percorso.
 #include <QDir>
 
+#include "app/cartella_dati.h"
 #include "cli/verbi.h"
+#include "exchange/navigatori/importa_navigatore.h"
 #include "exchange/percorsi/importa_percorso.h"
 #include "interaction/failure.h"
 #include "itinerary/itinerari.h"
@@ -11,26 +13,39 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Of whichever program; a `Failure` when it is none that is known.
+PercorsoNavigatore Letto(const QString& path) {
+    Progress progress;
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    if (auto percorso = LeggiPercorsoNavigatore(path, gazzettino)) return std::move(*percorso);
+    auto tappe = LeggiPercorso(path, progress);
+    if (tappe) return {std::move(*tappe), {}, 0};
+    throw Failure(u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
+        QDir::toNativeSeparators(path)));
+}
+
+}  // namespace
+
 void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
     Progress progress;
-    const QString& path = richiesta.argomenti.at(1);
-    const auto tappe = LeggiPercorso(path, progress);
-    if (!tappe) {
-        throw Failure(u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
-            QDir::toNativeSeparators(path)));
-    }
+    const PercorsoNavigatore percorso = Letto(richiesta.argomenti.at(1));
     Transaction transaction(sessione.Archivio());  // the trip that was found is the one that gets them
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     const std::optional<EsitoMemorizzazione> esito =
-        MemorizzaPrimeTappe(sessione.Archivio(), aperta.meta.codice, *tappe, aperta.orario, progress);
+        MemorizzaPrimeTappe(sessione.Archivio(), aperta.meta.codice, percorso.tappe, aperta.orario, progress);
     if (!esito) {
         throw Failure(
             u"La mèta con il codice %1 ha già delle tappe: un percorso si importa solo con itinerario "
             "vuoto."_s.arg(aperta.meta.codice));
     }
+    ConfermaPosizioni(sessione.Archivio(), percorso);
     transaction.Commit();
-    uscita << RiassuntoPercorso(*tappe) << '\n';
+    uscita << RiassuntoPercorso(percorso.tappe) << '\n';
+    const QString stimati = TestoKmStimati(percorso);
+    if (!stimati.isEmpty()) uscita << stimati << '\n';
     if (esito->nomiAccorciati > 0) uscita << TestoNomiAccorciati(*esito) << '\n';
 }
 

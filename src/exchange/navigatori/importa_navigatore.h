@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The stages of a navigator's route.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "exchange/navigatori/lettore_navigatore.h"
+#include "itinerary/modifiche.h"
+#include "places/gazzettino.h"
+#include "store/archive.h"
+
+namespace cronovia {
+
+/// A route as an itinerary, and where its localities lie as the file says.
+struct PercorsoNavigatore {
+    RigheItinerario tappe;
+    std::vector<std::pair<QString, Posizione>> posizioni;
+    int kmStimati = 0;  ///< stages whose kilometres are a guess from the straight way
+};
+
+/// Named points of a route are stages, unnamed ones between them shape the way; a route without names has its two ends.
+/// Without a route the points by themselves are stages: along the track, when there is one, in the order in which it
+/// passes them, else as they follow each other. Kilometres are those along the track; without one they are guessed. An
+/// end without a name is called as the nearest place. The roads are of a kind that fits their length, to be corrected.
+/// Names are in capitals. No stages when there are fewer than two points.
+PercorsoNavigatore TappeDelNavigatore(const FileNavigatore& file, Gazzettino& gazzettino);
+
+/// The same of a file; nothing when it is no navigator's. A `Failure` when it has fewer than two points, or more stages
+/// than an itinerary can hold.
+std::optional<PercorsoNavigatore> LeggiPercorsoNavigatore(const QString& path, Gazzettino& gazzettino);
+
+/// The localities lie where the file says, from now on and for all trips.
+void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso);
+
+/// That kilometres are a guess, in a sentence; empty when none is.
+QString TestoKmStimati(const PercorsoNavigatore& percorso);
+
+}  // namespace cronovia

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Routes of navigators: what they become, what is refused, and that ours come back.
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+
+#include "exchange/navigatori/importa_navigatore.h"
+#include "exchange/navigatori/scrittori_percorso.h"
+#include "support/prova.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Navigatore : public testing::Test {
+  protected:
+    QString File(const QString& nome, const QByteArray& byte) {
+        cartella_.Crea();
+        const QString path = cartella_.Path() + u'/' + nome;
+        prova::ScriviFile(path, byte);
+        return path;
+    }
+    // "TORINO, ASTI 49 P": the stages with their kilometres.
+    QString Tappe(const QString& path) {
+        const auto percorso = LeggiPercorsoNavigatore(path, gazzettino_);
+        if (!percorso) return u"nessun percorso"_s;
+        QStringList tappe;
+        for (const Tappa& tappa : percorso->tappe) {
+            tappe +=
+                tappa.localita +
+                (tappa.km > 0 ? u' ' + QString::number(tappa.km) + u' ' + LetteraTipoStrada(tappa.tipo) : QString());
+        }
+        return tappe.join(u", "_s);
+    }
+
+    prova::CartellaDiProva cartella_;
+    Gazzettino gazzettino_{QStringLiteral(CRONOVIA_PLACES "/luoghi.dat")};
+};
+
+struct CasoNavigatore {
+    const char* nome;
+    const char* contenuto;
+    const char* atteso;
+};
+
+TEST_F(Navigatore, BecomesStages) {
+    const CasoNavigatore casi[] = {
+        {"a route: unnamed points lengthen the way",
+         "<gpx version='1.1'><rte><rtept lat='45.07' lon='7.69'><name>Torino</name></rtept>"
+         "<rtept lat='44.69' lon='8.03'/><rtept lat='44.9' lon='8.2'><name>Asti</name></rtept></rte></gpx>",
+         "TORINO, ASTI 95 A"},
+        {"ends without a name are called as the nearest place",
+         "\xEF\xBB\xBF<?xml version='1.0'?>\n<gpx xmlns='http://www.topografix.com/GPX/1/0'>"
+         "<rte><rtept lat='45.07' lon='7.69'/><rtept lat='44.9' lon='8.2'/></rte></gpx>",
+         "TORINO, ASTI 60 P"},
+        {"a track there and back, with its places as they were noted",
+         "<gpx><wpt lat='44.90' lon='8.20'><name>Asti</name></wpt><wpt lat='45.07' lon='7.69'><name>Casa</name></wpt>"
+         "<trk><trkseg><trkpt lat='45.07' lon='7.69'/><trkpt lat='45.0' lon='7.9'/><trkpt lat='44.90' lon='8.20'/>"
+         "<trkpt lat='45.0' lon='7.9'/><trkpt lat='45.07' lon='7.69'/></trkseg></trk></gpx>",
+         "TORINO, ASTI 44 P, CASA 44 P"},
+        {"placemarks along a line; of two at one place the first",
+         "<kml><Document><Placemark><name>Livorno</name><Point><coordinates>10.31,43.55,0</coordinates></Point>"
+         "</Placemark><Placemark><name>Pisa</name><Point><coordinates>10.40,43.72</coordinates></Point></Placemark>"
+         "<Placemark><name>Torre</name><Point><coordinates>10.40,43.72</coordinates></Point></Placemark>"
+         "<Placemark><LineString><coordinates>10.31,43.55 10.35,43.6\n10.40,43.72</coordinates></LineString>"
+         "</Placemark></Document></kml>",
+         "LIVORNO, PISA 20 P"},
+        {"ITN", "769000|4507000|Torino|4|\r\n820000|4490000|Asti|2|\r\n", "TORINO, ASTI 60 P"},
+        {"GeoJSON",
+         "{\"type\":\"FeatureCollection\",\"features\":[{\"type\":\"Feature\",\"properties\":{\"name\":\"Torino\"},"
+         "\"geometry\":{\"type\":\"Point\",\"coordinates\":[7.69,45.07]}},{\"type\":\"Feature\",\"properties\":{"
+         "\"name\":\"Asti\"},\"geometry\":{\"type\":\"Point\",\"coordinates\":[8.2,44.9]}}]}",
+         "TORINO, ASTI 60 P"},
+        {"another file", "Ora\tKm\tIstruzione\r\n", "nessun percorso"},
+        {"a page of the web", "<html><body>gpx</body></html>", "nessun percorso"},
+    };
+    for (const CasoNavigatore& caso : casi) {
+        EXPECT_EQ(Tappe(File(u"percorso"_s, caso.contenuto)).toStdString(), caso.atteso) << caso.nome;
+    }
+}
+
+TEST_F(Navigatore, HostileFilesAreRefusedInASentence) {
+    const CasoNavigatore casi[] = {
+        {"entities", "<!DOCTYPE gpx [<!ENTITY a 'aa'>]><gpx><wpt lat='1' lon='1'><name>&a;</name></wpt></gpx>",
+         "contiene definizioni"},
+        {"late entities", "<gpx><wpt lat='1' lon='1'><name>&a;</name></wpt></gpx>", "è rovinato alla riga 1"},
+        {"cut off", "<gpx><rte><rtept lat='45.07' lon='7.69'>", "è rovinato"},
+        {"not of this world", "<gpx><rte><rtept lat='95' lon='7.69'/></rte></gpx>", "non sono di nessun luogo"},
+        {"no number", "<gpx><rte><rtept lat='nan' lon='7.69'/></rte></gpx>", "non sono di nessun luogo"},
+        {"half a pair", "<kml><Placemark><Point><coordinates>10.31</coordinates></Point></Placemark></kml>",
+         "coordinate sono incomplete"},
+        {"a line that is none", "769000|4507000|Torino|4|\r\nciao\r\n", "non è di una tappa"},
+        {"damaged", "{\"type\":\"FeatureCollection\",\"features\":[", "è rovinato"},
+        {"without points", "<kml><Document/></kml>", "non c'è nessuna tappa"},
+        {"no packet", "PK\x03\x04 che non continua", "il pacchetto è rovinato"},
+    };
+    for (const CasoNavigatore& caso : casi) {
+        const QString path = File(u"percorso"_s, caso.contenuto);
+        const QString messaggio = prova::MessaggioDi([&] { LeggiPercorsoNavigatore(path, gazzettino_); });
+        EXPECT_TRUE(messaggio.contains(QString::fromUtf8(caso.atteso))) << caso.nome << ": " << messaggio.toStdString();
+    }
+    const QString nido = File(u"nido"_s, "<kml>" + QByteArray("<a>").repeated(1'000'000));
+    EXPECT_TRUE(prova::MessaggioDi([&] { LeggiPercorsoNavigatore(nido, gazzettino_); }).contains(u"annidato"_s));
+}
+
+// There and back, with entries of the guide at the places and names that are no words.
+TEST_F(Navigatore, OursComeBack) {
+    const PercorsoDaScrivere percorso{u"PROVA & CO"_s,
+                                      {{u"TORINO"_s, {}, {45.07, 7.69}},
+                                       {u"L'ÎLE <1>"_s, {}, {44.9, 8.2}},
+                                       {u"ASTI \"2\""_s, {}, {44.7, 8.3}},
+                                       {u"TORINO"_s, {}, {45.07, 7.69}}},
+                                      {{u"Duomo"_s, u"Da vedere"_s, {44.7, 8.3}}, {u"Mole"_s, {}, {45.07, 7.69}}}};
+    for (const FormatoPercorso formato : {FormatoPercorso::Gpx, FormatoPercorso::Kml, FormatoPercorso::Itn}) {
+        const QString tappe = Tappe(File(u"nostro"_s, ScriviPercorso(percorso, formato)));
+        EXPECT_EQ(QString(tappe).remove(QRegularExpression(u" \\d+ [ASPL]\\b"_s)),
+                  u"TORINO, L'ÎLE <1>, ASTI \"2\", TORINO"_s)
+            << Estensione(formato).toStdString();
+    }
+}
+
+}  // namespace
+}  // namespace cronovia
