@@ -7,8 +7,10 @@
 #include <functional>
 #include <optional>
 
+#include "app/cartella_dati.h"
 #include "app/documento.h"
 #include "app/file_viaggio.h"
+#include "app/luoghi_del_viaggio.h"
 #include "app/recupero.h"
 #include "app/rimedi.h"
 #include "app/schermate.h"
@@ -58,7 +60,8 @@ struct Postazione {
     Sessione sessione;
     Documento documento{sessione};
     std::int64_t scrittiDaAltri = 0;  ///< what others had written when the archive was looked at last
-    QString avviso = {};              ///< told beside the work, until the next command
+    LuoghiDelViaggio luoghi{FileDelProgramma(QStringLiteral("luoghi.dat"))};
+    QString avviso = {};  ///< told beside the work, until the next command
     Recupero recupero{sessione.Cartella()};
     Schermata schermata;
     Attivita attivita = Attivita::Nessuna;

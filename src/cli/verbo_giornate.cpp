@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // giornate.
+#include "app/cartella_dati.h"
 #include "calendar/testo.h"
 #include "cli/griglia_testi.h"
 #include "cli/json.h"
 #include "cli/opzioni_calcolo.h"
 #include "cli/verbi.h"
+#include "schedule/sole_giornate.h"
 #include "schedule/testi_giornata.h"
 
 namespace cronovia {
@@ -33,21 +35,29 @@ QString Pause(const Giornata& giornata) {
     return pause.join(u", "_s);
 }
 
-TabellaTesti TabellaDelleGiornate(const std::vector<Giornata>& giornate, const Cronovia& cronovia) {
+TabellaTesti TabellaDelleGiornate(const std::vector<Giornata>& giornate, const std::vector<SoleGiornata>& soli,
+                                  const Cronovia& cronovia) {
     TabellaTesti tabella{{u"Giorno"_s, u"Gs"_s, u"Data"_s, u"Km."_s, u"Guida"_s, u"Visite"_s, u"Traghetti"_s,
                           u"Partenza"_s, u"Arrivo"_s, u"Pause"_s, u"Notte"_s, u"Rinvii"_s},
                          {},
                          {0, 3}};
-    for (const Giornata& g : giornate) {
+    for (std::size_t i = 0; i < giornate.size(); ++i) {
+        const Giornata& g = giornate[i];
         tabella.righe.push_back({QString::number(g.numero), GiornoSettimana(g.data), TestoData(g.data),
                                  RaggruppaNonZero(g.km), SeOccupato(g.guida), SeOccupato(g.visite),
                                  SeOccupato(g.traghetto), Momento(g.partenza), Momento(g.arrivo), Pause(g),
-                                 LuogoDellaNotte(g), TestiRinvii(g, cronovia).join(u"; "_s)});
+                                 LuogoDellaNotte(g), TestiRinvii(g, cronovia, soli[i]).join(u"; "_s)});
     }
     return tabella;
 }
 
-void ScriviGiornata(const Giornata& giornata, const Cronovia& cronovia, ScrittoreJson& json) {
+// "05:41"; before midnight or beyond it, where the Italian clock is on another day, as that clock shows it.
+QString OraDelSole(const std::optional<int>& minuti) {
+    const int nelGiorno = (minuti.value_or(0) % kMinutiDelGiorno + kMinutiDelGiorno) % kMinutiDelGiorno;
+    return minuti ? ConNumeri(u"00:00", {nelGiorno / 60, nelGiorno % 60}) : QString();
+}
+
+void ScriviGiornata(const Giornata& giornata, const SoleGiornata& sole, const Cronovia& cronovia, ScrittoreJson& json) {
     const auto testo = [&](QStringView nome, const QString& valore) {
         json.Nome(nome);
         json.Testo(valore);
@@ -61,6 +71,7 @@ void ScriviGiornata(const Giornata& giornata, const Cronovia& cronovia, Scrittor
         json.Logico(valore);
     };
     json.ApreOggetto();
+    testo(u"alba", OraDelSole(sole.alba));
     testo(u"arrivo", Momento(giornata.arrivo));
     seVero(u"cena", giornata.cena);
     testo(u"data", TestoData(giornata.data));
@@ -80,10 +91,11 @@ void ScriviGiornata(const Giornata& giornata, const Cronovia& cronovia, Scrittor
     json.ChiudeArray();
     json.Nome(u"rinvii");
     json.ApreArray();
-    for (const QString& rinvio : TestiRinvii(giornata, cronovia)) json.Testo(rinvio);
+    for (const QString& rinvio : TestiRinvii(giornata, cronovia, sole)) json.Testo(rinvio);
     json.ChiudeArray();
     testo(u"risveglio", giornata.risveglio);
     testo(u"traghetto", OreEMinuti(giornata.traghetto));
+    testo(u"tramonto", OraDelSole(sole.tramonto));
     testo(u"visite", OreEMinuti(giornata.visite));
     json.ChiudeOggetto();
 }
@@ -113,14 +125,18 @@ void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextS
     Progress progress;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *aperta.meta.dataInizio);
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    const std::vector<SoleGiornata> soli = SoleDelleGiornate(
+        giornate, *esito.cronovia,
+        PosizioniDelViaggio(sessione.Archivio(), gazzettino, TappeCalcolate(*esito.cronovia), aperta.meta.nazione));
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);
         json.ApreArray();
-        for (const Giornata& giornata : giornate) ScriviGiornata(giornata, *esito.cronovia, json);
+        for (std::size_t i = 0; i < giornate.size(); ++i) ScriviGiornata(giornate[i], soli[i], *esito.cronovia, json);
         json.ChiudeArray();
         return;
     }
-    const TabellaTesti tabella = TabellaDelleGiornate(giornate, *esito.cronovia);
+    const TabellaTesti tabella = TabellaDelleGiornate(giornate, soli, *esito.cronovia);
     if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(tabella, uscita);
     } else {

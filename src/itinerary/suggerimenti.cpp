@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "itinerary/suggerimenti.h"
 
+#include <cmath>
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,22 @@ std::vector<Suggerimento> SuggerimentiTappa(const CampiTappa& campi, int riga, c
     if (campi.fineGiorno && !sosta && !traghetto) suggerimenti.push_back(Suggerimento::FineGiornoSenzaSosta);
     if (OltreIlGiorno(campi, parametri, guidaGiorno)) suggerimenti.push_back(Suggerimento::TrattaOltreIlGiorno);
     return suggerimenti;
+}
+
+// Names lie at the middle of their towns: a few kilometres make no hint.
+QString SuggerimentoDistanza(const CampiTappa& campi, double direttaKm) {
+    constexpr double kTolleranzaKm = 5;
+    constexpr double kMassimoRapporto = 3;
+    constexpr int kMinimoKmLunga = 30;
+    if (campi.km <= 0 || campi.numStrada.contains("TRAGH"_L1)) return {};
+    const auto diretta = QString::number(std::lround(direttaKm));
+    if (campi.km + kTolleranzaKm < direttaKm) {
+        return u"La distanza è più corta della linea d'aria, circa %1 km."_s.arg(diretta);
+    }
+    if (campi.km > kMinimoKmLunga && campi.km > kMassimoRapporto * (direttaKm + kTolleranzaKm)) {
+        return u"La distanza è più di tre volte la linea d'aria, circa %1 km."_s.arg(diretta);
+    }
+    return {};
 }
 
 QString Testo(Suggerimento suggerimento) {

@@ -14,16 +14,10 @@ namespace {
 
 constexpr QStringView kFraParti = u" · ";
 
-// "a CASTELLANE", "ad ARLES".
-QString A(const QString& luogo) {
-    const QString base = luogo.left(1).normalized(QString::NormalizationForm_D).left(1);
-    return (base.compare(u"a"_s, Qt::CaseInsensitive) == 0 ? u"ad "_s : u"a "_s) + luogo;
-}
-
 QString TestoNotte(const Giornata& giornata) {
     const QString luogo = LuogoDellaNotte(giornata);
     const bool dove = giornata.inViaggio || giornata.notteInTraghetto;
-    return (giornata.ultima ? u"fine "_s : u"notte "_s) + (dove ? luogo : A(luogo));
+    return (giornata.ultima ? u"fine "_s : u"notte "_s) + (dove ? luogo : ALuogo(luogo));
 }
 
 // A stop that is put off or spread ends on another day; driving is late on its own. The row of an hour that others set
@@ -46,6 +40,11 @@ bool Riguarda(const Rinvio& rinvio, const RigaCronovia& riga, const Tappa& tappa
 }
 
 }  // namespace
+
+QString ALuogo(const QString& luogo) {
+    const QString base = luogo.left(1).normalized(QString::NormalizationForm_D).left(1);
+    return (base.compare(u"a"_s, Qt::CaseInsensitive) == 0 ? u"ad "_s : u"a "_s) + luogo;
+}
 
 QString TestoOreBrevi(Centesimi tempo) {
     const Durata durata = InDurata(tempo, kGiornoOrologio);
@@ -75,17 +74,17 @@ QString Testo(const Rinvio& rinvio, const Cronovia& cronovia) {
     const QString ritardo = TestoOreBrevi(rinvio.ritardo);
     switch (rinvio.genere) {
         case GenereRinvio::ArrivoTardivo:
-            return u"sosta %1 rinviata a domani (arrivo %2 oltre l'orario)"_s.arg(A(luogo), ritardo);
+            return u"sosta %1 rinviata a domani (arrivo %2 oltre l'orario)"_s.arg(ALuogo(luogo), ritardo);
         case GenereRinvio::TraghettoPerso:
             if (tappa.vincoli.ConTraghetto()) return u"traghetto per %1 perso per %2 ore"_s.arg(luogo, ritardo);
-            return u"traghetto %1 rinviato a domani (arrivo %2 oltre l'orario)"_s.arg(A(luogo), ritardo);
+            return u"traghetto %1 rinviato a domani (arrivo %2 oltre l'orario)"_s.arg(ALuogo(luogo), ritardo);
         case GenereRinvio::SostaSuPiuGiorni:
             return (tappa.TraghettoSenzaOrario() ? u"traghetto"_s : u"sosta"_s) +
-                   u" %1 su %2 giorni"_s.arg(A(luogo), QString::number(rinvio.giorni));
+                   u" %1 su %2 giorni"_s.arg(ALuogo(luogo), QString::number(rinvio.giorni));
         case GenereRinvio::NotteTardiva:
             return u"notte %1 più tardi del solito"_s.arg(ritardo);
         case GenereRinvio::OraMancata:
-            return u"%1 in ritardo di %2 ore"_s.arg(A(luogo), ritardo);
+            return u"%1 in ritardo di %2 ore"_s.arg(ALuogo(luogo), ritardo);
         case GenereRinvio::ImbarcoInRitardo:
             return u"al traghetto per %1 in ritardo di %2 ore"_s.arg(luogo, ritardo);
         case GenereRinvio::GiorniDiRiposo:

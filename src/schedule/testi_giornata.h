@@ -17,6 +17,9 @@ QString TestoOreBrevi(Centesimi tempo);
 /// CASTELLANE"; on the last day where the journey ends.
 QString TestoGiornata(const Giornata& giornata);
 
+/// "a CASTELLANE", "ad ARLES".
+QString ALuogo(const QString& luogo);
+
 /// Where the night is spent: "CASTELLANE", "verso GUBBIO", "in traghetto".
 QString LuogoDellaNotte(const Giornata& giornata);
 

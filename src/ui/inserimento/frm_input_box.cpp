@@ -4,6 +4,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -103,6 +104,8 @@ QWidget* FrmInputBox::CreaCampi() {
     for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) {
         connect(casella, &QLineEdit::textChanged, this, &FrmInputBox::Cambiata);
     }
+    connect(txtKm_, &QLineEdit::textChanged, this, [this] { kmStimati_ = false; });
+    txtKm_->installEventFilter(this);
     for (QComboBox* elenco : {cmbTipoStrada_, cmbSosta_[0], cmbSosta_[1], cmbSosta_[2]}) {
         connect(elenco, &QComboBox::currentTextChanged, this, &FrmInputBox::Cambiata);
     }
@@ -139,7 +142,10 @@ void FrmInputBox::MostraCampi(int riga, const CampiTappa& campi) {
     txtNumStrada_->setText(campi.numStrada);
     txtKm_->setText(campi.km == 0 ? QString() : QString::number(campi.km));
     txtKm_->setModified(campi.kmProgressivi);
-    txtKm_->setPlaceholderText(campi.kmDaIndicare ? u"da indicare"_s : QString());
+    kmDaIndicare_ = campi.kmDaIndicare;
+    kmStimati_ = false;
+    stima_.reset();
+    MostraSegnaposto();
     if (campi.tipo) cmbTipoStrada_->setCurrentIndex(static_cast<int>(*campi.tipo));
     MostraVoce(*cmbSosta_[0], Zero(campi.sosta.giorni, 2));
     MostraVoce(*cmbSosta_[1], Zero(campi.sosta.ore, 2));
@@ -160,7 +166,7 @@ CampiTappa FrmInputBox::Campi() const {
     const QString km = txtKm_->text().trimmed();
     campi.kmLeggibili = SoloCifre(km);
     campi.km = campi.kmLeggibili ? km.toInt() : 0;
-    campi.kmDaIndicare = km.isEmpty() && !txtKm_->placeholderText().isEmpty();
+    campi.kmDaIndicare = km.isEmpty() && kmDaIndicare_;
     campi.kmProgressivi = txtKm_->isModified() && chkKm_->isChecked();
     campi.tipo = LeggiTipoStrada(cmbTipoStrada_->currentText().left(1));
     campi.sosta = {cmbSosta_[0]->currentText().toInt(), cmbSosta_[1]->currentText().toInt(),
@@ -172,6 +178,30 @@ CampiTappa FrmInputBox::Campi() const {
 void FrmInputBox::MostraSuggerimenti(const QString& testo) {
     MostraScritta(*lblSuggerimenti_, testo);
     lblSuggerimenti_->setVisible(!testo.isEmpty());
+}
+
+void FrmInputBox::MostraStima(std::optional<int> km) {
+    if (stima_ == km) return;
+    stima_ = km;
+    MostraSegnaposto();
+}
+
+void FrmInputBox::MostraSegnaposto() {
+    QStringList parti;
+    if (kmDaIndicare_) parti += u"da indicare"_s;
+    if (stima_) parti += u"circa %1 km"_s.arg(*stima_);
+    txtKm_->setPlaceholderText(parti.join(u", "_s));
+}
+
+// Tab leaves the empty field with the distance that stands there in grey.
+bool FrmInputBox::eventFilter(QObject* oggetto, QEvent* evento) {
+    const bool tasto = oggetto == txtKm_ && evento->type() == QEvent::KeyPress;
+    if (tasto && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Tab && stima_ && txtKm_->text().isEmpty()) {
+        txtKm_->setText(QString::number(*stima_));
+        kmStimati_ = true;
+        Q_EMIT Cambiata();
+    }
+    return QGroupBox::eventFilter(oggetto, evento);
 }
 
 void FrmInputBox::FuocoSuiKm() {

@@ -29,6 +29,12 @@ class FrmInputBox : public QGroupBox {
     [[nodiscard]] CampiTappa Campi() const;
     /// Beside the fields; nothing is shown for the empty text.
     void MostraSuggerimenti(const QString& testo);
+    /// The kilometres that Tab takes into the empty field; nothing: none are known.
+    void MostraStima(std::optional<int> km);
+    /// The kilometres are those that were proposed, and nobody has touched them since.
+    [[nodiscard]] bool KmStimati() const { return kmStimati_; }
+    /// The field for the place, for who proposes names.
+    [[nodiscard]] QLineEdit& CasellaTappa() const { return *txtTappa_; }
     void FuocoSullaTappa();
     void FuocoSuiKm();
 
@@ -36,7 +42,11 @@ class FrmInputBox : public QGroupBox {
     /// The fields hold something else.
     void Cambiata();
 
+  protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
   private:
+    void MostraSegnaposto();
     void MostraCampi(int riga, const CampiTappa& campi);
     void MostraKmProgressivi(std::optional<bool> possibili);
     QWidget* CreaCampi();
@@ -53,6 +63,9 @@ class FrmInputBox : public QGroupBox {
     QLabel* lblSuggerimenti_ = nullptr;
     int riga_ = 0;
     std::optional<bool> progressivi_;
+    bool kmDaIndicare_ = false;
+    std::optional<int> stima_;
+    bool kmStimati_ = false;
 };
 
 }  // namespace cronovia

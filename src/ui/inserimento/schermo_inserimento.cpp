@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/inserimento/schermo_inserimento.h"
 
+#include <algorithm>
+
 #include "app/comandi_inserimento.h"
+#include "interaction/failure.h"
+#include "itinerary/posizioni.h"
 #include "itinerary/suggerimenti.h"
 
 namespace cronovia {
@@ -11,6 +15,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kColonneLocalita = 31;
+constexpr int kProposte = 8;
+
+// What only helps with typing is left out when the archive cannot be read: commands will tell.
+template <typename Cerca>
+auto SenzaFallire(Cerca&& cerca) -> decltype(cerca()) {
+    try {
+        return cerca();
+    } catch (const Failure&) {
+        return {};
+    }
+}
 
 }  // namespace
 
@@ -30,6 +45,13 @@ SchermoInserimento::SchermoInserimento(Postazione& postazione, Azioni& azioni, V
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->setMinimumWidth(riquadro_->minimumSizeHint().width() + 20);
     area_->setObjectName(u"areaInserimento"_s);
+    proposte_ = new ProposteNomi(riquadro_->CasellaTappa(), *area_, [this](const QString& inizio) {
+        return postazione_.InInserimento() ? SenzaFallire([&] {
+            return postazione_.luoghi.Proposte(postazione_.sessione.Archivio(), postazione_.documento, inizio,
+                                               kProposte);
+        })
+                                           : std::vector<PropostaNome>();
+    });
     Collega();
 }
 
@@ -95,7 +117,28 @@ void SchermoInserimento::MostraSuggerimenti() {
         const bool falso = aOrario && suggerimento == Suggerimento::TraghettoSenzaTempo;  // it has hours of its own
         if (!falso) testi += Testo(suggerimento);
     }
+    const std::optional<double> diretta = Diretta(campi.localita);
+    const bool traghetto = campi.numStrada.contains("TRAGH"_L1);
+    riquadro_->MostraStima(diretta && !traghetto ? std::optional(KmStimati(*diretta, campi.tipo)) : std::nullopt);
+    const QString distanza = diretta ? SuggerimentoDistanza(campi, *diretta) : QString();
+    if (!distanza.isEmpty()) testi += distanza;
+    if (riquadro_->KmStimati()) testi += u"Distanza stimata dalla linea d'aria: meglio controllarla."_s;
     riquadro_->MostraSuggerimenti(testi.join(u'\n'));
+}
+
+// From the stage above; asked anew when another place stands there, or in the field, or the archive was written to.
+std::optional<double> SchermoInserimento::Diretta(const QString& localita) {
+    const Documento& documento = postazione_.documento;
+    const int riga = documento.RigaCorrente();
+    const auto sopra = static_cast<std::size_t>(std::max(0, riga - 2));
+    const QString da = riga > 1 && sopra < documento.Righe().size() ? documento.Righe()[sopra].localita : QString();
+    const auto scritture = postazione_.sessione.Archivio().OwnChanges();
+    if (da != diretta_.da || localita != diretta_.a || scritture != diretta_.scritture) {
+        diretta_ = {da, localita, scritture, std::nullopt};
+        diretta_.km = SenzaFallire(
+            [&] { return postazione_.luoghi.Diretta(postazione_.sessione.Archivio(), documento, riga, localita); });
+    }
+    return diretta_.km;
 }
 
 bool SchermoInserimento::FuocoDopo(Comando comando, bool appenaAperto) {

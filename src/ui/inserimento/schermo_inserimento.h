@@ -10,6 +10,7 @@
 #include "ui/comuni/schermo.h"
 #include "ui/griglia/vista_griglia.h"
 #include "ui/inserimento/frm_input_box.h"
+#include "ui/inserimento/proposte_nomi.h"
 
 namespace cronovia {
 
@@ -37,6 +38,7 @@ class SchermoInserimento : public QObject, public Schermo {
     void ChiudiElenco();
     void FuocoSullaTappa();
     void FuocoDopoInserisce();
+    std::optional<double> Diretta(const QString& localita);
 
     Postazione& postazione_;
     Azioni& azioni_;
@@ -45,6 +47,13 @@ class SchermoInserimento : public QObject, public Schermo {
     Esegui esegui_;
     FrmInputBox* riquadro_;
     QScrollArea* area_;
+    ProposteNomi* proposte_;
+    struct {
+        QString da;
+        QString a;
+        std::int64_t scritture = 0;
+        std::optional<double> km;
+    } diretta_;  // the straight way that was asked for last
 };
 
 }  // namespace cronovia
