@@ -4,6 +4,7 @@
 #include "calendar/date.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
+#include "schedule/testi_ore.h"
 
 namespace cronovia {
 
@@ -51,6 +52,7 @@ void ScriviTotaliEFine(const EsitoCalcolo& esito, QTextStream& uscita) {
     const TestiFine fine = Testi(cronovia.fine);
     uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(
         fine.giornoSettimana, fine.giorno, fine.mese, fine.anno, fine.ore, fine.minuti, fine.giorni);
+    if (cronovia.scadenza) uscita << Testo(*cronovia.scadenza, cronovia) << ".\n";
 }
 
 QString SenzaTappe() { return u"L'itinerario non ha ancora tappe.\n"_s; }

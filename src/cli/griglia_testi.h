@@ -25,7 +25,8 @@ QString TitoloMeta(const Meta& meta);
 /// Kilometres, driving time and ferries in one line.
 QString RigaTotali(const TestiTotali& totali);
 
-/// What a schedule comes to: that line, and the end of the trip when it has one.
+/// What a schedule comes to: that line, the end of the trip when it has one, and how it stands to when one has to be
+/// home.
 void ScriviTotaliEFine(const EsitoCalcolo& esito, QTextStream& uscita);
 
 /// What is said instead of the rows of an empty itinerary.

@@ -76,6 +76,66 @@ void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, QTextStream& uscit
     if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
 }
 
+QString Data(Istante momento) { return TestoData(momento.data); }
+QString OraDi(Istante momento) { return TestoOreLunghe(momento.ora); }
+
+void ScriviOra(const EsitoOra& ora, const Cronovia& cronovia, ScrittoreJson& json) {
+    constexpr std::array<QStringView, 3> kGeneri = {u"partenza", u"non_prima", u"non_dopo"};
+    const auto testo = [&](QStringView nome, const QString& valore) {
+        json.Nome(nome);
+        json.Testo(valore);
+    };
+    const bool inRitardo = ora.ritardo > 0_cent;
+    json.ApreOggetto();
+    testo(u"attesa", TestoOreLunghe(ora.attesa));
+    if (inRitardo) testo(u"da", cronovia.tabella.righe[static_cast<std::size_t>(ora.daTappa)].tappa.localita);
+    testo(u"data", Data(ora.ora));
+    testo(u"genere", kGeneri[static_cast<std::size_t>(ora.genere)].toString());
+    testo(u"localita", cronovia.tabella.righe[static_cast<std::size_t>(ora.tappa)].tappa.localita);
+    if (ora.margine) testo(u"margine", TestoOreLunghe(*ora.margine));
+    testo(u"ora", OraDi(ora.ora));
+    json.Nome(u"perso");
+    json.Logico(ora.perso);
+    json.Nome(u"riga");
+    json.Numero(ora.riga + 1);
+    testo(u"ritardo", TestoOreLunghe(ora.ritardo));
+    json.ChiudeOggetto();
+}
+
+// The hours that others set, if there are any.
+void ScriviOre(const Cronovia& cronovia, ScrittoreJson& json) {
+    if (cronovia.ore.empty()) return;
+    json.Nome(u"ore");
+    json.ApreArray();
+    for (const EsitoOra& ora : cronovia.ore) ScriviOra(ora, cronovia, json);
+    json.ChiudeArray();
+}
+
+void ScriviScadenza(const Cronovia& cronovia, ScrittoreJson& json) {
+    if (!cronovia.scadenza) return;
+    const EsitoScadenza& scadenza = *cronovia.scadenza;
+    const bool inRitardo = scadenza.margine < 0_cent;
+    json.Nome(u"scadenza");
+    json.ApreOggetto();
+    if (inRitardo) {
+        json.Nome(u"da");
+        json.Testo(cronovia.tabella.righe[static_cast<std::size_t>(scadenza.daTappa)].tappa.localita);
+    }
+    json.Nome(u"data");
+    json.Testo(Data(scadenza.entro));
+    if (!inRitardo) {
+        json.Nome(u"margine");
+        json.Testo(TestoOreLunghe(scadenza.margine));
+    }
+    json.Nome(u"ora");
+    json.Testo(OraDi(scadenza.entro));
+    if (inRitardo) {
+        json.Nome(u"ritardo");
+        json.Testo(TestoOreLunghe(0_cent - scadenza.margine));
+    }
+    json.ChiudeOggetto();
+}
+
 // Each row is written when its texts are made: a long trip is never held twice.
 void ScriviJson(const EsitoCalcolo& esito, QTextStream& uscita) {
     const Cronovia& cronovia = *esito.cronovia;
@@ -85,10 +145,12 @@ void ScriviJson(const EsitoCalcolo& esito, QTextStream& uscita) {
     json.Testi(Testi(cronovia.fine).Elenco());
     json.Nome(u"messaggio");
     json.Testo(esito.messaggio);
+    ScriviOre(cronovia, json);
     json.Nome(u"righe");
     json.ApreArray();
     for (std::size_t i = 0; i < cronovia.righe.size(); ++i) json.Testi(TestiDellaRiga(cronovia, i));
     json.ChiudeArray();
+    ScriviScadenza(cronovia, json);
     json.Nome(u"tentativi");
     json.Numero(esito.tentativi);
     json.Nome(u"totali");

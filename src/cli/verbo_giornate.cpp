@@ -25,12 +25,13 @@ QString Momento(const std::optional<Centesimi>& ora) { return ora ? OreEMinuti(*
 
 QString SeOccupato(Centesimi tempo) { return tempo > 0_cent ? OreEMinuti(tempo) : QString(); }
 
-// Meals on the way and rests.
+// Meals on the way, rests and waits.
 QString Pause(const Giornata& giornata) {
     QStringList pause;
     if (giornata.pranzo) pause += u"pranzo"_s;
     if (giornata.cena) pause += u"cena"_s;
     if (giornata.riposi > 0) pause += u"riposi %1"_s.arg(giornata.riposi);
+    if (giornata.attesa > 0_cent) pause += u"attesa "_s + OreEMinuti(giornata.attesa);
     if (giornata.riposo) pause += u"giorno di riposo"_s;
     return pause.join(u", "_s);
 }
@@ -73,6 +74,7 @@ void ScriviGiornata(const Giornata& giornata, const SoleGiornata& sole, const Cr
     json.ApreOggetto();
     testo(u"alba", OraDelSole(sole.alba));
     testo(u"arrivo", Momento(giornata.arrivo));
+    if (giornata.attesa > 0_cent) testo(u"attesa", OreEMinuti(giornata.attesa));
     seVero(u"cena", giornata.cena);
     testo(u"data", TestoData(giornata.data));
     testo(u"giorno_settimana", GiornoSettimana(giornata.data));

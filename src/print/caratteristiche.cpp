@@ -28,6 +28,10 @@ class Gruppo {
     void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {8, true}); }
     void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {8}); }
     void VoceGrassetta(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {8, true}); }
+    /// Smaller when it is long.
+    void Adattata(const QString& testo, int riga, double x) {
+        foglio_.StampaAdattato({testo, Riga(riga), sinistra_ + x, destra_ - 1, {8}});
+    }
     /// Ends at `x`.
     void Numero(const QString& testo, int riga, double x, bool grassetto = false) {
         foglio_.StampaTesto(
@@ -83,10 +87,21 @@ void StampaPeriodo(const DatiStampa& dati, Gruppo gruppo) {
     gruppo.VoceGrassetta(u"Fine:"_s, 4, kRientro);
     const TestiFine& fine = dati.fine;
     if (fine.giorni.isEmpty()) return;
+    if (!dati.scadenza.isEmpty()) gruppo.Adattata(dati.scadenza, 3, kRientro);
     gruppo.Voce(DataEOra(fine.giornoSettimana, fine.giorno + u'/' + fine.mese + u'/' + fine.anno,
                          fine.ore + u':' + fine.minuti),
                 5, kRientro);
     gruppo.Voce(u"dopo %1 giorni e %2 Km."_s.arg(fine.giorni, dati.totali.km[kTuttiITipi]), 6, kRientro);
+}
+
+// Those with their own hours take no average time.
+QString Traghetti(const DatiStampa& dati) {
+    const QString aOrario = QString::number(dati.traghettiAOrario);
+    const QString medio = Ora(dati.orario.Parametri().oreTraghetti);
+    if (dati.traghettiAOrario == 0) return u"(sono previsti %1 traghetti di %2)"_s.arg(dati.totali.traghetti, medio);
+    if (aOrario == dati.totali.traghetti) return u"(sono previsti %1 traghetti a orario)"_s.arg(aOrario);
+    const int altri = dati.totali.traghetti.toInt() - dati.traghettiAOrario;
+    return u"(traghetti: %1 a orario, %2 di %3)"_s.arg(aOrario, QString::number(altri), medio);
 }
 
 void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
@@ -104,9 +119,7 @@ void StampaPercorrenze(const DatiStampa& dati, Gruppo gruppo) {
         gruppo.Numero(dati.totali.km[i], riga, kKm);
         gruppo.Numero(dati.totali.tempo[i], riga, kTempo);
     }
-    gruppo.Voce(
-        u"(sono previsti %1 traghetti di %2)"_s.arg(dati.totali.traghetti, Ora(dati.orario.Parametri().oreTraghetti)),
-        7, kRientro);
+    gruppo.Voce(Traghetti(dati), 7, kRientro);
 }
 
 void StampaTempi(const ParametriViaggio& p, Gruppo gruppo) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "schedule/testi_giornata.h"
+#include "schedule/testi_ore.h"
 
 namespace cronovia {
 
@@ -26,7 +27,8 @@ std::vector<RigaStampata> Righe(const Cronovia& cronovia) {
         const RigaCronovia& dopo = cronovia.righe[std::min(i + 1, cronovia.righe.size() - 1)];
         const auto limite = riga.limite ? std::optional(Testi(*riga.limite)) : std::nullopt;
         righe.push_back({riga.genere, riga.eventi.riposo, riga.eventi.notte || riga.eventi.notteTardiva,
-                         ConSosta(cronovia, dopo), limite, TestiDellaRiga(cronovia, i), riga.tappa, 0});
+                         ConSosta(cronovia, dopo), limite, TestiDellaRiga(cronovia, i), riga.tappa, 0,
+                         InRitardo(cronovia, riga)});
     }
     return righe;
 }
@@ -50,7 +52,10 @@ DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia) {
         Righe(cronovia),
         meta.dataInizio ? Giorni(Giornate(cronovia, *meta.dataInizio), cronovia) : std::vector<GiornoStampato>(),
         Testi(cronovia.fine),
-        Testi(cronovia.totali, cronovia.orario.GuidaGiorno())};
+        Testi(cronovia.totali, cronovia.orario.GuidaGiorno()),
+        static_cast<int>(std::count_if(cronovia.righe.begin(), cronovia.righe.end(),
+                                       [](const RigaCronovia& riga) { return riga.genere == GenereRiga::Traghetto; })),
+        cronovia.scadenza ? Testo(*cronovia.scadenza, cronovia) : QString()};
     for (std::size_t i = 0; i < dati.giorni.size(); ++i) {
         for (const int riga : dati.giorni[i].giornata.righe) dati.righe[static_cast<std::size_t>(riga)].giorno = i;
     }

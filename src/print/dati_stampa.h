@@ -25,6 +25,7 @@ struct RigaStampata {
     RigaGriglia testi;                  ///< without a locality the row is not printed
     int tappa = 0;                      ///< rows of one stage have one number
     std::size_t giorno = 0;             ///< position of its day; those of a day follow each other
+    bool inRitardo = false;             ///< an hour that others set is missed
 };
 
 /// A day of the schedule.
@@ -41,7 +42,9 @@ struct DatiStampa {
     std::vector<RigaStampata> righe;
     std::vector<GiornoStampato> giorni;
     TestiFine fine;
-    TestiTotali totali;  ///< of the schedule, by road type
+    TestiTotali totali;        ///< of the schedule, by road type
+    int traghettiAOrario = 0;  ///< of its ferries, those with their own hours
+    QString scadenza = {};     ///< how the end stands to when one has to be home; empty when nothing is set
 };
 
 /// What is printed of a trip and its schedule.

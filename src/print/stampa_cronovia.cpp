@@ -67,6 +67,7 @@ Carattere CarattereDi(Colonna colonna, const RigaStampata& riga, const QString& 
     if (colonna == Colonna::Tappa) {
         if (guida) return {8, CodiceDiario(testo).has_value()};
         if (riga.genere == GenereRiga::Sosta) return {8, true};
+        if (riga.genere == GenereRiga::Attesa) return {8, riga.inRitardo, true};
         return {9, riga.sostaDopo || riga.notte || Segnato(testo)};
     }
     if (colonna == Colonna::Note) return {8, riga.riposo || riga.notte || Segnato(testo)};
@@ -193,7 +194,8 @@ void StampaRighe::StampaValore(int colonna, const RigaStampata& riga) {
     const ColonnaStampa& descrizione = kColonne[static_cast<std::size_t>(colonna)];
     if (descrizione.valore == Colonna::NumeroStrada) return;  // beside the locality
     QString testo = riga.testi[descrizione.valore].trimmed();
-    if (testo.isEmpty()) return;
+    const bool attesa = riga.genere == GenereRiga::Attesa;
+    if (testo.isEmpty() || (attesa && descrizione.valore == Colonna::Note)) return;  // its notes stand behind its text
     if (descrizione.valore == Colonna::Tappa) {
         const double fine = StampaLocalita(riga);
         return StampaStrada(riga.testi[Colonna::NumeroStrada].trimmed(), fine);
@@ -208,15 +210,19 @@ void StampaRighe::StampaValore(int colonna, const RigaStampata& riga) {
     StampaNellaColonna(colonna, testo, carattere, descrizione.allineamentoValore);
 }
 
-// Returns where it ends. A guide entry takes the columns behind that are empty in its row; another text may reach over
-// its column, but not into a road number that fills its own.
+// Returns where it ends. A guide entry, or an hour with its notes, takes the columns behind that are empty in its row;
+// another text may reach over its column, but not into a road number that fills its own.
 double StampaRighe::StampaLocalita(const RigaStampata& riga) {
-    const QString testo = riga.testi[Colonna::Tappa].trimmed();
+    const bool attesa = riga.genere == GenereRiga::Attesa;
+    const QString testo =
+        riga.testi[Colonna::Tappa].trimmed() + (attesa ? u" · "_s + riga.testi[Colonna::Note] : QString());
     const QString strada = riga.testi[Colonna::NumeroStrada].trimmed();
     const bool guida = riga.genere == GenereRiga::Guida;
     const double inizio = Bordo(1) + (guida ? kRientroVoce : 0);
     double fine = Bordo(2) + kEccedenza;
-    if (guida) {
+    if (attesa) {
+        fine = Bordo(8) - kScarto;
+    } else if (guida) {
         fine = riga.testi[Colonna::Sosta].trimmed().isEmpty() ? Bordo(11) - kScarto : Bordo(7) + kScarto / 2;
     } else if (!strada.isEmpty()) {
         const double larghezza = std::min(foglio_.Larghezza(strada, {8}), Bordo(3) - Bordo(2));

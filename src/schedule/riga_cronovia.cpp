@@ -8,6 +8,10 @@ namespace cronovia {
 
 std::array<QString, 7> TestiFine::Elenco() const { return {giorno, mese, anno, ore, minuti, giornoSettimana, giorni}; }
 
+bool InRitardo(const Cronovia& cronovia, const RigaCronovia& riga) {
+    return riga.genere == GenereRiga::Attesa && cronovia.ore[static_cast<std::size_t>(riga.voce)].ritardo > 0_cent;
+}
+
 TestiFine Testi(const std::optional<FineViaggio>& fine) {
     if (!fine) return {};
     const Gma gma = GmaDelGiorno(fine->data);

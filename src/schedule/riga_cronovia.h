@@ -147,6 +147,9 @@ struct Cronovia {
     OrarioCorretto orario;  ///< as the last pass took it
 };
 
+/// Whether a row tells of an hour that others set and that is missed.
+bool InRitardo(const Cronovia& cronovia, const RigaCronovia& riga);
+
 /// The trip's end as its boxes show it; empty texts without any driving.
 struct TestiFine {
     QString giorno;  ///< "05"

@@ -182,6 +182,7 @@ class Simulazione {
     RigaCronovia& Aspetta(EsitoOra esito, int tappa, Istante fino) {
         const Istante inizio = orologio_.Momento();
         esito.attesa = std::max(fino - inizio, 0_cent);
+        if (esito.attesa > 0_cent) ContaIPasti();
         RigaCronovia& riga = NuovaOra(esito, tappa, fino);
         riga.cambiaGiorno = fino.data > inizio.data;
         AnnotaFino(GenereFascia::Attesa, inizio, fino, p_.oraColazione, p_.oraNotte);
@@ -192,6 +193,14 @@ class Simulazione {
         if (comeRiposo) orologio_.ultimoRiposo = orologio_.data;
         qui_ = orologio_.Momento();
         return riga;
+    }
+
+    // From a wait on every day has its meals: a later arrival that counted those of the day before as its own would go
+    // on earlier than one in time. Those whose hour is still to come are not taken yet.
+    void ContaIPasti() {
+        atteso_ = true;
+        orologio_.pranzoFatto = orologio_.pranzoFatto && orologio_.ora >= p_.oraPranzo;
+        orologio_.cenaFatta = orologio_.cenaFatta && orologio_.ora >= p_.oraCena;
     }
 
     // After a wait or a landing: a meal that is going on is ended, after the night hour one sleeps, driving begins
@@ -353,7 +362,7 @@ class Simulazione {
         const Durata prevista = sosta;
         const EsitoSosta esito =
             CalcolaLaSosta({sosta, tabella.fineGiorno, tappa.TraghettoSenzaOrario(), richiesta_.fattoreSoste,
-                            tappa.vincoli ? tappa.vincoli->visite : std::nullopt},
+                            tappa.vincoli ? tappa.vincoli->visite : std::nullopt, atteso_},
                            orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
         AnnotaSosta(esito, indice);
@@ -415,7 +424,8 @@ class Simulazione {
     const ParametriViaggio& p_;
     int tolleranza_;
     Orologio orologio_;
-    Istante qui_;  // since when one is here: before the meal, rests or night that an arrival brought
+    bool atteso_ = false;  // there was a wait
+    Istante qui_;          // since when one is here: before the meal, rests or night that an arrival brought
     std::int64_t kmProgressivi_ = 0;
     Passata passata_;
 };

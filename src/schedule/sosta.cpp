@@ -122,6 +122,7 @@ EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto&
         orologio.data += 1;
         orologio.ora = p.oraColazione;
     }
+    if (richiesta.pastiOgniGiorno && orologio.data > inizio.data) orologio.pranzoFatto = orologio.cenaFatta = false;
     percorrenza.PastoPassato(GenereFascia::Pranzo, p.oraPranzo, p.durataPranzo, orologio.pranzoFatto);
     percorrenza.PastoPassato(GenereFascia::Cena, p.oraCena, p.durataCena, orologio.cenaFatta);
     if (durata >= orario.VisitaGiorno()) orologio.ultimoRiposo = orologio.data;

@@ -36,6 +36,7 @@ struct RichiestaSosta {
     bool traghetto = false;                  ///< the average time of a ferry comes on top, not scaled
     float fattore = 1;                       ///< what the stop is multiplied by; no stop grows beyond 999 visiting days
     std::optional<OreDiVisita> visite = {};  ///< its own visiting hours, instead of the trip's
+    bool pastiOgniGiorno = false;            ///< a day that it ends on later has its own meals
 };
 
 /// The clock after a stop.
@@ -50,9 +51,9 @@ struct EsitoSosta {
 
 /// Takes the clock through a stop: visits wait for the beginning of the visiting hours, after their end for the next
 /// day, and fill as many days as they take; within 2 hundredths of the end the day's visits are over. Meals whose hour
-/// passed meanwhile count as taken. A stop of a visiting day or more, with its ferry, counts as a rest. The end of the
-/// day alone, without stop or ferry, does nothing. The visiting hours must not be empty. A stop that ends when its own
-/// visiting hours do leaves the rest of the day for driving.
+/// passed meanwhile count as taken, on the days that follow too unless each has its own. A stop of a visiting day or
+/// more, with its ferry, counts as a rest. The end of the day alone, without stop or ferry, does nothing. The visiting
+/// hours must not be empty. A stop that ends when its own visiting hours do leaves the rest of the day for driving.
 EsitoSosta CalcolaLaSosta(const RichiestaSosta& richiesta, const OrarioCorretto& orario, const Orologio& inizio);
 
 }  // namespace cronovia

@@ -105,6 +105,11 @@ void MostraLeSpunte(const QWidget& finestra) {
     }
 }
 
+QColor ColoreRitardo(const QPalette& palette, QPalette::ColorRole sfondo, QPalette::ColorRole testo) {
+    const std::array sfondi = {palette.color(QPalette::Active, sfondo), palette.color(QPalette::Inactive, sfondo)};
+    return Leggibile(QColor(0xC0, 0x10, 0x10), palette.color(QPalette::Active, testo), sfondi);
+}
+
 void ComeIntorno(QLineEdit& casella) { casella.installEventFilter(new SegueIntorno(&casella)); }
 
 }  // namespace cronovia

@@ -20,6 +20,9 @@ QPalette ConDisabilitatiLeggibili(QPalette palette);
 /// least, where the style takes it from the palette.
 void MostraLeSpunte(const QWidget& finestra);
 
+/// The colour of what is late, on a ground of these: a red with a contrast of 4.5 at least, in dark themes too.
+QColor ColoreRitardo(const QPalette& palette, QPalette::ColorRole sfondo, QPalette::ColorRole testo);
+
 /// Gives a box the colours of what is around it, disabled or not; follows when they change.
 void ComeIntorno(QLineEdit& casella);
 

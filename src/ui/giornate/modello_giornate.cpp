@@ -5,6 +5,7 @@
 
 #include "calendar/testo.h"
 #include "schedule/testi_giornata.h"
+#include "schedule/testi_ore.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -41,6 +42,7 @@ void ModelloGiornate::Mostra(const Cronovia* cronovia, const std::vector<Giornat
             riga += static_cast<int>(giornata.righe.size());
         }
         motivi_ = MotiviDelleRighe(*cronovia);
+        for (const EsitoOra& ora : cronovia->ore) motivi_[ora.riga] = TestoBreve(ora) + u": "_s + Testo(ora, *cronovia);
         visite_ = {cronovia->orario.Parametri().inizioVisita, cronovia->orario.Parametri().fineVisita};
     }
     endResetModel();

@@ -202,6 +202,12 @@ const Tappa* ModelloGriglia::TappaDi(int riga) const {
     return &cronovia_->tabella.righe[static_cast<std::size_t>(dati.tappa)].tappa;
 }
 
+// Whether it is about an hour that others set and that is missed.
+bool ModelloGriglia::InRitardo(int riga) const {
+    return cronovia_ &&
+           cronovia::InRitardo(*cronovia_, cronovia_->righe[static_cast<std::size_t>(*mostrate_.Riga(riga))]);
+}
+
 // Why something of a row is later than one would expect, or takes no time.
 QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
     if (colonna == Colonna::Numero) return Significato(SegnoDellaRiga(riga));
@@ -272,6 +278,10 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
             return QVariant::fromValue(AllineamentoColonna(colonna));
         case Qt::FontRole:
             return CarattereDelSegno(SegnoDellaRiga(index.row()));
+        case Qt::ForegroundRole:
+            return InRitardo(index.row())
+                       ? QVariant(QBrush(ColoreRitardo(QApplication::palette(), QPalette::Base, QPalette::Text)))
+                       : QVariant();
         case Qt::DecorationRole:
             return colonna == Colonna::Numero ? QVariant(IconaDellaRiga(SegnoDellaRiga(index.row()))) : QVariant();
         case Qt::AccessibleTextRole:

@@ -35,6 +35,7 @@ class ModelloGriglia : public QAbstractTableModel {
 
     /// The sign of a row, counted from 0; a free row has none.
     [[nodiscard]] Segno SegnoDellaRiga(int riga) const;
+    [[nodiscard]] bool InRitardo(int riga) const;
 
     /// Which rows stand for which rows of the schedule; none while the itinerary is shown.
     [[nodiscard]] const RigheMostrate& Mostrate() const { return mostrate_; }

@@ -13,6 +13,7 @@
 #include "calendar/testo.h"
 #include "store/schema.h"
 #include "ui/comuni/aiuti.h"
+#include "ui/comuni/colori.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -149,6 +150,11 @@ void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
     for (const std::size_t i : {5U, 0U, 1U, 2U, 3U, 4U, 6U}) layout->addWidget(txtFine_[i]);
     layout->addWidget(NuovaScritta(u"gg."_s));
     layout->addStretch();
+    lblScadenza_ = NuovaScritta();
+    lblScadenza_->setObjectName(u"lblScadenza"_s);
+    lblScadenza_->setWordWrap(true);
+    lblScadenza_->hide();
+    griglia.addWidget(lblScadenza_, 6, 0, 1, 3);
 }
 
 void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
@@ -219,6 +225,14 @@ void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilo
 void FrmMetePeriodo::MostraFine(const TestiFine& fine) {
     const auto testi = fine.Elenco();
     for (std::size_t i = 0; i < txtFine_.size(); ++i) txtFine_[i]->setText(testi[i]);
+}
+
+void FrmMetePeriodo::MostraScadenza(const QString& scadenza, bool inRitardo) {
+    MostraScritta(*lblScadenza_, scadenza);
+    lblScadenza_->setVisible(!scadenza.isEmpty());
+    QPalette colori = palette();
+    if (inRitardo) colori.setColor(QPalette::WindowText, ColoreRitardo(colori, QPalette::Window, QPalette::WindowText));
+    lblScadenza_->setPalette(colori);
 }
 
 void FrmMetePeriodo::Leggi(Meta& meta) const {

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <array>
 
@@ -24,8 +25,9 @@ class FrmMetePeriodo : public QGroupBox {
 
     /// Destination, start, policy and days wanted; which days are on offer follows from the stages.
     void Mostra(const Meta& meta, const RiepilogoItinerario& riepilogo);
-    /// Empty texts without a schedule.
+    /// Empty texts without a schedule. How the end stands to when one has to be home; nothing without such an hour.
     void MostraFine(const TestiFine& fine);
+    void MostraScadenza(const QString& scadenza, bool inRitardo);
     /// Puts what the fields hold into the trip; of a start that is no date, its parts.
     void Leggi(Meta& meta) const;
     void FuocoSullaLocalita();
@@ -61,6 +63,7 @@ class FrmMetePeriodo : public QGroupBox {
     QString annoMostrato_;
     QLineEdit* txtInizioGSett_;
     std::array<QLineEdit*, 7> txtFine_{};
+    QLabel* lblScadenza_;
     QComboBox* cmbGiorni_;
     QComboBox* cmbSoste_;
 };

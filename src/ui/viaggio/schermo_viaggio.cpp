@@ -6,6 +6,7 @@
 
 #include "app/comandi_viaggio.h"
 #include "calendar/testo.h"
+#include "schedule/testi_ore.h"
 #include "ui/comuni/controlli.h"
 
 namespace cronovia {
@@ -132,6 +133,9 @@ void SchermoViaggio::Mostra(bool liberi) {
     const ParametriViaggio& parametri = documento.Campi().parametri;
     periodo_->Mostra(documento.Campi(), riepilogo);
     periodo_->MostraFine(cronovia ? Testi(cronovia->fine) : TestiFine());
+    const bool entro = cronovia && cronovia->scadenza;
+    periodo_->MostraScadenza(entro ? Testo(*cronovia->scadenza, *cronovia) : QString(),
+                             entro && cronovia->scadenza->margine < 0_cent);
     velocita_->Mostra(parametri);
     velocita_->MostraTotali(cronovia ? Testi(cronovia->totali, cronovia->orario.GuidaGiorno())
                                      : Testi(riepilogo.totali, riepilogo.guidaGiorno));
