@@ -85,7 +85,7 @@ class Disegno {
             const auto riempi = [&](GenerePezzo genere, Centesimi da, Centesimi a, const QString& luogo) {
                 RiempiFra(da, a, {genere, {}, {}, PezzoDelGiorno::kSenzaRiga, luogo}, strisce_[i]);
             };
-            if (i > 0) riempi(GenerePezzo::Notte, 0_cent, p.oraColazione, mattina_);
+            if (i > 0) riempi(GenerePezzo::Notte, 0_cent, p.oraColazione, LuogoDelRisveglio(strisce_[i]));
             if (g.riposo) riempi(GenerePezzo::GiornoDiRiposo, p.oraColazione, p.oraNotte, g.notte);
             if (!g.ultima) riempi(GenerePezzo::Notte, p.oraNotte, kGiornoOrologio, sera);
             mattina_ = sera;
@@ -95,6 +95,13 @@ class Disegno {
     std::vector<StrisciaDelGiorno> Finito() { return std::move(strisce_); }
 
   private:
+    // Who lands before breakfast goes on sleeping there.
+    [[nodiscard]] QString LuogoDelRisveglio(const StrisciaDelGiorno& striscia) const {
+        const bool sbarco =
+            !striscia.empty() && striscia.front().genere == GenerePezzo::Traghetto && striscia.front().da == 0_cent;
+        return sbarco ? striscia.front().luogo : mattina_;
+    }
+
     void Aggiungi(int giorno, const Fascia& fascia, Centesimi da, Centesimi a) {
         if (a <= da || giorno >= static_cast<int>(strisce_.size())) return;
         strisce_[static_cast<std::size_t>(giorno)].push_back(

@@ -76,7 +76,7 @@ QString Testo(const Rinvio& rinvio, const Cronovia& cronovia) {
         case GenereRinvio::ArrivoTardivo:
             return u"sosta %1 rinviata a domani (arrivo %2 oltre l'orario)"_s.arg(ALuogo(luogo), ritardo);
         case GenereRinvio::TraghettoPerso:
-            if (tappa.vincoli.ConTraghetto()) return u"traghetto per %1 perso per %2 ore"_s.arg(luogo, ritardo);
+            if (tappa.vincoli.ConTraghetto()) return u"traghetto per %1 perso per %2"_s.arg(luogo, ritardo);
             return u"traghetto %1 rinviato a domani (arrivo %2 oltre l'orario)"_s.arg(ALuogo(luogo), ritardo);
         case GenereRinvio::SostaSuPiuGiorni:
             return (tappa.TraghettoSenzaOrario() ? u"traghetto"_s : u"sosta"_s) +
@@ -84,9 +84,9 @@ QString Testo(const Rinvio& rinvio, const Cronovia& cronovia) {
         case GenereRinvio::NotteTardiva:
             return u"notte %1 più tardi del solito"_s.arg(ritardo);
         case GenereRinvio::OraMancata:
-            return u"%1 in ritardo di %2 ore"_s.arg(ALuogo(luogo), ritardo);
+            return u"%1 in ritardo di %2"_s.arg(ALuogo(luogo), ritardo);
         case GenereRinvio::ImbarcoInRitardo:
-            return u"al traghetto per %1 in ritardo di %2 ore"_s.arg(luogo, ritardo);
+            return u"al traghetto per %1 in ritardo di %2"_s.arg(luogo, ritardo);
         case GenereRinvio::GiorniDiRiposo:
             break;
     }

@@ -89,7 +89,11 @@ DatiStampa Tipi() {
         Riga(largo, {}, largo),
         Riga(largo, {}, u"Notte"_s),
         Riga(largo),
+        Riga(u"ritardo 00:25"_s, {}, u"Non dopo le 15:00, in ritardo da "_s + largo, Attesa),
     };
+    dati.righe.back().inRitardo = true;
+    dati.traghettiAOrario = 1;
+    dati.scadenza = u"A casa entro dom 11/07/2027 20:00: ritardo 02:10, da "_s + largo;
     for (std::size_t i : {0U, 4U, 12U}) {
         RigaGriglia& testi = dati.righe[i].testi;
         testi[Colonna::Numero] = u"9999"_s;
