@@ -28,9 +28,12 @@ class Gruppo {
     void Titolo(const QString& testo) { Scrivi(testo, 0, sinistra_ + kRientro, {8, true}); }
     void Voce(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {8}); }
     void VoceGrassetta(const QString& testo, int riga, double x) { Scrivi(testo, riga, sinistra_ + x, {8, true}); }
-    /// Smaller when it is long.
+    /// On its one line: smaller when it is long, and cut when that does not help.
     void Adattata(const QString& testo, int riga, double x) {
-        foglio_.StampaAdattato({testo, Riga(riga), sinistra_ + x, destra_ - 1, {8}});
+        const double larghezza = destra_ - 1 - sinistra_ - x;
+        const Carattere carattere = foglio_.Ristretto(testo, {8}, larghezza);
+        foglio_.StampaTesto(
+            {foglio_.Tagliato(testo, carattere, larghezza), Riga(riga), sinistra_ + x, destra_, carattere});
     }
     /// Ends at `x`.
     void Numero(const QString& testo, int riga, double x, bool grassetto = false) {
