@@ -265,9 +265,10 @@ class Simulazione {
 
     // Whether meal, rest or night on arriving at the quay would let the ferry leave: they are taken on board then.
     bool PerdeIlTraghetto(int indice) const {
-        if (indice + 1 >= static_cast<int>(richiesta_.tabella.righe.size()) || ConSosta(indice)) return false;
+        if (indice + 1 >= static_cast<int>(richiesta_.tabella.righe.size())) return false;
         const VincoliTappa& vincoli = Riga(indice + 1).tappa.vincoli;
-        return vincoli.ConTraghetto() && orologio_.Momento() > ImbarcoPer(*vincoli->traghetto, qui_).partenza;
+        return vincoli.ConTraghetto() && !ConSosta(indice) &&
+               orologio_.Momento() > ImbarcoPer(*vincoli->traghetto, qui_).partenza;
     }
 
     // The part of `km` kilometres that can be driven before the next rest, meal or night.
