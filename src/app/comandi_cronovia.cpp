@@ -75,6 +75,13 @@ void RicalcolaSulPosto(Postazione& p) {
     }
 }
 
+void ACasaEntro(Postazione& p) {
+    const std::optional<Meta> meta = p.volti.chiediRientro(p.documento.Campi());
+    if (!meta || *meta == p.documento.Campi()) return;
+    p.documento.ImpostaCampi(*meta);
+    RicalcolaSulPosto(p);
+}
+
 void Stampa(Postazione& p) {
     if (auto* stampa = p.Su<schermata::Stampa>()) {
         stampa->passo = schermata::PassoStampa::Scelte;

@@ -15,6 +15,9 @@ void Ricalcola(Postazione& p);
 /// schedule that cannot be computed, which is told. Nothing happens on other screens.
 void RicalcolaSulPosto(Postazione& p);
 
+/// Asks when one has to be home, and for the prices of the trip.
+void ACasaEntro(Postazione& p);
+
 /// Computes the schedule when none is on screen; with one, the choices of its printout come in front, also from the
 /// printers.
 void Stampa(Postazione& p);

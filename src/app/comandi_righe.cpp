@@ -196,6 +196,18 @@ void Incolla(Postazione& p) {
     });
 }
 
+void OrariENote(Postazione& p) {
+    const RigheItinerario& righe = p.documento.Righe();
+    const int riga = p.documento.RigaCorrente();
+    const auto posto = static_cast<std::size_t>(riga - 1);
+    if (posto >= righe.size() || righe[posto].localita.trimmed().isEmpty()) {
+        return p.Mostra(u"Scegli prima la riga di una tappa; se è nuova, inseriscila."_s);
+    }
+    const std::optional<VincoliTappa> vincoli = p.volti.chiediVincoli(righe[posto]);
+    if (!vincoli) return;
+    Modifica(p, u"orari e note di "_s + righe[posto].localita, ImpostaVincoli(righe, riga, *vincoli), riga);
+}
+
 void DividiTappaCorrente(Postazione& p) {
     const RigheItinerario& righe = p.documento.Righe();
     const int riga = p.documento.RigaCorrente();

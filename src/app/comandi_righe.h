@@ -40,6 +40,9 @@ void Taglia(Postazione& p);
 /// Stages as text, before the current row; all of them or none.
 void Incolla(Postazione& p);
 
+/// Asks what others set for the current stage.
+void OrariENote(Postazione& p);
+
 /// Puts a place on the way to the current stage, after asking which.
 void DividiTappaCorrente(Postazione& p);
 

@@ -35,6 +35,7 @@ QStringList CampiDiversi(const Meta& prima, const Meta& dopo) {
         if (vecchi[campo] != nuovi[campo]) nomi += NomeCampoMeta(static_cast<mete::Field>(i));
     }
     if (prima.scadenza != dopo.scadenza) nomi += u"rientro entro"_s;
+    if (prima.prezzi != dopo.prezzi) nomi += u"costi"_s;
     return nomi;
 }
 

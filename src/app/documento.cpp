@@ -16,7 +16,7 @@ namespace {
 // Whether a schedule takes the same from both.
 bool StessoCalcolo(const Meta& a, const Meta& b) {
     return a.dataInizio == b.dataInizio && a.oraInizio == b.oraInizio && a.parametri == b.parametri &&
-           a.giorniAdeguamento == b.giorniAdeguamento;
+           a.giorniAdeguamento == b.giorniAdeguamento && a.scadenza == b.scadenza && a.prezzi == b.prezzi;
 }
 
 }  // namespace

@@ -46,6 +46,9 @@ struct Volti {
     ScegliCopia scegliCopia = {};
     /// Where a journey is to be written, the name being a proposal; an empty path when the person does not want it.
     std::function<QString(const FormatoViaggio& formato, const QString& nome)> scegliFileViaggio = {};
+    /// What others set for a stage; a trip's deadline and prices. Nothing when the person leaves them as they are.
+    std::function<std::optional<VincoliTappa>(const Tappa& tappa)> chiediVincoli = {};
+    std::function<std::optional<Meta>(const Meta& meta)> chiediRientro = {};
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.

@@ -28,9 +28,9 @@ QJsonObject InJson(const Meta& meta) {
     for (std::size_t i = 0; i < valori.size(); ++i) {
         json.insert(Definition(Table::MeteVandro).fields[i].name, valori[i]);
     }
-    if (meta.scadenza) {
-        const OraFissa& ora = meta.scadenza->Ora();
-        json.insert(u"scadenza"_s, QJsonArray{DataMemorizzata(*ora.Data()), TestoMinutiMemorizzati(ora.Minuti())});
+    const std::vector<QString> aggiunti = ValoriAggiunti(meta);
+    if (!aggiunti.empty()) {
+        json.insert(u"aggiunti"_s, QJsonArray::fromStringList({aggiunti.begin(), aggiunti.end()}));
     }
     return json;
 }
@@ -41,8 +41,11 @@ Meta MetaDaJson(const QJsonValue& json) {
         record.values.push_back(json[campo.name].toString());
     }
     Meta meta = MetaDaRecord(record);
-    const QJsonValue scadenza = json["scadenza"_L1];
-    meta.scadenza = Scadenza::Leggi(scadenza[0].toString(), scadenza[1].toString());
+    std::vector<QString> aggiunti(scadenze::kCampi);
+    for (std::size_t i = 0; i < aggiunti.size(); ++i) {
+        aggiunti[i] = json["aggiunti"_L1][static_cast<qsizetype>(i)].toString();
+    }
+    LeggiAggiunti(aggiunti, meta);
     return meta;
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "calendar/digitati.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 
@@ -153,14 +154,9 @@ std::optional<Prezzo> Prezzo::Da(int centesimiDiEuro) {
     return Prezzo(centesimiDiEuro);
 }
 
-std::optional<Prezzo> Prezzo::Leggi(QStringView testo) {
-    const QString euro = testo.trimmed().toString().replace(u',', u'.');
-    const qsizetype punto = euro.indexOf(u'.');
-    const QString interi = punto < 0 ? euro : euro.first(punto);
-    const QString cent = punto < 0 ? QString() : euro.sliced(punto + 1);
-    const auto cifre = [](const QString& t) { return std::all_of(t.begin(), t.end(), Cifra); };
-    if (interi.isEmpty() || interi.size() > 5 || cent.size() > 2 || !cifre(interi) || !cifre(cent)) return std::nullopt;
-    return Da(ValoreNumerico(interi) * 100 + ValoreNumerico(cent.leftJustified(2, u'0')));
+std::optional<Prezzo> Prezzo::Leggi(const QString& testo) {
+    const std::optional<int> centesimi = LeggiDecimale(testo, 2);
+    return centesimi ? Da(*centesimi) : std::nullopt;
 }
 
 QString Prezzo::Testo() const { return QString::number(centesimi_ / 100) + u',' + Zero(centesimi_ % 100, 2); }
@@ -231,7 +227,7 @@ QStringList TestiVincoli(const VincoliTappa& vincoli) {
         if (!testo.isEmpty()) testi += nome + u": "_s + testo;
     };
     const auto prezzo = [&](const QString& nome, const std::optional<Prezzo>& euro) {
-        if (euro) testi += nome + u' ' + euro->Testo() + u" €"_s;
+        if (euro) testi += nome + u' ' + TestoEuro(euro->CentesimiDiEuro());
     };
     aggiungi(u"prenotazione"_s, v.prenotazione.Testo());
     aggiungi(u"telefono"_s, v.telefono.Testo());

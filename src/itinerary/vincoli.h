@@ -103,8 +103,8 @@ class Appunto {
 class Prezzo {
   public:
     static std::optional<Prezzo> Da(int centesimiDiEuro);
-    /// "45", "45,5", "45.50".
-    static std::optional<Prezzo> Leggi(QStringView testo);
+    /// "45", "45,5", "45.50", "1.234,50".
+    static std::optional<Prezzo> Leggi(const QString& testo);
 
     [[nodiscard]] int CentesimiDiEuro() const { return centesimi_; }
     [[nodiscard]] QString Testo() const;  ///< "45,50"

@@ -146,6 +146,7 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
     if (tempi.tempo) testi[Colonna::Tempo] = TempoTratta(*tempi.tempo);
     testi[Colonna::Sosta] = TestoSosta(tappa.sosta, tappa.fineGiorno);
     testi[Colonna::Guida] = Testo(tappa.guida);
+    testi[Colonna::Note] = TestiVincoli(tappa.vincoli).join(u"; "_s);
     return testi;
 }
 

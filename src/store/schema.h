@@ -16,7 +16,7 @@ enum class Table {
     MetaCorrente,    ///< at most one row: the code of the trip last chosen or saved
     Parametri,       ///< at most one row: the personal default travel parameters
     Vincoli,         ///< at most one row per stage: what others set for it, and notes
-    Scadenze,        ///< at most one row per trip: when one has to be home
+    Scadenze,        ///< at most one row per trip: when one has to be home, and its prices
     Posizioni,       ///< at most one row per locality: where it lies, as someone has said
 };
 
@@ -100,7 +100,11 @@ enum class Table {
     FIELD(CodiceMeta, 6)                \
     FIELD(Localita, 30)                 \
     FIELD(RientroData, 8)               \
-    FIELD(RientroOra, 4)
+    FIELD(RientroOra, 4)                \
+    FIELD(KmLitro, 8)                   \
+    FIELD(PrezzoCarburante, 8)          \
+    FIELD(PedaggioKm, 8)                \
+    FIELD(PrezzoNotti, 8)
 // Degrees, with a point and five places.
 #define CRONOVIA_POSIZIONI_FIELDS(FIELD) \
     FIELD(Localita, 30)                  \

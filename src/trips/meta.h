@@ -10,6 +10,7 @@
 #include "calendar/date.h"
 #include "calendar/ora_fissa.h"
 #include "store/archive.h"
+#include "trips/prezzi.h"
 
 namespace cronovia {
 
@@ -83,6 +84,7 @@ struct Meta {
     int giorniAdeguamento = 0;               ///< days that the trip shall last; 0 = as many as it needs
     ParametriViaggio parametri;
     std::optional<Scadenza> scadenza = {};  ///< when one has to be home
+    PrezziViaggio prezzi = {};              ///< what its costs are worked out from
 
     friend bool operator==(const Meta&, const Meta&) = default;
 };

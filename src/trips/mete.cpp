@@ -63,7 +63,7 @@ QString Scrivi(Archive& archive, const Meta& nuova, const Salvataggio& salvatagg
     } else {
         archive.Insert(Table::MeteVandro, ValoriDellaMeta(meta));
     }
-    ScriviScadenza(archive, meta);
+    ScriviAggiunti(archive, meta);
     SalvaIlCodiceMetaCorrente(archive, meta.codice);
     return meta.codice;
 }
@@ -75,20 +75,38 @@ std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice) {
     const std::optional<Record> record = archive.SelectFirst(PerCodice(codice));
     if (!record) return std::nullopt;
     Meta meta = MetaDaRecord(*record);
-    const std::optional<Record> scadenza = archive.SelectFirst(ScadenzaDi(codice));
-    if (scadenza && (*scadenza)[scadenze::Localita].trimmed() == meta.localita) {
-        meta.scadenza = Scadenza::Leggi((*scadenza)[scadenze::RientroData], (*scadenza)[scadenze::RientroOra]);
-    }
+    const std::optional<Record> aggiunti = archive.SelectFirst(ScadenzaDi(codice));
+    if (aggiunti && (*aggiunti)[scadenze::Localita].trimmed() == meta.localita) LeggiAggiunti(aggiunti->values, meta);
     return meta;
 }
 
-void ScriviScadenza(Archive& archive, const Meta& meta) {
+bool LeggiAggiunti(std::span<const QString> valori, Meta& meta) {
+    const QString& data = valori[scadenze::RientroData];
+    const QString& ora = valori[scadenze::RientroOra];
+    meta.scadenza = Scadenza::Leggi(data, ora);
+    const PrezziLetti letti = LeggiPrezzi(valori.subspan(scadenze::KmLitro, kPrezziViaggio));
+    meta.prezzi = letti.prezzi;
+    const bool senza = data.trimmed().isEmpty() && ora.trimmed().isEmpty();
+    return !letti.rifiutato && (senza || meta.scadenza);
+}
+
+std::vector<QString> ValoriAggiunti(const Meta& meta) {
+    if (!meta.scadenza && meta.prezzi == PrezziViaggio()) return {};
+    std::vector<QString> valori = {meta.codice, meta.localita, {}, {}};
+    if (meta.scadenza) {
+        const OraFissa& ora = meta.scadenza->Ora();
+        valori[scadenze::RientroData] = DataMemorizzata(*ora.Data());
+        valori[scadenze::RientroOra] = TestoMinutiMemorizzati(ora.Minuti());
+    }
+    for (const QString& testo : TestiDeiPrezzi(meta.prezzi)) valori.push_back(testo);
+    return valori;
+}
+
+void ScriviAggiunti(Archive& archive, const Meta& meta) {
     Progress muto;
     archive.DeleteMatching(Table::Scadenze, ScadenzaDi(meta.codice).conditions.front(), muto);
-    if (!meta.scadenza) return;
-    const OraFissa& ora = meta.scadenza->Ora();
-    archive.Insert(Table::Scadenze, std::array{meta.codice, meta.localita, DataMemorizzata(*ora.Data()),
-                                               TestoMinutiMemorizzati(ora.Minuti())});
+    const std::vector<QString> valori = ValoriAggiunti(meta);
+    if (!valori.empty()) archive.Insert(Table::Scadenze, valori);
 }
 
 QString NuovoCodiceMeta(std::span<const QString> codici) {

@@ -16,8 +16,12 @@ namespace cronovia {
 /// The trip with that code, or nothing.
 std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice);
 
-/// Stores when one has to be home, or that it does not matter; within a transaction of the caller. Saving a trip does.
-void ScriviScadenza(Archive& archive, const Meta& meta);
+/// What a row of `Scadenze` tells of a trip, its deadline and prices; false when part of it cannot be. And the row of a
+/// trip; none where neither is told.
+bool LeggiAggiunti(std::span<const QString> valori, Meta& meta);
+std::vector<QString> ValoriAggiunti(const Meta& meta);
+/// Stores that row in the place of the one before; within a transaction of the caller. Saving a trip does.
+void ScriviAggiunti(Archive& archive, const Meta& meta);
 
 /// The code for a new trip: 1 when there is none, the lowest free number else, in six digits. `codici` in any order.
 QString NuovoCodiceMeta(std::span<const QString> codici);

@@ -29,8 +29,10 @@
 #include "ui/comuni/richiesta_di_fine.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/inserimento/frm_divisione.h"
+#include "ui/inserimento/frm_vincoli.h"
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
+#include "ui/viaggio/frm_rientro.h"
 
 namespace cronovia {
 
@@ -105,7 +107,9 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->MostraAnteprima() : stampa_->MostraAnteprima(); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); },
         [this](const std::vector<CopiaInElenco>& copie) { return ChiediCopia(*this, copie); },
-        [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); }};
+        [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); },
+        [this](const Tappa& tappa) { return ChiediVincoli(*this, tappa); },
+        [this](const Meta& meta) { return ChiediRientro(*this, meta); }};
 }
 
 void FormMete::Disponi() {

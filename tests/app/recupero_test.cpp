@@ -23,6 +23,7 @@ TEST(RecuperoTest, GivesBackAllThatAStageAndATripCarry) {
     lavoro.righe[1].vincoli = vincoli;
     lavoro.campi.dataInizio = lavoro.caricati.dataInizio = lavoro.letta.meta.dataInizio = NumeroGiorno(740000);
     lavoro.campi.scadenza = Scadenza::Leggi(u"28062027", u"20:00");
+    lavoro.campi.prezzi = {950, 1859, 78, {}};
     Recupero recupero(cartella.Path());
     {
         Recupero altra(cartella.Path());  // a window that lives, though it may not answer: its work is its own

@@ -9,7 +9,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -53,7 +52,12 @@ class FinestraTest : public testing::Test {
         QMessageBox::StandardButton preset = QMessageBox::NoButton;
         std::function<void()> intanto = {};  ///< happens while it is open
     };
-    void Intanto(std::function<void()> cosa) { attese_.back().intanto = std::move(cosa); }
+    void Intanto(std::function<void()> cosa) {
+        attese_.back().intanto = [prima = attese_.back().intanto, poi = std::move(cosa)] {
+            if (prima) prima();
+            poi();
+        };
+    }
     void Attendi(Attesa attesa) { attese_.push_back(std::move(attesa)); }
     /// A failure when something that must have come did not.
     void TuttoVenuto() {
@@ -119,11 +123,13 @@ class FinestraTest : public testing::Test {
         Batti(testo);
     }
 
-    // A display gives the focus back to the window when its boxes are gone; the one of the tests has to be asked.
+    // A display gives the focus back to what is in front when boxes are gone; the one of the tests has to be asked.
     void Attiva() {
-        if (!form_->isVisible() || form_->isActiveWindow()) return;
-        form_->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(form_.get()));
+        QWidget* modale = QApplication::activeModalWidget();
+        QWidget* davanti = modale != nullptr ? modale : form_.get();
+        if (!davanti->isVisible() || davanti->isActiveWindow()) return;
+        davanti->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(davanti));
     }
 
     CartellaDiProva cartella_;
@@ -132,8 +138,8 @@ class FinestraTest : public testing::Test {
   private:
     void GuardaDialogo() {
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialogo == nullptr || !dialogo->isVisible() || dialogo == servito_) return;
-        servito_ = dialogo;
+        if (dialogo == nullptr || !dialogo->isVisible() || dialogo->property("servito").toBool()) return;
+        dialogo->setProperty("servito", true);
         auto* box = qobject_cast<QMessageBox*>(dialogo);
         const bool scelta = qobject_cast<QFileDialog*>(dialogo) != nullptr;
         const auto che = box != nullptr ? Attesa::Che::Box : scelta ? Attesa::Che::File : Attesa::Che::Altro;
@@ -157,6 +163,9 @@ class FinestraTest : public testing::Test {
             if (azione->isVisible() && !azione->text().isEmpty()) visto_ += u'|' + azione->text();
         }
         attesa.file.isEmpty() ? dialogo.reject() : dialogo.accept();
+        if (!dialogo.isVisible()) return;
+        ADD_FAILURE() << "stays open: " << dialogo.windowTitle().toStdString();
+        dialogo.reject();
     }
     void RispondiBox(QMessageBox& box, const Attesa& attesa) {
         if (attesa.testo.endsWith(u'…')) {
@@ -186,7 +195,6 @@ class FinestraTest : public testing::Test {
     }
 
     std::deque<Attesa> attese_;
-    QPointer<QDialog> servito_;
     QTimer occhio_;
 };
 

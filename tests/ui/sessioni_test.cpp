@@ -7,6 +7,7 @@
 //   signal-end                        the system ends the program, and the window has to close
 //   session-end yes|no|unasked        the desktop session ends: whether it may; without that the person can be asked
 //   meanwhile-session-end yes|no      that happens while the box is open that was announced before
+//   meanwhile VERB WORD...            the same of any step; what that brings is announced behind it
 //   come-back                         the window gets the focus from another program's
 //   run WORD... [=> TEXT...]          the program from a terminal, and what it must write among other things
 //   write FILE TEXT                   a file, made beforehand
@@ -131,16 +132,28 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     void Passo(QString riga) {
         QStringList p = prova::Parole(
             riga.replace(u"{cartella}"_s, cartella_.Path()).replace(u"{esempi}"_s, QStringLiteral(CRONOVIA_EXAMPLES)));
-        const QString verbo = p.takeFirst();
-        const auto voce = verbi_.find(verbo);
-        if (voce == verbi_.end()) throw std::runtime_error("no such verb");
-        if (p.size() < voce->second.first) throw std::runtime_error("too few words");
-        p.resize(std::max<qsizetype>(p.size(), 4));
-        voce->second.second(p);
+        const QString verbo = p.first();
+        Fai(p);
         QCoreApplication::processEvents();
         if (form_ != nullptr) Attiva();
         if (!annunci_.contains(verbo)) TuttoVenuto();
         Sorveglia();
+    }
+
+    void Fai(QStringList p) {
+        const auto voce = verbi_.find(p.takeFirst());
+        if (voce == verbi_.end()) throw std::runtime_error("no such verb");
+        if (p.size() < voce->second.first) throw std::runtime_error("too few words");
+        p.resize(std::max<qsizetype>(p.size(), 4));
+        voce->second.second(p);
+    }
+
+    void FaiIntanto(const QStringList& p) {
+        try {
+            Fai(p);
+        } catch (const std::exception& guasto) {
+            ADD_FAILURE() << p.join(u' ').toStdString() << ": " << guasto.what();
+        }
     }
 
     void Sorveglia() {
@@ -400,6 +413,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
           }}},
         {u"session-end"_s, {1, [this](auto& p) { FinisceLaSessione(p[0]); }}},
         {u"meanwhile-session-end"_s, {1, [this](auto& p) { Intanto([this, puo = p[0]] { FinisceLaSessione(puo); }); }}},
+        {u"meanwhile"_s, {1, [this](auto& p) { Intanto([this, p] { FaiIntanto(p); }); }}},
         {u"exchange"_s,
          {3,
           [this](auto& p) {
@@ -528,8 +542,8 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
          {2, [](auto& p) { Uguale(QString::fromUtf8(prova::LeggiFile(p[0])).left(p[1].size()), p[1]); }}},
         {u"expect-no-file"_s, {1, [](auto& p) { EXPECT_FALSE(QFile::exists(p[0])); }}},
     };
-    const QStringList annunci_ = {u"answer"_s,  u"message"_s, u"choose"_s,
-                                  u"dismiss"_s, u"confirm"_s, u"meanwhile-session-end"_s};
+    const QStringList annunci_ = {
+        u"answer"_s, u"message"_s, u"choose"_s, u"dismiss"_s, u"confirm"_s, u"meanwhile"_s, u"meanwhile-session-end"_s};
 };
 
 std::vector<QString> File() {

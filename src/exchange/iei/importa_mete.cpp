@@ -66,7 +66,7 @@ class Importatore {
     void ImportaMeta(RigaIei& riga);
     void ImportaTappa(RigaIei& riga);
     void ImportaVoce(RigaIei& riga);
-    void ImportaScadenza(const RigaIei& riga);
+    void ImportaAggiunti(const RigaIei& riga);
     void ImportaVincoli(const RigaIei& riga);
     void AggiustaData(QString& data, Ritocchi& ritocchi) const;
     static void AggiustaSosta(QString& sosta, Ritocchi& ritocchi);
@@ -109,7 +109,7 @@ void Importatore::ImportaMeta(RigaIei& riga) {
     AggiustaData(riga.valori[mete::DataInizio], ritocchi_[meta->codice]);
     inserite_.push_back(meta->codice);
     Inserisci(riga, meta->codice, mete_);
-    ImportaScadenza(riga);
+    ImportaAggiunti(riga);
 }
 
 void Importatore::AggiustaData(QString& data, Ritocchi& ritocchi) const {
@@ -144,18 +144,13 @@ void Importatore::ImportaTappa(RigaIei& riga) {
 }
 
 // Of a record that was added.
-void Importatore::ImportaScadenza(const RigaIei& riga) {
+void Importatore::ImportaAggiunti(const RigaIei& riga) {
     if (riga.aggiunti.empty()) return;
-    const auto scadenza = Scadenza::Leggi(riga.aggiunti[scadenze::RientroData], riga.aggiunti[scadenze::RientroOra]);
-    if (!scadenza) {
-        ++ritocchi_[riga.valori[mete::CodiceMeta]].orariRifiutati;
-        return;
-    }
     Meta meta;
     meta.codice = riga.valori[mete::CodiceMeta];
     meta.localita = riga.valori[mete::Localita];
-    meta.scadenza = scadenza;
-    ScriviScadenza(archive_, meta);
+    if (!LeggiAggiunti(riga.aggiunti, meta)) ++ritocchi_[meta.codice].orariRifiutati;
+    ScriviAggiunti(archive_, meta);
 }
 
 void Importatore::ImportaVincoli(const RigaIei& riga) {

@@ -61,6 +61,11 @@ void DisegnaLibro(QPainter& p) {
     p.drawPolyline(QPolygonF({{8, 4}, {2.5, 3}, {2.5, 12}, {8, 13}, {13.5, 12}, {13.5, 3}, {8, 4}}));
 }
 
+void DisegnaOrologio(QPainter& p) {
+    p.drawEllipse(QPointF(8, 8), 5.5, 5.5);
+    p.drawPolyline(QPolygonF({{8, 4.5}, {8, 8}, {10.5, 9.5}}));
+}
+
 // A triangle that points to the rows below, or to what it hides.
 void DisegnaTriangolo(QPainter& p, bool aperta) {
     const QPolygonF triangolo = aperta ? QPolygonF({{3, 5}, {13, 5}, {8, 12}}) : QPolygonF({{5, 3}, {12, 8}, {5, 13}});
@@ -81,6 +86,8 @@ void Disegna(Segno segno, QPainter& p) {
             return DisegnaBandiera(p);
         case Segno::Guida:
             return DisegnaLibro(p);
+        case Segno::Fissato:
+            return DisegnaOrologio(p);
         case Segno::GiornataAperta:
             return DisegnaTriangolo(p, true);
         case Segno::GiornataChiusa:

@@ -8,7 +8,7 @@
 
 namespace cronovia {
 
-/// A moon, a plate, a cup, a flag, a book or a triangle; a null icon for a row without a sign.
+/// A moon, a plate, a cup, a flag, a book, a clock or a triangle; a null icon for a row without a sign.
 QIcon IconaDellaRiga(Segno segno);
 
 }  // namespace cronovia

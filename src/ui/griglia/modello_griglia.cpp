@@ -51,6 +51,8 @@ QString Significato(Segno segno) {
             return u"Sosta"_s;
         case Segno::Guida:
             return u"Guida delle città"_s;
+        case Segno::Fissato:
+            return u"Orari e note"_s;
         case Segno::GiornataAperta:
         case Segno::GiornataChiusa:
         case Segno::Nessuno:
@@ -175,7 +177,8 @@ RigaGriglia ModelloGriglia::Testi(int riga) const {
 Segno ModelloGriglia::SegnoDellaRiga(int riga) const {
     if (!cronovia_) {
         const auto indice = static_cast<std::size_t>(riga);
-        return indice < righe_.size() && righe_[indice].fineGiorno ? Segno::FineGiorno : Segno::Nessuno;
+        if (indice >= righe_.size()) return Segno::Nessuno;
+        return righe_[indice].fineGiorno ? Segno::FineGiorno : righe_[indice].vincoli ? Segno::Fissato : Segno::Nessuno;
     }
     const std::optional<int> posizione = mostrate_.Riga(riga);
     if (!posizione) {

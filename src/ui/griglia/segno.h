@@ -12,6 +12,7 @@ enum class Segno {
     Riposo,  ///< whole rest days follow
     Sosta,
     Guida,
+    Fissato,         ///< hours, notes or prices are set for the stage
     GiornataAperta,  ///< the line of a day whose rows are shown
     GiornataChiusa,  ///< or are not
 };

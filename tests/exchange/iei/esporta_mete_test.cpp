@@ -110,16 +110,18 @@ TEST_F(Export, CarriesTheHoursThatOthersSetBehindTheOtherColumns) {
                              "|TraghettoOra|TraghettoData|Navigazione|Imbarco|NonPrimaOra|NonPrimaData|NonDopoOra|"
                              "NonDopoData|VisiteDa|VisiteA|Nota|Telefono|Link|Prenotazione|PrezzoTraghetto|PrezzoNotte|"
                              "PrezzoIngresso\n";
-    const QByteArray mete = kCampiMete.chopped(1) + "|RientroData|RientroOra\n";
+    const QByteArray mete =
+        kCampiMete.chopped(1) + "|RientroData|RientroOra|KmLitro|PrezzoCarburante|PedaggioKm|PrezzoNotti\n";
     const auto file = [&](const QByteArray& meta, const QByteArray& olbia) {
         return prova::Sezione('\xFF', mete + "000007|Sardegna|I" + QByteArray(22, '|') + meta + "\n") +
                prova::Sezione('\xFE', tappe + "000007|0001|Livorno||||||" + QByteArray(17, '|') + "\n" +
                                           "000007|0002|Olbia||||||" + olbia + "\n");
     };
-    const QByteArray buono = file("04072027|2000", "|" + ore);
+    const QByteArray buono = file("04072027|2000|9,5|1,859||25,00", "|" + ore);
     prova::ScriviFile(file_, buono);
     EXPECT_FALSE(TestoEsito(prova::Importa(archive_, buono)).contains(u"orari fissati"_s));
     EXPECT_EQ(CaricaMeta(archive_, u"000007"_s)->scadenza, Scadenza::Leggi(u"04/07/2027", u"20:00"));
+    EXPECT_EQ(CaricaMeta(archive_, u"000007"_s)->prezzi, (PrezziViaggio{950, 1859, {}, 25'00}));
     Esporta({u"000007"_s}, true);
     EXPECT_EQ(LeggiFile(file_).toStdString(), buono.toStdString()) << "the same file again";
     Esporta({u"000001"_s}, true);
@@ -128,7 +130,7 @@ TEST_F(Export, CarriesTheHoursThatOthersSetBehindTheOtherColumns) {
     EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
     EXPECT_EQ(prova::Tutto(archive_), prima);
 
-    const EsitoImport esito = prova::Importa(archive_, file("31022027|2000", "|" + guaste));
+    const EsitoImport esito = prova::Importa(archive_, file("31022027|2000|0|||", "|" + guaste));
     EXPECT_EQ(esito.ritocchi.orariRifiutati, 4);
     EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
 }

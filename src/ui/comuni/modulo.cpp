@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/comuni/modulo.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include "ui/comuni/controlli.h"
+#include "ui/comuni/testo_mostrato.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Modulo : public QDialog {
+  public:
+    Modulo(QWidget& finestra, const RichiestaModulo& richiesta)
+        : QDialog(&finestra), richiesta_(richiesta), caselle_(richiesta.valori.size()) {
+        MostraTitolo(*this, richiesta.titolo);
+        setObjectName(u"modulo"_s);
+        auto* layout = new QVBoxLayout(this);
+        if (!richiesta.testo.isEmpty()) layout->addWidget(NuovaScritta(richiesta.testo));
+        for (const GruppoModulo& gruppo : richiesta.gruppi) layout->addWidget(CreaGruppo(gruppo));
+        auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+        pulsanti->button(QDialogButtonBox::Ok)->setDefault(true);
+        pulsanti->button(QDialogButtonBox::Cancel)->setText(u"Annulla"_s);
+        layout->addWidget(pulsanti);
+        connect(pulsanti, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(pulsanti, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    }
+
+    // Whatever is wrong stays as it was typed, to be put right.
+    void accept() override {
+        const auto difetto = richiesta_.difetto(Valori());
+        if (!difetto) return QDialog::accept();
+        Box(QMessageBox::Warning, windowTitle(), difetto->second, QMessageBox::Ok, this).exec();
+        QLineEdit& casella = *caselle_.at(static_cast<std::size_t>(difetto->first));
+        casella.setFocus();
+        casella.selectAll();
+    }
+
+    [[nodiscard]] std::vector<QString> Valori() const {
+        std::vector<QString> valori = richiesta_.valori;
+        for (std::size_t i = 0; i < valori.size(); ++i) {
+            if (caselle_[i] != nullptr) valori[i] = caselle_[i]->text().trimmed();
+        }
+        return valori;
+    }
+
+  private:
+    QWidget* CreaGruppo(const GruppoModulo& gruppo) {
+        auto* riquadro = new QGroupBox(gruppo.titolo);
+        auto* layout = new QFormLayout(riquadro);
+        for (const std::vector<CampoModulo>& campi : gruppo.righe) {
+            auto* riga = new QHBoxLayout;
+            for (const CampoModulo& campo : campi) {
+                QLineEdit* casella = CreaCasella(campo);
+                if (&campo != &campi.front()) riga->addWidget(NuovaEtichetta(campo.scritta, *casella));
+                riga->addWidget(casella);
+            }
+            if (campi.back().caratteri > 0) riga->addStretch();
+            QLineEdit& prima = *caselle_[static_cast<std::size_t>(campi.front().valore)];
+            layout->addRow(NuovaEtichetta(campi.front().scritta, prima), riga);
+        }
+        return riquadro;
+    }
+
+    QLineEdit* CreaCasella(const CampoModulo& campo) {
+        const auto indice = static_cast<std::size_t>(campo.valore);
+        QLineEdit* casella = NuovaCasella(campo.nome, campo.massimo, campo.istruzione);
+        casella->setPlaceholderText(campo.esempio);
+        casella->setText(richiesta_.valori.at(indice));
+        casella->setCursorPosition(0);
+        constexpr int kBordo = 16;
+        if (campo.caratteri > 0) LarghezzaPer(*casella, campo.caratteri, kBordo);
+        return caselle_.at(indice) = casella;
+    }
+
+    const RichiestaModulo& richiesta_;
+    std::vector<QLineEdit*> caselle_;  // by value; null where none is shown
+};
+
+}  // namespace
+
+std::optional<std::vector<QString>> ChiediModulo(QWidget& finestra, const RichiestaModulo& richiesta) {
+    Modulo modulo(finestra, richiesta);
+    if (modulo.exec() != QDialog::Accepted) return std::nullopt;
+    return modulo.Valori();
+}
+
+}  // namespace cronovia
