@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "itinerary/itinerari.h"
+#include "schedule/alternative.h"
 #include "schedule/calcola_cronovia.h"
 #include "schedule/simulazione.h"
 #include "viaggio_generato.h"
@@ -43,6 +44,18 @@ void CalcoloConGuida(benchmark::State& state) {
     }
 }
 BENCHMARK(CalcoloConGuida)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMicrosecond);
+
+void ConfrontoDelleAlternative(benchmark::State& state) {
+    Archivio archivio;
+    RiempiGuida(archivio.archive, 100);
+    const std::vector<Tappa> tappe = TappeGenerate(100);
+    const Meta meta = MetaGenerata();
+    for (auto _ : state) {
+        LettoreGuida guida(archivio.archive);
+        benchmark::DoNotOptimize(Alternative(meta, tappe, guida, archivio.progress));
+    }
+}
+BENCHMARK(ConfrontoDelleAlternative)->Unit(benchmark::kMillisecond);
 
 void CaricaItinerario(benchmark::State& state) {
     Archivio archivio;

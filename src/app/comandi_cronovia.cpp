@@ -40,11 +40,39 @@ QString Esegui(Postazione& p) {
     return {};
 }
 
+QString ScrittaProposta(const PropostaGiorni& proposta) {
+    const QString soste = proposta.percento == 0 ? u"Senza soste"_s : u"Soste al %1%"_s.arg(proposta.percento);
+    return soste + (proposta.giorni == 1 ? u" (1 giorno)"_s : u" (%1 giorni)"_s.arg(proposta.giorni));
+}
+
+// Tells what came of the calculation. Where other days come near, the person may have the stops that give them.
+std::optional<PropostaGiorni> Proposta(Postazione& p, const QString& messaggio) {
+    const QString titolo = u"Calcolo cronovia"_s;
+    const RicercaGiorni ricerca = p.documento.Ricerca().value_or(RicercaGiorni());
+    const auto& prima = ricerca.esatta ? ricerca.esatta : ricerca.sopra ? ricerca.sotto : std::nullopt;
+    const auto& seconda = ricerca.sopra;
+    if (!prima && !seconda) {
+        p.Mostra(messaggio, titolo, Icon::Information);
+        return std::nullopt;
+    }
+    Question domanda{messaggio + u"\n\nVuoi scrivere queste soste nell'itinerario?"_s, titolo};
+    domanda.si = ScrittaProposta(prima ? *prima : *seconda);
+    domanda.cancellable = prima && seconda;
+    domanda.preset = domanda.cancellable ? Answer::Cancel : Answer::No;
+    domanda.no = domanda.cancellable ? ScrittaProposta(*seconda) : u"Lascia così"_s;
+    const Answer risposta = p.volti.interazione.Ask(domanda);
+    if (risposta == Answer::Yes) return prima ? prima : seconda;
+    return risposta == Answer::No && domanda.cancellable ? seconda : std::nullopt;
+}
+
 void EseguiERacconta(Postazione& p) {
     const QString messaggio = Esegui(p);
     if (messaggio.isEmpty()) return;
     p.volti.mostra();
-    p.Mostra(messaggio, u"Calcolo cronovia"_s, Icon::Information);
+    if (const std::optional<PropostaGiorni> scelta = Proposta(p, messaggio)) {
+        p.documento.Adotta(*scelta);
+        RicalcolaSulPosto(p);
+    }
 }
 
 }  // namespace
@@ -73,6 +101,20 @@ void RicalcolaSulPosto(Postazione& p) {
         p.documento.SelezionaRiga(PrimaDaIndicare(p.documento.Righe()).value_or(inserimento.riga));
         p.schermata = NuovoInserimento(p.documento);
     }
+}
+
+void Confronta(Postazione& p) {
+    if (SenzaMeta(p)) return;
+    std::vector<Alternativa> alternative;
+    if (!p.Prova([&] { alternative = p.documento.Confronta(p.volti.avanzamento); })) return;
+    const std::optional<std::size_t> scelta = p.volti.scegliAlternativa(alternative);
+    if (!scelta) return;
+    Meta meta = p.documento.Campi();
+    meta.giorniAdeguamento = alternative.at(*scelta).voluti;
+    meta.parametri.calcoloSoste = alternative.at(*scelta).soste;
+    p.documento.ImpostaCampi(meta);
+    if (p.Su<schermata::Cronovia>()) return RicalcolaSulPosto(p);
+    Esegui(p);
 }
 
 void ACasaEntro(Postazione& p) {

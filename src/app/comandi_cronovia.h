@@ -15,6 +15,9 @@ void Ricalcola(Postazione& p);
 /// schedule that cannot be computed, which is told. Nothing happens on other screens.
 void RicalcolaSulPosto(Postazione& p);
 
+/// Shows what other stops and days would come to; the one that is chosen is computed.
+void Confronta(Postazione& p);
+
 /// Asks when one has to be home, and for the prices of the trip.
 void ACasaEntro(Postazione& p);
 

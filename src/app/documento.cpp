@@ -2,6 +2,7 @@
 #include "app/documento.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "interaction/failure.h"
@@ -135,6 +136,7 @@ void Documento::Decade() {
     ultima_.reset();
     if (!cronovia_) giornate_.clear();
     impedimento_.clear();
+    ricerca_.reset();
     ++versione_;
 }
 
@@ -207,6 +209,11 @@ void Documento::SelezionaRiga(int riga) {
 
 // Takes over changed stages: times and visits are computed afresh.
 void Documento::Mostra(Stato stato) {
+    if (stato.giorniESoste) {
+        Meta campi = campi_;
+        std::tie(campi.giorniAdeguamento, campi.parametri.calcoloSoste) = *stato.giorniESoste;
+        ImpostaCampi(campi);
+    }
     RicalcolaVisite(Guida(), stato.righe, orario_);
     if (stato.righe != righe_) Decade();
     righe_ = std::move(stato.righe);
@@ -215,11 +222,17 @@ void Documento::Mostra(Stato stato) {
     SelezionaRiga(stato.rigaCorrente);
 }
 
+Documento::Stato Documento::StatoPresente(bool conGiorni) const {
+    Stato stato{righe_, rigaCorrente_};
+    if (conGiorni) stato.giorniESoste.emplace(campi_.giorniAdeguamento, campi_.parametri.calcoloSoste);
+    return stato;
+}
+
 Passo Documento::PassoVerso(const QString& nome, Stato prima) {
     return {nome,
             Ambito::Viaggio,
             [this, prima = std::move(prima)](const Passo& passo) {
-                Stato presente{righe_, rigaCorrente_};
+                Stato presente = StatoPresente(prima.giorniESoste.has_value());
                 Mostra(prima);
                 return std::optional(PassoVerso(passo.nome, std::move(presente)));
             },
@@ -237,10 +250,29 @@ void Documento::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
     storia_.Ricorda(PassoVerso(nome, std::move(prima)));
 }
 
-EsitoCalcolo Documento::CalcolaCon(LettoreGuida& guida, Progress& progress) {
+void Documento::Adotta(const PropostaGiorni& proposta) {
+    Stato dopo{righe_, rigaCorrente_, std::pair(0, CalcoloSoste::SosteItinerario)};
+    auto sosta = proposta.soste.begin();
+    for (Tappa& tappa : dopo.righe) {
+        if (!tappa.localita.isEmpty() && sosta != proposta.soste.end()) tappa.sosta = *sosta++;
+    }
+    Stato prima = StatoPresente(true);
+    Mostra(std::move(dopo));
+    storia_.Ricorda(PassoVerso(u"soste al %1%"_s.arg(proposta.percento), std::move(prima)));
+}
+
+Meta Documento::ConOrarioCorretto() const {
     Meta corretti = campi_;
     corretti.parametri = orario_.Parametri();
-    return CalcolaCronovia(corretti, righe_, guida, progress);
+    return corretti;
+}
+
+std::vector<Alternativa> Documento::Confronta(Progress& progress) {
+    return Alternative(ConOrarioCorretto(), righe_, Guida(), progress);
+}
+
+EsitoCalcolo Documento::CalcolaCon(LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti) {
+    return CalcolaCronovia(ConOrarioCorretto(), righe_, guida, progress, altrimenti);
 }
 
 QString Documento::Calcola(Progress& progress) {
@@ -248,10 +280,11 @@ QString Documento::Calcola(Progress& progress) {
     LettoreGuida& guida = Guida();
     guida.Anticipa(LocalitaDelleTappe(righe_));
     momento.reset();  // others can write while it is computed
-    EsitoCalcolo esito = CalcolaCon(guida, progress);
+    EsitoCalcolo esito = CalcolaCon(guida, progress, SeNonRiesce::Cerca);
     AggiornaOrari();
     cronovia_ = std::move(esito.cronovia);
     Decade();
+    ricerca_ = std::move(esito.ricerca);
     vale_ = cronovia_.has_value();
     if (vale_) giornate_ = cronovia::Giornate(*cronovia_, *campi_.dataInizio);
     return esito.messaggio;
@@ -261,7 +294,7 @@ void Documento::CalcolaDalVivo() {
     if (cronovia_ || ultima_ || !impedimento_.isEmpty() || NumeroTappe(righe_) < 2) return;
     Progress progress;
     try {
-        ultima_ = CalcolaCon(Guida(), progress).cronovia;
+        ultima_ = CalcolaCon(Guida(), progress, SeNonRiesce::Lascia).cronovia;
         giornate_ = cronovia::Giornate(*ultima_, *campi_.dataInizio);
     } catch (const Failure& failure) {
         impedimento_ = failure.Message();

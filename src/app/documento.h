@@ -11,6 +11,7 @@
 #include "app/storia.h"
 #include "itinerary/itinerari.h"
 #include "itinerary/modifiche.h"
+#include "schedule/alternative.h"
 #include "schedule/giornate.h"
 #include "trips/mete.h"
 
@@ -97,6 +98,13 @@ class Documento {
     // Computing.
     /// The reason why the schedule is as it is, or empty; no schedule is there afterwards when it was stopped.
     QString Calcola(Progress& progress);
+    /// What came nearest to the days wanted, when the last calculation did not reach them and nothing changed since.
+    [[nodiscard]] const std::optional<RicercaGiorni>& Ricerca() const { return ricerca_; }
+    /// Types the stops of such a proposal into the itinerary, where they alone count then and no days are wanted: one
+    /// step that can be taken back.
+    void Adotta(const PropostaGiorni& proposta);
+    /// What the trip would come to with other stops or days.
+    std::vector<Alternativa> Confronta(Progress& progress);
     /// Computes the last schedule anew when it is not true any more, without putting it in front.
     void CalcolaDalVivo();
     /// Why that could not be done; empty when it could, or was not tried since the last change.
@@ -125,6 +133,7 @@ class Documento {
     struct Stato {
         RigheItinerario righe;
         int rigaCorrente = 1;
+        std::optional<std::pair<int, CalcoloSoste>> giorniESoste = {};  // wanted, where the step is about them too
     };
     // A schedule with its days, and what it was computed from.
     struct Passata {
@@ -133,6 +142,7 @@ class Documento {
         Meta campi;
         RigheItinerario righe;
     };
+    [[nodiscard]] Stato StatoPresente(bool conGiorni) const;
     void RicordaCorrente(const QString& codice);
     void RifiutaSeDiversa(const std::optional<MetaMemorizzata>& attesa);
     void Metti(MetaAperta aperta);
@@ -147,7 +157,8 @@ class Documento {
     void Conserva();
     void Ritrova();
     LettoreGuida& Guida();
-    EsitoCalcolo CalcolaCon(LettoreGuida& guida, Progress& progress);
+    [[nodiscard]] Meta ConOrarioCorretto() const;
+    EsitoCalcolo CalcolaCon(LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti);
     void Correggi(const ParametriViaggio& parametri);
     [[nodiscard]] Passo PassoVerso(const QString& nome, Stato prima);
 
@@ -161,6 +172,7 @@ class Documento {
     std::optional<Passata> passata_;  // the one before the last change
     std::vector<Giornata> giornate_;
     QString impedimento_;
+    std::optional<RicercaGiorni> ricerca_;
     int versione_ = 0;
     bool vale_ = false;  // fields and stages are as they were when the schedule on screen was computed
     QString codice_;

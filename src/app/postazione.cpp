@@ -6,6 +6,7 @@
 
 #include "exchange/vecchi/vecchi_file.h"
 #include "interaction/failure.h"
+#include "schedule/costi.h"
 
 namespace cronovia {
 
@@ -30,7 +31,12 @@ Postazione::Postazione(const QString& cartella, Volti facce)
     Su<schermata::Viaggio>()->converteOfferto = CiSonoVecchiFile(cartella);
 }
 
-QString Postazione::DaAvvisare() const { return avviso.isEmpty() ? sessione.Archivio().Damage() : avviso; }
+QString Postazione::DaAvvisare() const {
+    if (!avviso.isEmpty()) return avviso;
+    if (const QString danno = sessione.Archivio().Damage(); !danno.isEmpty()) return danno;
+    const auto costi = Su<schermata::Cronovia>() ? CostiDelViaggio(documento.Giornate()) : std::nullopt;
+    return costi ? TestoCosti(*costi) : QString();
+}
 
 bool Postazione::ConverteOfferto() const {
     const auto* viaggio = Su<schermata::Viaggio>();

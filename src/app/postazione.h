@@ -49,6 +49,8 @@ struct Volti {
     /// What others set for a stage; a trip's deadline and prices. Nothing when the person leaves them as they are.
     std::function<std::optional<VincoliTappa>(const Tappa& tappa)> chiediVincoli = {};
     std::function<std::optional<Meta>(const Meta& meta)> chiediRientro = {};
+    /// Which of them, from 0; nothing when the person wants none.
+    std::function<std::optional<std::size_t>(const std::vector<Alternativa>&)> scegliAlternativa = {};
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.
@@ -93,7 +95,7 @@ struct Postazione {
     /// The step of the printout that is chosen on the screen in front; null when there is none.
     [[nodiscard]] schermata::PassoStampa* PassoDiStampa();
     [[nodiscard]] bool StampaAperta() const;
-    /// What is told beside the work; a damaged archive's sentence stays there.
+    /// What is told beside the work; a damaged archive's sentence stays there, and what the schedule in front costs.
     [[nodiscard]] QString DaAvvisare() const;
     /// A run that can be stopped is on.
     [[nodiscard]] bool InCorsa() const { return attivita == Attivita::Corsa; }

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "files/file_intero.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 

@@ -67,6 +67,7 @@ enum class Comando {
     // Cronovia
     Calcola,
     Ricalcola,
+    Confronta,
     FineGiornata,
     ACasaEntro,
     Stampa,

@@ -2,6 +2,7 @@
 #include "cli/griglia_testi.h"
 
 #include "calendar/date.h"
+#include "calendar/digitati.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 #include "schedule/testi_ore.h"
@@ -53,6 +54,22 @@ void ScriviTotaliEFine(const EsitoCalcolo& esito, QTextStream& uscita) {
     uscita << u"Fine del viaggio: %1 %2/%3/%4 ore %5:%6, giorni: %7.\n"_s.arg(
         fine.giornoSettimana, fine.giorno, fine.mese, fine.anno, fine.ore, fine.minuti, fine.giorni);
     if (cronovia.scadenza) uscita << Testo(*cronovia.scadenza, cronovia) << ".\n";
+}
+
+void ScriviCosti(const std::vector<Giornata>& giornate, QTextStream& uscita) {
+    if (const std::optional<Costi> costi = CostiDelViaggio(giornate)) uscita << TestoCosti(*costi) << ".\n";
+}
+
+void ScriviCosti(const Costi& costi, ScrittoreJson& json) {
+    json.ApreOggetto();
+    for (const auto& [nome, centesimi] :
+         {std::pair{u"carburante", costi.carburante}, std::pair{u"ingressi", costi.ingressi},
+          std::pair{u"notti", costi.notti}, std::pair{u"pedaggi", costi.pedaggi}, std::pair{u"totale", costi.Totale()},
+          std::pair{u"traghetti", costi.traghetti}}) {
+        json.Nome(nome);
+        json.Testo(TestoDecimale(centesimi, 2, 2));
+    }
+    json.ChiudeOggetto();
 }
 
 QString SenzaTappe() { return u"L'itinerario non ha ancora tappe.\n"_s; }

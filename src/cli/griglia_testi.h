@@ -9,6 +9,7 @@
 #include "cli/uscita.h"
 #include "schedule/calcola_cronovia.h"
 #include "schedule/colonne.h"
+#include "schedule/costi.h"
 #include "trips/meta.h"
 
 namespace cronovia {
@@ -28,6 +29,10 @@ QString RigaTotali(const TestiTotali& totali);
 /// What a schedule comes to: that line, the end of the trip when it has one, and how it stands to when one has to be
 /// home.
 void ScriviTotaliEFine(const EsitoCalcolo& esito, QTextStream& uscita);
+
+/// What the journey costs, in a line; nothing when nothing has a price. And as an object, of a day too.
+void ScriviCosti(const std::vector<Giornata>& giornate, QTextStream& uscita);
+void ScriviCosti(const Costi& costi, ScrittoreJson& json);
 
 /// What is said instead of the rows of an empty itinerary.
 QString SenzaTappe();

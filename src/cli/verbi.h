@@ -89,6 +89,7 @@ void EseguiConverte(const ApriSessione& apri, const Richiesta& richiesta, QTextS
 void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiConfronta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiLuoghi(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiStampa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);

@@ -66,6 +66,7 @@ void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, QTextStream& uscit
     ScriviGiorni(meta, cronovia, uscita);
     uscita << '\n';
     ScriviTotaliEFine(esito, uscita);
+    ScriviCosti(Giornate(cronovia, *meta.dataInizio), uscita);
     if (cronovia.fine) {
         if (std::any_of(cronovia.righe.begin(), cronovia.righe.end(),
                         [](const RigaCronovia& riga) { return riga.riposoDopo; })) {
@@ -137,10 +138,14 @@ void ScriviScadenza(const Cronovia& cronovia, ScrittoreJson& json) {
 }
 
 // Each row is written when its texts are made: a long trip is never held twice.
-void ScriviJson(const EsitoCalcolo& esito, QTextStream& uscita) {
+void ScriviJson(const Meta& meta, const EsitoCalcolo& esito, QTextStream& uscita) {
     const Cronovia& cronovia = *esito.cronovia;
     ScrittoreJson json(uscita);
     json.ApreOggetto();
+    if (const std::optional<Costi> costi = CostiDelViaggio(Giornate(cronovia, *meta.dataInizio))) {
+        json.Nome(u"costi");
+        ScriviCosti(*costi, json);
+    }
     json.Nome(u"fine");
     json.Testi(Testi(cronovia.fine).Elenco());
     json.Nome(u"messaggio");
@@ -175,7 +180,7 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), TestiDellaCronovia(cronovia)), uscita);
     } else {
-        ScriviJson(esito, uscita);
+        ScriviJson(aperta.meta, esito, uscita);
     }
 }
 

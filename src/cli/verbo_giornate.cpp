@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // giornate.
 #include "app/cartella_dati.h"
+#include "calendar/digitati.h"
 #include "calendar/testo.h"
 #include "cli/griglia_testi.h"
 #include "cli/json.h"
@@ -49,6 +50,12 @@ TabellaTesti TabellaDelleGiornate(const std::vector<Giornata>& giornate, const s
                                  SeOccupato(g.traghetto), Momento(g.partenza), Momento(g.arrivo), Pause(g),
                                  LuogoDellaNotte(g), TestiRinvii(g, cronovia, soli[i]).join(u"; "_s)});
     }
+    if (!CostiDelViaggio(giornate)) return tabella;
+    tabella.intestazioni += u"Costi"_s;
+    tabella.aDestra += static_cast<int>(tabella.intestazioni.size()) - 1;
+    for (std::size_t i = 0; i < giornate.size(); ++i) {
+        tabella.righe[i] += TestoEuro(giornate[i].costi.value_or(Costi()).Totale());
+    }
     return tabella;
 }
 
@@ -76,6 +83,10 @@ void ScriviGiornata(const Giornata& giornata, const SoleGiornata& sole, const Cr
     testo(u"arrivo", Momento(giornata.arrivo));
     if (giornata.attesa > 0_cent) testo(u"attesa", OreEMinuti(giornata.attesa));
     seVero(u"cena", giornata.cena);
+    if (giornata.costi) {
+        json.Nome(u"costi");
+        ScriviCosti(*giornata.costi, json);
+    }
     testo(u"data", TestoData(giornata.data));
     testo(u"giorno_settimana", GiornoSettimana(giornata.data));
     testo(u"guida", OreEMinuti(giornata.guida));
@@ -102,7 +113,8 @@ void ScriviGiornata(const Giornata& giornata, const SoleGiornata& sole, const Cr
     json.ChiudeOggetto();
 }
 
-void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, const TabellaTesti& tabella, QTextStream& uscita) {
+void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, const std::vector<Giornata>& giornate,
+                 const TabellaTesti& tabella, QTextStream& uscita) {
     uscita << TitoloMeta(meta) << "\n\n";
     if (tabella.righe.empty()) {
         uscita << SenzaTappe();
@@ -111,6 +123,7 @@ void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, const TabellaTesti
     }
     uscita << '\n';
     ScriviTotaliEFine(esito, uscita);
+    ScriviCosti(giornate, uscita);
     if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
 }
 
@@ -142,7 +155,7 @@ void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextS
     if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(tabella, uscita);
     } else {
-        ScriviTesto(aperta.meta, esito, tabella, uscita);
+        ScriviTesto(aperta.meta, esito, giornate, tabella, uscita);
     }
 }
 

@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <array>
 
+#include "calendar/digitati.h"
 #include "calendar/testo.h"
 #include "print/testata.h"
+#include "schedule/costi.h"
 #include "schedule/testi_giornata.h"
 
 namespace cronovia {
@@ -51,6 +53,8 @@ class StampaTabella {
 
     void Stampa(const GiornoStampato& giorno);
     void StampaFinePagina();
+    /// What all days cost, below them.
+    void StampaTotale(const QString& testo);
     [[nodiscard]] Stampato Concluso() { return foglio_.Concluso(); }
 
   private:
@@ -107,10 +111,11 @@ void StampaTabella::Stampa(const GiornoStampato& giorno) {
 void StampaTabella::StampaNotte(const GiornoStampato& giorno) {
     constexpr Carattere kRinvii{kDimensioneMinima, false, true};
     const ColonnaGiornata& notte = kColonneGiornate.back();
-    const QString rinvii = giorno.rinvii.join(u" · "_s);
+    const Giornata& g = giorno.giornata;
+    const QStringList costi = g.costi ? QStringList(TestoEuro(g.costi->Totale())) : QStringList();
+    const QString rinvii = (costi + giorno.rinvii).join(u" · "_s);
     const bool inDue = !foglio_.Entra(rinvii, kRinvii, notte.x2 - notte.x1);
     const double sopra = rinvii.isEmpty() ? 0 : inDue ? 3 : 2.4;
-    const Giornata& g = giorno.giornata;
     foglio_.StampaAdattato({g.ultima ? u"fine: "_s + g.notte : LuogoDellaNotte(g),
                             foglio_.RigaStampa() - sopra,
                             notte.x1,
@@ -161,6 +166,16 @@ void StampaTabella::StampaLegenda() {
     }
 }
 
+void StampaTabella::StampaTotale(const QString& testo) {
+    if (!foglio_.Entra(kAltezzaRiga)) {
+        StampaFinePagina();
+        StampaIntestaPagina();
+    }
+    const ColonnaGiornata& prima = kColonneGiornate.front();
+    foglio_.StampaAdattato({testo, foglio_.RigaStampa(), prima.x1, kDestraFoglio, {8, true}});
+    foglio_.Avanza(kAltezzaGiornata);
+}
+
 void StampaTabella::StampaFinePagina() {
     if (!foglio_.PaginaAperta()) return;
     StampaLegenda();
@@ -176,7 +191,12 @@ void StampaTabella::StampaFinePagina() {
 Stampato StampaGiornate(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress) {
     progress.Title(LavoroGiornate());
     StampaTabella tabella(dati, piede);
-    for (const GiornoStampato& giorno : dati.giorni) tabella.Stampa(giorno);
+    std::vector<Giornata> giornate;
+    for (const GiornoStampato& giorno : dati.giorni) {
+        tabella.Stampa(giorno);
+        giornate.push_back(giorno.giornata);
+    }
+    if (const std::optional<Costi> costi = CostiDelViaggio(giornate)) tabella.StampaTotale(TestoCosti(*costi));
     tabella.StampaFinePagina();
     return tabella.Concluso();
 }

@@ -128,7 +128,8 @@ std::vector<Durata> SosteDellaTabella(const TabellaCalcolo& tabella) {
 
 }  // namespace
 
-EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress) {
+EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress,
+                             SeNonRiesce altrimenti) {
     OrarioCorretto orario(meta.parametri);
     RifiutaSeIncalcolabile(meta, orario, tappe);
     const RiepilogoItinerario riepilogo = CalcolaKmTempiItinerario(tappe, orario, meta.giorniAdeguamento);
@@ -176,10 +177,16 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
     cronovia.fine = passata.fine;
     cronovia.totali = passata.totali;
     cronovia.orario = orario;
+    cronovia.prezzi = meta.prezzi;
+    if (daAdeguare && riferimento != meta.giorniAdeguamento && altrimenti == SeNonRiesce::Cerca &&
+        messaggioScadenza.isEmpty()) {
+        esito.ricerca = CercaGiorni(meta, cronovia.tabella, OrarioCorretto(meta.parametri), progress);
+    }
     ConfrontaScadenza(entro, cronovia);
     SegnaRitardi(cronovia);
     esito.cronovia = std::move(cronovia);
     esito.messaggio = Messaggio(meta.giorniAdeguamento, riferimento, esito.tentativi) + messaggioScadenza;
+    if (esito.ricerca) esito.messaggio += u' ' + esito.ricerca->testo;
     progress.Advance(0, 0);
     return esito;
 }

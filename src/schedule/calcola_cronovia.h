@@ -9,6 +9,7 @@
 #include "guide/guida_citta.h"
 #include "interaction/progress.h"
 #include "itinerary/tappa.h"
+#include "schedule/ricerca_giorni.h"
 #include "schedule/riga_cronovia.h"
 #include "trips/meta.h"
 
@@ -19,9 +20,16 @@ inline constexpr int kMassimoTentativi = 11;
 
 /// What a calculation came to.
 struct EsitoCalcolo {
-    std::optional<Cronovia> cronovia;  ///< nothing when the person stopped the calculation
-    int tentativi = 0;                 ///< passes made
-    QString messaggio;                 ///< closing message for the person; empty when no days were wanted
+    std::optional<Cronovia> cronovia;           ///< nothing when the person stopped the calculation
+    int tentativi = 0;                          ///< passes made
+    QString messaggio;                          ///< closing message for the person; empty when no days were wanted
+    std::optional<RicercaGiorni> ricerca = {};  ///< what comes nearest when the days wanted were not reached
+};
+
+/// What is done when the passes end without the days wanted.
+enum class SeNonRiesce {
+    Cerca,   ///< those that can be had are looked for, and the message goes on with them
+    Lascia,  ///< nothing
 };
 
 /// Computes the schedule of a trip with the start, the parameters and `giorniAdeguamento` of `meta`, whose timetable is
@@ -31,6 +39,7 @@ struct EsitoCalcolo {
 /// home, the stops of the stages are all scaled to the longest with which one is in time, if there are any; the closing
 /// message says so. The limits of the return count from when one has to be home. A `Failure` names what
 /// is missing: the start date, the kilometres of stages, the speed of a road type in use, visiting hours.
-EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress);
+EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress,
+                             SeNonRiesce altrimenti = SeNonRiesce::Cerca);
 
 }  // namespace cronovia

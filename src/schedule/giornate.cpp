@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "schedule/costi.h"
+
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
@@ -142,7 +144,9 @@ std::vector<Giornata> Giornate(const Cronovia& cronovia, NumeroGiorno partenza) 
     calendario.Fasce();
     calendario.Rinvii();
     calendario.Luoghi();
-    return calendario.Finite();
+    std::vector<Giornata> giornate = calendario.Finite();
+    MettiCosti(cronovia, giornate);
+    return giornate;
 }
 
 QString LuogoDellaRiga(const Cronovia& cronovia, int riga) {

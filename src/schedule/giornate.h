@@ -11,6 +11,18 @@
 
 namespace cronovia {
 
+/// What something costs, in cents.
+struct Costi {
+    int carburante = 0;
+    int pedaggi = 0;
+    int notti = 0;
+    int traghetti = 0;
+    int ingressi = 0;
+
+    [[nodiscard]] int Totale() const { return carburante + pedaggi + notti + traghetti + ingressi; }
+    Costi& operator+=(const Costi& altri);
+};
+
 /// One date of the journey.
 struct Giornata {
     int numero = 0;  ///< from 1, the start date
@@ -34,6 +46,7 @@ struct Giornata {
     std::vector<int>
         righe;  ///< positions of the schedule's rows that end on this day, with the guide entries below them
     std::vector<Rinvio> rinvii;
+    std::optional<Costi> costi = {};  ///< nothing when nothing has a price
 };
 
 /// The days of a schedule, every date from the start to the last row's once, in order; none without rows. `partenza` is

@@ -145,6 +145,7 @@ struct Cronovia {
     std::optional<EsitoScadenza> scadenza;  ///< nothing when none is set, or nothing has an hour
     Totali totali;
     OrarioCorretto orario;  ///< as the last pass took it
+    PrezziViaggio prezzi;   ///< of the trip
 };
 
 /// Whether a row tells of an hour that others set and that is missed.

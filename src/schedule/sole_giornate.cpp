@@ -24,7 +24,7 @@ std::optional<int> TappaDellaSera(const Giornata& giornata, const Cronovia& cron
 }
 
 bool ArrivaDopo(const Giornata& giornata, int minuto) {
-    return giornata.arrivo && giornata.arrivo->Valore() * 60 > minuto * 100;
+    return giornata.arrivo && giornata.arrivo->Valore() * 60 > static_cast<float>(minuto) * 100;
 }
 
 }  // namespace

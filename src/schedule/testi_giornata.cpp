@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "calendar/digitati.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 
@@ -61,6 +62,7 @@ QString TestoGiornata(const Giornata& giornata) {
     if (giornata.attesa > 0_cent) parti += u"attesa "_s + TestoOreBrevi(giornata.attesa);
     if (giornata.riposo) parti += u"giorno di riposo"_s;
     parti += TestoNotte(giornata);
+    if (giornata.costi) parti += TestoEuro(giornata.costi->Totale());
     return parti.join(kFraParti);
 }
 

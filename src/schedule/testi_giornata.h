@@ -14,7 +14,7 @@ namespace cronovia {
 QString TestoOreBrevi(Centesimi tempo);
 
 /// What a day holds, without what it has not: "Giorno 3 · lun 28/06 · 245 km · guida 4:10 · visite 3:30 · notte a
-/// CASTELLANE"; on the last day where the journey ends.
+/// CASTELLANE"; on the last day where the journey ends. What it costs stands behind, when something has a price.
 QString TestoGiornata(const Giornata& giornata);
 
 /// "a CASTELLANE", "ad ARLES".

@@ -32,6 +32,7 @@
 #include "ui/inserimento/frm_vincoli.h"
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
+#include "ui/viaggio/frm_confronto.h"
 #include "ui/viaggio/frm_rientro.h"
 
 namespace cronovia {
@@ -109,7 +110,8 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this](const std::vector<CopiaInElenco>& copie) { return ChiediCopia(*this, copie); },
         [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); },
         [this](const Tappa& tappa) { return ChiediVincoli(*this, tappa); },
-        [this](const Meta& meta) { return ChiediRientro(*this, meta); }};
+        [this](const Meta& meta) { return ChiediRientro(*this, meta); },
+        [this](const std::vector<Alternativa>& alternative) { return ScegliAlternativa(*this, alternative); }};
 }
 
 void FormMete::Disponi() {

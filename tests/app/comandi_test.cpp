@@ -118,7 +118,10 @@ TEST_F(ComandiTest, DaysWantedStopAndWhatCannotBeComputed) {
     };
     const QString titolo = u"Calcolo cronovia"_s;
     // There is no stop to stretch.
-    EXPECT_TRUE(calcola(5, 75, u"Elaborazione impossibile! (tentativi effettuati n. 11)"_s, titolo));
+    EXPECT_TRUE(calcola(
+        5, 75,
+        u"Elaborazione impossibile! (tentativi effettuati n. 11) Non ci sono soste da allungare: il giorno è 1."_s,
+        titolo));
     comandi::Calcola(*postazione_);
     avanzamento_.stop = true;
     EXPECT_FALSE(calcola(5, 75, {}, {}));

@@ -5,6 +5,7 @@
 
 #include "itinerary/appunti.h"
 #include "itinerary/spostamenti.h"
+#include "itinerary/vincoli_digitati.h"
 #include "righe.h"
 
 namespace cronovia {
@@ -137,6 +138,47 @@ TEST(Modifiche, WhatCannotBecomeARow) {
         QStringList rifiuti;
         for (const Message& m : ControllaTappa(caso.campi, caso.riga)) rifiuti += m.text + u'|' + m.title;
         EXPECT_TRUE(rifiuti == caso.rifiuti) << rifiuti.join(u'/').toStdString();
+    }
+}
+
+TEST(Digitati, WhatIsTypedIsReadAsPeopleWriteItOrRefusedAtItsField) {
+    using namespace vincoli;
+    struct Caso {
+        std::vector<std::pair<int, QString>> digitati;
+        int campo;      // that is refused, or was typed
+        QString esito;  // how the message begins; what is shown again
+    };
+    const std::pair<int, QString> ora{TraghettoOra, u"22"_s};
+    for (const Caso& caso : std::vector<Caso>{
+             {{ora, {Navigazione, u"1:8.30"_s}}, Navigazione, u"La navigazione va da"_s},
+             {{ora, {Navigazione, u"1:08:30"_s}}, Navigazione, u"01:08:30"_s},
+             {{ora, {Navigazione, u"9:00:00"_s}}, Navigazione, u"09:00:00"_s},
+             {{ora, {Navigazione, u"9:00:01"_s}}, Navigazione, u"La navigazione va da"_s},
+             {{ora, {Navigazione, u"0"_s}}, Navigazione, u"La navigazione va da"_s},
+             {{ora, {Navigazione, u"36:00"_s}}, Navigazione, u"01:12:00"_s},
+             {{{Navigazione, u"8"_s}}, TraghettoOra, u"Indica a che ora parte"_s},
+             {{ora, {Navigazione, u"8"_s}, {Imbarco, u"24"_s}}, Imbarco, u"«24» non è un'ora"_s},
+             {{{NonPrimaOra, u"1500"_s}, {NonDopoOra, u"14.59"_s}}, NonDopoOra, u"L'ora entro cui"_s},
+             {{{NonPrimaOra, u"1500"_s}, {NonDopoOra, u"15"_s}}, NonDopoOra, u"15:00"_s},
+             {{{NonPrimaOra, u"15"_s}, {NonPrimaData, u"31/6/2027"_s}}, NonPrimaData, u"«31/6/2027» non è una data"_s},
+             {{{NonPrimaOra, u"15"_s}, {NonPrimaData, u"3-7-27"_s}}, NonPrimaData, u"03/07/2027"_s},
+             {{{VisiteDa, u"9"_s}}, VisiteA, u"Indica sia quando"_s},
+             {{{VisiteDa, u"9"_s}, {VisiteA, u"24:01"_s}}, VisiteA, u"«24:01» non è un'ora"_s},
+             {{{VisiteDa, u"9"_s}, {VisiteA, u"8:59"_s}}, VisiteA, u"Le visite chiudono"_s},
+             {{{Nota, QString(501, u'x')}}, Nota, u"Il testo è troppo lungo"_s},
+             {{{PrezzoNotte, u"1.234,5"_s}}, PrezzoNotte, u"1234,50"_s},
+             {{{PrezzoNotte, u"1.23,5"_s}}, PrezzoNotte, u"«1.23,5» non è un prezzo"_s},
+             {{{PrezzoNotte, u"1.234"_s}}, PrezzoNotte, u"«1.234» non è un prezzo"_s},
+             {{{PrezzoNotte, u"100000"_s}}, PrezzoNotte, u"«100000» non è un prezzo"_s},
+             {{{PrezzoNotte, u"-3"_s}}, PrezzoNotte, u"«-3» non è un prezzo"_s},
+             {{{PrezzoNotte, u"3,"_s}}, PrezzoNotte, u"«3,» non è un prezzo"_s}}) {
+        std::vector<QString> testi(kCampi);
+        for (const auto& [campo, testo] : caso.digitati) testi[static_cast<std::size_t>(campo)] = testo;
+        const VincoliDigitati letti = LeggiDigitati(testi);
+        const QString visto = letti.difetto ? letti.difetto->messaggio
+                                            : TestiDaDigitare(letti.vincoli)[static_cast<std::size_t>(caso.campo)];
+        EXPECT_TRUE(visto.startsWith(caso.esito)) << visto.toStdString() << " for " << caso.esito.toStdString();
+        EXPECT_EQ(letti.difetto.value_or(DifettoVincoli{caso.campo, {}}).campo, caso.campo) << visto.toStdString();
     }
 }
 

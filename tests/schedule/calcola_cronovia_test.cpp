@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "schedule/colonne.h"
+#include "schedule/costi.h"
 #include "store/archive.h"
 #include "support/prova.h"
 
@@ -67,6 +68,65 @@ TEST_F(CalcolaCronoviaTest, RefusesWhatCannotBeComputed) {
     EXPECT_TRUE(prova::MessaggioDi([&] { Calcola(); }).contains(u"fine visite"_s));
     meta_.dataInizio.reset();
     EXPECT_TRUE(prova::MessaggioDi([&] { Calcola(); }).contains(u"data d'inizio"_s));
+}
+
+TEST_F(CalcolaCronoviaTest, WhatComesNearestHoldsOnceItIsTyped) {
+    // Rest days come after each second day: some numbers of days are passed over.
+    meta_.parametri.riposoDopoGiorni = 2;
+    meta_.parametri.riposoGiorno = 2;
+    for (int i = 0; i < 12; ++i) Aggiungi(i == 0 ? 0 : 150 + i * 17, {0, i % 5, 20});
+    const std::vector<Tappa> digitate = tappe_;
+    int cercati = 0;
+    for (int voluti = 1; voluti <= 40; ++voluti) {
+        tappe_ = digitate;
+        meta_.giorniAdeguamento = voluti;
+        const std::optional<RicercaGiorni> ricerca = Calcola().ricerca;
+        if (!ricerca) continue;
+        ++cercati;
+        if (ricerca->sotto && ricerca->sopra) {
+            EXPECT_LT(ricerca->sotto->giorni, voluti);
+            EXPECT_GT(ricerca->sopra->giorni, voluti);
+            EXPECT_EQ(ricerca->sopra->percento, ricerca->sotto->percento + 1);
+        }
+        EXPECT_EQ(ricerca->esatta.value_or(PropostaGiorni{0, voluti, {}}).giorni, voluti);
+        meta_.giorniAdeguamento = 0;
+        for (const auto& proposta : {ricerca->esatta, ricerca->sotto, ricerca->sopra}) {
+            if (!proposta) continue;
+            for (std::size_t i = 0; i < tappe_.size(); ++i) tappe_[i].sosta = proposta->soste[i];
+            EXPECT_EQ(Calcola().cronovia->fine->giorni, proposta->giorni) << voluti << ' ' << proposta->percento;
+        }
+    }
+    EXPECT_GT(cercati, 5);
+}
+
+TEST_F(CalcolaCronoviaTest, CostsAreThoseOfEachDay) {
+    Aggiungi(0);
+    Aggiungi(200);
+    Aggiungi(100, {2, 0, 0}, TipoStrada::Locale);
+    Aggiungi(60);
+    Vincoli vincoli;
+    vincoli.prezzoIngresso = Prezzo::Da(12'50);
+    vincoli.prezzoNotte = Prezzo::Da(0);
+    tappe_[2].vincoli = vincoli;
+    EXPECT_TRUE(CostiDelViaggio(Giornate(*Calcola().cronovia, *meta_.dataInizio))) << "a ticket alone";
+    meta_.prezzi = {10'00, 1859, 78, 25'00};
+    vincoli.prezzoNotte.reset();
+    for (const auto& [notte, notti] : std::vector<std::pair<std::optional<int>, int>>{{{}, 50'00}, {18'00, 36'00}}) {
+        if (notte) vincoli.prezzoNotte = Prezzo::Da(*notte);
+        tappe_[2].vincoli = vincoli;
+        const std::vector<Giornata> giorni = Giornate(*Calcola().cronovia, *meta_.dataInizio);
+        ASSERT_EQ(giorni.size(), 3U);
+        EXPECT_EQ(giorni.front().costi->carburante, 55'77) << "300 km, 30 litres";
+        EXPECT_EQ(giorni.front().costi->pedaggi, 15'60) << "200 km of motorway";
+        EXPECT_EQ(giorni.back().costi->notti, 0) << "behind the last day there is none";
+        const Costi totale = *CostiDelViaggio(giorni);
+        EXPECT_EQ(totale.notti, notti);
+        EXPECT_EQ(totale.ingressi, 12'50);
+        EXPECT_EQ(totale.Totale(), 55'77 + 15'60 + 11'15 + 4'68 + notti + 12'50);
+    }
+    meta_.prezzi = {};
+    for (Tappa& tappa : tappe_) tappa.vincoli = {};
+    EXPECT_FALSE(CostiDelViaggio(Giornate(*Calcola().cronovia, *meta_.dataInizio)));
 }
 
 TEST_F(CalcolaCronoviaTest, EndsWhateverIsAsked) {
