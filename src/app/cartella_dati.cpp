@@ -22,7 +22,7 @@ LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta) {
 
 QString FileDelProgramma(const QString& nome) {
     const QDir programma(QCoreApplication::applicationDirPath());
-    const QString accanto = programma.filePath(nome);
+    QString accanto = programma.filePath(nome);
     if (QFileInfo::exists(accanto)) return accanto;
     return QDir::cleanPath(programma.filePath(QStringLiteral(CRONOVIA_DATA_FOLDER "/") + nome));
 }

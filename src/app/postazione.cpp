@@ -33,7 +33,7 @@ Postazione::Postazione(const QString& cartella, Volti facce)
 
 QString Postazione::DaAvvisare() const {
     if (!avviso.isEmpty()) return avviso;
-    if (const QString danno = sessione.Archivio().Damage(); !danno.isEmpty()) return danno;
+    if (QString danno = sessione.Archivio().Damage(); !danno.isEmpty()) return danno;
     const auto costi = Su<schermata::Cronovia>() ? CostiDelViaggio(documento.Giornate()) : std::nullopt;
     return costi ? TestoCosti(*costi) : QString();
 }

@@ -51,9 +51,10 @@ void Tieni(std::map<int, Luogo>& luoghi, Luogo luogo) {
     }
 }
 
-std::vector<Luogo> PerPeso(std::map<int, Luogo> luoghi) {
+std::vector<Luogo> PerPeso(const std::map<int, Luogo>& luoghi) {
     std::vector<Luogo> tutti;
-    for (auto& [numero, luogo] : luoghi) tutti.push_back(std::move(luogo));
+    tutti.reserve(luoghi.size());
+    for (const auto& [numero, luogo] : luoghi) tutti.push_back(luogo);
     std::stable_sort(tutti.begin(), tutti.end(), [](const Luogo& a, const Luogo& b) { return a.peso > b.peso; });
     if (tutti.size() > kMassimoChiamati) tutti.resize(kMassimoChiamati);
     return tutti;
@@ -222,6 +223,7 @@ std::vector<Luogo> Gazzettino::CheIniziano(QStringView inizio, int massimo, cons
         return true;
     });
     std::vector<std::pair<double, int>> ordine;
+    ordine.reserve(perLuogo.size());
     for (const auto& [numero, trovato] : perLuogo) ordine.emplace_back(-trovato.merito, numero);
     std::sort(ordine.begin(), ordine.end());
     std::vector<Luogo> proposti;

@@ -225,17 +225,20 @@ class LettoreGeoJson {
     void Oggetto(const QJsonObject& oggetto, const QString& nome) {
         const QString tipo = oggetto[u"type"].toString();
         if (tipo == u"FeatureCollection"_s) {
-            for (const QJsonValue& elemento : oggetto[u"features"].toArray()) Oggetto(elemento.toObject(), {});
+            const QJsonArray elementi = oggetto[u"features"].toArray();
+            for (const auto& elemento : elementi) Oggetto(elemento.toObject(), {});
         } else if (tipo == u"Feature"_s) {
             Oggetto(oggetto[u"geometry"].toObject(), oggetto[u"properties"][u"name"].toString());
         } else if (tipo == u"GeometryCollection"_s) {
-            for (const QJsonValue& elemento : oggetto[u"geometries"].toArray()) Oggetto(elemento.toObject(), nome);
+            const QJsonArray elementi = oggetto[u"geometries"].toArray();
+            for (const auto& elemento : elementi) Oggetto(elemento.toObject(), nome);
         } else if (tipo == u"Point"_s) {
             raccolta_.Luogo(nome, Coppia(oggetto[u"coordinates"]));
         } else if (tipo == u"LineString"_s) {
             Linea(oggetto[u"coordinates"].toArray());
         } else if (tipo == u"MultiLineString"_s) {
-            for (const QJsonValue& linea : oggetto[u"coordinates"].toArray()) Linea(linea.toArray());
+            const QJsonArray linee = oggetto[u"coordinates"].toArray();
+            for (const auto& linea : linee) Linea(linea.toArray());
         }
     }
 
@@ -248,7 +251,7 @@ class LettoreGeoJson {
         return raccolta_.Leggi(testo(1), testo(0));
     }
     void Linea(const QJsonArray& punti) {
-        for (const QJsonValue& punto : punti) raccolta_.Traccia(Coppia(punto));
+        for (const auto& punto : punti) raccolta_.Traccia(Coppia(punto));
     }
 
     Raccolta& raccolta_;
