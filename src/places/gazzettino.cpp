@@ -192,7 +192,7 @@ std::vector<Luogo> Gazzettino::Chiamati(QStringView nome) {
             return true;
         });
     }
-    return PerPeso(esatti.empty() ? std::move(iniziali) : std::move(esatti));
+    return PerPeso(esatti.empty() ? iniziali : esatti);
 }
 
 std::vector<Luogo> Gazzettino::CheIniziano(QStringView inizio, int massimo, const QStringList& nazioni) {
