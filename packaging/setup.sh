@@ -7,7 +7,7 @@ set -eu
 packages_for() {
     case $1 in
         build) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-liberation libsqlitecpp-dev libsqlite3-dev libminizip-dev zlib1g-dev ;;
-        test) echo libgtest-dev libgmock-dev libxml2-utils poppler-utils tidy ;;
+        test) echo libgtest-dev libgmock-dev libical-dev libxml2-utils poppler-utils tidy ;;
         check) echo clang-format clang-tidy python3 ;;
         package) echo dpkg-dev lintian desktop-file-utils appstream mandoc debootstrap ;;
         bench) echo libbenchmark-dev sqlite3 ;;

@@ -25,8 +25,8 @@ void Esporta(Postazione& p, const FormatoViaggio& formato) {
         const Meta& meta = p.documento.Campi();
         const QString path = p.volti.scegliFileViaggio(formato, NomeFileViaggio(formato, meta));
         if (path.isEmpty()) return;
-        p.Mostra(ScriviFileViaggio({p.sessione, meta, cronovia, p.documento.Righe()}, formato, path, true), formato.nome.toString(),
-                 Icon::Information);
+        p.Mostra(ScriviFileViaggio({p.sessione, meta, cronovia, p.documento.Righe()}, formato, path, true),
+                 formato.nome.toString(), Icon::Information);
     });
 }
 

@@ -4,10 +4,13 @@
 #include <QDir>
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "app/cartella_dati.h"
+#include "exchange/calendario/scrittore_ics.h"
 #include "exchange/pagina/pagina_telefono.h"
 #include "files/file_intero.h"
+#include "interaction/failure.h"
 #include "itinerary/posizioni.h"
 
 namespace cronovia {
@@ -25,10 +28,29 @@ FileScritto ScriviPagina(const ViaggioDaScrivere& viaggio) {
     return {PaginaTelefono({viaggio.meta, viaggio.cronovia, viaggio.tappe, posizioni, coste})};
 }
 
+std::vector<PosizioneTappa> PosizioniDi(const ViaggioDaScrivere& viaggio) {
+    std::vector<Tappa> tappe;
+    tappe.reserve(viaggio.cronovia.tabella.righe.size());
+    for (const RigaCalcolo& riga : viaggio.cronovia.tabella.righe) tappe.push_back(riga.tappa);
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    return PosizioniDelViaggio(viaggio.sessione.Archivio(), gazzettino, tappe, viaggio.meta.nazione);
+}
+
+FileScritto ScriviCalendario(const ViaggioDaScrivere& viaggio) {
+    const std::vector<Evento> eventi =
+        EventiDelViaggio(viaggio.cronovia, *viaggio.meta.dataInizio, PosizioniDi(viaggio), viaggio.giorniInteri);
+    if (eventi.empty()) throw Failure(u"Niente da mettere nel calendario: l'itinerario non ha ancora tappe."_s);
+    return {CalendarioIcs(viaggio.meta.localita, eventi, QDateTime::currentDateTime()),
+            u"Eventi: %1. Importato di nuovo dopo un altro calcolo, aggiorna quelli di prima."_s.arg(eventi.size())};
+}
+
 constexpr std::array kFormati = {
     FormatoViaggio{u"html", u"Pagina per il telefono",
                    u"Scrive le giornate di una mèta come pagina per il telefono, che si legge senza rete.",
                    &ScriviPagina},
+    FormatoViaggio{u"ics", u"Calendario",
+                   u"Scrive guida, soste, traghetti, notti e orari fissati di una mèta come calendario.",
+                   &ScriviCalendario},
 };
 
 }  // namespace

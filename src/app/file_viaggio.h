@@ -17,6 +17,7 @@ struct ViaggioDaScrivere {
     const Meta& meta;
     const Cronovia& cronovia;
     std::span<const Tappa> tappe;  ///< from which it was computed
+    bool giorniInteri = false;     ///< in a calendar, each day has an event of its own too
 };
 
 /// What was written, and what is to be said of it.

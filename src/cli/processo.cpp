@@ -29,7 +29,7 @@ int EseguiProcesso(int argc, char* argv[], CreaApplicazione crea, const Stampe& 
     QCoreApplication::setApplicationVersion(QStringLiteral(CRONOVIA_VERSION));
     QTextStream uscita(stdout);
     QTextStream errori(stderr);
-    return EseguiRigaDiComando(QCoreApplication::arguments(), stampe, uscita, errori);
+    return EseguiRigaDiComando(QCoreApplication::arguments(), stampe, Terminale::DelProcesso(), uscita, errori);
 }
 
 }  // namespace cronovia

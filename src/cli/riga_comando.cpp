@@ -201,12 +201,12 @@ void Esegui(const Comando& comando, QTextStream& uscita, Avvisi& avvisi) {
 }
 
 // Whatever names hold, a terminal obeys nothing of it.
-void EseguiSulTerminale(const Comando& comando, QTextStream& uscita, Avvisi& avvisi) {
+void EseguiSulTerminale(const Comando& comando, bool colori, QTextStream& uscita, Avvisi& avvisi) {
     QString testo;
     QTextStream raccolta(&testo);
     const auto consegna = qScopeGuard([&] {  // what was said before a refusal too
         raccolta.flush();
-        uscita << VisibileARighe(testo);
+        uscita << ConRilievi(VisibileARighe(testo), colori);
     });
     Esegui(comando, raccolta, avvisi);
 }
@@ -236,28 +236,39 @@ bool VuoleCaratteri(const QStringList& riga) {
     }
 }
 
-int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, QTextStream& uscita, QTextStream& errori) {
+int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, const Terminale& terminale, QTextStream& uscita,
+                        QTextStream& errori) {
     Avvisi avvisi;
+    AvanzamentoSulTerminale avanzamento(errori, terminale.errori);
+    const auto errore = [&](const QString& frase) {
+        avanzamento.Togli();
+        errori << ConRilievi(Errore(Visibile(frase)), terminale.errori && terminale.colori);
+    };
     try {
         Comando comando = Leggi(riga);
         comando.richiesta.stampe = stampe;
+        comando.richiesta.avanzamento = &avanzamento;
+        comando.richiesta.chiede = [&](const QString& domanda) { return Chiedi(terminale, domanda, errori); };
         comando.richiesta.cartella = CartellaDati(LuoghiDellaPiattaforma(comando.cartella));
         if (comando.richiesta.formato == Formato::Testo) {
-            EseguiSulTerminale(comando, uscita, avvisi);
+            EseguiSulTerminale(comando, terminale.uscita && terminale.colori, uscita, avvisi);
         } else {
             Esegui(comando, uscita, avvisi);
         }
+        avanzamento.Togli();
         uscita.flush();
         if (uscita.status() != QTextStream::Ok) throw Failure(u"Il risultato non si può scrivere."_s);
         for (const QString& frase : avvisi.frasi) errori << Visibile(frase) << '\n';
         if (!avvisi.danno.isEmpty()) throw Failure(avvisi.danno);
         return kFatto;
-    } catch (const WrongUsage& errore) {
-        errori << Visibile(errore.Message()) << u" L'aiuto: cronovia --help\n"_s;
+    } catch (const WrongUsage& errato) {
+        errore(errato.Message());
+        errori << u" L'aiuto: cronovia --help\n"_s;
         return kUsoErrato;
-    } catch (const Failure& errore) {
-        errori << Visibile(errore.Message()) << '\n';
-        if (!avvisi.danno.isEmpty() && avvisi.danno != errore.Message()) errori << Visibile(avvisi.danno) << '\n';
+    } catch (const Failure& fallito) {
+        errore(fallito.Message());
+        errori << '\n';
+        if (!avvisi.danno.isEmpty() && avvisi.danno != fallito.Message()) errori << Visibile(avvisi.danno) << '\n';
         return kRifiutato;
     }
 }

@@ -6,6 +6,7 @@
 #include <QTextStream>
 #include <optional>
 
+#include "cli/terminale.h"
 #include "cli/verbi.h"
 
 namespace cronovia {
@@ -25,6 +26,7 @@ bool VuoleCaratteri(const QStringList& riga);
 /// Runs one command line, the program's name first. Returns 0 when done, 1 when refused or failed (one sentence in
 /// `errori`, nothing changed), 2 when the line cannot be understood. `stampe` may be empty for a line that draws
 /// nothing.
-int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, QTextStream& uscita, QTextStream& errori);
+int EseguiRigaDiComando(const QStringList& riga, const Stampe& stampe, const Terminale& terminale, QTextStream& uscita,
+                        QTextStream& errori);
 
 }  // namespace cronovia

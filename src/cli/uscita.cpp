@@ -10,12 +10,26 @@ namespace cronovia {
 
 namespace {
 
+// Noncharacters of Unicode, which no text has: what stands out lies between them.
+constexpr QChar kInizioRilievo = char16_t(0xFDD0);
+constexpr QChar kInizioErrore = char16_t(0xFDD1);
+constexpr QChar kFineRilievo = char16_t(0xFDD2);
+
 void RigaTsv(QStringList testi, QTextStream& uscita) {
     for (QString& testo : testi) testo = InCella(testo);
     uscita << testi.join(u'\t') << '\n';
 }
 
 }  // namespace
+
+QString Rilievo(const QString& testo) { return kInizioRilievo + testo + kFineRilievo; }
+QString Errore(const QString& testo) { return kInizioErrore + testo + kFineRilievo; }
+
+QString ConRilievi(QString testo, bool colori) {
+    testo.replace(kInizioRilievo, colori ? QStringLiteral("\x1b[1m") : QString());
+    testo.replace(kInizioErrore, colori ? QStringLiteral("\x1b[31m") : QString());
+    return testo.replace(kFineRilievo, colori ? QStringLiteral("\x1b[0m") : QString());
+}
 
 std::vector<int> LarghezzeColonne(const TabellaTesti& tabella) {
     std::vector<int> larghezze(static_cast<std::size_t>(tabella.intestazioni.size()), 0);
@@ -46,7 +60,7 @@ QString RigaAllineata(const QStringList& testi, const std::vector<int>& larghezz
 
 void ScriviAllineata(const TabellaTesti& tabella, QTextStream& uscita) {
     const std::vector<int> larghezze = LarghezzeColonne(tabella);
-    uscita << RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra) << '\n';
+    uscita << Rilievo(RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra)) << '\n';
     for (const QStringList& riga : tabella.righe) uscita << RigaAllineata(riga, larghezze, tabella.aDestra) << '\n';
 }
 

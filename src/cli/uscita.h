@@ -18,6 +18,12 @@ struct TabellaTesti {
     QList<int> aDestra;  ///< columns whose texts stand at the right
 };
 
+/// A text that stands out, and one that tells of an error, where colours can be shown.
+QString Rilievo(const QString& testo);
+QString Errore(const QString& testo);
+/// The text with its colours, or without.
+QString ConRilievi(QString testo, bool colori);
+
 /// Width of each column: that of its longest text, headers included.
 std::vector<int> LarghezzeColonne(const TabellaTesti& tabella);
 

@@ -28,6 +28,17 @@ void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo) {
     if (HaCaratteriDiControllo(testo)) throw WrongUsage(cosa + u" contiene caratteri di controllo."_s);
 }
 
+std::vector<DatoNominato> DatiNominati(const QStringList& argomenti, qsizetype primo) {
+    std::vector<DatoNominato> dati;
+    for (const QString& argomento : argomenti.sliced(primo)) {
+        RifiutaCaratteriDiControllo(u"Un valore"_s, argomento);
+        const qsizetype uguale = argomento.indexOf(u'=');
+        if (uguale < 1) throw WrongUsage(u"«%1» non è nella forma nome=valore."_s.arg(argomento));
+        dati.push_back({argomento.first(uguale).trimmed(), argomento.sliced(uguale + 1).trimmed()});
+    }
+    return dati;
+}
+
 OpzioniCalcolo LeggiOpzioniCalcolo(const Richiesta& richiesta) {
     OpzioniCalcolo opzioni;
     opzioni.giorni = richiesta.Intero(u"giorni"_s, 0, kMassimoGiorniAdeguamento);
@@ -71,6 +82,22 @@ std::vector<Verbo> VerbiDellArchivio() {
          2,
          false,
          &EseguiNuova},
+        {u"parametri"_s,
+         u"CODICE [nome=valore…]"_s,
+         u"Mostra partenza, velocità, orari, riposi, giorni e rientro di una mèta, o li cambia."_s,
+         {},
+         1,
+         -1,
+         true,
+         &EseguiParametri},
+        {u"elimina"_s,
+         u"CODICE"_s,
+         u"Cancella una mèta con il suo itinerario, dopo averlo chiesto; prima ne resta una copia."_s,
+         {{u"sì"_s, {}, u"Cancella senza chiedere."_s}, {u"si"_s, {}, u"Come --sì."_s}},
+         1,
+         1,
+         false,
+         &EseguiElimina},
         {u"importa"_s,
          u"FILE.iei [CODICE…]"_s,
          u"Importa dal file di scambio tutte le mète, o solo quelle con i codici indicati."_s,
@@ -83,7 +110,8 @@ std::vector<Verbo> VerbiDellArchivio() {
          u"Esporta sul file di scambio tutte le mète, o solo quelle con i codici indicati; o una mèta in altri "
          "formati."_s,
          ConIFormati(
-             {{u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s},
+             {{u"giornate"_s, {}, u"Con --ics: mette nel calendario anche i giorni interi."_s},
+              {u"sovrascrivi"_s, {}, u"Ricopre il file se esiste già."_s},
               {u"gpx"_s, {}, u"Per un navigatore: il percorso della mèta CODICE, con le voci della guida."_s},
               {u"kml"_s, {}, u"Lo stesso come file KML, per carte e atlanti."_s},
               {u"itn"_s, {}, u"Le sole tappe come file ITN."_s},
@@ -128,6 +156,14 @@ std::vector<Verbo> VerbiDelleCopie() {
          1,
          false,
          &EseguiRipristina},
+        {u"completamento"_s,
+         u"bash|zsh|fish"_s,
+         u"Scrive per quella shell il completamento dei verbi e delle loro opzioni."_s,
+         {},
+         1,
+         1,
+         false,
+         &EseguiCompletamento},
     };
 }
 
@@ -141,6 +177,21 @@ std::vector<Verbo> VerbiDelViaggio() {
          1,
          true,
          &EseguiItinerario},
+        {u"tappe"_s,
+         u"CODICE [FILE|-] [nome=valore…]"_s,
+         u"Legge le tappe di una mèta da un file (TSV, CSV o JSON; - per lo standard input), come le scrive "
+         "«itinerario», al posto di quelle che ha; o ne cambia una."_s,
+         {{u"aggiungi"_s,
+           {},
+           u"Aggiunge una tappa, in fondo o dove dice --prima: tappa=ASTI km=56 ts=A sosta=01:30 …"_s},
+          {u"cambia"_s, u"N"_s, u"Cambia i dati indicati della tappa N."_s},
+          {u"togli"_s, u"N"_s, u"Toglie la tappa N, o quelle da N a M: N-M."_s},
+          {u"sposta"_s, u"N"_s, u"Sposta la tappa N (o N-M) in fondo, o dove dice --prima."_s},
+          {u"prima"_s, u"N"_s, u"Con --aggiungi e --sposta: prima della tappa N."_s}},
+         1,
+         -1,
+         true,
+         &EseguiTappe},
         {u"percorso"_s,
          u"CODICE FILE"_s,
          u"Riporta in un itinerario vuoto il percorso di un navigatore o di un altro programma (GPX, KML, KMZ, ITN, GeoJSON, testo)."_s,
@@ -190,9 +241,12 @@ std::vector<Verbo> VerbiDelViaggio() {
           {u"dettaglio"_s, {}, u"Con --pdf: stampa anche le annotazioni, non solo i nomi."_s},
           {u"sovrascrivi"_s, {}, u"Con --pdf: ricopre il file se esiste già."_s},
           {u"aggiungi"_s, {}, u"Aggiunge un'annotazione: LOCALITA TIPO DESCRIZIONE, e hh:mm per le visite."_s},
+          {u"cambia"_s,
+           {},
+           u"Cambia un'annotazione: LOCALITA TIPO DESCRIZIONE e ciò che cambia, come tipo=… descrizione=… tempo=hh:mm."_s},
           {u"togli"_s, {}, u"Toglie un'annotazione: LOCALITA TIPO DESCRIZIONE."_s}},
          0,
-         4,
+         6,
          true,
          &EseguiGuida},
     };

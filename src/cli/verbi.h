@@ -56,11 +56,22 @@ struct Richiesta {
     QMap<QString, QString> opzioni;  ///< the options given; a switch with an empty value
     Formato formato = Formato::Testo;
     Stampe stampe;
-    QString cartella;  ///< the data folder, for who does not open the archive as the others do
+    QString cartella;                 ///< the data folder, for who does not open the archive as the others do
+    Progress* avanzamento = nullptr;  ///< never null while a verb runs
+    /// Asks the person; nothing when nobody can answer.
+    std::function<std::optional<bool>(const QString& domanda)> chiede;
 
     /// The whole number of an option within its limits; nothing when it was not given, `WrongUsage` when it is none.
     [[nodiscard]] std::optional<int> Intero(const QString& nome, int minimo, int massimo) const;
 };
+
+/// A datum as a command line gives it, "nome=valore", and all those of a line from argument `primo` on. `WrongUsage`
+/// when one has another form, or control characters.
+struct DatoNominato {
+    QString nome;
+    QString valore;
+};
+std::vector<DatoNominato> DatiNominati(const QStringList& argomenti, qsizetype primo);
 
 /// `WrongUsage` when an argument, of which `cosa` is the name, holds control characters.
 void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo);
@@ -87,6 +98,10 @@ void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiConverte(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiTappe(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiParametri(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiElimina(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
+void EseguiCompletamento(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);
 void EseguiConfronta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita);

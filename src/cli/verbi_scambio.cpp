@@ -43,10 +43,10 @@ void EsportaViaggio(const ApriSessione& apri, const Richiesta& richiesta, const 
     if (richiesta.argomenti.size() != 2) {
         throw WrongUsage(u"Con --%1 va indicato il codice di una mèta sola."_s.arg(formato.opzione));
     }
+    const bool giornate = richiesta.opzioni.contains(u"giornate"_s);
     Sessione sessione = apri();
-    Progress progress;
-    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.last(), {}, progress);
-    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe}, formato,
+    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.last(), {}, *richiesta.avanzamento);
+    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe, giornate}, formato,
                                 richiesta.argomenti.first(), richiesta.opzioni.contains(u"sovrascrivi"_s))
            << '\n';
 }
@@ -105,7 +105,7 @@ void EsportaPerNavigatore(const ApriSessione& apri, const Richiesta& richiesta, 
 
 void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const EsitoImport esito =
         ImportaMete({sessione.Archivio(), richiesta.argomenti.first(), CodiciRichiesti(richiesta)}, progress);
     uscita << Righe(TestoEsito(esito));
@@ -117,6 +117,9 @@ void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     if (viaggio != nullptr && percorso) {
         throw WrongUsage(u"Le opzioni --%1 e --%2 non vanno insieme."_s.arg(viaggio->opzione, Estensione(*percorso)));
     }
+    if (richiesta.opzioni.contains(u"giornate"_s) && (viaggio == nullptr || viaggio->opzione != u"ics")) {
+        throw WrongUsage(u"L'opzione --giornate vale solo con --ics."_s);
+    }
     if (viaggio != nullptr) return EsportaViaggio(apri, richiesta, *viaggio, uscita);
     if (percorso) return EsportaPerNavigatore(apri, richiesta, *percorso, uscita);
     if (richiesta.opzioni.contains(u"per-giorno"_s)) {
@@ -125,16 +128,16 @@ void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Sessione sessione = apri();
     std::vector<QString> codici = CodiciRichiesti(richiesta);
     for (QString& codice : codici) codice = CodiceCompleto(codice);
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const EsitoExport esito = EsportaMete(
         {sessione.Archivio(), richiesta.argomenti.first(), codici, richiesta.opzioni.contains(u"sovrascrivi"_s)},
         progress);
     uscita << Righe(TestoEsito(esito));
 }
 
-void EseguiConverte(const ApriSessione& apri, const Richiesta& /*richiesta*/, QTextStream& uscita) {
+void EseguiConverte(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     uscita << Righe(TestoEsito(
         ConvertiVecchiFile({sessione.Archivio(), sessione.Cartella(), QDateTime::currentDateTime()}, progress)));
 }

@@ -47,7 +47,7 @@ void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, QTextStream& uscit
     const TabellaTesti tabella = ColonneDelGiorno(righe, cronovia);
     const std::vector<int> larghezze = LarghezzeColonne(tabella);
     for (const Giornata& giornata : Giornate(cronovia, *meta.dataInizio)) {
-        uscita << '\n' << RigaGiornata(giornata, cronovia) << '\n';
+        uscita << '\n' << Rilievo(RigaGiornata(giornata, cronovia)) << '\n';
         if (giornata.numero == 1) uscita << RigaAllineata(tabella.intestazioni, larghezze, tabella.aDestra) << '\n';
         for (const int riga : giornata.righe) {
             const auto i = static_cast<std::size_t>(riga);
@@ -170,7 +170,7 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     const bool tabella = richiesta.opzioni.contains(u"tabella"_s);
     Sessione sessione = apri();
     if (tabella) sessione.RifiutaSeDanneggiato();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const Cronovia& cronovia = *esito.cronovia;
     if (tabella) ScriviTabella(PreparaStampa(aperta.meta, cronovia), sessione.Cartella());

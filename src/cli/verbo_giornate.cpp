@@ -137,7 +137,7 @@ void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextS
     if (pdf) return richiesta.stampe.giornate(apri, richiesta, uscita);
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *aperta.meta.dataInizio);
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));

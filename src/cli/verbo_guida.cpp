@@ -2,6 +2,7 @@
 // guida.
 #include <QRegularExpression>
 #include <map>
+#include <tuple>
 
 #include "calendar/testo.h"
 #include "cli/json.h"
@@ -47,22 +48,22 @@ struct Annotazione {
     CampiVoce campi;
 };
 
+void LeggiTempo(const QString& testo, CampiVoce& campi) {
+    static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);
+    const QRegularExpressionMatch tempo = forma.match(testo.trimmed());
+    if (!tempo.hasMatch()) throw WrongUsage(u"Il tempo «%1» non è nella forma hh:mm, come 01:30."_s.arg(testo));
+    campi.ore = tempo.captured(1).toInt();
+    campi.minuti = tempo.captured(2).toInt();
+    if (campi.ore > kMassimeOreVisita || campi.minuti % kPassoMinutiVisita != 0) {
+        throw WrongUsage(u"Il tempo «%1» dev'essere da 00:00 a 15:45, in quarti d'ora."_s.arg(testo.trimmed()));
+    }
+}
+
 Annotazione LeggiAnnotazione(const QStringList& argomenti) {
     const auto testo = [&](qsizetype i) { return SenzaBlankInutili(Composto(argomenti.at(i))); };
     Annotazione letta{Maiuscolo(testo(0)), {testo(2), testo(1), 0, 0}};
     if (letta.localita.isEmpty()) throw WrongUsage(u"Manca la località."_s);
-    if (argomenti.size() < 4) return letta;
-    static const QRegularExpression forma(u"^(\\d{1,2}):([0-5]\\d)$"_s);
-    const QRegularExpressionMatch tempo = forma.match(argomenti.at(3).trimmed());
-    if (!tempo.hasMatch()) {
-        throw WrongUsage(u"Il tempo «%1» non è nella forma hh:mm, come 01:30."_s.arg(argomenti.at(3)));
-    }
-    letta.campi.ore = tempo.captured(1).toInt();
-    letta.campi.minuti = tempo.captured(2).toInt();
-    if (letta.campi.ore > kMassimeOreVisita || letta.campi.minuti % kPassoMinutiVisita != 0) {
-        throw WrongUsage(
-            u"Il tempo «%1» dev'essere da 00:00 a 15:45, in quarti d'ora."_s.arg(argomenti.at(3).trimmed()));
-    }
+    if (argomenti.size() > 3) LeggiTempo(argomenti.at(3), letta.campi);
     return letta;
 }
 
@@ -95,23 +96,62 @@ void Aggiungi(const ApriSessione& apri, const Richiesta& richiesta, QTextStream&
     uscita << u"Aggiunta alla guida: %1, %2.\n"_s.arg(nuova.localita, nuova.campi.descrizione);
 }
 
-// A name means itself alone here: with wildcards the first entry of another locality would go.
+[[noreturn]] void RifiutaMancante(const Annotazione& detta) {
+    throw Failure(u"La guida non ha l'annotazione «%1» (%2) di %3."_s.arg(detta.campi.descrizione, detta.campi.tipo,
+                                                                          detta.localita));
+}
+
+// A name means itself alone here: with wildcards the first entry of another locality would be meant.
+VoceGuida TrovaVoce(Archive& archivio, const std::vector<TipoGuida>& tipi, const Annotazione& detta) {
+    const NamePattern localita = NamePattern::Exactly(detta.localita);
+    for (const Record& record : archivio.Select({Table::GuidaCitta, {{guida::Localita, localita}}})) {
+        VoceGuida voce = VoceDelRecord(record, tipi);
+        if (voce.tipo == detta.campi.tipo && voce.descrizione == detta.campi.descrizione) return voce;
+    }
+    RifiutaMancante(detta);
+}
+
 void Togli(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     ControllaArgomenti(richiesta, 3, 3, u"Con --togli si scrive: guida --togli LOCALITA TIPO DESCRIZIONE."_s);
     const Annotazione tolta = LeggiAnnotazione(richiesta.argomenti);
     Sessione sessione = apri();
     Archive& archivio = sessione.Archivio();
-    const std::vector<TipoGuida> tipi = CaricaTipiGuida(archivio);
-    const NamePattern localita = NamePattern::Exactly(tolta.localita);
-    for (const Record& record : archivio.Select({Table::GuidaCitta, {{guida::Localita, localita}}})) {
-        const VoceGuida voce = VoceDelRecord(record, tipi);
-        if (voce.tipo != tolta.campi.tipo || voce.descrizione != tolta.campi.descrizione) continue;
-        if (!CancellaVoce(archivio, localita, voce)) break;
-        uscita << u"Tolta dalla guida: %1, %2.\n"_s.arg(tolta.localita, tolta.campi.descrizione);
-        return;
+    const VoceGuida voce = TrovaVoce(archivio, CaricaTipiGuida(archivio), tolta);
+    if (!CancellaVoce(archivio, NamePattern::Exactly(tolta.localita), voce)) RifiutaMancante(tolta);
+    uscita << u"Tolta dalla guida: %1, %2.\n"_s.arg(tolta.localita, tolta.campi.descrizione);
+}
+
+// The entry with the data of the line in the place of its own.
+CampiVoce CampiCambiati(CampiVoce campi, const QStringList& argomenti) {
+    for (const DatoNominato& dato : DatiNominati(argomenti, 3)) {
+        const QString nome = dato.nome.toLower();
+        if (nome == "tipo"_L1) {
+            campi.tipo = SenzaBlankInutili(Composto(dato.valore));
+        } else if (nome == "descrizione"_L1) {
+            campi.descrizione = SenzaBlankInutili(Composto(dato.valore));
+        } else if (nome == "tempo"_L1 || nome == "tempososta"_L1) {
+            LeggiTempo(dato.valore, campi);
+        } else {
+            throw WrongUsage(u"«%1» non è un dato di un'annotazione: tipo, descrizione o tempo."_s.arg(dato.nome));
+        }
     }
-    throw Failure(u"La guida non ha l'annotazione «%1» (%2) di %3."_s.arg(tolta.campi.descrizione, tolta.campi.tipo,
-                                                                          tolta.localita));
+    return campi;
+}
+
+void Cambia(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    ControllaArgomenti(richiesta, 4, 6,
+                       u"Con --cambia si scrive: guida --cambia LOCALITA TIPO DESCRIZIONE, poi tipo=…, descrizione=… o "
+                       "tempo=hh:mm."_s);
+    const Annotazione detta = LeggiAnnotazione(richiesta.argomenti.first(3));
+    std::ignore = CampiCambiati(detta.campi, richiesta.argomenti);
+    Sessione sessione = apri();
+    const std::vector<TipoGuida> tipi = CaricaTipiGuida(sessione.Archivio());
+    Transaction transaction(sessione.Archivio());
+    const VoceGuida voce = TrovaVoce(sessione.Archivio(), tipi, detta);
+    const CampiVoce campi = CampiCambiati(CampiDellaVoce(voce), richiesta.argomenti);
+    SalvaVoce(sessione.Archivio(), voce.localita, voce, tipi, campi);
+    transaction.Commit();
+    uscita << u"Cambiata nella guida: %1, %2.\n"_s.arg(detta.localita, campi.descrizione);
 }
 
 // The guide of the localities of a trip, each entry once.
@@ -147,6 +187,7 @@ std::vector<Record> RecordDaMostrare(Sessione& sessione, const Richiesta& richie
 
 void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     if (richiesta.opzioni.contains(u"aggiungi"_s)) return Aggiungi(apri, richiesta, uscita);
+    if (richiesta.opzioni.contains(u"cambia"_s)) return Cambia(apri, richiesta, uscita);
     if (richiesta.opzioni.contains(u"togli"_s)) return Togli(apri, richiesta, uscita);
     ControllaMostra(richiesta);
     if (richiesta.opzioni.contains(u"pdf"_s)) return richiesta.stampe.guida(apri, richiesta, uscita);

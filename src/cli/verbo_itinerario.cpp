@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // itinerario.
+#include <QMap>
+#include <algorithm>
 #include <utility>
 
 #include "cli/griglia_testi.h"
 #include "cli/json.h"
 #include "cli/verbi.h"
+#include "itinerary/celle_tappa.h"
 #include "itinerary/itinerari.h"
 
 namespace cronovia {
@@ -27,6 +30,43 @@ std::vector<RigaGriglia> RigheDellItinerario(const MetaAperta& aperta) {
         righe.push_back(TestiDellaTappa(static_cast<int>(i) + 1, aperta.tappe[i], aperta.riepilogo.tappe[i]));
     }
     return righe;
+}
+
+// What others set for the stages stands behind the grid's columns, in as many as are needed.
+TabellaTesti ConVincoli(TabellaTesti tabella, std::span<const Tappa> tappe) {
+    std::vector<CelleTappa> celle;
+    celle.reserve(tappe.size());
+    for (const Tappa& tappa : tappe) celle.push_back(CelleDellaTappa(tappa));
+    for (int cella = cella::Vincoli; cella < kCelle; ++cella) {
+        if (std::none_of(celle.begin(), celle.end(), [&](const CelleTappa& c) { return c.contains(cella); })) continue;
+        tabella.intestazioni += NomiDellaCella(cella).first();
+        for (std::size_t i = 0; i < celle.size(); ++i) tabella.righe[i] += celle[i].value(cella);
+    }
+    return tabella;
+}
+
+// The stored rows as objects; a stage's has what others set for it among its members.
+void ScriviTappe(const std::vector<Record>& record, std::span<const Tappa> tappe, ScrittoreJson& json) {
+    json.ApreArray();
+    auto tappa = tappe.begin();
+    for (const Record& riga : record) {
+        QMap<QString, QString> membri;
+        const std::vector<FieldDefinition>& campi = Definition(Table::Itinerari).fields;
+        for (std::size_t i = 0; i < campi.size(); ++i) membri[campi[i].name] = riga.values[i].trimmed();
+        if (!riga[itinerari::Localita].trimmed().isEmpty() && tappa != tappe.end()) {
+            const std::vector<QString> valori = ValoriDeiVincoli((tappa++)->vincoli.Valore());
+            for (std::size_t i = kPrimoDato; i < valori.size(); ++i) {
+                if (!valori[i].isEmpty()) membri[Definition(Table::Vincoli).fields[i].name] = valori[i];
+            }
+        }
+        json.ApreOggetto();
+        for (auto membro = membri.constBegin(); membro != membri.constEnd(); ++membro) {
+            json.Nome(membro.key());
+            json.Testo(membro.value());
+        }
+        json.ChiudeOggetto();
+    }
+    json.ChiudeArray();
 }
 
 void ScriviTesto(const MetaAperta& aperta, TabellaTesti tabella, const TestiTotali& totali, QTextStream& uscita) {
@@ -54,7 +94,7 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
     if (richiesta.formato == Formato::Testo) {
         ScriviTesto(aperta, tabella, totali, uscita);
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(tabella, uscita);
+        ScriviTsv(ConVincoli(tabella, aperta.tappe), uscita);
     } else {
         ScrittoreJson json(uscita);
         json.ApreOggetto();
@@ -63,7 +103,7 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
         json.Nome(u"righe");
         ScriviRighe(righe, json);
         json.Nome(u"tappe");
-        ScriviRecord(Table::Itinerari, record, json);
+        ScriviTappe(record, aperta.tappe, json);
         json.Nome(u"totali");
         ScriviTotali(totali, json);
         json.ChiudeOggetto();

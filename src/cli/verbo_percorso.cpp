@@ -30,7 +30,7 @@ PercorsoNavigatore Letto(const QString& path) {
 
 void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const PercorsoNavigatore percorso = Letto(richiesta.argomenti.at(1));
     Transaction transaction(sessione.Archivio());  // the trip that was found is the one that gets them
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());

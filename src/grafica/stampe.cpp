@@ -27,7 +27,7 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     const QString path = richiesta.opzioni.value(u"pdf"_s);
     Sessione sessione = apri();
     sessione.RifiutaSeDanneggiato();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
@@ -51,7 +51,7 @@ void ScriviFile(const Stampato& documento, const QString& path, const Richiesta&
     sessione.RifiutaSeDanneggiato();
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
     file.Chiudi();
@@ -69,7 +69,7 @@ void StampaLeGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTex
     const QString path = FileScelto(richiesta);
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
     if (dati.giorni.empty()) throw Failure(u"Niente da stampare: l'itinerario non ha ancora tappe."_s);
@@ -91,7 +91,7 @@ void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Sessione sessione = apri();
     const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
     if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     ScriviFile(StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress), path,
                richiesta, sessione, uscita);
 }

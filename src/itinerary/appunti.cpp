@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "interaction/failure.h"
-#include "store/schema.h"
+#include "itinerary/celle_tappa.h"
 
 namespace cronovia {
 
@@ -16,134 +16,62 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class Cella { Tappa, Strada, Km, Tipo, Sosta };
-constexpr std::size_t kCelle = 5;
-
-constexpr int kMassimoKmDiRiga = 999;
+constexpr std::array<int, 5> kColonneAppunti = {cella::Localita, cella::Strada, cella::Km, cella::Tipo, cella::Sosta};
 constexpr QStringView kInizioFormula = u"=+-@";
-constexpr QStringView kDaIndicare = u"da indicare";
 
-// The first name is the one that is written.
-const std::array<QStringList, kCelle>& Nomi() {
-    static const std::array<QStringList, kCelle> nomi = {{
-        {u"Tappa"_s, u"Località"_s, u"Localita"_s},
-        {u"Num. Strada"_s, u"Strada"_s, u"N.Strada"_s, u"N.Str"_s},
-        {u"Km."_s, u"Km"_s, u"Distanza"_s},
-        {u"Ts"_s, u"Tipo strada"_s, u"Tipo"_s},
-        {u"Sosta"_s, u"Itinerario"_s},
-    }};
-    return nomi;
-}
-
-QString Protetta(QString cella) {
-    for (QChar& c : cella) {
+QString Protetta(QString testo) {
+    for (QChar& c : testo) {
         if (c.category() == QChar::Other_Control) c = u' ';
     }
-    return !cella.isEmpty() && kInizioFormula.contains(cella.front()) ? u'\'' + cella : cella;
+    return !testo.isEmpty() && kInizioFormula.contains(testo.front()) ? u'\'' + testo : testo;
 }
 
-QString Letta(QString cella) {
-    cella = cella.trimmed();
-    if (cella.size() > 1 && cella.startsWith(u'"') && cella.endsWith(u'"')) {
-        cella = cella.mid(1, cella.size() - 2).replace(u"\"\""_s, u"\""_s).trimmed();
+QString CellaIncollata(QString testo) {
+    testo = testo.trimmed();
+    if (testo.size() > 1 && testo.startsWith(u'"') && testo.endsWith(u'"')) {
+        testo = testo.mid(1, testo.size() - 2).replace(u"\"\""_s, u"\""_s).trimmed();
     }
-    const bool protetta = cella.size() > 1 && cella.front() == u'\'' && kInizioFormula.contains(cella[1]);
-    return protetta ? cella.mid(1) : cella;
+    return SenzaProtezione(testo);
 }
 
-QStringList Celle(const QString& riga) {
+QStringList CelleIncollate(const QString& riga) {
     QStringList celle;
-    for (const QString& cella : riga.split(u'\t')) celle += Letta(cella);
+    for (const QString& testo : riga.split(u'\t')) celle += CellaIncollata(testo);
     return celle;
 }
 
-// Where each cell stands in a line; nothing where there is no such column.
-using Disposizione = std::array<std::optional<qsizetype>, kCelle>;
+// Which cell stands in which column of a line; nothing where a column is of no stage.
+using Disposizione = std::vector<std::optional<int>>;
 
 std::optional<Disposizione> LeggiIntestazione(const QStringList& celle) {
-    Disposizione posti;
-    for (std::size_t i = 0; i < kCelle; ++i) {
-        for (const QString& nome : Nomi()[i]) {
-            for (qsizetype colonna = 0; !posti[i] && colonna < celle.size(); ++colonna) {
-                if (celle[colonna].compare(nome, Qt::CaseInsensitive) == 0) posti[i] = colonna;
-            }
-        }
+    Disposizione colonne;
+    for (const QString& nome : celle) {
+        const std::optional<int> cella = CellaDiNome(nome);
+        const bool gia = std::find(colonne.begin(), colonne.end(), cella) != colonne.end();
+        colonne.push_back(gia ? std::nullopt : cella);
     }
-    return posti[static_cast<std::size_t>(Cella::Tappa)] ? std::optional(posti) : std::nullopt;
+    const bool conTappa =
+        std::find(colonne.begin(), colonne.end(), std::optional<int>(cella::Localita)) != colonne.end();
+    return conTappa ? std::optional(colonne) : std::nullopt;
 }
 
-// One line of the text, whose faults are told with its number.
-class RigaDegliAppunti {
-  public:
-    RigaDegliAppunti(const QStringList& celle, const Disposizione& posti, int numero)
-        : celle_(celle), posti_(posti), numero_(numero) {}
-
-    [[nodiscard]] Tappa Letta(bool prima) const {
-        Tappa tappa;
-        tappa.localita = Nome(Cella::Tappa, itinerari::Localita, 1);
-        if (tappa.localita.isEmpty()) Rifiuta(u"manca la località"_s);
-        tappa.numStrada = Nome(Cella::Strada, itinerari::NomeStrada, 0);
-        MettiSosta(tappa);
-        MettiKm(tappa, prima);
-        MettiTipo(tappa);
-        return tappa;
+Tappa LeggiRigaIncollata(const QStringList& celle, const Disposizione& colonne, int numero, bool prima) {
+    CelleTappa della;
+    for (std::size_t i = 0; i < colonne.size(); ++i) {
+        if (colonne[i]) della[*colonne[i]] = celle.value(static_cast<qsizetype>(i));
     }
-
-  private:
-    [[nodiscard]] QString Testo(Cella cella) const {
-        const auto& posto = posti_[static_cast<std::size_t>(cella)];
-        return posto ? celle_.value(*posto) : QString();
+    try {
+        return LeggiTappa(della, Scritte::DaAltri, prima);
+    } catch (const CellaRifiutata& rifiutata) {
+        throw Failure(u"Non si può incollare: riga %1, %2."_s.arg(QString::number(numero), rifiutata.perche));
     }
-    [[noreturn]] void Rifiuta(const QString& perche) const {
-        throw Failure(u"Non si può incollare: riga %1, %2."_s.arg(numero_).arg(perche));
-    }
-    // A locality is stored one character shorter than its field.
-    [[nodiscard]] QString Nome(Cella cella, itinerari::Field campo, int meno) const {
-        QString nome = Testo(cella).normalized(QString::NormalizationForm_C).toUpper();
-        const int larghezza = Width(Table::Itinerari, campo) - meno;
-        if (nome.size() > larghezza) Rifiuta(u"«%1» ha più di %2 caratteri"_s.arg(nome).arg(larghezza));
-        return nome;
-    }
-    void MettiSosta(Tappa& tappa) const {
-        static const QRegularExpression forma(u"^(\\*?)(?:(\\d{1,2}):(\\d{1,2}):(\\d{2}))?$"_s);
-        const QString testo = Testo(Cella::Sosta);
-        const auto trovata = forma.match(testo);
-        if (!trovata.hasMatch() || trovata.captured(3).toInt() > 23 || trovata.captured(4).toInt() > 59) {
-            Rifiuta(u"la sosta «%1» non è scritta come gg:hh:mm"_s.arg(testo));
-        }
-        tappa.fineGiorno = !trovata.captured(1).isEmpty();
-        tappa.sosta = {trovata.captured(2).toInt(), trovata.captured(3).toInt(), trovata.captured(4).toInt()};
-    }
-    void MettiKm(Tappa& tappa, bool prima) const {
-        const QString testo = Testo(Cella::Km);
-        const bool taciuti = testo.isEmpty() && !prima && tappa.SenzaSosta() && !tappa.Traghetto();
-        tappa.kmDaIndicare = taciuti || testo.compare(kDaIndicare, Qt::CaseInsensitive) == 0;
-        if (tappa.kmDaIndicare || testo.isEmpty()) return;
-        bool numero = false;
-        tappa.km = testo.toInt(&numero);
-        if (!numero || tappa.km < 0 || tappa.km > kMassimoKmDiRiga) {
-            Rifiuta(u"i chilometri «%1» non sono un numero da 0 a %2"_s.arg(testo).arg(kMassimoKmDiRiga));
-        }
-    }
-    void MettiTipo(Tappa& tappa) const {
-        const QString testo = Testo(Cella::Tipo).left(1).toUpper();
-        if (!testo.isEmpty() && !LeggiTipoStrada(testo)) {
-            Rifiuta(u"il tipo di strada «%1» non è A, S, P o L"_s.arg(Testo(Cella::Tipo)));
-        }
-        const bool conStrada = tappa.km > 0 || tappa.kmDaIndicare;
-        if (conStrada) tappa.tipo = testo.isEmpty() ? TipoStrada::Locale : LeggiTipoStrada(testo);
-    }
-
-    const QStringList& celle_;
-    const Disposizione& posti_;
-    int numero_;
-};
+}
 
 }  // namespace
 
 QString TestoPerAppunti(std::span<const Tappa> righe) {
     QStringList intestazione;
-    for (const QStringList& nomi : Nomi()) intestazione += nomi.first();
+    for (const int cella : kColonneAppunti) intestazione += NomiDellaCella(cella).first();
     QStringList testo = {intestazione.join(u'\t')};
     for (const Tappa& tappa : righe) {
         if (tappa.localita.trimmed().isEmpty()) continue;
@@ -159,20 +87,20 @@ QString TestoPerAppunti(std::span<const Tappa> righe) {
 }
 
 RigheItinerario LeggiAppunti(const QString& testo) {
-    Disposizione posti = {0, 1, 2, 3, 4};
+    Disposizione colonne(kColonneAppunti.begin(), kColonneAppunti.end());
     RigheItinerario tappe;
     int numero = 0;
     bool prima = true;
     for (const QString& riga : testo.split(QRegularExpression(u"\r\n|\r|\n"_s))) {
         ++numero;
         if (riga.trimmed().isEmpty()) continue;
-        const QStringList celle = Celle(riga);
+        const QStringList celle = CelleIncollate(riga);
         const std::optional<Disposizione> intestazione = prima ? LeggiIntestazione(celle) : std::nullopt;
         prima = false;
         if (intestazione) {
-            posti = *intestazione;
+            colonne = *intestazione;
         } else {
-            tappe.push_back(RigaDegliAppunti(celle, posti, numero).Letta(tappe.empty()));
+            tappe.push_back(LeggiRigaIncollata(celle, colonne, numero, tappe.empty()));
         }
     }
     if (tappe.empty()) throw Failure(u"Non si può incollare: negli appunti non ci sono tappe."_s);

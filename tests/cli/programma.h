@@ -2,6 +2,7 @@
 // The program as a process, with a data folder of its own.
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QProcess>

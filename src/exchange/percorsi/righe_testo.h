@@ -25,6 +25,7 @@ class RigheTesto {
 
     /// The line: any blank or control character but Tab is one blank, letters are composed. Empty when it is too long.
     [[nodiscard]] const QString& Testo() const { return testo_; }
+    [[nodiscard]] bool TroppoLunga() const { return righe_.TroppoLunga(); }
 
   private:
     std::unique_ptr<QIODevice> utf8_;  // the device's UTF-16 as UTF-8

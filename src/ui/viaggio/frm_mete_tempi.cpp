@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "calendar/testo.h"
+#include "trips/limiti_parametri.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -17,24 +18,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Orario {
-    Centesimi ParametriViaggio::*campo;
-    int primaOra;
-    int ultimaOra;
-    const char16_t* istruzione;
+// By the place of an hour in `kLimitiOrari`.
+constexpr std::array<const char16_t*, kLimitiOrari.size()> kIstruzioniOrari = {
+    u"Ora in cui comincia la giornata, dopo colazione",
+    u"Ora del pranzo",
+    u"Ora della cena",
+    u"Ora in cui ci si ferma per la notte",
+    u"Durata del pranzo",
+    u"Durata della cena",
+    u"Ora in cui cominciano le visite",
+    u"Ora in cui finiscono le visite",
+    u"Tempo medio di un traghetto",
 };
 
-constexpr std::array<Orario, FrmMeteTempi::kOrari> kVociOrario = {{
-    {&ParametriViaggio::oraColazione, 0, 11, u"Ora in cui comincia la giornata, dopo colazione"},
-    {&ParametriViaggio::oraPranzo, 11, 15, u"Ora del pranzo"},
-    {&ParametriViaggio::oraCena, 18, 21, u"Ora della cena"},
-    {&ParametriViaggio::oraNotte, 20, 24, u"Ora in cui ci si ferma per la notte"},
-    {&ParametriViaggio::durataPranzo, 0, 2, u"Durata del pranzo"},
-    {&ParametriViaggio::durataCena, 0, 2, u"Durata della cena"},
-    {&ParametriViaggio::inizioVisita, 0, 11, u"Ora in cui cominciano le visite"},
-    {&ParametriViaggio::fineVisita, 16, 24, u"Ora in cui finiscono le visite"},
-    {&ParametriViaggio::oreTraghetti, 1, 24, u"Tempo medio di un traghetto"},
-}};
+QStringList NumeriDiRiposo() {
+    QStringList numeri;
+    for (const int minuti : kMinutiDiRiposo) numeri += Zero(minuti, 2);
+    return numeri;
+}
 
 }  // namespace
 
@@ -60,8 +61,8 @@ FrmMeteTempi::FrmMeteTempi(Azioni& azioni) : QGroupBox(u"Tempi tecnici giornalie
 
 void FrmMeteTempi::AggiungiOrario(QGridLayout& layout, std::size_t orario, int riga, int colonna,
                                   const QString& etichetta) {
-    const Orario& dati = kVociOrario[orario];
-    const QString istruzione = QString::fromUtf16(dati.istruzione);
+    const LimitiOrario& dati = kLimitiOrari[orario];
+    const QString istruzione = QString::fromUtf16(kIstruzioniOrari[orario]);
     const auto indice = static_cast<int>(orario);
     cmbOra_[orario] =
         NuovoElenco(NomeDiSerie(u"cmbOra"_s, indice), Numeri(dati.primaOra, dati.ultimaOra, 2), istruzione);
@@ -95,11 +96,11 @@ QComboBox* FrmMeteTempi::CreaRiposo(const QString& nome, const QStringList& voci
 }
 
 void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
-    cmbRipM_ = CreaRiposo(u"cmbRipM"_s, {u"00"_s, u"05"_s, u"10"_s, u"15"_s, u"20"_s, u"30"_s, u"45"_s, u"60"_s},
-                          u"Minuti di un breve riposo"_s);
-    cmbRipH_ = CreaRiposo(u"cmbRipH"_s, Numeri(0, 8, 2), u"Ore di guida dopo le quali si riposa"_s);
-    cmbRipG_ = CreaRiposo(u"cmbRipG"_s, Numeri(0, 5, 2), u"Giorni interi di riposo"_s);
-    cmbRipGG_ = CreaRiposo(u"cmbRipGG"_s, Numeri(0, 10, 2), u"Giorni di viaggio dopo i quali si riposa"_s);
+    cmbRipM_ = CreaRiposo(u"cmbRipM"_s, NumeriDiRiposo(), u"Minuti di un breve riposo"_s);
+    cmbRipH_ = CreaRiposo(u"cmbRipH"_s, Numeri(0, kMassimeOreTraRiposi, 2), u"Ore di guida dopo le quali si riposa"_s);
+    cmbRipG_ = CreaRiposo(u"cmbRipG"_s, Numeri(0, kMassimiGiorniDiRiposo, 2), u"Giorni interi di riposo"_s);
+    cmbRipGG_ =
+        CreaRiposo(u"cmbRipGG"_s, Numeri(0, kMassimiGiorniTraRiposi, 2), u"Giorni di viaggio dopo i quali si riposa"_s);
     layout.addWidget(NuovaScritta(u"Riposi"_s), 0, 5, 1, 2);
     const std::array<std::pair<QComboBox*, QString>, 4> righe = {
         {{cmbRipM_, u"minuti"_s}, {cmbRipH_, u"ogni h"_s}, {cmbRipG_, u"giorni"_s}, {cmbRipGG_, u"ogni gg"_s}}};
@@ -130,7 +131,7 @@ bool FrmMeteTempi::OrarioInCorso() const {
 
 void FrmMeteTempi::Mostra(const ParametriViaggio& parametri) {
     for (std::size_t i = 0; i < kOrari; ++i) {
-        const QString orario = TestoOrario(parametri.*kVociOrario[i].campo);
+        const QString orario = TestoOrario(parametri.*kLimitiOrari[i].valore);
         MostraVoce(*cmbOra_[i], orario.left(2));
         MostraVoce(*cmbMin_[i], orario.right(2));
     }
@@ -142,7 +143,7 @@ void FrmMeteTempi::Mostra(const ParametriViaggio& parametri) {
 
 void FrmMeteTempi::Leggi(ParametriViaggio& parametri) const {
     for (std::size_t i = 0; i < kOrari; ++i) {
-        parametri.*kVociOrario[i].campo = LeggiOrario(cmbOra_[i]->currentText() + cmbMin_[i]->currentText());
+        parametri.*kLimitiOrari[i].valore = LeggiOrario(cmbOra_[i]->currentText() + cmbMin_[i]->currentText());
     }
     parametri.riposoMinuti = cmbRipM_->currentText().toInt();
     parametri.riposoOre = cmbRipH_->currentText().toInt();

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The fields of a trip by their names, as people read and type them.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "trips/meta.h"
+
+namespace cronovia {
+
+/// A field of a trip: "OraPranzo" and "12:30".
+struct DatoMeta {
+    QString nome;
+    QString valore;
+};
+
+/// All but the code, in the order of the table, then when one has to be home: hours as "hh:mm", dates as "dd/mm/yyyy".
+std::vector<DatoMeta> DatiDellaMeta(const Meta& meta);
+
+/// The trip with that field changed; its hours are not put in order. A `Failure` names the field, and what it can be,
+/// when there is none of that name, or it cannot be that. The two fields of being home go by one at a time: the hour is
+/// told before its day, or with none the end of that day is meant; an empty text takes both away.
+Meta ConDato(Meta meta, const DatoMeta& dato);
+
+}  // namespace cronovia
