@@ -5,12 +5,14 @@
 #include <utility>
 
 #include "app/comandi_inserimento.h"
+#include "app/niente_perso.h"
 
 namespace cronovia::comandi {
 
 using namespace Qt::StringLiterals;
 
 void Duplica(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     const RigheItinerario& righe = p.documento.Righe();
     int riga = std::min(p.documento.RigaCorrente(), NumeroTappe(righe));
     while (riga > 1 && righe[static_cast<std::size_t>(riga - 1)].localita.isEmpty()) --riga;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comandi_inserimento.h"
 
+#include <algorithm>
 #include <utility>
 #include "app/cartella_dati.h"
 
@@ -92,9 +93,14 @@ void Itinerario(Postazione& p) {
     p.schermata = NuovoInserimento(p.documento);
 }
 
-void SelezionaRiga(Postazione& p, int riga) {
+bool SelezionaRiga(Postazione& p, int riga) {
+    const auto* inserimento = p.TappaInScrittura();
+    const int libera = NumeroTappe(p.documento.Righe()) + 1;
+    const bool altra = inserimento != nullptr && std::clamp(riga, 1, libera) != inserimento->riga;
+    if (altra && !TappaNonPersa(p)) return false;
     p.documento.SelezionaRiga(riga);
     SegueLaRiga(p);
+    return true;
 }
 
 bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga) {
@@ -121,6 +127,7 @@ void Inserisce(Postazione& p) {
 }
 
 void Aggiunge(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     const int riga = p.documento.RigaCorrente();
     Modifica(p, u"apertura di una riga"_s, InserisciRigheItinerario(p.documento.Righe(), riga, 1), riga);
 }
@@ -132,6 +139,7 @@ void Cancella(Postazione& p) {
 }
 
 void AzzeraSoste(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     if (!p.ChiedeSePerdere(u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
                            "I tempi traghetto e riposi non sono influenzati e la\n"
                            "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s +
@@ -143,6 +151,7 @@ void AzzeraSoste(Postazione& p) {
 }
 
 void Ritorno(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     ItinerarioConTratto esito = cronovia::Ritorno(p.documento.Righe());
     if (!esito.trovata) {
         p.Mostra(u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s);
@@ -151,6 +160,7 @@ void Ritorno(Postazione& p) {
 }
 
 void Trasferisce(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     if (!p.ChiedeSePerdere(u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
                            "I tempi traghetto e riposi non sono influenzati e la\n"
                            "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s +
@@ -169,6 +179,7 @@ void Trasferisce(Postazione& p) {
 
 void AltriPacchetti(Postazione& p) {
     if (NumeroTappe(p.documento.Righe()) > 0) return p.Mostra(CiSonoTappe());
+    if (!TappaNonPersa(p)) return;
     const QString path = p.volti.scegliFile(FileChiesto::Percorso);
     if (path.isEmpty()) return;
     std::optional<PercorsoNavigatore> percorso;
@@ -185,7 +196,10 @@ void Cerca(Postazione& p) {
     if (auto* inserimento = p.Su<schermata::Inserimento>()) inserimento->elencoTappe = true;
 }
 
-void ScegliTappa(Postazione& p, int riga) { SelezionaRiga(p, riga); }
+void ScegliTappa(Postazione& p, int riga) {
+    if (auto* inserimento = p.Su<schermata::Inserimento>()) inserimento->elencoTappe = false;
+    SelezionaRiga(p, riga);
+}
 
 void Memorizza(Postazione& p) {
     const QString titolo = u"Salvataggio itinerario"_s;

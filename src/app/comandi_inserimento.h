@@ -11,8 +11,8 @@ namespace cronovia::comandi {
 
 /// Opens the entry of stages.
 void Itinerario(Postazione& p);
-/// Goes to a row, counted from 1.
-void SelezionaRiga(Postazione& p, int riga);
+/// Goes to a row, counted from 1, unless the person wants to stay at the stage that is being typed: false then.
+bool SelezionaRiga(Postazione& p, int riga);
 /// The entry fields follow the row: what is being typed stays, unless another stage has come into it.
 void SegueLaRiga(Postazione& p);
 

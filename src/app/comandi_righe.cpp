@@ -7,6 +7,7 @@
 
 #include "app/comandi_cronovia.h"
 #include "app/comandi_inserimento.h"
+#include "app/niente_perso.h"
 #include "itinerary/appunti.h"
 #include "itinerary/spostamenti.h"
 #include "schedule/giorni_itinerario.h"
@@ -78,6 +79,7 @@ std::optional<Tratto> GiornoVicino(const Postazione& p, int giornata, int passo)
 }
 
 void Sposta(Postazione& p, int passo) {
+    if (!TappaNonPersa(p)) return;
     if (const auto* cronovia = p.Su<schermata::Cronovia>()) return SpostaGiornata(p, cronovia->giornata, passo);
     const Tratto scelte = RigheScelte(p);
     const int dove = passo < 0 ? scelte.da - 1 : scelte.a + 2;
@@ -106,25 +108,34 @@ Tratto RigheScelte(const Postazione& p) {
 void SceglieFino(Postazione& p, int riga) {
     const auto* prima = p.Su<schermata::Inserimento>();
     const int ancora = prima == nullptr || prima->ancora == 0 ? p.documento.RigaCorrente() : prima->ancora;
-    SelezionaRiga(p, riga);
+    if (!SelezionaRiga(p, riga)) return;
     if (auto* inserimento = p.Su<schermata::Inserimento>()) inserimento->ancora = ancora;
 }
 
 void SpostaSu(Postazione& p) { Sposta(p, -1); }
 void SpostaGiu(Postazione& p) { Sposta(p, 1); }
 
-void DuplicaScelte(Postazione& p) { Duplica(p, Scelto(p)); }
-void TogliScelte(Postazione& p) { Toglie(p, Scelto(p)); }
-void DuplicaGiornata(Postazione& p, int giornata) { Duplica(p, TappeDelGiorno(p, giornata)); }
-void TogliGiornata(Postazione& p, int giornata) { Toglie(p, TappeDelGiorno(p, giornata)); }
+void DuplicaScelte(Postazione& p) {
+    if (TappaNonPersa(p)) Duplica(p, Scelto(p));
+}
+void TogliScelte(Postazione& p) {
+    if (p.Su<schermata::Inserimento>() || TappaNonPersa(p)) Toglie(p, Scelto(p));
+}
+void DuplicaGiornata(Postazione& p, int giornata) {
+    if (TappaNonPersa(p)) Duplica(p, TappeDelGiorno(p, giornata));
+}
+void TogliGiornata(Postazione& p, int giornata) {
+    if (TappaNonPersa(p)) Toglie(p, TappeDelGiorno(p, giornata));
+}
 
 void SpostaPrimaDi(Postazione& p, Tratto righe, int dove) {
-    if (!SiPuoCambiare(p)) return;
+    if (!SiPuoCambiare(p) || !TappaNonPersa(p)) return;
     const RigheItinerario& prima = p.documento.Righe();
     Concludi(p, u"spostamento di "_s + NomeDi(prima, righe), SpostaRighe(prima, righe, dove));
 }
 
 void SpostaGiornata(Postazione& p, int giornata, int passo) {
+    if (!TappaNonPersa(p)) return;
     const auto tratto = TappeDelGiorno(p, giornata);
     const auto vicino = GiornoVicino(p, giornata, passo);
     if (!tratto || !vicino) return;
@@ -133,6 +144,7 @@ void SpostaGiornata(Postazione& p, int giornata, int passo) {
 }
 
 void SpostaGiornataPrimaDi(Postazione& p, int giornata, int altra) {
+    if (!TappaNonPersa(p)) return;
     const auto tratto = TappeDelGiorno(p, giornata);
     if (!tratto || altra == giornata || altra == giornata + 1) return;
     const auto prima = GiornoVicino(p, altra - 1, 1);
@@ -146,6 +158,7 @@ const Tappa* TappaFinale(const Postazione& p, int giornata) {
 }
 
 void FineGiornata(Postazione& p, int giornata) {
+    if (!TappaNonPersa(p)) return;
     const auto riga = Giorni(p).RigaFinale(giornata);
     if (!riga || !SiPuoCambiare(p)) {
         return p.Mostra(u"Nel giorno %1 non si raggiunge nessuna tappa in cui fermarsi."_s.arg(giornata + 1));
@@ -184,6 +197,7 @@ void Taglia(Postazione& p) {
 }
 
 void Incolla(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     const QString testo = p.volti.leggiAppunti();
     p.Prova([&] {
         const bool proprie = !testo.isEmpty() && testo == p.copiate.testo;
@@ -209,6 +223,7 @@ void OrariENote(Postazione& p) {
 }
 
 void DividiTappaCorrente(Postazione& p) {
+    if (!TappaNonPersa(p)) return;
     const RigheItinerario& righe = p.documento.Righe();
     const int riga = p.documento.RigaCorrente();
     const auto posto = static_cast<std::size_t>(riga - 1);

@@ -245,13 +245,13 @@ void SalvaAltrove(Postazione& p) {
 }
 
 void Annulla(Postazione& p) {
-    if (!p.DaAnnullare() || !VoceNonPersa(p)) return;
+    if (!p.DaAnnullare() || !VoceNonPersa(p) || !TappaNonPersa(p)) return;
     p.Prova([&] { p.documento.Modifiche().Annulla(*p.AmbitoInVista()); });
     Segue(p);
 }
 
 void Ripeti(Postazione& p) {
-    if (!p.DaRipetere() || !VoceNonPersa(p)) return;
+    if (!p.DaRipetere() || !VoceNonPersa(p) || !TappaNonPersa(p) || !p.DaRipetere()) return;
     p.Prova([&] { p.documento.Modifiche().Ripeti(*p.AmbitoInVista()); });
     Segue(p);
 }

@@ -210,6 +210,22 @@ bool VoceNonPersa(Postazione& p) {
     return risposta == Answer::Yes ? SalvaVoceScritta(p, *tavolo) : risposta == Answer::No;
 }
 
+bool TappaNonPersa(Postazione& p) {
+    if (ConTappaScritta(p) == nullptr) return true;
+    const Answer risposta = ChiedeSeSalvare(p, {TappaNonInserita(p.documento, *ConTappaScritta(p))});
+    const schermata::Inserimento* scritta = ConTappaScritta(p);
+    if (risposta == Answer::Cancel || scritta == nullptr) return risposta != Answer::Cancel;
+    const int riga = scritta->riga;
+    const int ancora = scritta->ancora;
+    const bool davanti = scritta == p.Su<schermata::Inserimento>();
+    if (risposta == Answer::Yes && !InserisciScritta(p, *scritta)) return false;
+    p.documento.SelezionaRiga(riga);  // what follows is about the row that it was given in
+    auto* inserimento = p.TappaInScrittura();
+    *inserimento = comandi::NuovoInserimento(p.documento);
+    inserimento->ancora = ancora;
+    return davanti || risposta == Answer::No;
+}
+
 std::optional<Salvataggio> DecideSalvataggio(Postazione& p, const QString& mancato) {
     std::optional<Salvataggio> deciso;
     if (p.Prova([&] { deciso = p.documento.DecidiSalvataggio(); }, mancato)) return deciso;

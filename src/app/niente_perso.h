@@ -23,6 +23,9 @@ namespace cronovia {
 void Rinuncia(Postazione& p);
 /// As `NientePerso`, for the entry of the guide alone, before another one comes into the fields.
 [[nodiscard]] bool VoceNonPersa(Postazione& p);
+/// The same for the stage that is being typed, before another row or another itinerary comes under it: on No it is
+/// dropped. False too where it was typed under a schedule and has been inserted: its days may be others now.
+[[nodiscard]] bool TappaNonPersa(Postazione& p);
 
 /// Asks whether to save the fields. A new trip that would take the place of a stored one: names that, and presets No.
 [[nodiscard]] bool Confermato(Postazione& p, const Salvataggio& salvataggio);

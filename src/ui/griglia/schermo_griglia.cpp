@@ -38,8 +38,14 @@ void SchermoGriglia::Collega() {
     connect(vista_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
         DiceLaCorrente();
         if (postazione_.documento.Calcolata() || postazione_.Su<schermata::Guida>()) return;
-        esegui_([&] { comandi::SelezionaRiga(postazione_, riga + 1); });
+        const auto vai = [this, riga] { esegui_([&] { comandi::SelezionaRiga(postazione_, riga + 1); }); };
+        QualcosaDaChiedere() ? vista_->DopoIlMouse(vai) : vai();
     });
+}
+
+bool SchermoGriglia::QualcosaDaChiedere() const {
+    const auto* inserimento = postazione_.Su<schermata::Inserimento>();
+    return inserimento != nullptr && inserimento->campi != inserimento->letti;
 }
 
 // Where stages can be changed; the rows keep the keyboard.

@@ -49,6 +49,7 @@ class SchermoGriglia : public QObject, public Schermo {
 
   private:
     void Collega();
+    [[nodiscard]] bool QualcosaDaChiedere() const;
     void DistendiRighe();
     void DistendiDaIndicare();
     [[nodiscard]] const GiorniItinerario& Giorni();

@@ -6,10 +6,12 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <span>
+#include <utility>
 
 #include "itinerary/elenco_guida.h"
 #include "schedule/colonne.h"
@@ -148,14 +150,31 @@ bool VistaGriglia::CambiaConTasto(const QKeyEvent& event) {
 
 // The sign stands at the beginning of the line.
 void VistaGriglia::mousePressEvent(QMouseEvent* event) {
+    attesa_ = nullptr;
     const QModelIndex index = indexAt(event->pos());
     if (diTappe_ && index.isValid() && event->button() == Qt::LeftButton && event->modifiers() == Qt::ShiftModifier) {
         Q_EMIT SceltaFino(index.row());
         return;
     }
+    mouseTiene_ = true;
     QTableView::mousePressEvent(event);
     if (!index.data(kRuoloLinea).toBool() || event->button() != Qt::LeftButton) return;
     if (event->pos().x() < visualRect(index).left() + kLarghezzaSegno) Q_EMIT Piega(index.row(), std::nullopt);
+}
+
+void VistaGriglia::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    mouseTiene_ = false;
+    if (attesa_) QTimer::singleShot(0, this, &VistaGriglia::FaLAttesa);
+}
+
+void VistaGriglia::DopoIlMouse(std::function<void()> azione) {
+    attesa_ = std::move(azione);
+    if (!mouseTiene_) QTimer::singleShot(0, this, &VistaGriglia::FaLAttesa);
+}
+
+void VistaGriglia::FaLAttesa() {
+    if (const auto azione = std::exchange(attesa_, nullptr)) azione();
 }
 
 void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* event) {

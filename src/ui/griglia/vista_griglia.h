@@ -4,6 +4,7 @@
 
 #include <QTableView>
 #include <array>
+#include <functional>
 #include <map>
 #include <optional>
 
@@ -25,6 +26,10 @@ class VistaGriglia : public QTableView {
     /// Shows the guide, with columns of its own; shows stages and schedules again.
     void MostraGuida(QAbstractItemModel& guida);
     void MostraTappe(QAbstractItemModel& tappe);
+
+    /// Does something when the mouse has let the row go, at once when it holds none: a box that comes up while it is
+    /// held would have the row selected again afterwards.
+    void DopoIlMouse(std::function<void()> azione);
 
     /// Hides a column, whose room the others take; shows it again.
     void NascondiColonna(int colonna, bool nascosta);
@@ -50,6 +55,7 @@ class VistaGriglia : public QTableView {
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -65,11 +71,14 @@ class VistaGriglia : public QTableView {
     void AzzeraLarghezze();
     [[nodiscard]] LarghezzeScelte& Proprie() { return proprie_[diGuida_ ? 1 : 0]; }
     void Scambia(QAbstractItemModel& modello);
+    void FaLAttesa();
 
     bool diTappe_ = false;
     bool inAdattamento_ = false;
     bool inSelezione_ = false;
     bool diGuida_ = false;
+    bool mouseTiene_ = false;
+    std::function<void()> attesa_;            // until it has let the row go
     std::array<LarghezzeScelte, 2> proprie_;  // that the person chose, of stages and of the guide
 };
 

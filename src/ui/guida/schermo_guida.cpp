@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <utility>
 
 #include "app/comandi_guida.h"
@@ -33,11 +32,12 @@ SchermoGuida::SchermoGuida(Postazione& postazione, Azioni& azioni, VistaGriglia&
 }
 
 void SchermoGuida::Collega() {
-    griglia_.viewport()->installEventFilter(this);
     connect(&griglia_, &VistaGriglia::RigaCorrente, this, [this](int riga) {
         if (!CampiCambiati()) return VaiAllaRiga(riga + 1);
-        rigaAttesa_ = riga + 1;
-        if (!mouseTiene_) QTimer::singleShot(0, this, &SchermoGuida::VaiAllaRigaAttesa);
+        griglia_.DopoIlMouse([this, riga] {
+            VaiAllaRiga(riga + 1);
+            if (CampiCambiati() || !griglia_.hasFocus()) Fuoco();
+        });
     });
     connect(&griglia_, &QTableView::clicked, this, &SchermoGuida::Fuoco);
     connect(&elenco_, &ElencoScelta::Scelta, this, [this](const QVariant& riga) {
@@ -80,21 +80,6 @@ bool SchermoGuida::FuocoDopo(Comando comando, bool appenaAperto) {
 void SchermoGuida::FuocoSulCampoMancante() {
     const auto difetto = DifettoDellaVoce(Tavolo()->Tipi(), riquadro_->Campi());
     riquadro_->FuocoSulCampo(difetto ? difetto->campo : guida::Descrizione);
-}
-
-// A question waits until the mouse has let the row go: the grid would select it afterwards.
-bool SchermoGuida::eventFilter(QObject* oggetto, QEvent* evento) {
-    if (evento->type() == QEvent::MouseButtonPress) mouseTiene_ = true;
-    if (evento->type() == QEvent::MouseButtonRelease) {
-        mouseTiene_ = false;
-        if (rigaAttesa_) QTimer::singleShot(0, this, &SchermoGuida::VaiAllaRigaAttesa);
-    }
-    return QObject::eventFilter(oggetto, evento);
-}
-
-void SchermoGuida::VaiAllaRigaAttesa() {
-    if (const auto riga = std::exchange(rigaAttesa_, std::nullopt)) VaiAllaRiga(*riga);
-    if (CampiCambiati() || !griglia_.hasFocus()) Fuoco();
 }
 
 void SchermoGuida::Comanda(const std::function<void(TavoloGuida&)>& comando) {

@@ -30,7 +30,6 @@ class SchermoGuida : public QObject, public Schermo {
     bool Mostra(int righeMinime);
     bool FuocoDopo(Comando comando, bool appenaAperto) override;
     bool Tasto(const QKeyEvent& tasto) override;
-    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
   private:
     void Collega();
@@ -38,7 +37,6 @@ class SchermoGuida : public QObject, public Schermo {
     [[nodiscard]] const TavoloGuida* Tavolo() const;
     void Comanda(const std::function<void(TavoloGuida&)>& comando);
     void VaiAllaRiga(int riga);
-    void VaiAllaRigaAttesa();
     void MostraElenco(const TavoloGuida& tavolo);
     void ChiudiElenco();
     void Abilita(const TavoloGuida& tavolo);
@@ -59,8 +57,6 @@ class SchermoGuida : public QObject, public Schermo {
     FrmGuida* riquadro_;
     ModelloGuida modello_;
     std::optional<Mostrato> mostrato_;  // what was last put into the fields
-    std::optional<int> rigaAttesa_;     // gone to once the mouse has let it go
-    bool mouseTiene_ = false;
 };
 
 }  // namespace cronovia

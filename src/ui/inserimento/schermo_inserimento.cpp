@@ -189,8 +189,15 @@ void SchermoInserimento::FuocoDopoInserisce() {
     FuocoSullaTappa();
 }
 
+// What is being typed and would be refused is put right first.
 void SchermoInserimento::FuocoSullaTappa() {
-    if (postazione_.InInserimento()) riquadro_->FuocoSullaTappa();
+    if (!postazione_.InInserimento()) return;
+    const schermata::Inserimento& inserimento = *postazione_.TappaInScrittura();
+    CampiTappa campi = inserimento.campi;
+    campi.km = comandi::KmInseriti(postazione_, campi);
+    const bool conLuogo = inserimento.campi != inserimento.letti && !campi.localita.isEmpty();
+    const bool daCorreggere = conLuogo && !ControllaTappa(campi, inserimento.riga).empty();
+    daCorreggere ? riquadro_->FuocoSuiKm() : riquadro_->FuocoSullaTappa();
 }
 
 }  // namespace cronovia
