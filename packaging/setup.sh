@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages that a task needs and this machine lacks; silent when nothing is missing.
-#   packaging/setup.sh TASK...    TASK is one of: build test check package bench fuzz
+#   packaging/setup.sh TASK...    TASK is one of: build test check package pictures bench fuzz
 set -eu
 
 packages_for() {
@@ -10,6 +10,7 @@ packages_for() {
         test) echo libgtest-dev libgmock-dev libical-dev libxml2-utils poppler-utils tidy ;;
         check) echo clang-format clang-tidy python3 ;;
         package) echo dpkg-dev lintian desktop-file-utils appstream mandoc debootstrap ;;
+        pictures) echo xvfb openbox xdotool imagemagick ;;
         bench) echo libbenchmark-dev sqlite3 ;;
         fuzz) echo clang libclang-rt-14-dev ;;
         *) fail "setup.sh: there is no task \"$1\"" ;;

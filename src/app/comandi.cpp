@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comandi.h"
 
+#include "app/comandi_aiuto.h"
 #include "app/comandi_archivio.h"
 #include "app/comandi_copia.h"
 #include "app/comandi_cronovia.h"
@@ -55,6 +56,9 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      Menu::Nessuno, kMeteScelte, &comandi::ImExp},
     {Comando::FineScambio, u"cmdImExp_1", u"&Fine", nullptr, u"", u"Rinuncia all'import-export in corso", Menu::Nessuno,
      kScambio, &comandi::FineScambio},
+    {Comando::Preferenze, u"cmdPreferenze", u"Preferenze", u"Pre&ferenze…", u"Ctrl+,",
+     u"Sceglie grandezza dei testi, colori, calcolo dal vivo e cartella portatile", Menu::File,
+     kVuota | kNuova | kAperta, &comandi::Preferenze, true},
     {Comando::Esce, u"cmdEsce", u"&Esce", nullptr, u"Ctrl+Q", u"Esce dal form", Menu::File,
      kVuota | kNuova | kAperta | kElencoMete | kCorsa, &comandi::Esce, true},
     {Comando::Annulla, u"cmdAnnulla", u"Annulla", nullptr, u"Ctrl+Z", u"Annulla l'ultima modifica", Menu::Modifica,
@@ -169,8 +173,12 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      u"Mostra sullo schermo le pagine della guida", Menu::Nessuno, kSceltaStampaGuida, &comandi::Anteprima},
     {Comando::RinunciaStampaGuida, u"cmdStampaGuida_1", u"&Rinuncia", nullptr, u"", u"Rinuncia alla stampa",
      Menu::Nessuno, kSceltaStampaGuida, &comandi::RinunciaStampa},
+    {Comando::Manuale, u"cmdManuale", u"Manuale", u"&Manuale", u"F1", u"Apre il manuale a ciò che hai davanti",
+     Menu::Aiuto, kLibera, &comandi::Manuale},
+    {Comando::Tasti, u"cmdTasti", u"Tasti", u"&Tasti", u"", u"Elenca i tasti di tutti i comandi", Menu::Aiuto, kLibera,
+     &comandi::Tasti},
     {Comando::Informazioni, u"cmdInformazioni", u"Informazioni", u"Informazioni su &Cronovia", u"",
-     u"Versione del programma, e dove sono i tuoi dati", Menu::Aiuto, kLibera, &comandi::Informazioni, true},
+     u"Versione del programma, licenze, e dove sono i tuoi dati", Menu::Aiuto, kLibera, &comandi::Informazioni, true},
 }};
 
 constexpr bool InOrdine() {

@@ -127,6 +127,19 @@ void ApriFile(Postazione& p, const QString& file) {
     p.volti.scegliFile = chiede;
 }
 
+void ApriEsempio(Postazione& p, const QString& file) {
+    if (!p.SenzaMete()) return;
+    EsitoImport esito;
+    const QString aperta = p.documento.Codice();
+    const bool importate = p.MentreCorre([&] {
+        esito = ImportaMete({p.sessione.Archivio(), file, {}}, p.volti.avanzamento);
+    });
+    if (!importate || esito.interrotta) return;
+    p.documento.Modifiche().Ricorda(PassoImport(p, QFileInfo(file).fileName(), esito.traccia, aperta));
+    p.Prova([&] { Torna(p); });
+    ScegliMeta(p, esito.ultimaMeta);
+}
+
 void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& comando) {
     if (auto* scambio = p.Su<schermata::Scambio>(); scambio != nullptr && !p.InCorsa()) comando(scambio->tavolo);
 }

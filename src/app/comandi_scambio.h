@@ -13,6 +13,9 @@ void Import(Postazione& p);
 /// The import of a file that came from outside; refused where an import cannot be begun.
 void ApriFile(Postazione& p, const QString& file);
 
+/// Takes the trips of an example, without a question, while there is none yet; the last of them is open then.
+void ApriEsempio(Postazione& p, const QString& file);
+
 /// Does something on the screen; nothing while a run is on.
 void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& comando);
 /// Move all trips of one list behind those of the other.

@@ -256,12 +256,4 @@ void Ripeti(Postazione& p) {
     Segue(p);
 }
 
-void Informazioni(Postazione& p) {
-    p.Mostra(
-        u"Cronovia %1\n\nI tuoi dati sono in:\n%2\n\nLuoghi: GeoNames (geonames.org), licenza CC BY 4.0.\n"
-        "Coste e confini: Natural Earth, di pubblico dominio."_s.arg(QCoreApplication::applicationVersion(),
-                                                                     QDir::toNativeSeparators(p.sessione.Cartella())),
-        u"Informazioni su Cronovia"_s, Icon::Information);
-}
-
 }  // namespace cronovia::comandi

@@ -46,7 +46,4 @@ void SalvaAltrove(Postazione& p);
 void Annulla(Postazione& p);
 void Ripeti(Postazione& p);
 
-/// Tells which program this is, and where its data lies.
-void Informazioni(Postazione& p);
-
 }  // namespace cronovia::comandi

@@ -51,6 +51,8 @@ struct Volti {
     std::function<std::optional<Meta>(const Meta& meta)> chiediRientro = {};
     /// Which of them, from 0; nothing when the person wants none.
     std::function<std::optional<std::size_t>(const std::vector<Alternativa>&)> scegliAlternativa = {};
+    std::function<void(const QString& argomento)> manuale = {};  ///< opens it at the chapter of that heading
+    std::function<void()> preferenze = {};                       ///< asks for them and takes them over
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.

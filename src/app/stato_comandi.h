@@ -30,6 +30,7 @@ enum class Comando {
     ScambiaTutteDaSeconda,
     ImExp,
     FineScambio,
+    Preferenze,
     Esce,
     // Modifica
     Annulla,
@@ -87,6 +88,8 @@ enum class Comando {
     AnteprimaGuida,
     RinunciaStampaGuida,
     // Aiuto
+    Manuale,
+    Tasti,
     Informazioni
 };
 inline constexpr std::size_t kComandi = static_cast<std::size_t>(Comando::Informazioni) + 1;

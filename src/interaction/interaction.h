@@ -7,7 +7,7 @@
 namespace cronovia {
 
 /// The picture beside the text of a box.
-enum class Icon { None, Information, Exclamation };
+enum class Icon { None, Information, Exclamation, Programma };
 
 /// A box with text and an OK button. Without a title, the face puts the program's name.
 struct Message {

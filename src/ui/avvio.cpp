@@ -2,8 +2,12 @@
 #include "ui/avvio.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QSettings>
 #include <QTimer>
 #include <QTranslator>
 #include <cstdio>
@@ -14,6 +18,7 @@
 #include "app/rimedi.h"
 #include "calendar/testo.h"
 #include "interaction/failure.h"
+#include "ui/aiuto/preferenze.h"
 #include "ui/archivio/frm_copie.h"
 #include "ui/comuni/finestra_unica.h"
 #include "ui/comuni/interazione_finestra.h"
@@ -52,6 +57,16 @@ std::unique_ptr<FormMete> Apri(const QString& dati) {
     }
 }
 
+// As the person chose them when the window was open last; what is no file is not read.
+void ApplicaPreferenze(const QString& dati) {
+    const QString file = QDir(dati).filePath(u"Cronovia.ini"_s);
+    if (!QFileInfo(file).isFile()) return;
+    const QSettings aspetto(file, QSettings::IniFormat);
+    const Preferenze preferenze = LeggiPreferenze(aspetto);
+    ApplicaTesto(preferenze);
+    if (preferenze.colori != Colori::ComeIlSistema) ApplicaColori(preferenze);
+}
+
 }  // namespace
 
 int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString& file) {
@@ -60,6 +75,8 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
     qInstallMessageHandler(nullptr);
     QCoreApplication::setApplicationName(u"Cronovia"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(CRONOVIA_VERSION));
+    QGuiApplication::setDesktopFileName(u"it.cronovia.Cronovia"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/icone/cronovia.svg"_s));
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     QTranslator italiano;
     if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -69,6 +86,7 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
         const QString dati = CartellaDati(LuoghiDellaPiattaforma(cartella));
         FinestraUnica unica;
         if (unica.Consegna(dati, file)) return 0;
+        ApplicaPreferenze(dati);
         const std::unique_ptr<FormMete> form = Apri(dati);
         if (form == nullptr) return 1;
         QObject::connect(&unica, &FinestraUnica::Richiamata, form.get(), &FormMete::Richiama);

@@ -13,8 +13,10 @@
 #include <QHeaderView>
 #include <QPointer>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSessionManager>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -43,6 +45,9 @@ namespace {
 
 // Of the places of panels and bars: another number, and those remembered before are passed over.
 constexpr int kVersioneAspetto = 1;
+
+// Of the window at its first start.
+constexpr QSize kMisura(1280, 800);
 
 // As wide as the frames of the desktops are at most.
 constexpr QMargins kCornice(8, 40, 8, 8);
@@ -129,7 +134,14 @@ void FormMete::Disponi() {
     layout->addWidget(areaGriglia_, 1);
     layout->addWidget(&scambio_.Riquadro(), 1);
     layout->addWidget(bottoni_);
-    setCentralWidget(centro);
+    // With large texts it may be larger than the screen: then it is moved beneath the window.
+    const int larghezza = std::max(screen()->availableSize().width(), kMisura.width());
+    if (centro->minimumSizeHint().width() <= larghezza) return setCentralWidget(centro);
+    auto* scorre = new QScrollArea;
+    scorre->setWidgetResizable(true);
+    scorre->setFrameShape(QFrame::NoFrame);
+    scorre->setWidget(centro);
+    setCentralWidget(scorre);
 }
 
 // The grid takes the room that is left; the lists lie over it, the entry frame beside it.
@@ -149,6 +161,7 @@ QWidget* FormMete::CreaAreaGriglia() {
     layout->setColumnStretch(0, 1);
     cmbRicercaTappa_->setMinimumWidth(340);
     CreaStampe(*layout);
+    CreaBenvenuto(*layout);
     return area;
 }
 
@@ -161,8 +174,35 @@ void FormMete::CreaStampe(QGridLayout& area) {
     area.addWidget(stampante_, 0, 0, Qt::AlignCenter);
 }
 
+void FormMete::CreaBenvenuto(QGridLayout& area) {
+    benvenuto_ = new Benvenuto;
+    area.addWidget(benvenuto_, 0, 0, 2, 2);
+    connect(benvenuto_, &Benvenuto::NuovoViaggio, &azioni_.Di(Comando::Nuovo), &QAction::trigger);
+    connect(benvenuto_, &Benvenuto::Importa, &azioni_.Di(Comando::Import), &QAction::trigger);
+    connect(benvenuto_, &Benvenuto::Esempio, this, [this](const QString& file) {
+        Esegui([&] { comandi::ApriEsempio(postazione_, file); });
+        griglia_.Vista().setFocus();
+    });
+}
+
+void FormMete::ApriManuale(const QString& argomento) {
+    if (manuale_ == nullptr) manuale_ = new FinestraManuale(*this);
+    manuale_->VaiA(argomento);
+}
+
+void FormMete::ScegliPreferenze() {
+    Preferenze preferenze = LeggiPreferenze(aspetto_);
+    preferenze.dalVivo = dalVivo_->isChecked();
+    if (!ChiediPreferenze(preferenze, QCoreApplication::applicationDirPath(), *this)) return;
+    RicordaPreferenze(preferenze, aspetto_);
+    ApplicaColori(preferenze);
+    dalVivo_->setChecked(preferenze.dalVivo);
+}
+
 // What stands in menus beside the commands.
 void FormMete::CompletaMenu() {
+    postazione_.volti.manuale = [this](const QString& argomento) { ApriManuale(argomento); };
+    postazione_.volti.preferenze = [this] { ScegliPreferenze(); };
     for (const Comando comando :
          {Comando::Annulla, Comando::Ripeti, Comando::Taglia, Comando::Copia, Comando::Incolla, Comando::DuplicaRighe,
           Comando::TogliRighe, Comando::SpostaSu, Comando::SpostaGiu, Comando::DividiTappa, Comando::FineGiornata}) {
@@ -170,13 +210,14 @@ void FormMete::CompletaMenu() {
     }
     azioni_.MenuDi(Menu::Vista).addActions(griglia_.Vista().horizontalHeader()->actions());
     QMenu& aiuto = azioni_.MenuDi(Menu::Aiuto);
-    QAction* informazioni = aiuto.actions().constFirst();
+    QAction* informazioni = &azioni_.Di(Comando::Informazioni);
     for (const Istruzioni& istruzioni : TutteLeIstruzioni()) {
         auto* azione = new QAction(istruzioni.titolo, this);
         azione->setObjectName(u'h' + istruzioni.pulsante.mid(4));
         connect(azione, &QAction::triggered, this, [this, istruzioni] { MostraIstruzioni(istruzioni, *this); });
         aiuto.insertAction(informazioni, azione);
     }
+    aiuto.insertSeparator(informazioni);
 }
 
 // Grid and panel follow each other's current row.
@@ -449,6 +490,7 @@ void FormMete::Mostra() {
     MostraScritta(*avviso_, avviso);
     avviso_->setVisible(!avviso.isEmpty());
     areaGriglia_->setVisible(!postazione_.Su<schermata::Scambio>());
+    benvenuto_->setVisible(postazione_.SenzaMete());
     bottoni_->Mostra(postazione_.ConverteOfferto());
     stampa_->Mostra();
     stampaGuida_->Mostra();
@@ -485,7 +527,7 @@ void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
 void FormMete::RipristinaAspetto() {
     // The frame that the desktop puts around it has its place within the screen too.
     const QRect schermo = screen()->availableGeometry().marginsRemoved(kCornice);
-    resize(QSize(1280, 800).boundedTo(schermo.size()));
+    resize(kMisura.boundedTo(schermo.size()));
     move(schermo.topLeft() - QPoint(kCornice.left(), kCornice.top()));
     restoreGeometry(aspetto_.value(u"finestra"_s).toByteArray());
     restoreState(aspetto_.value(u"pannelli"_s).toByteArray(), kVersioneAspetto);

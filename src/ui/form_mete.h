@@ -8,6 +8,9 @@
 #include <array>
 #include <functional>
 
+#include "ui/aiuto/benvenuto.h"
+#include "ui/aiuto/finestra_manuale.h"
+#include "ui/aiuto/preferenze.h"
 #include "ui/comuni/avanzamento.h"
 #include "ui/comuni/azioni.h"
 #include "ui/comuni/elenco_scelta.h"
@@ -72,6 +75,9 @@ class FormMete : public QMainWindow {
     void CreaStampe(QGridLayout& area);
     void CreaGiornate();
     void CreaMappa();
+    void CreaBenvenuto(QGridLayout& area);
+    void ApriManuale(const QString& argomento);
+    void ScegliPreferenze();
     void CompletaMenu();
     void Collega();
     void Raccogli();
@@ -118,6 +124,8 @@ class FormMete : public QMainWindow {
     ComandoStampaGuida* stampaGuida_ = nullptr;
     PannelloGiornate* giornate_ = nullptr;
     PannelloMappa* mappa_ = nullptr;
+    Benvenuto* benvenuto_ = nullptr;
+    FinestraManuale* manuale_ = nullptr;  // made when it is opened first
     QAction* dalVivo_ = new QAction(QStringLiteral("Calcolo &dal vivo"), this);
     QTimer attesaDalVivo_;  // until what is typed has been taken over
     QList<Pannello*> pannelli_;

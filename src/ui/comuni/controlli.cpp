@@ -69,15 +69,26 @@ class SenzaAlt : public QObject {
     }
 };
 
+// Some desktops have boxes delete with keys that are commands here; whoever wants a command loses no text.
+bool CancellaPerAbitudine(const QKeyEvent& tasto) {
+    return tasto.matches(QKeySequence::DeleteCompleteLine) ||
+           (tasto.matches(QKeySequence::Delete) && tasto.modifiers() == Qt::ControlModifier);
+}
+
 // A box would keep the keys of undo to itself, even with nothing of its own to undo.
 class AnnullaDellaFinestra : public QObject {
   public:
     using QObject::QObject;
 
     bool eventFilter(QObject* oggetto, QEvent* evento) override {
-        if (evento->type() != QEvent::ShortcutOverride) return false;
+        if (evento->type() != QEvent::ShortcutOverride && evento->type() != QEvent::KeyPress) return false;
         const auto& casella = *qobject_cast<QLineEdit*>(oggetto);
         const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+        if (CancellaPerAbitudine(tasto)) {
+            evento->ignore();
+            return true;
+        }
+        if (evento->type() == QEvent::KeyPress) return false;
         const bool annulla = tasto.matches(QKeySequence::Undo) && !casella.isUndoAvailable();
         const bool ripeti = tasto.matches(QKeySequence::Redo) && !casella.isRedoAvailable();
         if (annulla || ripeti) evento->ignore();

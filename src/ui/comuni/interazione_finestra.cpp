@@ -2,6 +2,7 @@
 #include "ui/comuni/interazione_finestra.h"
 
 #include <QCoreApplication>
+#include <QIcon>
 #include <QPushButton>
 
 #include "ui/comuni/testo_mostrato.h"
@@ -21,6 +22,7 @@ QMessageBox::Icon Icona(Icon icon) {
         case Icon::Exclamation:
             return QMessageBox::Warning;
         case Icon::None:
+        case Icon::Programma:
             break;
     }
     return QMessageBox::NoIcon;
@@ -41,7 +43,9 @@ QMessageBox::StandardButton Bottone(Answer answer) {
 }  // namespace
 
 void InterazioneFinestra::Show(const Message& message) {
-    Box(Icona(message.icon), Titolo(message.title), message.text, QMessageBox::Ok, &finestra_).exec();
+    Box box(Icona(message.icon), Titolo(message.title), message.text, QMessageBox::Ok, &finestra_);
+    if (message.icon == Icon::Programma) box.setIconPixmap(QIcon(u":/icone/cronovia.svg"_s).pixmap(64));
+    box.exec();
 }
 
 bool InterazioneFinestra::ShowUndoable(const Message& message, const QString& caption) {

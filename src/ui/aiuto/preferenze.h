@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How a person wants the program to be; kept beside the archive.
+#pragma once
+
+#include <QSettings>
+#include <QString>
+
+class QWidget;
+
+namespace cronovia {
+
+enum class Colori { ComeIlSistema, Chiari, Scuri };
+
+struct Preferenze {
+    bool dalVivo = false;  ///< the schedule is computed anew after each change
+    int testo = 100;       ///< size of all texts, in per cent of the desktop's; from the next start on
+    Colori colori = Colori::ComeIlSistema;
+};
+
+/// What is kept, within the limits of what can be chosen.
+Preferenze LeggiPreferenze(const QSettings& aspetto);
+void RicordaPreferenze(const Preferenze& preferenze, QSettings& aspetto);
+
+/// Gives the program its size of text, before its window is made.
+void ApplicaTesto(const Preferenze& preferenze);
+void ApplicaColori(const Preferenze& preferenze);
+
+/// Asks for them over the window, and for whether the data goes with the program: `programma` is its folder. False when
+/// the person leaves all as it is.
+bool ChiediPreferenze(Preferenze& preferenze, const QString& programma, QWidget& finestra);
+
+}  // namespace cronovia

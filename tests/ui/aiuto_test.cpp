@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The manual as the program shows it; preferences as they are kept.
+#include <gtest/gtest.h>
+
+#include <QListWidget>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include "app/comandi_aiuto.h"
+#include "support/prova.h"
+#include "ui/aiuto/finestra_manuale.h"
+#include "ui/aiuto/preferenze.h"
+
+namespace cronovia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// A chapter that was renamed, or a picture that was not taken along, would be missed by whoever needs it first.
+TEST(Manuale, HasAChapterForEachScreenAndAllItsPictures) {
+    QWidget finestra;
+    FinestraManuale manuale(finestra);
+    auto& testo = *manuale.findChild<QTextBrowser*>();
+    for (const QString& argomento : ArgomentiDelManuale()) {
+        manuale.VaiA(argomento);
+        EXPECT_EQ(testo.textCursor().block().text(), argomento);
+        EXPECT_EQ(manuale.findChild<QListWidget*>()->currentItem()->text(), argomento);
+    }
+    EXPECT_TRUE(testo.toPlainText().contains(u"Calcola la cronovia del viaggio"_s)) << "the keys";
+    int immagini = 0;
+    for (QTextBlock blocco = testo.document()->begin(); blocco.isValid(); blocco = blocco.next()) {
+        for (auto pezzo = blocco.begin(); !pezzo.atEnd(); ++pezzo) {
+            const QTextImageFormat formato = pezzo.fragment().charFormat().toImageFormat();
+            if (!formato.isValid()) continue;
+            ++immagini;
+            const QUrl nome(formato.name());
+            EXPECT_FALSE(testo.document()->resource(QTextDocument::ImageResource, nome).isNull())
+                << formato.name().toStdString();
+        }
+    }
+    EXPECT_GT(immagini, 2);
+}
+
+// A text of 9,999 per cent would leave no way back to the dialog.
+TEST(Preferenze, AreKeptAndReadWithinLimits) {
+    const QTemporaryDir cartella;
+    QSettings aspetto(cartella.filePath(u"Cronovia.ini"_s), QSettings::IniFormat);
+    RicordaPreferenze({true, 150, Colori::Scuri}, aspetto);
+    Preferenze lette = LeggiPreferenze(aspetto);
+    EXPECT_TRUE(lette.dalVivo && lette.testo == 150 && lette.colori == Colori::Scuri);
+    aspetto.setValue(u"testo"_s, 9999);
+    aspetto.setValue(u"colori"_s, -3);
+    lette = LeggiPreferenze(aspetto);
+    EXPECT_EQ(lette.testo, 200);
+    EXPECT_EQ(lette.colori, Colori::ComeIlSistema);
+}
+
+}  // namespace
+}  // namespace cronovia
