@@ -14,6 +14,26 @@ add_custom_command(
 add_custom_target(cronovia_pagina_manuale ALL DEPENDS "${manual_page}")
 install(FILES "${manual_page}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 
+# What shells complete, told by the program itself.
+if(UNIX AND NOT APPLE)
+  set(completion_bash "bash-completion/completions/cronovia")
+  set(completion_zsh "zsh/vendor-completions/_cronovia")
+  set(completion_fish "fish/vendor_completions.d/cronovia.fish")
+  foreach(shell bash zsh fish)
+    set(completion "${CMAKE_BINARY_DIR}/completamento/${completion_${shell}}")
+    get_filename_component(completion_folder "${completion_${shell}}" DIRECTORY)
+    file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/completamento/${completion_folder}")
+    add_custom_command(
+      OUTPUT "${completion}"
+      COMMAND cronovia completamento ${shell} > "${completion}"
+      DEPENDS cronovia
+      VERBATIM)
+    list(APPEND completions "${completion}")
+    install(FILES "${completion}" DESTINATION "${CMAKE_INSTALL_DATADIR}/${completion_folder}")
+  endforeach()
+  add_custom_target(cronovia_completamento ALL DEPENDS ${completions})
+endif()
+
 # How a desktop shows the program and its exchange files.
 if(UNIX AND NOT APPLE)
   set(CRONOVIA_ID it.cronovia.Cronovia)
