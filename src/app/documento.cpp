@@ -38,10 +38,10 @@ void Documento::Metti(const Meta& campi, RigheItinerario righe) {
 }
 
 void Documento::MettiTappe(RigheItinerario righe) {
+    cronovia_.reset();
+    Decade();  // the last schedule was that of the stages so far
     righe_ = std::move(righe);
     caricate_ = righe_;
-    cronovia_.reset();
-    Decade();
     rigaCorrente_ = 1;
     storia_.Dimentica(Ambito::Viaggio);
     RicalcolaTempi();
