@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files of navigators made of anything. What must hold for each: nothing crashes, every point is one of this world, and
-// the stages are those that an itinerary can hold.
+// Files of navigators, and tables of places to stay, made of anything. What must hold for each: nothing crashes, every
+// point is one of this world, and the stages are those that an itinerary can hold.
 #include <QBuffer>
 #include <cmath>
 
 #include "archivio_di_prova.h"
+#include "calendar/testo.h"
 #include "exchange/navigatori/importa_navigatore.h"
+#include "exchange/soste/lettore_soste.h"
 #include "interaction/failure.h"
 
 namespace {
@@ -13,6 +15,14 @@ namespace {
 using namespace cronovia;
 
 void PretendiPosizione(const Posizione& p) { Pretendi(std::abs(p.latitudine) <= 90 && std::abs(p.longitudine) <= 180); }
+
+void PretendiSoste(QIODevice& device) {
+    device.seek(0);
+    for (const SostaLetta& sosta : LeggiTabellaSoste(device, {})) {
+        PretendiPosizione(sosta.posizione);
+        for (const QString& testo : {sosta.nome, sosta.tipo, sosta.note}) Pretendi(!HaCaratteriDiControllo(testo));
+    }
+}
 
 }  // namespace
 
@@ -22,7 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
     Pretendi(buffer.open(QIODevice::ReadOnly));
     try {
         const auto file = LeggiNavigatore(buffer, {});
-        if (!file) return 0;
+        if (!file) {
+            PretendiSoste(buffer);
+            return 0;
+        }
         for (const Posizione& punto : file->traccia) PretendiPosizione(punto);
         Gazzettino nessuno{QString()};
         const PercorsoNavigatore percorso = TappeDelNavigatore(*file, nessuno);

@@ -1,11 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comandi_guida.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
+#include "app/comandi_scambio.h"
 #include "app/niente_perso.h"
 
 namespace cronovia::comandi {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What would become of the places of a file; nothing when the person stopped it, or knows why it cannot be read.
+std::optional<std::vector<SostaProposta>> SosteDelFile(Postazione& p, const QString& file) {
+    std::optional<std::vector<SostaProposta>> soste;
+    const bool lette = p.MentreCorre([&] {
+        soste = ProponiSoste(p.sessione.Archivio(), p.luoghi.Repertorio(), LeggiSoste(file), p.volti.avanzamento);
+    });
+    if (lette && !soste) p.Mostra(u"Lettura delle soste interrotta."_s);
+    return soste;
+}
+
+}  // namespace
 
 void GuidaCitta(Postazione& p) {
     p.Prova([&] {
@@ -61,6 +79,24 @@ void FineGuida(Postazione& p) {
         p.documento.RileggiVisite();  // what is typed in the trip's fields stays
         p.MettiSchermoDelViaggio();
     });
+}
+
+void ImportaSoste(Postazione& p) {
+    const QString file = p.volti.scegliFile(FileChiesto::Soste);
+    if (file.isEmpty()) return;
+    const auto soste = SosteDelFile(p, file);
+    if (!soste) return;
+    p.volti.mostra();
+    if (!p.volti.confermaSoste(*soste) || SosteNuove(*soste) == 0) return;
+    TracciaImport traccia;
+    if (!p.MentreScrive({}, [&] { traccia = AggiungiSoste(p.sessione.Archivio(), *soste); })) return;
+    Storia& storia = p.documento.Modifiche();
+    storia.Ricorda(PassoImport(p, QFileInfo(file).fileName(), traccia, p.documento.Codice()));
+    p.volti.mostra();
+    const Message fine{ConteggioSoste(*soste, true), {}, Icon::Information};
+    if (p.volti.interazione.ShowUndoable(fine, u"Annulla importazione"_s)) {
+        p.Prova([&] { storia.Annulla(Ambito::Archivio); });
+    }
 }
 
 }  // namespace cronovia::comandi

@@ -22,4 +22,7 @@ void CancellaRigaGuida(Postazione& p);
 /// Asks the same. The itinerary comes back as it is stored, with the visits that the guide now has.
 void FineGuida(Postazione& p);
 
+/// Adds the places to stay of a file that the person names to the guide, after showing what would become of them.
+void ImportaSoste(Postazione& p);
+
 }  // namespace cronovia::comandi

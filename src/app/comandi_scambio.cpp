@@ -26,34 +26,6 @@ void Torna(Postazione& p) {
     p.VaiAlViaggio();
 }
 
-Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia, const QString& aperta) {
-    const auto disfa = [&p, file, traccia, aperta](const Passo& passo) -> std::optional<Passo> {
-        Archive& archivio = p.sessione.Archivio();
-        TracciaImport fatta = traccia;
-        fatta.stato = *passo.archivio;
-        const bool intatto = archivio.PresentMark() == fatta.stato;
-        try {
-            AnnullaImport(archivio, fatta);
-        } catch (const Failure& failure) {
-            if (intatto) throw;  // it can be tried again, unless the archive is another one by now
-            throw PassoPerduto(failure.Message());
-        }
-        if (CaricaMeta(archivio, p.documento.Codice())) {
-            p.documento.RileggiVisite();  // what is typed in the trip's fields stays
-        } else if (!p.documento.Modificato()) {
-            if (CaricaMeta(archivio, aperta)) p.documento.Apri(aperta);
-            p.VaiAlViaggio();
-        } else {
-            p.documento.DiventaNuova();
-            p.MettiSchermoDelViaggio();
-        }
-        p.volti.mostra();
-        p.Mostra(u"L'importazione di %1 è stata annullata."_s.arg(file), {}, Icon::Information);
-        return std::nullopt;
-    };
-    return {u"importazione di %1"_s.arg(file), Ambito::Archivio, disfa, traccia.stato};
-}
-
 void Esporta(Postazione& p, const TavoloScambio& tavolo) {
     const QString file = p.volti.scegliFile(FileChiesto::Export);
     if (file.isEmpty()) return;
@@ -90,6 +62,34 @@ void Importa(Postazione& p, const TavoloScambio& tavolo) {
 }
 
 }  // namespace
+
+Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia, const QString& aperta) {
+    const auto disfa = [&p, file, traccia, aperta](const Passo& passo) -> std::optional<Passo> {
+        Archive& archivio = p.sessione.Archivio();
+        TracciaImport fatta = traccia;
+        fatta.stato = *passo.archivio;
+        const bool intatto = archivio.PresentMark() == fatta.stato;
+        try {
+            AnnullaImport(archivio, fatta);
+        } catch (const Failure& failure) {
+            if (intatto) throw;  // it can be tried again, unless the archive is another one by now
+            throw PassoPerduto(failure.Message());
+        }
+        if (CaricaMeta(archivio, p.documento.Codice())) {
+            p.documento.RileggiVisite();  // what is typed in the trip's fields stays
+        } else if (!p.documento.Modificato()) {
+            if (CaricaMeta(archivio, aperta)) p.documento.Apri(aperta);
+            p.VaiAlViaggio();
+        } else {
+            p.documento.DiventaNuova();
+            p.MettiSchermoDelViaggio();
+        }
+        p.volti.mostra();
+        p.Mostra(u"L'importazione di %1 è stata annullata."_s.arg(file), {}, Icon::Information);
+        return std::nullopt;
+    };
+    return {u"importazione di %1"_s.arg(file), Ambito::Archivio, disfa, traccia.stato};
+}
 
 void Export(Postazione& p) {
     if (!NullaInSospeso(p)) return;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/postazione.h"
+#include "exchange/iei/annulla_import.h"
 
 namespace cronovia::comandi {
 
@@ -26,6 +27,9 @@ void ScambiaTutteDaSeconda(Postazione& p);
 void ImExp(Postazione& p);
 /// Leaves the screen with nothing done. No trip is open afterwards.
 void FineScambio(Postazione& p);
+
+/// The step of an import from a file that has just been done, while that trip was open.
+Passo PassoImport(Postazione& p, const QString& file, const TracciaImport& traccia, const QString& aperta);
 
 /// Brings over the earlier release's data, after a question.
 void Converte(Postazione& p);

@@ -15,12 +15,13 @@
 #include "app/rimedi.h"
 #include "app/schermate.h"
 #include "app/stato_comandi.h"
+#include "exchange/soste/importa_soste.h"
 #include "interaction/interaction.h"
 
 namespace cronovia {
 
 /// Which file a command asks for.
-enum class FileChiesto { Import, Export, Percorso, Cartella };
+enum class FileChiesto { Import, Export, Percorso, Cartella, Soste };
 
 /// A place on the way to a stage, and its kilometres from where that leg begins.
 struct Divisione {
@@ -51,6 +52,8 @@ struct Volti {
     std::function<std::optional<Meta>(const Meta& meta)> chiediRientro = {};
     /// Which of them, from 0; nothing when the person wants none.
     std::function<std::optional<std::size_t>(const std::vector<Alternativa>&)> scegliAlternativa = {};
+    /// Shows what would become of the places of a file; whether the new ones are to be added.
+    std::function<bool(const std::vector<SostaProposta>& soste)> confermaSoste = {};
     std::function<void(const QString& argomento)> manuale = {};  ///< opens it at the chapter of that heading
     std::function<void()> preferenze = {};                       ///< asks for them and takes them over
 };

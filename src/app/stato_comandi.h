@@ -84,6 +84,7 @@ enum class Comando {
     CercaInGuida,
     StampaGuida,
     FineGuida,
+    ImportaSoste,
     ScegliStampanteGuida,
     AnteprimaGuida,
     RinunciaStampaGuida,

@@ -4,10 +4,12 @@
 #include <map>
 #include <tuple>
 
+#include "app/cartella_dati.h"
 #include "calendar/testo.h"
 #include "cli/json.h"
 #include "cli/record_testi.h"
 #include "cli/verbi.h"
+#include "exchange/soste/importa_soste.h"
 #include "guide/annotazioni.h"
 #include "interaction/failure.h"
 #include "itinerary/elenco_guida.h"
@@ -79,6 +81,7 @@ void ControllaMostra(const Richiesta& richiesta) {
     if (richiesta.argomenti.size() > massimo) {
         throw WrongUsage(u"Il verbo «guida» non vuole l'argomento «%1»."_s.arg(richiesta.argomenti.at(massimo)));
     }
+    if (richiesta.opzioni.contains(u"prova"_s)) throw WrongUsage(u"L'opzione --prova vale solo con --importa."_s);
     for (const QString& nome : {u"dettaglio"_s, u"sovrascrivi"_s}) {
         if (!pdf && richiesta.opzioni.contains(nome)) {
             throw WrongUsage(u"L'opzione --%1 vale solo con --pdf."_s.arg(nome));
@@ -183,12 +186,68 @@ std::vector<Record> RecordDaMostrare(Sessione& sessione, const Richiesta& richie
     return sessione.Archivio().Select(ricerca, {guida::Localita, guida::CodiceGuida, guida::Descrizione});
 }
 
+TabellaTesti TabellaDelleSoste(const std::vector<SostaProposta>& soste) {
+    TabellaTesti tabella{{u"Località"_s, u"Tipo"_s, u"Descrizione"_s, u"Esito"_s}, {}, {}};
+    for (const SostaProposta& sosta : soste) {
+        tabella.righe.push_back({sosta.localita, sosta.tipo, sosta.descrizione, Testo(sosta.segno)});
+    }
+    return tabella;
+}
+
+void ScriviSoste(const std::vector<SostaProposta>& soste, ScrittoreJson& json) {
+    json.ApreArray();
+    for (const SostaProposta& sosta : soste) {
+        json.ApreOggetto();
+        const auto campo = [&](QStringView nome, const QString& testo) {
+            json.Nome(nome);
+            json.Testo(testo);
+        };
+        campo(u"descrizione", sosta.descrizione);
+        campo(u"esito", Testo(sosta.segno));
+        campo(u"localita", sosta.localita);
+        campo(u"tipo", sosta.tipo);
+        json.ChiudeOggetto();
+    }
+    json.ChiudeArray();
+}
+
+// Counts, for people behind the list when nothing is done; other programs get the list either way.
+void ScriviEsito(const std::vector<SostaProposta>& soste, bool prova, Formato formato, QTextStream& uscita) {
+    const TabellaTesti tabella = TabellaDelleSoste(soste);
+    if (formato == Formato::Tsv) return ScriviTsv(tabella, uscita);
+    if (formato == Formato::Json) {
+        ScrittoreJson json(uscita);
+        return ScriviSoste(soste, json);
+    }
+    if (prova && !soste.empty()) {
+        ScriviAllineata(tabella, uscita);
+        uscita << '\n';
+    }
+    uscita << ConteggioSoste(soste, !prova) << '\n';
+}
+
+void Importa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
+    const bool prova = richiesta.opzioni.contains(u"prova"_s);
+    if (!richiesta.argomenti.isEmpty() || richiesta.opzioni.size() > (prova ? 2 : 1)) {
+        throw WrongUsage(u"Con --importa si scrive: guida --importa FILE [--prova]."_s);
+    }
+    Sessione sessione = apri();
+    Progress progress;
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    const std::vector<SostaLetta> lette = LeggiSoste(richiesta.opzioni.value(u"importa"_s));
+    const auto soste = ProponiSoste(sessione.Archivio(), gazzettino, lette, progress);
+    if (!soste) return;
+    if (!prova && SosteNuove(*soste) > 0) AggiungiSoste(sessione.Archivio(), *soste);
+    ScriviEsito(*soste, prova, richiesta.formato, uscita);
+}
+
 }  // namespace
 
 void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     if (richiesta.opzioni.contains(u"aggiungi"_s)) return Aggiungi(apri, richiesta, uscita);
     if (richiesta.opzioni.contains(u"cambia"_s)) return Cambia(apri, richiesta, uscita);
     if (richiesta.opzioni.contains(u"togli"_s)) return Togli(apri, richiesta, uscita);
+    if (richiesta.opzioni.contains(u"importa"_s)) return Importa(apri, richiesta, uscita);
     ControllaMostra(richiesta);
     if (richiesta.opzioni.contains(u"pdf"_s)) return richiesta.stampe.guida(apri, richiesta, uscita);
     Sessione sessione = apri();

@@ -30,6 +30,7 @@
 #include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
 #include "ui/comuni/testo_mostrato.h"
+#include "ui/guida/frm_soste.h"
 #include "ui/inserimento/frm_divisione.h"
 #include "ui/inserimento/frm_vincoli.h"
 #include "ui/inserimento/scelta_percorso.h"
@@ -116,7 +117,8 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); },
         [this](const Tappa& tappa) { return ChiediVincoli(*this, tappa); },
         [this](const Meta& meta) { return ChiediRientro(*this, meta); },
-        [this](const std::vector<Alternativa>& alternative) { return ScegliAlternativa(*this, alternative); }};
+        [this](const std::vector<Alternativa>& alternative) { return ScegliAlternativa(*this, alternative); },
+        [this](const std::vector<SostaProposta>& soste) { return ConfermaSoste(*this, soste); }};
 }
 
 void FormMete::Disponi() {
@@ -389,6 +391,8 @@ QString FormMete::ScegliFile(FileChiesto quale) {
             return ScegliFileDaEsportare(*this, postazione_.Su<schermata::Scambio>()->tavolo.FileProposto());
         case FileChiesto::Percorso:
             return ScegliFilePercorso(*this);
+        case FileChiesto::Soste:
+            return ScegliFileSoste(*this);
         case FileChiesto::Cartella:
             return QFileDialog::getExistingDirectory(this, u"Salva in un'altra cartella"_s);
     }

@@ -30,8 +30,8 @@ class Raccolta {
   public:
     explicit Raccolta(QString nomeFile) : nome_(std::move(nomeFile)) {}
 
-    void Rotta(const QString& nome, const Posizione& posizione) { Metti(file_.rotta, {Ripulito(nome), posizione}); }
-    void Luogo(const QString& nome, const Posizione& posizione) { Metti(file_.luoghi, {Ripulito(nome), posizione}); }
+    void Rotta(const PuntoLetto& punto) { Metti(file_.rotta, Ripulito(punto)); }
+    void Luogo(const PuntoLetto& punto) { Metti(file_.luoghi, Ripulito(punto)); }
     void Traccia(const Posizione& posizione) { Metti(file_.traccia, posizione); }
 
     [[nodiscard]] Posizione Leggi(QStringView latitudine, QStringView longitudine) const {
@@ -53,7 +53,10 @@ class Raccolta {
     [[nodiscard]] FileNavigatore Raccolti() { return std::move(file_); }
 
   private:
-    static QString Ripulito(const QString& nome) { return Visibile(nome).simplified(); }
+    static QString Ripulito(const QString& testo) { return Visibile(testo).simplified(); }
+    static PuntoLetto Ripulito(const PuntoLetto& punto) {
+        return {Ripulito(punto.nome), punto.posizione, Ripulito(punto.tipo), Ripulito(punto.note)};
+    }
 
     template <typename Punto>
     void Metti(std::vector<Punto>& punti, Punto punto) {
@@ -125,22 +128,27 @@ class LettoreGpx : public LettoreXml {
         const bool traccia = elemento == u"trkpt";
         if (!traccia && elemento != u"wpt" && elemento != u"rtept") return;
         const QXmlStreamAttributes attributi = xml_.attributes();
-        posizione_ = raccolta_.Leggi(attributi.value("lat"_L1), attributi.value("lon"_L1));
-        nome_.clear();
+        punto_ = {{}, raccolta_.Leggi(attributi.value("lat"_L1), attributi.value("lon"_L1))};
         dentro_ = profondita_;
     }
     void Finisce(QStringView elemento) override {
-        if (elemento == u"name" && profondita_ == dentro_) nome_ = testo_;
+        if (profondita_ == dentro_) Dettaglio(elemento);
         if (profondita_ + 1 != dentro_) return;
         dentro_ = -1;
-        if (elemento == u"rtept") raccolta_.Rotta(nome_, posizione_);
-        if (elemento == u"wpt") raccolta_.Luogo(nome_, posizione_);
-        if (elemento == u"trkpt") raccolta_.Traccia(posizione_);
+        if (elemento == u"rtept") raccolta_.Rotta(punto_);
+        if (elemento == u"wpt") raccolta_.Luogo(punto_);
+        if (elemento == u"trkpt") raccolta_.Traccia(punto_.posizione);
     }
 
   private:
-    Posizione posizione_;
-    QString nome_;
+    // Of its two notes the first one counts, and a kind before a symbol.
+    void Dettaglio(QStringView elemento) {
+        if (elemento == u"name") punto_.nome = testo_;
+        if ((elemento == u"desc" || elemento == u"cmt") && punto_.note.isEmpty()) punto_.note = testo_;
+        if (elemento == u"type" || (elemento == u"sym" && punto_.tipo.isEmpty())) punto_.tipo = testo_;
+    }
+
+    PuntoLetto punto_;
     int dentro_ = -1;  // depth of the point that is being read
 };
 
@@ -152,7 +160,7 @@ class LettoreKml : public LettoreXml {
     void Comincia(QStringView elemento) override {
         if (elemento == u"Placemark") {
             dentro_ = profondita_;
-            nome_.clear();
+            letto_ = {};
             punto_.reset();
         }
         if (elemento == u"Point" || elemento == u"LineString") linea_ = elemento == u"LineString";
@@ -162,11 +170,12 @@ class LettoreKml : public LettoreXml {
         if (testo_.size() > kMassimeCoordinate) raccolta_.Guasto(u"una sua riga non finisce mai"_s);
     }
     void Finisce(QStringView elemento) override {
-        if (elemento == u"name" && profondita_ == dentro_) nome_ = testo_;
+        if (elemento == u"name" && profondita_ == dentro_) letto_.nome = testo_;
+        if (elemento == u"description" && profondita_ == dentro_) letto_.note = testo_;
         if (elemento == u"coordinates") Coordinate();
         if (elemento == u"coord") Terna(testo_.simplified().replace(u' ', u','), true);  // of a recorded track
         if (elemento != u"Placemark") return;
-        if (punto_) raccolta_.Luogo(nome_, *punto_);
+        if (punto_) raccolta_.Luogo({letto_.nome, *punto_, {}, letto_.note});
         dentro_ = -1;
     }
 
@@ -188,7 +197,7 @@ class LettoreKml : public LettoreXml {
         }
     }
 
-    QString nome_;
+    PuntoLetto letto_;
     std::optional<Posizione> punto_;
     bool linea_ = false;
     int dentro_ = -1;
@@ -212,8 +221,8 @@ bool LeggiItn(QIODevice& device, Raccolta& raccolta) {
         }
         ++lette;
         constexpr double kGrado = 100'000;
-        raccolta.Rotta(campi[2], raccolta.Leggi(QString::number(latitudine / kGrado, 'f', 5),
-                                                QString::number(longitudine / kGrado, 'f', 5)));
+        raccolta.Rotta({campi[2], raccolta.Leggi(QString::number(latitudine / kGrado, 'f', 5),
+                                                 QString::number(longitudine / kGrado, 'f', 5))});
     }
     return lette > 0;
 }
@@ -222,18 +231,23 @@ class LettoreGeoJson {
   public:
     explicit LettoreGeoJson(Raccolta& raccolta) : raccolta_(raccolta) {}
 
-    void Oggetto(const QJsonObject& oggetto, const QString& nome) {
+    // `detto` has what is told of the object, but where it lies.
+    void Oggetto(const QJsonObject& oggetto, const PuntoLetto& detto) {
         const QString tipo = oggetto[u"type"].toString();
         if (tipo == u"FeatureCollection"_s) {
             const QJsonArray elementi = oggetto[u"features"].toArray();
             for (const auto& elemento : elementi) Oggetto(elemento.toObject(), {});
         } else if (tipo == u"Feature"_s) {
-            Oggetto(oggetto[u"geometry"].toObject(), oggetto[u"properties"][u"name"].toString());
+            const QJsonObject proprieta = oggetto[u"properties"].toObject();
+            Oggetto(oggetto[u"geometry"].toObject(), {Primo(proprieta, {u"name"_s, u"nome"_s}),
+                                                      {},
+                                                      Primo(proprieta, {u"type"_s, u"tipo"_s, u"category"_s}),
+                                                      Primo(proprieta, {u"description"_s, u"desc"_s, u"note"_s})});
         } else if (tipo == u"GeometryCollection"_s) {
             const QJsonArray elementi = oggetto[u"geometries"].toArray();
-            for (const auto& elemento : elementi) Oggetto(elemento.toObject(), nome);
+            for (const auto& elemento : elementi) Oggetto(elemento.toObject(), detto);
         } else if (tipo == u"Point"_s) {
-            raccolta_.Luogo(nome, Coppia(oggetto[u"coordinates"]));
+            raccolta_.Luogo({detto.nome, Coppia(oggetto[u"coordinates"]), detto.tipo, detto.note});
         } else if (tipo == u"LineString"_s) {
             Linea(oggetto[u"coordinates"].toArray());
         } else if (tipo == u"MultiLineString"_s) {
@@ -243,6 +257,11 @@ class LettoreGeoJson {
     }
 
   private:
+    static QString Primo(const QJsonObject& proprieta, const QStringList& nomi) {
+        QString testo;
+        for (const QString& nome : nomi) testo = testo.isEmpty() ? proprieta[nome].toString() : testo;
+        return testo;
+    }
     [[nodiscard]] Posizione Coppia(const QJsonValue& valore) const {
         const QJsonArray coppia = valore.toArray();
         const auto testo = [&](int i) {

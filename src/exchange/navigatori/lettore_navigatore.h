@@ -15,6 +15,8 @@ namespace cronovia {
 struct PuntoLetto {
     QString nome;
     Posizione posizione;
+    QString tipo = {};  ///< what kind of place it is, and what else is told of it, each on one line
+    QString note = {};
 };
 
 /// What a file holds, each list in its order.

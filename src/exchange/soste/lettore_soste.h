@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lists of places where a camper can stand, as their collectors hand them out.
+#pragma once
+
+#include <QIODevice>
+#include <QString>
+#include <vector>
+
+#include "places/posizione.h"
+
+namespace cronovia {
+
+/// A place as a file tells of it, each text on one line; those that the file lacks are empty.
+struct SostaLetta {
+    QString nome;
+    QString tipo;
+    QString note;
+    Posizione posizione;
+};
+
+inline constexpr std::size_t kMassimeSoste = 50'000;
+
+/// The places of a file, in their order. A `Failure`, which names the line where there is one, when the file cannot be
+/// read, is of no known kind, has a position that is none, or more places than these.
+std::vector<SostaLetta> LeggiSoste(const QString& path);
+
+/// The same of a table with ";", "," or tabs between its fields, which may stand in quotes, also over several lines.
+/// Its first line names the columns, in Italian or English; one without names has longitude, latitude, name, notes.
+/// `path` is its name in messages.
+std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path);
+
+}  // namespace cronovia
