@@ -105,6 +105,9 @@ void ScriviOra(const std::optional<OraFissa>& ora, int campo, std::vector<QStrin
 // "delle 15:00", "di lun 28/06/2027 15:00".
 QString Di(const OraFissa& ora) { return (ora.Data() ? u"di "_s : u"delle "_s) + Testo(ora); }
 
+// "le 15:00", "lun 28/06/2027 15:00".
+QString Le(const OraFissa& ora) { return (ora.Data() ? QString() : u"le "_s) + Testo(ora); }
+
 }  // namespace
 
 std::optional<TraghettoAOrario> TraghettoAOrario::Da(const OraFissa& partenza, int minutiNavigazione,
@@ -218,7 +221,7 @@ QStringList TestiVincoli(const VincoliTappa& vincoli) {
         }
     }
     if (v.arrivo && v.arrivo->NonPrima()) testi += u"arrivo non prima "_s + Di(*v.arrivo->NonPrima());
-    if (v.arrivo && v.arrivo->NonDopo()) testi += u"arrivo non dopo "_s + Di(*v.arrivo->NonDopo());
+    if (v.arrivo && v.arrivo->NonDopo()) testi += u"arrivo non dopo "_s + Le(*v.arrivo->NonDopo());
     if (v.visite) {
         testi += u"visite dalle %1 alle %2"_s.arg(TestoMinuti(v.visite->MinutiApertura()),
                                                   TestoMinuti(v.visite->MinutiChiusura()));
