@@ -53,7 +53,7 @@ TEST_F(SulTerminale, BashCompletesVerbsOptionsAndFiles) {
         u"eval \"source <($P completamento bash)\"; cd \"%1\"; COMP_WORDS=(%2); "
         "COMP_CWORD=$((${#COMP_WORDS[@]}-1)); _cronovia; (IFS='|'; echo \"${COMPREPLY[*]}\")"_s;
     for (const auto& [parole, attese] :
-         std::vector<std::pair<QString, QString>>{{u"cronovia con"_s, u"converte"_s},
+         std::vector<std::pair<QString, QString>>{{u"cronovia con"_s, u"converte|confronta"_s},
                                                   {u"cronovia --cartella /tmp el"_s, u"elenca|elimina"_s},
                                                   {u"cronovia tappe 1 --a"_s, u"--aggiungi"_s},
                                                   {u"cronovia elenca --formato ''"_s, u"testo|tsv|json"_s},
