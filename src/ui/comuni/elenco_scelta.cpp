@@ -57,6 +57,7 @@ void ElencoScelta::Intesta(const QString& intestazione) {
     intestazione_->setParent(this);
     intestazione_->setObjectName(objectName() + QStringLiteral("_intestazione"));
     intestazione_->setMargin(3);
+    intestazione_->setAutoFillBackground(true);
     QFont grassetto = font();
     grassetto.setBold(true);
     intestazione_->setFont(grassetto);
