@@ -41,7 +41,11 @@ Centesimi GuidaMassima(const Cronovia& cronovia) {
 }
 
 std::optional<Centesimi> Ritardo(const Cronovia& cronovia) {
-    if (cronovia.ore.empty() && !cronovia.scadenza) return std::nullopt;
+    const auto& righe = cronovia.tabella.righe;
+    const bool fissate = std::any_of(righe.begin(), righe.end(), [](const RigaCalcolo& riga) {
+        return riga.tappa.vincoli && (riga.tappa.vincoli->traghetto || riga.tappa.vincoli->arrivo);
+    });
+    if (!fissate && !cronovia.scadenza) return std::nullopt;
     Centesimi ritardo = cronovia.scadenza ? std::max(0_cent - cronovia.scadenza->margine, 0_cent) : 0_cent;
     for (const EsitoOra& ora : cronovia.ore) ritardo = std::max(ritardo, ora.ritardo);
     return ritardo;
