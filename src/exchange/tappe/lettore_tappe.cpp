@@ -19,7 +19,8 @@ namespace {
 
 // The columns that only Cronovia's own tables have, and that are computed.
 const QStringList& Calcolate() {
-    static const QStringList calcolate = {u"Num."_s, u"Km/pr"_s, u"Tempo"_s, u"Guida"_s};
+    static const QStringList calcolate = {u"Num."_s, u"Km/pr"_s, u"Tempo"_s, u"Guida"_s,         u"Gs"_s,
+                                          u"Data"_s, u"Ore"_s,   u"Note"_s,  u"Limite ritorno"_s};
     return calcolate;
 }
 
