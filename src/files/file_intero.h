@@ -33,7 +33,8 @@ class FileIntero {
 /// A `Failure` when the path is a folder or the like, or a file that may not be replaced; an archive never may.
 void RifiutaFileEsistente(const QString& path, bool sovrascrivi);
 
-/// A name of a file that every system takes, without ending: what it cannot hold is "-", `altrimenti` when nothing is left.
+/// A name of a file that every system takes, without ending: what it cannot hold is "-", `altrimenti` when nothing is
+/// left.
 QString NomeDiFile(const QString& testo, QStringView altrimenti);
 
 /// Whether both lead to one file, that is there or would be: by other spelling, over links, as another name of it.

@@ -32,7 +32,6 @@ QStringView SenzaBlank(QStringView testo) {
     return testo;
 }
 
-
 class ScrittoreIei {
   public:
     explicit ScrittoreIei(const QString& path) : file_(path) {}
