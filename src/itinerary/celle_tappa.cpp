@@ -31,7 +31,7 @@ std::vector<QStringList> TuttiINomi() {
     return nomi;
 }
 
-std::size_t CampoDeiVincoli(int cella) { return static_cast<std::size_t>(cella - cella::Vincoli + kPrimoDato); }
+std::size_t CampoDeiVincoli(int cella) { return static_cast<std::size_t>(cella) - cella::Vincoli + kPrimoDato; }
 
 // Fields of `Vincoli` that are read together, and how they are written.
 struct GruppoDiVincoli {
