@@ -110,6 +110,15 @@ void ScriviGiornata(const Giornata& giornata, const SoleGiornata& sole, const Cr
     testo(u"traghetto", OreEMinuti(giornata.traghetto));
     testo(u"tramonto", OraDelSole(sole.tramonto));
     testo(u"visite", OreEMinuti(giornata.visite));
+    json.Nome(u"voci");
+    json.ApreArray();
+    for (const int riga : giornata.righe) {
+        const RigaCronovia& voce = cronovia.righe[static_cast<std::size_t>(riga)];
+        if (voce.genere != GenereRiga::Guida) continue;
+        const RigaCalcolo& tappa = cronovia.tabella.righe[static_cast<std::size_t>(voce.tappa)];
+        json.Testo((*tappa.voci)[static_cast<std::size_t>(voce.voce)].descrizione);
+    }
+    json.ChiudeArray();
     json.ChiudeOggetto();
 }
 
