@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/comandi_cronovia.h"
+#include "app/comandi_esporta.h"
 #include "app/comandi_inserimento.h"
 #include "app/niente_perso.h"
 #include "itinerary/appunti.h"
@@ -179,6 +180,7 @@ void FineGiornataCorrente(Postazione& p) {
 }
 
 void Copia(Postazione& p) {
+    if (p.Su<schermata::Cronovia>()) return CopiaCronovia(p);
     const Tratto scelte = RigheScelte(p);
     const RigheItinerario& righe = p.documento.Righe();
     const auto fine = std::min(static_cast<std::size_t>(scelte.a), righe.size());

@@ -35,6 +35,7 @@ void FineGiornata(Postazione& p, int giornata);
 void FineGiornataCorrente(Postazione& p);
 
 /// The rows selected as text for spreadsheets; for this window also what no text tells of them.
+/// In the schedule its rows.
 void Copia(Postazione& p);
 void Taglia(Postazione& p);
 /// Stages as text, before the current row; all of them or none.

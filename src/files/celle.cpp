@@ -18,4 +18,14 @@ QString InCella(const QString& testo) {
     return guardata ? u'\'' + cella : cella;
 }
 
+QString TabellaHtml(const QString& testo) {
+    QString html = u"<table>\n"_s;
+    for (const QString& riga : testo.split(u'\n', Qt::SkipEmptyParts)) {
+        html += u"<tr>"_s;
+        for (const QString& cella : riga.split(u'\t')) html += u"<td>"_s + cella.toHtmlEscaped() + u"</td>"_s;
+        html += u"</tr>\n"_s;
+    }
+    return html + u"</table>\n"_s;
+}
+
 }  // namespace cronovia

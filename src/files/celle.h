@@ -10,4 +10,7 @@ namespace cronovia {
 /// "=", "+", "-" or "@", behind blanks too, has "'" before it, unless it is a number or the note of a rest.
 QString InCella(const QString& testo);
 
+/// Lines of cells that tabs part as a table for those who read HTML.
+QString TabellaHtml(const QString& testo);
+
 }  // namespace cronovia

@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
@@ -24,6 +25,7 @@
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
+#include "files/celle.h"
 #include "ui/archivio/controllo_in_pausa.h"
 #include "ui/archivio/frm_copie.h"
 #include "ui/comuni/aiuti.h"
@@ -60,6 +62,14 @@ constexpr std::chrono::milliseconds kOgniQuantoAlSicuro(1000);
 QString FileDellAspetto(const QString& cartella) {
     const QFileInfo file(QDir(cartella).filePath(u"Cronovia.ini"_s));
     return !file.exists() || file.isFile() ? file.filePath() : file.filePath() + u"/niente"_s;
+}
+
+// What has cells is a table too, for programs that take those.
+void MettiNegliAppunti(const QString& testo) {
+    auto contenuto = std::make_unique<QMimeData>();
+    contenuto->setText(testo);
+    if (testo.contains(u'\t')) contenuto->setHtml(TabellaHtml(testo));
+    QGuiApplication::clipboard()->setMimeData(contenuto.release());
 }
 
 }  // namespace
@@ -109,7 +119,7 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this] { close(); },
         [this] { avanzamento_->ChiediStop(); },
         [] { return QGuiApplication::clipboard()->text(); },
-        [](const QString& testo) { QGuiApplication::clipboard()->setText(testo); },
+        &MettiNegliAppunti,
         [this](const QString& da, const Tappa& tappa) { return ChiediDivisione(*this, da, tappa); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->MostraAnteprima() : stampa_->MostraAnteprima(); },
         [this] { postazione_.Su<schermata::Guida>() ? stampaGuida_->Stampa() : stampa_->Stampa(); },

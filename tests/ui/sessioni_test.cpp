@@ -45,6 +45,7 @@
 //   expect-menu NAME ENTRIES          those that can be chosen, with their keys, joined by "|"
 //   expect-on · expect-off · expect-visible · expect-hidden NAME...
 //   expect-file FILE TEXT             how the file begins; expect-no-file FILE
+//   expect-clipboard text|html TEXT   a part of what is on the clipboard; expect-clipboard-lines N
 //
 // Whatever comes up unannounced fails, and so does what was announced and did not come in that step. Every table model
 // is watched meanwhile, that no letter is underlined twice among what can be used, and that every text is shown as it
@@ -53,6 +54,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDirIterator>
 #include <QDropEvent>
 #include <QGroupBox>
@@ -540,6 +542,15 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-hidden"_s, {1, Tutti(&Visibile, false)}},
         {u"expect-file"_s,
          {2, [](auto& p) { Uguale(QString::fromUtf8(prova::LeggiFile(p[0])).left(p[1].size()), p[1]); }}},
+        {u"expect-clipboard"_s,
+         {2,
+          [](auto& p) {
+              const QMimeData* appunti = QGuiApplication::clipboard()->mimeData();
+              EXPECT_TRUE((p[0] == u"html"_s ? appunti->html() : appunti->text()).contains(p[1]))
+                  << appunti->text().left(400).toStdString();
+          }}},
+        {u"expect-clipboard-lines"_s,
+         {1, [](auto& p) { EXPECT_EQ(QGuiApplication::clipboard()->text().count(u'\n'), p[0].toInt()); }}},
         {u"expect-no-file"_s, {1, [](auto& p) { EXPECT_FALSE(QFile::exists(p[0])); }}},
     };
     const QStringList annunci_ = {
