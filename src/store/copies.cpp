@@ -124,7 +124,8 @@ QString CopiesFolder(const QString& folder) { return QDir(folder).filePath(u"Cop
 
 std::vector<ArchiveCopy> CopiesOf(const QString& folder) {
     std::vector<ArchiveCopy> copies;
-    for (const QFileInfo& file : QDir(CopiesFolder(folder)).entryInfoList({u"*.mdb"_s}, QDir::Files, QDir::Name)) {
+    for (const QFileInfo& file :
+         QDir(CopiesFolder(folder)).entryInfoList({u"*.mdb"_s}, QDir::Files, QDir::Time | QDir::Reversed)) {
         if (auto copy = CopyAt(file)) copies.push_back(std::move(*copy));
     }
     std::stable_sort(copies.begin(), copies.end(), [](const auto& a, const auto& b) { return a.when < b.when; });

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <array>
 #include <map>
 #include <utility>
 
@@ -75,10 +76,7 @@ class Repairer {
     }
 
     Repair Run() {
-        if (!repair_.place->isValid() || !Duplicate(u"danneggiato.mdb"_s)) {
-            throw Failure(u"Nella cartella %1 non c'è posto, o manca il permesso, per la copia da riparare."_s.arg(
-                QDir::toNativeSeparators(QFileInfo(path_).path())));
-        }
+        if (!repair_.place->isValid() || !Duplicate(u"danneggiato.mdb"_s)) NoRoom();
         if (!Tried([this] { return ByIndexes(); }) && !Tried([this] { return ByRows(); }) && !ByCopy()) {
             throw Failure(
                 u"L'archivio %1 non si può riparare: non si riesce a leggerlo, e non c'è nessuna copia in ordine."_s
@@ -97,14 +95,21 @@ class Repairer {
         }
     }
 
-    // What cannot be read is no way; a full disk is none of the archive's faults.
+    [[noreturn]] void NoRoom() const {
+        throw Failure(u"Nella cartella %1 non c'è posto, o manca il permesso, per la copia da riparare."_s.arg(
+            QDir::toNativeSeparators(QFileInfo(path_).path())));
+    }
+
+    // What cannot be read is no way; that the disk cannot be written is none of the archive's faults: a worse way would
+    // save less of it.
     template <typename Way>
     static bool Tried(Way&& way) {
         try {
             return way();
         } catch (const SQLite::Exception& error) {
-            const int code = error.getErrorCode() & 0xFF;
-            if (code == SQLITE_FULL || code == SQLITE_IOERR) {
+            constexpr std::array kOfTheDisk = {SQLITE_FULL, SQLITE_IOERR, SQLITE_CANTOPEN,
+                                               SQLITE_PERM, SQLITE_NOMEM, SQLITE_READONLY};
+            if (std::find(kOfTheDisk.begin(), kOfTheDisk.end(), error.getErrorCode() & 0xFF) != kOfTheDisk.end()) {
                 throw Failure(u"La riparazione non si può fare: %1."_s.arg(DatabaseReason(error)));
             }
             return false;
@@ -132,7 +137,7 @@ class Repairer {
 
     // The rows are in order when what the indexes said of them before is no more than what they hold.
     bool ByIndexes() {
-        if (!Duplicate(u"indici.mdb"_s)) return false;
+        if (!Duplicate(u"indici.mdb"_s)) NoRoom();
         SQLite::Database database(Place(u"indici.mdb"_s).toStdString(), SQLite::OPEN_READWRITE);
         SQLite::Database damaged(Place(u"danneggiato.mdb"_s).toStdString(), SQLite::OPEN_READWRITE);
         Distrust(database);
@@ -247,7 +252,7 @@ class Repairer {
     bool ByCopy() {
         if (!repair_.lastGood) return false;
         const QString path = Place(u"copia.mdb"_s);
-        if (!QFile::copy(repair_.lastGood->path, path)) return false;
+        if (!QFile::copy(repair_.lastGood->path, path)) NoRoom();
         repair_.way = Repair::Way::Copy;
         repair_.path = path;
         repair_.tables.clear();
