@@ -200,6 +200,11 @@ std::vector<Verbo> VerbiDelViaggio() {
          2,
          false,
          &EseguiPercorso},
+    };
+}
+
+std::vector<Verbo> VerbiDellaCronovia() {
+    return {
         {u"calcola"_s, u"CODICE"_s,
          u"Calcola la cronovia: giorno per giorno, l'ora di ogni tratto, pasto, notte, riposo, traghetto e visita."_s,
          ConQuelleDelCalcolo({{u"tabella"_s, {}, u"Scrive anche la tabella Vandtabl.txt nella cartella dei dati."_s}}),
@@ -260,8 +265,9 @@ std::vector<Verbo> VerbiDelViaggio() {
 const std::vector<Verbo>& Verbi() {
     static const std::vector<Verbo> verbi = [] {
         std::vector<Verbo> tutti = VerbiDellArchivio();
-        for (Verbo& verbo : VerbiDelViaggio()) tutti.push_back(std::move(verbo));
-        for (Verbo& verbo : VerbiDelleCopie()) tutti.push_back(std::move(verbo));
+        for (const auto gruppo : {&VerbiDelViaggio, &VerbiDellaCronovia, &VerbiDelleCopie}) {
+            for (Verbo& verbo : gruppo()) tutti.push_back(std::move(verbo));
+        }
         return tutti;
     }();
     return verbi;
