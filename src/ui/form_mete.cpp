@@ -544,7 +544,6 @@ void FormMete::RipristinaAspetto() {
     resize(kMisura.boundedTo(schermo.size()));
     move(schermo.topLeft() - QPoint(kCornice.left(), kCornice.top()));
     restoreGeometry(aspetto_.value(u"finestra"_s).toByteArray());
-    if (!isMaximized() && !isFullScreen()) resize(size().boundedTo(schermo.size()));  // it may be another screen
     restoreState(aspetto_.value(u"pannelli"_s).toByteArray(), kVersioneAspetto);
     dalVivo_->setChecked(aspetto_.value(u"dalVivo"_s).toBool());
     griglia_.Vista().RipristinaLarghezze(aspetto_.value(u"colonne"_s).toByteArray());
