@@ -219,13 +219,39 @@ void RefuseBadCopy(const QString& path) {
     });
 }
 
+namespace {
+
+// The pages of a database file, but for what tells how often and with what it was written.
+QByteArray PagesOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QByteArray bytes = file.readAll();
+    for (const auto [from, count] : {std::pair{24, 4}, {92, 8}}) {
+        if (bytes.size() >= from + count) bytes.replace(from, count, QByteArray(count, '\0'));
+    }
+    return bytes;
+}
+
+// Whether a replacement that failed at its end was committed all the same: then only the rest of a longer file is left
+// behind the pages.
+bool Replaced(const QString& path, const QString& source) {
+    const QByteArray pages = PagesOf(source);
+    return !pages.isEmpty() && !QFileInfo::exists(path + u"-journal"_s) && PagesOf(path).startsWith(pages);
+}
+
+}  // namespace
+
 // The reset has the old pages overwritten without a look at what they say.
 void ReplaceContents(const QString& path, const QString& source) {
     Guarded(path, [&] {
         SQLite::Database from(source.toStdString(), SQLite::OPEN_READONLY, kBusyTimeoutMs);
         SQLite::Database target(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, kBusyTimeoutMs);
         sqlite3_db_config(target.getHandle(), SQLITE_DBCONFIG_RESET_DATABASE, 1, nullptr);
-        CopyPages(from, target);
+        try {
+            CopyPages(from, target);
+        } catch (const SQLite::Exception&) {
+            if (!Replaced(path, source)) throw;
+        }
     });
 }
 
