@@ -226,7 +226,7 @@ QByteArray PagesOf(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
     QByteArray bytes = file.readAll();
-    for (const auto [from, count] : {std::pair{24, 4}, {92, 8}}) {
+    for (const auto& [from, count] : {std::pair{24, 4}, {92, 8}}) {
         if (bytes.size() >= from + count) bytes.replace(from, count, QByteArray(count, '\0'));
     }
     return bytes;
