@@ -42,14 +42,6 @@ void MettiPercorso(Postazione& p, PercorsoNavigatore percorso) {
     Modifica(p, u"import del percorso"_s, std::move(percorso.tappe), prossima);
 }
 
-std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Progress& avanzamento) {
-    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
-    if (auto percorso = LeggiPercorsoNavigatore(path, gazzettino)) return percorso;
-    auto tappe = LeggiPercorso(path, avanzamento);
-    if (!tappe) return std::nullopt;
-    return PercorsoNavigatore{std::move(*tappe), {}, 0};
-}
-
 void SalvaTappe(Postazione& p) {
     const int riga = p.documento.RigaCorrente();
     const bool salvate = SalvaOChiede(p, u"L'itinerario non è stato salvato."_s,
@@ -183,7 +175,8 @@ void AltriPacchetti(Postazione& p) {
     const QString path = p.volti.scegliFile(FileChiesto::Percorso);
     if (path.isEmpty()) return;
     std::optional<PercorsoNavigatore> percorso;
-    const bool letto = p.MentreScrive({}, [&] { percorso = LeggiOgniPercorso(path, p.volti.avanzamento); });
+    const bool letto =
+        p.MentreScrive({}, [&] { percorso = LeggiOgniPercorso(path, p.luoghi.Repertorio(), p.volti.avanzamento); });
     p.volti.avanzamento.Advance(0, 0);
     if (letto && percorso) {
         MettiPercorso(p, std::move(*percorso));

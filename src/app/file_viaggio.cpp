@@ -19,26 +19,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Without the file of coasts the maps show the way alone.
-FileScritto ScriviPagina(const ViaggioDaScrivere& viaggio) {
-    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
-    const std::vector<PosizioneTappa> posizioni =
-        PosizioniDelViaggio(viaggio.sessione.Archivio(), gazzettino, viaggio.tappe, viaggio.meta.nazione);
-    const Coste coste = LeggiCoste(FileDelProgramma(u"coste.dat"_s));
-    return {PaginaTelefono({viaggio.meta, viaggio.cronovia, viaggio.tappe, posizioni, coste})};
-}
-
-std::vector<PosizioneTappa> PosizioniDi(const ViaggioDaScrivere& viaggio) {
-    std::vector<Tappa> tappe;
-    tappe.reserve(viaggio.cronovia.tabella.righe.size());
-    for (const RigaCalcolo& riga : viaggio.cronovia.tabella.righe) tappe.push_back(riga.tappa);
+std::vector<PosizioneTappa> PosizioniDi(const ViaggioDaScrivere& viaggio, std::span<const Tappa> tappe) {
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
     return PosizioniDelViaggio(viaggio.sessione.Archivio(), gazzettino, tappe, viaggio.meta.nazione);
 }
 
+// Without the file of coasts the maps show the way alone.
+FileScritto ScriviPagina(const ViaggioDaScrivere& viaggio) {
+    const std::vector<PosizioneTappa> posizioni = PosizioniDi(viaggio, viaggio.tappe);
+    const Coste coste = LeggiCoste(FileDelProgramma(u"coste.dat"_s));
+    return {PaginaTelefono({viaggio.meta, viaggio.cronovia, viaggio.tappe, posizioni, coste})};
+}
+
+// The rows of the schedule tell of stages without the free rows between them.
+std::vector<PosizioneTappa> PosizioniDellaTabella(const ViaggioDaScrivere& viaggio) {
+    std::vector<Tappa> tappe;
+    tappe.reserve(viaggio.cronovia.tabella.righe.size());
+    for (const RigaCalcolo& riga : viaggio.cronovia.tabella.righe) tappe.push_back(riga.tappa);
+    return PosizioniDi(viaggio, tappe);
+}
+
 FileScritto ScriviCalendario(const ViaggioDaScrivere& viaggio) {
-    const std::vector<Evento> eventi =
-        EventiDelViaggio(viaggio.cronovia, *viaggio.meta.dataInizio, PosizioniDi(viaggio), viaggio.giorniInteri);
+    const std::vector<Evento> eventi = EventiDelViaggio(viaggio.cronovia, *viaggio.meta.dataInizio,
+                                                        PosizioniDellaTabella(viaggio), viaggio.giorniInteri);
     if (eventi.empty()) throw Failure(u"Niente da mettere nel calendario: l'itinerario non ha ancora tappe."_s);
     return {CalendarioIcs(viaggio.meta.localita, eventi, QDateTime::currentDateTime()),
             u"Eventi: %1. Importato di nuovo dopo un altro calcolo, aggiorna quelli di prima."_s.arg(eventi.size())};

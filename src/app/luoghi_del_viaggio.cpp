@@ -58,6 +58,7 @@ const std::vector<PosizioneTappa>& LuoghiDelViaggio::Posizioni(Archive& archive,
         tappe_.assign(tappe.begin(), tappe.end());
         nazione_ = nazione;
         letto_ = mark;
+        ++versione_;
     }
     return posizioni_;
 }

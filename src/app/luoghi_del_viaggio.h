@@ -30,6 +30,9 @@ class LuoghiDelViaggio {
     const std::vector<PosizioneTappa>& Posizioni(Archive& archive, std::span<const Tappa> tappe,
                                                  const QString& nazione);
 
+    /// Another number whenever they were looked up anew.
+    [[nodiscard]] int Versione() const { return versione_; }
+
     /// The straight way in kilometres from the stage above a row, counted from 1, to a locality that is being typed
     /// there; nothing where one of them is not known.
     std::optional<double> Diretta(Archive& archive, const Documento& documento, int riga, const QString& localita);
@@ -45,6 +48,7 @@ class LuoghiDelViaggio {
     std::vector<Tappa> tappe_;
     QString nazione_;
     std::optional<Archive::Mark> letto_;
+    int versione_ = 0;
 };
 
 }  // namespace cronovia

@@ -19,9 +19,7 @@ namespace {
 PercorsoNavigatore Letto(const QString& path) {
     Progress progress;
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
-    if (auto percorso = LeggiPercorsoNavigatore(path, gazzettino)) return std::move(*percorso);
-    auto tappe = LeggiPercorso(path, progress);
-    if (tappe) return {std::move(*tappe), {}, 0};
+    if (auto percorso = LeggiOgniPercorso(path, gazzettino, progress)) return std::move(*percorso);
     throw Failure(u"Il file %1 non è un percorso che Cronovia riconosca: manca l'intestazione delle colonne."_s.arg(
         QDir::toNativeSeparators(path)));
 }

@@ -87,7 +87,7 @@ MappaViaggio ComponiMappa(std::span<const Tappa> righe, std::span<const Posizion
             mappa.tratte.push_back({riga, giornata, righe[i].Traghetto(), mappa.luoghi.back().dove, dove});
         }
         mappa.luoghi.push_back(
-            {riga, righe[i].localita, dove, posizioni[i].Certa(), !righe[i].SenzaSosta(), false, giornata});
+            {riga, righe[i].localita, dove, posizioni[i].fonte, !righe[i].SenzaSosta(), false, giornata});
     }
     SegnaNotti(giornate, giorni, mappa);
     return mappa;

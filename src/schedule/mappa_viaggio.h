@@ -20,10 +20,13 @@ struct LuogoSullaMappa {
     int riga = 0;  ///< of the itinerary, from 1
     QString nome;
     PuntoMappa dove;
-    bool certo = false;             ///< its position is known, not guessed from its neighbours
+    FontePosizione fonte = FontePosizione::Sconosciuta;
     bool sosta = false;             ///< one stops here
     bool notte = false;             ///< a night is spent here
     int giornata = kSenzaGiornata;  ///< on which it is reached, from 0
+
+    /// Its position is known, not guessed from its neighbours.
+    [[nodiscard]] bool Certo() const { return fonte != FontePosizione::Interpolata; }
 };
 
 /// The straight way from one place to the next.

@@ -22,9 +22,9 @@ const Posizione kMareAperto{42.3, 10.0};
 // Livorno to Olbia by ferry on the first day, to Nuoro on the second; the way there is not sure.
 MappaViaggio MappaDiProva() {
     MappaViaggio mappa;
-    mappa.luoghi = {{1, u"LIVORNO"_s, Proietta(kLivorno), true, false, false, 0},
-                    {2, u"OLBIA"_s, Proietta(kOlbia), true, true, true, 0},
-                    {3, u"NUORO"_s, Proietta(kNuoro), false, true, false, 1}};
+    mappa.luoghi = {{1, u"LIVORNO"_s, Proietta(kLivorno), FontePosizione::Repertorio, false, false, 0},
+                    {2, u"OLBIA"_s, Proietta(kOlbia), FontePosizione::Confermata, true, true, 0},
+                    {3, u"NUORO"_s, Proietta(kNuoro), FontePosizione::Interpolata, true, false, 1}};
     mappa.tratte = {{2, 0, true, mappa.luoghi[0].dove, mappa.luoghi[1].dove},
                     {3, 1, false, mappa.luoghi[1].dove, mappa.luoghi[2].dove}};
     return mappa;
@@ -124,7 +124,8 @@ TEST(NomiSullaMappa, DoNotCoverEachOther) {
     MappaViaggio mappa;
     for (int i = 0; i < 400; ++i) {
         const Posizione dove{44 + (i % 20) * 0.11, 8 + (i / 20) * 0.13};
-        mappa.luoghi.push_back({i + 1, u"LOCALITÀ %1"_s.arg(i), Proietta(dove), true, i % 3 == 0, i % 25 == 0, i / 25});
+        mappa.luoghi.push_back({i + 1, u"LOCALITÀ %1"_s.arg(i), Proietta(dove), FontePosizione::Repertorio, i % 3 == 0,
+                                i % 25 == 0, i / 25});
     }
     const Inquadratura vista = Adattata(*mappa.Riquadro(), {800, 600}, 30);
     const std::vector<NomeSullaMappa> nomi = NomiChiEntrano(mappa, vista, QFont());

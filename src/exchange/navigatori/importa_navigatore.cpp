@@ -8,6 +8,7 @@
 #include <span>
 
 #include "calendar/testo.h"
+#include "exchange/percorsi/importa_percorso.h"
 #include "interaction/failure.h"
 #include "itinerary/posizioni.h"
 #include "places/confermate.h"
@@ -191,6 +192,13 @@ std::optional<PercorsoNavigatore> LeggiPercorsoNavigatore(const QString& path, G
             nome, Raggruppa(kMassimoTappe)));
     }
     return percorso;
+}
+
+std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Gazzettino& gazzettino, Progress& progress) {
+    if (auto percorso = LeggiPercorsoNavigatore(path, gazzettino)) return percorso;
+    auto tappe = LeggiPercorso(path, progress);
+    if (!tappe) return std::nullopt;
+    return PercorsoNavigatore{std::move(*tappe), {}, 0};
 }
 
 void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso) {

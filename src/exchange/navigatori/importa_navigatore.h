@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "exchange/navigatori/lettore_navigatore.h"
+#include "interaction/progress.h"
 #include "itinerary/modifiche.h"
 #include "places/gazzettino.h"
 #include "store/archive.h"
@@ -29,6 +30,9 @@ PercorsoNavigatore TappeDelNavigatore(const FileNavigatore& file, Gazzettino& ga
 /// The same of a file; nothing when it is no navigator's. A `Failure` when it has fewer than two points, or more stages
 /// than an itinerary can hold.
 std::optional<PercorsoNavigatore> LeggiPercorsoNavigatore(const QString& path, Gazzettino& gazzettino);
+
+/// The same of a file of whichever program; nothing when it is none that is known.
+std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Gazzettino& gazzettino, Progress& progress);
 
 /// The localities lie where the file says, from now on and for all trips.
 void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso);

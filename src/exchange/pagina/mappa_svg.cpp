@@ -64,8 +64,8 @@ class Disegno {
                               {u"viewBox", u"0 0 %1 %2"_s.arg(kLarghezza).arg(std::round(scala_.Altezza()))},
                               {u"role", u"img"_s},
                               {u"aria-label", titolo}});
-        html_.Vuoto(u"rect"_s, {{u"class", u"mare"_s}, {u"width", u"100%"_s}, {u"height", u"100%"_s}});
-        html_.Grezzo(u"</rect>");
+        html_.Apre(u"rect"_s, {{u"class", u"mare"_s}, {u"width", u"100%"_s}, {u"height", u"100%"_s}});
+        html_.Chiude();
         Tracciato(coste_.terre, u"terra"_s, true);
         Tracciato(coste_.confini, u"confine"_s, false);
     }
@@ -90,9 +90,9 @@ class Disegno {
         for (const LuogoSullaMappa& luogo : mappa_.luoghi) {
             if (giornata != kSenzaGiornata && !DelGiorno(luogo, giornata)) continue;
             const PuntoSvg p = scala_(luogo.dove);
-            html_.Apre(u"circle"_s, {{u"class", luogo.notte   ? u"notte"_s
-                                                : luogo.certo ? u"luogo"_s
-                                                              : u"incerto"_s},
+            html_.Apre(u"circle"_s, {{u"class", luogo.notte     ? u"notte"_s
+                                                : luogo.Certo() ? u"luogo"_s
+                                                                : u"incerto"_s},
                                      {u"cx", Numero(p.x)},
                                      {u"cy", Numero(p.y)},
                                      {u"r", luogo.notte ? u"5"_s : u"3"_s}});
@@ -191,8 +191,8 @@ class Disegno {
     }
 
     void Forma(const QString& tracciato, const QString& classe) {
-        html_.Vuoto(u"path"_s, {{u"class", classe}, {u"d", tracciato}});
-        html_.Grezzo(u"</path>\n");
+        html_.Apre(u"path"_s, {{u"class", classe}, {u"d", tracciato}});
+        html_.Chiude();
     }
 
     const MappaViaggio& mappa_;

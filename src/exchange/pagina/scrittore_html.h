@@ -21,7 +21,7 @@ class ScrittoreHtml {
     void Chiude();
     /// An element that holds nothing but a text.
     void Elemento(const QString& nome, const QString& testo, Attributi attributi = {});
-    /// An element that has no inside, of HTML or, drawn shapes, of SVG.
+    /// An element of HTML that has no inside and no end.
     void Vuoto(const QString& nome, Attributi attributi = {});
     void Testo(const QString& testo);
     /// Text that is markup, of this program's own.

@@ -5,7 +5,8 @@
 #include <QMenu>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "app/cartella_dati.h"
 #include "app/comandi_luoghi.h"
@@ -41,7 +42,6 @@ PannelloMappa::PannelloMappa(Postazione& postazione, Esegui esegui, QWidget* par
     : Pannello(u"Mappa"_s, parent),
       postazione_(postazione),
       esegui_(std::move(esegui)),
-      gazzettino_(FileDelProgramma(u"luoghi.dat"_s)),
       vista_(new VistaMappa),
       avviso_(NuovaScritta()) {
     setObjectName(u"pannelloMappa"_s);
@@ -60,7 +60,7 @@ PannelloMappa::PannelloMappa(Postazione& postazione, Esegui esegui, QWidget* par
     connect(vista_, &QWidget::customContextMenuRequested, this, &PannelloMappa::ChiediDi);
     connect(vista_, &VistaMappa::RigaScelta, this, &PannelloMappa::RigaScelta);
     attesa_.setSingleShot(true);
-    connect(&attesa_, &QTimer::timeout, this, [this] { Aggiorna(false); });
+    connect(&attesa_, &QTimer::timeout, this, [this] { Aggiorna(); });
 }
 
 QWidget* PannelloMappa::NuoviPulsanti() {
@@ -93,33 +93,29 @@ void PannelloMappa::Mostra(const Postazione& /*postazione*/) {
 void PannelloMappa::showEvent(QShowEvent* event) {
     Pannello::showEvent(event);
     if (std::exchange(primaVolta_, false)) vista_->MostraCoste(LeggiCoste(FileDelProgramma(u"coste.dat"_s)));
-    Aggiorna(false);
+    Aggiorna();
 }
 
-// Places are looked up again only when the way is another one; the days when the schedule is.
-void PannelloMappa::Aggiorna(bool tutto) {
+void PannelloMappa::Aggiorna() {
     const Documento& documento = postazione_.documento;
+    const RigheItinerario& righe = documento.Righe();
+    std::vector<PosizioneTappa> posizioni(righe.size());
+    postazione_.Prova([&] {
+        posizioni = postazione_.luoghi.Posizioni(postazione_.sessione.Archivio(), righe, documento.Campi().nazione);
+    });
     const bool altro = codice_ != documento.Codice();
-    const bool stessaVia = std::equal(tappe_.begin(), tappe_.end(), documento.Righe().begin(), documento.Righe().end());
-    if (!tutto && !altro && stessaVia && versione_ == documento.VersioneCronovia()) return;
-    if (tutto || altro || !stessaVia) {
-        tappe_ = documento.Righe();
-        codice_ = documento.Codice();
-        const bool riuscita = postazione_.Prova([&] {
-            posizioni_ =
-                PosizioniDelViaggio(postazione_.sessione.Archivio(), gazzettino_, tappe_, documento.Campi().nazione);
-        });
-        if (!riuscita) posizioni_.assign(tappe_.size(), {});
-    }
+    const bool altriLuoghi = luoghi_ != postazione_.luoghi.Versione();
+    if (!altro && !altriLuoghi && versione_ == documento.VersioneCronovia()) return;
+    codice_ = documento.Codice();
+    luoghi_ = postazione_.luoghi.Versione();
     versione_ = documento.VersioneCronovia();
     const Cronovia* cronovia = documento.Ultima();
-    vista_->Mostra(cronovia == nullptr ? ComponiMappa(tappe_, posizioni_, {}, {})
-                                       : ComponiMappa(tappe_, posizioni_, documento.Giornate(),
-                                                      {*cronovia, documento.Giornate(), tappe_}),
-                   altro);
-    const QString avviso = gazzettino_.Disponibile() ? Mancanti(tappe_, posizioni_)
-                                                     : u"Manca il file dei luoghi: la mappa conosce solo quelli che "
-                                                       "hai indicato tu."_s;
+    const GiorniItinerario giorni =
+        cronovia == nullptr ? GiorniItinerario() : GiorniItinerario(*cronovia, documento.Giornate(), righe);
+    vista_->Mostra(ComponiMappa(righe, posizioni, documento.Giornate(), giorni), altro);
+    const QString avviso = postazione_.luoghi.Repertorio().Disponibile()
+                               ? Mancanti(righe, posizioni)
+                               : u"Manca il file dei luoghi: la mappa conosce solo quelli che hai indicato tu."_s;
     MostraScritta(*avviso_, avviso);
     avviso_->setVisible(!avviso.isEmpty());
 }
@@ -130,44 +126,41 @@ void PannelloMappa::Segue(int giornata, int riga) {
 }
 
 QString PannelloMappa::LocalitaSegnata() const {
+    const RigheItinerario& righe = postazione_.documento.Righe();
     const int riga = vista_->RigaSegnata();
-    return riga >= 1 && riga <= static_cast<int>(tappe_.size()) ? tappe_[static_cast<std::size_t>(riga) - 1].localita
-                                                                : QString();
+    return riga >= 1 && riga <= static_cast<int>(righe.size()) ? righe[static_cast<std::size_t>(riga) - 1].localita
+                                                               : QString();
 }
 
-bool PannelloMappa::Confermata(const QString& localita) const {
-    const auto tappa =
-        std::find_if(tappe_.begin(), tappe_.end(), [&](const Tappa& t) { return t.localita == localita; });
-    return tappa != tappe_.end() &&
-           posizioni_[static_cast<std::size_t>(tappa - tappe_.begin())].fonte == FontePosizione::Confermata;
-}
-
-// What can be said of the place of the current row.
+// What can be said of the place there, or of that of the current row. The map may be another one by the time that the
+// person has chosen.
 void PannelloMappa::ChiediDi(const QPoint& punto) {
-    const LuogoSullaMappa* sotto = vista_->LuogoIn(QPointF(punto));
-    const QString localita = sotto != nullptr ? sotto->nome : LocalitaSegnata();
+    const LuogoSullaMappa* trovato = vista_->LuogoIn(QPointF(punto));
+    const std::optional<LuogoSullaMappa> sotto = trovato != nullptr ? std::optional(*trovato) : std::nullopt;
+    const LuogoSullaMappa* segnato = vista_->Mappa().Luogo(vista_->RigaSegnata());
+    const LuogoSullaMappa* di = trovato != nullptr ? trovato : segnato;
+    const bool confermato = di != nullptr && di->fonte == FontePosizione::Confermata;
+    const QString localita = sotto ? sotto->nome : LocalitaSegnata();
     if (localita.isEmpty()) return;
     const QString nome = InScritta(localita);
-    const Posizione qui = vista_->PosizioneIn(QPointF(punto));
+    const Posizione qui = sotto ? Ricava(sotto->dove) : vista_->PosizioneIn(QPointF(punto));
     QMenu menu(this);
-    const QAction* metti = sotto == nullptr ? menu.addAction(u"Metti qui %1"_s.arg(nome)) : nullptr;
-    const QAction* conferma =
-        sotto != nullptr && !sotto->certo ? menu.addAction(u"%1 si trova qui"_s.arg(nome)) : nullptr;
+    const QAction* metti = nullptr;
+    if (!sotto) metti = menu.addAction(u"Metti qui %1"_s.arg(nome));
+    if (sotto && !sotto->Certo()) metti = menu.addAction(u"%1 si trova qui"_s.arg(nome));
     const QAction* scrivi = menu.addAction(u"Scrivi le coordinate di %1…"_s.arg(nome));
-    const QAction* dimentica =
-        Confermata(localita) ? menu.addAction(u"Dimentica dove ho messo %1"_s.arg(nome)) : nullptr;
+    const QAction* dimentica = confermato ? menu.addAction(u"Dimentica dove ho messo %1"_s.arg(nome)) : nullptr;
     const QAction* scelta = menu.exec(vista_->mapToGlobal(punto));
     if (scelta == nullptr) return;
-    if (scelta == metti || scelta == conferma) {
-        esegui_([&] { comandi::MettiLuogo(postazione_, localita, sotto != nullptr ? Ricava(sotto->dove) : qui); });
+    if (scelta == dimentica) {
+        esegui_([&] { comandi::DimenticaLuogo(postazione_, localita); });
+    } else if (scelta == metti) {
+        esegui_([&] { comandi::MettiLuogo(postazione_, localita, qui); });
     } else if (scelta == scrivi) {
         const std::optional<Posizione> scritta = ChiediCoordinate(*window(), localita);
-        if (!scritta) return;
-        esegui_([&] { comandi::MettiLuogo(postazione_, localita, *scritta); });
-    } else if (scelta == dimentica) {
-        esegui_([&] { comandi::DimenticaLuogo(postazione_, localita); });
+        if (scritta) esegui_([&] { comandi::MettiLuogo(postazione_, localita, *scritta); });
     }
-    Aggiorna(true);
+    Aggiorna();
 }
 
 }  // namespace cronovia

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QTimer>
 
-#include "itinerary/posizioni.h"
 #include "ui/comuni/esegui.h"
 #include "ui/comuni/pannello.h"
 #include "ui/mappa/vista_mappa.h"
@@ -33,19 +32,16 @@ class PannelloMappa : public Pannello {
     [[nodiscard]] QWidget* NuoviPulsanti();
     void ChiediDi(const QPoint& punto);
     [[nodiscard]] QString LocalitaSegnata() const;
-    [[nodiscard]] bool Confermata(const QString& localita) const;
-    void Aggiorna(bool tutto);
+    void Aggiorna();
 
     Postazione& postazione_;
     Esegui esegui_;
-    Gazzettino gazzettino_;
     VistaMappa* vista_;
     QLabel* avviso_;
     QTimer attesa_;
-    std::vector<Tappa> tappe_;  // of which the positions are known
-    QString codice_;
-    std::vector<PosizioneTappa> posizioni_;
-    int versione_ = -1;  // the schedule that was shown
+    QString codice_;  // what was shown: the trip, where its places lie, its schedule
+    int luoghi_ = -1;
+    int versione_ = -1;
     bool primaVolta_ = true;
 };
 

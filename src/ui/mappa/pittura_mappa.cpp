@@ -93,7 +93,7 @@ void DipingiLuoghi(QPainter& painter, const MappaViaggio& mappa, const Inquadrat
             continue;
         }
         painter.setPen(QPen(colori.testo, 1.2));
-        painter.setBrush(luogo.certo ? colori.testo : colori.terra);
+        painter.setBrush(luogo.Certo() ? colori.testo : colori.terra);
         painter.drawEllipse(dove, kRaggioLuogo, kRaggioLuogo);
     }
 }

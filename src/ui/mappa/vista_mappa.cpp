@@ -28,7 +28,7 @@ QString Descrizione(const LuogoSullaMappa& luogo) {
     QString testo = u"%1. %2"_s.arg(QString::number(luogo.riga), luogo.nome);
     if (luogo.giornata != kSenzaGiornata) testo += u" · giorno %1"_s.arg(luogo.giornata + 1);
     if (luogo.notte) testo += u" · notte"_s;
-    if (!luogo.certo) testo += u" · posizione stimata"_s;
+    if (!luogo.Certo()) testo += u" · posizione stimata"_s;
     return testo;
 }
 
