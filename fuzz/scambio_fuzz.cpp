@@ -42,7 +42,8 @@ Esportato Esporta(Archive& archive, const QString& path) {
 Esportato Passa(const Esportato& da, Archive& a, const QString& path) {
     const EsitoImport import = Importa(a, da.byte);
     Pretendi(import.meteInserite == da.esito.mete && import.tappeInserite == da.esito.tappe);
-    Pretendi(import.meteScartate + import.tappeSenzaMeta + import.orariRifiutati == 0 && import.accorciati.empty());
+    Pretendi(import.meteScartate + import.tappeSenzaMeta + import.ritocchi.orariRifiutati == 0 &&
+             import.ritocchi.accorciati.empty());
     Esportato dopo = Esporta(a, path);
     Pretendi(dopo.esito.mete == da.esito.mete && dopo.esito.tappe == da.esito.tappe);
     Pretendi(dopo.esito.voci == da.esito.voci && dopo.esito.caratteriSostituiti == 0);
