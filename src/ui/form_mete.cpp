@@ -5,19 +5,11 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDialog>
-#include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
-#include <QGridLayout>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QMimeData>
 #include <QPointer>
-#include <QScreen>
-#include <QScrollArea>
 #include <QSessionManager>
-#include <QVBoxLayout>
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -28,7 +20,6 @@
 #include "files/celle.h"
 #include "ui/archivio/controllo_in_pausa.h"
 #include "ui/archivio/frm_copie.h"
-#include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -46,23 +37,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Of the places of panels and bars: another number, and those remembered before are passed over.
-constexpr int kVersioneAspetto = 1;
-
-// Of the window at its first start.
-constexpr QSize kMisura(1280, 800);
-
-// As wide as the frames of the desktops are at most.
-constexpr QMargins kCornice(8, 40, 8, 8);
-
 // No more than this is lost of what is typed, whatever happens.
 constexpr std::chrono::milliseconds kOgniQuantoAlSicuro(1000);
-
-// What is no file is neither waited for nor replaced: nothing is remembered then.
-QString FileDellAspetto(const QString& cartella) {
-    const QFileInfo file(QDir(cartella).filePath(u"Cronovia.ini"_s));
-    return !file.exists() || file.isFile() ? file.filePath() : file.filePath() + u"/niente"_s;
-}
 
 // What has cells is a table too, for programs that take those.
 void MettiNegliAppunti(const QString& testo) {
@@ -75,7 +51,7 @@ void MettiNegliAppunti(const QString& testo) {
 }  // namespace
 
 FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
-    : aspetto_(FileDellAspetto(cartella), QSettings::IniFormat),
+    : aspetto_(cartella),
       azioni_(*this),
       avanzamento_(new Avanzamento),
       interazione_(*this),
@@ -97,7 +73,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
     CreaGiornate();
     CreaMappa();
     RendiLeggibile();
-    RipristinaAspetto();
+    SegueAspetto();
     Mostra();
     FuocoSenzaMete();
 }
@@ -131,137 +107,18 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this](const std::vector<SostaProposta>& soste) { return ConfermaSoste(*this, soste); }};
 }
 
-void FormMete::Disponi() {
-    auto* centro = new QWidget;
-    auto* layout = new QVBoxLayout(centro);
-    layout->setContentsMargins(4, 4, 4, 4);
-    layout->setSpacing(4);
-    areaGriglia_ = CreaAreaGriglia();
-    avviso_->setObjectName(u"lblAvviso"_s);
-    avviso_->setWordWrap(true);
-    avviso_->hide();
-    layout->addWidget(viaggio_);
-    layout->addWidget(avviso_);
-    layout->addWidget(avanzamento_);
-    layout->addWidget(areaGriglia_, 1);
-    layout->addWidget(&scambio_.Riquadro(), 1);
-    layout->addWidget(bottoni_);
-    // With large texts it may be larger than the screen: then it is moved beneath the window.
-    const int larghezza = std::max(screen()->availableSize().width(), kMisura.width());
-    if (centro->minimumSizeHint().width() <= larghezza) return setCentralWidget(centro);
-    auto* scorre = new QScrollArea;
-    scorre->setWidgetResizable(true);
-    scorre->setFrameShape(QFrame::NoFrame);
-    scorre->setWidget(centro);
-    setCentralWidget(scorre);
-}
-
-// The grid takes the room that is left; the lists lie over it, the entry frame beside it.
-QWidget* FormMete::CreaAreaGriglia() {
-    auto* area = new QWidget;
-    area->setObjectName(u"areaGriglia"_s);
-    auto* layout = new QGridLayout(area);
-    layout->setContentsMargins({});
-    layout->addWidget(&griglia_.Vista(), 0, 0);
-    layout->addWidget(&viaggio_->Elenco(), 0, 0, Qt::AlignLeft);
-    layout->addWidget(cmbRicercaTappa_, 0, 0, Qt::AlignLeft);
-    layout->addWidget(&inserimento_.Area(), 0, 1, 2, 1);
-    layout->addWidget(&copia_.RiquadroTratto(), 0, 1, 2, 1);
-    layout->addWidget(&copia_.Lista(), 1, 0);
-    layout->addWidget(&guida_.Riquadro(), 1, 0, 1, 2);
-    layout->setRowStretch(0, 1);
-    layout->setColumnStretch(0, 1);
-    cmbRicercaTappa_->setMinimumWidth(340);
-    CreaStampe(*layout);
-    CreaBenvenuto(*layout);
-    return area;
-}
-
-void FormMete::CreaStampe(QGridLayout& area) {
-    const Ambiente ambiente{postazione_, interazione_, *avanzamento_, *this,
-                            [this](const auto& comando) { Esegui(comando); }};
-    stampante_ = new FrmSelStampa(azioni_);
-    stampa_ = new ComandoStampa(ambiente, azioni_, *stampante_, area);
-    stampaGuida_ = new ComandoStampaGuida(ambiente, azioni_, *stampante_, area);
-    area.addWidget(stampante_, 0, 0, Qt::AlignCenter);
-}
-
-void FormMete::CreaBenvenuto(QGridLayout& area) {
-    benvenuto_ = new Benvenuto;
-    area.addWidget(benvenuto_, 0, 0, 2, 2);
-    connect(benvenuto_, &Benvenuto::NuovoViaggio, &azioni_.Di(Comando::Nuovo), &QAction::trigger);
-    connect(benvenuto_, &Benvenuto::Importa, &azioni_.Di(Comando::Import), &QAction::trigger);
-    connect(benvenuto_, &Benvenuto::Esempio, this, [this](const QString& file) {
-        Esegui([&] { comandi::ApriEsempio(postazione_, file); });
-        griglia_.Vista().setFocus();
-    });
-}
-
 void FormMete::ApriManuale(const QString& argomento) {
     if (manuale_ == nullptr) manuale_ = new FinestraManuale(*this);
     manuale_->VaiA(argomento);
 }
 
 void FormMete::ScegliPreferenze() {
-    Preferenze preferenze = LeggiPreferenze(aspetto_);
+    Preferenze preferenze = LeggiPreferenze(aspetto_.Impostazioni());
     preferenze.dalVivo = dalVivo_->isChecked();
     if (!ChiediPreferenze(preferenze, QCoreApplication::applicationDirPath(), *this)) return;
-    RicordaPreferenze(preferenze, aspetto_);
+    RicordaPreferenze(preferenze, aspetto_.Impostazioni());
     ApplicaColori(preferenze);
     dalVivo_->setChecked(preferenze.dalVivo);
-}
-
-// What stands in menus beside the commands.
-void FormMete::CompletaMenu() {
-    postazione_.volti.manuale = [this](const QString& argomento) { ApriManuale(argomento); };
-    postazione_.volti.preferenze = [this] { ScegliPreferenze(); };
-    for (const Comando comando :
-         {Comando::Annulla, Comando::Ripeti, Comando::Taglia, Comando::Copia, Comando::Incolla, Comando::DuplicaRighe,
-          Comando::TogliRighe, Comando::SpostaSu, Comando::SpostaGiu, Comando::DividiTappa, Comando::FineGiornata}) {
-        griglia_.Vista().addAction(&azioni_.Di(comando));
-    }
-    azioni_.MenuDi(Menu::Vista).addActions(griglia_.Vista().horizontalHeader()->actions());
-    QMenu& aiuto = azioni_.MenuDi(Menu::Aiuto);
-    QAction* informazioni = &azioni_.Di(Comando::Informazioni);
-    for (const Istruzioni& istruzioni : TutteLeIstruzioni()) {
-        auto* azione = new QAction(istruzioni.titolo, this);
-        azione->setObjectName(u'h' + istruzioni.pulsante.mid(4));
-        connect(azione, &QAction::triggered, this, [this, istruzioni] { MostraIstruzioni(istruzioni, *this); });
-        aiuto.insertAction(informazioni, azione);
-    }
-    aiuto.insertSeparator(informazioni);
-}
-
-// Grid and panel follow each other's current row.
-void FormMete::CreaGiornate() {
-    giornate_ = new PannelloGiornate(postazione_, [this](const auto& comando) { Esegui(comando); });
-    giornate_->hide();
-    AggiungiPannello(*giornate_, Qt::BottomDockWidgetArea);
-    connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
-    connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
-    connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
-    connect(giornate_, &PannelloGiornate::RigheChieste, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
-    dalVivo_->setObjectName(u"calcoloDalVivo"_s);
-    dalVivo_->setCheckable(true);
-    azioni_.MenuDi(Menu::Cronovia).addAction(dalVivo_);
-    connect(dalVivo_, &QAction::toggled, this, [this](bool acceso) {
-        postazione_.dalVivo = acceso;
-        Mostra();
-    });
-    attesaDalVivo_.setSingleShot(true);
-    connect(&attesaDalVivo_, &QTimer::timeout, this, [this] {
-        if (!inCorso_) MostraLeGiornate();
-    });
-    connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
-}
-
-void FormMete::CreaMappa() {
-    mappa_ = new PannelloMappa(postazione_, [this](const auto& comando) { Esegui(comando); });
-    mappa_->hide();
-    AggiungiPannello(*mappa_, Qt::RightDockWidgetArea);
-    connect(&griglia_, &SchermoGriglia::TappaCorrente, mappa_, &PannelloMappa::Segue);
-    connect(mappa_, &PannelloMappa::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaTappa);
-    connect(mappa_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
 }
 
 void FormMete::Comincia() {
@@ -312,7 +169,7 @@ void FormMete::MettiAlSicuro() {
         viaggio_->Raccogli();
         guida_.Raccogli();
     }
-    RicordaAspetto();
+    aspetto_.Ricorda();
     ApriQuandoLibera();
     try {
         if (cronovia::MettiAlSicuro(postazione_)) senzaRecupero_ = false;
@@ -434,7 +291,7 @@ void FormMete::closeEvent(QCloseEvent* event) {
     if (postazione_.InCorsa()) comandi::Esce(postazione_);
     if (!event->isAccepted()) return;
     if (!congedata_) postazione_.recupero.Segui({}, {});  // saved or declined
-    RicordaAspetto();
+    aspetto_.Ricorda();
 }
 
 bool FormMete::PossoChiudere() {
@@ -529,35 +386,6 @@ void FormMete::MostraTitolo() {
     const QString programma = QCoreApplication::applicationName();
     const bool memorizzata = !documento.Campi().codice.isEmpty();
     cronovia::MostraTitolo(*this, memorizzata ? documento.Nome() + u" - "_s + programma : programma);
-}
-
-void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
-    if (!restoreDockWidget(&pannello)) addDockWidget(lato, &pannello);
-    pannelli_.push_back(&pannello);
-    azioni_.MenuDi(Menu::Vista).addAction(pannello.toggleViewAction());
-    pannello.Mostra(postazione_);
-}
-
-void FormMete::RipristinaAspetto() {
-    // The frame that the desktop puts around it has its place within the screen too.
-    const QRect schermo = screen()->availableGeometry().marginsRemoved(kCornice);
-    resize(kMisura.boundedTo(schermo.size()));
-    move(schermo.topLeft() - QPoint(kCornice.left(), kCornice.top()));
-    restoreGeometry(aspetto_.value(u"finestra"_s).toByteArray());
-    restoreState(aspetto_.value(u"pannelli"_s).toByteArray(), kVersioneAspetto);
-    dalVivo_->setChecked(aspetto_.value(u"dalVivo"_s).toBool());
-    griglia_.Vista().RipristinaLarghezze(aspetto_.value(u"colonne"_s).toByteArray());
-}
-
-// Now and then while the window is open too: whoever ends it by force finds it again as it was.
-void FormMete::RicordaAspetto() {
-    const auto ricorda = [this](const QString& nome, const QVariant& valore) {
-        if (aspetto_.value(nome) != valore) aspetto_.setValue(nome, valore);
-    };
-    ricorda(u"finestra"_s, saveGeometry());
-    ricorda(u"pannelli"_s, saveState(kVersioneAspetto));
-    ricorda(u"dalVivo"_s, dalVivo_->isChecked());
-    ricorda(u"colonne"_s, griglia_.Vista().Larghezze());
 }
 
 }  // namespace cronovia

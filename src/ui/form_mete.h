@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QSettings>
 #include <QTimer>
 #include <array>
 #include <functional>
@@ -11,6 +10,7 @@
 #include "ui/aiuto/benvenuto.h"
 #include "ui/aiuto/finestra_manuale.h"
 #include "ui/aiuto/preferenze.h"
+#include "ui/aspetto_finestra.h"
 #include "ui/comuni/avanzamento.h"
 #include "ui/comuni/azioni.h"
 #include "ui/comuni/elenco_scelta.h"
@@ -100,10 +100,9 @@ class FormMete : public QMainWindow {
     void RendiLeggibile();
     void MostraLeGiornate();
     void MostraTitolo();
-    void RipristinaAspetto();
-    void RicordaAspetto();
+    void SegueAspetto();
 
-    QSettings aspetto_;
+    AspettoFinestra aspetto_;
     Azioni azioni_;
     Avanzamento* avanzamento_;
     InterazioneFinestra interazione_;

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/aspetto_finestra.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QScreen>
+#include <utility>
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Of the places of panels and bars: another number, and those remembered before are passed over.
+constexpr int kVersioneAspetto = 1;
+
+// As wide as the frames of the desktops are at most.
+constexpr QMargins kCornice(8, 40, 8, 8);
+
+// What is no file is neither waited for nor replaced: nothing is remembered then.
+QString FileDellAspetto(const QString& cartella) {
+    const QFileInfo file(QDir(cartella).filePath(u"Cronovia.ini"_s));
+    return !file.exists() || file.isFile() ? file.filePath() : file.filePath() + u"/niente"_s;
+}
+
+// The frame that the desktop puts around it has its place within the screen too.
+void PrimaMisura(QWidget& finestra) {
+    const QRect schermo = finestra.screen()->availableGeometry().marginsRemoved(kCornice);
+    finestra.resize(AspettoFinestra::kMisura.boundedTo(schermo.size()));
+    finestra.move(schermo.topLeft() - QPoint(kCornice.left(), kCornice.top()));
+}
+
+}  // namespace
+
+AspettoFinestra::AspettoFinestra(const QString& cartella)
+    : impostazioni_(FileDellAspetto(cartella), QSettings::IniFormat) {}
+
+void AspettoFinestra::Segue(QMainWindow& finestra) {
+    Segue(
+        u"finestra"_s, [&finestra] { return finestra.saveGeometry(); },
+        [&finestra](const QVariant& misura) {
+            PrimaMisura(finestra);
+            finestra.restoreGeometry(misura.toByteArray());
+        });
+    Segue(
+        u"pannelli"_s, [&finestra] { return finestra.saveState(kVersioneAspetto); },
+        [&finestra](const QVariant& stato) { finestra.restoreState(stato.toByteArray(), kVersioneAspetto); });
+}
+
+void AspettoFinestra::Segue(const QString& nome, std::function<QVariant()> comE,
+                            std::function<void(const QVariant&)> rimetti) {
+    voci_.push_back({nome, std::move(comE), std::move(rimetti)});
+}
+
+void AspettoFinestra::Ripristina() {
+    for (const Voce& voce : voci_) voce.rimetti(impostazioni_.value(voce.nome));
+}
+
+void AspettoFinestra::Ricorda() {
+    for (const Voce& voce : voci_) {
+        const QVariant valore = voce.comE();
+        if (impostazioni_.value(voce.nome) != valore) impostazioni_.setValue(voce.nome, valore);
+    }
+}
+
+}  // namespace cronovia

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands where in the main window: screens, panels, menus.
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "app/comandi_viaggio.h"
+#include "ui/comuni/aiuti.h"
+#include "ui/form_mete.h"
+
+namespace cronovia {
+
+using namespace Qt::StringLiterals;
+
+void FormMete::Disponi() {
+    auto* centro = new QWidget;
+    auto* layout = new QVBoxLayout(centro);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
+    areaGriglia_ = CreaAreaGriglia();
+    avviso_->setObjectName(u"lblAvviso"_s);
+    avviso_->setWordWrap(true);
+    avviso_->hide();
+    layout->addWidget(viaggio_);
+    layout->addWidget(avviso_);
+    layout->addWidget(avanzamento_);
+    layout->addWidget(areaGriglia_, 1);
+    layout->addWidget(&scambio_.Riquadro(), 1);
+    layout->addWidget(bottoni_);
+    // With large texts it may be larger than the screen: then it is moved beneath the window.
+    const int larghezza = std::max(screen()->availableSize().width(), AspettoFinestra::kMisura.width());
+    if (centro->minimumSizeHint().width() <= larghezza) return setCentralWidget(centro);
+    auto* scorre = new QScrollArea;
+    scorre->setWidgetResizable(true);
+    scorre->setFrameShape(QFrame::NoFrame);
+    scorre->setWidget(centro);
+    setCentralWidget(scorre);
+}
+
+// The grid takes the room that is left; the lists lie over it, the entry frame beside it.
+QWidget* FormMete::CreaAreaGriglia() {
+    auto* area = new QWidget;
+    area->setObjectName(u"areaGriglia"_s);
+    auto* layout = new QGridLayout(area);
+    layout->setContentsMargins({});
+    layout->addWidget(&griglia_.Vista(), 0, 0);
+    layout->addWidget(&viaggio_->Elenco(), 0, 0, Qt::AlignLeft);
+    layout->addWidget(cmbRicercaTappa_, 0, 0, Qt::AlignLeft);
+    layout->addWidget(&inserimento_.Area(), 0, 1, 2, 1);
+    layout->addWidget(&copia_.RiquadroTratto(), 0, 1, 2, 1);
+    layout->addWidget(&copia_.Lista(), 1, 0);
+    layout->addWidget(&guida_.Riquadro(), 1, 0, 1, 2);
+    layout->setRowStretch(0, 1);
+    layout->setColumnStretch(0, 1);
+    cmbRicercaTappa_->setMinimumWidth(340);
+    CreaStampe(*layout);
+    CreaBenvenuto(*layout);
+    return area;
+}
+
+void FormMete::CreaStampe(QGridLayout& area) {
+    const Ambiente ambiente{postazione_, interazione_, *avanzamento_, *this,
+                            [this](const auto& comando) { Esegui(comando); }};
+    stampante_ = new FrmSelStampa(azioni_);
+    stampa_ = new ComandoStampa(ambiente, azioni_, *stampante_, area);
+    stampaGuida_ = new ComandoStampaGuida(ambiente, azioni_, *stampante_, area);
+    area.addWidget(stampante_, 0, 0, Qt::AlignCenter);
+}
+
+void FormMete::CreaBenvenuto(QGridLayout& area) {
+    benvenuto_ = new Benvenuto;
+    area.addWidget(benvenuto_, 0, 0, 2, 2);
+    connect(benvenuto_, &Benvenuto::NuovoViaggio, &azioni_.Di(Comando::Nuovo), &QAction::trigger);
+    connect(benvenuto_, &Benvenuto::Importa, &azioni_.Di(Comando::Import), &QAction::trigger);
+    connect(benvenuto_, &Benvenuto::Esempio, this, [this](const QString& file) {
+        Esegui([&] { comandi::ApriEsempio(postazione_, file); });
+        griglia_.Vista().setFocus();
+    });
+}
+
+// What stands in menus beside the commands.
+void FormMete::CompletaMenu() {
+    postazione_.volti.manuale = [this](const QString& argomento) { ApriManuale(argomento); };
+    postazione_.volti.preferenze = [this] { ScegliPreferenze(); };
+    for (const Comando comando :
+         {Comando::Annulla, Comando::Ripeti, Comando::Taglia, Comando::Copia, Comando::Incolla, Comando::DuplicaRighe,
+          Comando::TogliRighe, Comando::SpostaSu, Comando::SpostaGiu, Comando::DividiTappa, Comando::FineGiornata}) {
+        griglia_.Vista().addAction(&azioni_.Di(comando));
+    }
+    azioni_.MenuDi(Menu::Vista).addActions(griglia_.Vista().horizontalHeader()->actions());
+    QMenu& aiuto = azioni_.MenuDi(Menu::Aiuto);
+    QAction* informazioni = &azioni_.Di(Comando::Informazioni);
+    for (const Istruzioni& istruzioni : TutteLeIstruzioni()) {
+        auto* azione = new QAction(istruzioni.titolo, this);
+        azione->setObjectName(u'h' + istruzioni.pulsante.mid(4));
+        connect(azione, &QAction::triggered, this, [this, istruzioni] { MostraIstruzioni(istruzioni, *this); });
+        aiuto.insertAction(informazioni, azione);
+    }
+    aiuto.insertSeparator(informazioni);
+}
+
+// Grid and panel follow each other's current row.
+void FormMete::CreaGiornate() {
+    giornate_ = new PannelloGiornate(postazione_, [this](const auto& comando) { Esegui(comando); });
+    giornate_->hide();
+    AggiungiPannello(*giornate_, Qt::BottomDockWidgetArea);
+    connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
+    connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
+    connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
+    connect(giornate_, &PannelloGiornate::RigheChieste, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
+    dalVivo_->setObjectName(u"calcoloDalVivo"_s);
+    dalVivo_->setCheckable(true);
+    azioni_.MenuDi(Menu::Cronovia).addAction(dalVivo_);
+    connect(dalVivo_, &QAction::toggled, this, [this](bool acceso) {
+        postazione_.dalVivo = acceso;
+        Mostra();
+    });
+    attesaDalVivo_.setSingleShot(true);
+    connect(&attesaDalVivo_, &QTimer::timeout, this, [this] {
+        if (!inCorso_) MostraLeGiornate();
+    });
+    connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
+}
+
+void FormMete::CreaMappa() {
+    mappa_ = new PannelloMappa(postazione_, [this](const auto& comando) { Esegui(comando); });
+    mappa_->hide();
+    AggiungiPannello(*mappa_, Qt::RightDockWidgetArea);
+    connect(&griglia_, &SchermoGriglia::TappaCorrente, mappa_, &PannelloMappa::Segue);
+    connect(mappa_, &PannelloMappa::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaTappa);
+    connect(mappa_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
+}
+
+void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
+    if (!restoreDockWidget(&pannello)) addDockWidget(lato, &pannello);
+    pannelli_.push_back(&pannello);
+    azioni_.MenuDi(Menu::Vista).addAction(pannello.toggleViewAction());
+    pannello.Mostra(postazione_);
+}
+
+void FormMete::SegueAspetto() {
+    aspetto_.Segue(*this);
+    aspetto_.Segue(
+        u"dalVivo"_s, [this] { return dalVivo_->isChecked(); },
+        [this](const QVariant& acceso) { dalVivo_->setChecked(acceso.toBool()); });
+    aspetto_.Segue(
+        u"colonne"_s, [this] { return griglia_.Vista().Larghezze(); },
+        [this](const QVariant& larghezze) { griglia_.Vista().RipristinaLarghezze(larghezze.toByteArray()); });
+    aspetto_.Ripristina();
+}
+
+}  // namespace cronovia
