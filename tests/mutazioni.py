@@ -141,9 +141,11 @@ class Banco:
                           f'[ "$ultimo" = "$MUTATO" ] && exec "$@" -w\nexec {cache}"$@"\n')
         lancio.chmod(0o755)
         subprocess.run(["cmake", "-S", self.albero, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0",
+                        "-DCRONOVIA_TESTS=ON",
                         f"-DCMAKE_CXX_COMPILER_LAUNCHER={lancio}", "-DCRONOVIA_UNITY=OFF",
                         "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"]
-                       + (["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold"] if shutil.which("ld.gold") else []),
+                       + [f"-DCMAKE_{cosa}_LINKER_FLAGS=-fuse-ld={legatore}" for legatore in ("mold", "gold")
+                          if shutil.which("ld." + legatore) for cosa in ("EXE", "MODULE", "SHARED")][:3],
                        stdout=subprocess.DEVNULL, check=True)
         self.leggi_stanze()
         if self.compila(sorted(self.prove), None) != "ok":
