@@ -55,7 +55,6 @@ TEST_F(AspettoTest, SizeColumnsAndPanelsComeBack) {
 }
 
 TEST_F(AspettoTest, DisabledTextsAndBoxesAreSeenInEveryTheme) {
-    Apri();
     const QPalette prima = QApplication::palette();
     const auto siLegge = [this](const QString& nome) {
         const QPalette colori = Trova(nome).palette();
@@ -68,6 +67,7 @@ TEST_F(AspettoTest, DisabledTextsAndBoxesAreSeenInEveryTheme) {
         tema.setColor(QPalette::Disabled, QPalette::HighlightedText, sfondo);
         QApplication::setPalette(tema);
         QCoreApplication::processEvents();
+        if (form_ == nullptr) Apri();  // the second theme comes while the window is open
         EXPECT_TRUE(siLegge(u"txtLocalita"_s)) << sfondo.name().toStdString();
         EXPECT_TRUE(siLegge(u"cmbOra_1"_s)) << sfondo.name().toStdString();
         EXPECT_TRUE(siLegge(u"txtKmTot_0"_s)) << sfondo.name().toStdString();

@@ -45,6 +45,7 @@
 //   expect-menu NAME ENTRIES          those that can be chosen, with their keys, joined by "|"
 //   expect-on · expect-off · expect-visible · expect-hidden NAME...
 //   expect-file FILE TEXT             how the file begins; expect-no-file FILE
+//   clipboard TEXT                    what another program puts there
 //   expect-clipboard text|html TEXT   a part of what is on the clipboard; expect-clipboard-lines N
 //
 // Whatever comes up unannounced fails, and so does what was announced and did not come in that step. Every table model
@@ -542,6 +543,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-hidden"_s, {1, Tutti(&Visibile, false)}},
         {u"expect-file"_s,
          {2, [](auto& p) { Uguale(QString::fromUtf8(prova::LeggiFile(p[0])).left(p[1].size()), p[1]); }}},
+        {u"clipboard"_s, {1, [](auto& p) { QGuiApplication::clipboard()->setText(p[0]); }}},
         {u"expect-clipboard"_s,
          {2,
           [](auto& p) {

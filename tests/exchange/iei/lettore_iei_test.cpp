@@ -86,6 +86,7 @@ TEST(LettoreIei, RecordsAndCounts) {
         {"cut within a record", kRoma + Tappe("000001|00"), kLetta + QStringList{u"2|000001|00"_s},
          &ScartiLettura::righeIncomplete, 1},
         {"NUL", Mete(QByteArray("000001|Ro\0ma|Italia\n", 20)), kLetta, &ScartiLettura::caratteriTolti, 1},
+        {"a line of NULs alone", kRoma + QByteArray("\0\0\r\n", 4), kLetta, &ScartiLettura::caratteriTolti, 2},
         {"a line as long as the limit", kRoma + "000002\xFF" + QByteArray(65'536 - 7, 'x') + "\n",
          kLetta + QStringList{u"1|000002|"_s + QString(65'536 - 7, u'x')}, &ScartiLettura::righeIncomplete, 1},
         {"a line longer than the limit by one", kRoma + "000002\xFF" + QByteArray(65'536 - 7 + 1, 'x') + "\n", kLetta,

@@ -89,8 +89,11 @@ TEST_F(Conversione, DigitsStandInTheirPlacesAndWhatTheyCannotTellGetsItsDefault)
         {" ALBA| 5 61998| 8 0|  7|1930", u"05061998|0800|7|1930"_s},
         {"BRA|31021998|0800|95|", u"05062027|0800|95| "_s},
         {"COMO|0506|0860|200|1930", u"05062027|1045|200|1930"_s},
-        {"DOLO|05061998|2401|201|19x0", u"05061998|1045|75|2000"_s},
-        {"ESTE|\1|08|0|1930", u"05062027|1045|75|1930"_s}};
+        {"DOLO|05061998|2401|201|19x0", u"05061998|1045|88|2000"_s},
+        {"ESTE|\1|08|0|1930", u"05062027|1045|88|1930"_s}};
+    ParametriViaggio abitudini = CaricaDefaultMeta(archive_);
+    abitudini.mediaKm[0] = 88;
+    MemorizzaDefaultMeta(archive_, abitudini);
     QByteArray mete;
     QStringList attese;
     for (const auto& [scritti, attesi] : casi) {
