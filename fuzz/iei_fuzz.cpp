@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
     try {
         const qint64 mete = ContaMete(file);
         const EsitoImport prima = Importa(archive, file);
-        Pretendi(prima.meteInserite + prima.meteScartate + prima.codiciRipetuti == mete);
+        Pretendi(prima.meteInserite + prima.meteScartate + prima.meteTroppoLunghe + prima.codiciRipetuti == mete);
         Pretendi(archive.Count(Table::MeteVandro) == prima.meteInserite);
         Pretendi(archive.Count(Table::Itinerari) == prima.tappeInserite);
         Pretendi(archive.Count(Table::GuidaCitta) == prima.vociInserite);

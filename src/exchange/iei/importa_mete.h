@@ -49,7 +49,7 @@ struct EsitoImport {
     qint64 codiciRipetuti = 0;    ///< trips with the code of one before them
     qint64 meteIncomplete = 0;    ///< trips without destination, or without a code of at most 20 characters
     qint64 tappeSenzaMeta = 0;    ///< stages of no trip of the file
-    qint64 meteTroppoLunghe = 0;  ///< trips of more than 9,999 stages; left out with them
+    qint64 meteTroppoLunghe = 0;  ///< trips of more than 9,999 stages, or with one whose number is longer; left out
     ScartiLettura lettura;
 
     TracciaImport traccia;  ///< to take it back by

@@ -141,7 +141,7 @@ TEST_F(Import, ATripThatCannotBeNumberedStaysOutAndItsGuideToo) {
     EXPECT_EQ(esito.tappeInserite, 9'999);
     EXPECT_TRUE(
         TestoEsito(esito).endsWith(u"com'era nel file:\r\n\r\nmète non inserite perché hanno più di 9.999 tratti "
-                                   "stradali: 2."_s));
+                                   "stradali o un loro numero non valido: 2."_s));
 }
 
 TEST_F(Import, DatesAndStopsThatAreNoneArePutRightAndTold) {
