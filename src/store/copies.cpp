@@ -13,6 +13,8 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <algorithm>
+#include <future>
+#include <string>
 #include <utility>
 
 #include "store/archive_check.h"
@@ -37,6 +39,28 @@ void CopyPages(SQLite::Database& source, SQLite::Database& target) {
     SQLite::Backup backup(target, source);
     const int result = backup.executeStep();
     if (result != SQLITE_DONE) throw SQLite::Exception("backup", result);
+}
+
+/// Nothing changes in the file while this lives.
+class Held {
+  public:
+    explicit Held(SQLite::Database& database) : database_(database) {
+        database_.exec("BEGIN");
+        database_.execAndGet("SELECT COUNT(*) FROM sqlite_master");  // only reading takes the lock
+    }
+    ~Held() { sqlite3_exec(database_.getHandle(), "COMMIT", nullptr, nullptr, nullptr); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+  private:
+    SQLite::Database& database_;
+};
+
+// By a connection of its own, as another thread needs one.
+bool IsDamagedAt(const std::string& path) {
+    SQLite::Database database(path, SQLite::OPEN_READONLY, kBusyTimeoutMs);
+    Distrust(database);
+    return AnyDamage(CheckDatabase(database, DepthForCopies(database)));
 }
 
 // A copy that was never ended, since its program was killed.
@@ -114,8 +138,11 @@ QString LayCopy(SQLite::Database& source, const std::function<QString(int)>& nam
     Unfinished copy(name);
     {
         SQLite::Database target(copy.Path(), SQLite::OPEN_READWRITE);
+        const Held held(source);
+        // The pages are copied as they are: to look through them where they come from tells the same, meanwhile.
+        std::future<bool> damaged = std::async(std::launch::async, IsDamagedAt, source.getFilename());
         CopyPages(source, target);
-        if (AnyDamage(CheckDatabase(target, DepthForCopies(target)))) throw SQLite::Exception("copy", SQLITE_CORRUPT);
+        if (damaged.get()) throw SQLite::Exception("copy", SQLITE_CORRUPT);
     }
     return copy.Finish();
 }
