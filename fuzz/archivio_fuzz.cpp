@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // An archive with one example, some of whose bytes are others: each six of the input are a place (four) and what is put
 // there (one, as often as the last one says). What must hold: the archive is refused with a sentence, or it opens and
-// is read to its end, and then what is computed from it ends too.
+// is read to its end (every trip of the list, unless damage was told), and then what is computed from it ends too.
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
@@ -53,6 +53,7 @@ void LeggiTutto(const QString& cartella) {
     Progress progress;
     for (const MetaInElenco& elencata : ElencoMete(archive)) {
         const auto meta = CaricaMeta(archive, elencata.codice);
+        if (!meta && !archive.Damage().isEmpty()) continue;  // told, and an index leads nowhere
         Pretendi(meta.has_value());
         std::ignore = ElencoDellaGuida(archive, elencata.codice);
         LettoreGuida guida(archive);
