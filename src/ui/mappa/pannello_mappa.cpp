@@ -31,7 +31,8 @@ QString Mancanti(std::span<const Tappa> tappe, std::span<const PosizioneTappa> p
     nomi.removeDuplicates();
     constexpr int kNominati = 3;
     if (nomi.isEmpty()) return {};
-    const QString altri = nomi.size() > kNominati ? u" e altre %1"_s.arg(nomi.size() - kNominati) : QString();
+    const qsizetype resto = nomi.size() - kNominati;
+    const QString altri = resto <= 0 ? QString() : resto == 1 ? u" e un'altra"_s : u" e altre %1"_s.arg(resto);
     return u"Non so dove si trova: %1%2. Vai alla tappa, poi tasto destro sulla mappa."_s.arg(
         nomi.mid(0, kNominati).join(u", "_s), altri);
 }
