@@ -61,6 +61,26 @@ TEST(Gazzettino, FindsPlacesHoweverTheyAreWritten) {
     EXPECT_EQ(proposti.at(0).trovato, u"Copenaghen"_s);
     EXPECT_EQ(gazzettino.CheIniziano(u"mil", 3, {u"IT"_s}).at(0).nome, u"Milano"_s);
     EXPECT_TRUE(gazzettino.CheIniziano(u"m", 5, {}).empty());
+    EXPECT_EQ(gazzettino.CheIniziano(u"san", 7, {}).size(), 7U);
+    EXPECT_EQ(gazzettino.CheIniziano(u"gra", 2, {}).at(1).nome, u"Graz"_s);
+    EXPECT_EQ(gazzettino.CheIniziano(u"gra", 2, {u"FR"_s}).at(1).nome, u"Grasse"_s) << "of the trip's country first";
+    EXPECT_FALSE(gazzettino.PiuVicino({43.8, 9.0}, 15)) << "out at sea";
+    EXPECT_TRUE(gazzettino.PiuVicino({43.8, 9.0}, 80));
+    // Whose name goes on counts only where nobody is called just so.
+    EXPECT_EQ(gazzettino.Chiamati(u"AIX EN").front().modo, ModoNome::Iniziale);
+    for (const Luogo& luogo : gazzettino.Chiamati(u"VERONA")) EXPECT_NE(luogo.modo, ModoNome::Iniziale);
+    EXPECT_TRUE(gazzettino.Chiamati(u"XQWYZ").empty());
+    EXPECT_TRUE(gazzettino.Chiamati(u"").empty());
+}
+
+TEST(Nomi, AreFoldedAndCountriesAreKnown) {
+    EXPECT_EQ(NomePiegato(u"Ærø – Świnoujście"), u"aeroswinoujscie"_s);
+    EXPECT_EQ(FormePiegate(u"ST. MORITZ (PARCHEGGIO)").mid(1).join(u' '),
+              u"saintmoritzparcheggio sanktmoritzparcheggio saintemoritzparcheggio stmoritz"_s);
+    EXPECT_EQ(FormePiegate(u"S.").size(), 1);
+    EXPECT_EQ(CodiciNazioni(u"FRANCIA/SPAGNA - Gran Bretagna"), (QStringList{u"ES"_s, u"FR"_s, u"GB"_s}));
+    EXPECT_EQ(NomeNazione(u"GB"_s), u"Regno Unito"_s);
+    EXPECT_EQ(NomeNazione(u"ZZ"_s), u"ZZ"_s);
 }
 
 // Cut short, of another kind, not there: no place, no harm.
@@ -84,7 +104,13 @@ TEST(Gazzettino, KnowsNothingFromAFileThatIsNone) {
         EXPECT_TRUE(LeggiCoste(file).terre.empty());
     }
     EXPECT_FALSE(Gazzettino(cartella.Path() + u"/manca"_s).Disponibile());
-    const Coste coste = LeggiCoste(QStringLiteral(CRONOVIA_PLACES "/coste.dat"));
+    const QString intere = QStringLiteral(CRONOVIA_PLACES "/coste.dat");
+    const QByteArray linee = prova::LeggiFile(intere);
+    for (const qsizetype quanti : {linee.size() - 1, linee.size() / 2, qsizetype{14}, qsizetype{12}}) {
+        prova::ScriviFile(cartella.Path() + u"/coste"_s, linee.first(quanti));
+        EXPECT_TRUE(LeggiCoste(cartella.Path() + u"/coste"_s).terre.empty()) << quanti;
+    }
+    const Coste coste = LeggiCoste(intere);
     EXPECT_GT(coste.terre.size(), 100U);
     EXPECT_GT(coste.confini.size(), 30U);
 }
@@ -107,6 +133,12 @@ TEST(Posizione, IsReadInAnyUsualForm) {
                          {u"41° 9' N 8° 36.6' w", porto},
                          {u"41.15 -8.61", porto},
                          {u"-41.15 8.61", Posizione{-41.15, 8.61}},
+                         {u"\u221241,15, +8,61", Posizione{-41.15, 8.61}},
+                         {u"41:09:00 s 8:36:36 e", Posizione{-41.15, 8.61}},
+                         {u"90 180", Posizione{90, -180}},
+                         {u"44.1.2 8", {}},
+                         {u"44 8 9 10 11 12 13 14", {}},
+                         {u"44.4055555555555 8.9", {}},
                          {u"", {}},
                          {u"44.4", {}},
                          {u"91 8", {}},
@@ -124,6 +156,17 @@ TEST(Posizione, IsReadInAnyUsualForm) {
         EXPECT_LT(letta ? DistanzaKm(*letta, *caso.letta) : 0, 0.01) << caso.testo.toUtf8().constData();
     }
     EXPECT_EQ(Testo(porto), u"41,1500° N 8,6100° O"_s);
+    EXPECT_EQ(Testo(Posizione{-33.925, 18.425}), u"33,9250° S 18,4250° E"_s);
+    // Along the shortest way, across the line of the date too.
+    const Posizione figi{-17.7, 178.0};
+    const Posizione samoa{-13.8, -171.8};
+    EXPECT_NEAR(DistanzaKm(figi, samoa), 1174.3, 0.1);
+    for (const double parte : {0.0, 0.25, 1.0}) {
+        const Posizione fra = Fra(figi, samoa, parte);
+        EXPECT_NEAR(DistanzaKm(figi, fra), parte * DistanzaKm(figi, samoa), 0.01);
+        EXPECT_NEAR(DistanzaKm(fra, samoa), (1 - parte) * DistanzaKm(figi, samoa), 0.01);
+    }
+    EXPECT_EQ(Fra(porto, porto, 0.5), porto);
 }
 
 // London, Rome, Boulder and Tromsø as almanacs and the NOAA calculator publish them, give or take a minute.
@@ -189,6 +232,21 @@ TEST_F(SceltaTest, GoesByTheKilometresAndByWhatWasConfirmed) {
     EXPECT_TRUE(DimenticaPosizione(archive_, u"borg"_s));
     EXPECT_FALSE(DimenticaPosizione(archive_, u"borg"_s));
     EXPECT_TRUE(Scegli({}).empty());
+    // What is not known lies along the way as its kilometres say; legs without any share what the others leave.
+    const auto parte = [](const std::vector<PosizioneTappa>& via, std::size_t i) {
+        return DistanzaKm(*via.front().posizione, *via[i].posizione) /
+               DistanzaKm(*via.front().posizione, *via.back().posizione);
+    };
+    EXPECT_NEAR(parte(Scegli({{u"TORINO"_s, 0}, {u"XQWYZ"_s, 30, 1.2}, {u"VERONA"_s, 270, 1.2}}), 1), 0.1, 0.01);
+    const auto ignoti = Scegli({{u"TORINO"_s, 0}, {u"XQWYZ"_s, {}}, {u"XQWYY"_s, {}}, {u"VERONA"_s, 120, 1.2}});
+    EXPECT_NEAR(parte(ignoti, 1) * 2, parte(ignoti, 2), 0.001);
+    EXPECT_NEAR(parte(ignoti, 2), 1 - 100 / DistanzaKm({45.07, 7.69}, {45.44, 10.99}), 0.02);
+    // A stored row that tells no position is passed over; a name counts as far as an itinerary holds it.
+    prova::Inserisci(archive_, Table::Posizioni, {u"GUASTA"_s, u"boh"_s, u"1"_s});
+    ConfermaPosizione(archive_, u" un nome che non finisce mai e poi mai "_s, bergen);
+    const PosizioniConfermate confermate(archive_);
+    EXPECT_FALSE(confermate.Di(u"GUASTA"_s));
+    EXPECT_EQ(confermate.Di(u"UN NOME CHE NON FINISCE MAI E ANCORA"_s), bergen);
     // What lies before a ferry stays on its side of the sea.
     const std::vector<PosizioneTappa> sponda = Scegli({{u"REINE"_s, 0}, {u"IL MOLO"_s, 10, 1.3}, {u"BODØ"_s, {}}});
     EXPECT_TRUE(vicino(sponda[1], {67.93, 13.09}));

@@ -2,11 +2,20 @@
 // The map: what is where on the picture, and what a click there means.
 #include <gtest/gtest.h>
 
+#include <QContextMenuEvent>
+#include <QDialogButtonBox>
+#include <QHelpEvent>
 #include <QImage>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
+#include "cli/programma.h"
+#include "places/confermate.h"
+#include "support/parole.h"
+#include "ui/finestra.h"
 #include "ui/mappa/vista_mappa.h"
 
 namespace cronovia {
@@ -104,8 +113,117 @@ TEST_F(Mappa, IsMovedAndAnswersToClicks) {
     for (const Posizione& posizione : {kLivorno, kOlbia, kNuoro}) {
         EXPECT_TRUE(vista_.Vista().Visto().Contiene(Proietta(posizione)));
     }
+    // Arrows go to where they point, by as much; nearer and farther stay about the middle and within limits.
+    const QPointF mezzo(300, 300);
+    const Posizione centro = vista_.PosizioneIn(mezzo);
+    for (const auto& [tasto, passo] : {std::pair{Qt::Key_Left, QPointF(60, 0)},
+                                       {Qt::Key_Up, {60, 60}},
+                                       {Qt::Key_Right, {0, 60}},
+                                       {Qt::Key_Down, {0, 0}}}) {
+        QTest::keyClick(&vista_, tasto);
+        EXPECT_LT(QLineF(Dove(centro), mezzo + passo).length(), 0.01) << tasto;
+    }
+    const double scala = vista_.Vista().scala;
+    QTest::keyClick(&vista_, Qt::Key_Plus);
+    EXPECT_NEAR(vista_.Vista().scala, scala * 1.3, 1e-6);
+    QTest::keyClick(&vista_, Qt::Key_Minus);
+    EXPECT_NEAR(vista_.Vista().scala, scala, 1e-6);
+    EXPECT_LT(QLineF(Dove(centro), mezzo).length(), 0.01);
+    vista_.Ingrandisci(1e9);
+    EXPECT_LE(vista_.Vista().scala, 1000);
+    vista_.Ingrandisci(1e-9);
+    EXPECT_GE(vista_.Vista().scala, 0.01);
+    EXPECT_LT(DistanzaKm(vista_.PosizioneIn(mezzo), centro), 1);
+    // Once it was moved, it stays as it is in a window of another size; the whole journey fits itself into it.
+    vista_.Mostra(MappaDiProva(), false);
+    EXPECT_NEAR(vista_.Vista().scala, 0.02, 1e-6);
+    QTest::keyClick(&vista_, Qt::Key_Home);
+    vista_.resize(300, 300);
+    EXPECT_NEAR(vista_.Vista().scala, scala * (300 - 2 * 30) / (600 - 2 * 30), scala / 100);
     const Posizione qui = vista_.PosizioneIn(Dove(kMareAperto));
     EXPECT_LT(DistanzaKm(qui, kMareAperto), 0.1);
+}
+
+// Of two places the nearer one is meant, and told in words.
+TEST_F(Mappa, SaysWhatLiesThere) {
+    const QPointF fra = Dove(kOlbia) + (Dove(kNuoro) - Dove(kOlbia)) * 0.05;
+    ASSERT_NE(vista_.LuogoIn(fra), nullptr);
+    EXPECT_EQ(vista_.LuogoIn(fra)->nome, u"OLBIA"_s);
+    EXPECT_EQ(vista_.LuogoIn(Dove(kMareAperto)), nullptr);
+    const std::pair<Posizione, QString> casi[] = {{kLivorno, u"1. LIVORNO · giorno 1"_s},
+                                                  {kOlbia, u"2. OLBIA · giorno 1 · notte"_s},
+                                                  {kNuoro, u"3. NUORO · giorno 2 · posizione stimata"_s}};
+    for (const auto& [posizione, atteso] : casi) {
+        const QPoint punto = Dove(posizione).toPoint();
+        QHelpEvent chiede(QEvent::ToolTip, punto, vista_.mapToGlobal(punto));
+        QApplication::sendEvent(&vista_, &chiede);
+        EXPECT_EQ(prova::ComeSiLegge(QToolTip::text()), atteso);
+    }
+}
+
+class MappaNellaFinestra : public prova::FinestraTest {
+  protected:
+    VistaMappa& Vista() { return Trova<VistaMappa>(u"mappa"_s); }
+    // Entries of the menu that comes up there, one of which is chosen.
+    QString Menu(const QPointF& dove, const QString& scelta) {
+        QStringList voci;
+        QTimer::singleShot(0, form_.get(), [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (QAction* voce : menu->actions()) {
+                voci += voce->text();
+                if (voce->text() == scelta) menu->setActiveAction(voce);
+            }
+            QTest::keyClick(menu, menu->activeAction() != nullptr ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        QContextMenuEvent evento(QContextMenuEvent::Mouse, dove.toPoint(), Vista().mapToGlobal(dove.toPoint()));
+        QApplication::sendEvent(&Vista(), &evento);
+        QCoreApplication::processEvents();
+        return voci.join(u'|');
+    }
+    QPointF Dove(const Posizione& posizione) { return Vista().Vista().Pixel(Proietta(posizione)); }
+};
+
+TEST_F(MappaNellaFinestra, IsToldWhereAPlaceLies) {
+    const auto esegui = [this](QStringList parole) {
+        return prova::Programma::EseguiNudo(QStringList{u"--cartella"_s, cartella_.Path()} + parole).uscita.trimmed();
+    };
+    const QString codice = esegui({u"nuova"_s, u"GITA"_s, u"ITALIA"_s, u"--inizio"_s, u"5/6/2027 8:00"_s});
+    for (const QString& tappa : {u"PISA"_s, u"XQWYK"_s}) {
+        esegui({u"tappe"_s, codice, u"--aggiungi"_s, u"tappa="_s + tappa, u"km=20"_s});
+    }
+    Apri();
+    Tasto(Qt::CTRL | Qt::Key_M);
+    Trova<QTableView>(u"mfgTab"_s).setFocus();
+    Tasto(Qt::Key_Down);
+    ASSERT_EQ(Vista().RigaSegnata(), 2);
+    const auto confermata = [&] {
+        Archive archivio = Archive::Open(cartella_.Path());
+        return PosizioniConfermate(archivio).Di(u"XQWYK"_s);
+    };
+    const QPointF punto(30, 40);
+    EXPECT_EQ(Menu(punto, u"niente"_s), u"Metti qui XQWYK|Scrivi le coordinate di XQWYK…"_s);
+    EXPECT_FALSE(confermata());
+    const Posizione qui = Vista().PosizioneIn(punto);
+    Menu(punto, u"Metti qui XQWYK"_s);
+    ASSERT_TRUE(confermata());
+    EXPECT_LT(DistanzaKm(*confermata(), qui), 0.1);
+    EXPECT_EQ(Menu(Dove(qui), {}), u"Scrivi le coordinate di XQWYK…|Dimentica dove ho messo XQWYK"_s);
+    // Typed: what is none cannot be accepted, and called off it stays as it was.
+    for (const auto& [scritte, accettate] : {std::pair{u"43.7, 91 N"_s, false}, {u"43,7 N 11,2 E"_s, true}}) {
+        Attendi({Attesa::Che::Altro, u"coordinates"_s, {}, {}, accettate ? u"ok"_s : QString()});
+        Intanto([scritte = scritte, accettate = accettate] {
+            const QWidget* dialogo = QApplication::activeModalWidget();
+            dialogo->findChild<QLineEdit*>(u"txtCoordinate"_s)->setText(scritte);
+            const auto* ok = dialogo->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+            EXPECT_EQ(ok->isEnabled(), accettate) << scritte.toStdString();
+        });
+        Menu(Dove(*confermata()), u"Scrivi le coordinate di XQWYK…"_s);
+        EXPECT_EQ(DistanzaKm(*confermata(), {43.7, 11.2}) < 0.1, accettate);
+    }
+    TuttoVenuto();
+    Menu(Dove(*confermata()), u"Dimentica dove ho messo XQWYK"_s);
+    EXPECT_FALSE(confermata());
 }
 
 TEST(MappaPiana, LeadsThereAndBackAndKeepsDistances) {

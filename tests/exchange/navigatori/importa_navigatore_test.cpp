@@ -40,9 +40,15 @@ class Navigatore : public testing::Test {
 
 struct CasoNavigatore {
     const char* nome;
-    const char* contenuto;
+    QByteArray contenuto;
     const char* atteso;
 };
+
+QByteArray Utf16(const QString& testo) {
+    return "\xFF\xFE" + QByteArray(reinterpret_cast<const char*>(testo.utf16()), 2 * testo.size());
+}
+
+const QString kDati = QStringLiteral(CRONOVIA_TEST_DATA "/navigatori/");
 
 TEST_F(Navigatore, BecomesStages) {
     const CasoNavigatore casi[] = {
@@ -72,12 +78,38 @@ TEST_F(Navigatore, BecomesStages) {
          "\"geometry\":{\"type\":\"Point\",\"coordinates\":[7.69,45.07]}},{\"type\":\"Feature\",\"properties\":{"
          "\"name\":\"Asti\"},\"geometry\":{\"type\":\"Point\",\"coordinates\":[8.2,44.9]}}]}",
          "TORINO, ASTI 60 P"},
+        {"GeoJSON: the way as lines, the places in a collection, described in Italian",
+         "{\"type\":\"FeatureCollection\",\"features\":[{\"type\":\"Feature\",\"properties\":{\"nome\":\"A casa\"},"
+         "\"geometry\":{\"type\":\"GeometryCollection\",\"geometries\":[{\"type\":\"Point\",\"coordinates\":[7.9,45]}]}"
+         "},"
+         "{\"type\":\"Feature\",\"geometry\":{\"type\":\"MultiLineString\",\"coordinates\":[[[7.69,45.07],[7.9,45]],"
+         "[[7.9,45],[8.2,44.9]]]}}]}",
+         "TORINO, A CASA 18 P, ASTI 26 P"},
+        {"a recorded track, its ends without a name; short legs are local, long ones motorways",
+         "<kml><Placemark><Track><coord>7.69 45.07 240</coord><coord>7.75 45.03 240</coord><coord>7.9 45.0 0</coord>"
+         "<coord>8.93 44.41 10</coord></Track></Placemark><Placemark><name>Vicino</name><Point><coordinates>7.75,45.03"
+         "</coordinates></Point></Placemark></kml>",
+         "TORINO, VICINO 6 L, GENOVA 117 A"},
+        {"UTF-16, a name on several lines, a note and a kind",
+         Utf16(u"<gpx><rte><rtept lat='45.07' lon='7.69'><name>città\n di  forlì</name><cmt>b</cmt></rtept>"
+               "<rtept lat='44.9' lon='8.2'><name>Asti</name><sym>Flag</sym></rtept></rte></gpx>"_s),
+         "CITTÀ DI FORLÌ, ASTI 60 P"},
+        {"one point is no route: the places count",
+         "<gpx><rte><rtept lat='45.07' lon='7.69'/></rte><wpt lat='45.07' lon='7.69'><name>Uno</name></wpt>"
+         "<wpt lat='44.9' lon='8.2'><name>Due</name></wpt></gpx>",
+         "UNO, DUE 60 P"},
+        {"nobody lives where it ends", "769000|4507000|Torino|4|\r\n-3500000|4500000||2|\r\n",
+         "TORINO, 45,0000° N 35,0000° O 4040 A"},
         {"another file", "Ora\tKm\tIstruzione\r\n", "nessun percorso"},
         {"a page of the web", "<html><body>gpx</body></html>", "nessun percorso"},
     };
     for (const CasoNavigatore& caso : casi) {
         EXPECT_EQ(Tappe(File(u"percorso"_s, caso.contenuto)).toStdString(), caso.atteso) << caso.nome;
     }
+    EXPECT_EQ(Tappe(kDati + u"mappa.kmz"_s), u"TORINO, FORLÌ 440 A"_s) << "packed, of two maps the first";
+    EXPECT_EQ(TestoKmStimati({{}, {}, 0}), QString());
+    EXPECT_EQ(TestoKmStimati({{}, {}, 1}), u"I chilometri di una tappa sono stimati in linea d'aria: controllali."_s);
+    EXPECT_EQ(TestoKmStimati({{}, {}, 2}), u"I chilometri di 2 tappe sono stimati in linea d'aria: controllali."_s);
 }
 
 TEST_F(Navigatore, HostileFilesAreRefusedInASentence) {
@@ -93,6 +125,12 @@ TEST_F(Navigatore, HostileFilesAreRefusedInASentence) {
         {"a line that is none", "769000|4507000|Torino|4|\r\nciao\r\n", "non è di una tappa"},
         {"damaged", "{\"type\":\"FeatureCollection\",\"features\":[", "è rovinato"},
         {"without points", "<kml><Document/></kml>", "non c'è nessuna tappa"},
+        {"of Greenland's other side", "769000|4507000|Torino|4|\r\n18000001|4490000|Asti|2|\r\n",
+         "non sono di nessun luogo"},
+        {"numbers in a text", "{\"type\":\"Point\",\"coordinates\":[\"7.69\",45.07]}",
+         "coordinate «45.0700000, ?» non sono di nessun luogo"},
+        {"more stages than there are numbers", QByteArray("769000|4507000|X|0|\r\n").repeated(10'000),
+         "più di 9.999 tappe"},
         {"no packet", "PK\x03\x04 che non continua", "il pacchetto è rovinato"},
     };
     for (const CasoNavigatore& caso : casi) {
@@ -100,6 +138,9 @@ TEST_F(Navigatore, HostileFilesAreRefusedInASentence) {
         const QString messaggio = prova::MessaggioDi([&] { LeggiPercorsoNavigatore(path, gazzettino_); });
         EXPECT_TRUE(messaggio.contains(QString::fromUtf8(caso.atteso))) << caso.nome << ": " << messaggio.toStdString();
     }
+    EXPECT_TRUE(prova::MessaggioDi([&] {
+                    LeggiPercorsoNavigatore(kDati + u"senza-mappa.kmz"_s, gazzettino_);
+                }).contains(u"nel pacchetto non c'è nessuna mappa"_s));
     const QString nido = File(u"nido"_s, "<kml>" + QByteArray("<a>").repeated(1'000'000));
     EXPECT_TRUE(prova::MessaggioDi([&] { LeggiPercorsoNavigatore(nido, gazzettino_); }).contains(u"annidato"_s));
 }
@@ -113,7 +154,16 @@ TEST_F(Navigatore, OursComeBack) {
                                        {u"TORINO"_s, {}, {45.07, 7.69}}},
                                       {{u"Duomo"_s, u"Da vedere"_s, {44.7, 8.3}}, {u"Mole"_s, {}, {45.07, 7.69}}}};
     for (const FormatoPercorso formato : {FormatoPercorso::Gpx, FormatoPercorso::Kml, FormatoPercorso::Itn}) {
-        const QString tappe = Tappe(File(u"nostro"_s, ScriviPercorso(percorso, formato)));
+        const QString nostro = File(u"nostro"_s, ScriviPercorso(percorso, formato));
+        const QString tappe = Tappe(nostro);
+        const std::optional<FileNavigatore> letto = LeggiNavigatore(nostro);
+        ASSERT_TRUE(letto);
+        const auto& punti = formato == FormatoPercorso::Kml ? letto->luoghi
+                            : letto->rotta.empty()          ? letto->luoghi
+                                                            : letto->rotta;
+        for (std::size_t i = 0; i < percorso.tappe.size(); ++i) {
+            EXPECT_LT(DistanzaKm(punti.at(i).posizione, percorso.tappe[i].posizione), 0.01) << i;
+        }
         EXPECT_EQ(QString(tappe).remove(QRegularExpression(u" \\d+ [ASPL]\\b"_s)),
                   u"TORINO, L'ÎLE <1>, ASTI \"2\", TORINO"_s)
             << Estensione(formato).toStdString();
