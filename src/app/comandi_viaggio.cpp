@@ -236,6 +236,7 @@ void SalvaAltrove(Postazione& p) {
     Recupero vecchio = std::exchange(p.recupero, Recupero(cartella));
     p.Prova([&] { MettiAlSicuro(p); });
     vecchio.Segui({}, {});
+    p.volti.lavoraIn(cartella);
     const QString dove = QDir::toNativeSeparators(cartella);
     p.Mostra(
         u"L'archivio è ora anche nella cartella %1, e la finestra lavora lì. Ciò che non era salvato è ancora da "

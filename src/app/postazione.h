@@ -56,6 +56,7 @@ struct Volti {
     std::function<bool(const std::vector<SostaProposta>& soste)> confermaSoste = {};
     std::function<void(const QString& argomento)> manuale = {};  ///< opens it at the chapter of that heading
     std::function<void()> preferenze = {};                       ///< asks for them and takes them over
+    std::function<void(const QString& cartella)> lavoraIn = {};  ///< the archive is that of another folder from now on
 };
 
 /// The commands, in `comandi_*.h`, change it, ask and tell through the faces, and end; the window then shows it anew.

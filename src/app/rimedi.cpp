@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/rimedi.h"
 
+#include <QFileInfo>
+
 #include "app/riparazione.h"
 #include "store/archive.h"
 #include "store/archive_check.h"
@@ -30,6 +32,14 @@ bool Ripristinabile(const QString& cartella, bool riparabile) {
     return (riparabile || IsDestroyed(Archive::FilePath(cartella))) && !CopiesOf(cartella).empty();
 }
 
+// What becomes of the file that a copy takes the place of.
+QString CosaResta(const QString& cartella) {
+    const QString path = Archive::FilePath(cartella);
+    if (QFileInfo(path).size() == 0) return {};
+    if (IsDestroyed(path) || Riparabile(cartella)) return u"Il file di adesso resta nella cartella, messo da parte. "_s;
+    return u"L'archivio di adesso resta tra le copie. "_s;
+}
+
 }  // namespace
 
 std::optional<QString> RipristinaChiedendo(const RichiestaRimedio& richiesta) {
@@ -43,8 +53,8 @@ std::optional<QString> RipristinaChiedendo(const RichiestaRimedio& richiesta) {
     }
     const std::optional<QString> copia = richiesta.scegliCopia(copie);
     if (!copia) return std::nullopt;
-    const QString testo = u"%1\nL'archivio di adesso resta tra le copie. Ripristino la copia scelta?"_s.arg(
-        CosaCambierebbe(richiesta.cartella, *copia));
+    const QString testo = u"%1\n%2Ripristino la copia scelta?"_s.arg(CosaCambierebbe(richiesta.cartella, *copia),
+                                                                     CosaResta(richiesta.cartella));
     if (!ChiedeSePerdere(richiesta, testo, u"Ripristina una copia"_s)) return std::nullopt;
     return TestoRipristinata(*copia, RipristinaCopia(richiesta.cartella, *copia, richiesta.adesso));
 }

@@ -56,11 +56,33 @@ class Held {
     SQLite::Database& database_;
 };
 
+bool IsDamaged(SQLite::Database& database) { return AnyDamage(CheckDatabase(database, DepthForCopies(database))); }
+
 // By a connection of its own, as another thread needs one.
 bool IsDamagedAt(const std::string& path) {
     SQLite::Database database(path, SQLite::OPEN_READONLY, kBusyTimeoutMs);
     Distrust(database);
-    return AnyDamage(CheckDatabase(database, DepthForCopies(database)));
+    return IsDamaged(database);
+}
+
+// What is open is no more at its path: there is nothing, or another file.
+bool HasMoved(SQLite::Database& database) {
+    int moved = 0;
+    sqlite3_file_control(database.getHandle(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
+// The pages are copied as they are: to look through them where they come from, meanwhile, tells the same. Whether they
+// are damaged.
+bool CopyAndCheck(SQLite::Database& source, SQLite::Database& target) {
+    const Held held(source);
+    if (HasMoved(source)) {
+        CopyPages(source, target);
+        return IsDamaged(target);
+    }
+    std::future<bool> damaged = std::async(std::launch::async, IsDamagedAt, source.getFilename());
+    CopyPages(source, target);
+    return damaged.get();
 }
 
 // A copy that was never ended, since its program was killed.
@@ -138,11 +160,7 @@ QString LayCopy(SQLite::Database& source, const std::function<QString(int)>& nam
     Unfinished copy(name);
     {
         SQLite::Database target(copy.Path(), SQLite::OPEN_READWRITE);
-        const Held held(source);
-        // The pages are copied as they are: to look through them where they come from tells the same, meanwhile.
-        std::future<bool> damaged = std::async(std::launch::async, IsDamagedAt, source.getFilename());
-        CopyPages(source, target);
-        if (damaged.get()) throw SQLite::Exception("copy", SQLITE_CORRUPT);
+        if (CopyAndCheck(source, target)) throw SQLite::Exception("copy", SQLITE_CORRUPT);
     }
     return copy.Finish();
 }

@@ -90,6 +90,7 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
         const std::unique_ptr<FormMete> form = Apri(dati);
         if (form == nullptr) return 1;
         QObject::connect(&unica, &FinestraUnica::Richiamata, form.get(), &FormMete::Richiama);
+        QObject::connect(form.get(), &FormMete::LavoraIn, &unica, &FinestraUnica::Segui);
         form->show();
         QTimer::singleShot(0, form.get(), [&] {
             form->Comincia();

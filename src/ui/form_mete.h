@@ -63,6 +63,10 @@ class FormMete : public QMainWindow {
     /// Puts a panel, which then belongs to the window, where the person had it last, else on that side.
     void AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato);
 
+  Q_SIGNALS:
+    /// The window works in another data folder from now on.
+    void LavoraIn(const QString& cartella);
+
   protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

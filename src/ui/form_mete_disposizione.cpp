@@ -85,6 +85,7 @@ void FormMete::CreaBenvenuto(QGridLayout& area) {
 void FormMete::CompletaMenu() {
     postazione_.volti.manuale = [this](const QString& argomento) { ApriManuale(argomento); };
     postazione_.volti.preferenze = [this] { ScegliPreferenze(); };
+    postazione_.volti.lavoraIn = [this](const QString& cartella) { Q_EMIT LavoraIn(cartella); };
     for (const Comando comando :
          {Comando::Annulla, Comando::Ripeti, Comando::Taglia, Comando::Copia, Comando::Incolla, Comando::DuplicaRighe,
           Comando::TogliRighe, Comando::SpostaSu, Comando::SpostaGiu, Comando::DividiTappa, Comando::FineGiornata}) {

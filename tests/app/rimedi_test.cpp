@@ -5,6 +5,7 @@
 #include "store/archive.h"
 #include "support/archivio.h"
 #include "support/copione.h"
+#include "support/postazione.h"
 
 namespace cronovia {
 namespace {
@@ -35,9 +36,8 @@ TEST_F(RimediTest, AnArchiveThatIsNoMoreComesBackFromItsCopy) {
         prova::ScriviFile(cartella_.Archivio(), resta);
         const bool riparabile = resta.startsWith("SQLite");
         const QString titolo = u"Ripristina una copia"_s;
-        const QString domanda =
-            u"L'archivio di adesso non si può leggere. \nL'archivio di adesso resta tra le copie. Ripristino la copia "
-            "scelta?"_s;
+        const QString domanda = u"L'archivio di adesso non si può leggere. \n%1Ripristino la copia scelta?"_s.arg(
+            resta.isEmpty() ? QString() : u"Il file di adesso resta nella cartella, messo da parte. "_s);
         const Answer ripristina = riparabile ? Answer::No : Answer::Yes;
         copione_.Domanda(u"Guasto.\n\nChe cosa vuoi fare?"_s, u"Cronovia"_s, ripristina, riparabile)
             .Domanda(domanda, titolo, Answer::No)
@@ -59,6 +59,33 @@ TEST_F(RimediTest, NothingIsOfferedWhereNothingHelps) {
     QDir(CopiesFolder(cartella_.Path())).removeRecursively();
     EXPECT_EQ(Offre(), Rimedio::Nessuno);
     EXPECT_EQ(prova::LeggiFile(cartella_.Archivio()), QByteArray());
+}
+
+using prova::PostazioneTest;
+
+TEST_F(PostazioneTest, SavedElsewhereTheWorkGoesOnThere) {
+    MetaConTappe(u"UNO"_s, {u"ALBA"_s});
+    MettiAlSicuro(*postazione_);
+    const prova::CartellaDiProva altra;
+    altra.Crea();
+    QString dove;
+    postazione_->volti.lavoraIn = [&](const QString& cartella) { dove = cartella; };
+    ASSERT_TRUE(QFile::remove(cartella_.Archivio()));  // under the open window
+    for (const auto& [cartella, messaggio] :
+         {std::pair{QString(), QString()},
+          {cartella_.Path() + u"/non/esiste"_s, u"L'archivio non è stato copiato.…"_s},
+          {altra.Path(), u"L'archivio è ora anche nella cartella …"_s},
+          {altra.Path(), u"L'archivio non è stato copiato.…"_s}}) {
+        file_ = cartella;
+        if (!messaggio.isEmpty()) copione_.Messaggio(messaggio);
+        comandi::SalvaAltrove(*postazione_);
+    }
+    EXPECT_EQ(dove, altra.Path());
+    EXPECT_TRUE(Recupero(cartella_.Path()).Rimasti().empty());
+    EXPECT_TRUE(altra.Contenuto().contains(u"Cronovia.recupero"_s));
+    Memorizza(Answer::Yes);
+    EXPECT_EQ(prova::Localita(Sessione(altra.Path()).ApriMeta(u"1"_s).tappe), u"ALBA"_s);
+    EXPECT_FALSE(QFile::exists(cartella_.Archivio()));
 }
 
 }  // namespace

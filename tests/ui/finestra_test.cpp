@@ -160,6 +160,17 @@ TEST_F(ControlliTest, ASecondStartHandsOverToTheWindowThatIsOpen) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return seconda.state() == QProcess::NotRunning; }, 20'000));
     EXPECT_EQ(seconda.exitCode(), 0) << seconda.readAllStandardError().toStdString();
     EXPECT_TRUE(QTest::qWaitFor([this] { return Trova(u"frmExport"_s).isVisible() && !form_->isMinimized(); }, 5000));
+    // The archive was saved elsewhere: the window is found there, and where it was there is none.
+    const prova::CartellaDiProva altrove;
+    altrove.Crea();
+    unica.Segui(altrove.Path());
+    const auto risponde = [](const QString& cartella) {
+        QLocalSocket presa;
+        presa.connectToServer(NomeDellaFinestra(cartella));
+        return presa.waitForConnected(1000);
+    };
+    EXPECT_TRUE(risponde(altrove.Path()));
+    EXPECT_FALSE(risponde(cartella_.Path()));
 }
 
 TEST_F(ControlliTest, AProcessEndsWithAMessageWhenTheArchiveCannotBeOpened) {

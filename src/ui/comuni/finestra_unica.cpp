@@ -43,6 +43,11 @@ QString NomeDellaFinestra(const QString& cartella) {
     return u"cronovia-"_s + QString::fromLatin1(impronta.left(24));
 }
 
+FinestraUnica::FinestraUnica(QObject* parent) : QObject(parent) {
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&server_, &QLocalServer::newConnection, this, &FinestraUnica::Ricevi);
+}
+
 // Between looking for a window and being one no other start comes.
 bool FinestraUnica::Consegna(const QString& cartella, const QString& file) {
     const QString nome = NomeDellaFinestra(cartella);
@@ -53,10 +58,11 @@ bool FinestraUnica::Consegna(const QString& cartella, const QString& file) {
     return false;
 }
 
+void FinestraUnica::Segui(const QString& cartella) { Ascolta(NomeDellaFinestra(cartella)); }
+
 void FinestraUnica::Ascolta(const QString& nome) {
+    server_.close();
     QLocalServer::removeServer(nome);
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&server_, &QLocalServer::newConnection, this, &FinestraUnica::Ricevi);
     server_.listen(nome);
 }
 
