@@ -163,13 +163,9 @@ std::vector<Record> RecordDellaMeta(Sessione& sessione, const QString& codice) {
     const QString completo = sessione.ApriMeta(codice).meta.codice;
     const LocalitaDellaMeta localita = LocalitaDellItinerario(sessione.Archivio(), completo);
     if (localita.nomi.empty()) throw Failure(SenzaTappeMemorizzate().text);
-    std::vector<NamePattern> modelli;
-    modelli.reserve(localita.nomi.size());
-    for (const QString& nome : localita.nomi) modelli.push_back(NamePattern::ForName(nome));
     std::map<std::int64_t, Record> trovati;
-    sessione.Archivio().ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, [&](std::size_t, Record&& record) {
-        trovati.try_emplace(record.id, std::move(record));
-    });
+    PerOgniRecordDelle(sessione.Archivio(), localita.nomi,
+                       [&](std::size_t, Record&& record) { trovati.try_emplace(record.id, std::move(record)); });
     std::vector<Record> record;
     record.reserve(trovati.size());
     for (auto& [id, trovato] : trovati) record.push_back(std::move(trovato));

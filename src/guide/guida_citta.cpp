@@ -61,13 +61,9 @@ void Ordina(VociGuida& voci) {
 
 // The entries that each of the names, taken as a pattern, matches.
 std::vector<VociGuida> LeggiVoci(Archive& archive, std::span<const QString> nomi, const std::vector<TipoGuida>& tipi) {
-    std::vector<NamePattern> modelli;
-    modelli.reserve(nomi.size());
-    for (const QString& nome : nomi) modelli.push_back(NamePattern::ForName(nome));
     std::vector<VociGuida> voci(nomi.size());
-    archive.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, [&](std::size_t quale, Record&& record) {
-        voci[quale].push_back(VoceDelRecord(record, tipi));
-    });
+    PerOgniRecordDelle(archive, nomi,
+                       [&](std::size_t quale, Record&& record) { voci[quale].push_back(VoceDelRecord(record, tipi)); });
     for (VociGuida& trovate : voci) Ordina(trovate);
     return voci;
 }
@@ -125,6 +121,14 @@ QString DescrizioneTipoGuida(const std::vector<TipoGuida>& tipi, QStringView cod
         if (tipo.codice == codice) return tipo.descrizione;
     }
     return {};
+}
+
+void PerOgniRecordDelle(Archive& archive, std::span<const QString> localita,
+                        const std::function<void(std::size_t quale, Record&& record)>& visita) {
+    std::vector<NamePattern> modelli;
+    modelli.reserve(localita.size());
+    for (const QString& nome : localita) modelli.push_back(NamePattern::ForName(nome));
+    archive.ForEachMatch(Table::GuidaCitta, guida::Localita, modelli, visita);
 }
 
 LettoreGuida::LettoreGuida(Archive& archive) : archive_(archive), tipi_(CaricaTipiGuida(archive)) {}

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <unordered_set>
@@ -56,6 +57,11 @@ VoceGuida VoceDelRecord(const Record& record, const std::vector<TipoGuida>& tipi
 Durata LeggiTempoVisita(QStringView testo);
 /// "hh:mm", two digits each.
 QString TestoTempoVisita(const Durata& tempo);
+
+/// Visits the rows of the guide that each of the names, taken as a pattern, matches: which name, and the row, in no
+/// order. No more queries for many names than for one.
+void PerOgniRecordDelle(Archive& archive, std::span<const QString> localita,
+                        const std::function<void(std::size_t quale, Record&& record)>& visita);
 
 /// The entries of many localities, each as `LettoreGuida::Voci` finds them, with no more queries than for one.
 std::vector<VociGuida> VociDelleLocalita(Archive& archive, std::span<const QString> localita);
