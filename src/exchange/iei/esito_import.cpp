@@ -36,7 +36,8 @@ QString Differenze(const EsitoImport& esito) {
         u"mète non inserite perché il loro codice è ripetuto nel file (i loro tratti stanno con quelli della prima)"_s,
         esito.codiciRipetuti);
     conta(u"mète non inserite perché senza località o senza un codice valido"_s, esito.meteIncomplete);
-    conta(u"mète non inserite perché hanno più di 9.999 tratti stradali o un loro numero non valido"_s, esito.meteTroppoLunghe);
+    conta(u"mète non inserite perché hanno più di 9.999 tratti stradali o un loro numero non valido"_s,
+          esito.meteTroppoLunghe);
     conta(u"date d'inizio fuori dal loro mese, corrette"_s, esito.ritocchi.dateCorrette);
     conta(u"date d'inizio mancanti o illeggibili, lasciate vuote"_s, esito.ritocchi.dateIlleggibili);
     conta(u"soste che non sono una durata, non inserite"_s, esito.ritocchi.sosteRifiutate);
