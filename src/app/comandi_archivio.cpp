@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/comandi_archivio.h"
 
+#include <QScopeGuard>
+
 #include "app/niente_perso.h"
 #include "app/rimedi.h"
 
 namespace cronovia::comandi {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,6 +23,8 @@ void Riparti(Postazione& p) {
 
 void ConRimedio(Postazione& p, std::optional<QString> (*rimedio)(const RichiestaRimedio&)) {
     if (!NullaInSospeso(p)) return;
+    p.volti.avanzamento.Title(u"Lettura dell'archivio: con molte mète richiede un po' di tempo"_s);
+    const auto aRiposo = qScopeGuard([&] { p.volti.avanzamento.Advance(0, 0); });
     p.Prova([&] {
         const auto fatto = rimedio({p.sessione.Cartella(), p.volti.interazione, p.volti.scegliCopia, p.volti.adesso()});
         if (!fatto) return;
