@@ -58,6 +58,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
       postazione_(cartella, NuoviVolti(std::move(adesso))),
       cmbRicercaTappa_(new ElencoScelta(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
       viaggio_(new SchermoViaggio(postazione_, azioni_, [this](const auto& comando) { Esegui(comando); })),
+      testata_(new TestataViaggio(*viaggio_)),
       bottoni_(new FrmBottoni(azioni_)),
       griglia_(postazione_, [this](const auto& comando) { Esegui(comando); }),
       inserimento_(postazione_, azioni_, griglia_.Vista(), *cmbRicercaTappa_,
@@ -224,7 +225,10 @@ bool FormMete::Esegui(const std::function<void()>& comando) {
     Mostra();
     // A control that was disabled meanwhile had to give the focus away.
     if (fuoco != nullptr && fuoco->isVisible() && fuoco->isEnabled()) fuoco->setFocus();
-    if (postazione_.daCorreggere) viaggio_->FuocoSulCampo(*postazione_.daCorreggere);
+    if (postazione_.daCorreggere) {
+        testata_->Apri();
+        viaggio_->FuocoSulCampo(*postazione_.daCorreggere);
+    }
     FuocoSenzaMete();
     return true;
 }
@@ -232,6 +236,12 @@ bool FormMete::Esegui(const std::function<void()>& comando) {
 // Without a trip all begins with a new one.
 void FormMete::FuocoSenzaMete() {
     if (postazione_.SenzaMete()) azioni_.Pulsante(Comando::Nuovo).setFocus();
+}
+
+// Fields that are folded away leave the focus to the rows.
+void FormMete::FuocoInVista() {
+    const QWidget* fuoco = focusWidget();
+    if (fuoco == nullptr || !fuoco->isVisible()) griglia_.Vista().setFocus();
 }
 
 void FormMete::EseguiComando(Comando comando) {
@@ -353,6 +363,7 @@ void FormMete::Mostra() {
     azioni_.Applica(postazione_.Comandi());
     viaggio_->Mostra(!postazione_.documento.Calcolata() && !postazione_.InCorsa() &&
                      !postazione_.Su<schermata::Scambio>() && !postazione_.StampaAperta() && !postazione_.SenzaMete());
+    testata_->Mostra(postazione_);
     if (!guida_.Mostra(kRigheMinimeGriglia)) griglia_.Mostra();
     copia_.Mostra();
     inserimento_.Mostra();

@@ -29,6 +29,7 @@
 #include "ui/stampa/comando_stampa.h"
 #include "ui/viaggio/frm_bottoni.h"
 #include "ui/viaggio/schermo_viaggio.h"
+#include "ui/viaggio/testata_viaggio.h"
 
 class QGridLayout;
 
@@ -99,6 +100,7 @@ class FormMete : public QMainWindow {
     void Mostra();
     bool PossoChiudere();
     void FuocoSenzaMete();
+    void FuocoInVista();
     void Termina();
     [[nodiscard]] bool PuoFinireLaSessione();
     void RendiLeggibile();
@@ -113,6 +115,7 @@ class FormMete : public QMainWindow {
     Postazione postazione_;
     ElencoScelta* cmbRicercaTappa_;
     SchermoViaggio* viaggio_;
+    TestataViaggio* testata_;
     FrmBottoni* bottoni_;
     SchermoGriglia griglia_;
     SchermoInserimento inserimento_;

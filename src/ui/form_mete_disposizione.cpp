@@ -9,6 +9,7 @@
 
 #include "app/comandi_viaggio.h"
 #include "ui/comuni/aiuti.h"
+#include "ui/comuni/spazi.h"
 #include "ui/form_mete.h"
 
 namespace cronovia {
@@ -17,16 +18,18 @@ using namespace Qt::StringLiterals;
 
 void FormMete::Disponi() {
     auto* centro = new QWidget;
-    auto* layout = new QVBoxLayout(centro);
-    layout->setContentsMargins(4, 4, 4, 4);
-    layout->setSpacing(4);
+    auto* layout = Spaziato(new QVBoxLayout(centro), Spazi::Riquadro);
     areaGriglia_ = CreaAreaGriglia();
     avviso_->setObjectName(u"lblAvviso"_s);
     avviso_->setWordWrap(true);
     avviso_->hide();
+    auto* testa = Spaziato(new QHBoxLayout, Spazi::Pagina);
+    testa->setContentsMargins({});
+    testa->addWidget(testata_, 1);
+    testa->addWidget(avanzamento_);
+    layout->addLayout(testa);
     layout->addWidget(viaggio_);
     layout->addWidget(avviso_);
-    layout->addWidget(avanzamento_);
     layout->addWidget(areaGriglia_, 1);
     layout->addWidget(&scambio_.Riquadro(), 1);
     layout->addWidget(bottoni_);
@@ -44,8 +47,7 @@ void FormMete::Disponi() {
 QWidget* FormMete::CreaAreaGriglia() {
     auto* area = new QWidget;
     area->setObjectName(u"areaGriglia"_s);
-    auto* layout = new QGridLayout(area);
-    layout->setContentsMargins({});
+    auto* layout = Spaziato(new QGridLayout(area), Spazi::Riga);
     layout->addWidget(&griglia_.Vista(), 0, 0);
     layout->addWidget(&viaggio_->Elenco(), 0, 0, Qt::AlignLeft);
     layout->addWidget(cmbRicercaTappa_, 0, 0, Qt::AlignLeft);
@@ -55,7 +57,6 @@ QWidget* FormMete::CreaAreaGriglia() {
     layout->addWidget(&guida_.Riquadro(), 1, 0, 1, 2);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
-    cmbRicercaTappa_->setMinimumWidth(340);
     CreaStampe(*layout);
     CreaBenvenuto(*layout);
     return area;
@@ -91,6 +92,8 @@ void FormMete::CompletaMenu() {
           Comando::TogliRighe, Comando::SpostaSu, Comando::SpostaGiu, Comando::DividiTappa, Comando::FineGiornata}) {
         griglia_.Vista().addAction(&azioni_.Di(comando));
     }
+    azioni_.MenuDi(Menu::Vista).addAction(&testata_->Azione());
+    connect(&testata_->Azione(), &QAction::toggled, this, [this] { FuocoInVista(); });
     azioni_.MenuDi(Menu::Vista).addActions(griglia_.Vista().horizontalHeader()->actions());
     QMenu& aiuto = azioni_.MenuDi(Menu::Aiuto);
     QAction* informazioni = &azioni_.Di(Comando::Informazioni);
@@ -150,6 +153,12 @@ void FormMete::SegueAspetto() {
     aspetto_.Segue(
         u"colonne"_s, [this] { return griglia_.Vista().Larghezze(); },
         [this](const QVariant& larghezze) { griglia_.Vista().RipristinaLarghezze(larghezze.toByteArray()); });
+    aspetto_.Segue(
+        u"datiDelViaggio"_s, [this] { return testata_->Azione().isChecked(); },
+        [this](const QVariant& aperti) { testata_->Azione().setChecked(aperti.isNull() || aperti.toBool()); });
+    aspetto_.Segue(
+        u"altezzaGiornate"_s, [this] { return giornate_->Altezza(); },
+        [this](const QVariant& altezza) { giornate_->RicordaAltezza(altezza.toInt()); });
     aspetto_.Ripristina();
 }
 

@@ -75,7 +75,7 @@ TEST_F(AspettoTest, DisabledTextsAndBoxesAreSeenInEveryTheme) {
         EXPECT_GE(Contrasto(griglia.color(QPalette::Disabled, QPalette::HighlightedText),
                             griglia.color(QPalette::Disabled, QPalette::Highlight)),
                   4.5);
-        EXPECT_EQ(Trova(u"txtKmTot_0"_s).palette().color(QPalette::Base), sfondo);
+        EXPECT_EQ(QColor(Trova(u"txtKmTot_0"_s).palette().color(QPalette::Base).rgb()), sfondo);
         // A box that is not ticked is seen by its outline.
         const QImage spunta = Trova<QCheckBox>(u"chkEndDay"_s).grab().toImage();
         double bordo = 1;

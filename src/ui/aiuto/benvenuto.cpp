@@ -8,6 +8,7 @@
 #include <array>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -37,10 +38,10 @@ QLabel* TitoloBenvenuto() {
 QHBoxLayout* TestataBenvenuto() {
     QLabel* icona = NuovaScritta();
     icona->setPixmap(QIcon(u":/icone/cronovia.svg"_s).pixmap(72));
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     riga->addStretch();
     riga->addWidget(icona);
-    riga->addSpacing(12);
+    riga->addSpacing(kStaccoGrande);
     riga->addWidget(TitoloBenvenuto());
     riga->addStretch();
     return riga;
@@ -72,21 +73,21 @@ Benvenuto::Benvenuto() {
     esempio->setMenu(esempi);
     connect(nuovo, &QPushButton::clicked, this, &Benvenuto::NuovoViaggio);
     connect(importa, &QPushButton::clicked, this, &Benvenuto::Importa);
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     riga->addStretch();
     for (QPushButton* pulsante : {nuovo, importa, esempio}) {
         pulsante->setMinimumSize(170, 40);
         riga->addWidget(pulsante);
     }
     riga->addStretch();
-    auto* layout = new QVBoxLayout(this);
-    layout->addStretch();
-    layout->addLayout(TestataBenvenuto());
-    layout->addSpacing(8);
-    layout->addWidget(testo);
-    layout->addSpacing(16);
-    layout->addLayout(riga);
+    auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Dialogo);
     layout->addStretch(2);
+    layout->addLayout(TestataBenvenuto());
+    layout->addSpacing(kStacco);
+    layout->addWidget(testo);
+    layout->addSpacing(kStaccoGrande);
+    layout->addLayout(riga);
+    layout->addStretch(3);
     setAutoFillBackground(true);
 }
 

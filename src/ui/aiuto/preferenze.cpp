@@ -27,7 +27,7 @@ constexpr int kTestoMassimo = 200;
 constexpr int kPassoTesto = 25;
 
 QPalette ColoriScuri() {
-    QPalette colori(QColor(45, 48, 52));
+    QPalette colori(QColor(62, 66, 72));
     colori.setColor(QPalette::Window, QColor(45, 48, 52));
     colori.setColor(QPalette::Base, QColor(30, 32, 35));
     colori.setColor(QPalette::AlternateBase, QColor(38, 41, 45));

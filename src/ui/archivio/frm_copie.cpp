@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "calendar/testo.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -51,7 +52,7 @@ QTableWidget* TabellaCopie(const std::vector<CopiaInElenco>& copie) {
 std::optional<QString> ChiediCopia(QWidget& finestra, const std::vector<CopiaInElenco>& copie) {
     QDialog dialogo(&finestra);
     MostraTitolo(dialogo, u"Ripristina una copia"_s);
-    auto* layout = new QVBoxLayout(&dialogo);
+    auto* layout = Spaziato(new QVBoxLayout(&dialogo), Spazi::Dialogo);
     QTableWidget* tabella = TabellaCopie(copie);
     auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     pulsanti->button(QDialogButtonBox::Ok)->setText(u"Continua…"_s);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -15,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 kMillisecondiTraDueOcchiate = 40;
+constexpr int kLarghezzaBarra = 240;
 
 QString TestoARiposo() { return u"Sposta il mouse sui pulsanti/campi attivi per istruzioni."_s; }
 
@@ -28,11 +30,11 @@ Avanzamento::Avanzamento(QWidget* parent)
     txtPerc_->setAccessibleName(u"Avanzamento"_s);
     txtPerc_->setRange(0, 100);
     txtPerc_->setFormat(u" %p%"_s);
-    txtPerc_->setTextVisible(false);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(lblElaborazione_, 1);
-    layout->addWidget(txtPerc_, 1);
+    auto* layout = Spaziato(new QHBoxLayout(this), Spazi::Riga);
+    layout->addWidget(lblElaborazione_);
+    layout->addWidget(txtPerc_);
+    txtPerc_->setFixedWidth(kLarghezzaBarra);
+    txtPerc_->hide();
     ultima_.start();
 }
 
@@ -46,12 +48,12 @@ void Avanzamento::Advance(double count, double total) {
     if (done == 0.0) {
         MostraScritta(*lblElaborazione_, TestoARiposo());
         txtPerc_->setValue(0);
-        txtPerc_->setTextVisible(false);
+        txtPerc_->hide();
         return;
     }
     const int percento = static_cast<int>(std::floor(done / total * 100.0));
     if (percento != txtPerc_->value()) {
-        txtPerc_->setTextVisible(true);
+        txtPerc_->show();
         txtPerc_->setValue(percento);
     }
     LasciaVivereLaFinestra();

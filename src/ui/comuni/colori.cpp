@@ -15,7 +15,8 @@ namespace {
 
 constexpr double kContrastoMinimo = 4.5;
 constexpr double kContrastoDelBordo = 3;
-constexpr int kPasso = 10;  // hundredths
+constexpr int kPassoContrasto = 10;  // hundredths
+constexpr int kSmorzato = 60;        // hundredths of the ground in a text that is dimmed
 
 double Luminanza(const QColor& colore) {
     const auto lineare = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
@@ -29,7 +30,7 @@ QColor Leggibile(const QColor& spento, const QColor& acceso, std::span<const QCo
                            [&](const QColor& sfondo) { return Contrasto(colore, sfondo) >= kContrastoMinimo; });
     };
     int centesimi = 0;
-    while (centesimi < 100 && !siLegge(Misto(spento, acceso, centesimi))) centesimi += kPasso;
+    while (centesimi < 100 && !siLegge(Misto(spento, acceso, centesimi))) centesimi += kPassoContrasto;
     return Misto(spento, acceso, centesimi);
 }
 
@@ -50,7 +51,9 @@ class SegueIntorno : public QObject {
         const QPalette intorno = casella.parentWidget()->palette();
         QPalette colori = casella.palette();
         colori.setColor(QPalette::Text, intorno.color(QPalette::Active, QPalette::WindowText));
-        colori.setColor(QPalette::Base, intorno.color(QPalette::Active, QPalette::Window));
+        QColor sfondo = intorno.color(QPalette::Active, QPalette::Window);
+        sfondo.setAlpha(0);  // frames shade theirs
+        colori.setColor(QPalette::Base, sfondo);
         if (colori != casella.palette()) casella.setPalette(colori);
     }
 };
@@ -75,7 +78,16 @@ QPalette ConDisabilitatiLeggibili(QPalette palette) {
     const std::array sfondi = {disabilitato(QPalette::Window), disabilitato(QPalette::Base),
                                disabilitato(QPalette::Button)};
     for (const QPalette::ColorRole testo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, testo, Leggibile(disabilitato(testo), attivo(testo), sfondi));
+        // Themes that do not dim what is disabled leave one guessing what can be used.
+        const bool smorzato = disabilitato(testo) != attivo(testo);
+        const QColor spento = smorzato ? disabilitato(testo) : Misto(attivo(testo), sfondi[0], kSmorzato);
+        palette.setColor(QPalette::Disabled, testo, Leggibile(spento, attivo(testo), sfondi));
+    }
+    for (const QPalette::ColorGroup gruppo : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const std::array foglio = {palette.color(gruppo, QPalette::Base)};
+        palette.setColor(
+            gruppo, QPalette::PlaceholderText,
+            Leggibile(palette.color(gruppo, QPalette::PlaceholderText), palette.color(gruppo, QPalette::Text), foglio));
     }
     const std::array scelto = {disabilitato(QPalette::Highlight)};
     const QColor acceso =
@@ -93,7 +105,7 @@ void MostraLeSpunte(const QWidget& finestra) {
     const QColor scritta = finestra.palette().color(QPalette::Active, QPalette::WindowText);
     int centesimi = 0;
     while (centesimi < 100 && Contrasto(bordo(Misto(intorno, scritta, centesimi)), intorno) < kContrastoDelBordo) {
-        centesimi += kPasso;
+        centesimi += kPassoContrasto;
     }
     QPalette colori;
     colori.setColor(QPalette::Window, Misto(intorno, scritta, centesimi));

@@ -12,6 +12,7 @@
 
 #include "calendar/testo.h"
 #include "ui/comuni/colori.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -169,9 +170,9 @@ QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzi
     casella->setReadOnly(true);
     casella->setFocusPolicy(Qt::NoFocus);
     casella->setFrame(false);
-    casella->setAlignment(Qt::AlignCenter);
+    casella->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     ComeIntorno(*casella);
-    LarghezzaPer(*casella, cifre, 6);
+    LarghezzaPer(*casella, cifre, kSpazio);
     return casella;
 }
 
@@ -213,11 +214,6 @@ void Blocca(const QWidget& riquadro, bool bloccato) {
     for (QWidget* controllo : riquadro.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         if (!controllo->property(kNonBlocca).toBool()) controllo->setEnabled(!bloccato);
     }
-}
-
-void StringiRiquadro(QLayout& layout) {
-    layout.setContentsMargins(4, 3, 4, 3);
-    layout.setSpacing(3);
 }
 
 void LarghezzaPer(QWidget& controllo, int caratteri, int bordo) {

@@ -11,7 +11,6 @@
 
 #include "app/comandi.h"
 
-class QLayout;
 class QTableView;
 
 namespace cronovia {
@@ -58,9 +57,6 @@ QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);
 /// Disables all that a frame holds, or enables it, but for what is always as it is: its help, buttons of commands.
 void Blocca(const QWidget& riquadro, bool bloccato);
 void LasciaAbilitato(QWidget& controllo);
-
-/// Little room between the controls of a frame, so that all frames fit beside each other in a small window.
-void StringiRiquadro(QLayout& layout);
 
 /// Wide enough for so many characters of the control's font.
 void LarghezzaPer(QWidget& controllo, int caratteri, int bordo);

@@ -41,6 +41,10 @@ void ElencoScelta::Mostra(bool aperto, const std::function<std::vector<VoceScelt
             if (scelta.isValid() ? voce.dato == scelta : voce.corrente) setCurrentItem(mostrata);
         }
     }
+    if (aperto) {
+        const int righe = sizeHintForColumn(0) + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+        setMinimumWidth(std::max(minimumWidth(), righe));
+    }
     setVisible(aperto);
 }
 

@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -23,7 +24,7 @@ class Modulo : public QDialog {
         : QDialog(&finestra), richiesta_(richiesta), caselle_(richiesta.valori.size()) {
         MostraTitolo(*this, richiesta.titolo);
         setObjectName(u"modulo"_s);
-        auto* layout = new QVBoxLayout(this);
+        auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Dialogo);
         if (!richiesta.testo.isEmpty()) layout->addWidget(NuovaScritta(richiesta.testo));
         for (const GruppoModulo& gruppo : richiesta.gruppi) layout->addWidget(CreaGruppo(gruppo));
         auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -55,9 +56,9 @@ class Modulo : public QDialog {
   private:
     QWidget* CreaGruppo(const GruppoModulo& gruppo) {
         auto* riquadro = new QGroupBox(gruppo.titolo);
-        auto* layout = new QFormLayout(riquadro);
+        auto* layout = Spaziato(new QFormLayout(riquadro), Spazi::Pagina);
         for (const std::vector<CampoModulo>& campi : gruppo.righe) {
-            auto* riga = new QHBoxLayout;
+            auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
             for (const CampoModulo& campo : campi) {
                 QLineEdit* casella = CreaCasella(campo);
                 if (&campo != &campi.front()) riga->addWidget(NuovaEtichetta(campo.scritta, *casella));

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -18,8 +19,7 @@ RiquadroSovrapposto::RiquadroSovrapposto(const QString& nome, const QString& scr
     QFont grassetto = titolo->font();
     grassetto.setBold(true);
     titolo->setFont(grassetto);
-    contenuto_->setContentsMargins(16, 12, 16, 14);
-    contenuto_->setSpacing(8);
+    Spazia(*contenuto_, Spazi::Dialogo);
     contenuto_->addWidget(titolo);
     hide();
 }

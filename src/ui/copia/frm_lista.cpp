@@ -8,6 +8,7 @@
 #include <span>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -35,8 +36,7 @@ FrmLista::FrmLista(QWidget* parent)
     DisponiRighe(*mfgCopia_);
     // What is highlighted is the stretch; a click only says where it goes on.
     mfgCopia_->setSelectionMode(QTableView::NoSelection);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4, 4, 4, 4);
+    auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Riquadro);
     layout->addWidget(lblLista_);
     layout->addWidget(mfgCopia_, 1);
     connect(mfgCopia_, &QTableView::clicked, this, [this](const QModelIndex& i) { Q_EMIT Cliccata(i.row() + 1); });

@@ -8,6 +8,7 @@
 #include "calendar/testo.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -16,19 +17,19 @@ using namespace Qt::StringLiterals;
 
 FrmTratto::FrmTratto(Azioni& azioni) : QGroupBox(u"Tratto dal percorso:"_s) {
     setObjectName(u"frmTratto"_s);
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Riquadro);
     layout->addWidget(CreaEstremo(0, azioni.NuovoPulsante(Comando::AssegnaInizio)));
     layout->addWidget(CreaEstremo(1, azioni.NuovoPulsante(Comando::AssegnaFine)));
     chkInsSoste_ = new QCheckBox(u"Inserire anche le soste:"_s);
     chkInsSoste_->setObjectName(u"chkInsSoste"_s);
     MostraIstruzione(*chkInsSoste_, u"Copia anche le soste e le fini giornata delle tappe"_s);
     chkInsSoste_->setLayoutDirection(Qt::RightToLeft);
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     riga->addWidget(chkInsSoste_);
     riga->addStretch();
     riga->addWidget(NuovoAiuto(AiutoDuplica()));
     layout->addLayout(riga);
-    auto* comandi = new QHBoxLayout;
+    auto* comandi = Spaziato(new QHBoxLayout, Spazi::Riga);
     comandi->addWidget(azioni.NuovoPulsante(Comando::InserisceTratto));
     comandi->addWidget(azioni.NuovoPulsante(Comando::RinunciaCopia));
     layout->addLayout(comandi);
@@ -40,8 +41,7 @@ QWidget* FrmTratto::CreaEstremo(int estremo, QPushButton* assegna) {
     auto* riquadro = new QFrame;
     riquadro->setObjectName(inizio ? u"frmInizio"_s : u"frmArrivo"_s);
     riquadro->setFrameShape(QFrame::StyledPanel);
-    auto* layout = new QGridLayout(riquadro);
-    layout->setVerticalSpacing(3);
+    auto* layout = Spaziato(new QGridLayout(riquadro), Spazi::Riquadro);
     layout->addWidget(assegna, 0, 0, 1, 4);
     const QString tappa = inizio ? u"%1 della tappa iniziale"_s : u"%1 della tappa finale"_s;
     Estremo& e = estremi_[static_cast<std::size_t>(estremo)];

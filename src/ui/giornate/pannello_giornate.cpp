@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/giornate/pannello_giornate.h"
 
+#include <QMainWindow>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "app/comandi_righe.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/giornate/striscia_giornata.h"
 
@@ -62,15 +64,14 @@ PannelloGiornate::PannelloGiornate(Postazione& postazione, Esegui esegui)
     setObjectName(u"pannelloGiornate"_s);
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     auto* contenuto = new QWidget;
-    auto* layout = new QVBoxLayout(contenuto);
-    layout->setContentsMargins(2, 2, 2, 2);
-    layout->setSpacing(2);
+    auto* layout = Spaziato(new QVBoxLayout(contenuto), Spazi::Riquadro);
     avviso_->setObjectName(u"lblGiornate"_s);
     avviso_->setTextFormat(Qt::PlainText);
     avviso_->setWordWrap(true);
     layout->addWidget(avviso_);
     layout->addWidget(vista_, 1);
-    layout->addWidget(new Legenda);
+    legenda_ = new Legenda;
+    layout->addWidget(legenda_);
     setWidget(contenuto);
     connect(vista_, &VistaGiornate::RigaScelta, this, &PannelloGiornate::RigaScelta);
     connect(vista_, &VistaGiornate::GiornataScelta, this, &PannelloGiornate::GiornataScelta);
@@ -141,7 +142,31 @@ void PannelloGiornate::Aggiorna() {
     const Cronovia* cronovia = documento.Ultima();
     modello_.Mostra(cronovia, documento.Giornate());
     MostraScritta(*avviso_, cronovia != nullptr ? QString() : PercheVuoto(documento));
-    avviso_->setVisible(cronovia == nullptr);
+    MostraPieno(cronovia != nullptr);
+}
+
+// Without days there is a sentence; above or below the grid it takes no more room than it needs.
+void PannelloGiornate::MostraPieno(bool pieno) {
+    avviso_->setVisible(!pieno);
+    vista_->setVisible(pieno);
+    legenda_->setVisible(pieno);
+    if (pieno == pieno_) return;
+    pieno_ = pieno;
+    auto* finestra = qobject_cast<QMainWindow*>(parentWidget());
+    const Qt::DockWidgetArea dove = finestra == nullptr ? Qt::NoDockWidgetArea : finestra->dockWidgetArea(this);
+    const bool sopraOSotto = dove == Qt::TopDockWidgetArea || dove == Qt::BottomDockWidgetArea;
+    const bool basso = !pieno && sopraOSotto && !isFloating();
+    widget()->setMaximumHeight(basso ? widget()->sizeHint().height() : QWIDGETSIZE_MAX);
+    if (pieno && sopraOSotto) {
+        widget()->layout()->invalidate();
+        layout()->invalidate();
+        finestra->resizeDocks({this}, {altezza_ > 0 ? altezza_ : sizeHint().height()}, Qt::Vertical);
+    }
+}
+
+void PannelloGiornate::resizeEvent(QResizeEvent* event) {
+    Pannello::resizeEvent(event);
+    if (pieno_ == true && isVisible()) altezza_ = height();
 }
 
 void PannelloGiornate::Segue(int giornata, int riga) {

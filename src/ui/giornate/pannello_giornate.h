@@ -4,6 +4,7 @@
 
 #include <QDockWidget>
 #include <QLabel>
+#include <optional>
 
 #include "ui/comuni/esegui.h"
 #include "ui/comuni/pannello.h"
@@ -20,6 +21,9 @@ class PannelloGiornate : public Pannello {
     void Mostra(const Postazione& postazione) override;
     /// Follows the row of the schedule that is current elsewhere, or the day without a row.
     void Segue(int giornata, int riga);
+    /// How high it is while it has days to show, 0 until it had any; that of an earlier window.
+    [[nodiscard]] int Altezza() const { return altezza_; }
+    void RicordaAltezza(int altezza) { altezza_ = altezza; }
 
   Q_SIGNALS:
     /// The person wants to see a row of the schedule; a day. Both count from 0.
@@ -30,6 +34,7 @@ class PannelloGiornate : public Pannello {
 
   protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     using DellaGiornata = std::function<void(Postazione&, int giornata)>;
@@ -38,14 +43,18 @@ class PannelloGiornate : public Pannello {
     QAction* NuovaAzione(const QString& nome, const QString& testo, const QKeySequence& tasto, DellaGiornata comando);
     void Aggiorna();
     void MostraFine();
+    void MostraPieno(bool pieno);
 
     Postazione& postazione_;
     Esegui esegui_;
     ModelloGiornate modello_;
     VistaGiornate* vista_;
     QLabel* avviso_;
+    QWidget* legenda_ = nullptr;
     QAction* fine_ = nullptr;
-    int mostrata_ = -1;  // the version of the schedule
+    int mostrata_ = -1;          // the version of the schedule
+    std::optional<bool> pieno_;  // there are days
+    int altezza_ = 0;
 };
 
 }  // namespace cronovia

@@ -40,7 +40,7 @@ bool Scuro(const QPalette& colori) { return colori.color(QPalette::Base).lightne
 // Light bars would glare on a dark ground.
 QColor Fondo(GenerePezzo genere, const QPalette& colori) {
     const QColor fondo = QColor::fromRgb(Aspetto(genere).fondo);
-    return Scuro(colori) && fondo.lightness() > 150 ? Misto(fondo, colori.color(QPalette::Base), 55) : fondo;
+    return Scuro(colori) && fondo.lightness() > 150 ? Misto(fondo, colori.color(QPalette::Base), 65) : fondo;
 }
 
 QColor Leggibile(const QColor& fondo) {

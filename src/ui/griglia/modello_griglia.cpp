@@ -27,8 +27,12 @@ Qt::Alignment AllineamentoColonna(Colonna colonna) {
         case Colonna::Tappa:
         case Colonna::Note:
             return Qt::AlignLeft | Qt::AlignVCenter;
+        case Colonna::Numero:
         case Colonna::Km:
         case Colonna::KmProgressivi:
+        case Colonna::Tempo:
+        case Colonna::Sosta:
+        case Colonna::Guida:
             return Qt::AlignRight | Qt::AlignVCenter;
         default:
             return Qt::AlignCenter;

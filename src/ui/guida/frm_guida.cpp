@@ -9,6 +9,7 @@
 #include "store/schema.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -23,8 +24,7 @@ int LarghezzaCampo(guida::Field campo) { return Width(Table::GuidaCitta, campo);
 
 FrmGuida::FrmGuida(Azioni& azioni) : QGroupBox(u"Guida visite e soste tecniche:"_s) {
     setObjectName(u"frmGuida"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(4);
+    auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Riquadro);
     layout->addLayout(CreaCampi());
     QLabel* nota = NuovaScritta(
         u"Per inserire una nuova annotazione, posizionarsi sulla prima riga della località (quella vuota); per "
@@ -54,11 +54,10 @@ QLayout* FrmGuida::CreaCampi() {
     cmbGH_->setAccessibleName(u"Ore della visita"_s);
     cmbGM_ = NuovoElenco(u"cmbGM"_s, Quarti(), tempo);
     cmbGM_->setAccessibleName(u"Minuti della visita"_s);
-    auto* ore = new QHBoxLayout;
+    auto* ore = Spaziato(new QHBoxLayout, Spazi::Unito);
     ore->addWidget(cmbGH_);
     ore->addWidget(cmbGM_);
-    auto* griglia = new QGridLayout;
-    griglia->setVerticalSpacing(2);
+    auto* griglia = Spaziato(new QGridLayout, Spazi::Riga);
     griglia->addWidget(NuovaEtichetta(u"L&ocalità (clicca sulla tabella) sovrastante)"_s, *txtGCitta_), 0, 0);
     griglia->addWidget(NuovaEtichetta(u"&Monumento, museo, località punto sosta, ecc."_s, *txtGDescr_), 0, 1);
     griglia->addWidget(NuovaEtichetta(u"&Tipologia"_s, *cmbGTipo_), 0, 2);
@@ -74,7 +73,7 @@ QLayout* FrmGuida::CreaCampi() {
 }
 
 QLayout* FrmGuida::CreaComandi(Azioni& azioni) {
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     for (const Comando comando : {Comando::SalvaRigaGuida, Comando::CancellaRigaGuida, Comando::CercaInGuida}) {
         riga->addWidget(azioni.NuovoPulsante(comando));
     }

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -40,7 +41,7 @@ FrmGuidaStampa::FrmGuidaStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmGuidaS
     const auto gruppo = [](const QString& nome, const QString& scritta, QRadioButton* prima, QRadioButton* seconda) {
         auto* riquadro = new QGroupBox(scritta);
         riquadro->setObjectName(nome);
-        auto* layout = new QVBoxLayout(riquadro);
+        auto* layout = Spaziato(new QVBoxLayout(riquadro), Spazi::Pagina);
         layout->addWidget(prima);
         layout->addWidget(seconda);
         return riquadro;
@@ -51,12 +52,13 @@ FrmGuidaStampa::FrmGuidaStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmGuidaS
     QPushButton* anteprima = azioni.NuovoPulsante(Comando::AnteprimaGuida);
     QPushButton* rinuncia = azioni.NuovoPulsante(Comando::RinunciaStampaGuida);
     Pulsanti(stampa, rinuncia);
-    auto* gruppi = new QHBoxLayout;
+    auto* gruppi = Spaziato(new QHBoxLayout, Spazi::Pagina);
+    gruppi->setContentsMargins({});
     gruppi->addWidget(
         gruppo(u"frmGuidaStampaLista"_s, u"Località in stampa:"_s, optGuidaListaStampa_[1], optGuidaListaStampa_[0]));
     gruppi->addWidget(gruppo(u"frmStampaGuidaDettaglio"_s, u"Dettaglio:"_s, optGuidaDettaglioStampa_[0],
                              optGuidaDettaglioStampa_[1]));
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     for (QPushButton* pulsante : {stampa, anteprima, rinuncia}) riga->addWidget(pulsante);
     Contenuto().addLayout(gruppi);
     Contenuto().addLayout(riga);

@@ -14,8 +14,8 @@ namespace cronovia {
 namespace {
 
 Qt::Alignment AllineamentoColonna(ColonnaGuida colonna) {
-    const bool centrata =
-        colonna == ColonnaGuida::Numero || colonna == ColonnaGuida::Sosta || colonna == ColonnaGuida::Tempo;
+    if (colonna == ColonnaGuida::Numero) return Qt::AlignRight | Qt::AlignVCenter;
+    const bool centrata = colonna == ColonnaGuida::Sosta || colonna == ColonnaGuida::Tempo;
     return centrata ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter;
 }
 

@@ -11,6 +11,7 @@
 #include "store/schema.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 std::optional<Divisione> ChiediDivisione(QWidget& finestra, const QString& da, const Tappa& tappa) {
     QDialog dialogo(&finestra);
     MostraTitolo(dialogo, u"Divide la tappa"_s);
-    auto* layout = new QFormLayout(&dialogo);
+    auto* layout = Spaziato(new QFormLayout(&dialogo), Spazi::Dialogo);
     QLabel* tratta = NuovaScritta(u"Da %1 a %2, %3 km."_s.arg(da, tappa.localita).arg(tappa.km));
     auto* localita = NuovaCasella(u"txtDivisione"_s, Width(Table::Itinerari, itinerari::Localita) - 1,
                                   u"La località lungo la strada"_s);

@@ -13,6 +13,7 @@
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -36,7 +37,7 @@ bool SoloCifre(const QString& testo) { return std::all_of(testo.begin(), testo.e
 
 FrmInputBox::FrmInputBox(Azioni& azioni) : QGroupBox(u"Inserimento itinerario:"_s) {
     setObjectName(u"frmInputBox"_s);
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Riquadro);
     layout->addWidget(CreaCampi());
     layout->addWidget(CreaComandi(azioni));
     layout->addStretch();
@@ -44,10 +45,9 @@ FrmInputBox::FrmInputBox(Azioni& azioni) : QGroupBox(u"Inserimento itinerario:"_
 
 QWidget* FrmInputBox::CreaCampi() {
     auto* campi = new QWidget;
-    auto* layout = new QFormLayout(campi);
-    layout->setContentsMargins({});
-    layout->setVerticalSpacing(3);
-    txtRiga_ = NuovoRisultato(u"txtRiga"_s, 5, u"Numero cronologico della tappa (automatico)"_s);
+    auto* layout = Spaziato(new QFormLayout(campi), Spazi::Riga);
+    layout->setHorizontalSpacing(kStacco);
+    txtRiga_ = NuovoRisultato(u"txtRiga"_s, 4, u"Numero cronologico della tappa (automatico)"_s);
     txtTappa_ = NuovaCasella(u"txtTappa"_s, Width(Table::Itinerari, itinerari::Localita) - 1,
                              u"Indicare la località di arrivo"_s);
     txtNumStrada_ = NuovaCasella(u"txtNumStrada"_s, Width(Table::Itinerari, itinerari::NomeStrada),
@@ -61,7 +61,7 @@ QWidget* FrmInputBox::CreaCampi() {
     for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) LasciaAnnullare(*casella);
     cmbTipoStrada_ = NuovoElenco(u"cmbTipoStrada"_s, {u"Autostrada"_s, u"SuperStrada"_s, u"Principale"_s, u"Locale"_s},
                                  u"Tipo di strada"_s);
-    auto* soste = new QHBoxLayout;
+    auto* soste = Spaziato(new QHBoxLayout, Spazi::Unito);
     const std::array<QStringList, 3> voci = {Numeri(0, 15, 2), Numeri(0, 23, 2), Quarti()};
     const std::array<QString, 3> nomi = {u"Giorni di sosta"_s, u"Ore di sosta"_s, u"Minuti di sosta"_s};
     for (int i = 0; i < 3; ++i) {
@@ -80,22 +80,25 @@ QWidget* FrmInputBox::CreaCampi() {
         *chkKm_,
         u"Se attivo, inserendo un valore superiore al progressivo del giorno precedente, viene inserita la differenza; "
         "senza la spunta i chilometri sono quelli della tappa"_s);
-    auto* riga = new QHBoxLayout;
-    riga->addWidget(txtRiga_);
-    riga->addStretch();
-    riga->addWidget(NuovoAiuto(AiutoInserimento()));
-    auto* km = new QHBoxLayout;
+    auto* tappa = Spaziato(new QHBoxLayout, Spazi::Riga);
+    tappa->addWidget(txtTappa_);
+    tappa->addWidget(NuovaScritta(u"Riga"_s));
+    tappa->addWidget(txtRiga_);
+    auto* tipo = Spaziato(new QHBoxLayout, Spazi::Riga);
+    tipo->addWidget(cmbTipoStrada_);
+    tipo->addStretch();
+    tipo->addWidget(NuovoAiuto(AiutoInserimento()));
+    auto* km = Spaziato(new QHBoxLayout, Spazi::Riga);
     km->addWidget(txtKm_);
     km->addWidget(chkKm_);
-    layout->addRow(NuovaScritta(u"Riga"_s), riga);
-    layout->addRow(NuovaEtichetta(u"Ta&ppa"_s, *txtTappa_), txtTappa_);
-    layout->addRow(NuovaEtichetta(u"Numero strada (TRAGH=Traghetto)"_s, *txtNumStrada_));
-    layout->addRow(txtNumStrada_);
+    layout->addRow(NuovaEtichetta(u"Ta&ppa"_s, *txtTappa_), tappa);
+    layout->addRow(NuovaEtichetta(u"Numero strada\n(TRAGH=Traghetto)"_s, *txtNumStrada_), txtNumStrada_);
     layout->addRow(NuovaEtichetta(u"&Distanza in Km."_s, *txtKm_), km);
-    layout->addRow(NuovaEtichetta(u"Tipo di strada"_s, *cmbTipoStrada_), cmbTipoStrada_);
-    layout->addRow(NuovaEtichetta(u"E&ventuale sosta (in gg:hh:mm):"_s, *cmbSosta_[0]));
+    layout->addRow(NuovaEtichetta(u"Tipo di strada"_s, *cmbTipoStrada_), tipo);
+    soste->addSpacing(kSpazio);
     soste->addWidget(chkEndDay_);
-    layout->addRow(soste);
+    soste->addStretch();
+    layout->addRow(NuovaEtichetta(u"E&ventuale sosta\n(in gg:hh:mm)"_s, *cmbSosta_[0]), soste);
     lblSuggerimenti_ = NuovaScritta();
     lblSuggerimenti_->setObjectName(u"lblSuggerimenti"_s);
     lblSuggerimenti_->setWordWrap(true);
@@ -116,9 +119,7 @@ QWidget* FrmInputBox::CreaCampi() {
 QWidget* FrmInputBox::CreaComandi(Azioni& azioni) {
     auto* gruppo = new QFrame;
     gruppo->setObjectName(u"frmInsItOperativa"_s);
-    auto* layout = new QGridLayout(gruppo);
-    layout->setContentsMargins({});
-    layout->setSpacing(3);
+    auto* layout = Spaziato(new QGridLayout(gruppo), Spazi::Riga);
     int indice = 0;
     for (const Comando comando : kDisposizione) {
         layout->addWidget(azioni.NuovoPulsante(comando), indice / 2, indice % 2);

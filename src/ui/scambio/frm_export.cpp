@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -16,7 +17,7 @@ using namespace Qt::StringLiterals;
 FrmExport::FrmExport(Azioni& azioni) : azioni_(azioni) {
     setObjectName(u"frmExport"_s);
     setFrameShape(QFrame::StyledPanel);
-    auto* layout = new QGridLayout(this);
+    auto* layout = Spaziato(new QGridLayout(this), Spazi::Pagina);
     QLabel* titolo = NuovaScritta(u"Export/Import mete (compresi percorsi e guide città)"_s);
     QFont grassetto = titolo->font();
     grassetto.setBold(true);
@@ -60,14 +61,14 @@ QTableView* FrmExport::NuovaGriglia(int indice) {
 
 QWidget* FrmExport::CreaPulsanti(Azioni& azioni) {
     auto* colonna = new QWidget;
-    auto* layout = new QVBoxLayout(colonna);
+    auto* layout = Spaziato(new QVBoxLayout(colonna), Spazi::Riga);
     layout->addStretch();
     for (const Comando comando : {Comando::ScambiaTutteDaPrima, Comando::ScambiaTutteDaSeconda}) {
         QPushButton* pulsante = azioni.NuovoPulsante(comando);
         pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(u"<--- Tutti [999999]"_s) + 24);
         layout->addWidget(pulsante);
     }
-    layout->addSpacing(24);
+    layout->addSpacing(kStaccoGrande);
     layout->addWidget(azioni.NuovoPulsante(Comando::ImExp));
     layout->addWidget(azioni.NuovoPulsante(Comando::FineScambio));
     layout->addStretch();

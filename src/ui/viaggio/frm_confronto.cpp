@@ -8,6 +8,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -50,7 +51,7 @@ QTableWidget* TabellaAlternative(const std::vector<Alternativa>& alternative) {
 std::optional<std::size_t> ScegliAlternativa(QWidget& finestra, const std::vector<Alternativa>& alternative) {
     QDialog dialogo(&finestra);
     MostraTitolo(dialogo, u"Confronta"_s);
-    auto* layout = new QVBoxLayout(&dialogo);
+    auto* layout = Spaziato(new QVBoxLayout(&dialogo), Spazi::Dialogo);
     QTableWidget* tabella = TabellaAlternative(alternative);
     auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     pulsanti->button(QDialogButtonBox::Ok)->setText(u"Prendi questa"_s);

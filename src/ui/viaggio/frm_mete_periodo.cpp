@@ -16,6 +16,7 @@
 #include "ui/comuni/colori.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/maiuscole.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -40,9 +41,7 @@ QHBoxLayout* NuovoGruppo(QGridLayout& griglia, int riga, const QString& nome, co
     auto* gruppo = new QFrame;
     gruppo->setObjectName(nome);
     gruppo->setAccessibleName(scritta);
-    auto* layout = new QHBoxLayout(gruppo);
-    layout->setContentsMargins({});
-    layout->setSpacing(2);
+    auto* layout = Spaziato(new QHBoxLayout(gruppo), Spazi::Unito);
     griglia.addWidget(NuovaScritta(scritta), riga, 0);
     griglia.addWidget(gruppo, riga, 1, 1, 2);
     return layout;
@@ -52,13 +51,13 @@ QHBoxLayout* NuovoGruppo(QGridLayout& griglia, int riga, const QString& nome, co
 
 FrmMetePeriodo::FrmMetePeriodo(int annoCorrente, QWidget* parent) : QGroupBox(u"Periodo del viaggio:"_s, parent) {
     setObjectName(u"frmMetePeriodo"_s);
-    auto* layout = new QGridLayout(this);
-    StringiRiquadro(*layout);
+    auto* layout = Spaziato(new QGridLayout(this), Spazi::Riquadro);
     CreaMeta(*layout);
     CreaInizio(*layout, annoCorrente);
     CreaFine(*layout);
     CreaCalcolo(*layout);
-    layout->addWidget(NuovoAiuto(AiutoPeriodo()), 1, 2, Qt::AlignRight);  // Tab reaches it behind the fields
+    layout->addWidget(NuovoAiuto(AiutoPeriodo()), 6, 2,
+                      Qt::AlignRight | Qt::AlignBottom);  // Tab reaches it behind the fields
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(6, 1);
 }
@@ -82,8 +81,8 @@ void FrmMetePeriodo::CreaMeta(QGridLayout& layout) {
 
 void FrmMetePeriodo::CreaInizio(QGridLayout& griglia, int annoCorrente) {
     // Two rows, or the lists would not fit into a small window beside those of the other frames.
-    QHBoxLayout* giorno = NuovoGruppo(griglia, 2, u"frmMeteInizio"_s, u"Inizio:"_s);
-    QHBoxLayout* ora = NuovoGruppo(griglia, 3, u"frmMeteOraInizio"_s, u"alle ore:"_s);
+    QHBoxLayout* giorno = NuovoGruppo(griglia, 2, u"frmMeteInizio"_s, u"Inizio"_s);
+    QHBoxLayout* ora = NuovoGruppo(griglia, 3, u"frmMeteOraInizio"_s, u"alle ore"_s);
     txtInizioGSett_ = NuovoRisultato(u"txtInizioGSett"_s, 3, u"Giorno della settimana della partenza"_s);
     giorno->addWidget(txtInizioGSett_);
     const std::array<QStringList, 5> voci = {Numeri(1, 31, 2), Numeri(1, 12, 2),
@@ -139,7 +138,7 @@ bool FrmMetePeriodo::RifiutaAnno() {
 }
 
 void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
-    QHBoxLayout* layout = NuovoGruppo(griglia, 4, u"frmMeteFine"_s, u"Fine:"_s);
+    QHBoxLayout* layout = NuovoGruppo(griglia, 4, u"frmMeteFine"_s, u"Fine"_s);
     const std::array<QString, 7> nomi = {u"Giorno di fine"_s,  u"Mese di fine"_s,
                                          u"Anno di fine"_s,    u"Ora di fine"_s,
                                          u"Minuti di fine"_s,  u"Giorno della settimana della fine"_s,
@@ -147,18 +146,24 @@ void FrmMetePeriodo::CreaFine(QGridLayout& griglia) {
     for (std::size_t i = 0; i < txtFine_.size(); ++i) {
         txtFine_[i] = NuovoRisultato(NomeDiSerie(u"txtFine"_s, static_cast<int>(i)), kCifreFine[i], nomi[i]);
     }
-    for (const std::size_t i : {5U, 0U, 1U, 2U, 3U, 4U, 6U}) layout->addWidget(txtFine_[i]);
-    layout->addWidget(NuovaScritta(u"gg."_s));
+    // As dates and hours are written, while there is an end.
+    const std::array<QString, 7> dopo = {u"/"_s, u"/"_s, {}, u":"_s, {}, {}, u"gg."_s};
+    for (const std::size_t i : {5U, 0U, 1U, 2U, 3U, 4U, 6U}) {
+        layout->addWidget(txtFine_[i]);
+        if (dopo[i].isEmpty()) continue;
+        segniFine_.push_back(NuovaScritta(dopo[i]));
+        layout->addWidget(segniFine_.back());
+    }
     layout->addStretch();
     lblScadenza_ = NuovaScritta();
     lblScadenza_->setObjectName(u"lblScadenza"_s);
     lblScadenza_->setWordWrap(true);
     lblScadenza_->hide();
-    griglia.addWidget(lblScadenza_, 6, 0, 1, 3);
+    griglia.addWidget(lblScadenza_, 6, 0, 1, 2);
 }
 
 void FrmMetePeriodo::CreaCalcolo(QGridLayout& griglia) {
-    auto* layout = new QHBoxLayout;
+    auto* layout = Spaziato(new QHBoxLayout, Spazi::Riga);
     cmbGiorni_ = NuovoElenco(u"cmbGiorni"_s, {u"000"_s},
                              u"Giorni che il viaggio deve durare: le soste si adeguano (000 = quanti ne servono)"_s);
     LasciaScrivereCifre(*cmbGiorni_, 4);
@@ -225,6 +230,7 @@ void FrmMetePeriodo::Mostra(const Meta& meta, const RiepilogoItinerario& riepilo
 void FrmMetePeriodo::MostraFine(const TestiFine& fine) {
     const auto testi = fine.Elenco();
     for (std::size_t i = 0; i < txtFine_.size(); ++i) txtFine_[i]->setText(testi[i]);
+    for (QLabel* segno : segniFine_) segno->setVisible(!fine.giorno.isEmpty());
 }
 
 void FrmMetePeriodo::MostraScadenza(const QString& scadenza, bool inRitardo) {

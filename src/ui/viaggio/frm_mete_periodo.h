@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <array>
+#include <vector>
 
 #include "itinerary/riepilogo.h"
 #include "schedule/riga_cronovia.h"
@@ -63,6 +64,7 @@ class FrmMetePeriodo : public QGroupBox {
     QString annoMostrato_;
     QLineEdit* txtInizioGSett_;
     std::array<QLineEdit*, 7> txtFine_{};
+    std::vector<QLabel*> segniFine_;  // between the parts of the end
     QLabel* lblScadenza_;
     QComboBox* cmbGiorni_;
     QComboBox* cmbSoste_;

@@ -10,6 +10,7 @@
 #include "trips/limiti_parametri.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -41,9 +42,9 @@ QStringList NumeriDiRiposo() {
 
 FrmMeteTempi::FrmMeteTempi(Azioni& azioni) : QGroupBox(u"Tempi tecnici giornalieri/Riposi/Visite:"_s) {
     setObjectName(u"frmMeteTempi"_s);
-    auto* layout = new QGridLayout(this);
+    auto* layout = Spaziato(new QGridLayout(this), Spazi::Riquadro);
     layout->addWidget(NuovaScritta(u"Orari attività"_s), 0, 0, 1, 2);
-    layout->addWidget(NuovaScritta(u"Durata"_s), 0, 2, 1, 2, Qt::AlignCenter);
+    layout->addWidget(NuovaScritta(u"Durata"_s), 0, 3);
     AggiungiOrario(*layout, 0, 1, 0, u"Colaz."_s);
     AggiungiOrario(*layout, 1, 2, 0, u"Pranzo"_s);
     AggiungiOrario(*layout, 4, 2, 2, {});
@@ -55,7 +56,6 @@ FrmMeteTempi::FrmMeteTempi(Azioni& azioni) : QGroupBox(u"Tempi tecnici giornalie
     AggiungiOrario(*layout, 8, 4, 2, u"Tragh."_s);
     CreaRiposi(*layout);
     CreaDefault(azioni, *layout);
-    StringiRiquadro(*layout);
     layout->setRowStretch(7, 1);
 }
 
@@ -67,8 +67,7 @@ void FrmMeteTempi::AggiungiOrario(QGridLayout& layout, std::size_t orario, int r
     cmbOra_[orario] =
         NuovoElenco(NomeDiSerie(u"cmbOra"_s, indice), Numeri(dati.primaOra, dati.ultimaOra, 2), istruzione);
     cmbMin_[orario] = NuovoElenco(NomeDiSerie(u"cmbMin"_s, indice), Quarti(), istruzione + u" (minuti)"_s);
-    auto* coppia = new QHBoxLayout;
-    coppia->setSpacing(0);
+    auto* coppia = Spaziato(new QHBoxLayout, Spazi::Unito);
     coppia->addWidget(cmbOra_[orario]);
     coppia->addWidget(cmbMin_[orario]);
     for (QComboBox* elenco : {cmbOra_[orario], cmbMin_[orario]}) {
@@ -76,7 +75,7 @@ void FrmMeteTempi::AggiungiOrario(QGridLayout& layout, std::size_t orario, int r
         elenco->installEventFilter(this);
     }
     if (!etichetta.isEmpty()) {
-        layout.addWidget(NuovaEtichetta(etichetta, *cmbOra_[orario]), riga, colonna, Qt::AlignRight | Qt::AlignVCenter);
+        layout.addWidget(NuovaEtichetta(etichetta, *cmbOra_[orario]), riga, colonna);
     }
     layout.addLayout(coppia, riga, colonna + 1);
 }
@@ -110,11 +109,10 @@ void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
         layout.addWidget(NuovaEtichetta(testo, *elenco), riga, 6);
         ++riga;
     }
-    layout.setColumnMinimumWidth(4, 4);
 }
 
 void FrmMeteTempi::CreaDefault(Azioni& azioni, QGridLayout& layout) {
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     for (const Comando comando : {Comando::SalvaDefault, Comando::CaricaDefault, Comando::RipristinaDefault}) {
         riga->addWidget(azioni.NuovoPulsante(comando));
     }

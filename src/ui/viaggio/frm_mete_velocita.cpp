@@ -5,6 +5,7 @@
 
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -23,11 +24,10 @@ constexpr std::array<Medie, kTipiStrada> kMedie = {{{50, 140}, {45, 110}, {30, 7
 
 FrmMeteVelocita::FrmMeteVelocita(QWidget* parent) : QGroupBox(u"Percorrenze:"_s, parent) {
     setObjectName(u"frmMeteVelocita"_s);
-    auto* layout = new QGridLayout(this);
-    StringiRiquadro(*layout);
+    auto* layout = Spaziato(new QGridLayout(this), Spazi::Riquadro);
     layout->addWidget(NuovaScritta(u"km/h"_s), 0, 1);
-    layout->addWidget(NuovaScritta(u"Km."_s), 0, 2, Qt::AlignCenter);
-    layout->addWidget(NuovaScritta(u"Tempo"_s), 0, 3, Qt::AlignCenter);
+    layout->addWidget(NuovaScritta(u"Km."_s), 0, 2, Qt::AlignRight);
+    layout->addWidget(NuovaScritta(u"Tempo"_s), 0, 3, Qt::AlignRight);
     for (int i = 0; i <= kTipiStrada; ++i) {
         const auto indice = static_cast<std::size_t>(i);
         const bool tutti = i == kTipiStrada;

@@ -8,6 +8,7 @@
 #include "calendar/testo.h"
 #include "schedule/testi_ore.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 
 namespace cronovia {
 
@@ -38,9 +39,7 @@ SchermoViaggio::SchermoViaggio(Postazione& postazione, Azioni& azioni, Esegui es
       tempi_(new FrmMeteTempi(azioni)),
       cmbRicerca_(new ElencoScelta(u"cmbRicerca"_s, u"Mète memorizzate"_s)) {
     cmbRicerca_->Intesta(RigaElenco(u"Mèta"_s, u"Nazione"_s, u"Partenza"_s));
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->setSpacing(3);
+    auto* layout = Spaziato(new QHBoxLayout(this), Spazi::Riga);
     layout->addWidget(periodo_, 1);
     layout->addWidget(velocita_);
     layout->addWidget(tempi_);
