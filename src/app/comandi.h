@@ -30,6 +30,9 @@ struct DescrizioneComando {
 [[nodiscard]] const std::array<DescrizioneComando, kComandi>& TabellaComandi();
 [[nodiscard]] const DescrizioneComando& Descrizione(Comando comando);
 
+/// Name of its drawing, "salva"; empty when it has none.
+[[nodiscard]] QString Icona(Comando comando);
+
 /// Captions at this moment: one command unlocks what it computed, another one stops what runs, undo names its step.
 [[nodiscard]] QString Scritta(Comando comando, const StatoComandi& stato);
 [[nodiscard]] QString VoceDiMenu(Comando comando, const StatoComandi& stato);

@@ -87,5 +87,47 @@ TEST_F(AspettoTest, DisabledTextsAndBoxesAreSeenInEveryTheme) {
     QApplication::setPalette(prima);
 }
 
+// How far the lines of a sign tell themselves from their ground; 1 for one that is not there.
+double ContrastoDelSegno(const QIcon& icona, QIcon::Mode modo, const QColor& sfondo) {
+    const QImage segno = icona.pixmap(QSize(32, 32), modo).toImage();
+    double contrasto = 1;
+    for (int y = 0; y < segno.height(); ++y) {
+        for (int x = 0; x < segno.width(); ++x) {
+            const QColor punto = segno.pixelColor(x, y);
+            if (punto.alpha() > 200) contrasto = std::max(contrasto, Contrasto(punto, sfondo));
+        }
+    }
+    return contrasto;
+}
+
+TEST_F(AspettoTest, CommandsHaveSignsThatAreSeenInEveryTheme) {
+    Apri();
+    const QPalette prima = QApplication::palette();
+    form_->resize(1280, 800);
+    for (const QColor& sfondo : {QColor(240, 240, 240), QColor(40, 40, 45)}) {
+        QApplication::setPalette(QPalette(sfondo, sfondo));
+        QCoreApplication::processEvents();
+        for (const auto* pulsante : Trova(u"frmBottoni"_s).findChildren<QPushButton*>()) {
+            for (const QIcon::Mode modo : {QIcon::Normal, QIcon::Disabled}) {
+                EXPECT_GE(ContrastoDelSegno(pulsante->icon(), modo, sfondo), 4.5) << pulsante->text().toStdString();
+            }
+        }
+        for (const DescrizioneComando& comando : TabellaComandi()) {
+            if (Icona(comando.comando).isEmpty()) continue;
+            const QString nome = QString::fromUtf16(comando.nome).mid(3);
+            const auto& azione = Trova<QAction>(nome[0].toLower() + nome.mid(1));
+            EXPECT_GE(ContrastoDelSegno(azione.icon(), QIcon::Normal, sfondo), 4.5) << nome.toStdString();
+        }
+    }
+    QApplication::setPalette(prima);
+    // In a small window the words come first.
+    form_->resize(960, 600);
+    QCoreApplication::processEvents();
+    for (const auto* pulsante : Trova(u"frmBottoni"_s).findChildren<QPushButton*>()) {
+        const QString scritta = pulsante->text().remove(u'&');
+        EXPECT_GE(pulsante->width(), pulsante->fontMetrics().horizontalAdvance(scritta)) << scritta.toStdString();
+    }
+}
+
 }  // namespace
 }  // namespace cronovia

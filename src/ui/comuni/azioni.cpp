@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/icone.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -41,6 +42,7 @@ void Azioni::CreaAzione(const DescrizioneComando& comando) {
     azione->setToolTip(TestoPiano(QString::fromUtf16(comando.istruzione)));
     azione->setShortcut(QKeySequence::fromString(QString::fromUtf16(comando.scorciatoia), QKeySequence::PortableText));
     azione->setMenuRole(QAction::NoRole);
+    azione->setIcon(IconaDelComando(comando.comando, PostoIcona::Menu));
     connect(azione, &QAction::triggered, this, [this, quale = comando.comando] { Q_EMIT Chiesto(quale); });
     azioni_[static_cast<std::size_t>(comando.comando)] = azione;
     if (comando.menu == Menu::Nessuno) return;

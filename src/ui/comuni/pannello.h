@@ -15,6 +15,12 @@ class Pannello : public QDockWidget {
 
     /// Called whenever the state is shown anew.
     virtual void Mostra(const Postazione& postazione) = 0;
+
+  protected:
+    bool event(QEvent* event) override;
+
+  private:
+    void SegniVisibili();
 };
 
 }  // namespace cronovia

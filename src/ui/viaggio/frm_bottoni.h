@@ -3,7 +3,11 @@
 #pragma once
 
 #include <QFrame>
+#include <QHBoxLayout>
+#include <QIcon>
 #include <QPushButton>
+#include <utility>
+#include <vector>
 
 #include "ui/comuni/azioni.h"
 
@@ -16,8 +20,15 @@ class FrmBottoni : public QFrame {
     /// The conversion of old data is shown while it is on offer.
     void Mostra(bool converteOfferto) { cmdConverte_->setVisible(converteOfferto); }
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
+    void MostraIcone();
+
     QPushButton* cmdConverte_;
+    QHBoxLayout* riga_ = nullptr;
+    std::vector<std::pair<QPushButton*, QIcon>> pulsanti_;
 };
 
 }  // namespace cronovia
