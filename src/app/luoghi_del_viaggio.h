@@ -19,11 +19,13 @@ struct PropostaNome {
     QString spiegazione;  ///< the country of a place that the program knows; empty for names used before
 };
 
+/// Where the localities of the open trip lie, and which names can follow: kept as long as its stages stay as they are.
 class LuoghiDelViaggio {
   public:
     /// The file of places; read when something is asked.
     explicit LuoghiDelViaggio(QString file) : gazzettino_(std::move(file)) {}
 
+    /// The places that the program knows by itself; without its file they are none.
     [[nodiscard]] Gazzettino& Repertorio() { return gazzettino_; }
 
     /// Those of these stages; looked up anew when they, or the archive, are others than at the last time.

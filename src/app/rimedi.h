@@ -17,11 +17,12 @@ namespace cronovia {
 /// Path of the copy to be put back; nothing when the person does not want any.
 using ScegliCopia = std::function<std::optional<QString>(const std::vector<CopiaInElenco>&)>;
 
+/// For whom an archive is mended; what is referred to must outlive the call.
 struct RichiestaRimedio {
-    const QString& cartella;
+    const QString& cartella;  ///< the data folder
     Interaction& interazione;
     const ScegliCopia& scegliCopia;
-    QDateTime adesso;
+    QDateTime adesso;  ///< names the file that the damaged archive is laid aside in
 };
 
 /// Puts a copy that the person chooses into the archive's place, after telling what would change; repairs it, after
@@ -30,10 +31,11 @@ struct RichiestaRimedio {
 std::optional<QString> RipristinaChiedendo(const RichiestaRimedio& richiesta);
 std::optional<QString> RiparaChiedendo(const RichiestaRimedio& richiesta);
 
+/// What became of an offer to mend an archive.
 enum class Rimedio {
     Nessuno,    ///< there is none to offer
     Rifiutato,  ///< the person knows what was wrong, and wanted none
-    Fatto,
+    Fatto,      ///< and the archive can be opened
 };
 
 /// Tells why an archive cannot be opened, and offers what may help.

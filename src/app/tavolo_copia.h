@@ -12,11 +12,14 @@
 
 namespace cronovia {
 
+/// What the copy screen works on: the trips whose stages can be copied, the stages of one of them, and the stretch that
+/// is marked out there.
 class TavoloCopia {
   public:
     /// Lists the trips with stored stages by their destinations; refused when there is none.
     explicit TavoloCopia(Sessione& sessione);
 
+    /// In the order of the list.
     [[nodiscard]] const std::vector<MetaInElenco>& Mete() const { return mete_; }
     /// The stages of the trip chosen; nothing while the trips are listed.
     [[nodiscard]] const std::optional<RigheItinerario>& Tappe() const { return tappe_; }

@@ -22,9 +22,11 @@ class TavoloScambio {
     /// For an import `file` is the one that the trips are in, `stato` its state before they were read.
     TavoloScambio(ModoScambio modo, QString file, Lista mete, StatoFile stato = {});
 
+    // What it was made of; of an export there is no file yet.
     [[nodiscard]] ModoScambio Modo() const { return modo_; }
     [[nodiscard]] const QString& File() const { return file_; }
     [[nodiscard]] const StatoFile& StatoDelFileLetto() const { return stato_; }
+    /// One of the two lists, 0 or 1.
     [[nodiscard]] const Lista& Mete(int lista) const { return liste_[static_cast<std::size_t>(lista)]; }
     /// The list whose trips the run takes, and their codes.
     [[nodiscard]] const Lista& Scelte() const { return Mete(modo_ == ModoScambio::Export ? 1 : 0); }

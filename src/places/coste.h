@@ -9,8 +9,10 @@
 
 namespace cronovia {
 
+/// The points of a line, in degrees.
 using LineaCosta = std::vector<Posizione>;
 
+/// The background of a map.
 struct Coste {
     std::vector<LineaCosta> terre;    ///< rings, filled together by the odd-even rule; cut where the known part ends
     std::vector<LineaCosta> confini;  ///< lines

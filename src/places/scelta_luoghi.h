@@ -32,8 +32,9 @@ enum class FontePosizione {
 /// "confermata", "repertorio", "interpolata", "sconosciuta".
 QString Testo(FontePosizione fonte);
 
+/// Where a stage lies, and how one knows.
 struct PosizioneTappa {
-    std::optional<Posizione> posizione;
+    std::optional<Posizione> posizione;  ///< nothing just when its source is `Sconosciuta`
     FontePosizione fonte = FontePosizione::Sconosciuta;
     QString nazione;  ///< of a place that the program knows, its code of two letters
 

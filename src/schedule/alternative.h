@@ -24,6 +24,7 @@ struct Alternativa {
         ritardo;           ///< the longest, of hours that others set and of coming home; nothing without any
     bool attuale = false;  ///< as the trip is set now
 
+    /// It takes the days wanted.
     [[nodiscard]] bool Riuscita() const { return voluti == 0 || voluti == giorni; }
 };
 

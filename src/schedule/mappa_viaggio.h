@@ -38,7 +38,7 @@ struct TrattaSullaMappa {
     PuntoMappa a;
 };
 
-/// A part of the plane.
+/// A part of the plane, in kilometres; its corners belong to it, and so does what touches them.
 struct RiquadroMappa {
     PuntoMappa min;
     PuntoMappa max;
@@ -50,6 +50,7 @@ struct RiquadroMappa {
     [[nodiscard]] bool Tocca(const RiquadroMappa& altro) const;
 };
 
+/// A journey on the plane.
 struct MappaViaggio {
     std::vector<LuogoSullaMappa> luoghi;   ///< in the order of the rows; those without a position are left out
     std::vector<TrattaSullaMappa> tratte;  ///< between places that follow each other here

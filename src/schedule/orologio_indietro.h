@@ -9,16 +9,19 @@
 
 namespace cronovia {
 
+/// A clock that goes back from an arrival to when one has to leave for it.
 class OrologioIndietro {
   public:
     /// `orario` must outlive the clock.
     OrologioIndietro(Istante da, const OrarioCorretto& orario);
 
+    /// Where it has come to.
     [[nodiscard]] Istante Momento() const { return ora_; }
 
     /// Meals whose hour has passed by now are still to come backwards.
     void GuardaPasti();
 
+    /// Driving, which may run into another day: `PastiENotti` puts that right.
     void Guida(Centesimi tempo) { ora_.ora -= tempo; }
     /// The meals and nights that the driving ran into.
     void PastiENotti();

@@ -13,18 +13,20 @@
 
 namespace cronovia {
 
+/// What is to be written, and where.
 struct RichiestaEsportaPercorso {
     Archive& archive;
     QString path;  ///< of the file, or with days of the folder, which is made where there is none
     FormatoPercorso formato = FormatoPercorso::Gpx;
-    bool sovrascrivi = false;
-    QString nome;  ///< of the trip
+    bool sovrascrivi = false;  ///< a file that is there is replaced, else refused
+    QString nome;              ///< of the trip
     std::span<const Tappa> tappe;
     std::span<const PosizioneTappa> posizioni;  ///< as many as the stages
     /// First and last stage of each day, from 0, with the place where the day begins; none for one file of all.
     std::vector<std::pair<int, int>> giorni = {};
 };
 
+/// What was written, and what was not.
 struct EsitoEsportaPercorso {
     QStringList file;      ///< those written
     int punti = 0;         ///< stages in them

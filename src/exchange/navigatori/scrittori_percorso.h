@@ -17,12 +17,14 @@ struct PuntoPercorso {
     Posizione posizione;
 };
 
+/// What a file for navigators holds.
 struct PercorsoDaScrivere {
     QString nome;
     std::vector<PuntoPercorso> tappe;  ///< in travel order
-    std::vector<PuntoPercorso> guida;
+    std::vector<PuntoPercorso> guida;  ///< entries at their localities; not in every format
 };
 
+/// The kinds of file that are written.
 enum class FormatoPercorso { Gpx, Kml, Itn };
 
 /// The whole file, in UTF-8. GPX 1.1: one route, the entries of the guide as waypoints. KML 2.2: placemarks, and the
