@@ -20,7 +20,6 @@
 #include "files/celle.h"
 #include "ui/archivio/controllo_in_pausa.h"
 #include "ui/archivio/frm_copie.h"
-#include "ui/comuni/colori.h"
 #include "ui/comuni/richiesta_di_fine.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/guida/frm_soste.h"
@@ -288,12 +287,6 @@ bool FormMete::event(QEvent* event) {
     if (tipo == QEvent::ApplicationPaletteChange || tipo == QEvent::StyleChange) RendiLeggibile();
     if (tipo == QEvent::WindowActivate) GuardaArchivio();
     return trattato;
-}
-
-void FormMete::RendiLeggibile() {
-    const QPalette leggibile = ConDisabilitatiLeggibili(QApplication::palette());
-    if (leggibile != palette()) setPalette(leggibile);
-    MostraLeSpunte(*this);
 }
 
 void FormMete::closeEvent(QCloseEvent* event) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What stands where in the main window: screens, panels, menus.
+#include <QApplication>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QScreen>
@@ -9,6 +10,7 @@
 
 #include "app/comandi_viaggio.h"
 #include "ui/comuni/aiuti.h"
+#include "ui/comuni/colori.h"
 #include "ui/comuni/spazi.h"
 #include "ui/form_mete.h"
 
@@ -143,6 +145,12 @@ void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
     pannelli_.push_back(&pannello);
     azioni_.MenuDi(Menu::Vista).addAction(pannello.toggleViewAction());
     pannello.Mostra(postazione_);
+}
+
+void FormMete::RendiLeggibile() {
+    const QPalette leggibile = ConDisabilitatiLeggibili(QApplication::palette());
+    if (leggibile != palette()) setPalette(leggibile);
+    MostraLeSpunte(*this);
 }
 
 void FormMete::SegueAspetto() {

@@ -13,6 +13,7 @@
 
 #include "app/comandi.h"
 #include "app/comandi_aiuto.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -90,7 +91,7 @@ FinestraManuale::FinestraManuale(QWidget& finestra)
     divisione->addWidget(testo_);
     divisione->setStretchFactor(1, 1);
     divisione->setSizes({250, kLarghezzaTesto + 50});
-    auto* layout = new QHBoxLayout(this);
+    auto* layout = Spaziato(new QHBoxLayout(this), Spazi::Pagina);
     layout->addWidget(divisione);
     resize(1100, 700);
     connect(capitoli_, &QListWidget::currentTextChanged, this, &FinestraManuale::ScorriFino);

@@ -14,6 +14,7 @@
 
 #include "app/cartella_dati.h"
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -115,7 +116,7 @@ bool ChiediPreferenze(Preferenze& preferenze, const QString& programma, QWidget&
     auto* bottoni = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QObject::connect(bottoni, &QDialogButtonBox::accepted, &dialogo, &QDialog::accept);
     QObject::connect(bottoni, &QDialogButtonBox::rejected, &dialogo, &QDialog::reject);
-    auto* layout = new QFormLayout(&dialogo);
+    auto* layout = Spaziato(new QFormLayout(&dialogo), Spazi::Dialogo);
     layout->addRow(u"Grandezza dei testi:"_s, testo);
     layout->addRow(u"Colori:"_s, colori);
     layout->addRow(u"Calcolo dal vivo:"_s, dalVivo);

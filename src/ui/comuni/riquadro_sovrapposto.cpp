@@ -9,7 +9,7 @@
 namespace cronovia {
 
 RiquadroSovrapposto::RiquadroSovrapposto(const QString& nome, const QString& scritta)
-    : contenuto_(new QVBoxLayout(this)) {
+    : contenuto_(Spaziato(new QVBoxLayout(this), Spazi::Dialogo)) {
     setObjectName(nome);
     setAccessibleName(scritta);
     setAutoFillBackground(true);
@@ -19,7 +19,6 @@ RiquadroSovrapposto::RiquadroSovrapposto(const QString& nome, const QString& scr
     QFont grassetto = titolo->font();
     grassetto.setBold(true);
     titolo->setFont(grassetto);
-    Spazia(*contenuto_, Spazi::Dialogo);
     contenuto_->addWidget(titolo);
     hide();
 }

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "calendar/testo.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -62,7 +63,7 @@ QString ScegliFileSoste(QWidget& finestra) {
 bool ConfermaSoste(QWidget& finestra, const std::vector<SostaProposta>& soste) {
     QDialog dialogo(&finestra);
     MostraTitolo(dialogo, u"Importa soste nella guida"_s);
-    auto* layout = new QVBoxLayout(&dialogo);
+    auto* layout = Spaziato(new QVBoxLayout(&dialogo), Spazi::Dialogo);
     auto* pulsanti = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QPushButton* aggiunge = pulsanti->button(QDialogButtonBox::Ok);
     aggiunge->setText(u"&Aggiunge alla guida"_s);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "ui/comuni/controlli.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -18,7 +19,7 @@ std::optional<Posizione> ChiediCoordinate(QWidget& finestra, const QString& loca
     constexpr int kMassimoTesto = 80;
     QDialog dialogo(&finestra);
     MostraTitolo(dialogo, u"Coordinate"_s);
-    auto* layout = new QFormLayout(&dialogo);
+    auto* layout = Spaziato(new QFormLayout(&dialogo), Spazi::Dialogo);
     QLineEdit* testo = NuovaCasella(u"txtCoordinate"_s, kMassimoTesto, u"Latitudine e longitudine"_s);
     testo->setMinimumWidth(testo->fontMetrics().averageCharWidth() * 44);
     testo->setPlaceholderText(u"44,4056 8,9463   oppure   44°24'20\"N 8°56'47\"E"_s);

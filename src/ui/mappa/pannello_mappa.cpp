@@ -10,6 +10,7 @@
 
 #include "app/cartella_dati.h"
 #include "app/comandi_luoghi.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/mappa/frm_coordinate.h"
 
@@ -48,9 +49,7 @@ PannelloMappa::PannelloMappa(Postazione& postazione, Esegui esegui, QWidget* par
     setObjectName(u"pannelloMappa"_s);
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
     auto* contenuto = new QWidget;
-    auto* layout = new QVBoxLayout(contenuto);
-    layout->setContentsMargins(2, 2, 2, 2);
-    layout->setSpacing(2);
+    auto* layout = Spaziato(new QVBoxLayout(contenuto), Spazi::Riquadro);
     avviso_->setObjectName(u"lblMappa"_s);
     avviso_->setWordWrap(true);
     layout->addWidget(NuoviPulsanti());
@@ -66,8 +65,7 @@ PannelloMappa::PannelloMappa(Postazione& postazione, Esegui esegui, QWidget* par
 
 QWidget* PannelloMappa::NuoviPulsanti() {
     auto* riga = new QWidget;
-    auto* layout = new QHBoxLayout(riga);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = Spaziato(new QHBoxLayout(riga), Spazi::Riga);
     const auto aggiungi = [&](const QString& nome, const QString& scritta, const QString& istruzione, auto azione) {
         auto* pulsante = new QToolButton;
         pulsante->setObjectName(nome);

@@ -10,6 +10,7 @@
 #include "print/moduli.h"
 #include "print/stampa_tutto.h"
 #include "print/tabella_testo.h"
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/stampa/stampanti.h"
 
@@ -26,8 +27,7 @@ QFrame* NuovoStampaInCorso() {
     riquadro->setAutoFillBackground(true);
     QLabel* attesa = NuovaScritta(u"Preparazione moduli in corso... attendere..."_s);
     attesa->setObjectName(u"lblStampaInCorso"_s);
-    auto* layout = new QVBoxLayout(riquadro);
-    layout->setContentsMargins(24, 18, 24, 18);
+    auto* layout = Spaziato(new QVBoxLayout(riquadro), Spazi::Dialogo);
     layout->addWidget(attesa);
     layout->addWidget(NuovaScritta(u"L'attesa dipende dal sistema."_s));
     riquadro->hide();

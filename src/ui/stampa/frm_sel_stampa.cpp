@@ -3,6 +3,7 @@
 
 #include <QHBoxLayout>
 
+#include "ui/comuni/spazi.h"
 #include "ui/stampa/stampanti.h"
 
 namespace cronovia {
@@ -19,7 +20,7 @@ FrmSelStampa::FrmSelStampa(Azioni& azioni)
     Pulsanti(stampa, rinuncia);
     QVBoxLayout& layout = Contenuto();
     layout.addWidget(lstStampanti_);
-    auto* riga = new QHBoxLayout;
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     riga->addWidget(stampa);
     riga->addWidget(rinuncia);
     layout.addLayout(riga);

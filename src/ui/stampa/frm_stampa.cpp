@@ -3,6 +3,7 @@
 
 #include <QHBoxLayout>
 
+#include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -28,8 +29,8 @@ FrmStampa::FrmStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmStampa"_s, u"Opz
     layout.addWidget(chkTabella_);
     layout.addWidget(chkGiornate_);
     layout.addWidget(chkModuli_);
-    layout.addSpacing(8);
-    auto* riga = new QHBoxLayout;
+    layout.addSpacing(kStacco);
+    auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
     for (QPushButton* pulsante : {stampa, anteprima, rinuncia}) riga->addWidget(pulsante);
     layout.addLayout(riga);
     for (const QCheckBox* pagine : {chkTabella_, chkGiornate_}) {

@@ -1,0 +1,25 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Every layout of the window is spaced by the one grid, and nobody has distances in pixels of his own.
+#   cmake -D ROOT=<checkout> -P spazi.cmake
+cmake_minimum_required(VERSION 3.25)
+
+set(layouts 0)
+file(GLOB_RECURSE files "${ROOT}/src/ui/*.cpp")
+list(FILTER files EXCLUDE REGEX "/comuni/spazi\\.cpp$")
+foreach(file IN LISTS files)
+  file(STRINGS "${file}" lines REGEX "new Q[A-Z][A-Za-z]+Layout|et(ContentsMargins|[A-Za-z]*Spacing)\\(|addSpacing\\(")
+  foreach(line IN LISTS lines)
+    math(EXPR layouts "${layouts} + 1")
+    if(line MATCHES "Layout" AND NOT line MATCHES "Spaziato\\(|spaziato" OR line MATCHES "(Margins|Spacing)\\([^)]*[0-9]")
+      list(APPEND wrong "${file}: ${line}")
+    endif()
+  endforeach()
+endforeach()
+if(layouts LESS 40)
+  message(FATAL_ERROR "Only ${layouts} layouts were found: they are no longer where this looks.")
+endif()
+if(wrong)
+  list(JOIN wrong "\n" wrong)
+  message(FATAL_ERROR "Spaced by itself:\n${wrong}")
+endif()
+message(STATUS "${layouts} layouts")
