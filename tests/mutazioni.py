@@ -3,7 +3,7 @@
 """Small faults put into the program one at a time, to see whether the tests notice them.
 
     tests/mutazioni.py --numero 150            that many places, drawn over all rooms of src
-    tests/mutazioni.py --stanze store,guide    only those rooms
+    tests/mutazioni.py --stanze store,ui/mappa only those rooms, or folders or files of rooms
     tests/mutazioni.py --seme 7                another draw; the same seed draws the same places
     tests/mutazioni.py --riprova               once more those that survived last time, after tests were added
 
@@ -77,9 +77,9 @@ def luoghi(stanze):
     """Every fault that could be put in, as {room, file, riga (text), numero, da, a, nuovo}."""
     for file in sorted(RADICE.glob("src/*/**/*.cpp")):
         stanza = file.relative_to(RADICE / "src").parts[0]
-        if stanze and stanza not in stanze:
-            continue
         nome = str(file.relative_to(RADICE))
+        if stanze and not any(nome.startswith((f"src/{s}/", f"src/{s}.cpp")) for s in stanze):
+            continue
         for numero, riga in righe_di_codice(file.read_text(), stanza):
             nuda = fuori_dalle_stringhe(riga)
             dato = {"stanza": stanza, "file": nome, "riga": riga, "numero": numero + 1}
@@ -272,7 +272,7 @@ def main():
     argomenti = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     argomenti.add_argument("--numero", type=int, default=150)
     argomenti.add_argument("--seme", type=int, default=1)
-    argomenti.add_argument("--stanze", default="", help="rooms, separated by commas")
+    argomenti.add_argument("--stanze", default="", help="rooms or parts of them, separated by commas")
     argomenti.add_argument("--riprova", action="store_true")
     argomenti.add_argument("--cartella", type=Path, default=RADICE / "build" / "mutazioni")
     scelte = argomenti.parse_args()
