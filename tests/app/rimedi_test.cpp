@@ -2,6 +2,7 @@
 // What is offered when an archive cannot be opened.
 #include "app/rimedi.h"
 
+#include "app/riparazione.h"
 #include "store/archive.h"
 #include "support/archivio.h"
 #include "support/copione.h"
@@ -59,6 +60,29 @@ TEST_F(RimediTest, NothingIsOfferedWhereNothingHelps) {
     QDir(CopiesFolder(cartella_.Path())).removeRecursively();
     EXPECT_EQ(Offre(), Rimedio::Nessuno);
     EXPECT_EQ(prova::LeggiFile(cartella_.Archivio()), QByteArray());
+}
+
+TEST_F(RimediTest, WhatARepairSavesIsToldAsItIs) {
+    const ArchiveCopy copia{u"x"_s, QDateTime({2027, 6, 4}, {9, 5}), {}};
+    Repair riparazione;
+    riparazione.way = Repair::Way::Rows;
+    riparazione.tables = {{Table::MeteVandro, 1200, 0, 0}, {Table::GuidaCitta, 0, 0, 0}, {Table::Itinerari, 0, 0, 3}};
+    EXPECT_EQ(TestoRiparazione(riparazione),
+              u"Le righe che si leggono sono salvate una per una.\nRighe delle mète: salvate 1.200.\n"
+              "Righe degli itinerari: salvate 0, perse 3.\n"_s);
+    riparazione.tables = {};
+    riparazione.rebuilt = {u"ALBA"_s, u"BRA"_s};
+    riparazione.doubts = {u"«ALBA» o «ALBB»"_s};
+    riparazione.lastGood = copia;
+    EXPECT_EQ(TestoRiparazione(riparazione),
+              u"Le righe che si leggono sono salvate una per una.\nDi queste mète restano le tappe; data d'inizio e "
+              "parametri sono da rivedere: ALBA, BRA.\nDa controllare, perché nel file si leggono due cose diverse: "
+              "«ALBA» o «ALBB».\nL'ultima copia in ordine, che si può anche ripristinare, è del 04/06/2027 ore "
+              "09:05.\n"_s);
+    riparazione = {};
+    riparazione.lastGood = copia;  // nothing of it is needed
+    EXPECT_EQ(TestoRiparazione(riparazione), u"Le righe ci sono tutte: erano in disordine soltanto gli indici.\n"_s);
+    EXPECT_EQ(TestoInOrdine({}), u"L'archivio è in ordine: non c'è niente da riparare."_s);
 }
 
 using prova::PostazioneTest;
