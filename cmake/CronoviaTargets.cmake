@@ -30,6 +30,16 @@ if(CRONOVIA_COVERAGE)
   target_link_options(cronovia_settings INTERFACE --coverage)
 endif()
 
+# Tests are linked often, and thrown away: with the quickest linker there is. What people get has the compiler's own.
+if(CRONOVIA_TESTS)
+  find_program(CRONOVIA_LINKER NAMES ld.mold ld.gold)
+  if(CRONOVIA_LINKER)
+    cmake_path(GET CRONOVIA_LINKER EXTENSION LAST_ONLY quick_linker)
+    string(REPLACE "." "-fuse-ld=" quick_linker "${quick_linker}")
+    target_link_options(cronovia_settings INTERFACE "${quick_linker}")
+  endif()
+endif()
+
 # Most of the time goes into headers of Qt and of the tests: files compiled together read them once. Therefore names in
 # anonymous namespaces are told apart within a folder. A large room makes two units or more, so that no core waits.
 set(CRONOVIA_UNIT_FILES 9)
