@@ -61,9 +61,9 @@ open_window "$work/dati"
 picture meta
 press F9
 picture cronovia
-press ctrl+g ctrl+m
+press ctrl+g ctrl+m F8
 picture giornate
-press ctrl+g ctrl+m F9 ctrl+i
+press ctrl+g ctrl+m F8 F9 ctrl+i
 picture itinerario
 press Escape
 close_window

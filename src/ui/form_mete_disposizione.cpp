@@ -150,6 +150,10 @@ void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
 void FormMete::RendiLeggibile() {
     const QPalette leggibile = ConDisabilitatiLeggibili(QApplication::palette());
     if (leggibile != palette()) setPalette(leggibile);
+    // Menus are windows of their own, and would keep the program's.
+    for (auto* menu : findChildren<QMenu*>()) {
+        if (leggibile != menu->palette()) menu->setPalette(leggibile);
+    }
     MostraLeSpunte(*this);
 }
 

@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "app/cartella_dati.h"
+#include "ui/comuni/colori.h"
 #include "ui/comuni/controlli.h"
 #include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -92,9 +93,9 @@ void ApplicaColori(const Preferenze& preferenze) {
         case Colori::ComeIlSistema:
             return QApplication::setPalette(QPalette());
         case Colori::Chiari:
-            return QApplication::setPalette(QPalette(QColor(239, 239, 239)));
+            return QApplication::setPalette(ConDisabilitatiLeggibili(QPalette(QColor(239, 239, 239))));
         case Colori::Scuri:
-            return QApplication::setPalette(ColoriScuri());
+            return QApplication::setPalette(ConDisabilitatiLeggibili(ColoriScuri()));
     }
 }
 

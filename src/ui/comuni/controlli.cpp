@@ -200,6 +200,8 @@ void DisponiRighe(QTableView& tabella) {
     tabella.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     tabella.verticalHeader()->setDefaultSectionSize(tabella.fontMetrics().height() + 6);
     tabella.horizontalHeader()->setHighlightSections(false);
+    const int segno = tabella.fontMetrics().height();  // signs grow with the texts
+    tabella.setIconSize({segno, segno});
 }
 
 QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo) {

@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRighePerPagina = 18;
-constexpr int kLarghezzaSegno = 24;
+constexpr int kAriaDelSegno = 8;  // around it, in pixels
 constexpr int kTutteLeRighe = 1'000'000;
 
 // A column's relative width, and the widest text that it usually holds.
@@ -159,7 +159,8 @@ void VistaGriglia::mousePressEvent(QMouseEvent* event) {
     mouseTiene_ = true;
     QTableView::mousePressEvent(event);
     if (!index.data(kRuoloLinea).toBool() || event->button() != Qt::LeftButton) return;
-    if (event->pos().x() < visualRect(index).left() + kLarghezzaSegno) Q_EMIT Piega(index.row(), std::nullopt);
+    if (event->pos().x() < visualRect(index).left() + iconSize().width() + kAriaDelSegno)
+        Q_EMIT Piega(index.row(), std::nullopt);
 }
 
 void VistaGriglia::mouseReleaseEvent(QMouseEvent* event) {

@@ -47,9 +47,9 @@ QString Periodo(const Documento& documento) {
     const Cronovia* cronovia = documento.Ultima();
     if (!inizio) return u"senza data d'inizio"_s;
     if (cronovia == nullptr || !cronovia->fine) return u"dal "_s + Giorno(*inizio);
-    const int giorni = cronovia->fine->giorni;
-    return u"%1 – %2 · %3"_s.arg(Giorno(*inizio), Giorno(cronovia->fine->data),
-                                 giorni == 1 ? u"1 giorno"_s : u"%1 giorni"_s.arg(giorni));
+    const FineViaggio& fine = *cronovia->fine;
+    if (fine.data == *inizio) return Giorno(*inizio) + u" · 1 giorno"_s;
+    return u"%1 – %2 · %3 giorni"_s.arg(Giorno(*inizio), Giorno(fine.data), QString::number(fine.giorni));
 }
 
 // Destination, dates and days.
