@@ -33,7 +33,12 @@ press() {
 open_window() {
     "$program" --cartella "$1" >"$work/program.log" 2>&1 &
     window=$!
-    face=$(xdotool search --sync --onlyvisible --pid "$window" | tail -n 1)
+    face=
+    until [ -n "$face" ]; do
+        sleep 0.2
+        face=$(xdotool search --onlyvisible --name Cronovia 2>/dev/null | tail -n 1) || true
+    done
+    sleep 1
     xdotool windowmove "$face" 0 0 windowsize "$face" 1280 800 windowfocus "$face"
     sleep 1
 }

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "app/comandi_viaggio.h"
+#include "app/comandi_scambio.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/spazi.h"
