@@ -56,6 +56,10 @@ void EseguiConfronta(const ApriSessione& apri, const Richiesta& richiesta, QText
     for (const Alternativa& alternativa : alternative) tabella.righe.push_back(TestiAlternativa(alternativa));
     if (richiesta.formato == Formato::Tsv) return ScriviTsv(tabella, uscita);
     uscita << TitoloMeta(aperta.meta) << "\n\n";
+    if (aperta.tappe.empty()) {
+        uscita << SenzaTappe();
+        return;
+    }
     ScriviAllineata(tabella, uscita);
 }
 
