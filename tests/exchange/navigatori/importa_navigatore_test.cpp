@@ -154,6 +154,7 @@ TEST_F(Navigatore, OursComeBack) {
                                        {u"TORINO"_s, {}, {45.07, 7.69}}},
                                       {{u"Duomo"_s, u"Da vedere"_s, {44.7, 8.3}}, {u"Mole"_s, {}, {45.07, 7.69}}}};
     for (const FormatoPercorso formato : {FormatoPercorso::Gpx, FormatoPercorso::Kml, FormatoPercorso::Itn}) {
+        EXPECT_EQ(ScriviPercorso(percorso, formato), prova::LeggiFile(kDati + u"nostro."_s + Estensione(formato)));
         const QString nostro = File(u"nostro"_s, ScriviPercorso(percorso, formato));
         const QString tappe = Tappe(nostro);
         const std::optional<FileNavigatore> letto = LeggiNavigatore(nostro);
