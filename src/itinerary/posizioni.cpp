@@ -44,6 +44,15 @@ int KmStimati(double distanzaKm, std::optional<TipoStrada> tipo) {
     return std::max(1, static_cast<int>(std::lround(km / passo)) * passo);
 }
 
+QStringList LocalitaSenzaPosizione(std::span<const Tappa> tappe, std::span<const PosizioneTappa> posizioni) {
+    QStringList nomi;
+    for (std::size_t i = 0; i < tappe.size(); ++i) {
+        if (!posizioni[i].posizione && !tappe[i].localita.isEmpty()) nomi += tappe[i].localita;
+    }
+    nomi.removeDuplicates();
+    return nomi;
+}
+
 std::vector<PosizioneTappa> PosizioniDelViaggio(Archive& archive, Gazzettino& gazzettino, std::span<const Tappa> tappe,
                                                 const QString& nazione) {
     return ScegliLuoghi(InPassaggi(tappe), PosizioniConfermate(archive), gazzettino, CodiciNazioni(nazione));

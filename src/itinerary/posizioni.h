@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 #include <span>
 #include <vector>
@@ -16,6 +17,9 @@ namespace cronovia {
 /// of the archive, and the file of places when a locality has none.
 std::vector<PosizioneTappa> PosizioniDelViaggio(Archive& archive, Gazzettino& gazzettino, std::span<const Tappa> tappe,
                                                 const QString& nazione);
+
+/// Of these stages, the localities of which nobody knows where they lie, each once.
+QStringList LocalitaSenzaPosizione(std::span<const Tappa> tappe, std::span<const PosizioneTappa> posizioni);
 
 /// How many times longer a road of that type is than the straight way; 1.3 for an unknown one.
 double FattoreStrada(std::optional<TipoStrada> tipo);

@@ -2,6 +2,7 @@
 #include "schedule/mappa_viaggio.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace cronovia {
 
@@ -9,25 +10,11 @@ namespace {
 
 constexpr double kMinimoLato = 30;  // kilometres
 
-class Estensione {
-  public:
-    void Aggiungi(const PuntoMappa& punto) {
-        if (!riquadro_) riquadro_ = {punto, punto};
-        riquadro_->min = {std::min(riquadro_->min.x, punto.x), std::min(riquadro_->min.y, punto.y)};
-        riquadro_->max = {std::max(riquadro_->max.x, punto.x), std::max(riquadro_->max.y, punto.y)};
-    }
-
-    [[nodiscard]] std::optional<RiquadroMappa> Riquadro() const {
-        if (!riquadro_) return {};
-        const PuntoMappa centro = riquadro_->Centro();
-        const double x = std::max(riquadro_->Larghezza(), kMinimoLato) / 2;
-        const double y = std::max(riquadro_->Altezza(), kMinimoLato) / 2;
-        return RiquadroMappa{{centro.x - x, centro.y - y}, {centro.x + x, centro.y + y}};
-    }
-
-  private:
-    std::optional<RiquadroMappa> riquadro_;
-};
+// Which of the four sides of a part of the plane a point lies beyond, as bits.
+unsigned Fuori(const PuntoMappa& punto, const RiquadroMappa& visto) {
+    return (punto.x < visto.min.x ? 1U : 0U) | (punto.x > visto.max.x ? 2U : 0U) | (punto.y < visto.min.y ? 4U : 0U) |
+           (punto.y > visto.max.y ? 8U : 0U);
+}
 
 void SegnaNotti(const std::vector<Giornata>& giornate, const GiorniItinerario& giorni, MappaViaggio& mappa) {
     for (const Giornata& giornata : giornate) {
@@ -50,6 +37,34 @@ bool RiquadroMappa::Tocca(const RiquadroMappa& altro) const {
     return altro.min.x <= max.x && altro.max.x >= min.x && altro.min.y <= max.y && altro.max.y >= min.y;
 }
 
+RiquadroMappa RiquadroDi(std::span<const PuntoMappa> punti) {
+    RiquadroMappa riquadro{punti.front(), punti.front()};
+    for (const PuntoMappa& punto : punti) {
+        riquadro.min = {std::min(riquadro.min.x, punto.x), std::min(riquadro.min.y, punto.y)};
+        riquadro.max = {std::max(riquadro.max.x, punto.x), std::max(riquadro.max.y, punto.y)};
+    }
+    return riquadro;
+}
+
+std::vector<PuntoMappa> Sfrondata(std::span<const PuntoMappa> linea, const RiquadroMappa& visto, double passo) {
+    std::vector<PuntoMappa> tenuti;
+    unsigned penultimo = 0;
+    unsigned ultimo = 0;
+    for (const PuntoMappa& punto : linea) {
+        const unsigned fuori = Fuori(punto, visto);
+        const bool vicino = !tenuti.empty() && std::hypot(punto.x - tenuti.back().x, punto.y - tenuti.back().y) < passo;
+        if (vicino && ultimo == fuori) continue;
+        if (tenuti.size() > 1 && (penultimo & ultimo & fuori) != 0) {
+            tenuti.back() = punto;
+        } else {
+            tenuti.push_back(punto);
+            penultimo = ultimo;
+        }
+        ultimo = fuori;
+    }
+    return tenuti;
+}
+
 const LuogoSullaMappa* MappaViaggio::Luogo(int riga) const {
     const auto luogo = std::lower_bound(luoghi.begin(), luoghi.end(), riga,
                                         [](const LuogoSullaMappa& l, int r) { return l.riga < r; });
@@ -57,22 +72,28 @@ const LuogoSullaMappa* MappaViaggio::Luogo(int riga) const {
 }
 
 std::optional<RiquadroMappa> MappaViaggio::Riquadro() const {
-    Estensione estensione;
-    for (const LuogoSullaMappa& luogo : luoghi) estensione.Aggiungi(luogo.dove);
-    return estensione.Riquadro();
+    if (luoghi.empty()) return {};
+    std::vector<PuntoMappa> punti;
+    punti.reserve(luoghi.size());
+    for (const LuogoSullaMappa& luogo : luoghi) punti.push_back(luogo.dove);
+    const RiquadroMappa stretto = RiquadroDi(punti);
+    const PuntoMappa centro = stretto.Centro();
+    const double x = std::max(stretto.Larghezza(), kMinimoLato) / 2;
+    const double y = std::max(stretto.Altezza(), kMinimoLato) / 2;
+    return RiquadroMappa{{centro.x - x, centro.y - y}, {centro.x + x, centro.y + y}};
 }
 
-std::optional<RiquadroMappa> MappaViaggio::Riquadro(int giornata) const {
-    Estensione estensione;
-    for (const TrattaSullaMappa& tratta : tratte) {
-        if (tratta.giornata != giornata) continue;
-        estensione.Aggiungi(tratta.da);
-        estensione.Aggiungi(tratta.a);
+std::optional<RiquadroMappa> MappaViaggio::Riquadro(int giornata) const { return DelGiorno(giornata).Riquadro(); }
+
+MappaViaggio MappaViaggio::DelGiorno(int giornata) const {
+    MappaViaggio giorno;
+    for (std::size_t i = 0; i < luoghi.size(); ++i) {
+        const bool parte = i < tratte.size() && tratte[i].giornata == giornata;
+        const bool arriva = i > 0 && tratte[i - 1].giornata == giornata;
+        if (parte || arriva || luoghi[i].giornata == giornata) giorno.luoghi.push_back(luoghi[i]);
+        if (parte) giorno.tratte.push_back(tratte[i]);
     }
-    for (const LuogoSullaMappa& luogo : luoghi) {
-        if (luogo.giornata == giornata) estensione.Aggiungi(luogo.dove);
-    }
-    return estensione.Riquadro();
+    return giorno;
 }
 
 MappaViaggio ComponiMappa(std::span<const Tappa> righe, std::span<const PosizioneTappa> posizioni,

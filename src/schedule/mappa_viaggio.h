@@ -50,6 +50,13 @@ struct RiquadroMappa {
     [[nodiscard]] bool Tocca(const RiquadroMappa& altro) const;
 };
 
+/// The smallest part with all of these points, which must not be none.
+RiquadroMappa RiquadroDi(std::span<const PuntoMappa> punti);
+
+/// A line without what does not matter for a part of the plane: of points that follow each other beyond one of its
+/// sides, the first and the last one are kept; of those nearer than `passo` to the one before, the first.
+std::vector<PuntoMappa> Sfrondata(std::span<const PuntoMappa> linea, const RiquadroMappa& visto, double passo);
+
 /// A journey on the plane.
 struct MappaViaggio {
     std::vector<LuogoSullaMappa> luoghi;   ///< in the order of the rows; those without a position are left out
@@ -62,6 +69,8 @@ struct MappaViaggio {
     /// wide. Nothing without any.
     [[nodiscard]] std::optional<RiquadroMappa> Riquadro() const;
     [[nodiscard]] std::optional<RiquadroMappa> Riquadro(int giornata) const;
+    /// What is driven on a day: its legs, the places where they begin and end, and those reached on it.
+    [[nodiscard]] MappaViaggio DelGiorno(int giornata) const;
 };
 
 /// The map of an itinerary: its rows, as many positions, and its days when there is a schedule of just these rows.

@@ -65,7 +65,7 @@ class Mappa : public testing::Test {
     }
 
     VistaMappa vista_;
-    ColoriMappa colori_{vista_.palette()};
+    ColoriMappa colori_ = ColoriDellaFinestra(vista_.palette());
 };
 
 TEST_F(Mappa, ShowsLandSeaAndTheWayByDays) {
@@ -74,7 +74,7 @@ TEST_F(Mappa, ShowsLandSeaAndTheWayByDays) {
     EXPECT_EQ(Colore(Dove({42.2, 9.1})), colori_.terra) << "Corsica";
     EXPECT_GT(Coperti(kOlbia, kNuoro, colori_.vie[1]), 45) << "driven: a whole line";
     const int traghetto = Coperti(kLivorno, kOlbia, colori_.vie[0]);
-    EXPECT_TRUE(traghetto > 30 && traghetto < 80) << traghetto << ": a ferry's line is dashed";
+    EXPECT_TRUE(traghetto > 25 && traghetto < 70) << traghetto << ": a ferry's line is dashed";
     EXPECT_EQ(Colore(Dove(kNuoro)), colori_.terra) << "a place that is a guess is hollow";
     EXPECT_EQ(Colore(Dove(kLivorno)), colori_.testo);
     EXPECT_EQ(Colore(Dove(kOlbia) + QPointF(-3, 2)), colori_.notte) << "the moon of the night";
@@ -246,7 +246,7 @@ TEST(NomiSullaMappa, DoNotCoverEachOther) {
                                 i % 25 == 0, i / 25});
     }
     const Inquadratura vista = Adattata(*mappa.Riquadro(), {800, 600}, 30);
-    const std::vector<NomeSullaMappa> nomi = NomiChiEntrano(mappa, vista, QFont());
+    const std::vector<NomeSullaMappa> nomi = NomiChiEntrano(mappa, vista, Misura(QFont()));
     ASSERT_GT(nomi.size(), 20U);
     for (std::size_t i = 0; i < nomi.size(); ++i) {
         for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(nomi[i].posto.intersects(nomi[j].posto));

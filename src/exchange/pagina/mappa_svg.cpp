@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 #include <vector>
 
 namespace cronovia {
@@ -18,7 +17,7 @@ constexpr double kAltezzaDelGiorno = 240;
 constexpr double kMinimaAltezza = 160;
 constexpr double kOrlo = 26;  // between the places and the rim
 constexpr double kPasso = 2;  // shorter strokes of coasts are left out
-constexpr int kMassimiNomi = 12;
+constexpr std::size_t kMassimiNomi = 12;
 constexpr double kAltezzaNome = 13;
 constexpr double kLarghezzaLettera = 6.4;  // of an ordinary letter, which nobody measures here
 
@@ -71,12 +70,11 @@ class Disegno {
     }
     void Chiudi() { html_.Chiude(); }
 
-    void Tratte(int giornata) {
+    void Tratte() {
         for (const bool traghetti : {false, true}) {
             for (const bool pari : {false, true}) {
                 QString tracciato;
                 for (const TrattaSullaMappa& tratta : mappa_.tratte) {
-                    if (giornata != kSenzaGiornata && tratta.giornata != giornata) continue;
                     if (tratta.traghetto != traghetti || (tratta.giornata % 2 == 0) != pari) continue;
                     tracciato += u'M' + Punto(tratta.da) + u'L' + Punto(tratta.a);
                 }
@@ -86,9 +84,8 @@ class Disegno {
         }
     }
 
-    void Punti(int giornata) {
+    void Punti() {
         for (const LuogoSullaMappa& luogo : mappa_.luoghi) {
-            if (giornata != kSenzaGiornata && !DelGiorno(luogo, giornata)) continue;
             const PuntoSvg p = scala_(luogo.dove);
             html_.Apre(u"circle"_s, {{u"class", luogo.notte     ? u"notte"_s
                                                 : luogo.Certo() ? u"luogo"_s
@@ -118,13 +115,6 @@ class Disegno {
                         {u"text-anchor", aSinistra ? u"end"_s : u"start"_s}});
     }
 
-    [[nodiscard]] bool DelGiorno(const LuogoSullaMappa& luogo, int giornata) const {
-        if (luogo.giornata == giornata) return true;
-        return std::any_of(mappa_.tratte.begin(), mappa_.tratte.end(), [&](const TrattaSullaMappa& tratta) {
-            return tratta.giornata == giornata && tratta.da.x == luogo.dove.x && tratta.da.y == luogo.dove.y;
-        });
-    }
-
   private:
     [[nodiscard]] QString Punto(const PuntoMappa& punto) const {
         const PuntoSvg p = scala_(punto);
@@ -136,51 +126,34 @@ class Disegno {
         const RiquadroMappa visto = scala_.Visto();
         QString tracciato;
         for (const LineaCosta& linea : linee) {
-            RiquadroMappa suo{Proietta(linea.front()), Proietta(linea.front())};
             std::vector<PuntoMappa> punti;
             punti.reserve(linea.size());
-            for (const Posizione& posizione : linea) {
-                const PuntoMappa punto = Proietta(posizione);
-                suo.min = {std::min(suo.min.x, punto.x), std::min(suo.min.y, punto.y)};
-                suo.max = {std::max(suo.max.x, punto.x), std::max(suo.max.y, punto.y)};
-                punti.push_back(punto);
-            }
-            if (suo.Tocca(visto)) tracciato += Sfrondato(punti, visto, chiuse);
+            for (const Posizione& posizione : linea) punti.push_back(Proietta(posizione));
+            if (RiquadroDi(punti).Tocca(visto)) tracciato += InUnita(Sfrondata(punti, visto, 0), visto, chiuse);
         }
         if (!tracciato.isEmpty()) Forma(tracciato, classe);
     }
 
-    // Which of the four sides of what is seen a point lies beyond, as bits.
-    static unsigned Fuori(const PuntoMappa& punto, const RiquadroMappa& visto) {
-        return (punto.x < visto.min.x ? 1U : 0U) | (punto.x > visto.max.x ? 2U : 0U) |
-               (punto.y < visto.min.y ? 4U : 0U) | (punto.y > visto.max.y ? 8U : 0U);
-    }
-
-    // Of points that follow each other beyond one side only the first and the last count, moved near to the rim.
-    [[nodiscard]] QString Sfrondato(const std::vector<PuntoMappa>& punti, const RiquadroMappa& visto,
-                                    bool chiusa) const {
+    // What lies outside is moved near to the rim, short strokes are left out.
+    [[nodiscard]] QString InUnita(const std::vector<PuntoMappa>& punti, const RiquadroMappa& visto, bool chiusa) const {
         const double margineX = visto.Larghezza() * 0.1;
         const double margineY = visto.Altezza() * 0.1;
-        std::vector<std::pair<PuntoSvg, unsigned>> tenuti;
+        std::vector<PuntoSvg> tenuti;
         for (const PuntoMappa& punto : punti) {
             const PuntoSvg esatto = scala_({std::clamp(punto.x, visto.min.x - margineX, visto.max.x + margineX),
                                             std::clamp(punto.y, visto.min.y - margineY, visto.max.y + margineY)});
             const PuntoSvg p{std::round(esatto.x), std::round(esatto.y)};
-            const unsigned fuori = Fuori(punto, visto);
-            const std::size_t quanti = tenuti.size();
-            if (quanti > 1 && (tenuti[quanti - 2].second & tenuti[quanti - 1].second & fuori) != 0) {
-                tenuti.back() = {p, fuori};
-            } else if (quanti == 0 || std::hypot(p.x - tenuti.back().first.x, p.y - tenuti.back().first.y) >= kPasso) {
-                tenuti.emplace_back(p, fuori);
+            if (tenuti.empty() || std::hypot(p.x - tenuti.back().x, p.y - tenuti.back().y) >= kPasso) {
+                tenuti.push_back(p);
             }
         }
         return tenuti.size() < 2 ? QString() : ComeTracciato(tenuti) + (chiusa ? u"Z"_s : QString());
     }
 
-    static QString ComeTracciato(const std::vector<std::pair<PuntoSvg, unsigned>>& punti) {
+    static QString ComeTracciato(const std::vector<PuntoSvg>& punti) {
         QString tracciato;
         PuntoSvg prima;
-        for (const auto& [p, fuori] : punti) {
+        for (const PuntoSvg& p : punti) {
             const bool primo = tracciato.isEmpty();
             const QString y = QString::number(primo ? p.y : p.y - prima.y);
             tracciato += (primo ? u'M' : u'l') + QString::number(primo ? p.x : p.x - prima.x);
@@ -209,8 +182,8 @@ void ScriviMappa(const MappaViaggio& mappa, const Coste& coste, ScrittoreHtml& h
     if (!riquadro) return;
     Disegno disegno(mappa, coste, Scala(*riquadro, kMassimaAltezza), html);
     disegno.Apri(u"La mappa del viaggio"_s);
-    disegno.Tratte(kSenzaGiornata);
-    disegno.Punti(kSenzaGiornata);
+    disegno.Tratte();
+    disegno.Punti();
     disegno.Nome(mappa.luoghi.front().nome, mappa.luoghi.front().dove);
     for (const LuogoSullaMappa& luogo : mappa.luoghi) {
         if (luogo.notte) disegno.Nome(QString::number(luogo.giornata + 1), luogo.dove);
@@ -219,21 +192,14 @@ void ScriviMappa(const MappaViaggio& mappa, const Coste& coste, ScrittoreHtml& h
 }
 
 void ScriviMappa(const MappaViaggio& mappa, const Coste& coste, int giornata, ScrittoreHtml& html) {
-    const auto riquadro = mappa.Riquadro(giornata);
-    const bool inMoto = std::any_of(mappa.tratte.begin(), mappa.tratte.end(),
-                                    [&](const TrattaSullaMappa& tratta) { return tratta.giornata == giornata; });
-    if (!riquadro || !inMoto) return;
-    Disegno disegno(mappa, coste, Scala(*riquadro, kAltezzaDelGiorno), html);
+    const MappaViaggio giorno = mappa.DelGiorno(giornata);
+    if (giorno.tratte.empty()) return;
+    Disegno disegno(giorno, coste, Scala(*giorno.Riquadro(), kAltezzaDelGiorno), html);
     disegno.Apri(u"La mappa del giorno %1"_s.arg(giornata + 1));
-    disegno.Tratte(giornata);
-    disegno.Punti(giornata);
-    int nomi = 0;
-    for (const LuogoSullaMappa& luogo : mappa.luoghi) {
-        if (nomi < kMassimiNomi && disegno.DelGiorno(luogo, giornata)) {
-            disegno.Nome(luogo.nome, luogo.dove);
-            ++nomi;
-        }
-    }
+    disegno.Tratte();
+    disegno.Punti();
+    const std::size_t nomi = std::min(giorno.luoghi.size(), kMassimiNomi);
+    for (std::size_t i = 0; i < nomi; ++i) disegno.Nome(giorno.luoghi[i].nome, giorno.luoghi[i].dove);
     disegno.Chiudi();
 }
 

@@ -24,12 +24,7 @@ constexpr int kAttesa = 120;  // milliseconds after the last change
 
 // What is to be told of the map; empty when all places are known.
 QString Mancanti(std::span<const Tappa> tappe, std::span<const PosizioneTappa> posizioni) {
-    QStringList nomi;
-    for (std::size_t i = 0; i < tappe.size(); ++i) {
-        if (posizioni[i].fonte == FontePosizione::Sconosciuta && !tappe[i].localita.isEmpty())
-            nomi += tappe[i].localita;
-    }
-    nomi.removeDuplicates();
+    const QStringList nomi = LocalitaSenzaPosizione(tappe, posizioni);
     constexpr int kNominati = 3;
     if (nomi.isEmpty()) return {};
     const qsizetype resto = nomi.size() - kNominati;

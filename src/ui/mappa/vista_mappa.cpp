@@ -124,7 +124,9 @@ void VistaMappa::paintEvent(QPaintEvent* /*event*/) {
         dipinta_.setDevicePixelRatio(devicePixelRatioF());
         QPainter painter(&dipinta_);
         painter.setFont(font());
-        DipingiMappa(painter, mappa_, sfondo_, comeDipinta_, ColoriMappa(palette()));
+        const ColoriMappa colori = ColoriDellaFinestra(palette());
+        DipingiMappa(painter, mappa_, sfondo_, comeDipinta_, colori);
+        DipingiNomi(painter, NomiChiEntrano(mappa_, comeDipinta_, Misura(font())), colori);
         fresca_ = true;
     }
     QPainter painter(this);
@@ -136,7 +138,7 @@ void VistaMappa::DipingiSegnato(QPainter& painter) const {
     const LuogoSullaMappa* luogo = mappa_.Luogo(riga_);
     if (luogo == nullptr) return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ColoriMappa(palette()).corrente, 3));
+    painter.setPen(QPen(ColoriDellaFinestra(palette()).corrente, 3));
     painter.drawEllipse(vista_.Pixel(luogo->dove), kRaggioSegno, kRaggioSegno);
 }
 

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <optional>
 
-#include "ui/mappa/pittura_mappa.h"
+#include "mappa/pittura_mappa.h"
 
 namespace cronovia {
 

@@ -8,6 +8,8 @@
 #include <QPalette>
 #include <QPointF>
 #include <QSizeF>
+#include <array>
+#include <functional>
 #include <vector>
 
 #include "places/coste.h"
@@ -36,18 +38,21 @@ inline constexpr double kMassimaScala = 60;
 /// The view that shows a part of the plane whole, with a rim of pixels.
 Inquadratura Adattata(const RiquadroMappa& riquadro, const QSizeF& area, double orlo);
 
-/// The colours of a map, for a light or a dark window.
+/// The colours of a map.
 struct ColoriMappa {
-    explicit ColoriMappa(const QPalette& palette);
-
     QColor mare;
     QColor terra;
     QColor confine;
     QColor testo;
-    QColor vie[2];  ///< of days that follow each other
+    std::array<QColor, 2> vie;  ///< of days that follow each other
+    QColor altre;               ///< of the days that are not looked at
     QColor notte;
     QColor corrente;  ///< of the current place
 };
+
+/// Those of a light or a dark window, and those of paper: little ink, told apart in grey too.
+ColoriMappa ColoriDellaFinestra(const QPalette& palette);
+ColoriMappa ColoriDellaCarta();
 
 /// Coasts and borders on the plane, ready to be drawn.
 class Sfondo {
@@ -59,14 +64,27 @@ class Sfondo {
 
   private:
     struct Forma {
-        QPainterPath tracciato;  // kilometres
+        std::vector<PuntoMappa> punti;
         RiquadroMappa riquadro;
     };
-    static std::vector<Forma> Forme(const std::vector<LineaCosta>& linee, bool chiuse);
+    static std::vector<Forma> Forme(const std::vector<LineaCosta>& linee);
+    static QPainterPath Tracciato(const std::vector<Forma>& forme, const Inquadratura& vista, bool chiuse);
 
     std::vector<Forma> terre_;
     std::vector<Forma> confini_;
 };
+
+/// The map without its names. Of one day, if it is given, the way in its colours and the places; the way of the others
+/// stays in the ground.
+void DipingiMappa(QPainter& painter, const MappaViaggio& mappa, const Sfondo& sfondo, const Inquadratura& vista,
+                  const ColoriMappa& colori, int giornata = kSenzaGiornata);
+
+/// How far names reach, in pixels.
+struct MisuraNomi {
+    std::function<double(const QString& nome)> larghezza;
+    double altezza = 0;
+};
+MisuraNomi Misura(const QFont& font);
 
 /// A name on the map, and the place that it belongs to.
 struct NomeSullaMappa {
@@ -75,11 +93,12 @@ struct NomeSullaMappa {
     int luogo = 0;  ///< its position among the places of the map
 };
 
-/// The names that fit without covering each other: departure and end, nights, stops, then the others.
-std::vector<NomeSullaMappa> NomiChiEntrano(const MappaViaggio& mappa, const Inquadratura& vista, const QFont& font);
+/// The names that fit into what is seen without covering each other or the nights: departure and end, nights, stops,
+/// then the others. A night's name begins with the numbers of its days, which stand alone where it has no room.
+std::vector<NomeSullaMappa> NomiChiEntrano(const MappaViaggio& mappa, const Inquadratura& vista,
+                                           const MisuraNomi& misura);
 
-/// The whole map.
-void DipingiMappa(QPainter& painter, const MappaViaggio& mappa, const Sfondo& sfondo, const Inquadratura& vista,
-                  const ColoriMappa& colori);
+/// With a rim in the colour of the land, so that lines below do not disturb.
+void DipingiNomi(QPainter& painter, const std::vector<NomeSullaMappa>& nomi, const ColoriMappa& colori);
 
 }  // namespace cronovia
