@@ -140,8 +140,10 @@ void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, const std::vector<
 
 void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const bool pdf = richiesta.opzioni.contains(u"pdf"_s);
-    if (!pdf && richiesta.opzioni.contains(u"sovrascrivi"_s)) {
-        throw WrongUsage(u"L'opzione --sovrascrivi vale solo con --pdf."_s);
+    for (const QString& opzione : {u"sovrascrivi"_s, u"mappa"_s}) {
+        if (!pdf && richiesta.opzioni.contains(opzione)) {
+            throw WrongUsage(u"L'opzione --%1 vale solo con --pdf."_s.arg(opzione));
+        }
     }
     if (pdf) return richiesta.stampe.giornate(apri, richiesta, uscita);
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);

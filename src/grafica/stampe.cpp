@@ -7,12 +7,13 @@
 #include <algorithm>
 #include <memory>
 
+#include "app/cartella_dati.h"
 #include "cli/opzioni_calcolo.h"
 #include "interaction/failure.h"
+#include "itinerary/posizioni.h"
 #include "print/file_pdf.h"
-#include "print/stampa_cronovia.h"
-#include "print/stampa_giornate.h"
 #include "print/stampa_guida.h"
+#include "print/stampa_tutto.h"
 #include "print/tabella_testo.h"
 
 namespace cronovia {
@@ -21,6 +22,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+PieDiPagina Piede() { return {QDate::currentDate(), QCoreApplication::applicationName()}; }
+
+// With its map, when the line asks for it.
+DatiStampa Prepara(Sessione& sessione, const MetaCalcolata& calcolata, const Richiesta& richiesta) {
+    const auto& [aperta, esito] = calcolata;
+    DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
+    if (!richiesta.opzioni.contains(u"mappa"_s)) return dati;
+    Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
+    const std::vector<PosizioneTappa> posizioni =
+        PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+    dati.mappa =
+        PreparaMappa(dati, *esito.cronovia, aperta.tappe, posizioni, LeggiCoste(FileDelProgramma(u"coste.dat"_s)));
+    return dati;
+}
+
 // Both files are whole on the disk before either takes its place: when one fails, both are as they were.
 void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
@@ -28,12 +44,11 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Sessione sessione = apri();
     sessione.RifiutaSeDanneggiato();
     Progress& progress = *richiesta.avanzamento;
-    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    const MetaCalcolata calcolata = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
-    const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
-    const Stampato documento =
-        StampaCronovia(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress);
+    const DatiStampa dati = Prepara(sessione, calcolata, richiesta);
+    const Stampato documento = StampaLeScelte(dati, Piede(), {true, false}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
     file.Completa();
@@ -43,7 +58,7 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     uscita << u"Stampa sul file %1: completata! Pagine: %2.\n"_s.arg(
                   QDir::toNativeSeparators(path), QString::number(std::max<std::size_t>(documento.pagine.size(), 1)))
            << RigaTabellaScritta(sessione.Cartella());
-    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+    if (!calcolata.esito.messaggio.isEmpty()) uscita << calcolata.esito.messaggio << '\n';
 }
 
 void ScriviFile(const Stampato& documento, const QString& path, const Richiesta& richiesta, Sessione& sessione,
@@ -70,12 +85,11 @@ void StampaLeGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTex
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
     Progress& progress = *richiesta.avanzamento;
-    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
-    const DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
+    const MetaCalcolata calcolata = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    const DatiStampa dati = Prepara(sessione, calcolata, richiesta);
     if (dati.giorni.empty()) throw Failure(u"Niente da stampare: l'itinerario non ha ancora tappe."_s);
-    ScriviFile(StampaGiornate(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress), path,
-               richiesta, sessione, uscita);
-    if (!esito.messaggio.isEmpty()) uscita << esito.messaggio << '\n';
+    ScriviFile(StampaLeScelte(dati, Piede(), {false, true}, progress), path, richiesta, sessione, uscita);
+    if (!calcolata.esito.messaggio.isEmpty()) uscita << calcolata.esito.messaggio << '\n';
 }
 
 DatiStampaGuida DatiPerStampa(Sessione& sessione, const Richiesta& richiesta, const OpzioniStampaGuida& opzioni) {
@@ -92,8 +106,7 @@ void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
     if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
     Progress& progress = *richiesta.avanzamento;
-    ScriviFile(StampaGuida(dati, {QDate::currentDate(), QCoreApplication::applicationName()}, progress), path,
-               richiesta, sessione, uscita);
+    ScriviFile(StampaGuida(dati, Piede(), progress), path, richiesta, sessione, uscita);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "itinerary/posizioni.h"
 #include "schedule/testi_giornata.h"
 #include "schedule/testi_ore.h"
 
@@ -60,6 +61,17 @@ DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia) {
         for (const int riga : dati.giorni[i].giornata.righe) dati.righe[static_cast<std::size_t>(riga)].giorno = i;
     }
     return dati;
+}
+
+std::shared_ptr<const MappaStampata> PreparaMappa(const DatiStampa& dati, const Cronovia& cronovia,
+                                                  std::span<const Tappa> righe,
+                                                  std::span<const PosizioneTappa> posizioni, Coste coste) {
+    std::vector<Giornata> giornate;
+    giornate.reserve(dati.giorni.size());
+    for (const GiornoStampato& giorno : dati.giorni) giornate.push_back(giorno.giornata);
+    const GiorniItinerario giorni = giornate.empty() ? GiorniItinerario() : GiorniItinerario(cronovia, giornate, righe);
+    return std::make_shared<const MappaStampata>(MappaStampata{
+        ComponiMappa(righe, posizioni, giornate, giorni), std::move(coste), LocalitaSenzaPosizione(righe, posizioni)});
 }
 
 }  // namespace cronovia

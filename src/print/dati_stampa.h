@@ -4,11 +4,15 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "itinerary/riepilogo.h"
+#include "places/coste.h"
 #include "schedule/colonne.h"
+#include "schedule/mappa_viaggio.h"
 #include "schedule/riga_cronovia.h"
 #include "schedule/strisce.h"
 #include "trips/meta.h"
@@ -35,6 +39,13 @@ struct GiornoStampato {
     StrisciaDelGiorno striscia;
 };
 
+/// The journey on maps, and what they show around it.
+struct MappaStampata {
+    MappaViaggio viaggio;
+    Coste coste;
+    QStringList sconosciute;  ///< localities that are missing on it, since nobody knows where they lie
+};
+
 /// A snapshot: nothing in it changes with the trip.
 struct DatiStampa {
     Meta meta;
@@ -45,9 +56,15 @@ struct DatiStampa {
     TestiTotali totali;        ///< of the schedule, by road type
     int traghettiAOrario = 0;  ///< of its ferries, those with their own hours
     QString scadenza = {};     ///< how the end stands to when one has to be home; empty when nothing is set
+    std::shared_ptr<const MappaStampata> mappa = {};  ///< null when no map is wanted
 };
 
 /// What is printed of a trip and its schedule.
 DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia);
+
+/// Its map: the rows of the itinerary from which the schedule was computed, and as many positions.
+std::shared_ptr<const MappaStampata> PreparaMappa(const DatiStampa& dati, const Cronovia& cronovia,
+                                                  std::span<const Tappa> righe,
+                                                  std::span<const PosizioneTappa> posizioni, Coste coste);
 
 }  // namespace cronovia

@@ -96,10 +96,13 @@ class Foglio {
     /// The text where it is narrower than that; else its longest beginning that is with "…" behind it.
     QString Tagliato(const QString& testo, const Carattere& carattere, double larghezza);
 
-    /// A rule, a box or a bar of the open page.
+    /// A rule, a box, a bar or a map of the open page.
     void Traccia(const Linea& linea) { PaginaCorrente().linee.push_back(linea); }
     void Traccia(const Riquadro& riquadro) { PaginaCorrente().riquadri.push_back(riquadro); }
     void Traccia(const Barra& barra) { PaginaCorrente().barre.push_back(barra); }
+    void Traccia(const Carta& carta) { PaginaCorrente().carte.push_back(carta); }
+    /// A text that has its place.
+    void Traccia(const TestoCollocato& testo) { PaginaCorrente().testi.push_back(testo); }
     /// The program's picture, within that area of the open page.
     void StampaLogo(const QRectF& area);
     /// What stands at `y` of the open page, by name.

@@ -2,11 +2,14 @@
 // The page model: what stands where on paper, before anything is painted.
 #pragma once
 
+#include <QPointF>
 #include <QRectF>
 #include <QString>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
+#include "mappa/pittura_mappa.h"
 #include "schedule/strisce.h"
 
 namespace cronovia {
@@ -27,6 +30,7 @@ struct TestoCollocato {
     double x = 0;          ///< left edge
     double base = 0;       ///< baseline
     double larghezza = 0;  ///< as measured
+    bool alone = false;    ///< with a white rim, over what is drawn below
 };
 
 /// How thick a rule is; thin ones are grey.
@@ -55,6 +59,19 @@ struct Barra {
     bool liscia = false;  ///< its ground alone: where a text stands on it
 };
 
+struct MappaStampata;
+
+/// What a map measures its signs in, and how large that is on paper.
+inline constexpr double kPixelCarta = 0.22;
+
+/// A map without its names, which are texts of the page.
+struct Carta {
+    QPointF angolo;                 ///< its upper left corner
+    Inquadratura vista;             ///< in pixels of `kPixelCarta`
+    int giornata = kSenzaGiornata;  ///< the day that it is about
+    std::shared_ptr<const MappaStampata> mappa;
+};
+
 /// A picture in its place.
 struct Immagine {
     QRectF area;
@@ -63,6 +80,7 @@ struct Immagine {
 
 /// One sheet; painted in the order of the lists.
 struct Pagina {
+    std::vector<Carta> carte;
     std::vector<Riquadro> riquadri;
     std::vector<Linea> linee;
     std::vector<Barra> barre;

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "interaction/failure.h"
+#include "print/dati_stampa.h"
 #include "print/font_stampa.h"
 
 namespace cronovia {
@@ -84,6 +85,7 @@ class Pittore {
     }
 
     void Dipingi(const Pagina& pagina) {
+        for (const Carta& carta : pagina.carte) Dipingi(carta);
         for (const Riquadro& riquadro : pagina.riquadri) Dipingi(riquadro);
         for (const Linea& linea : pagina.linee) {
             Penna(linea.filetto);
@@ -160,7 +162,28 @@ class Pittore {
 
     void Tratto(double x1, double y1, double x2, double y2) { pennello_.drawLine(Punto(x1, y1), Punto(x2, y2)); }
 
+    void Dipingi(const Carta& carta) {
+        if (disegnata_ != carta.mappa.get()) {
+            disegnata_ = carta.mappa.get();
+            sfondo_ = Sfondo(disegnata_->coste);
+        }
+        pennello_.save();
+        pennello_.translate(Punto(carta.angolo.x(), carta.angolo.y()));
+        pennello_.scale(Unita(kPixelCarta), Unita(kPixelCarta));
+        pennello_.setClipRect(QRectF(QPointF(), carta.vista.area));
+        DipingiMappa(pennello_, disegnata_->viaggio, sfondo_, carta.vista, ColoriDellaCarta(), carta.giornata);
+        pennello_.restore();
+    }
+
+    void DipingiAlone(const TestoCollocato& testo) {
+        constexpr double kAlone = 0.6;
+        QPainterPath lettere;
+        lettere.addText(Punto(testo.x, testo.base), font_.Font(testo.carattere), testo.testo);
+        pennello_.strokePath(lettere, QPen(Qt::white, Unita(kAlone), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+
     void Dipingi(const TestoCollocato& testo) {
+        if (testo.alone) DipingiAlone(testo);
         StileStampa& stile = misure_.Stile(testo.carattere);
         if (!aGlifi_ || !stile.Componibile(testo.testo)) {
             pennello_.setFont(font_.Font(testo.carattere));
@@ -197,6 +220,8 @@ class Pittore {
     Misure misure_;
     std::vector<std::pair<Carattere, QRawFont>> grezzi_;
     bool aGlifi_ = false;
+    const MappaStampata* disegnata_ = nullptr;  // whose coasts these are
+    Sfondo sfondo_;
     QHash<QString, std::shared_ptr<QSvgRenderer>> disegni_;
 };
 

@@ -3,26 +3,53 @@
 
 #include <QDir>
 #include <iterator>
+#include <optional>
+#include <utility>
 
 #include "interaction/failure.h"
 #include "print/stampa_cronovia.h"
 #include "print/stampa_giornate.h"
+#include "print/stampa_mappe.h"
 #include "print/tabella_testo.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Puts a part before a document, whose title stays; its own bookmarks give way to one.
+void Premetti(Stampato parte, const QString& segnalibro, Stampato& documento) {
+    for (Segnalibro& altro : documento.segnalibri) altro.pagina += parte.pagine.size();
+    documento.segnalibri.insert(documento.segnalibri.begin(), {segnalibro, 0, 0});
+    documento.pagine.insert(documento.pagine.begin(), std::make_move_iterator(parte.pagine.begin()),
+                            std::make_move_iterator(parte.pagine.end()));
+}
+
+// Puts one behind it.
+void Aggiungi(Stampato parte, Stampato& documento) {
+    for (Segnalibro& altro : parte.segnalibri) {
+        altro.pagina += documento.pagine.size();
+        documento.segnalibri.push_back(std::move(altro));
+    }
+    documento.pagine.insert(documento.pagine.end(), std::make_move_iterator(parte.pagine.begin()),
+                            std::make_move_iterator(parte.pagine.end()));
+}
+
+}  // namespace
+
 Stampato StampaLeScelte(const DatiStampa& dati, const PieDiPagina& piede, PagineScelte scelte, Progress& progress) {
-    if (!scelte.giornate) return StampaCronovia(dati, piede, progress);
-    Stampato documento = StampaGiornate(dati, piede, progress);
-    if (!scelte.cronovia) return documento;
-    Stampato cronovia = StampaCronovia(dati, piede, progress);
-    for (Segnalibro& segnalibro : cronovia.segnalibri) segnalibro.pagina += documento.pagine.size();
-    cronovia.segnalibri.insert(cronovia.segnalibri.begin(), {u"Giornate"_s, 0, 0});
-    cronovia.pagine.insert(cronovia.pagine.begin(), std::make_move_iterator(documento.pagine.begin()),
-                           std::make_move_iterator(documento.pagine.end()));
-    return cronovia;
+    std::optional<Stampato> mappe;
+    if (dati.mappa) mappe = StampaMappe(dati, scelte.giornate, piede, progress);
+    if (!scelte.cronovia) {
+        Stampato documento = StampaGiornate(dati, piede, progress);
+        if (mappe) Aggiungi(std::move(*mappe), documento);
+        return documento;
+    }
+    Stampato documento = StampaCronovia(dati, piede, progress);
+    if (mappe) Premetti(std::move(*mappe), u"Mappa"_s, documento);
+    if (scelte.giornate) Premetti(StampaGiornate(dati, piede, progress), u"Giornate"_s, documento);
+    return documento;
 }
 
 void StampaTutto(const RichiestaStampa& richiesta, Interaction& interaction, Progress& progress) {

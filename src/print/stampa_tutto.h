@@ -18,7 +18,8 @@ struct PagineScelte {
     bool giornate = false;
 };
 
-/// The pages that were chosen in one document, the days first; each part counts its own.
+/// The pages that were chosen in one document: the days, the maps if the data have one, the schedule. Each part counts
+/// its own pages.
 Stampato StampaLeScelte(const DatiStampa& dati, const PieDiPagina& piede, PagineScelte scelte, Progress& progress);
 
 /// A print run; `dati` must outlive it.

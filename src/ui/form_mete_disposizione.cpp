@@ -171,6 +171,9 @@ void FormMete::SegueAspetto() {
     aspetto_.Segue(
         u"altezzaGiornate"_s, [this] { return giornate_->Altezza(); },
         [this](const QVariant& altezza) { giornate_->RicordaAltezza(altezza.toInt()); });
+    aspetto_.Segue(
+        u"mappaSuCarta"_s, [this] { return stampa_->ConMappa(); },
+        [this](const QVariant& voluta) { stampa_->ConMappa(voluta.toBool()); });
     aspetto_.Ripristina();
 }
 

@@ -4,11 +4,13 @@
 
 #include <gmock/gmock.h>
 
+#include <QImage>
 #include <QPdfWriter>
 #include <QProcess>
 #include <QRegularExpression>
 
 #include "print/pittore.h"
+#include "print/stampa_tutto.h"
 #include "stampa.h"
 
 namespace cronovia {
@@ -117,6 +119,39 @@ TEST_F(FilePdf, HoldsEveryTextInOrderAndInItsPlace) {
     Scrivi(prova::Stampa(prova::Viaggio(0)));
     EXPECT_TRUE(Poppler(u"pdfinfo"_s, {path_}).contains(QRegularExpression(u"Pages: +1\n"_s)));
     EXPECT_TRUE(Parole(path_).empty());
+}
+
+// The picture of the journey on paper, looked at point by point.
+TEST_F(FilePdf, ShowsTheJourneyOnItsMaps) {
+    const Stampato documento = StampaLeScelte(prova::ConMappa(), prova::kPiede, {true, false}, titoli_);
+    Scrivi(documento);
+    Poppler(u"pdftoppm"_s, {u"-r"_s, u"254"_s, u"-l"_s, u"1"_s, u"-png"_s, u"-singlefile"_s, path_, path_});
+    const QImage foglio(path_ + u".png"_s);
+    ASSERT_FALSE(foglio.isNull());
+    const Carta& carta = documento.pagine.front().carte.at(0);
+    const auto dove = [&](const Posizione& posizione) {
+        return (carta.angolo + QPointF(kMargineFoglio, kMargineFoglio) +
+                carta.vista.Pixel(Proietta(posizione)) * kPixelCarta) *
+               10;
+    };
+    const auto grigio = [&](const QPointF& punto) { return qGray(foglio.pixel(punto.toPoint())); };
+    // How many of the points between two places are as dark as a line.
+    const auto scuri = [&](const Posizione& da, const Posizione& a) {
+        int quanti = 0;
+        for (int i = 10; i < 90; ++i) quanti += grigio(dove(da) + (dove(a) - dove(da)) * i / 100) < 160 ? 1 : 0;
+        return quanti;
+    };
+    const ColoriMappa colori = ColoriDellaCarta();
+    const Posizione mare{42.3, 9.9};
+    EXPECT_NEAR(grigio(dove(mare)), qGray(colori.mare.rgb()), 2);
+    EXPECT_EQ(grigio(dove({44.8, 11.0})), 255) << "land takes no ink";
+    const auto& luoghi = carta.mappa->viaggio.luoghi;
+    const auto punto = [&](std::size_t i) { return Ricava(luoghi.at(i).dove); };
+    EXPECT_EQ(grigio(dove(punto(0))), 0) << "a place that is known is full";
+    EXPECT_EQ(grigio(dove(punto(3))), 255) << "one that is guessed is hollow";
+    EXPECT_GT(scuri(punto(0), punto(1)), 70) << "driven: a whole line";
+    const int traghetto = scuri(punto(1), punto(2));
+    EXPECT_TRUE(traghetto > 25 && traghetto < 65) << traghetto << ": a ferry's line is dashed";
 }
 
 // A printer that keeps the sheet it has, and paints within its margins.

@@ -43,14 +43,29 @@ inline DatiStampa Viaggio(int righe) {
     return dati;
 }
 
-/// The schedule of trip 1 of an exchange file.
-inline DatiStampa DallArchivio(const QString& path) {
+/// The schedule of trip 1 of an exchange file; with its map where its stages have positions.
+inline DatiStampa DallArchivio(const QString& path, const std::vector<PosizioneTappa>& posizioni = {}) {
     const CartellaDiProva cartella;
     Sessione sessione(cartella.Path());
     Progress progress;
     ImportaMete({sessione.Archivio(), path, {}}, progress);
     const MetaAperta aperta = sessione.ApriMeta(u"1"_s);
-    return PreparaStampa(aperta.meta, *sessione.Calcola(aperta, {}, progress).cronovia);
+    const Cronovia cronovia = *sessione.Calcola(aperta, {}, progress).cronovia;
+    DatiStampa dati = PreparaStampa(aperta.meta, cronovia);
+    if (posizioni.empty()) return dati;
+    dati.mappa =
+        PreparaMappa(dati, cronovia, aperta.tappe, posizioni, LeggiCoste(QStringLiteral(CRONOVIA_PLACES "/coste.dat")));
+    return dati;
+}
+
+/// Two days to a ferry, a night at its end, and on to a place that is a guess.
+inline DatiStampa ConMappa() {
+    using enum FontePosizione;
+    return DallArchivio(QStringLiteral(CRONOVIA_TEST_DATA "/journeys/traghetto_notturno.iei"),
+                        {{Posizione{45.44, 10.99}, Repertorio, {}},
+                         {Posizione{43.55, 10.31}, Repertorio, {}},
+                         {Posizione{40.92, 9.50}, Confermata, {}},
+                         {Posizione{40.32, 9.33}, Interpolata, {}}});
 }
 
 inline DatiStampa CapoNord() { return DallArchivio(QStringLiteral(CRONOVIA_EXAMPLES "/capo-nord.iei")); }

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "app/cartella_dati.h"
 #include "app/comandi_cronovia.h"
 #include "print/moduli.h"
 #include "print/stampa_tutto.h"
@@ -137,7 +138,16 @@ void ComandoStampa::AvviaModuli(const DatiStampa& dati) {
 }
 
 DatiStampa ComandoStampa::Dati() const {
-    return PreparaStampa(ambiente_.postazione.documento.Campi(), *ambiente_.postazione.documento.Calcolata());
+    Postazione& postazione = ambiente_.postazione;
+    const Documento& documento = postazione.documento;
+    const Cronovia& cronovia = *documento.Calcolata();
+    DatiStampa dati = PreparaStampa(documento.Campi(), cronovia);
+    if (!opzioni_->ConMappa()) return dati;
+    const std::vector<PosizioneTappa>& posizioni =
+        postazione.luoghi.Posizioni(postazione.sessione.Archivio(), documento.Righe(), documento.Campi().nazione);
+    dati.mappa =
+        PreparaMappa(dati, cronovia, documento.Righe(), posizioni, LeggiCoste(FileDelProgramma(u"coste.dat"_s)));
+    return dati;
 }
 
 PieDiPagina ComandoStampa::Piede() const {

@@ -45,6 +45,9 @@ class ComandoStampa : public QObject, public Schermo {
     bool Tasto(const QKeyEvent& tasto) override;
     void MostraAnteprima();
     void Stampa();
+    /// Whether printouts go with the map; remembered from one session to the next.
+    [[nodiscard]] bool ConMappa() const { return opzioni_->ConMappa(); }
+    void ConMappa(bool voluta) { opzioni_->ConMappa(voluta); }
 
   private:
     void EseguiStampa(const std::function<void(const Stampato&)>& stampa);

@@ -18,6 +18,9 @@ FrmStampa::FrmStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmStampa"_s, u"Opz
     chkGiornate_ = new QCheckBox(u"Giornate"_s);
     chkGiornate_->setObjectName(u"chkGiornate"_s);
     MostraIstruzione(*chkGiornate_, u"Stampa prima i giorni del viaggio, ognuno con le sue 24 ore"_s);
+    chkMappa_ = new QCheckBox(u"Con la mappa"_s);
+    chkMappa_->setObjectName(u"chkMappa"_s);
+    MostraIstruzione(*chkMappa_, u"Aggiunge la mappa del viaggio, e con le giornate una per ogni giorno"_s);
     chkModuli_ = new QCheckBox(u"Moduli \"Diario di bordo\""_s);
     chkModuli_->setObjectName(u"chkModuli"_s);
     MostraIstruzione(*chkModuli_, u"Stampa i moduli in bianco con il programma Fogliax"_s);
@@ -28,6 +31,7 @@ FrmStampa::FrmStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmStampa"_s, u"Opz
     QVBoxLayout& layout = Contenuto();
     layout.addWidget(chkTabella_);
     layout.addWidget(chkGiornate_);
+    layout.addWidget(chkMappa_);
     layout.addWidget(chkModuli_);
     layout.addSpacing(kStacco);
     auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
@@ -35,6 +39,7 @@ FrmStampa::FrmStampa(Azioni& azioni) : RiquadroSovrapposto(u"frmStampa"_s, u"Opz
     layout.addLayout(riga);
     for (const QCheckBox* pagine : {chkTabella_, chkGiornate_}) {
         connect(pagine, &QCheckBox::toggled, this, &FrmStampa::Cambiata);
+        connect(pagine, &QCheckBox::toggled, this, [this] { chkMappa_->setEnabled(Pagine()); });
     }
 }
 

@@ -21,6 +21,9 @@ class FrmStampa : public RiquadroSovrapposto {
     /// One of the first two: there are pages to look at.
     [[nodiscard]] bool Pagine() const { return Tabella() || Giornate(); }
     [[nodiscard]] bool Moduli() const { return chkModuli_->isChecked(); }
+    /// Whether the pages go with the map.
+    [[nodiscard]] bool ConMappa() const { return chkMappa_->isChecked(); }
+    void ConMappa(bool voluta) { chkMappa_->setChecked(voluta); }
 
   Q_SIGNALS:
     /// Something else is ticked.
@@ -29,6 +32,7 @@ class FrmStampa : public RiquadroSovrapposto {
   private:
     QCheckBox* chkTabella_;
     QCheckBox* chkGiornate_;
+    QCheckBox* chkMappa_;
     QCheckBox* chkModuli_;
 };
 
