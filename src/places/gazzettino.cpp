@@ -19,11 +19,13 @@ using namespace Qt::StringLiterals;
 // The layout is told in packaging/luoghi.py, which writes the file.
 namespace {
 
-constexpr std::string_view kFirma = "CrvLuog1";
+constexpr std::string_view kFirma = "CrvLuog2";
 constexpr std::size_t kTesta = 8 + 8 * 4;
 constexpr std::size_t kByteLuogo = 11;
 constexpr std::size_t kNomiPerBlocco = 16;
 constexpr int kMassimoLuoghi = 1 << 22;
+// In a place's byte of the country: it is a part of a town.
+constexpr unsigned kParte = 0x80;
 // How many names a beginning may have before those behind are left out.
 constexpr int kMassimoScorsi = 6000;
 constexpr int kMassimoChiamati = 48;
@@ -164,7 +166,7 @@ Luogo Gazzettino::Descrivi(int numero) {
     luogo.numero = numero;
     luogo.posizione = {Intero24(byte) / 10000.0 - 90, Intero24(byte + 3) / 10000.0 - 180};
     luogo.nome = Nome(static_cast<int>(Intero24(byte + 6)));
-    const int nazione = std::min<int>(byte[9], nazioni_ - 1);
+    const int nazione = std::min<int>(static_cast<int>(byte[9] & ~kParte), nazioni_ - 1);
     luogo.nazione = QString::fromLatin1(reinterpret_cast<const char*>(byte_ + kTesta) + 2 * nazione, 2);
     luogo.peso = byte[10] / 10.0;
     return luogo;
@@ -211,12 +213,13 @@ std::vector<Luogo> Gazzettino::CheIniziano(QStringView inizio, int massimo, cons
         if (piegato < forma) return true;
         if (!piegato.startsWith(forma) || ++scorsi > kMassimoScorsi) return false;
         const uchar* const byte = byte_ + inizioLuoghi_ + kByteLuogo * static_cast<std::size_t>(intero.letto.luogo);
-        const QLatin1StringView codice(reinterpret_cast<const char*>(byte_ + kTesta) + 2 * byte[9], 2);
+        const QLatin1StringView codice(reinterpret_cast<const char*>(byte_ + kTesta) + 2 * (byte[9] & ~kParte), 2);
         const double merito = byte[10] / 10.0 +
                               (intero.letto.italiano     ? 6
                                : intero.letto.principale ? 4
                                                          : 0) +
-                              (piegato == forma ? 6 : 0) + (nazioni.contains(codice) ? 3 : 0);
+                              (piegato == forma ? 6 : 0) + (nazioni.contains(codice) ? 3 : 0) -
+                              ((byte[9] & kParte) != 0 ? 8 : 0);
         const auto [posto, nuovo] =
             perLuogo.try_emplace(intero.letto.luogo, Trovato{merito, intero.nome, intero.letto});
         if (!nuovo && posto->second.merito < merito) posto->second = {merito, intero.nome, intero.letto};
@@ -249,7 +252,7 @@ std::optional<Luogo> Gazzettino::PiuVicino(const Posizione& posizione, double en
         const double nord = Intero24(byte) / 10000.0 - 90 - posizione.latitudine;
         const double est = (Intero24(byte + 3) / 10000.0 - 180 - posizione.longitudine) * stretto;
         const double distanza = nord * nord + est * est;
-        if (distanza < minima) {
+        if (distanza < minima && (byte[9] & kParte) == 0) {
             minima = distanza;
             vicino = i;
         }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The places that the program knows: towns and villages of Europe and around it, by all their names.
+// The places that the program knows: towns, villages and sights of Europe and around it, by all their names.
 #pragma once
 
 #include <QFile>
@@ -55,7 +55,7 @@ class Gazzettino {
     /// for fewer than two letters.
     std::vector<Luogo> CheIniziano(QStringView inizio, int massimo, const QStringList& nazioni);
 
-    /// The place that is nearest, if it lies within so many kilometres.
+    /// The place that is nearest, if it lies within so many kilometres; parts of a town give way to it.
     std::optional<Luogo> PiuVicino(const Posizione& posizione, double entroKm);
 
     /// All names in their order, for who looks at the whole file.

@@ -47,7 +47,9 @@ TEST(Gazzettino, FindsPlacesHoweverTheyAreWritten) {
                          {u"S. VITO LO CAPO", u"San Vito lo Capo", {38.17, 12.74}},
                          {u"tromso", u"Tromsø", {69.65, 18.96}},
                          {u"L'ISLE SUR LA SORGUE", u"L'Isle-sur-la-Sorgue", {43.92, 5.05}},
-                         {u"REGGIO CALABRIA (PORTO)", u"Reggio Calabria", {38.11, 15.66}}};
+                         {u"REGGIO CALABRIA (PORTO)", u"Reggio Calabria", {38.11, 15.66}},
+                         {u"NORDKAPP", u"Capo Nord", {71.17, 25.78}},
+                         {u"stelvio pass", u"Passo dello Stelvio", {46.53, 10.45}}};
     Gazzettino gazzettino(kLuoghi);
     for (const Caso& caso : casi) {
         const std::vector<Luogo> luoghi = gazzettino.Chiamati(caso.scritto);
@@ -57,6 +59,11 @@ TEST(Gazzettino, FindsPlacesHoweverTheyAreWritten) {
     }
     EXPECT_EQ(gazzettino.PiuVicino({45.44, 10.99}, 5).value().nome, u"Verona"_s);
     EXPECT_FALSE(gazzettino.PiuVicino({45, -35}, 50));
+    // A city comes before its districts, whether one stands in them or types its name.
+    EXPECT_EQ(gazzettino.PiuVicino({43.2966, 5.3703}, 15).value().nome, u"Marsiglia"_s);
+    for (const Luogo& luogo : gazzettino.CheIniziano(u"marseille", 3, {u"FR"_s})) {
+        EXPECT_FALSE(luogo.nome.back().isDigit()) << luogo.nome.toStdString();
+    }
     const std::vector<Luogo> proposti = gazzettino.CheIniziano(u"cope", 5, {});
     EXPECT_EQ(proposti.at(0).trovato, u"Copenaghen"_s);
     EXPECT_EQ(gazzettino.CheIniziano(u"mil", 3, {u"IT"_s}).at(0).nome, u"Milano"_s);
