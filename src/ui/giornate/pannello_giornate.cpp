@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -78,6 +79,8 @@ PannelloGiornate::PannelloGiornate(Postazione& postazione, Esegui esegui)
     connect(vista_, &VistaGiornate::GiornataLasciata, this, [this](int giornata, int prima) {
         esegui_([&] { comandi::SpostaGiornataPrimaDi(postazione_, giornata, prima); });
     });
+    connect(this, &QDockWidget::dockLocationChanged, this, &PannelloGiornate::LimitaAltezza);
+    connect(this, &QDockWidget::topLevelChanged, this, &PannelloGiornate::LimitaAltezza);
     CreaAzioni();
 }
 
@@ -145,28 +148,39 @@ void PannelloGiornate::Aggiorna() {
     MostraPieno(cronovia != nullptr);
 }
 
-// Without days there is a sentence; above or below the grid it takes no more room than it needs.
+// Without days there is a sentence, which takes no more room than it needs; the days get back what they had.
 void PannelloGiornate::MostraPieno(bool pieno) {
     avviso_->setVisible(!pieno);
     vista_->setVisible(pieno);
     legenda_->setVisible(pieno);
-    if (pieno == pieno_) return;
+    const bool appenaPieno = pieno && pieno_ != true;
     pieno_ = pieno;
-    auto* finestra = qobject_cast<QMainWindow*>(parentWidget());
-    const Qt::DockWidgetArea dove = finestra == nullptr ? Qt::NoDockWidgetArea : finestra->dockWidgetArea(this);
-    const bool sopraOSotto = dove == Qt::TopDockWidgetArea || dove == Qt::BottomDockWidgetArea;
-    const bool basso = !pieno && sopraOSotto && !isFloating();
-    widget()->setMaximumHeight(basso ? widget()->sizeHint().height() : QWIDGETSIZE_MAX);
-    if (pieno && sopraOSotto) {
-        widget()->layout()->invalidate();
-        layout()->invalidate();
-        finestra->resizeDocks({this}, {altezza_ > 0 ? altezza_ : sizeHint().height()}, Qt::Vertical);
-    }
+    LimitaAltezza();
+    if (!appenaPieno || !SopraOSotto()) return;
+    widget()->layout()->invalidate();
+    layout()->invalidate();
+    qobject_cast<QMainWindow*>(parentWidget())
+        ->resizeDocks({this}, {altezza_ > 0 ? altezza_ : sizeHint().height()}, Qt::Vertical);
+}
+
+// Whether the height is the panel's own: beside the grid it is that of the window.
+bool PannelloGiornate::SopraOSotto() {
+    const auto* finestra = qobject_cast<const QMainWindow*>(parentWidget());
+    if (finestra == nullptr || isFloating()) return false;
+    const Qt::DockWidgetArea dove = finestra->dockWidgetArea(this);
+    return dove == Qt::TopDockWidgetArea || dove == Qt::BottomDockWidgetArea;
+}
+
+void PannelloGiornate::LimitaAltezza() {
+    const bool basso = pieno_ == false && SopraOSotto();
+    const int serve = std::max(widget()->layout()->totalHeightForWidth(widget()->width()), fontMetrics().height());
+    widget()->setMaximumHeight(basso ? serve : QWIDGETSIZE_MAX);
 }
 
 void PannelloGiornate::resizeEvent(QResizeEvent* event) {
     Pannello::resizeEvent(event);
-    if (pieno_ == true && isVisible()) altezza_ = height();
+    if (pieno_ == true && isVisible() && SopraOSotto()) altezza_ = height();
+    if (pieno_ == false && event->oldSize().width() != width()) LimitaAltezza();
 }
 
 void PannelloGiornate::Segue(int giornata, int riga) {

@@ -44,6 +44,8 @@ class PannelloGiornate : public Pannello {
     void Aggiorna();
     void MostraFine();
     void MostraPieno(bool pieno);
+    [[nodiscard]] bool SopraOSotto();
+    void LimitaAltezza();
 
     Postazione& postazione_;
     Esegui esegui_;
