@@ -17,10 +17,9 @@ using namespace Qt::StringLiterals;
 // As much of its text as there is room for. The text itself is one where no name can mark a letter.
 class ScrittaStretta : public QLabel {
   public:
-    ScrittaStretta() {
-        setTextFormat(Qt::PlainText);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
+    ScrittaStretta() { setTextFormat(Qt::PlainText); }
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
 
     void Mostra(const QString& testo) {
         setText(InScritta(testo));
@@ -86,8 +85,9 @@ TestataViaggio::TestataViaggio(QWidget& campi)
     riassunto_->setFont(grassetto);
     auto* layout = Spaziato(new QHBoxLayout(this), Spazi::Riga);
     layout->addWidget(maniglia_);
-    layout->addWidget(riassunto_, 3);
-    layout->addWidget(scadenza_, 2);
+    layout->addWidget(riassunto_);
+    layout->addSpacing(kSpazio);
+    layout->addWidget(scadenza_);
     layout->addStretch();
     maniglia_->setFixedHeight(maniglia_->fontMetrics().height() + kSpazio);
     connect(maniglia_, &QToolButton::clicked, azione_, &QAction::toggle);
