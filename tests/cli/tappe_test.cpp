@@ -90,8 +90,13 @@ TEST_F(TappeRilette, GiveHoursAndNotesAgain) {
             u"PrezzoIngresso=0.5"_s});
     Esegui({u"tappe"_s, codice, u"--aggiungi"_s, u"tappa=NUORO"_s, u"km=?"_s, u"sosta=*"_s});
     const QJsonObject olbia = Righe(codice)[1].toObject();
-    EXPECT_EQ(olbia[u"Imbarco"], u"0130"_s);
-    EXPECT_EQ(olbia[u"PrezzoTraghetto"], u"145,50"_s);
+    const std::pair<QString, QString> casi[] = {
+        {u"TraghettoOra"_s, u"2200"_s},      {u"TraghettoData"_s, u"26062027"_s}, {u"Navigazione"_s, u"00:08:30"_s},
+        {u"Imbarco"_s, u"0130"_s},           {u"NonPrimaOra"_s, u"0600"_s},       {u"NonDopoOra"_s, u"0930"_s},
+        {u"NonDopoData"_s, u"27062027"_s},   {u"VisiteDa"_s, u"0900"_s},          {u"VisiteA"_s, u"2400"_s},
+        {u"Link"_s, u"https://a.it/?b=c"_s}, {u"Prenotazione"_s, u"=X-1"_s},      {u"PrezzoTraghetto"_s, u"145,50"_s},
+        {u"PrezzoNotte"_s, u"30,00"_s},      {u"PrezzoIngresso"_s, u"0,50"_s}};
+    for (const auto& [campo, atteso] : casi) EXPECT_EQ(olbia[campo], atteso) << campo.toStdString();
     TornaUguale(codice);
 }
 
