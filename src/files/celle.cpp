@@ -2,6 +2,7 @@
 #include "files/celle.h"
 
 #include <QRegularExpression>
+#include <utility>
 
 #include "calendar/testo.h"
 
@@ -27,5 +28,28 @@ QString TabellaHtml(const QString& testo) {
     }
     return html + u"</table>\n"_s;
 }
+
+bool SpezzaCelle::Aggiungi(QStringView riga) {
+    if (dentro_) cella_ += u' ';
+    for (qsizetype i = 0; i < riga.size(); ++i) {
+        const QChar c = riga[i];
+        const bool apice = virgolette_ && c == u'"';
+        if (apice && dentro_ && i + 1 < riga.size() && riga[i + 1] == u'"') {
+            cella_ += riga[++i];
+        } else if (apice && (dentro_ || cella_.trimmed().isEmpty())) {
+            dentro_ = !dentro_;
+        } else if (c == separatore_ && !dentro_) {
+            Chiudi();
+        } else {
+            cella_ += c;
+        }
+    }
+    if (!dentro_) Chiudi();
+    return !dentro_;
+}
+
+QStringList SpezzaCelle::Prendi() { return std::exchange(celle_, {}); }
+
+void SpezzaCelle::Chiudi() { celle_ += std::exchange(cella_, {}).trimmed(); }
 
 }  // namespace cronovia

@@ -11,6 +11,7 @@
 #include "calendar/testo.h"
 #include "exchange/navigatori/lettore_navigatore.h"
 #include "exchange/percorsi/righe_testo.h"
+#include "files/celle.h"
 #include "files/lettore_righe.h"
 #include "interaction/failure.h"
 #include "places/nomi.h"
@@ -62,35 +63,6 @@ std::optional<PostoColonne> DaIntestazione(const QStringList& campi) {
 
 constexpr PostoColonne kSenzaIntestazione = {2, 1, 0, -1, -1, 3};
 
-// Parts a line into its fields; nothing when quotes that were opened are not closed in it.
-std::optional<QStringList> SeparaRiga(const QString& riga, QChar separatore) {
-    QStringList campi;
-    QString campo;
-    bool virgolette = false;
-    bool inizio = true;
-    for (qsizetype i = 0; i < riga.size(); ++i) {
-        const QChar c = riga[i];
-        if (virgolette && c == u'"') {
-            virgolette = i + 1 < riga.size() && riga[i + 1] == u'"';
-            if (!virgolette) continue;
-            campo += riga[++i];
-        } else if (!virgolette && c == separatore) {
-            campi += campo.trimmed();
-            campo.clear();
-            inizio = true;
-        } else if (inizio && c == u'"') {
-            virgolette = true;
-            inizio = false;
-        } else {
-            campo += c;
-            inizio = inizio && c == u' ';
-        }
-    }
-    if (virgolette) return std::nullopt;
-    campi += campo.trimmed();
-    return campi;
-}
-
 // One line: no ends of lines within a text.
 QString SuUnaRiga(const QString& testo) { return Visibile(testo).simplified(); }
 
@@ -133,7 +105,8 @@ class LettoreTabella {
     bool Riconosci() {
         for (const QChar separatore : {u'\t', u';', u','}) {
             separatore_ = separatore;
-            const QStringList campi = SeparaRiga(testo_, separatore).value_or(testo_.split(separatore));
+            SpezzaCelle celle(separatore);
+            const QStringList campi = celle.Aggiungi(testo_) ? celle.Prendi() : testo_.split(separatore);
             const auto posto = DaIntestazione(campi);
             posto_ = posto.value_or(kSenzaIntestazione);
             if (posto) {
@@ -147,15 +120,14 @@ class LettoreTabella {
 
     // Of the line, and of those that belong to it since a text in quotes goes on there.
     QStringList Campi() {
-        auto campi = SeparaRiga(testo_, separatore_);
-        while (!campi) {
+        SpezzaCelle celle(separatore_);
+        while (!celle.Aggiungi(testo_)) {
             if (riga_ - inizio_ >= kMassimeRigheCampo || !righe_.Avanza()) Rifiuta(u"le virgolette non si chiudono"_s);
             ++riga_;
             if (righe_.TroppoLunga()) Rifiuta(u"è troppo lunga"_s);
-            testo_ += u' ' + righe_.Testo();
-            campi = SeparaRiga(testo_, separatore_);
+            testo_ = righe_.Testo();
         }
-        return *campi;
+        return celle.Prendi();
     }
 
     void Aggiungi(const QStringList& campi) {

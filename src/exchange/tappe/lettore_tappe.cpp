@@ -8,6 +8,7 @@
 
 #include "exchange/percorsi/righe_testo.h"
 #include "exchange/tappe/tappe_json.h"
+#include "files/celle.h"
 #include "interaction/failure.h"
 #include "itinerary/celle_tappa.h"
 
@@ -23,42 +24,6 @@ const QStringList& Calcolate() {
                                           u"Data"_s, u"Ore"_s,   u"Note"_s,  u"Limite ritorno"_s};
     return calcolate;
 }
-
-// Cells between double quotes may hold what parts cells, and lines; quotes in them stand twice.
-class Spezzatore {
-  public:
-    Spezzatore(QChar separatore, bool virgolette) : separatore_(separatore), virgolette_(virgolette) {}
-
-    // False while a quote is open at the end of the line.
-    bool Aggiungi(const QString& riga) {
-        if (dentro_) cella_ += u' ';
-        for (qsizetype i = 0; i < riga.size(); ++i) {
-            const QChar c = riga[i];
-            const bool apice = virgolette_ && c == u'"';
-            if (apice && dentro_ && i + 1 < riga.size() && riga[i + 1] == u'"') {
-                cella_ += riga[++i];
-            } else if (apice && (dentro_ || cella_.trimmed().isEmpty())) {
-                dentro_ = !dentro_;
-            } else if (c == separatore_ && !dentro_) {
-                Chiudi();
-            } else {
-                cella_ += c;
-            }
-        }
-        if (!dentro_) Chiudi();
-        return !dentro_;
-    }
-    [[nodiscard]] QStringList Prendi() { return std::exchange(celle_, {}); }
-
-  private:
-    void Chiudi() { celle_ += SenzaProtezione(std::exchange(cella_, {}).trimmed()); }
-
-    QChar separatore_;
-    bool virgolette_;
-    bool dentro_ = false;
-    QString cella_;
-    QStringList celle_;
-};
 
 QChar SeparatoreDi(const QString& intestazione) {
     if (intestazione.contains(u'\t')) return u'\t';
@@ -132,7 +97,7 @@ bool SenzaCelle(const QStringList& celle) {
 
 TappeLette LeggiTabella(QIODevice& device) {
     RigheTesto righe(device);
-    std::optional<Spezzatore> spezzatore;
+    std::optional<SpezzaCelle> spezzatore;
     std::optional<TabellaDiTappe> tabella;
     TappeLette lette;
     int inizio = 0;
@@ -145,7 +110,8 @@ TappeLette LeggiTabella(QIODevice& device) {
         }
         if (inizio == 0) inizio = numero;
         if (!spezzatore->Aggiungi(righe.Testo())) continue;
-        const QStringList celle = spezzatore->Prendi();
+        QStringList celle = spezzatore->Prendi();
+        for (QString& cella : celle) cella = SenzaProtezione(cella);
         const int riga = std::exchange(inizio, 0);
         if (!tabella) {
             tabella.emplace(celle);
