@@ -84,16 +84,17 @@ void FineGuida(Postazione& p) {
 void ImportaSoste(Postazione& p) {
     const QString file = p.volti.scegliFile(FileChiesto::Soste);
     if (file.isEmpty()) return;
-    const auto soste = SosteDelFile(p, file);
+    auto soste = SosteDelFile(p, file);
     if (!soste) return;
     p.volti.mostra();
     if (!p.volti.confermaSoste(*soste) || SosteNuove(*soste) == 0) return;
     TracciaImport traccia;
     if (!p.MentreScrive({}, [&] { traccia = AggiungiSoste(p.sessione.Archivio(), *soste); })) return;
+    const Message fine{ConteggioSoste(*soste, true), {}, Icon::Information};
+    if (SosteNuove(*soste) == 0) return p.volti.interazione.Show(fine);
     Storia& storia = p.documento.Modifiche();
     storia.Ricorda(PassoImport(p, QFileInfo(file).fileName(), traccia, p.documento.Codice()));
     p.volti.mostra();
-    const Message fine{ConteggioSoste(*soste, true), {}, Icon::Information};
     if (p.volti.interazione.ShowUndoable(fine, u"Annulla importazione"_s)) {
         p.Prova([&] { storia.Annulla(Ambito::Archivio); });
     }

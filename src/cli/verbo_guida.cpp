@@ -228,10 +228,10 @@ void Importa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& 
         throw WrongUsage(u"Con --importa si scrive: guida --importa FILE [--prova]."_s);
     }
     Sessione sessione = apri();
-    Progress progress;
+    Progress& progress = *richiesta.avanzamento;
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
     const std::vector<SostaLetta> lette = LeggiSoste(richiesta.opzioni.value(u"importa"_s));
-    const auto soste = ProponiSoste(sessione.Archivio(), gazzettino, lette, progress);
+    auto soste = ProponiSoste(sessione.Archivio(), gazzettino, lette, progress);
     if (!soste) return;
     if (!prova && SosteNuove(*soste) > 0) AggiungiSoste(sessione.Archivio(), *soste);
     ScriviEsito(*soste, prova, richiesta.formato, uscita);

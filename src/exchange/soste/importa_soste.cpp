@@ -313,12 +313,17 @@ QString ConteggioSoste(std::span<const SostaProposta> soste, bool fatto) {
     return righe.join(u'\n');
 }
 
-TracciaImport AggiungiSoste(Archive& archive, std::span<const SostaProposta> soste) {
+TracciaImport AggiungiSoste(Archive& archive, std::span<SostaProposta> soste) {
     Transaction transaction(archive);
     const std::vector<TipoGuida> tipi = CaricaTipiGuida(archive);
+    const std::set<QString> presenti = VociPresenti(archive);
     OsservaAggiunte aggiunte(archive);
-    for (const SostaProposta& sosta : soste) {
+    for (SostaProposta& sosta : soste) {
         if (sosta.segno != SegnoSosta::Nuova) continue;
+        if (presenti.contains(ChiaveVoce(sosta.localita, sosta.descrizione))) {
+            sosta.segno = SegnoSosta::GiaInGuida;
+            continue;
+        }
         SalvaVoce(archive, sosta.localita, std::nullopt, tipi, {sosta.descrizione, sosta.tipo, 0, 0});
     }
     TracciaImport traccia = aggiunte.Fine();

@@ -49,7 +49,8 @@ QString ConteggioSoste(std::span<const SostaProposta> soste, bool fatto);
 /// How many are new.
 int SosteNuove(std::span<const SostaProposta> soste);
 
-/// Adds the new ones, whole or not at all; what was added can be taken back.
-TracciaImport AggiungiSoste(Archive& archive, std::span<const SostaProposta> soste);
+/// Adds the new ones, whole or not at all; what was added can be taken back. Those that the guide has got since they
+/// were proposed are left out, and marked so.
+TracciaImport AggiungiSoste(Archive& archive, std::span<SostaProposta> soste);
 
 }  // namespace cronovia
