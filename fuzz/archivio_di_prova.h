@@ -18,8 +18,9 @@ inline void Pretendi(bool vero) {
 inline void SvuotaArchivio(Archive& archive) {
     Transaction transaction(archive);
     Progress progress;
-    for (const Table tabella :
-         {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta, Table::Vincoli, Table::Scadenze}) {
+    std::vector<Table> tabelle = {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta};
+    tabelle.insert(tabelle.end(), TripTablesOnDemand().begin(), TripTablesOnDemand().end());
+    for (const Table tabella : tabelle) {
         archive.DeleteMatching(tabella, std::nullopt, progress);
     }
     transaction.Commit();

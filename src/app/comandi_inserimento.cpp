@@ -31,7 +31,7 @@ QString NonRiconosciuto() {
 
 void MettiPercorso(Postazione& p, PercorsoNavigatore percorso) {
     QString testo = RiassuntoPercorso(percorso.tappe);
-    const QString stimati = TestoKmStimati(percorso);
+    const QString stimati = TestoKmStimati(percorso.tappe);
     if (!stimati.isEmpty()) testo += u'\n' + stimati;
     if (!p.Chiede(testo + u"\n\nVuoi riportarle nell'itinerario?"_s, u"Import del percorso"_s)) return;
     if (!percorso.posizioni.empty() &&

@@ -59,11 +59,11 @@ Contenuto ContenutoDi(Archive& archivio) {
         meta.nome = record[mete::Localita].trimmed();
         meta.segno += Segno(record);
     });
-    for (const auto& [tabella, codice] : {std::pair{Table::Itinerari, int{itinerari::CodiceMeta}},
-                                          {Table::Vincoli, int{vincoli::CodiceMeta}},
-                                          {Table::Scadenze, int{scadenze::CodiceMeta}}}) {
-        archivio.ForEach(tabella, [&contenuto, campo = codice](const Record& record) {
-            const auto meta = contenuto.mete.find(record[campo]);
+    std::vector<Table> delleMete = TripTablesOnDemand();
+    delleMete.push_back(Table::Itinerari);
+    for (const Table tabella : delleMete) {
+        archivio.ForEach(tabella, [&contenuto](const Record& record) {
+            const auto meta = contenuto.mete.find(record[itinerari::CodiceMeta]);
             if (meta != contenuto.mete.end()) meta->second.segno += Segno(record);
         });
     }

@@ -61,6 +61,7 @@ QJsonObject StradaInJson(const T& tappa) {
             {u"strada"_s, tappa.numStrada},
             {u"km"_s, tappa.km},
             {u"kmDaIndicare"_s, tappa.kmDaIndicare},
+            {u"kmStimati"_s, tappa.kmStimati},
             {u"tipo"_s, LetteraTipoStrada(tappa.tipo)},
             {u"sosta"_s, InJson(tappa.sosta)},
             {u"fineGiorno"_s, tappa.fineGiorno}};
@@ -73,6 +74,7 @@ T StradaDaJson(const QJsonValue& json) {
     tappa.numStrada = json["strada"_L1].toString();
     tappa.km = json["km"_L1].toInt();
     tappa.kmDaIndicare = json["kmDaIndicare"_L1].toBool();
+    tappa.kmStimati = json["kmStimati"_L1].toBool();
     tappa.tipo = LeggiTipoStrada(json["tipo"_L1].toString());
     tappa.sosta = DurataDaJson(json["sosta"_L1]);
     tappa.fineGiorno = json["fineGiorno"_L1].toBool();

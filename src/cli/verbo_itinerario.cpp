@@ -32,12 +32,16 @@ std::vector<RigaGriglia> RigheDellItinerario(const MetaAperta& aperta) {
     return righe;
 }
 
-// What others set for the stages stands behind the grid's columns, in as many as are needed.
-TabellaTesti ConVincoli(TabellaTesti tabella, std::span<const Tappa> tappe) {
+// For other programs kilometres are numbers; which of them are a guess, and what others set for the stages, stands
+// behind the grid's columns, in as many as are needed.
+TabellaTesti ConAggiunte(TabellaTesti tabella, std::span<const Tappa> tappe) {
     std::vector<CelleTappa> celle;
     celle.reserve(tappe.size());
-    for (const Tappa& tappa : tappe) celle.push_back(CelleDellaTappa(tappa));
-    for (int cella = cella::Vincoli; cella < kCelle; ++cella) {
+    for (const Tappa& tappa : tappe) {
+        if (tappa.kmStimati) tabella.righe[celle.size()][static_cast<int>(Colonna::Km)] = QString::number(tappa.km);
+        celle.push_back(CelleDellaTappa(tappa));
+    }
+    for (int cella = cella::KmStimati; cella < kCelle; ++cella) {
         if (std::none_of(celle.begin(), celle.end(), [&](const CelleTappa& c) { return c.contains(cella); })) continue;
         tabella.intestazioni += NomiDellaCella(cella).first();
         for (std::size_t i = 0; i < celle.size(); ++i) tabella.righe[i] += celle[i].value(cella);
@@ -45,7 +49,7 @@ TabellaTesti ConVincoli(TabellaTesti tabella, std::span<const Tappa> tappe) {
     return tabella;
 }
 
-// The stored rows as objects; a stage's has what others set for it among its members.
+// The stored rows as objects; a stage's has among its members what others set for it, and kilometres that are a guess.
 void ScriviTappe(const std::vector<Record>& record, std::span<const Tappa> tappe, ScrittoreJson& json) {
     json.ApreArray();
     auto tappa = tappe.begin();
@@ -54,6 +58,7 @@ void ScriviTappe(const std::vector<Record>& record, std::span<const Tappa> tappe
         const std::vector<FieldDefinition>& campi = Definition(Table::Itinerari).fields;
         for (std::size_t i = 0; i < campi.size(); ++i) membri[campi[i].name] = riga.values[i].trimmed();
         if (!riga[itinerari::Localita].trimmed().isEmpty() && tappa != tappe.end()) {
+            if (tappa->kmStimati) membri[NomiDellaCella(cella::KmStimati).first()] = QString::number(tappa->km);
             const std::vector<QString> valori = ValoriDeiVincoli((tappa++)->vincoli.Valore());
             for (std::size_t i = kPrimoDato; i < valori.size(); ++i) {
                 if (!valori[i].isEmpty()) membri[Definition(Table::Vincoli).fields[i].name] = valori[i];
@@ -94,7 +99,7 @@ void EseguiItinerario(const ApriSessione& apri, const Richiesta& richiesta, QTex
     if (richiesta.formato == Formato::Testo) {
         ScriviTesto(aperta, tabella, totali, uscita);
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(ConVincoli(tabella, aperta.tappe), uscita);
+        ScriviTsv(ConAggiunte(tabella, aperta.tappe), uscita);
     } else {
         ScrittoreJson json(uscita);
         json.ApreOggetto();

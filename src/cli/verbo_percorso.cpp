@@ -42,7 +42,7 @@ void EseguiPercorso(const ApriSessione& apri, const Richiesta& richiesta, QTextS
     ConfermaPosizioni(sessione.Archivio(), percorso);
     transaction.Commit();
     uscita << RiassuntoPercorso(percorso.tappe) << '\n';
-    const QString stimati = TestoKmStimati(percorso);
+    const QString stimati = TestoKmStimati(percorso.tappe);
     if (!stimati.isEmpty()) uscita << stimati << '\n';
     if (esito->nomiAccorciati > 0) uscita << TestoNomiAccorciati(*esito) << '\n';
 }

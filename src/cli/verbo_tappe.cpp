@@ -77,6 +77,7 @@ CambiaTappe Cambiata(const CelleTappa& celle, Tratto tratto) {
         Tappa& tappa = righe[static_cast<std::size_t>(tratto.da - 1)];
         CelleTappa nuove = CelleDellaTappa(tappa);
         if (celle.contains(cella::Sosta)) nuove.remove(cella::FineGiorno);  // its "*" tells
+        if (celle.contains(cella::Km)) nuove.remove(cella::KmStimati);      // typed, even if they are the same
         nuove.insert(celle);
         tappa = TappaDalleCelle(nuove, tratto.da == 1);
         return righe;

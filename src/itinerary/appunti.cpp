@@ -72,6 +72,8 @@ Tappa LeggiRigaIncollata(const QStringList& celle, const Disposizione& colonne, 
 QString TestoPerAppunti(std::span<const Tappa> righe) {
     QStringList intestazione;
     for (const int cella : kColonneAppunti) intestazione += NomiDellaCella(cella).first();
+    const bool stime = std::any_of(righe.begin(), righe.end(), [](const Tappa& t) { return t.kmStimati; });
+    if (stime) intestazione += NomiDellaCella(cella::KmStimati).first();
     QStringList testo = {intestazione.join(u'\t')};
     for (const Tappa& tappa : righe) {
         if (tappa.localita.trimmed().isEmpty()) continue;
@@ -79,9 +81,10 @@ QString TestoPerAppunti(std::span<const Tappa> righe) {
         const QString sosta = tappa.SenzaSosta()    ? QString()
                               : tappa.sosta.Nulla() ? u"*"_s
                                                     : TestoSosta(tappa.sosta, tappa.fineGiorno);
-        testo +=
-            QStringList{Protetta(tappa.localita), Protetta(tappa.numStrada), km, LetteraTipoStrada(tappa.tipo), sosta}
-                .join(u'\t');
+        QStringList celle = {Protetta(tappa.localita), Protetta(tappa.numStrada), km, LetteraTipoStrada(tappa.tipo),
+                             sosta};
+        if (stime) celle += tappa.kmStimati ? km : QString();
+        testo += celle.join(u'\t');
     }
     return testo.join(u'\n') + u'\n';
 }

@@ -8,8 +8,8 @@
 
 namespace cronovia {
 
-/// "Tappa", "Num. Strada", "Km.", "Ts" and "Sosta" of each stage; free rows are left out. No cell is taken for a
-/// formula by a spreadsheet.
+/// "Tappa", "Num. Strada", "Km.", "Ts" and "Sosta" of each stage, and which kilometres are a guess, where some are;
+/// free rows are left out. No cell is taken for a formula by a spreadsheet.
 QString TestoPerAppunti(std::span<const Tappa> righe);
 
 /// The stages of such a text. A heading puts the columns in any order, others among them are passed over; without one

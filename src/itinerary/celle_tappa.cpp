@@ -25,6 +25,7 @@ std::vector<QStringList> TuttiINomi() {
         {u"Ts"_s, u"Tipo strada"_s, u"Tipo"_s, u"TipoStrada"_s},
         {u"Sosta"_s, u"Itinerario"_s, u"TempoSosta"_s},
         {u"FineGiorno"_s, u"Fine giorno"_s},
+        {Definition(Table::Stime).fields[stime::KmStimati].name},
     };
     const std::vector<FieldDefinition>& campi = Definition(Table::Vincoli).fields;
     for (std::size_t i = kPrimoDato; i < campi.size(); ++i) nomi.push_back({campi[i].name});
@@ -109,13 +110,19 @@ class LettoreCelle {
         const bool superflui = scritte_ == Scritte::DaCronovia || partenza || !tappa.SenzaSosta() || tappa.Traghetto();
         tappa.kmDaIndicare =
             (testo.isEmpty() && !superflui) || testo == u'?' || testo.compare(kDaIndicare, Qt::CaseInsensitive) == 0;
-        if (tappa.kmDaIndicare || testo.isEmpty()) return;
-        bool numero = false;
-        tappa.km = testo.toInt(&numero);
-        if (!numero || tappa.km < 0 || tappa.km > kMassimiKmDellaCella) {
-            Rifiuta(cella::Km,
-                    u"i chilometri «%1» non sono un numero da 0 a %2"_s.arg(testo).arg(kMassimiKmDellaCella));
+        const int stimati = Chilometri(cella::KmStimati);
+        if (tappa.kmDaIndicare) return;
+        tappa.km = Chilometri(cella::Km);
+        tappa.kmStimati = tappa.km > 0 && tappa.km == stimati;
+    }
+    [[nodiscard]] int Chilometri(int cella) const {
+        const QString testo = Testo(cella);
+        bool numero = testo.isEmpty();
+        const int km = numero ? 0 : testo.toInt(&numero);
+        if (!numero || km < 0 || km > kMassimiKmDellaCella) {
+            Rifiuta(cella, u"i chilometri «%1» non sono un numero da 0 a %2"_s.arg(testo).arg(kMassimiKmDellaCella));
         }
+        return km;
     }
     void MettiTipo(Tappa& tappa) const {
         const QString testo = Testo(cella::Tipo);
@@ -200,6 +207,7 @@ CelleTappa CelleDellaTappa(const Tappa& tappa) {
     celle[cella::Tipo] = LetteraTipoStrada(tappa.tipo);
     celle[cella::Sosta] = Testo(tappa.sosta);
     celle[cella::FineGiorno] = tappa.fineGiorno ? u"1"_s : u"0"_s;
+    if (tappa.kmStimati) celle[cella::KmStimati] = QString::number(tappa.km);
     const std::vector<QString> valori = ValoriDeiVincoli(tappa.vincoli.Valore());
     for (int cella = cella::Vincoli; cella < kCelle; ++cella) {
         const std::size_t campo = CampoDeiVincoli(cella);

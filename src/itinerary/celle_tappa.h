@@ -11,9 +11,10 @@
 
 namespace cronovia {
 
-/// The cells of a stage; from `Vincoli` on they are the fields of `cronovia::Vincoli`, in their order.
+/// The cells of a stage. Its kilometres are a guess where `KmStimati` holds the same number; from `Vincoli` on they are
+/// the fields of `cronovia::Vincoli`, in their order.
 namespace cella {
-enum Cella { Localita, Strada, Km, Tipo, Sosta, FineGiorno, Vincoli };
+enum Cella { Localita, Strada, Km, Tipo, Sosta, FineGiorno, KmStimati, Vincoli };
 }  // namespace cella
 inline constexpr int kCelle = int{cella::Vincoli} + int{vincoli::kCampi} - kPrimoDato;
 

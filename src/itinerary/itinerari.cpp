@@ -2,6 +2,7 @@
 #include "itinerary/itinerari.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "calendar/testo.h"
@@ -59,6 +60,12 @@ void MemorizzaVincoli(Archive& archive, const std::vector<QString>& riga, const 
     archive.Insert(Table::Vincoli, valori);
 }
 
+void MemorizzaStima(Archive& archive, const std::vector<QString>& riga) {
+    const std::array valori = {riga[itinerari::CodiceMeta], riga[itinerari::Sequenza], riga[itinerari::Localita],
+                               riga[itinerari::Chilometri]};
+    archive.Insert(Table::Stime, valori);
+}
+
 // The rows of one stage; `sequenza` counts on.
 void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& tappa, const QString& soggiornoGuida,
                     int& sequenza) {
@@ -76,6 +83,7 @@ void MemorizzaTappa(Archive& archive, const QString& codiceMeta, const Tappa& ta
         valori[itinerari::Sequenza] = Zero(++sequenza, 4);
         valori[itinerari::Chilometri] = tappa.kmDaIndicare ? kKmDaIndicare.toString() : QString::number(parte);
         archive.Insert(Table::Itinerari, valori);
+        if (tappa.kmStimati && parte > 0) MemorizzaStima(archive, valori);
         valori[itinerari::SostaGuidaCitta] = u" "_s;
         resto -= parte;
     } while (resto > 0);
@@ -87,10 +95,12 @@ void RifiutaTroppeTappe(std::span<const Tappa> tappe) {
     throw Failure(u"Impossibile: l'itinerario ha più di 9.999 tappe e non è stato memorizzato."_s);
 }
 
-// Both tables begin with the code.
-void CancellaVincoli(Archive& archive, const QString& codiceMeta) {
+// All these tables begin with the code.
+void CancellaAggiunte(Archive& archive, const QString& codiceMeta) {
     Progress muto;
-    archive.DeleteMatching(Table::Vincoli, DellaMeta(codiceMeta), muto);
+    for (const Table tabella : {Table::Vincoli, Table::Stime}) {
+        archive.DeleteMatching(tabella, DellaMeta(codiceMeta), muto);
+    }
 }
 
 // What is set for the stages of a trip, each at the row with its number and its locality. Where an earlier release
@@ -127,6 +137,40 @@ class VincoliMemorizzati {
     std::vector<Record> record_;
 };
 
+// Which kilometres of a trip are a guess; found in the same way, where the stage still has them.
+class StimeMemorizzate {
+  public:
+    StimeMemorizzate(Archive& archive, const QString& codiceMeta)
+        : record_(archive.Select({Table::Stime, {DellaMeta(codiceMeta)}}, {stime::Sequenza})) {}
+
+    bool Prendi(const QString& sequenza, const Tappa& tappa) {
+        return Prendi([&](const Record& r) { return r[stime::Sequenza] == sequenza && Sua(r, tappa); });
+    }
+
+    void DaiIResti(std::span<Tappa> tappe) {
+        for (Tappa& tappa : tappe) {
+            if (record_.empty()) return;
+            if (!tappa.kmStimati) tappa.kmStimati = Prendi([&](const Record& r) { return Sua(r, tappa); });
+        }
+    }
+
+  private:
+    static bool Sua(const Record& record, const Tappa& tappa) {
+        return tappa.km > 0 && ValoreNumerico(record[stime::KmStimati]) == tappa.km &&
+               record[stime::Localita].trimmed() == tappa.localita;
+    }
+
+    template <typename Suo>
+    bool Prendi(Suo&& suo) {
+        const auto trovato = std::find_if(record_.begin(), record_.end(), suo);
+        if (trovato == record_.end()) return false;
+        record_.erase(trovato);
+        return true;
+    }
+
+    std::vector<Record> record_;
+};
+
 // To a trip without rows, within a transaction of the caller.
 EsitoMemorizzazione Aggiungi(Archive& archive, const QString& codiceMeta, std::span<const Tappa> tappe,
                              const OrarioCorretto& orario, Progress& progress) {
@@ -155,6 +199,7 @@ std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codice
 std::vector<Tappa> TappeMemorizzate(Archive& archive, const QString& codiceMeta) {
     const ReadSnapshot momento(archive);
     VincoliMemorizzati vincoli(archive, codiceMeta);
+    StimeMemorizzate stime(archive, codiceMeta);
     std::vector<Tappa> tappe;
     for (const Record& record : RecordDellItinerario(archive, codiceMeta)) {
         Tappa tappa;
@@ -167,9 +212,11 @@ std::vector<Tappa> TappeMemorizzate(Archive& archive, const QString& codiceMeta)
         tappa.sosta = LeggiDurata(record[itinerari::TempoSosta].trimmed());
         tappa.fineGiorno = record[itinerari::FineGiorno] == "1"_L1;
         tappa.vincoli = vincoli.Prendi(record[itinerari::Sequenza], tappa.localita);
+        tappa.kmStimati = stime.Prendi(record[itinerari::Sequenza], tappa);
         tappe.push_back(std::move(tappa));
     }
     vincoli.DaiIResti(tappe);
+    stime.DaiIResti(tappe);
     return tappe;
 }
 
@@ -219,7 +266,7 @@ EsitoMemorizzazione MemorizzaTappeItinerario(Archive& archive, const QString& co
     RifiutaTroppeTappe(tappe);
     Transaction transaction(archive);
     archive.DeleteMatching(Table::Itinerari, DellaMeta(codiceMeta), progress);
-    CancellaVincoli(archive, codiceMeta);
+    CancellaAggiunte(archive, codiceMeta);
     const EsitoMemorizzazione esito = Aggiungi(archive, codiceMeta, tappe, orario, progress);
     transaction.Commit();
     progress.Advance(0, 0);
@@ -235,7 +282,7 @@ std::optional<EsitoMemorizzazione> MemorizzaPrimeTappe(Archive& archive, const Q
         throw Failure(u"La mèta con il codice %1 non c'è più."_s.arg(codiceMeta));
     }
     if (archive.Exists({Table::Itinerari, {DellaMeta(codiceMeta)}})) return std::nullopt;
-    CancellaVincoli(archive, codiceMeta);
+    CancellaAggiunte(archive, codiceMeta);
     const EsitoMemorizzazione esito = Aggiungi(archive, codiceMeta, tappe, orario, progress);
     transaction.Commit();
     progress.Advance(0, 0);

@@ -36,6 +36,7 @@ CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga) {
     const bool strada = Esiste(righe, riga - 1) && !righe[Indice(riga - 1)].Traghetto();
     if (campi.numStrada.isEmpty() && strada) campi.numStrada = righe[Indice(riga - 1)].numStrada;
     campi.kmDaIndicare = tappa.kmDaIndicare;
+    campi.kmStimati = tappa.kmStimati;
     if (riga > 1 && !campi.tipo) campi.tipo = TipoStrada::Locale;
     return campi;
 }
@@ -77,6 +78,7 @@ RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa
     tappa.numStrada = campi.numStrada;
     tappa.km = campi.km;
     tappa.kmDaIndicare = campi.kmDaIndicare;
+    tappa.kmStimati = campi.kmStimati && campi.km > 0;
     tappa.tipo = campi.km == 0 && !campi.kmDaIndicare ? std::nullopt : campi.tipo;
     tappa.sosta = campi.sosta;
     tappa.fineGiorno = campi.fineGiorno;

@@ -32,6 +32,7 @@ struct CampiTappa {
     bool kmProgressivi = false;  ///< typed since the row was shown, and meant as progressive ones where that can be
     bool kmLeggibili = true;     ///< false: what was typed is no whole number of kilometres
     bool kmDaIndicare = false;   ///< the row's kilometres are not known, and none are typed
+    bool kmStimati = false;      ///< the kilometres are a guess that nobody has typed over
 
     friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };

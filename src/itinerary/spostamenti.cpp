@@ -38,6 +38,7 @@ void DiventaPartenza(Tappa& tappa) {
     tappa.numStrada.clear();
     tappa.km = 0;
     tappa.kmDaIndicare = false;
+    tappa.kmStimati = false;
     tappa.tipo.reset();
 }
 
@@ -48,6 +49,7 @@ bool CambiaOrigine(Tappa& tappa, const QString& luogo) {
         return false;
     }
     tappa.km = 0;
+    tappa.kmStimati = false;
     return !std::exchange(tappa.kmDaIndicare, true);
 }
 

@@ -24,6 +24,7 @@ struct Tappa {
     Durata guida;                    ///< visit times of the guide at this stage; days as in `sosta`
     bool kmDaIndicare = false;       ///< the kilometres are not known any more: `km` is 0 until they are told
     VincoliTappa vincoli = {};       ///< what others set for it
+    bool kmStimati = false;          ///< the kilometres, which are more than 0, are a guess from the straight way
 
     /// Reached by ferry: so says its road, or the ferry's own hours.
     [[nodiscard]] bool Traghetto() const { return numStrada.contains(QStringView(u"TRAGH")) || vincoli.ConTraghetto(); }

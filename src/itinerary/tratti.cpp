@@ -18,6 +18,7 @@ Tappa Raggiunta(const Tappa& luogo, const Tappa* tratto) {
     tappa.numStrada = tratto->numStrada;
     tappa.km = tratto->km;
     tappa.kmDaIndicare = tratto->kmDaIndicare;
+    tappa.kmStimati = tratto->kmStimati;
     tappa.tipo = tratto->tipo;
     return tappa;
 }

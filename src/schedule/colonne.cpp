@@ -140,7 +140,9 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
     testi[Colonna::Numero] = QString::number(numero);
     testi[Colonna::Tappa] = tappa.localita;
     testi[Colonna::NumeroStrada] = tappa.numStrada;
-    testi[Colonna::Km] = tappa.kmDaIndicare ? u"da indicare"_s : RaggruppaNonZero(tappa.km);
+    testi[Colonna::Km] = tappa.kmDaIndicare ? u"da indicare"_s
+                         : tappa.kmStimati  ? u"circa "_s + Raggruppa(tappa.km)
+                                            : RaggruppaNonZero(tappa.km);
     testi[Colonna::TipoStrada] = LetteraStrada(tappa);
     if (tappa.km != 0) testi[Colonna::KmProgressivi] = Raggruppa(tempi.kmProgressivi);
     if (tempi.tempo) testi[Colonna::Tempo] = TempoTratta(*tempi.tempo);

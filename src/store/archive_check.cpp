@@ -136,7 +136,7 @@ struct Relation {
 };
 
 // Rows about a stage or a trip that an earlier release changed meanwhile harm nobody: they count for nothing any more.
-constexpr std::array<Relation, 8> kRelations = {{
+constexpr std::array<Relation, 9> kRelations = {{
     {"SELECT COUNT(*), MIN(CodiceMeta) FROM Itinerari WHERE CodiceMeta NOT IN (SELECT CodiceMeta FROM MeteVandro)",
      u"Ci sono tappe di mète che non ci sono più (tappe: %1)."},
     {"SELECT COUNT(*), MIN(CodiceMeta) FROM (SELECT CodiceMeta FROM MeteVandro GROUP BY 1 HAVING COUNT(*) > 1)",
@@ -154,6 +154,9 @@ constexpr std::array<Relation, 8> kRelations = {{
      u"Ci sono orari fissati di tappe che non ci sono più (tappe: %1).", Table::Vincoli},
     {"SELECT COUNT(*), MIN(CodiceMeta) FROM Scadenze WHERE CodiceMeta NOT IN (SELECT CodiceMeta FROM MeteVandro)",
      u"Ci sono scadenze di mète che non ci sono più (scadenze: %1).", Table::Scadenze},
+    {"SELECT COUNT(*), MIN(CodiceMeta || ' ' || Sequenza) FROM Stime AS S WHERE NOT EXISTS (SELECT 1 FROM Itinerari "
+     "AS I WHERE I.CodiceMeta = S.CodiceMeta AND I.Sequenza = S.Sequenza)",
+     u"Ci sono distanze stimate di tappe che non ci sono più (tappe: %1).", Table::Stime},
 }};
 
 void CheckRelations(SQLite::Database& database, Findings& findings) {

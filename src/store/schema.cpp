@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 const TableDefinition& Definition(Table table) {
 #define CRONOVIA_DEFINITION(name, width) {u"" #name ""_s, width},
-    static const std::array<TableDefinition, 9> definitions = {{
+    static const std::array<TableDefinition, 10> definitions = {{
         {u"MeteVandro"_s,
          {CRONOVIA_METE_FIELDS(CRONOVIA_DEFINITION)},
          {u"CodiceMeta"_s, u"Localita"_s},
@@ -31,6 +31,7 @@ const TableDefinition& Definition(Table table) {
         {u"Vincoli"_s, {CRONOVIA_VINCOLI_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"degli orari fissati"_s},
         {u"Scadenze"_s, {CRONOVIA_SCADENZE_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"delle scadenze"_s},
         {u"Posizioni"_s, {CRONOVIA_POSIZIONI_FIELDS(CRONOVIA_DEFINITION)}, {u"Localita"_s}, u"delle posizioni"_s},
+        {u"Stime"_s, {CRONOVIA_STIME_FIELDS(CRONOVIA_DEFINITION)}, {u"CodiceMeta"_s}, u"delle distanze stimate"_s},
     }};
 #undef CRONOVIA_DEFINITION
     return definitions.at(static_cast<std::size_t>(table) - 1);
@@ -45,7 +46,12 @@ const std::vector<Table>& AllTables() {
 }
 
 const std::vector<Table>& TablesOnDemand() {
-    static const std::vector<Table> tables = {Table::Vincoli, Table::Scadenze, Table::Posizioni};
+    static const std::vector<Table> tables = {Table::Vincoli, Table::Scadenze, Table::Posizioni, Table::Stime};
+    return tables;
+}
+
+const std::vector<Table>& TripTablesOnDemand() {
+    static const std::vector<Table> tables = {Table::Vincoli, Table::Scadenze, Table::Stime};
     return tables;
 }
 

@@ -18,6 +18,7 @@ enum class Table {
     Vincoli,         ///< at most one row per stage: what others set for it, and notes
     Scadenze,        ///< at most one row per trip: when one has to be home, and its prices
     Posizioni,       ///< at most one row per locality: where it lies, as someone has said
+    Stime,           ///< at most one row per row of `Itinerari`: its kilometres are a guess
 };
 
 // The fields of the tables with their widths, in the order of their columns. What else is told of fields (their
@@ -111,6 +112,13 @@ enum class Table {
     FIELD(Latitudine, 10)                \
     FIELD(Longitudine, 10)
 
+// The kilometres that were guessed: a stage that has others by now has no guess any more.
+#define CRONOVIA_STIME_FIELDS(FIELD) \
+    FIELD(CodiceMeta, 6)             \
+    FIELD(Sequenza, 4)               \
+    FIELD(Localita, 30)              \
+    FIELD(KmStimati, 4)
+
 // Positions of the fields in their tables' records; `kCampi` is how many there are.
 #define CRONOVIA_POSITION(name, width) name,
 namespace mete {
@@ -140,6 +148,9 @@ enum Field { CRONOVIA_SCADENZE_FIELDS(CRONOVIA_POSITION) kCampi };
 namespace posizioni {
 enum Field { CRONOVIA_POSIZIONI_FIELDS(CRONOVIA_POSITION) kCampi };
 }  // namespace posizioni
+namespace stime {
+enum Field { CRONOVIA_STIME_FIELDS(CRONOVIA_POSITION) kCampi };
+}  // namespace stime
 #undef CRONOVIA_POSITION
 
 /// A field: 0 for yes/no, else a text of at most so many characters.
@@ -171,5 +182,8 @@ const std::vector<Table>& AllTables();
 
 /// Those behind them, which an archive has once something was written into them.
 const std::vector<Table>& TablesOnDemand();
+
+/// Those of them whose rows belong to a trip, by its code, which is their first field.
+const std::vector<Table>& TripTablesOnDemand();
 
 }  // namespace cronovia

@@ -182,12 +182,14 @@ std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco) {
 
 MetaCancellata CancellaMeta(Archive& archive, const QString& codice, Progress& progress) {
     Transaction transaction(archive);
-    // The code is the first field of all four tables.
+    // The code is the first field of all their tables.
     const Condition tappa{itinerari::CodiceMeta, NamePattern::Exactly(codice)};
     const Condition meta{mete::CodiceMeta, NamePattern::Exactly(codice)};
-    MetaCancellata cancellata{archive.Select({Table::MeteVandro, {meta}}), archive.Select({Table::Itinerari, {tappa}}),
-                              archive.Select({Table::Vincoli, {tappa}}), archive.Select({Table::Scadenze, {tappa}})};
-    for (const Table tabella : {Table::Vincoli, Table::Scadenze}) archive.DeleteMatching(tabella, tappa, progress);
+    MetaCancellata cancellata{archive.Select({Table::MeteVandro, {meta}}), archive.Select({Table::Itinerari, {tappa}})};
+    for (const Table tabella : TripTablesOnDemand()) {
+        cancellata.aggiunte[tabella] = archive.Select({tabella, {tappa}});
+        archive.DeleteMatching(tabella, tappa, progress);
+    }
     archive.DeleteMatching(Table::Itinerari, tappa, progress);
     archive.DeleteMatching(Table::MeteVandro, meta, progress);
     transaction.Commit();
@@ -213,8 +215,7 @@ QString RimettiMeta(Archive& archive, const MetaCancellata& cancellata) {
         }
     };
     rimetti(Table::Itinerari, cancellata.tappe);
-    rimetti(Table::Vincoli, cancellata.vincoli);
-    rimetti(Table::Scadenze, cancellata.scadenze);
+    for (const auto& [tabella, righe] : cancellata.aggiunte) rimetti(tabella, righe);
     SalvaIlCodiceMetaCorrente(archive, codice);
     transaction.Commit();
     return codice;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <map>
 #include <optional>
 #include <span>
 #include <vector>
@@ -73,8 +74,7 @@ std::vector<MetaInElenco> AutostradeInFondo(std::vector<MetaInElenco> elenco);
 struct MetaCancellata {
     std::vector<Record> meta;
     std::vector<Record> tappe;
-    std::vector<Record> vincoli = {};
-    std::vector<Record> scadenze = {};
+    std::map<Table, std::vector<Record>> aggiunte = {};  ///< of `TripTablesOnDemand`
 };
 
 /// Deletes a trip with its itinerary, whole or not at all. No new trip gets its code while the archive is open.

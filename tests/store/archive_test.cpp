@@ -52,7 +52,7 @@ TEST_F(ArchiveTest, WhatDoesNotGoWithOtherRowsIsToldOf) {
     prova::Inserisci(archive_, Table::MeteVandro, {u"000001"_s});
     prova::Inserisci(archive_, Table::Itinerari, {u"000001"_s, u"0001"_s});
     for (const QString& codice : {u"000001"_s, u"000002"_s}) {
-        for (const Table tabella : {Table::Vincoli, Table::Scadenze}) {
+        for (const Table tabella : TripTablesOnDemand()) {
             prova::Inserisci(archive_, tabella, {codice, u"0001"_s});
         }
     }
@@ -61,7 +61,8 @@ TEST_F(ArchiveTest, WhatDoesNotGoWithOtherRowsIsToldOf) {
     for (const Finding& finding : CheckArchive(cartella_.Path())) detti += finding.text + finding.detail;
     EXPECT_EQ(detti, (QStringList{u"Ci sono tappe di mète che non ci sono più (tappe: 1).000003"_s,
                                   u"Ci sono orari fissati di tappe che non ci sono più (tappe: 1).000002 0001"_s,
-                                  u"Ci sono scadenze di mète che non ci sono più (scadenze: 1).000002"_s}));
+                                  u"Ci sono scadenze di mète che non ci sono più (scadenze: 1).000002"_s,
+                                  u"Ci sono distanze stimate di tappe che non ci sono più (tappe: 1).000002 0001"_s}));
 }
 
 // Two indexes in each other's place: no page is in disorder.

@@ -111,8 +111,9 @@ class Viaggi : public testing::Test {
     // The archive holds the trip of one file at a time.
     MetaAperta Importa(const QString& path, const QString& codice) {
         Transaction transaction(sessione_.Archivio());
-        for (const Table tabella :
-             {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta, Table::Vincoli, Table::Scadenze}) {
+        std::vector<Table> tabelle = {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta};
+        tabelle.insert(tabelle.end(), TripTablesOnDemand().begin(), TripTablesOnDemand().end());
+        for (const Table tabella : tabelle) {
             sessione_.Archivio().DeleteMatching(tabella, {}, progress_);
         }
         transaction.Commit();

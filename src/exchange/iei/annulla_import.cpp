@@ -19,8 +19,9 @@ void AnnullaImport(Archive& archive, const TracciaImport& traccia) {
 }
 
 OsservaAggiunte::OsservaAggiunte(Archive& archive) : archive_(archive) {
-    for (const Table tabella :
-         {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta, Table::Vincoli, Table::Scadenze}) {
+    std::vector<Table> tabelle = {Table::MeteVandro, Table::Itinerari, Table::GuidaCitta};
+    tabelle.insert(tabelle.end(), TripTablesOnDemand().begin(), TripTablesOnDemand().end());
+    for (const Table tabella : tabelle) {
         const std::int64_t ultima = archive.LastId(tabella);
         traccia_.aggiunte.push_back({tabella, ultima, ultima});
     }

@@ -3,7 +3,7 @@
 
 #include <QSet>
 #include <algorithm>
-#include <optional>
+#include <iterator>
 
 #include "calendar/testo.h"
 #include "exchange/iei/lettore_iei.h"
@@ -36,20 +36,19 @@ class ScrittoreIei {
   public:
     explicit ScrittoreIei(const QString& path) : file_(path) {}
 
-    void Intestazione(Table tabella, const std::optional<CampiAggiunti>& aggiunti = {}) {
+    void Intestazione(Table tabella, const std::vector<CampiAggiunti>& aggiunti = {}) {
         for (const FieldDefinition& campo : Definition(tabella).fields) Valore(tabella, campo.name);
-        if (aggiunti) {
-            const auto& campi = Definition(aggiunti->tabella).fields;
-            for (std::size_t i = static_cast<std::size_t>(aggiunti->primo); i < campi.size(); ++i) {
+        for (const CampiAggiunti& altri : aggiunti) {
+            const auto& campi = Definition(altri.tabella).fields;
+            for (std::size_t i = static_cast<std::size_t>(altri.primo); i < campi.size(); ++i) {
                 Valore(tabella, campi[i].name);
             }
         }
         FineRiga();
     }
 
-    void Riga(Table tabella, const Record& record, std::span<const QString> aggiunti = {}) {
-        for (const QString& valore : record.values) Valore(tabella, valore);
-        for (const QString& valore : aggiunti) Valore(tabella, valore);
+    void Riga(Table tabella, std::span<const QString> valori) {
+        for (const QString& valore : valori) Valore(tabella, valore);
         FineRiga();
     }
 
@@ -105,24 +104,25 @@ std::vector<QString> CodiciDaEsportare(const RichiestaExport& richiesta) {
     return codici;
 }
 
-// The fields behind a section's own, when a trip has something in them.
-std::optional<CampiAggiunti> AggiuntiScritti(Archive& archive, Table tabella, const std::vector<QString>& codici) {
-    const std::optional<CampiAggiunti> aggiunti = AggiuntiAllaSezione(tabella);
-    const auto ne_ha = [&](const QString& codice) { return archive.Exists(PerCodice(aggiunti->tabella, codice)); };
-    return aggiunti && std::any_of(codici.begin(), codici.end(), ne_ha) ? aggiunti : std::nullopt;
+// The fields behind a section's own, of those tables in which a trip has something.
+std::vector<CampiAggiunti> AggiuntiScritti(Archive& archive, Table tabella, const std::vector<QString>& codici) {
+    std::vector<CampiAggiunti> scritti;
+    for (const CampiAggiunti& aggiunti : AggiuntiAllaSezione(tabella)) {
+        const auto neHa = [&](const QString& codice) { return archive.Exists(PerCodice(aggiunti.tabella, codice)); };
+        if (std::any_of(codici.begin(), codici.end(), neHa)) scritti.push_back(aggiunti);
+    }
+    return scritti;
 }
 
-// What a trip has in them, for each of its records. Both tables have the key's fields under the same names; the key
-// ends with the locality, and a trip's code is its first field.
+// What a trip has in one of them, for each of its records. Both tables have the key's fields under the same names; the
+// key ends with the locality, and a trip's code is its first field.
 class Aggiunte {
   public:
-    Aggiunte(Archive& archive, const std::optional<CampiAggiunti>& campi, const QString& codice) : campi_(campi) {
-        if (campi) record_ = archive.Select(PerCodice(campi->tabella, codice));
-    }
+    Aggiunte(Archive& archive, const CampiAggiunti& campi, const QString& codice)
+        : campi_(campi), record_(archive.Select(PerCodice(campi.tabella, codice))) {}
 
     std::vector<QString> Per(const Record& record) {
-        if (!campi_) return {};
-        const auto chiave = static_cast<std::ptrdiff_t>(campi_->primo);
+        const auto chiave = static_cast<std::ptrdiff_t>(campi_.primo);
         const auto sua = [&](const Record& altra) {
             for (int i = 0; i < chiave; ++i) {
                 if (altra[i].trimmed() != record[i].trimmed()) return false;
@@ -131,7 +131,7 @@ class Aggiunte {
         };
         const auto trovata = std::find_if(record_.begin(), record_.end(), sua);
         if (trovata == record_.end()) {
-            return std::vector<QString>(Definition(campi_->tabella).fields.size() - static_cast<std::size_t>(chiave));
+            return std::vector<QString>(Definition(campi_.tabella).fields.size() - static_cast<std::size_t>(chiave));
         }
         std::vector<QString> valori(trovata->values.begin() + chiave, trovata->values.end());
         record_.erase(trovata);
@@ -139,23 +139,26 @@ class Aggiunte {
     }
 
   private:
-    std::optional<CampiAggiunti> campi_;
+    CampiAggiunti campi_;
     std::vector<Record> record_;
 };
 
 // One of the two sections that go trip after trip; returns its records.
 qint64 ScriviSezione(Archive& archive, Table tabella, const std::vector<QString>& codici, ScrittoreIei& scrittore,
                      Progress& progress) {
-    const std::optional<CampiAggiunti> aggiunti = AggiuntiScritti(archive, tabella, codici);
+    const std::vector<CampiAggiunti> aggiunti = AggiuntiScritti(archive, tabella, codici);
     scrittore.Intestazione(tabella, aggiunti);
     qint64 scritti = 0;
     double fatte = 0;
     for (const QString& codice : codici) {
         HeedStop(progress);
         progress.Advance(++fatte, static_cast<double>(codici.size()));
-        Aggiunte aggiunte(archive, aggiunti, codice);
+        std::vector<Aggiunte> aggiunte;
+        for (const CampiAggiunti& campi : aggiunti) aggiunte.emplace_back(archive, campi, codice);
         for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
-            scrittore.Riga(tabella, record, aggiunte.Per(record));
+            std::vector<QString> valori = record.values;
+            for (Aggiunte& altre : aggiunte) std::ranges::move(altre.Per(record), std::back_inserter(valori));
+            scrittore.Riga(tabella, valori);
             ++scritti;
             if (tabella == Table::MeteVandro) break;
         }
@@ -169,7 +172,7 @@ qint64 ScriviGuida(Archive& archive, ScrittoreIei& scrittore, Progress& progress
     archive.ForEach(Table::GuidaCitta, [&](const Record& record) {
         HeedStop(progress);
         if (scritti == 0) scrittore.Intestazione(Table::GuidaCitta);
-        scrittore.Riga(Table::GuidaCitta, record);
+        scrittore.Riga(Table::GuidaCitta, record.values);
         progress.Advance(static_cast<double>(++scritti), totale);
     });
     return scritti;

@@ -68,6 +68,7 @@ class Importatore {
     void ImportaVoce(RigaIei& riga);
     void ImportaAggiunti(const RigaIei& riga);
     void ImportaVincoli(const RigaIei& riga);
+    void ImportaStima(const RigaIei& riga);
     void AggiustaData(QString& data, Ritocchi& ritocchi) const;
     static void AggiustaSosta(QString& sosta, Ritocchi& ritocchi);
     void Togli(MetaDaImportare& meta);
@@ -140,22 +141,25 @@ void Importatore::ImportaTappa(RigaIei& riga) {
         AggiustaSosta(riga.valori[itinerari::TempoSosta], ritocchi_[meta->codice]);
         Inserisci(riga, meta->codice, tappe_);
         ImportaVincoli(riga);
+        ImportaStima(riga);
     }
 }
 
 // Of a record that was added.
 void Importatore::ImportaAggiunti(const RigaIei& riga) {
-    if (riga.aggiunti.empty()) return;
+    const auto aggiunti = riga.aggiunti.find(Table::Scadenze);
+    if (aggiunti == riga.aggiunti.end()) return;
     Meta meta;
     meta.codice = riga.valori[mete::CodiceMeta];
     meta.localita = riga.valori[mete::Localita];
-    if (!LeggiAggiunti(riga.aggiunti, meta)) ++ritocchi_[meta.codice].orariRifiutati;
+    if (!LeggiAggiunti(aggiunti->second, meta)) ++ritocchi_[meta.codice].orariRifiutati;
     ScriviAggiunti(archive_, meta);
 }
 
 void Importatore::ImportaVincoli(const RigaIei& riga) {
-    if (riga.aggiunti.empty()) return;
-    const VincoliLetti letti = LeggiVincoli(riga.aggiunti);
+    const auto aggiunti = riga.aggiunti.find(Table::Vincoli);
+    if (aggiunti == riga.aggiunti.end()) return;
+    const VincoliLetti letti = LeggiVincoli(aggiunti->second);
     ritocchi_[riga.valori[itinerari::CodiceMeta]].orariRifiutati += letti.rifiutati;
     if (!letti.vincoli) return;
     std::vector<QString> valori = ValoriDeiVincoli(letti.vincoli.Valore());
@@ -165,11 +169,23 @@ void Importatore::ImportaVincoli(const RigaIei& riga) {
     archive_.Insert(Table::Vincoli, valori);
 }
 
+void Importatore::ImportaStima(const RigaIei& riga) {
+    const auto aggiunti = riga.aggiunti.find(Table::Stime);
+    if (aggiunti == riga.aggiunti.end()) return;
+    const int km = ValoreNumerico(riga.valori[itinerari::Chilometri]);
+    if (km <= 0 || ValoreNumerico(aggiunti->second[stime::KmStimati]) != km) return;
+    const std::array valori = {riga.valori[itinerari::CodiceMeta], riga.valori[itinerari::Sequenza],
+                               riga.valori[itinerari::Localita], QString::number(km)};
+    archive_.Insert(Table::Stime, valori);
+}
+
 // What was added of a trip goes again: no part of it is worth having.
 void Importatore::Togli(MetaDaImportare& meta) {
     Progress muto;
     const NamePattern questa = NamePattern::Exactly(meta.codice);
-    for (const Table tabella : {Table::Vincoli, Table::Scadenze, Table::Itinerari, Table::MeteVandro}) {
+    std::vector<Table> tabelle = TripTablesOnDemand();
+    tabelle.insert(tabelle.end(), {Table::Itinerari, Table::MeteVandro});
+    for (const Table tabella : tabelle) {
         archive_.DeleteMatching(tabella, Condition{mete::CodiceMeta, questa}, muto);
     }
     mete_.Dimentica();

@@ -18,9 +18,9 @@ constexpr QByteArrayView kSegnoUtf8 = "\xEF\xBB\xBF";
 // Its own fields, and behind them the added ones.
 std::vector<FieldDefinition> CampiDellaSezione(Table tabella) {
     std::vector<FieldDefinition> campi = Definition(tabella).fields;
-    if (const auto aggiunti = AggiuntiAllaSezione(tabella)) {
-        const auto& altri = Definition(aggiunti->tabella).fields;
-        campi.insert(campi.end(), altri.begin() + aggiunti->primo, altri.end());
+    for (const CampiAggiunti& aggiunti : AggiuntiAllaSezione(tabella)) {
+        const auto& altri = Definition(aggiunti.tabella).fields;
+        campi.insert(campi.end(), altri.begin() + aggiunti.primo, altri.end());
     }
     return campi;
 }
@@ -47,19 +47,32 @@ std::vector<int> MappaDelleColonne(Table tabella, const Colonne& colonne) {
 void Metti(const QString& valore, std::size_t campo, RigaIei& riga) {
     if (campo < riga.valori.size()) {
         riga.valori[campo] = valore;
-    } else if (!valore.isEmpty()) {
-        const CampiAggiunti aggiunti = AggiuntiAllaSezione(riga.tabella).value();
-        riga.aggiunti.resize(Definition(aggiunti.tabella).fields.size());
-        riga.aggiunti[campo - riga.valori.size() + static_cast<std::size_t>(aggiunti.primo)] = valore;
+        return;
+    }
+    if (valore.isEmpty()) return;
+    campo -= riga.valori.size();
+    for (const CampiAggiunti& aggiunti : AggiuntiAllaSezione(riga.tabella)) {
+        const std::size_t campi = Definition(aggiunti.tabella).fields.size();
+        const std::size_t posto = campo + static_cast<std::size_t>(aggiunti.primo);
+        if (posto < campi) {
+            std::vector<QString>& valori = riga.aggiunti[aggiunti.tabella];
+            valori.resize(campi);
+            valori[posto] = valore;
+            return;
+        }
+        campo = posto - campi;
     }
 }
 
 }  // namespace
 
-std::optional<CampiAggiunti> AggiuntiAllaSezione(Table tabella) {
-    if (tabella == Table::MeteVandro) return CampiAggiunti{Table::Scadenze, scadenze::RientroData};
-    if (tabella == Table::Itinerari) return CampiAggiunti{Table::Vincoli, vincoli::TraghettoOra};
-    return std::nullopt;
+std::span<const CampiAggiunti> AggiuntiAllaSezione(Table tabella) {
+    static constexpr std::array<CampiAggiunti, 1> delleMete = {{{Table::Scadenze, scadenze::RientroData}}};
+    static constexpr std::array<CampiAggiunti, 2> delleTappe = {
+        {{Table::Vincoli, vincoli::TraghettoOra}, {Table::Stime, stime::KmStimati}}};
+    if (tabella == Table::MeteVandro) return delleMete;
+    if (tabella == Table::Itinerari) return delleTappe;
+    return {};
 }
 
 LettoreIei::LettoreIei(QIODevice& device, Lettura lettura, Progress& progress)

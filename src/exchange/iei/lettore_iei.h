@@ -6,7 +6,9 @@
 #include <QIODevice>
 #include <QString>
 #include <array>
+#include <map>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "exchange/iei/separa_colonne.h"
@@ -19,19 +21,20 @@ namespace cronovia {
 /// The separator of a section, which is numbered as its table: FF trips, FE stages, FD guide.
 constexpr char SeparatoreSezione(Table tabella) { return static_cast<char>(0x100 - static_cast<int>(tabella)); }
 
-/// What a section may have behind its own fields: those of a table that is about the same records, from `primo` on,
-/// behind its key.
+/// What a section may have behind its own fields: those of tables that are about the same records, from `primo` on,
+/// behind their key.
 struct CampiAggiunti {
     Table tabella;
     int primo;
 };
-std::optional<CampiAggiunti> AggiuntiAllaSezione(Table tabella);
+std::span<const CampiAggiunti> AggiuntiAllaSezione(Table tabella);
 
 /// One record of an exchange file.
 struct RigaIei {
     Table tabella = Table::MeteVandro;
-    std::vector<QString> valori;         ///< in the order of the table's fields; empty where the file has none
-    std::vector<QString> aggiunti = {};  ///< in the order of the other table's fields; none where none is filled
+    std::vector<QString> valori;  ///< in the order of the table's fields; empty where the file has none
+    /// Of the other tables, in the order of their fields; a table is missing where none of its fields is filled.
+    std::map<Table, std::vector<QString>> aggiunti = {};
 };
 
 /// What a reader found and could not take as it stood.

@@ -149,11 +149,11 @@ std::vector<PuntoDellaVia> Via(const FileNavigatore& file) {
     return LungoLaRotta(file.luoghi);
 }
 
-TipoStrada TipoPer(int km) {
+}  // namespace
+
+TipoStrada TipoPerKm(int km) {
     return km >= kKmAutostrada ? TipoStrada::Autostrada : km >= kKmLocale ? TipoStrada::Principale : TipoStrada::Locale;
 }
-
-}  // namespace
 
 PercorsoNavigatore TappeDelNavigatore(const FileNavigatore& file, Gazzettino& gazzettino) {
     PercorsoNavigatore percorso;
@@ -169,10 +169,10 @@ PercorsoNavigatore TappeDelNavigatore(const FileNavigatore& file, Gazzettino& ga
         tappa.localita = nome;
         if (!percorso.tappe.empty()) {
             const int intero = std::max(1, static_cast<int>(std::lround(p.km)));
-            const TipoStrada tipo = TipoPer(p.misurati ? intero : KmStimati(p.km, std::nullopt));
+            const TipoStrada tipo = TipoPerKm(p.misurati ? intero : KmStimati(p.km, std::nullopt));
             tappa.km = p.misurati ? intero : KmStimati(p.km, tipo);
             tappa.tipo = tipo;
-            percorso.kmStimati += p.misurati ? 0 : 1;
+            tappa.kmStimati = !p.misurati;
         }
         percorso.posizioni.emplace_back(nome, p.punto.posizione);
         percorso.tappe.push_back(tappa);
@@ -198,7 +198,7 @@ std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Gazzett
     if (auto percorso = LeggiPercorsoNavigatore(path, gazzettino)) return percorso;
     auto tappe = LeggiPercorso(path, progress);
     if (!tappe) return std::nullopt;
-    return PercorsoNavigatore{std::move(*tappe), {}, 0};
+    return PercorsoNavigatore{std::move(*tappe), {}};
 }
 
 void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso) {
@@ -207,10 +207,11 @@ void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso) {
     transaction.Commit();
 }
 
-QString TestoKmStimati(const PercorsoNavigatore& percorso) {
-    if (percorso.kmStimati == 0) return {};
-    const QString tappe = percorso.kmStimati == 1 ? u"una tappa"_s : Raggruppa(percorso.kmStimati) + u" tappe"_s;
-    return u"I chilometri di "_s + tappe + u" sono stimati in linea d'aria: controllali."_s;
+QString TestoKmStimati(std::span<const Tappa> tappe) {
+    const auto stimati = std::count_if(tappe.begin(), tappe.end(), [](const Tappa& t) { return t.kmStimati; });
+    if (stimati == 0) return {};
+    const QString quante = stimati == 1 ? u"una tappa"_s : Raggruppa(stimati) + u" tappe"_s;
+    return u"I chilometri di "_s + quante + u" sono stimati in linea d'aria: controllali."_s;
 }
 
 }  // namespace cronovia

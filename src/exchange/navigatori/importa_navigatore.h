@@ -2,6 +2,8 @@
 // The stages of a navigator's route.
 #pragma once
 
+#include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -17,7 +19,6 @@ namespace cronovia {
 struct PercorsoNavigatore {
     RigheItinerario tappe;
     std::vector<std::pair<QString, Posizione>> posizioni;
-    int kmStimati = 0;  ///< stages whose kilometres are a guess from the straight way
 };
 
 /// Named points of a route are stages, unnamed ones between them shape the way; a route without names has its two ends.
@@ -37,7 +38,10 @@ std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Gazzett
 /// The localities lie where the file says, from now on and for all trips.
 void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso);
 
+/// The kind of road that a leg of that length mostly takes.
+TipoStrada TipoPerKm(int km);
+
 /// That kilometres are a guess, in a sentence; empty when none is.
-QString TestoKmStimati(const PercorsoNavigatore& percorso);
+QString TestoKmStimati(std::span<const Tappa> tappe);
 
 }  // namespace cronovia

@@ -144,7 +144,7 @@ void FrmInputBox::MostraCampi(int riga, const CampiTappa& campi) {
     txtKm_->setText(campi.km == 0 ? QString() : QString::number(campi.km));
     txtKm_->setModified(campi.kmProgressivi);
     kmDaIndicare_ = campi.kmDaIndicare;
-    kmStimati_ = false;
+    kmStimati_ = campi.kmStimati;
     stima_.reset();
     MostraSegnaposto();
     if (campi.tipo) cmbTipoStrada_->setCurrentIndex(static_cast<int>(*campi.tipo));
@@ -168,6 +168,7 @@ CampiTappa FrmInputBox::Campi() const {
     campi.kmLeggibili = SoloCifre(km);
     campi.km = campi.kmLeggibili ? km.toInt() : 0;
     campi.kmDaIndicare = km.isEmpty() && kmDaIndicare_;
+    campi.kmStimati = campi.km > 0 && kmStimati_;
     campi.kmProgressivi = txtKm_->isModified() && chkKm_->isChecked();
     campi.tipo = LeggiTipoStrada(cmbTipoStrada_->currentText().left(1));
     campi.sosta = {cmbSosta_[0]->currentText().toInt(), cmbSosta_[1]->currentText().toInt(),
