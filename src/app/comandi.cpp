@@ -8,6 +8,7 @@
 #include "app/comandi_esporta.h"
 #include "app/comandi_guida.h"
 #include "app/comandi_inserimento.h"
+#include "app/comandi_percorso.h"
 #include "app/comandi_righe.h"
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
@@ -120,6 +121,9 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      kInserimento, &comandi::Duplica},
     {Comando::AltriPacchetti, u"cmdMapPoint", u"Altri Pacc&h.", u"Altri pacc&hetti…", u"",
      u"Recepisce dati forniti da pacchetti commerciali", Menu::Itinerario, kSenzaTappe, &comandi::AltriPacchetti},
+    {Comando::ImportaTratto, u"cmdImportaTratto", u"Importa un tratto", u"Importa &un tratto…", u"",
+     u"Mette dopo la tappa corrente il percorso di un navigatore o di un altro programma", Menu::Itinerario,
+     kInserimento, &comandi::ImportaTratto},
     {Comando::AzzeraSoste, u"cmdAzzeraSoste", u"A&zzera soste itiner.", u"A&zzera soste dell'itinerario", u"",
      u"Toglie tutte le soste dell'itinerario", Menu::Itinerario, kInserimento, &comandi::AzzeraSoste},
     {Comando::Trasferisce, u"cmdTrasferisce", u"Copia soste guida ->itin.", u"Copia soste della &guida nell'itinerario",

@@ -3,14 +3,11 @@
 
 #include <algorithm>
 #include <utility>
-#include "app/cartella_dati.h"
 
 #include "app/comandi_copia.h"
 #include "app/comandi_righe.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
-#include "exchange/navigatori/importa_navigatore.h"
-#include "exchange/percorsi/importa_percorso.h"
 #include "itinerary/tratti.h"
 
 namespace cronovia::comandi {
@@ -18,29 +15,6 @@ namespace cronovia::comandi {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString CiSonoTappe() {
-    return u"Impossibile: sono presenti delle tappe!\n\nE' ammesso solo con itinerario vuoto.\n\n"
-           "Se vuoi procedere con l'import da MapPoint,\nè necessario cancellare l'itinerario."_s;
-}
-
-QString NonRiconosciuto() {
-    return u"Attenzione!\n\nFile non riconosciuto!\n\nAttualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
-           ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."_s;
-}
-
-void MettiPercorso(Postazione& p, PercorsoNavigatore percorso) {
-    QString testo = RiassuntoPercorso(percorso.tappe);
-    const QString stimati = TestoKmStimati(percorso.tappe);
-    if (!stimati.isEmpty()) testo += u'\n' + stimati;
-    if (!p.Chiede(testo + u"\n\nVuoi riportarle nell'itinerario?"_s, u"Import del percorso"_s)) return;
-    if (!percorso.posizioni.empty() &&
-        !p.MentreScrive({}, [&] { ConfermaPosizioni(p.sessione.Archivio(), percorso); })) {
-        return;
-    }
-    const auto prossima = static_cast<int>(percorso.tappe.size()) + 1;
-    Modifica(p, u"import del percorso"_s, std::move(percorso.tappe), prossima);
-}
 
 void SalvaTappe(Postazione& p) {
     const int riga = p.documento.RigaCorrente();
@@ -167,22 +141,6 @@ void Trasferisce(Postazione& p) {
     });
     if (lette) Modifica(p, u"copia delle soste della guida"_s, std::move(righe), p.documento.RigaCorrente());
     p.volti.avanzamento.Advance(0, 0);
-}
-
-void AltriPacchetti(Postazione& p) {
-    if (NumeroTappe(p.documento.Righe()) > 0) return p.Mostra(CiSonoTappe());
-    if (!TappaNonPersa(p)) return;
-    const QString path = p.volti.scegliFile(FileChiesto::Percorso);
-    if (path.isEmpty()) return;
-    std::optional<PercorsoNavigatore> percorso;
-    const bool letto =
-        p.MentreScrive({}, [&] { percorso = LeggiOgniPercorso(path, p.luoghi.Repertorio(), p.volti.avanzamento); });
-    p.volti.avanzamento.Advance(0, 0);
-    if (letto && percorso) {
-        MettiPercorso(p, std::move(*percorso));
-    } else if (letto) {
-        p.Mostra(NonRiconosciuto());
-    }
 }
 
 void Cerca(Postazione& p) {

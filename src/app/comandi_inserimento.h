@@ -28,8 +28,6 @@ void AzzeraSoste(Postazione& p);
 void Ritorno(Postazione& p);
 /// Adds the guide's visit times to the stops, after a question.
 void Trasferisce(Postazione& p);
-/// Puts the stages of a route planner's export into an empty itinerary.
-void AltriPacchetti(Postazione& p);
 
 /// Opens the list of places to go to; goes to the row of one.
 void Cerca(Postazione& p);

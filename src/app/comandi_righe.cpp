@@ -29,16 +29,6 @@ QString NomeDi(const RigheItinerario& righe, Tratto tratto) {
     return nomi.size() == 1 ? nomi.first() : u"%1 tappe"_s.arg(nomi.size());
 }
 
-// The rows that it was about are selected then.
-void Concludi(Postazione& p, const QString& nome, EsitoSpostamento esito) {
-    if (!Modifica(p, nome, std::move(esito.righe), esito.tratto.a)) return;
-    if (auto* inserimento = p.Su<schermata::Inserimento>();
-        inserimento != nullptr && esito.tratto.da < esito.tratto.a) {
-        inserimento->ancora = esito.tratto.da;
-    }
-    RicalcolaSulPosto(p);
-}
-
 bool ConLuogo(const Tappa& tappa) { return !tappa.localita.trimmed().isEmpty(); }
 
 GiorniItinerario Giorni(const Postazione& p) {
@@ -89,15 +79,24 @@ void Sposta(Postazione& p, int passo) {
 
 void Duplica(Postazione& p, const std::optional<Tratto>& tratto) {
     const RigheItinerario& righe = p.documento.Righe();
-    if (tratto) Concludi(p, u"duplicazione di "_s + NomeDi(righe, *tratto), DuplicaRighe(righe, *tratto));
+    if (tratto) ConcludiSpostamento(p, u"duplicazione di "_s + NomeDi(righe, *tratto), DuplicaRighe(righe, *tratto));
 }
 
 void Toglie(Postazione& p, const std::optional<Tratto>& tratto) {
     const RigheItinerario& righe = p.documento.Righe();
-    if (tratto) Concludi(p, u"cancellazione di "_s + NomeDi(righe, *tratto), TogliRighe(righe, *tratto));
+    if (tratto) ConcludiSpostamento(p, u"cancellazione di "_s + NomeDi(righe, *tratto), TogliRighe(righe, *tratto));
 }
 
 }  // namespace
+
+void ConcludiSpostamento(Postazione& p, const QString& nome, EsitoSpostamento esito) {
+    if (!Modifica(p, nome, std::move(esito.righe), esito.tratto.a)) return;
+    if (auto* inserimento = p.Su<schermata::Inserimento>();
+        inserimento != nullptr && esito.tratto.da < esito.tratto.a) {
+        inserimento->ancora = esito.tratto.da;
+    }
+    RicalcolaSulPosto(p);
+}
 
 Tratto RigheScelte(const Postazione& p) {
     const int riga = p.documento.RigaCorrente();
@@ -132,7 +131,7 @@ void TogliGiornata(Postazione& p, int giornata) {
 void SpostaPrimaDi(Postazione& p, Tratto righe, int dove) {
     if (!SiPuoCambiare(p) || !TappaNonPersa(p)) return;
     const RigheItinerario& prima = p.documento.Righe();
-    Concludi(p, u"spostamento di "_s + NomeDi(prima, righe), SpostaRighe(prima, righe, dove));
+    ConcludiSpostamento(p, u"spostamento di "_s + NomeDi(prima, righe), SpostaRighe(prima, righe, dove));
 }
 
 void SpostaGiornata(Postazione& p, int giornata, int passo) {
@@ -140,8 +139,8 @@ void SpostaGiornata(Postazione& p, int giornata, int passo) {
     const auto tratto = TappeDelGiorno(p, giornata);
     const auto vicino = GiornoVicino(p, giornata, passo);
     if (!tratto || !vicino) return;
-    Concludi(p, u"spostamento "_s + NomeDelGiorno(giornata),
-             SpostaRighe(p.documento.Righe(), *tratto, passo < 0 ? vicino->da : vicino->a + 1));
+    ConcludiSpostamento(p, u"spostamento "_s + NomeDelGiorno(giornata),
+                        SpostaRighe(p.documento.Righe(), *tratto, passo < 0 ? vicino->da : vicino->a + 1));
 }
 
 void SpostaGiornataPrimaDi(Postazione& p, int giornata, int altra) {
@@ -150,7 +149,8 @@ void SpostaGiornataPrimaDi(Postazione& p, int giornata, int altra) {
     if (!tratto || altra == giornata || altra == giornata + 1) return;
     const auto prima = GiornoVicino(p, altra - 1, 1);
     const int dove = prima ? prima->da : NumeroTappe(p.documento.Righe()) + 1;
-    Concludi(p, u"spostamento "_s + NomeDelGiorno(giornata), SpostaRighe(p.documento.Righe(), *tratto, dove));
+    ConcludiSpostamento(p, u"spostamento "_s + NomeDelGiorno(giornata),
+                        SpostaRighe(p.documento.Righe(), *tratto, dove));
 }
 
 const Tappa* TappaFinale(const Postazione& p, int giornata) {
@@ -207,8 +207,8 @@ void Incolla(Postazione& p) {
         const auto prima = proprie ? std::optional(p.copiate.prima) : std::nullopt;
         const int riga = p.documento.RigaCorrente();
         const Tratto tutte{1, static_cast<int>(nuove.size())};
-        Concludi(p, u"incollatura di "_s + NomeDi(nuove, tutte),
-                 InserisciRighe(p.documento.Righe(), riga, nuove, prima));
+        ConcludiSpostamento(p, u"incollatura di "_s + NomeDi(nuove, tutte),
+                            InserisciRighe(p.documento.Righe(), riga, nuove, prima));
     });
 }
 

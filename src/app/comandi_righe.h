@@ -4,12 +4,14 @@
 #pragma once
 
 #include "app/postazione.h"
-#include "itinerary/tratti.h"
+#include "itinerary/spostamenti.h"
 
 namespace cronovia::comandi {
 
 /// The rows selected in the entry of stages, the current one among them.
 [[nodiscard]] Tratto RigheScelte(const Postazione& p);
+/// Such a change, made: the rows that it was about are selected then, and the schedule in front is computed anew.
+void ConcludiSpostamento(Postazione& p, const QString& nome, EsitoSpostamento esito);
 /// Goes to a row, and selects all from where the selection begins.
 void SceglieFino(Postazione& p, int riga);
 

@@ -59,6 +59,7 @@ enum class Comando {
     Ritorno,
     Duplica,
     AltriPacchetti,
+    ImportaTratto,
     AzzeraSoste,
     Trasferisce,
     Memorizza,

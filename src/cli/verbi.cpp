@@ -195,7 +195,7 @@ std::vector<Verbo> VerbiDelViaggio() {
         {u"percorso"_s,
          u"CODICE FILE"_s,
          u"Riporta in un itinerario vuoto il percorso di un navigatore o di un altro programma (GPX, KML, KMZ, ITN, GeoJSON, testo)."_s,
-         {},
+         {{u"dopo"_s, u"N"_s, u"Lo mette dopo la tappa N di un itinerario che ne ha (0: all'inizio)."_s}},
          2,
          2,
          false,

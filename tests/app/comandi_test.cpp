@@ -2,6 +2,7 @@
 // The commands of the trip screen, the entry and the schedule, without a window.
 #include <SQLiteCpp/Database.h>
 
+#include "app/comandi_percorso.h"
 #include "support/postazione.h"
 
 namespace cronovia {

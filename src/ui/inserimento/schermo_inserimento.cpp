@@ -156,6 +156,7 @@ bool SchermoInserimento::FuocoDopo(Comando comando, bool appenaAperto) {
         case Comando::Cancella:
         case Comando::Ritorno:
         case Comando::AltriPacchetti:
+        case Comando::ImportaTratto:
         case Comando::Fine:
             FuocoSullaTappa();
             return true;
