@@ -301,13 +301,15 @@ QByteArray Spacchettato(const QString& path, const Raccolta& raccolta) {
     raccolta.Guasto(u"nel pacchetto non c'è nessuna mappa"_s);
 }
 
-// The name of the first element; empty when it is no XML.
+// The name of the first element; empty when it is no XML. What cannot be decoded all the same is taken by its look.
 QString Radice(QIODevice& device) {
-    QXmlStreamReader xml(device.peek(kByteDaGuardare));
+    const QByteArray inizio = device.peek(kByteDaGuardare);
+    QXmlStreamReader xml(inizio);
     while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::StartElement) {
         if (xml.tokenType() == QXmlStreamReader::DTD) return u"!"_s;
     }
-    return xml.tokenType() == QXmlStreamReader::StartElement ? xml.name().toString() : QString();
+    if (xml.tokenType() == QXmlStreamReader::StartElement) return xml.name().toString();
+    return inizio.contains("<gpx") ? u"gpx"_s : inizio.contains("<kml") ? u"kml"_s : QString();
 }
 
 bool LeggiXml(QIODevice& device, Raccolta& raccolta) {

@@ -4,9 +4,12 @@
 
 #include <QRegularExpression>
 
+#include "exchange/iei/importa_mete.h"
+#include "exchange/navigatori/esporta_percorso.h"
 #include "exchange/navigatori/importa_navigatore.h"
-#include "exchange/navigatori/scrittori_percorso.h"
-#include "support/prova.h"
+#include "itinerary/itinerari.h"
+#include "support/archivio.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 namespace {
@@ -145,6 +148,38 @@ TEST_F(Navigatore, HostileFilesAreRefusedInASentence) {
     EXPECT_TRUE(prova::MessaggioDi([&] { LeggiPercorsoNavigatore(nido, gazzettino_); }).contains(u"annidato"_s));
 }
 
+// Files as programs write them, and as they should not be. After a change the table is written anew with
+// CRONOVIA_RIGENERA=1; review it before keeping it.
+TEST_F(Navigatore, FilesAreAsReviewed) {
+    const QString cartella = QStringLiteral(CRONOVIA_TEST_DATA "/navigatori/");
+    const QString attesi = QString::fromUtf8(prova::LeggiFile(cartella + u"attesi.txt"_s));
+    QString ottenuti;
+    for (const QString& riga : attesi.split(u'\n', Qt::SkipEmptyParts)) {
+        const QString nome = riga.section(u": "_s, 0, 0);
+        if (riga.startsWith(u'#')) {
+            ottenuti += riga + u'\n';
+            continue;
+        }
+        QString esito;
+        try {
+            esito = Tappe(cartella + nome);
+        } catch (const Failure& rifiuto) {
+            esito = u"! "_s + QString(rifiuto.Message()).remove(cartella);
+        }
+        ottenuti += nome + u": "_s + esito + u'\n';
+    }
+    if (qEnvironmentVariableIsSet("CRONOVIA_RIGENERA")) {
+        prova::ScriviFile(cartella + u"attesi.txt"_s, ottenuti.toUtf8());
+        ADD_FAILURE() << "written anew";
+    }
+    EXPECT_EQ(ottenuti.toStdString(), attesi.toStdString());
+    const QStringList provati = attesi.split(QRegularExpression(u"[:\n]"_s));
+    for (const QString& nome : QDir(cartella).entryList(QDir::Files)) {
+        EXPECT_TRUE(provati.contains(nome) || nome.endsWith(u".xsd"_s) || nome == u"attesi.txt"_s)
+            << nome.toStdString();
+    }
+}
+
 // There and back, with entries of the guide at the places and names that are no words.
 TEST_F(Navigatore, OursComeBack) {
     const PercorsoDaScrivere percorso{u"PROVA & CO"_s,
@@ -168,6 +203,34 @@ TEST_F(Navigatore, OursComeBack) {
         EXPECT_EQ(QString(tappe).remove(QRegularExpression(u" \\d+ [ASPL]\\b"_s)),
                   u"TORINO, L'ÎLE <1>, ASTI \"2\", TORINO"_s)
             << Estensione(formato).toStdString();
+    }
+}
+
+class Esempi : public prova::ConArchivio {};
+
+// The three examples, whose places all lie somewhere for certain but those that are left out.
+TEST_F(Esempi, ComeBackFromEachFormat) {
+    Gazzettino gazzettino{QStringLiteral(CRONOVIA_PLACES "/luoghi.dat")};
+    for (const QString& nome : {u"provenza"_s, u"sicilia"_s, u"capo-nord"_s}) {
+        ImportaMete({archive_, QStringLiteral(CRONOVIA_EXAMPLES "/") + nome + u".iei"_s, {}}, progress_);
+    }
+    const std::vector<MetaInElenco> mete = ElencoMete(archive_, QualiMete::ConTappe);
+    ASSERT_GE(mete.size(), 3U);
+    for (const MetaInElenco& meta : mete) {
+        const std::vector<Tappa> tappe = TappeMemorizzate(archive_, meta.codice);
+        const auto posizioni = PosizioniDelViaggio(archive_, gazzettino, tappe, meta.nazione);
+        QStringList partite;
+        for (std::size_t i = 0; i < tappe.size(); ++i) {
+            if (posizioni[i].Certa()) partite += tappe[i].localita;
+        }
+        for (const FormatoPercorso formato : {FormatoPercorso::Gpx, FormatoPercorso::Kml, FormatoPercorso::Itn}) {
+            const QString file = cartella_.Path() + u"/via"_s;
+            EsportaPercorso({archive_, file, formato, true, meta.localita, tappe, posizioni});
+            const auto percorso = LeggiPercorsoNavigatore(file, gazzettino);
+            QStringList arrivate;
+            for (const Tappa& tappa : percorso->tappe) arrivate += tappa.localita;
+            EXPECT_EQ(arrivate, partite) << meta.localita.toStdString() << ' ' << Estensione(formato).toStdString();
+        }
     }
 }
 
