@@ -46,6 +46,7 @@ constexpr auto kIconeComandi = std::to_array<std::pair<Comando, const char16_t*>
     {Comando::Ritorno, u"ritorno"},
     {Comando::Duplica, u"duplica"},
     {Comando::AltriPacchetti, u"importa"},
+    {Comando::ImportaTratto, u"importa"},
     {Comando::AzzeraSoste, u"azzera"},
     {Comando::Trasferisce, u"guida"},
     {Comando::Memorizza, u"salva"},
