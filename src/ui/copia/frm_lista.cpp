@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/copia/frm_lista.h"
 
+#include <QHeaderView>
 #include <QItemSelection>
 #include <QVBoxLayout>
 #include <array>
@@ -34,6 +35,7 @@ FrmLista::FrmLista(QWidget* parent)
     mfgCopia_->setAccessibleName(u"Mète e tappe da copiare"_s);
     mfgCopia_->setModel(&modello_);
     DisponiRighe(*mfgCopia_);
+    mfgCopia_->horizontalHeader()->setStretchLastSection(true);
     // What is highlighted is the stretch; a click only says where it goes on.
     mfgCopia_->setSelectionMode(QTableView::NoSelection);
     auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Riquadro);
