@@ -62,7 +62,7 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
      kScambio, &comandi::FineScambio},
     {Comando::Preferenze, u"cmdPreferenze", u"Preferenze", u"Pre&ferenze…", u"Ctrl+,",
      u"Sceglie grandezza dei testi, colori, calcolo dal vivo e cartella portatile", Menu::File,
-     kVuota | kNuova | kAperta, &comandi::Preferenze, true},
+     kVuota | kNuova | kAperta | kInserimento | kCronovia | kGuida, &comandi::Preferenze, true},
     {Comando::Esce, u"cmdEsce", u"&Esce", nullptr, u"Ctrl+Q", u"Esce dal form", Menu::File,
      kVuota | kNuova | kAperta | kElencoMete | kCorsa, &comandi::Esce, true},
     {Comando::Annulla, u"cmdAnnulla", u"Annulla", nullptr, u"Ctrl+Z", u"Annulla l'ultima modifica", Menu::Modifica,

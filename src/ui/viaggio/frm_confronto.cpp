@@ -37,6 +37,7 @@ QTableWidget* TabellaAlternative(const std::vector<Alternativa>& alternative) {
             QFont carattere = cella->font();
             carattere.setBold(alternativa.attuale);
             cella->setFont(carattere);
+            if (colonna > 0) cella->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);  // figures all
             tabella->setItem(riga, colonna, cella);
         }
     }
