@@ -135,9 +135,11 @@ std::vector<PuntoDellaVia> LungoLaTraccia(const std::vector<PuntoLetto>& luoghi,
         passati.emplace_back(traccia.size() - 1, PuntoLetto{{}, traccia.back()});
     }
     std::vector<PuntoDellaVia> via;
+    constexpr double kTrattoDritto = 2;  // a longer one without a point between its ends is drawn, and was not driven
     std::size_t prima = passati.front().first;
     for (const auto& [dove, punto] : passati) {
-        via.push_back({punto, Lunghezza(traccia.subspan(prima, dove - prima + 1)), true});
+        const double km = Lunghezza(traccia.subspan(prima, dove - prima + 1));
+        via.push_back({punto, km, dove - prima > 1 || km < kTrattoDritto});
         prima = dove;
     }
     return via;

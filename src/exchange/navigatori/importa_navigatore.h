@@ -23,9 +23,10 @@ struct PercorsoNavigatore {
 
 /// Named points of a route are stages, unnamed ones between them shape the way; a route without names has its two ends.
 /// Without a route the points by themselves are stages: along the track, when there is one, in the order in which it
-/// passes them, else as they follow each other. Kilometres are those along the track; without one they are guessed. An
-/// end without a name is called as the nearest place. The roads are of a kind that fits their length, to be corrected.
-/// Names are in capitals. No stages when there are fewer than two points.
+/// passes them, else as they follow each other. Kilometres are those along the track; without one, or where it is no
+/// more than a straight line from place to place, they are guessed. An end without a name is called as the nearest
+/// place. The roads are of a kind that fits their length, to be corrected. Names are in capitals. No stages when there
+/// are fewer than two points.
 PercorsoNavigatore TappeDelNavigatore(const FileNavigatore& file, Gazzettino& gazzettino);
 
 /// The same of a file; nothing when it is no navigator's. A `Failure` when it has fewer than two points, or more stages

@@ -87,12 +87,12 @@ TEST_F(Navigatore, BecomesStages) {
          "},"
          "{\"type\":\"Feature\",\"geometry\":{\"type\":\"MultiLineString\",\"coordinates\":[[[7.69,45.07],[7.9,45]],"
          "[[7.9,45],[8.2,44.9]]]}}]}",
-         "TORINO, A CASA 18 P, ASTI 26 P"},
+         "TORINO, A CASA 25 P, ASTI 26 P"},
         {"a recorded track, its ends without a name; short legs are local, long ones motorways",
          "<kml><Placemark><Track><coord>7.69 45.07 240</coord><coord>7.75 45.03 240</coord><coord>7.9 45.0 0</coord>"
          "<coord>8.93 44.41 10</coord></Track></Placemark><Placemark><name>Vicino</name><Point><coordinates>7.75,45.03"
          "</coordinates></Point></Placemark></kml>",
-         "TORINO, VICINO 6 L, GENOVA 117 A"},
+         "TORINO, VICINO 9 L, GENOVA 117 A"},
         {"UTF-16, a name on several lines, a note and a kind",
          Utf16(u"<gpx><rte><rtept lat='45.07' lon='7.69'><name>città\n di  forlì</name><cmt>b</cmt></rtept>"
                "<rtept lat='44.9' lon='8.2'><name>Asti</name><sym>Flag</sym></rtept></rte></gpx>"_s),
