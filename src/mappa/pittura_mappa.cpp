@@ -2,7 +2,6 @@
 #include "mappa/pittura_mappa.h"
 
 #include <QFontMetricsF>
-#include <QHash>
 #include <QSet>
 #include <algorithm>
 #include <numeric>
@@ -18,6 +17,8 @@ constexpr double kPassoCoste = 0.6;  // shorter strokes of coasts are left out
 constexpr double kRaggioLuogo = 3;
 constexpr double kRaggioNotte = 5.5;
 constexpr std::size_t kMassimiNomi = 300;
+constexpr qsizetype kMassimiDisegni = 3'000;
+constexpr int kOrloNomi = 3;  // half of it lies under the letters
 constexpr int kMassimoNome = 30;
 
 // The lower, the sooner it gets its name.
@@ -100,18 +101,51 @@ void DipingiLuna(QPainter& painter, const QPointF& dove, const ColoriMappa& colo
     painter.drawPath(disco.subtracted(ombra));
 }
 
+void DipingiSegno(QPainter& painter, const QPointF& dove, const LuogoSullaMappa& luogo, const ColoriMappa& colori) {
+    if (luogo.notte) return DipingiLuna(painter, dove, colori);
+    painter.setPen(QPen(colori.testo, 1.2));
+    painter.setBrush(luogo.Certo() ? colori.testo : colori.terra);
+    painter.drawEllipse(dove, kRaggioLuogo, kRaggioLuogo);
+}
+
+/// The sign of each kind of place; on a screen a picture that is made once, since there are thousands of them.
+class Segni {
+  public:
+    Segni(QPainter& painter, const ColoriMappa& colori)
+        : painter_(painter), colori_(colori), aSchermo_(painter.device()->devType() == QInternal::Pixmap) {}
+
+    void Dipingi(const QPointF& dove, const LuogoSullaMappa& luogo) {
+        if (!aSchermo_) return DipingiSegno(painter_, dove, luogo, colori_);
+        QPixmap& disegno = disegni_[luogo.notte ? 0 : luogo.Certo() ? 1 : 2];
+        if (disegno.isNull()) disegno = Disegno(luogo);
+        painter_.drawPixmap(dove - QPointF(kMezzo, kMezzo), disegno);
+    }
+
+  private:
+    static constexpr int kMezzo = 8;
+
+    [[nodiscard]] QPixmap Disegno(const LuogoSullaMappa& luogo) const {
+        const double densita = painter_.device()->devicePixelRatioF();
+        QPixmap disegno((QSizeF(2 * kMezzo, 2 * kMezzo) * densita).toSize());
+        disegno.setDevicePixelRatio(densita);
+        disegno.fill(Qt::transparent);
+        QPainter painter(&disegno);
+        painter.setRenderHint(QPainter::Antialiasing);
+        DipingiSegno(painter, QPointF(kMezzo, kMezzo), luogo, colori_);
+        return disegno;
+    }
+
+    QPainter& painter_;
+    const ColoriMappa& colori_;
+    bool aSchermo_;
+    std::array<QPixmap, 3> disegni_;
+};
+
 void DipingiLuoghi(QPainter& painter, const MappaViaggio& mappa, const Inquadratura& vista, const ColoriMappa& colori) {
     const RiquadroMappa visto = vista.Visto();
+    Segni segni(painter, colori);
     for (const LuogoSullaMappa& luogo : mappa.luoghi) {
-        if (!visto.Contiene(luogo.dove)) continue;
-        const QPointF dove = vista.Pixel(luogo.dove);
-        if (luogo.notte) {
-            DipingiLuna(painter, dove, colori);
-            continue;
-        }
-        painter.setPen(QPen(colori.testo, 1.2));
-        painter.setBrush(luogo.Certo() ? colori.testo : colori.terra);
-        painter.drawEllipse(dove, kRaggioLuogo, kRaggioLuogo);
+        if (visto.Contiene(luogo.dove)) segni.Dipingi(vista.Pixel(luogo.dove), luogo);
     }
 }
 
@@ -149,8 +183,8 @@ class Notti {
 // Puts names onto what is seen.
 class Scritta {
   public:
-    Scritta(const MappaViaggio& mappa, const Inquadratura& vista, const MisuraNomi& misura)
-        : mappa_(mappa), vista_(vista), misura_(misura), visto_(vista.Visto()), notti_(mappa) {
+    Scritta(const MappaViaggio& mappa, const Inquadratura& vista, const MisuraNomi& misura, const QRectF& davanti)
+        : mappa_(mappa), vista_(vista), misura_(misura), davanti_(davanti), visto_(vista.Visto()), notti_(mappa) {
         for (const LuogoSullaMappa& luogo : mappa.luoghi) {
             if (!visto_.Contiene(luogo.dove)) continue;
             luogo.notte ? posti_.Occupa(Segno(luogo, kRaggioNotte)) : punti_.Occupa(Segno(luogo, kRaggioLuogo));
@@ -186,6 +220,7 @@ class Scritta {
         for (const QPointF& angolo : Angoli(vista_.Pixel(mappa_.luoghi[luogo].dove), grande)) {
             const QRectF posto(angolo, grande);
             if (!QRectF(QPointF(), vista_.area).contains(posto)) continue;
+            if (davanti_.intersects(posto) && !davanti_.contains(posto)) continue;
             if ((!sopraAltri && !punti_.Libero(posto)) || !posti_.Prendi(posto)) continue;
             nomi_.push_back({posto, testo, static_cast<int>(luogo)});
             return true;
@@ -196,6 +231,7 @@ class Scritta {
     const MappaViaggio& mappa_;
     const Inquadratura& vista_;
     const MisuraNomi& misura_;
+    QRectF davanti_;
     RiquadroMappa visto_;
     Notti notti_;
     Posti posti_;  // taken by names and nights
@@ -281,12 +317,12 @@ MisuraNomi Misura(const QFont& font) {
 }
 
 std::vector<NomeSullaMappa> NomiChiEntrano(const MappaViaggio& mappa, const Inquadratura& vista,
-                                           const MisuraNomi& misura) {
+                                           const MisuraNomi& misura, const QRectF& davanti) {
     std::vector<std::size_t> ordine(mappa.luoghi.size());
     std::iota(ordine.begin(), ordine.end(), 0U);
     std::stable_sort(ordine.begin(), ordine.end(),
                      [&](std::size_t a, std::size_t b) { return Precedenza(mappa, a) < Precedenza(mappa, b); });
-    Scritta scritta(mappa, vista, misura);
+    Scritta scritta(mappa, vista, misura, davanti);
     for (const std::size_t i : ordine) {
         if (scritta.Piena()) break;
         scritta.Nomina(i);
@@ -299,9 +335,35 @@ void DipingiNomi(QPainter& painter, const std::vector<NomeSullaMappa>& nomi, con
     for (const NomeSullaMappa& nome : nomi) {
         QPainterPath lettere;
         lettere.addText(nome.posto.left(), nome.posto.top() + ascesa, painter.font(), nome.testo);
-        painter.strokePath(lettere, QPen(colori.terra, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.strokePath(lettere, QPen(colori.terra, kOrloNomi, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.fillPath(lettere, colori.testo);
     }
+}
+
+void NomiTenuti::Dipingi(QPainter& painter, const std::vector<NomeSullaMappa>& nomi, const ColoriMappa& colori) {
+    const Aspetto aspetto(painter.font(), colori.testo.rgb(), colori.terra.rgb(),
+                          painter.device()->devicePixelRatioF());
+    if (aspetto_ != aspetto || disegni_.size() > kMassimiDisegni) disegni_.clear();
+    aspetto_ = aspetto;
+    for (const NomeSullaMappa& nome : nomi) {
+        QPixmap& disegno = disegni_[nome.testo];
+        if (disegno.isNull()) disegno = Disegno(nome, colori);
+        painter.drawPixmap(nome.posto.topLeft().toPoint() - QPoint(kOrloNomi, kOrloNomi), disegno);
+    }
+}
+
+// With its rim.
+QPixmap NomiTenuti::Disegno(const NomeSullaMappa& nome, const ColoriMappa& colori) const {
+    const auto& [font, testo, terra, densita] = *aspetto_;
+    const QSizeF grande = nome.posto.size() + QSizeF(2 * kOrloNomi, 2 * kOrloNomi);
+    QPixmap disegno((grande * densita).toSize() + QSize(1, 1));
+    disegno.setDevicePixelRatio(densita);
+    disegno.fill(Qt::transparent);
+    QPainter painter(&disegno);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font);
+    DipingiNomi(painter, {{QRectF(QPointF(kOrloNomi, kOrloNomi), nome.posto.size()), nome.testo, nome.luogo}}, colori);
+    return disegno;
 }
 
 void DipingiMappa(QPainter& painter, const MappaViaggio& mappa, const Sfondo& sfondo, const Inquadratura& vista,

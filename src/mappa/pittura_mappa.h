@@ -3,13 +3,17 @@
 #pragma once
 
 #include <QFont>
+#include <QHash>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QPixmap>
 #include <QPointF>
 #include <QSizeF>
 #include <array>
 #include <functional>
+#include <optional>
+#include <tuple>
 #include <vector>
 
 #include "places/coste.h"
@@ -95,10 +99,24 @@ struct NomeSullaMappa {
 
 /// The names that fit into what is seen without covering each other or the nights: departure and end, nights, stops,
 /// then the others. A night's name begins with the numbers of its days, which stand alone where it has no room.
+/// A name stands within `davanti`, in pixels, or outside it: its edge cuts none.
 std::vector<NomeSullaMappa> NomiChiEntrano(const MappaViaggio& mappa, const Inquadratura& vista,
-                                           const MisuraNomi& misura);
+                                           const MisuraNomi& misura, const QRectF& davanti = {});
 
 /// With a rim in the colour of the land, so that lines below do not disturb.
 void DipingiNomi(QPainter& painter, const std::vector<NomeSullaMappa>& nomi, const ColoriMappa& colori);
+
+/// Does the same on a screen, where each name is a picture that is made once: a rim costs more than the map under it.
+class NomiTenuti {
+  public:
+    void Dipingi(QPainter& painter, const std::vector<NomeSullaMappa>& nomi, const ColoriMappa& colori);
+
+  private:
+    using Aspetto = std::tuple<QFont, QRgb, QRgb, double>;
+    QPixmap Disegno(const NomeSullaMappa& nome, const ColoriMappa& colori) const;
+
+    std::optional<Aspetto> aspetto_;  // that the pictures have
+    QHash<QString, QPixmap> disegni_;
+};
 
 }  // namespace cronovia

@@ -238,7 +238,7 @@ TEST(MappaPiana, LeadsThereAndBackAndKeepsDistances) {
     }
 }
 
-TEST(NomiSullaMappa, DoNotCoverEachOther) {
+TEST(NomiSullaMappa, DoNotCoverEachOtherAndAreNotCut) {
     MappaViaggio mappa;
     for (int i = 0; i < 400; ++i) {
         const Posizione dove{44 + (i % 20) * 0.11, 8 + (i / 20) * 0.13};
@@ -246,9 +246,11 @@ TEST(NomiSullaMappa, DoNotCoverEachOther) {
                                 i % 25 == 0, i / 25});
     }
     const Inquadratura vista = Adattata(*mappa.Riquadro(), {800, 600}, 30);
-    const std::vector<NomeSullaMappa> nomi = NomiChiEntrano(mappa, vista, Misura(QFont()));
+    const QRectF davanti(150, 100, 500, 400);
+    const std::vector<NomeSullaMappa> nomi = NomiChiEntrano(mappa, vista, Misura(QFont()), davanti);
     ASSERT_GT(nomi.size(), 20U);
     for (std::size_t i = 0; i < nomi.size(); ++i) {
+        EXPECT_EQ(nomi[i].posto.intersects(davanti), davanti.contains(nomi[i].posto)) << nomi[i].testo.toStdString();
         for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(nomi[i].posto.intersects(nomi[j].posto));
     }
     EXPECT_EQ(nomi.front().testo, u"1 · LOCALITÀ 0"_s) << "the departure comes first";

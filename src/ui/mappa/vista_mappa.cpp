@@ -126,7 +126,8 @@ void VistaMappa::paintEvent(QPaintEvent* /*event*/) {
         painter.setFont(font());
         const ColoriMappa colori = ColoriDellaFinestra(palette());
         DipingiMappa(painter, mappa_, sfondo_, comeDipinta_, colori);
-        DipingiNomi(painter, NomiChiEntrano(mappa_, comeDipinta_, Misura(font())), colori);
+        const QRectF davanti(comeDipinta_.Pixel(vista_.Punto({0, 0})), vista_.area);
+        nomi_.Dipingi(painter, NomiChiEntrano(mappa_, comeDipinta_, Misura(font()), davanti), colori);
         fresca_ = true;
     }
     QPainter painter(this);
@@ -175,6 +176,7 @@ void VistaMappa::mouseMoveEvent(QMouseEvent* event) {
 
 void VistaMappa::mouseReleaseEvent(QMouseEvent* event) {
     const bool scelta = presa_ && !trascinata_ && event->button() == Qt::LeftButton;
+    if (presa_ && trascinata_) Ridipingi();  // names find their places within what is seen now
     presa_.reset();
     if (!scelta) return;
     if (const LuogoSullaMappa* luogo = LuogoIn(event->position())) Q_EMIT RigaScelta(luogo->riga);

@@ -61,6 +61,7 @@ class VistaMappa : public QWidget {
 
     MappaViaggio mappa_;
     Sfondo sfondo_;
+    NomiTenuti nomi_;
     Inquadratura vista_;
     QPixmap dipinta_;  // larger than the widget, so that it is moved without being drawn anew
     Inquadratura comeDipinta_;
