@@ -141,7 +141,7 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
     testi[Colonna::Tappa] = tappa.localita;
     testi[Colonna::NumeroStrada] = tappa.numStrada;
     testi[Colonna::Km] = tappa.kmDaIndicare ? u"da indicare"_s
-                         : tappa.kmStimati  ? u"circa "_s + Raggruppa(tappa.km)
+                         : tappa.kmStimati  ? u'~' + Raggruppa(tappa.km)
                                             : RaggruppaNonZero(tappa.km);
     testi[Colonna::TipoStrada] = LetteraStrada(tappa);
     if (tappa.km != 0) testi[Colonna::KmProgressivi] = Raggruppa(tempi.kmProgressivi);

@@ -224,6 +224,9 @@ QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
                                 tappa->km == 0 && tappa->sosta.Nulla();
         if (senzaTempo) testi += Testo(cronovia::Suggerimento::TraghettoSenzaTempo);
     }
+    if (const Tappa* tappa = TappaDi(riga); tappa != nullptr && colonna == Colonna::Km && tappa->kmStimati) {
+        if (!testi.front().isEmpty()) testi += u"chilometri stimati dalla linea d'aria"_s;
+    }
     if (cronovia_ && colonna == Colonna::Note) {
         const auto motivo = motivi_.find(*mostrate_.Riga(riga));
         if (motivo != motivi_.end()) testi += motivo->second;
