@@ -10,6 +10,11 @@ namespace cronovia {
 
 QString FilePortatile(const QString& programma) { return QDir(programma).filePath(QStringLiteral("portatile")); }
 
+bool PuoEsserePortatile(const QString& programma) {
+    const bool intero = QFileInfo::exists(QDir(programma).filePath(QStringLiteral("luoghi.dat")));
+    return (intero || QFileInfo::exists(FilePortatile(programma))) && QFileInfo(programma).isWritable();
+}
+
 QString CartellaDati(const LuoghiPossibili& luoghi) {
     if (!luoghi.richiesta.isEmpty()) return luoghi.richiesta;
     return QFileInfo::exists(FilePortatile(luoghi.programma)) ? luoghi.programma : luoghi.utente;

@@ -19,6 +19,9 @@ QString CartellaDati(const LuoghiPossibili& luoghi);
 /// The file that marks the folder of a program so; what it holds is nobody's business.
 QString FilePortatile(const QString& programma);
 
+/// Whether it can be carried along with its data: an installed program cannot, whose parts lie in several folders.
+bool PuoEsserePortatile(const QString& programma);
+
 /// The possible places as this platform has them.
 LuoghiPossibili LuoghiDellaPiattaforma(const QString& richiesta);
 

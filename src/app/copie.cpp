@@ -7,6 +7,7 @@
 #include <iterator>
 #include <map>
 
+#include "app/impostazioni.h"
 #include "calendar/testo.h"
 #include "interaction/failure.h"
 #include "store/archive.h"
@@ -159,7 +160,7 @@ QString RipristinaCopia(const QString& cartella, const QString& copia, const QDa
     if (QFileInfo(archivio).isDir()) throw Failure(u"Al posto dell'archivio c'è una cartella: toglila prima."_s);
     QString diPrima = KeepPresent(cartella, adesso, u"prima di ripristinare"_s);
     ReplaceContents(archivio, copia);
-    ThinCopies(cartella, adesso.date());
+    ThinCopies(cartella, adesso.date(), LeggiImpostazioni(cartella).copie);
     return diPrima;
 }
 

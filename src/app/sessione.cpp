@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/impostazioni.h"
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 #include "guide/guida_citta.h"
@@ -43,10 +44,15 @@ void Sessione::Riapri() {
 }
 
 void Sessione::Prepara() {
-    archive_.KeepDailyCopies(custode_.adesso, custode_.avvisa);
+    TieniCopie(archive_, cartella_);
     if (!archive_.Damage().isEmpty()) return;
     CompletaTipiGuida(archive_);
     CompletaDefaultMeta(archive_);
+}
+
+void Sessione::TieniCopie(Archive& archivio, const QString& cartella) const {
+    archivio.KeepDailyCopies(custode_.adesso, custode_.avvisa,
+                             [cartella] { return LeggiImpostazioni(cartella).copie; });
 }
 
 void Sessione::RifiutaSeDanneggiato() const {
@@ -63,7 +69,7 @@ void Sessione::TrasferisciIn(const QString& cartella) {
     archive_.CopyAsOpenTo(path);
     Archive copia = Archive::Open(cartella);
     incompleta.dismiss();
-    copia.KeepDailyCopies(custode_.adesso, custode_.avvisa);
+    TieniCopie(copia, cartella);
     for (const QString& codice : archive_.Retired()) copia.Retire(codice);
     archive_ = std::move(copia);
     cartella_ = cartella;

@@ -86,6 +86,7 @@ class Sessione {
                                 Progress& progress);
 
     void Prepara();
+    void TieniCopie(Archive& archivio, const QString& cartella) const;
 
     QString cartella_;
     Custode custode_;

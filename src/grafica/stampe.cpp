@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "app/cartella_dati.h"
+#include "app/impostazioni.h"
 #include "cli/opzioni_calcolo.h"
 #include "interaction/failure.h"
 #include "itinerary/posizioni.h"
@@ -22,7 +23,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-PieDiPagina Piede() { return {QDate::currentDate(), QCoreApplication::applicationName()}; }
+PieDiPagina Piede(const Sessione& sessione) {
+    return {QDate::currentDate(), QCoreApplication::applicationName(),
+            LeggiImpostazioni(sessione.Cartella()).carta.misura};
+}
 
 // With its map, when the line asks for it.
 DatiStampa Prepara(Sessione& sessione, const MetaCalcolata& calcolata, const Richiesta& richiesta) {
@@ -48,7 +52,7 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
     const DatiStampa dati = Prepara(sessione, calcolata, richiesta);
-    const Stampato documento = StampaLeScelte(dati, Piede(), {true, false}, progress);
+    const Stampato documento = StampaLeScelte(dati, Piede(sessione), {true, false}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
     file.Completa();
@@ -88,7 +92,7 @@ void StampaLeGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTex
     const MetaCalcolata calcolata = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
     const DatiStampa dati = Prepara(sessione, calcolata, richiesta);
     if (dati.giorni.empty()) throw Failure(u"Niente da stampare: l'itinerario non ha ancora tappe."_s);
-    ScriviFile(StampaLeScelte(dati, Piede(), {false, true}, progress), path, richiesta, sessione, uscita);
+    ScriviFile(StampaLeScelte(dati, Piede(sessione), {false, true}, progress), path, richiesta, sessione, uscita);
     if (!calcolata.esito.messaggio.isEmpty()) uscita << calcolata.esito.messaggio << '\n';
 }
 
@@ -106,7 +110,7 @@ void StampaLaGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     const DatiStampaGuida dati = DatiPerStampa(sessione, richiesta, opzioni);
     if (dati.localita.empty()) throw Failure(NienteDaStampare(opzioni));
     Progress& progress = *richiesta.avanzamento;
-    ScriviFile(StampaGuida(dati, Piede(), progress), path, richiesta, sessione, uscita);
+    ScriviFile(StampaGuida(dati, Piede(sessione), progress), path, richiesta, sessione, uscita);
 }
 
 }  // namespace

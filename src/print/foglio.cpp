@@ -46,7 +46,7 @@ qsizetype Massimo(qsizetype troppo, const Vale& vale) {
 }  // namespace
 
 Foglio::Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro)
-    : documento_{titolo, {}, lavoro, {}}, piede_(std::move(piede)) {}
+    : documento_{titolo, {}, lavoro, {}, piede.carta}, piede_(std::move(piede)) {}
 
 void Foglio::ApriPagina(double rigaStampa) {
     documento_.pagine.emplace_back();

@@ -40,10 +40,11 @@ struct TestoColonna {
     Allineamento allineamento = Allineamento::Sinistra;
 };
 
-/// What stands under each page.
+/// What all pages have: what stands under each, and the sheet.
 struct PieDiPagina {
     QDate oggi;
-    QString destra;  ///< text at the right margin: the window's title
+    QString destra;                    ///< text at the right margin: the window's title
+    QSizeF carta = kFoglioDelModello;  ///< as `Stampato::carta`
 };
 
 /// Writes a document from top to bottom. Lengths are millimetres of the page model. Texts and rules need an open page.

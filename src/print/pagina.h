@@ -4,7 +4,9 @@
 
 #include <QPointF>
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -95,13 +97,22 @@ struct Segnalibro {
     double y = 0;            ///< the upper edge of what it names
 };
 
-/// A printout on A4 sheets, upright. Without pages it is one blank sheet.
+/// The sheet that the pages are laid out for, upright, in millimetres: A4.
+inline constexpr QSizeF kFoglioDelModello{210, 297};
+
+/// A printout on upright sheets. Without pages it is one blank sheet.
 struct Stampato {
     QString titolo;
     std::vector<Pagina> pagine;
     QString lavoro = {};                      ///< what painting it is called while it goes on; the title when empty
     std::vector<Segnalibro> segnalibri = {};  ///< in the order of the pages
+    QSizeF carta = kFoglioDelModello;         ///< the sheet that it is printed on, in millimetres
 };
+
+/// How much smaller the pages are on a sheet that is smaller than the one they are laid out for; 1 on all others.
+inline double Riduzione(const QSizeF& carta) {
+    return std::min({1.0, carta.width() / kFoglioDelModello.width(), carta.height() / kFoglioDelModello.height()});
+}
 
 /// Distance of the model's origin from the left and the upper edge of the sheet: the margin that printers leave.
 inline constexpr double kMargineFoglio = 4;

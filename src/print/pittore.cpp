@@ -50,34 +50,39 @@ QRectF Area(const QRectF& area) {
     return {Unita(area.x()), Unita(area.y()), Unita(area.width()), Unita(area.height())};
 }
 
-// Whole A4 sheets, as far as the device has them. Where it paints then: millimetres from the edges of its sheet.
-QPointF ImpostaFoglio(QPagedPaintDevice& dispositivo) {
+// Whole sheets of that size, as far as the device has them. Where it paints then: millimetres from the edges of its
+// sheet.
+QPointF ImpostaFoglio(QPagedPaintDevice& dispositivo, const QPageSize& carta) {
     QPageLayout voluto = dispositivo.pageLayout();
     voluto.setMode(QPageLayout::FullPageMode);
     dispositivo.setPageLayout(voluto);
-    voluto = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+    voluto = QPageLayout(carta, QPageLayout::Portrait, QMarginsF());
     voluto.setMode(QPageLayout::FullPageMode);
     if (dispositivo.setPageLayout(voluto)) return {};
     constexpr double kTolleranza = 1;
     const QPageLayout avuto = dispositivo.pageLayout();
     const QSizeF foglio = avuto.fullRect(QPageLayout::Millimeter).size() + QSizeF(kTolleranza, kTolleranza);
-    const QSizeF a4 = voluto.fullRect(QPageLayout::Millimeter).size();
-    if (foglio.width() < a4.width() || foglio.height() < a4.height()) {
-        throw Failure(u"La stampa non è riuscita: la stampante non ha fogli A4."_s);
+    const QSizeF intero = voluto.fullRect(QPageLayout::Millimeter).size();
+    if (foglio.width() < intero.width() || foglio.height() < intero.height()) {
+        throw Failure(u"La stampa non è riuscita: la stampante non ha fogli %1."_s.arg(carta.name()));
     }
     return avuto.paintRect(QPageLayout::Millimeter).topLeft();
 }
 
 class Pittore {
   public:
-    explicit Pittore(QPagedPaintDevice& dispositivo) : dispositivo_(dispositivo) {
-        const QPointF inizio = ImpostaFoglio(dispositivo);
+    Pittore(QPagedPaintDevice& dispositivo, const QSizeF& carta) : dispositivo_(dispositivo) {
+        const QPointF inizio = ImpostaFoglio(dispositivo, QPageSize(carta, QPageSize::Millimeter));
         if (!pennello_.begin(&dispositivo)) throw Failure(u"La stampa non è riuscita: la stampante non risponde."_s);
         const double punti = 72.0 * kUnitaPunto;
         pennello_.scale(dispositivo.logicalDpiX() / punti, dispositivo.logicalDpiY() / punti);
         // Elsewhere a text has to come as a text: what a preview records has no glyphs.
         aGlifi_ = pennello_.paintEngine()->type() == QPaintEngine::Pdf;
-        pennello_.translate(Punto(kMargineFoglio - inizio.x(), kMargineFoglio - inizio.y()));
+        const double riduzione = Riduzione(carta);
+        const double accanto = (carta.width() - kFoglioDelModello.width() * riduzione) / 2;
+        pennello_.translate(Punto(accanto - inizio.x(), -inizio.y()));
+        pennello_.scale(riduzione, riduzione);
+        pennello_.translate(Punto(kMargineFoglio, kMargineFoglio));
     }
 
     void NuovoFoglio() {
@@ -228,7 +233,7 @@ class Pittore {
 }  // namespace
 
 void Dipingi(const Stampato& documento, QPagedPaintDevice& dispositivo, Progress& progress) {
-    Pittore pittore(dispositivo);
+    Pittore pittore(dispositivo, documento.carta);
     const QString& lavoro = documento.lavoro.isEmpty() ? documento.titolo : documento.lavoro;
     int numero = 0;
     for (const Pagina& pagina : documento.pagine) {

@@ -10,7 +10,7 @@
 namespace cronovia {
 
 /// Paints all pages, each on a sheet of its own, and tells which one. A `Failure` when the device cannot be painted on,
-/// has no sheets as large as A4, or refuses a page.
+/// has no sheets as large as the document's, or refuses a page.
 void Dipingi(const Stampato& documento, QPagedPaintDevice& dispositivo, Progress& progress);
 
 }  // namespace cronovia

@@ -91,7 +91,7 @@ QByteArray SegnalibriInCoda(const QByteArray& pdf, const Stampato& documento) {
     const auto struttura = Leggi(pdf);
     if (!struttura || struttura->pagine.size() != documento.pagine.size()) return {};
     constexpr double kPunti = 72 / 25.4;
-    constexpr double kAltezzaFoglio = 297;
+    const double riduzione = Riduzione(documento.carta);
     const int primo = struttura->oggetti + 1;
     const int ultimo = primo + static_cast<int>(segnalibri.size()) - 1;
     const QByteArray quanti = QByteArray::number(segnalibri.size());
@@ -102,7 +102,7 @@ QByteArray SegnalibriInCoda(const QByteArray& pdf, const Stampato& documento) {
     coda.Oggetto(primo - 1, "/Type /Outlines /First " + Riferimento(primo) + " /Last " + Riferimento(ultimo) +
                                 " /Count " + quanti);
     for (int numero = primo; const Segnalibro& segnalibro : segnalibri) {
-        const double y = (kAltezzaFoglio - kMargineFoglio - segnalibro.y) * kPunti;
+        const double y = (documento.carta.height() - (kMargineFoglio + segnalibro.y) * riduzione) * kPunti;
         QByteArray voce = "/Title " + InEsadecimale(segnalibro.titolo) + " /Parent " + Riferimento(primo - 1) +
                           " /Dest [" + Riferimento(struttura->pagine[segnalibro.pagina]) + " /XYZ 0 " +
                           QByteArray::number(y, 'f', 1) + " null]";

@@ -80,9 +80,10 @@ class Archive {
     /// those who hand on much of what they read.
     void ConfirmSound();
 
-    /// From now on a copy is kept before the first write of each day, by that clock. A write does not fail for want of
-    /// a copy: `tell` gets a sentence then.
-    void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell);
+    /// From now on a copy is kept before the first write of each day, by that clock, and so many of the newest stay. A
+    /// write does not fail for want of a copy: `tell` gets a sentence then.
+    void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell,
+                         std::function<int()> newest);
     /// Keeps a copy before something that takes or changes much: `reason` is "prima di importare" or the like. A
     /// `Failure` when that cannot be done. Nothing happens when no daily copies are kept either, when there is nothing
     /// worth it, or when nothing was written since the last one.

@@ -125,8 +125,9 @@ void Archive::CopyAsOpenTo(const QString& path) const {
     });
 }
 
-void Archive::KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell) {
-    connection_->KeepDailyCopies(std::move(now), std::move(tell));
+void Archive::KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell,
+                              std::function<int()> newest) {
+    connection_->KeepDailyCopies(std::move(now), std::move(tell), std::move(newest));
 }
 
 void Archive::KeepCopy(const QString& reason) { connection_->KeepCopy(reason); }

@@ -80,7 +80,8 @@ class Archive::Connection {
 
     /// What `Archive` promises by the same names.
     Mark PresentMark();
-    void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell);
+    void KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell,
+                         std::function<int()> newest);
     void KeepCopy(const QString& reason);
 
     /// The two ends of a read snapshot, the outermost one.
@@ -98,6 +99,7 @@ class Archive::Connection {
     struct Keeping {
         std::function<QDateTime()> now;
         std::function<void(const QString&)> tell;
+        std::function<int()> newest;
         QDate day;                 // for which there is a copy, or was none to be had
         std::optional<Mark> mark;  // of the archive at the last copy
     };

@@ -30,8 +30,9 @@ QString NotLaid(const QString& reason) {
 
 }  // namespace
 
-void Archive::Connection::KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell) {
-    keeping_ = Keeping{std::move(now), std::move(tell), {}, {}};
+void Archive::Connection::KeepDailyCopies(std::function<QDateTime()> now, std::function<void(const QString&)> tell,
+                                          std::function<int()> newest) {
+    keeping_ = Keeping{std::move(now), std::move(tell), std::move(newest), {}, {}};
 }
 
 // A damaged archive is none to be kept, and it is found out here when it is too large to be checked at its opening.
@@ -46,7 +47,9 @@ void Archive::Connection::LayCopyNow(const QString& reason) {
             keeping_->day = {};
             return;
         }
-        cronovia::KeepCopy(source, QFileInfo(path_).path(), now, reason);
+        const QString folder = QFileInfo(path_).path();
+        LayAmongCopies(source, folder, now, reason);
+        ThinCopies(folder, now.date(), keeping_->newest());
     } catch (const SQLite::Exception& error) {
         if ((error.getErrorCode() & 0xFF) != SQLITE_CORRUPT) throw;
         MarkDamaged();

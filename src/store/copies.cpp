@@ -27,7 +27,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t kNewest = 10;
 constexpr int kMonths = 12;
 constexpr qint64 kAbandonedAfterSeconds = 3600;
 const auto kStamp = u"yyyy-MM-dd HH.mm.ss"_s;
@@ -143,17 +142,6 @@ void RemoveAbandoned(const QDir& folder) {
     }
 }
 
-QString LayAmongCopies(SQLite::Database& source, const QString& folder, const QDateTime& now, const QString& reason) {
-    const QDir copies(CopiesFolder(folder));
-    if (!copies.mkpath(u"."_s)) Unwritable();
-    RemoveAbandoned(copies);
-    return LayCopy(source, [&](int number) {
-        const QString again = number == 1 ? QString() : u" %1"_s.arg(number);
-        const QString why = reason.isEmpty() ? QString() : u" (%1)"_s.arg(reason);
-        return copies.filePath(u"VandroCronovia %1%2%3.mdb"_s.arg(now.toString(kStamp), again, why));
-    });
-}
-
 }  // namespace
 
 QString LayCopy(SQLite::Database& source, const std::function<QString(int)>& name) {
@@ -178,24 +166,29 @@ std::vector<ArchiveCopy> CopiesOf(const QString& folder) {
     return copies;
 }
 
-QString KeepCopy(SQLite::Database& source, const QString& folder, const QDateTime& now, const QString& reason) {
-    QString laid = LayAmongCopies(source, folder, now, reason);
-    ThinCopies(folder, now.date());
-    return laid;
+QString LayAmongCopies(SQLite::Database& source, const QString& folder, const QDateTime& now, const QString& reason) {
+    const QDir copies(CopiesFolder(folder));
+    if (!copies.mkpath(u"."_s)) Unwritable();
+    RemoveAbandoned(copies);
+    return LayCopy(source, [&](int number) {
+        const QString again = number == 1 ? QString() : u" %1"_s.arg(number);
+        const QString why = reason.isEmpty() ? QString() : u" (%1)"_s.arg(reason);
+        return copies.filePath(u"VandroCronovia %1%2%3.mdb"_s.arg(now.toString(kStamp), again, why));
+    });
 }
 
-void ThinCopies(const QString& folder, const QDate& today) {
-    for (const ArchiveCopy& old : CopiesToRemove(CopiesOf(folder), today)) QFile::remove(old.path);
+void ThinCopies(const QString& folder, const QDate& today, int newest) {
+    for (const ArchiveCopy& old : CopiesToRemove(CopiesOf(folder), today, newest)) QFile::remove(old.path);
 }
 
-std::vector<ArchiveCopy> CopiesToRemove(const std::vector<ArchiveCopy>& copies, const QDate& today) {
+std::vector<ArchiveCopy> CopiesToRemove(const std::vector<ArchiveCopy>& copies, const QDate& today, int newest) {
     std::vector<ArchiveCopy> superfluous;
     QSet<int> months;
     for (std::size_t i = 0; i < copies.size(); ++i) {
         const int month = MonthOf(copies[i].when.date());
         const bool first = !months.contains(month) && month > MonthOf(today) - kMonths;
         months.insert(month);
-        if (i >= kNewest && !first) superfluous.push_back(copies[i]);
+        if (i >= static_cast<std::size_t>(newest) && !first) superfluous.push_back(copies[i]);
     }
     return superfluous;
 }

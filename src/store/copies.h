@@ -35,13 +35,15 @@ QString CopiesFolder(const QString& folder);
 /// The copies of a data folder, the newest one first.
 std::vector<ArchiveCopy> CopiesOf(const QString& folder);
 
-/// Lays a copy in the folder of the copies, which is made when it does not exist, and removes those that need not stay.
-/// Throws as `LayCopy` does.
-QString KeepCopy(SQLite::Database& source, const QString& folder, const QDateTime& now, const QString& reason);
+/// How many of the newest copies stay when nobody wants another number.
+inline constexpr int kNewestCopies = 10;
 
-/// Those that need not stay: all but the newest ten, and the newest one of each of the last twelve months. `copies` has
-/// the newest one first.
-std::vector<ArchiveCopy> CopiesToRemove(const std::vector<ArchiveCopy>& copies, const QDate& today);
+/// Lays a copy in the folder of the copies, which is made when it does not exist. Throws as `LayCopy` does.
+QString LayAmongCopies(SQLite::Database& source, const QString& folder, const QDateTime& now, const QString& reason);
+
+/// Those that need not stay: all but so many of the newest, and the newest one of each of the last twelve months.
+/// `copies` has the newest one first.
+std::vector<ArchiveCopy> CopiesToRemove(const std::vector<ArchiveCopy>& copies, const QDate& today, int newest);
 
 /// How many rows the tables of an archive file have, in their order; nothing for a table that is not there. A `Failure`
 /// when the file cannot be read.
@@ -55,7 +57,7 @@ QString KeepPresent(const QString& folder, const QDateTime& now, const QString& 
 QString LayAside(const QString& path, const QDateTime& now);
 
 /// Removes the copies that need not stay.
-void ThinCopies(const QString& folder, const QDate& today);
+void ThinCopies(const QString& folder, const QDate& today, int newest);
 
 /// A `Failure` when the file is no archive that can be relied on.
 void RefuseBadCopy(const QString& path);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/aspetto_finestra.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QScreen>
 #include <utility>
+
+#include "app/impostazioni.h"
 
 namespace cronovia {
 
@@ -19,12 +19,6 @@ constexpr int kVersioneAspetto = 1;
 // As wide as the frames of the desktops are at most.
 constexpr QMargins kCornice(8, 40, 8, 8);
 
-// What is no file is neither waited for nor replaced: nothing is remembered then.
-QString FileDellAspetto(const QString& cartella) {
-    const QFileInfo file(QDir(cartella).filePath(u"Cronovia.ini"_s));
-    return !file.exists() || file.isFile() ? file.filePath() : file.filePath() + u"/niente"_s;
-}
-
 // The frame that the desktop puts around it has its place within the screen too.
 void PrimaMisura(QWidget& finestra) {
     const QRect schermo = finestra.screen()->availableGeometry().marginsRemoved(kCornice);
@@ -35,7 +29,7 @@ void PrimaMisura(QWidget& finestra) {
 }  // namespace
 
 AspettoFinestra::AspettoFinestra(const QString& cartella)
-    : impostazioni_(FileDellAspetto(cartella), QSettings::IniFormat) {}
+    : impostazioni_(FileImpostazioni(cartella), QSettings::IniFormat) {}
 
 void AspettoFinestra::Segue(QMainWindow& finestra) {
     Segue(

@@ -2,8 +2,6 @@
 #include "ui/avvio.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -22,6 +20,7 @@
 #include "ui/archivio/frm_copie.h"
 #include "ui/comuni/finestra_unica.h"
 #include "ui/comuni/interazione_finestra.h"
+#include "ui/comuni/lettura.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/form_mete.h"
 

@@ -17,7 +17,8 @@ class RimediTest : public testing::Test {
   protected:
     void SetUp() override {
         Archive archive = Archive::Open(cartella_.Path());
-        archive.KeepDailyCopies([] { return QDateTime::currentDateTime(); }, [](const QString&) {});
+        archive.KeepDailyCopies([] { return QDateTime::currentDateTime(); }, [](const QString&) {},
+                                [] { return kNewestCopies; });
         prova::NellaGuida(archive, u"ALBA"_s);
         archive.KeepCopy(u"prima di importare"_s);
         sano_ = prova::LeggiFile(cartella_.Archivio());

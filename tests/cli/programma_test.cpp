@@ -97,6 +97,25 @@ TEST(Programma, APrintoutWithoutRoomLeavesTheOldTable) {
     EXPECT_EQ(programma.Cartella().Contenuto(), (QStringList{u"Copie"_s, u"VandroCronovia.mdb"_s, u"Vandtabl.txt"_s}));
 }
 
+// What was chosen in the window's preferences: the sheet, and how many copies stay.
+TEST(Programma, GoesByThePreferencesOfItsFolder) {
+    const Programma programma;
+    programma.ImportaEsempio(u"provenza"_s);
+    const QString cartella = programma.Cartella().Path();
+    prova::ScriviFile(cartella + u"/Cronovia.ini"_s, "[General]\ncarta=Letter\ncopie=3\n");
+    const QString pdf = cartella + u"/lettera.pdf"_s;
+    EXPECT_NE(programma.Uscita({u"stampa"_s, u"3"_s, u"--pdf"_s, pdf}), QString());
+    EXPECT_TRUE(prova::LeggiFile(pdf).contains("/MediaBox [0 0 612.000000 792.000000]"));
+    const QDir copie(cartella + u"/Copie"_s);
+    copie.mkpath(u"."_s);
+    const auto vecchia = [](int giorno) { return u"VandroCronovia 2001-01-0%1 10.00.00.mdb"_s.arg(giorno); };
+    for (int giorno = 1; giorno <= 6; ++giorno) prova::ScriviFile(copie.filePath(vecchia(giorno)), "vecchia");
+    programma.ImportaEsempio(u"sicilia"_s);
+    const QStringList restano = copie.entryList(QDir::Files, QDir::Name);
+    EXPECT_EQ(restano.size(), 3) << restano.join(u'\n').toStdString();
+    EXPECT_EQ(restano.mid(0, 2), (QStringList{vecchia(5), vecchia(6)}));
+}
+
 // Beginnings that are wildcards, and an apostrophe near the beginning: none is found by what stands before them.
 TEST(Programma, ManyNamesThatNoIndexOfTheTableFindsTakeSeconds) {
     const Programma programma;

@@ -170,6 +170,14 @@ TEST_F(FilePdf, OnASheetWithMarginsTextsAreWhereTheyBelong) {
     ASSERT_FALSE(parole.empty());
     EXPECT_NEAR(parole[0].x, primo.x, 0.4);
     EXPECT_NEAR(parole[0].base, primo.base + 1, 1);
+    // On a sheet that is shorter all of it is there, smaller.
+    Stampato lettera = documento;
+    lettera.carta = {215.9, 279.4};
+    Scrivi(lettera);
+    const std::vector<Parola> ridotte = Parole(path_);
+    ASSERT_EQ(ridotte.size(), parole.size());
+    for (const Parola& parola : ridotte) EXPECT_TRUE(parola.base < 279 && parola.x > 0) << parola.testo.toStdString();
+    EXPECT_NEAR((ridotte[0].base + kMargineFoglio) / (parole[0].base + kMargineFoglio), 279.4 / 297, 0.01);
     Ostinata corta(path_, QPageSize::Letter);
     EXPECT_EQ(prova::MessaggioDi([&] { Dipingi(documento, corta, titoli_); }),
               u"La stampa non è riuscita: la stampante non ha fogli A4."_s);

@@ -7,6 +7,8 @@
 #include <QTextBrowser>
 
 #include "app/comandi_aiuto.h"
+#include "print/pagina.h"
+#include "store/copies.h"
 #include "support/prova.h"
 #include "ui/aiuto/finestra_manuale.h"
 #include "ui/aiuto/preferenze.h"
@@ -45,14 +47,20 @@ TEST(Manuale, HasAChapterForEachScreenAndAllItsPictures) {
 TEST(Preferenze, AreKeptAndReadWithinLimits) {
     const QTemporaryDir cartella;
     QSettings aspetto(cartella.filePath(u"Cronovia.ini"_s), QSettings::IniFormat);
-    RicordaPreferenze({true, 150, Colori::Scuri}, aspetto);
+    RicordaPreferenze({true, 150, Colori::Scuri, {25, CarteOfferte().at(1)}}, aspetto);
     Preferenze lette = LeggiPreferenze(aspetto);
-    EXPECT_TRUE(lette.dalVivo && lette.testo == 150 && lette.colori == Colori::Scuri);
+    EXPECT_TRUE(lette.dalVivo && lette.testo == 150 && lette.colori == Colori::Scuri && lette.comuni.copie == 25);
+    EXPECT_EQ(lette.comuni.carta.misura, QSizeF(215.9, 279.4));
     aspetto.setValue(u"testo"_s, 9999);
     aspetto.setValue(u"colori"_s, -3);
+    aspetto.setValue(u"copie"_s, 0);
+    aspetto.setValue(u"carta"_s, u"A0"_s);
     lette = LeggiPreferenze(aspetto);
     EXPECT_EQ(lette.testo, 200);
     EXPECT_EQ(lette.colori, Colori::ComeIlSistema);
+    EXPECT_EQ(lette.comuni.copie, kMinimoCopie);
+    EXPECT_EQ(lette.comuni.carta.misura, kFoglioDelModello);
+    EXPECT_EQ(LeggiImpostazioni(cartella.filePath(u"altrove"_s)).copie, kNewestCopies);
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QString>
 
+#include "app/impostazioni.h"
+
 class QWidget;
 
 namespace cronovia {
@@ -15,6 +17,7 @@ struct Preferenze {
     bool dalVivo = false;  ///< the schedule is computed anew after each change
     int testo = 100;       ///< size of all texts, in per cent of the desktop's; from the next start on
     Colori colori = Colori::ComeIlSistema;
+    Impostazioni comuni = {};  ///< with the command line
 };
 
 /// What is kept, within the limits of what can be chosen.

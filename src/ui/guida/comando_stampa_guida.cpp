@@ -53,8 +53,7 @@ std::optional<Stampato> ComandoStampaGuida::Prepara() {
             PreparaStampaGuida(tavolo.Archivio(), tavolo.CodiceMeta(), ambiente_.postazione.documento.Campi().localita,
                                opzioni_->Opzioni());
         if (dati.localita.empty()) throw Failure(NienteDaStampare(dati.opzioni));
-        documento = StampaGuida(dati, {ambiente_.postazione.volti.adesso().date(), QCoreApplication::applicationName()},
-                                ambiente_.avanzamento);
+        documento = StampaGuida(dati, PiedeDiOggi(ambiente_.postazione), ambiente_.avanzamento);
     });
     return documento;
 }

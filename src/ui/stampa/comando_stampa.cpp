@@ -8,6 +8,7 @@
 
 #include "app/cartella_dati.h"
 #include "app/comandi_cronovia.h"
+#include "app/impostazioni.h"
 #include "print/moduli.h"
 #include "print/stampa_tutto.h"
 #include "print/tabella_testo.h"
@@ -55,6 +56,11 @@ std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, cons
     };
 }
 
+PieDiPagina PiedeDiOggi(const Postazione& postazione) {
+    return {postazione.volti.adesso().date(), QCoreApplication::applicationName(),
+            LeggiImpostazioni(postazione.sessione.Cartella()).carta.misura};
+}
+
 ComandoStampa::ComandoStampa(Ambiente ambiente, Azioni& azioni, FrmSelStampa& stampante, QGridLayout& area)
     : QObject(&ambiente.finestra),
       ambiente_(std::move(ambiente)),
@@ -95,8 +101,8 @@ bool ComandoStampa::Tasto(const QKeyEvent& tasto) {
 }
 
 void ComandoStampa::MostraAnteprima() {
-    const Stampato documento =
-        StampaLeScelte(Dati(), Piede(), {opzioni_->Tabella(), opzioni_->Giornate()}, ambiente_.avanzamento);
+    const Stampato documento = StampaLeScelte(Dati(), PiedeDiOggi(ambiente_.postazione),
+                                              {opzioni_->Tabella(), opzioni_->Giornate()}, ambiente_.avanzamento);
     cronovia::MostraAnteprima(documento, ambiente_.finestra, ambiente_.interazione);
 }
 
@@ -112,7 +118,7 @@ void ComandoStampa::EseguiStampa(const std::function<void(const Stampato&)>& sta
     const DatiStampa dati = Dati();
     comandi::StampaInCorso(ambiente_.postazione);
     StampaTutto({dati,
-                 Piede(),
+                 PiedeDiOggi(ambiente_.postazione),
                  ambiente_.postazione.sessione.Cartella(),
                  {opzioni_->Tabella(), opzioni_->Giornate()},
                  opzioni_->Moduli(),
@@ -148,10 +154,6 @@ DatiStampa ComandoStampa::Dati() const {
     dati.mappa =
         PreparaMappa(dati, cronovia, documento.Righe(), posizioni, LeggiCoste(FileDelProgramma(u"coste.dat"_s)));
     return dati;
-}
-
-PieDiPagina ComandoStampa::Piede() const {
-    return {ambiente_.postazione.volti.adesso().date(), QCoreApplication::applicationName()};
 }
 
 }  // namespace cronovia

@@ -30,6 +30,9 @@ struct Ambiente {
 std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, const QString& stampante, bool suFile,
                                                   const QString& titolo);
 
+/// Of today, on the sheet that the person prepared for.
+PieDiPagina PiedeDiOggi(const Postazione& postazione);
+
 class ComandoStampa : public QObject, public Schermo {
     Q_OBJECT
 
@@ -53,7 +56,6 @@ class ComandoStampa : public QObject, public Schermo {
     void EseguiStampa(const std::function<void(const Stampato&)>& stampa);
     void AvviaModuli(const DatiStampa& dati);
     [[nodiscard]] DatiStampa Dati() const;
-    [[nodiscard]] PieDiPagina Piede() const;
 
     Ambiente ambiente_;
     Azioni& azioni_;
