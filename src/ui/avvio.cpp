@@ -56,11 +56,9 @@ std::unique_ptr<FormMete> Apri(const QString& dati) {
     }
 }
 
-// As the person chose them when the window was open last; what is no file is not read.
+// As the person chose them when the window was open last.
 void ApplicaPreferenze(const QString& dati) {
-    const QString file = QDir(dati).filePath(u"Cronovia.ini"_s);
-    if (!QFileInfo(file).isFile()) return;
-    const QSettings aspetto(file, QSettings::IniFormat);
+    const QSettings aspetto(FileImpostazioni(dati), QSettings::IniFormat);
     const Preferenze preferenze = LeggiPreferenze(aspetto);
     ApplicaTesto(preferenze);
     if (preferenze.colori != Colori::ComeIlSistema) ApplicaColori(preferenze);
@@ -81,6 +79,7 @@ int ApriFinestra(int argc, char* argv[], const QString& cartella, const QString&
     if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&italiano);
     }
+    DiceSoloIlFuocoVero();
     try {
         const QString dati = CartellaDati(LuoghiDellaPiattaforma(cartella));
         FinestraUnica unica;

@@ -9,6 +9,7 @@
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QTableView>
+#include <algorithm>
 
 #include "calendar/testo.h"
 #include "ui/comuni/colori.h"
@@ -53,6 +54,28 @@ class SenzaRotella : public QObject {
         if (evento->type() != QEvent::Wheel || qobject_cast<QWidget*>(oggetto)->hasFocus()) return false;
         evento->ignore();
         return true;
+    }
+};
+
+// What reads the screen out takes what is chosen in a list for its name, and what it is for from a label: one that is
+// not seen where there is none.
+class EtichettaLetta : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() == QEvent::Show) Completa(*qobject_cast<QWidget*>(oggetto));
+        return false;
+    }
+
+  private:
+    static void Completa(QWidget& controllo) {
+        const auto vicine = controllo.parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
+        const auto sua = [&](const QLabel* etichetta) { return etichetta->buddy() == &controllo; };
+        if (std::any_of(vicine.begin(), vicine.end(), sua)) return;
+        QLabel* etichetta = NuovaEtichetta(controllo.accessibleName(), controllo);
+        etichetta->setParent(controllo.parentWidget());
+        etichetta->hide();
     }
 };
 
@@ -124,6 +147,7 @@ QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QStri
     elenco->addItems(voci);
     elenco->setFocusPolicy(Qt::StrongFocus);
     elenco->installEventFilter(new SenzaRotella(elenco));
+    elenco->installEventFilter(new EtichettaLetta(elenco));
     elenco->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     elenco->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     // In a small window it gives up the air around its text.
@@ -137,6 +161,7 @@ void LasciaScrivereCifre(QComboBox& elenco, int cifre) {
     elenco.setInsertPolicy(QComboBox::NoInsert);
     elenco.setValidator(new QRegularExpressionValidator(QRegularExpression(u"\\d{0,%1}"_s.arg(cifre)), &elenco));
     elenco.lineEdit()->installEventFilter(new RifiutaTasti(&elenco));
+    elenco.lineEdit()->setAccessibleName(elenco.accessibleName());
 }
 
 void MostraVoce(QComboBox& elenco, const QString& testo) {

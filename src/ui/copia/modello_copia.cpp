@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "calendar/testo.h"
+#include "ui/comuni/lettura.h"
 
 namespace cronovia {
 
@@ -59,6 +60,7 @@ QVariant ModelloCopia::data(const QModelIndex& index, int role) const {
     const auto colonna = static_cast<std::size_t>(index.column());
     if (role == Qt::DisplayRole) return Visibile(righe_[static_cast<std::size_t>(index.row())].at(index.column()));
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(allineamenti_[colonna]);
+    if (role == Qt::AccessibleTextRole && colonna == 0) return RigaLetta(index, index.data().toString());
     return {};
 }
 

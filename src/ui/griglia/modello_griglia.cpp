@@ -13,6 +13,7 @@
 #include "schedule/testi_giornata.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
+#include "ui/comuni/lettura.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/griglia/icone_righe.h"
 
@@ -295,7 +296,8 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
         case Qt::DecorationRole:
             return colonna == Colonna::Numero ? QVariant(IconaDellaRiga(SegnoDellaRiga(index.row()))) : QVariant();
         case Qt::AccessibleTextRole:
-            return TestoParlato(index.row(), colonna);
+            return colonna == Colonna::Numero ? RigaLetta(index, TestoParlato(index.row(), colonna))
+                                              : TestoParlato(index.row(), colonna);
         case kRuoloCambio:
             return Cambio(index.row()) == nullptr ? QString() : Testo(*Cambio(index.row()));
         case kRuoloCambioDentro:

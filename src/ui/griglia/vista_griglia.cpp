@@ -92,7 +92,7 @@ void VistaGriglia::SelezionaRiga(int riga) {
 void VistaGriglia::SelezionaRighe(int prima, int ultima, int corrente) {
     if (prima == ultima || model() == nullptr || ultima >= model()->rowCount()) return SelezionaRiga(corrente);
     inSelezione_ = true;
-    const QModelIndex index = model()->index(corrente, 1);
+    const QModelIndex index = model()->index(corrente, 0);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     selectionModel()->select({model()->index(prima, 0), model()->index(ultima, model()->columnCount() - 1)},
                              QItemSelectionModel::ClearAndSelect);
@@ -211,7 +211,7 @@ void VistaGriglia::keyPressEvent(QKeyEvent* event) {
             break;
     }
     if (std::abs(passo) == kTutteLeRighe && !diTappe_ && model() != nullptr) {
-        setCurrentIndex(model()->index(passo < 0 ? 0 : model()->rowCount() - 1, 1));
+        setCurrentIndex(model()->index(passo < 0 ? 0 : model()->rowCount() - 1, 0));
         return;
     }
     if (passo == 0 || !diTappe_) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "calendar/testo.h"
+#include "ui/comuni/lettura.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/griglia/icone_righe.h"
 #include "ui/griglia/modello_griglia.h"
@@ -40,7 +41,9 @@ int ModelloGuida::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ModelloGuida::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || !elenco_ || static_cast<std::size_t>(index.row()) >= elenco_->size()) return {};
+    if (!index.isValid() || !elenco_) return {};
+    if (role == Qt::AccessibleTextRole && index.column() == 0) return RigaLetta(index, index.data().toString());
+    if (static_cast<std::size_t>(index.row()) >= elenco_->size()) return {};
     const RigaGuida& riga = (*elenco_)[static_cast<std::size_t>(index.row())];
     switch (role) {
         case Qt::DisplayRole:
