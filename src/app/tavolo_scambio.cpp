@@ -52,7 +52,7 @@ QString TavoloScambio::Etichetta(int lista) const {
 
 QString TavoloScambio::ScrittaTutto(int lista) const {
     const QString quante = QString::number(Mete(lista).size());
-    return lista == 0 ? u"[%1] Tutti --->"_s.arg(quante) : u"<--- Tutti [%1]"_s.arg(quante);
+    return lista == 0 ? u"[%1] Tutte a destra --->"_s.arg(quante) : u"<--- Tutte a sinistra [%1]"_s.arg(quante);
 }
 
 QString TavoloScambio::ScrittaImExp() const { return modo_ == ModoScambio::Export ? u"Esporta"_s : u"Importa"_s; }

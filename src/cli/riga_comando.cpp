@@ -2,6 +2,7 @@
 #include "cli/riga_comando.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QScopeGuard>
 #include <algorithm>
 #include <utility>
@@ -160,6 +161,10 @@ Comando Leggi(const QStringList& riga) {
     const QString cartella = LeggiCartella(parser);
     if (resto.isEmpty()) throw WrongUsage(u"Manca il verbo."_s);
     const Verbo* verbo = TrovaVerbo(resto.first());
+    if (verbo == nullptr && QFileInfo(resto.first()).isFile()) {
+        throw WrongUsage(u"Il file «%1» non è un file di viaggi: la finestra apre quelli che finiscono in .iei."_s.arg(
+            resto.first()));
+    }
     if (verbo == nullptr) throw WrongUsage(u"Il verbo «%1» non esiste."_s.arg(resto.first()));
     if (parser.isSet(u"help"_s)) resto += u"--help"_s;
     if (parser.isSet(u"formato"_s)) resto.insert(1, u"--formato="_s + parser.value(u"formato"_s));

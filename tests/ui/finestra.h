@@ -19,6 +19,7 @@
 
 #include "support/prova.h"
 #include "ui/form_mete.h"
+#include "ui/nomi_letti.h"
 #include "ui/testi_mostrati.h"
 
 namespace cronovia::prova {
@@ -140,6 +141,7 @@ class FinestraTest : public testing::Test {
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialogo == nullptr || !dialogo->isVisible() || dialogo->property("servito").toBool()) return;
         dialogo->setProperty("servito", true);
+        if (!dialogo->inherits("QFileDialog") && !dialogo->inherits("QPrintPreviewDialog")) SorvegliaNomi(*dialogo);
         auto* box = qobject_cast<QMessageBox*>(dialogo);
         const bool scelta = qobject_cast<QFileDialog*>(dialogo) != nullptr;
         const auto che = box != nullptr ? Attesa::Che::Box : scelta ? Attesa::Che::File : Attesa::Che::Altro;

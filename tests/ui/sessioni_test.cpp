@@ -163,6 +163,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         if (form_ == nullptr) return;
         SorvegliaLettere();
         prova::TestiMostrati::Sorveglia(*form_);
+        prova::SorvegliaNomi(*form_);
         for (const auto* tabella : form_->findChildren<QAbstractItemView*>()) {
             QAbstractItemModel* modello = tabella->model();
             if (!tabella->inherits("QTableView") && !tabella->inherits("cronovia::VistaGiornate")) continue;

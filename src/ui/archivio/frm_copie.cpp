@@ -28,6 +28,7 @@ QTableWidget* TabellaCopie(const std::vector<CopiaInElenco>& copie) {
     const QStringList intestazioni = {u"Data"_s, u"Mète"_s, u"Tappe"_s, u"Dimensione"_s, u"Fatta"_s};
     auto* tabella = new QTableWidget(static_cast<int>(copie.size()), static_cast<int>(intestazioni.size()));
     tabella->setObjectName(u"grdCopie"_s);
+    tabella->setAccessibleName(u"Copie dell'archivio"_s);
     tabella->setHorizontalHeaderLabels(intestazioni);
     tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
     tabella->setSelectionMode(QAbstractItemView::SingleSelection);

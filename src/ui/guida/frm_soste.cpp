@@ -29,6 +29,7 @@ QTableWidget* TabellaSoste(const std::vector<SostaProposta>& soste) {
     const QStringList intestazioni = {u"Località"_s, u"Descrizione"_s, u"Tipo"_s, u"Esito"_s};
     auto* tabella = new QTableWidget(static_cast<int>(soste.size()), static_cast<int>(intestazioni.size()));
     tabella->setObjectName(u"grdSoste"_s);
+    tabella->setAccessibleName(u"Soste trovate nel file"_s);
     tabella->setHorizontalHeaderLabels(intestazioni);
     tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
     tabella->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -18,10 +18,11 @@ CampoModulo Ora(int campo, const QString& nome, const QString& scritta, const QS
     return {campo, nome, scritta, 12, kCifreOra, istruzione, u"hh:mm"_s};
 }
 
-CampoModulo Data(int campo, const QString& nome) {
-    return {
-        campo,          nome, u"il"_s, 10, kCifreData, u"Giorno, se non è quello in cui ci si arriva (facoltativo)"_s,
-        u"gg/mm/aaaa"_s};
+CampoModulo Data(int campo, const QString& nome, const QString& quale) {
+    return {campo,          nome,
+            u"il"_s,        10,
+            kCifreData,     u"Giorno %1, se non è quello in cui ci si arriva (facoltativo)"_s.arg(quale),
+            u"gg/mm/aaaa"_s};
 }
 
 CampoModulo Euro(int campo, const QString& nome, const QString& scritta, const QString& istruzione) {
@@ -37,16 +38,16 @@ std::vector<GruppoModulo> Gruppi() {
     return {
         {u"Traghetto per arrivarci"_s,
          {{Ora(TraghettoOra, u"txtTraghettoOra"_s, u"Parte alle"_s, u"Ora in cui parte il traghetto"_s),
-           Data(TraghettoData, u"txtTraghettoData"_s)},
+           Data(TraghettoData, u"txtTraghettoData"_s, u"in cui parte il traghetto"_s)},
           {Ora(Navigazione, u"txtNavigazione"_s, u"Naviga per"_s,
                u"Durata della navigazione, fino a 9 giorni: 8:30, o 1:08:30 con i giorni"_s),
            Ora(Imbarco, u"txtImbarco"_s, u"presentarsi prima di"_s,
                u"Quanto prima della partenza bisogna essere al porto"_s)}}},
         {u"Ora di arrivo"_s,
          {{Ora(NonPrimaOra, u"txtNonPrimaOra"_s, u"Non prima delle"_s, u"Ora prima della quale si aspetta"_s),
-           Data(NonPrimaData, u"txtNonPrimaData"_s)},
+           Data(NonPrimaData, u"txtNonPrimaData"_s, u"prima del quale si aspetta"_s)},
           {Ora(NonDopoOra, u"txtNonDopoOra"_s, u"Non dopo le"_s, u"Ora entro cui bisogna arrivare"_s),
-           Data(NonDopoData, u"txtNonDopoData"_s)}}},
+           Data(NonDopoData, u"txtNonDopoData"_s, u"entro cui bisogna arrivare"_s)}}},
         {u"Orario delle visite, se diverso da quello del viaggio"_s,
          {{Ora(VisiteDa, u"txtVisiteDa"_s, u"Dalle"_s, u"Ora di apertura"_s),
            Ora(VisiteA, u"txtVisiteA"_s, u"alle"_s, u"Ora di chiusura"_s)}}},

@@ -65,7 +65,7 @@ QWidget* FrmExport::CreaPulsanti(Azioni& azioni) {
     layout->addStretch();
     for (const Comando comando : {Comando::ScambiaTutteDaPrima, Comando::ScambiaTutteDaSeconda}) {
         QPushButton* pulsante = azioni.NuovoPulsante(comando);
-        pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(u"<--- Tutti [999999]"_s) + 24);
+        pulsante->setMinimumWidth(pulsante->fontMetrics().horizontalAdvance(u"<--- Tutte a sinistra [999999]"_s) + 24);
         layout->addWidget(pulsante);
     }
     layout->addSpacing(kStaccoGrande);

@@ -21,6 +21,7 @@ QTableWidget* TabellaAlternative(const std::vector<Alternativa>& alternative) {
     const QStringList intestazioni = IntestazioniAlternative();
     auto* tabella = new QTableWidget(static_cast<int>(alternative.size()), static_cast<int>(intestazioni.size()));
     tabella->setObjectName(u"grdConfronto"_s);
+    tabella->setAccessibleName(u"Scelte a confronto"_s);
     tabella->setHorizontalHeaderLabels(intestazioni);
     tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
     tabella->setSelectionMode(QAbstractItemView::SingleSelection);
