@@ -20,7 +20,7 @@ constexpr std::array<AspettoPezzo, kGeneriPezzo> kAspetti = {{
     {u"pranzo", Trama::Punti, 0x9FD8C3, 0x00654A},
     {u"cena", Trama::Punti, 0x9FD8C3, 0x00654A},
     {u"riposo", Trama::Piena, 0xC65A11, 0x7A3300},
-    {u"notte", Trama::Controdiagonali, 0xE4E5EC, 0x9297AD},
+    {u"notte", Trama::Controdiagonali, 0xE4E5EC, 0x84899F},
     {u"giorno di riposo", Trama::Incroci, 0xEBC9DC, 0x8E4A73},
     {u"attesa", Trama::Verticali, 0xFFFFFF, 0x6B6B6B},
 }};

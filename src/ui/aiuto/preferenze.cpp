@@ -33,7 +33,7 @@ QPalette ColoriScuri() {
     colori.setColor(QPalette::Window, QColor(45, 48, 52));
     colori.setColor(QPalette::Base, QColor(30, 32, 35));
     colori.setColor(QPalette::AlternateBase, QColor(38, 41, 45));
-    colori.setColor(QPalette::Highlight, QColor(61, 122, 184));
+    colori.setColor(QPalette::Highlight, QColor(49, 111, 174));
     colori.setColor(QPalette::Link, QColor(122, 184, 245));
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
                              QPalette::HighlightedText, QPalette::BrightText}) {

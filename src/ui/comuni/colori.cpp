@@ -95,6 +95,15 @@ QPalette ConDisabilitatiLeggibili(QPalette palette) {
                  [&](const QColor& a, const QColor& b) { return Contrasto(a, scelto[0]) < Contrasto(b, scelto[0]); });
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
                      Leggibile(disabilitato(QPalette::HighlightedText), acceso, scelto));
+    for (const QPalette::ColorGroup gruppo : {QPalette::Active, QPalette::Inactive}) {
+        const std::array base = {palette.color(gruppo, QPalette::Base)};
+        const QColor testo = palette.color(gruppo, QPalette::Text);
+        const std::array sceltoAttivo = {palette.color(gruppo, QPalette::HighlightedText)};
+        const QColor fondo = palette.color(gruppo, QPalette::Highlight);
+        const QColor lontano = Luminanza(sceltoAttivo[0]) > Luminanza(fondo) ? Qt::black : Qt::white;
+        palette.setColor(gruppo, QPalette::Highlight, Leggibile(fondo, lontano, sceltoAttivo));
+        palette.setColor(gruppo, QPalette::PlaceholderText, Leggibile(Misto(base[0], testo, 50), testo, base));
+    }
     return palette;
 }
 

@@ -13,7 +13,8 @@ double Contrasto(const QColor& a, const QColor& b);
 /// The first colour with so many hundredths of the second one.
 QColor Misto(const QColor& da, const QColor& a, int centesimi);
 
-/// The palette with texts of disabled controls that can be read: a contrast of 4.5 at least.
+/// The palette with texts of disabled controls, examples in empty boxes, and what is selected, that can be read: a
+/// contrast of 4.5 at least.
 QPalette ConDisabilitatiLeggibili(QPalette palette);
 
 /// Gives the boxes to be ticked within a window an outline that tells itself from its ground, by a contrast of 3 at
