@@ -7,7 +7,8 @@ set -eu
 packages_for() {
     case $1 in
         build) echo g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n fonts-liberation libsqlitecpp-dev libsqlite3-dev libminizip-dev zlib1g-dev ;;
-        test) echo libgtest-dev libgmock-dev libical-dev libxml2-utils poppler-utils tidy ;;
+        test) echo libgtest-dev libgmock-dev libical-dev libxml2-utils poppler-utils tidy \
+            xvfb openbox xdotool dbus-daemon at-spi2-core python3 python3-gi gir1.2-atspi-2.0 ;;
         check) echo clang-format clang-tidy python3 ;;
         package) echo dpkg-dev lintian desktop-file-utils appstream mandoc debootstrap ;;
         pictures) echo xvfb openbox xdotool imagemagick ;;
