@@ -7,10 +7,10 @@
 #include <QRegularExpression>
 
 #include "exchange/pagina/aspetto_pagina.h"
+#include "mappa/pittura_mappa.h"
 #include "schedule/strisce.h"
 #include "ui/aiuto/preferenze.h"
 #include "ui/comuni/colori.h"
-#include "ui/mappa/pittura_mappa.h"
 
 namespace cronovia {
 namespace {
@@ -67,8 +67,7 @@ class ContrastoTest : public testing::Test {
         }
     }
 
-    void Mappa(const QString& tema, const QPalette& palette) {
-        const ColoriMappa colori(palette);
+    void Mappa(const QString& tema, const ColoriMappa& colori) {
         for (const QColor& sfondo : {colori.mare, colori.terra}) {
             Misura(tema + u": names on the map"_s, colori.testo, sfondo, kTesto);
             for (const QColor& segno : {colori.vie[0], colori.vie[1], colori.corrente}) {
@@ -90,7 +89,7 @@ TEST_F(ContrastoTest, OfTheWindowInItsColours) {
         ApplicaColori(preferenze);
         const QPalette palette = ConDisabilitatiLeggibili(QApplication::palette());
         Ruoli(tema, palette);
-        Mappa(tema, palette);
+        Mappa(tema, ColoriDellaFinestra(palette));
     }
 }
 

@@ -103,9 +103,9 @@ class Scelte {
         layout.addRow(u"Cartella portatile:"_s, portatile_);
         QLabel* nota = NuovaScritta(
             u"La grandezza dei testi e la cartella portatile valgono dal prossimo avvio. I viaggi di adesso si portano "
-            "in un'altra cartella con File, Salva in un'altra cartella. Oltre alle copie più nuove ne resta una per "
-            "ognuno degli ultimi dodici mesi."_s);
+            "in un'altra cartella con File, Salva in un'altra cartella."_s);
         nota->setWordWrap(true);
+        nota->setMinimumSize(nota->sizeHint());  // all of it is seen, however large the texts are
         layout.addRow(nota);
     }
 
