@@ -11,7 +11,7 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-std::vector<Carta> CarteOfferte() {
+std::vector<CartaDaStampa> CarteOfferte() {
     return {{u"A4"_s, u"A4 (210 × 297 mm)"_s, {210, 297}},
             {u"Letter"_s, u"Lettera (216 × 279 mm)"_s, {215.9, 279.4}},
             {u"Legal"_s, u"Legale (216 × 356 mm)"_s, {215.9, 355.6}},
@@ -25,8 +25,8 @@ QString FileImpostazioni(const QString& cartella) {
 }
 
 Impostazioni LeggiImpostazioni(const QSettings& preferenze) {
-    const std::vector<Carta> carte = CarteOfferte();
-    const auto scelta = std::find_if(carte.begin(), carte.end(), [&](const Carta& carta) {
+    const std::vector<CartaDaStampa> carte = CarteOfferte();
+    const auto scelta = std::find_if(carte.begin(), carte.end(), [&](const CartaDaStampa& carta) {
         return carta.chiave == preferenze.value(u"carta"_s).toString();
     });
     bool numero = false;

@@ -10,14 +10,14 @@
 namespace cronovia {
 
 /// A sheet that can be printed on.
-struct Carta {
+struct CartaDaStampa {
     QString chiave;  ///< under which it is kept
     QString nome;    ///< as people choose it
     QSizeF misura;   ///< upright, in millimetres
 };
 
 /// What can be chosen; A4 comes first, and is taken for want of a choice.
-std::vector<Carta> CarteOfferte();
+std::vector<CartaDaStampa> CarteOfferte();
 
 /// How many of the newest copies of the archive can be kept.
 inline constexpr int kMinimoCopie = 3;
@@ -25,7 +25,7 @@ inline constexpr int kMassimoCopie = 100;
 
 struct Impostazioni {
     int copie = 10;
-    Carta carta;  ///< one of those that are offered
+    CartaDaStampa carta;  ///< one of those that are offered
 };
 
 /// The file that keeps all preferences of a data folder. It need not be there.

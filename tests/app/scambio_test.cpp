@@ -123,7 +123,8 @@ TEST_F(ScambioTest, TripsMoveAndTheRunTakesThoseChosen) {
     Importa(Answer::No);
     comandi::Export(*postazione_);
     EXPECT_EQ(Lista(0), u"PISA ROMA"_s);
-    EXPECT_EQ(Tavolo().ScrittaTutto(0) + Tavolo().ScrittaTutto(1), u"[2] Tutti ---><--- Tutti [0]"_s);
+    EXPECT_EQ(Tavolo().ScrittaTutto(0) + Tavolo().ScrittaTutto(1),
+              u"[2] Tutte a destra ---><--- Tutte a sinistra [0]"_s);
     ImExp(u"mai.iei"_s);  // nothing is chosen
     Sposta(0, 0);
     Sposta(0, 7);  // a free row

@@ -54,7 +54,7 @@ QComboBox* ElencoTesto(int scelto) {
 
 QComboBox* ElencoCarta(const QString& scelta) {
     auto* elenco = NuovoElenco(u"cmbCarta"_s, {}, u"Il foglio su cui si stampa, anche in un file PDF"_s);
-    for (const Carta& carta : CarteOfferte()) elenco->addItem(carta.nome, carta.chiave);
+    for (const CartaDaStampa& carta : CarteOfferte()) elenco->addItem(carta.nome, carta.chiave);
     elenco->setCurrentIndex(elenco->findData(scelta));
     return elenco;
 }

@@ -41,7 +41,8 @@ Istruzioni AiutoTempi() {
             "ci si ferma per la notte, l'orario delle visite e il tempo medio di un traghetto.\n\n"
             "Riposi: una breve sosta di tanti minuti ogni tante ore di guida, e giorni interi di riposo ogni tanti "
             "giorni di viaggio. Con 00 non ce ne sono.\n\n"
-            "Gli orari che non vanno d'accordo si correggono da soli. Salva abituali, Carica e Reset riguardano i tuoi valori "
+            "Gli orari che non vanno d'accordo si correggono da soli. Salva abituali, Carica e Reset riguardano i tuoi "
+            "valori "
             "abituali, proposti per ogni nuova mèta."_s};
 }
 
