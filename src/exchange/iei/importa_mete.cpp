@@ -8,6 +8,7 @@
 
 #include "calendar/date.h"
 #include "calendar/durata.h"
+#include "calendar/testo.h"
 #include "exchange/iei/elenco_mete.h"
 #include "exchange/iei/mappa_codici.h"
 #include "exchange/nomi_presenti.h"
