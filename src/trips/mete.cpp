@@ -80,14 +80,14 @@ std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice) {
     return meta;
 }
 
-bool LeggiAggiunti(std::span<const QString> valori, Meta& meta) {
+int LeggiAggiunti(std::span<const QString> valori, Meta& meta) {
     const QString& data = valori[scadenze::RientroData];
     const QString& ora = valori[scadenze::RientroOra];
     meta.scadenza = Scadenza::Leggi(data, ora);
     const PrezziLetti letti = LeggiPrezzi(valori.subspan(scadenze::KmLitro, kPrezziViaggio));
     meta.prezzi = letti.prezzi;
     const bool senza = data.trimmed().isEmpty() && ora.trimmed().isEmpty();
-    return !letti.rifiutato && (senza || meta.scadenza);
+    return letti.rifiutati + (senza || meta.scadenza ? 0 : 1);
 }
 
 std::vector<QString> ValoriAggiunti(const Meta& meta) {

@@ -17,9 +17,9 @@ namespace cronovia {
 /// The trip with that code, or nothing.
 std::optional<Meta> CaricaMeta(Archive& archive, QStringView codice);
 
-/// What a row of `Scadenze` tells of a trip, its deadline and prices; false when part of it cannot be. And the row of a
-/// trip; none where neither is told.
-bool LeggiAggiunti(std::span<const QString> valori, Meta& meta);
+/// What a row of `Scadenze` tells of a trip, its deadline and prices; returns how many of them cannot be. And the row
+/// of a trip; none where neither is told.
+int LeggiAggiunti(std::span<const QString> valori, Meta& meta);
 std::vector<QString> ValoriAggiunti(const Meta& meta);
 /// Stores that row in the place of the one before; within a transaction of the caller. Saving a trip does.
 void ScriviAggiunti(Archive& archive, const Meta& meta);

@@ -45,8 +45,9 @@ PrezziLetti LeggiPrezzi(std::span<const QString> testi) {
         const std::optional<int> valore = LeggiDecimale(testi[i], forma.decimali);
         if (valore && *valore >= forma.minimo && *valore <= forma.massimo) {
             letti.prezzi.*forma.valore = valore;
-        } else if (!letti.rifiutato) {
-            letti.rifiutato = i;
+        } else {
+            if (!letti.rifiutato) letti.rifiutato = i;
+            ++letti.rifiutati;
         }
     }
     return letti;

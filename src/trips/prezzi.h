@@ -23,10 +23,12 @@ inline constexpr std::size_t kPrezziViaggio = 4;
 /// As they are stored and typed, in the order of the members: "9,5", "1,859"; empty for what is not told.
 std::array<QString, kPrezziViaggio> TestiDeiPrezzi(const PrezziViaggio& prezzi);
 
-/// Those of such texts, and the first of them, from 0, that is no price, or out of its limits; all such are left out.
+/// Those of such texts, and the first of them, from 0, that is no price, or out of its limits; all such are left out,
+/// and counted.
 struct PrezziLetti {
     PrezziViaggio prezzi;
     std::optional<std::size_t> rifiutato = {};
+    int rifiutati = 0;
 };
 PrezziLetti LeggiPrezzi(std::span<const QString> testi);
 

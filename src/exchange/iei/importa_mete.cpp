@@ -153,7 +153,7 @@ void Importatore::ImportaAggiunti(const RigaIei& riga) {
     Meta meta;
     meta.codice = riga.valori[mete::CodiceMeta];
     meta.localita = riga.valori[mete::Localita];
-    if (!LeggiAggiunti(aggiunti->second, meta)) ++ritocchi_[meta.codice].orariRifiutati;
+    ritocchi_[meta.codice].orariRifiutati += LeggiAggiunti(aggiunti->second, meta);
     ScriviAggiunti(archive_, meta);
 }
 

@@ -105,7 +105,6 @@ TEST_F(Export, CarriesTheHoursThatOthersSetBehindTheOtherColumns) {
     const QByteArray senza = LeggiFile(file_);
     const QByteArray ore =
         "2200|28062027|00:08:30|0100|||1500||1000|1300|Chiedere il ponte 7|0586 1|https://a.it|X9|180,50||";
-    const QByteArray guaste = "2400||00:08:30||1600||1500|||||||||-3|";  // no hour, none between two, a price below 0
     const QByteArray tappe = kCampiTappe.chopped(1) +
                              "|TraghettoOra|TraghettoData|Navigazione|Imbarco|NonPrimaOra|NonPrimaData|NonDopoOra|"
                              "NonDopoData|VisiteDa|VisiteA|Nota|Telefono|Link|Prenotazione|PrezzoTraghetto|PrezzoNotte|"
@@ -129,10 +128,51 @@ TEST_F(Export, CarriesTheHoursThatOthersSetBehindTheOtherColumns) {
     CancellaMeta(archive_, u"000007"_s, progress_);
     EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
     EXPECT_EQ(prova::Tutto(archive_), prima);
+}
 
-    const EsitoImport esito = prova::Importa(archive_, file("31022027|2000|0|||", "|" + guaste));
-    EXPECT_EQ(esito.ritocchi.orariRifiutati, 4);
-    EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), 0);
+// Files of other hands have part of the columns, further ones, and values that cannot be: those are left out and told
+// of.
+TEST_F(Export, LeavesOutHoursNotesAndPricesThatCannotBe) {
+    struct Caso {
+        QByteArray colonne;
+        QByteArray valori;
+        int rifiutati;
+    };
+    const auto importa = [&](const QByteArray& mete, const QByteArray& meta, const Caso& caso) {
+        const QByteArray tappe = "000007|0001|Livorno||||||" + QByteArray(caso.colonne.count('|') + 1, '|') + "\n";
+        const EsitoImport esito = prova::Importa(
+            archive_, prova::Sezione('\xFF', kCampiMete.chopped(1) + mete + "\n000007|Sardegna|I" +
+                                                 QByteArray(21, '|') + meta + "\n") +
+                          prova::Sezione('\xFE', kCampiTappe.chopped(1) + '|' + caso.colonne + "\n" + tappe +
+                                                     "000007|0002|Olbia||||||" + '|' + caso.valori + "\n"));
+        EXPECT_EQ(esito.tappeInserite, 2) << caso.valori.toStdString();
+        EXPECT_EQ(esito.ritocchi.orariRifiutati, caso.rifiutati) << caso.valori.toStdString();
+        EXPECT_EQ(TestoEsito(esito).contains(u"orari fissati, prezzi o note non validi, non inseriti"_s),
+                  caso.rifiutati > 0);
+        EXPECT_EQ(archive_.Count(Table::Vincoli) + archive_.Count(Table::Scadenze), caso.rifiutati > 0 ? 0 : 1)
+            << caso.valori.toStdString();
+        for (const Table tabella : {Table::MeteVandro, Table::Itinerari, Table::Vincoli, Table::Scadenze}) {
+            archive_.DeleteMatching(tabella, {}, progress_);
+        }
+    };
+    const std::vector<Caso> casi = {{"Meteo|TraghettoOra|Navigazione", "sole|2200|00:08:30", 0},
+                                    {"TraghettoOra|Navigazione", "99:99|00:08:30", 1},
+                                    {"TraghettoOra|Navigazione", "2200|09:00:00", 0},
+                                    {"TraghettoOra|Navigazione", "2200|10:00:00", 1},
+                                    {"TraghettoData", "28062027", 1},
+                                    {"NonPrimaOra|NonDopoOra|PrezzoTraghetto", "1600|1500|-3", 2},
+                                    {"VisiteDa", "0900", 1},
+                                    {"Nota", QByteArray(500, 'n'), 0},
+                                    {"Nota", QByteArray(501, 'n'), 1},
+                                    {"PrezzoNotte", "-1", 1},
+                                    {"PrezzoNotte", "NaN", 1},
+                                    {"PrezzoNotte", "1e3", 1},
+                                    {"PrezzoNotte", "100000", 1},
+                                    {"PrezzoNotte", "1.234,5", 0}};
+    for (const Caso& caso : casi) importa("", "", caso);
+    importa("|RientroData|RientroOra|KmLitro", "|31022027|2000|0", {"Nota", "", 2});
+    importa("|RientroOra|Colore", "|2000|blu", {"Nota", "", 1});
+    importa("|RientroData|RientroOra|Colore", "|28062027|2000|blu", {"Nota", "", 0});
 }
 
 TEST(NomeFileExport, IsThatOfTheFirstTripAsEverySystemTakesIt) {
