@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -117,8 +118,10 @@ class FinestraTest : public testing::Test {
     void Scrivi(const QString& nome, const QString& testo) {
         QWidget* casella = &Usabile(nome);
         if (auto* elenco = qobject_cast<QComboBox*>(casella)) casella = elenco->lineEdit();
-        if (qobject_cast<QLineEdit*>(casella) == nullptr) throw std::runtime_error("nothing is typed there");
-        QTest::mouseClick(casella, Qt::LeftButton);
+        auto* lunga = qobject_cast<QPlainTextEdit*>(casella);
+        const bool corta = qobject_cast<QLineEdit*>(casella) != nullptr;
+        if (!corta && lunga == nullptr) throw std::runtime_error("nothing is typed there");
+        QTest::mouseClick(corta ? casella : lunga->viewport(), Qt::LeftButton);
         QTest::keyClick(casella, Qt::Key_A, Qt::ControlModifier);
         if (testo.isEmpty()) QTest::keyClick(casella, Qt::Key_Delete);
         Batti(testo);

@@ -197,6 +197,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     QString Dice(const QString& nome) {
         const auto& oggetto = Trova<QObject>(nome);
         if (const auto* casella = qobject_cast<const QLineEdit*>(&oggetto)) return casella->text();
+        if (const auto* lunga = qobject_cast<const QPlainTextEdit*>(&oggetto)) return lunga->toPlainText();
         if (const auto* elenco = qobject_cast<const QComboBox*>(&oggetto)) return elenco->currentText();
         if (const auto* finestra = qobject_cast<const QMainWindow*>(&oggetto)) return finestra->windowTitle();
         if (const auto* azione = qobject_cast<const QAction*>(&oggetto)) return azione->text();

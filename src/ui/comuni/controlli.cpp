@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QMimeData>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QTableView>
@@ -139,6 +140,15 @@ class RifiutaTasti : public QObject {
     }
 };
 
+class CasellaLunga : public QPlainTextEdit {
+  protected:
+    void keyPressEvent(QKeyEvent* tasto) override {
+        if (tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter) return tasto->ignore();
+        QPlainTextEdit::keyPressEvent(tasto);
+    }
+    void insertFromMimeData(const QMimeData* dati) override { insertPlainText(dati->text().simplified()); }
+};
+
 }  // namespace
 
 QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione) {
@@ -184,6 +194,17 @@ QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString
     auto* casella = new QLineEdit;
     Presenta(*casella, nome, istruzione);
     casella->setMaxLength(larghezzaMassima);
+    casella->installEventFilter(new SenzaAlt(casella));
+    return casella;
+}
+
+QPlainTextEdit* NuovaCasellaLunga(const QString& nome, int righe, const QString& istruzione) {
+    auto* casella = new CasellaLunga;
+    Presenta(*casella, nome, istruzione);
+    casella->setTabChangesFocus(true);
+    casella->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int bordo = 2 * (casella->frameWidth() + static_cast<int>(casella->document()->documentMargin()));
+    casella->setFixedHeight(righe * casella->fontMetrics().lineSpacing() + bordo);
     casella->installEventFilter(new SenzaAlt(casella));
     return casella;
 }

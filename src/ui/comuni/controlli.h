@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QString>
 #include <QStringList>
@@ -36,6 +37,9 @@ void MostraVoce(QComboBox& elenco, const QString& testo);
 
 /// A box that takes so many characters.
 QLineEdit* NuovaCasella(const QString& nome, int larghezzaMassima, const QString& istruzione);
+
+/// A box in which a text of one paragraph is seen on so many lines, however long it is. Enter and Tab are the window's.
+QPlainTextEdit* NuovaCasellaLunga(const QString& nome, int righe, const QString& istruzione);
 
 /// Leaves the keys of undo and redo to the window while a box has nothing of its own to undo.
 void LasciaAnnullare(QLineEdit& casella);

@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QMetaProperty>
 #include <QPushButton>
 
 #include "ui/comuni/controlli.h"
@@ -40,15 +41,16 @@ class Modulo : public QDialog {
         const auto difetto = richiesta_.difetto(Valori());
         if (!difetto) return QDialog::accept();
         Box(QMessageBox::Warning, windowTitle(), difetto->second, QMessageBox::Ok, this).exec();
-        QLineEdit& casella = *caselle_.at(static_cast<std::size_t>(difetto->first));
+        QWidget& casella = *caselle_.at(static_cast<std::size_t>(difetto->first));
         casella.setFocus();
-        casella.selectAll();
+        QMetaObject::invokeMethod(&casella, "selectAll");
     }
 
     [[nodiscard]] std::vector<QString> Valori() const {
         std::vector<QString> valori = richiesta_.valori;
         for (std::size_t i = 0; i < valori.size(); ++i) {
-            if (caselle_[i] != nullptr) valori[i] = caselle_[i]->text().trimmed();
+            if (caselle_[i] == nullptr) continue;
+            valori[i] = caselle_[i]->metaObject()->userProperty().read(caselle_[i]).toString().trimmed();
         }
         return valori;
     }
@@ -60,19 +62,24 @@ class Modulo : public QDialog {
         for (const std::vector<CampoModulo>& campi : gruppo.righe) {
             auto* riga = Spaziato(new QHBoxLayout, Spazi::Riga);
             for (const CampoModulo& campo : campi) {
-                QLineEdit* casella = CreaCasella(campo);
+                QWidget* casella = CreaCasella(campo);
                 if (&campo != &campi.front()) riga->addWidget(NuovaEtichetta(campo.scritta, *casella));
                 riga->addWidget(casella);
             }
             if (campi.back().caratteri > 0) riga->addStretch();
-            QLineEdit& prima = *caselle_[static_cast<std::size_t>(campi.front().valore)];
+            QWidget& prima = *caselle_[static_cast<std::size_t>(campi.front().valore)];
             layout->addRow(NuovaEtichetta(campi.front().scritta, prima), riga);
         }
         return riquadro;
     }
 
-    QLineEdit* CreaCasella(const CampoModulo& campo) {
+    QWidget* CreaCasella(const CampoModulo& campo) {
         const auto indice = static_cast<std::size_t>(campo.valore);
+        if (campo.righe > 1) {
+            QPlainTextEdit* lunga = NuovaCasellaLunga(campo.nome, campo.righe, campo.istruzione);
+            lunga->setPlainText(richiesta_.valori.at(indice));
+            return caselle_.at(indice) = lunga;
+        }
         QLineEdit* casella = NuovaCasella(campo.nome, campo.massimo, campo.istruzione);
         casella->setPlaceholderText(campo.esempio);
         casella->setText(richiesta_.valori.at(indice));
@@ -83,7 +90,7 @@ class Modulo : public QDialog {
     }
 
     const RichiestaModulo& richiesta_;
-    std::vector<QLineEdit*> caselle_;  // by value; null where none is shown
+    std::vector<QWidget*> caselle_;  // by value; null where none is shown
 };
 
 }  // namespace

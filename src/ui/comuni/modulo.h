@@ -22,6 +22,7 @@ struct CampoModulo {
     int caratteri = 0;  ///< that are seen; 0: as many as there is room for
     QString istruzione;
     QString esempio = {};  ///< shown while it is empty
+    int righe = 1;         ///< more: a long text on so many lines, of which `massimo` and `caratteri` are of no account
 };
 
 struct GruppoModulo {

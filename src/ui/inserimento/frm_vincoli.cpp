@@ -60,7 +60,7 @@ std::vector<GruppoModulo> Gruppi() {
          {{Testo(Prenotazione, u"txtPrenotazione"_s, u"Prenotazione n."_s, u"Numero della prenotazione"_s)},
           {Testo(Telefono, u"txtTelefono"_s, u"Telefono"_s, u"Numero di telefono"_s)},
           {Testo(Link, u"txtLink"_s, u"Link"_s, u"Indirizzo della pagina internet"_s)},
-          {Testo(Nota, u"txtNota"_s, u"Nota"_s, u"Nota, fino a 500 caratteri"_s)}}},
+          {{Nota, u"txtNota"_s, u"Nota"_s, 0, 0, u"Nota, fino a 500 caratteri"_s, {}, 4}}}},
     };
 }
 
