@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "itinerary/posizioni.h"
+#include "schedule/costi.h"
 #include "schedule/testi_giornata.h"
 #include "schedule/testi_ore.h"
 
@@ -47,16 +48,19 @@ std::vector<GiornoStampato> Giorni(const std::vector<Giornata>& giornate, const 
 }  // namespace
 
 DatiStampa PreparaStampa(const Meta& meta, const Cronovia& cronovia) {
+    const auto giornate = meta.dataInizio ? Giornate(cronovia, *meta.dataInizio) : std::vector<Giornata>();
+    const std::optional<Costi> costi = CostiDelViaggio(giornate);
     DatiStampa dati{
         meta,
         cronovia.orario,
         Righe(cronovia),
-        meta.dataInizio ? Giorni(Giornate(cronovia, *meta.dataInizio), cronovia) : std::vector<GiornoStampato>(),
+        Giorni(giornate, cronovia),
         Testi(cronovia.fine),
         Testi(cronovia.totali, cronovia.orario.GuidaGiorno()),
         static_cast<int>(std::count_if(cronovia.righe.begin(), cronovia.righe.end(),
                                        [](const RigaCronovia& riga) { return riga.genere == GenereRiga::Traghetto; })),
-        cronovia.scadenza ? Testo(*cronovia.scadenza, cronovia) : QString()};
+        cronovia.scadenza ? Testo(*cronovia.scadenza, cronovia) : QString(),
+        costi ? TestoCosti(*costi) : QString()};
     for (std::size_t i = 0; i < dati.giorni.size(); ++i) {
         for (const int riga : dati.giorni[i].giornata.righe) dati.righe[static_cast<std::size_t>(riga)].giorno = i;
     }

@@ -56,6 +56,7 @@ struct DatiStampa {
     TestiTotali totali;        ///< of the schedule, by road type
     int traghettiAOrario = 0;  ///< of its ferries, those with their own hours
     QString scadenza = {};     ///< how the end stands to when one has to be home; empty when nothing is set
+    QString costi = {};        ///< of the whole trip; empty when nothing has a price
     std::shared_ptr<const MappaStampata> mappa = {};  ///< null when no map is wanted
 };
 

@@ -83,6 +83,8 @@ class StampaRighe {
     void Stampa(const GiornoStampato& giorno, double conSe);
     /// A row; all from it on that has to stay together is so high.
     void Stampa(const RigaStampata& riga, double insieme);
+    /// What all days cost, below the rows.
+    void StampaTotale(const QString& testo);
 
     // The closing rule begins at the first border; what stands left of it is closed as well.
     void StampaFinePagina() {
@@ -188,6 +190,13 @@ void StampaRighe::Stampa(const RigaStampata& riga, double insieme) {
     StampaCodice(riga.testi);
     foglio_.Avanza(kAltezzaRiga);
     sopra_ = Sopra::Riga;
+}
+
+void StampaRighe::StampaTotale(const QString& testo) {
+    PreparaPagina(0);
+    Traversa(foglio_.RigaStampa() - kAltezzaRiga + kSottoIlTesto, Filetto::Medio, Bordo(15));
+    foglio_.StampaAdattato({testo, foglio_.RigaStampa(), Bordo(1), Bordo(15), {8, true}});
+    foglio_.Avanza(kAltezzaRiga);
 }
 
 void StampaRighe::StampaValore(int colonna, const RigaStampata& riga) {
@@ -302,6 +311,7 @@ Stampato StampaCronovia(const DatiStampa& dati, const PieDiPagina& piede, Progre
         progress.Title(titolo + u" (pag. %1)"_s.arg(pagina));
     }
     giorniFino(dati.giorni.size(), 0);
+    if (!dati.costi.isEmpty()) stampa.StampaTotale(dati.costi);
     stampa.StampaFinePagina();
     progress.Advance(0, 0);
     return stampa.Concluso();

@@ -7,7 +7,6 @@
 #include "calendar/digitati.h"
 #include "calendar/testo.h"
 #include "print/testata.h"
-#include "schedule/costi.h"
 #include "schedule/testi_giornata.h"
 
 namespace cronovia {
@@ -191,12 +190,8 @@ void StampaTabella::StampaFinePagina() {
 Stampato StampaGiornate(const DatiStampa& dati, const PieDiPagina& piede, Progress& progress) {
     progress.Title(LavoroGiornate());
     StampaTabella tabella(dati, piede);
-    std::vector<Giornata> giornate;
-    for (const GiornoStampato& giorno : dati.giorni) {
-        tabella.Stampa(giorno);
-        giornate.push_back(giorno.giornata);
-    }
-    if (const std::optional<Costi> costi = CostiDelViaggio(giornate)) tabella.StampaTotale(TestoCosti(*costi));
+    for (const GiornoStampato& giorno : dati.giorni) tabella.Stampa(giorno);
+    if (!dati.costi.isEmpty()) tabella.StampaTotale(dati.costi);
     tabella.StampaFinePagina();
     return tabella.Concluso();
 }

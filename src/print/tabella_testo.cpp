@@ -33,6 +33,11 @@ QByteArray TabellaCronovia(const DatiStampa& dati) {
     for (const RigaStampata& riga : dati.righe) {
         if (!riga.testi[Colonna::Tappa].trimmed().isEmpty()) testo += RigaTabella(riga.testi);
     }
+    QStringList riassunto;
+    for (const QString& parte : {dati.scadenza, dati.costi}) {
+        if (!parte.isEmpty()) riassunto += InCella(parte) + kFineRiga;
+    }
+    if (!riassunto.isEmpty()) testo += kFineRiga + riassunto.join(QString());
     return InWindows1252(testo).byte;
 }
 

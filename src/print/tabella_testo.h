@@ -21,7 +21,8 @@ void RifiutaFileTabella(const QString& path, const QString& cartella);
 std::unique_ptr<FileIntero> PreparaTabella(const DatiStampa& dati, const QString& cartella);
 
 /// Replaces the table of a data folder: the destination, an empty line, the headings and the rows, tab-separated, in
-/// Windows-1252. A `Failure` when it cannot be written; the old one stays then.
+/// Windows-1252; where there are any, behind another empty line, how the end stands to when one has to be home, and
+/// what the trip costs. A `Failure` when it cannot be written; the old one stays then.
 void ScriviTabella(const DatiStampa& dati, const QString& cartella);
 
 }  // namespace cronovia

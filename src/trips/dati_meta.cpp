@@ -17,7 +17,7 @@ namespace {
 constexpr int kFineDelGiorno = kMinutiDelGiorno - 1;
 
 QString NomeCampoMeta(std::size_t campo) { return Definition(Table::MeteVandro).fields[campo].name; }
-QString NomeRientro(scadenze::Field campo) { return Definition(Table::Scadenze).fields[campo].name; }
+QString NomeAggiunto(std::size_t campo) { return Definition(Table::Scadenze).fields[campo].name; }
 
 bool UnOrario(std::size_t campo) {
     return campo == mete::OraInizio || std::any_of(kLimitiOrari.begin(), kLimitiOrari.end(), [&](const auto& limiti) {
@@ -105,7 +105,7 @@ Meta ConRientro(Meta meta, const DatoMeta& dato) {
         meta.scadenza.reset();
         return meta;
     }
-    if (dato.nome.compare(NomeRientro(scadenze::RientroData), Qt::CaseInsensitive) == 0) {
+    if (dato.nome.compare(NomeAggiunto(scadenze::RientroData), Qt::CaseInsensitive) == 0) {
         const int minuti = prima ? prima->Ora().Minuti() : kFineDelGiorno;
         meta.scadenza = Scadenza::Leggi(dato.valore, TestoMinutiMemorizzati(minuti));
         if (!meta.scadenza) RifiutaDato(dato, u"vuole una data gg/mm/aaaa"_s);
@@ -117,25 +117,40 @@ Meta ConRientro(Meta meta, const DatoMeta& dato) {
     return meta;
 }
 
+Meta ConPrezzo(Meta meta, std::size_t quale, const DatoMeta& dato) {
+    std::array<QString, kPrezziViaggio> testi = TestiDeiPrezzi(meta.prezzi);
+    testi.at(quale) = dato.valore;
+    const PrezziLetti letti = LeggiPrezzi(testi);
+    if (letti.rifiutato) throw Failure(MessaggioPrezzo(quale, dato.valore));
+    meta.prezzi = letti.prezzi;
+    return meta;
+}
+
 }  // namespace
 
 std::vector<DatoMeta> DatiDellaMeta(const Meta& meta) {
     std::vector<DatoMeta> dati;
     const std::vector<QString> valori = ValoriDellaMeta(meta);
-    dati.reserve(valori.size() + 1);
+    dati.reserve(valori.size() + 1 + kPrezziViaggio);
     for (std::size_t campo = mete::Localita; campo < valori.size(); ++campo) {
         dati.push_back({NomeCampoMeta(campo), ValoreMostrato(valori, campo)});
     }
     const bool scade = meta.scadenza.has_value();
-    dati.push_back({NomeRientro(scadenze::RientroData), scade ? TestoData(*meta.scadenza->Ora().Data()) : QString()});
-    dati.push_back({NomeRientro(scadenze::RientroOra), scade ? TestoMinuti(meta.scadenza->Ora().Minuti()) : QString()});
+    dati.push_back({NomeAggiunto(scadenze::RientroData), scade ? TestoData(*meta.scadenza->Ora().Data()) : QString()});
+    dati.push_back(
+        {NomeAggiunto(scadenze::RientroOra), scade ? TestoMinuti(meta.scadenza->Ora().Minuti()) : QString()});
+    std::size_t campo = scadenze::KmLitro;
+    for (const QString& prezzo : TestiDeiPrezzi(meta.prezzi)) dati.push_back({NomeAggiunto(campo++), prezzo});
     return dati;
 }
 
 Meta ConDato(Meta meta, const DatoMeta& dato) {
     const auto detto = [&](const QString& nome) { return nome.compare(dato.nome, Qt::CaseInsensitive) == 0; };
-    if (detto(NomeRientro(scadenze::RientroData)) || detto(NomeRientro(scadenze::RientroOra))) {
+    if (detto(NomeAggiunto(scadenze::RientroData)) || detto(NomeAggiunto(scadenze::RientroOra))) {
         return ConRientro(std::move(meta), dato);
+    }
+    for (std::size_t i = 0; i < kPrezziViaggio; ++i) {
+        if (detto(NomeAggiunto(scadenze::KmLitro + i))) return ConPrezzo(std::move(meta), i, dato);
     }
     for (std::size_t campo = mete::Localita; campo < mete::kCampi; ++campo) {
         if (!detto(NomeCampoMeta(campo))) continue;

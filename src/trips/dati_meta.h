@@ -15,7 +15,8 @@ struct DatoMeta {
     QString valore;
 };
 
-/// All but the code, in the order of the table, then when one has to be home: hours as "hh:mm", dates as "dd/mm/yyyy".
+/// All but the code, in the order of the table, then when one has to be home, and the prices: hours as "hh:mm", dates
+/// as "dd/mm/yyyy".
 std::vector<DatoMeta> DatiDellaMeta(const Meta& meta);
 
 /// The trip with that field changed; its hours are not put in order. A `Failure` names the field, and what it can be,

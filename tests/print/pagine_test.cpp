@@ -100,6 +100,7 @@ DatiStampa Tipi() {
     dati.righe.back().inRitardo = true;
     dati.traghettiAOrario = 1;
     dati.scadenza = u"A casa entro dom 11/07/2027 20:00: ritardo 02:10, da "_s + largo;
+    dati.costi = u"Costi: 1.234,50 € (carburante 300,00 €, pedaggi 45,20 €, notti 125,00 €)"_s;
     for (std::size_t i : {0U, 4U, 12U}) {
         RigaGriglia& testi = dati.righe[i].testi;
         testi[Colonna::Numero] = u"9999"_s;
