@@ -49,7 +49,8 @@ QString ScrittaProposta(const PropostaGiorni& proposta) {
 std::optional<PropostaGiorni> Proposta(Postazione& p, const QString& messaggio) {
     const QString titolo = u"Calcolo cronovia"_s;
     const RicercaGiorni ricerca = p.documento.Ricerca().value_or(RicercaGiorni());
-    const auto& prima = ricerca.esatta ? ricerca.esatta : ricerca.sopra ? ricerca.sotto : std::nullopt;
+    const bool conSotto = ricerca.sopra || ricerca.finoAllaScadenza;
+    const auto& prima = ricerca.esatta ? ricerca.esatta : conSotto ? ricerca.sotto : std::nullopt;
     const auto& seconda = ricerca.sopra;
     if (!prima && !seconda) {
         p.Mostra(messaggio, titolo, Icon::Information);

@@ -51,12 +51,6 @@ std::optional<Centesimi> Ritardo(const Cronovia& cronovia) {
     return ritardo;
 }
 
-std::optional<Istante> UltimoMomento(const Cronovia& cronovia) {
-    const auto ultima = std::find_if(cronovia.righe.rbegin(), cronovia.righe.rend(),
-                                     [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
-    return ultima == cronovia.righe.rend() ? std::nullopt : std::optional(Istante{ultima->data, ultima->ora});
-}
-
 }  // namespace
 
 std::vector<Alternativa> Alternative(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida,
@@ -74,7 +68,7 @@ std::vector<Alternativa> Alternative(const Meta& meta, std::span<const Tappa> ta
         una.soste = soste;
         una.voluti = voluti;
         una.giorni = cronovia.fine ? cronovia.fine->giorni : 0;
-        una.fine = UltimoMomento(cronovia);
+        una.fine = UltimoMomento(cronovia.righe);
         una.guidaMassima = GuidaMassima(cronovia);
         una.ritardo = Ritardo(cronovia);
         una.attuale = soste == meta.parametri.calcoloSoste && voluti == meta.giorniAdeguamento;

@@ -79,12 +79,6 @@ QString Messaggio(int giorniVoluti, double giorniRiferimento, int tentativi) {
     return u"Elaborazione impossibile! (tentativi effettuati n. %1)"_s.arg(tentativi);
 }
 
-bool InTempo(const Passata& passata, Istante entro) {
-    const auto ultima = std::find_if(passata.righe.rbegin(), passata.righe.rend(),
-                                     [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
-    return ultima == passata.righe.rend() || Istante{ultima->data, ultima->ora} <= entro;
-}
-
 // A share of the stops, in thousandths, and the pass with it.
 struct Quota {
     int millesimi = 0;
@@ -98,13 +92,13 @@ std::optional<Quota> QuotaInTempo(Istante entro, Simula&& simula) {
     constexpr int kMassimaQuota = 999'000;
     Quota sicura{0, simula(0)};
     if (sicura.passata.interrotta) return sicura;
-    if (!InTempo(sicura.passata, entro)) return std::nullopt;
+    if (!sicura.passata.InTempo(entro)) return std::nullopt;
     int troppo = kMassimaQuota + 1;
     for (int passo = 1000; troppo - sicura.millesimi > 1; passo *= 2) {
         const int prova = std::min(sicura.millesimi + passo, (sicura.millesimi + troppo) / 2);
         Quota quota{prova, simula(prova)};
         if (quota.passata.interrotta) return quota;
-        if (InTempo(quota.passata, entro)) {
+        if (quota.passata.InTempo(entro)) {
             sicura = std::move(quota);
         } else {
             troppo = prova;
@@ -113,10 +107,8 @@ std::optional<Quota> QuotaInTempo(Istante entro, Simula&& simula) {
     return sicura;
 }
 
-QString MessaggioScadenza(const Scadenza& scadenza, const std::optional<Quota>& quota) {
-    const QString entro = Testo(scadenza.Ora());
-    if (!quota) return u" Anche senza soste non si è a casa entro %1."_s.arg(entro);
-    return u" Soste al %1% per essere a casa entro %2."_s.arg(quota->millesimi / 10).arg(entro);
+QString MessaggioQuota(const Scadenza& scadenza, const Quota& quota) {
+    return u" Soste al %1% per essere a casa entro %2."_s.arg(quota.millesimi / 10).arg(Testo(scadenza.Ora()));
 }
 
 std::vector<Durata> SosteDellaTabella(const TabellaCalcolo& tabella) {
@@ -158,12 +150,12 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
     } while (daAdeguare && riferimento != meta.giorniAdeguamento && esito.tentativi < kMassimoTentativi);
 
     const auto entro = meta.scadenza ? std::optional(meta.scadenza->Momento()) : std::nullopt;
-    QString messaggioScadenza;
-    if (daAdeguare && entro && !InTempo(passata, *entro)) {
+    std::optional<Quota> quota;
+    const bool tardi = daAdeguare && !passata.InTempo(entro);
+    if (tardi) {
         const std::vector<Durata> intere = SosteDellaTabella(cronovia.tabella);
-        auto quota =
+        quota =
             QuotaInTempo(*entro, [&](int millesimi) { return simula(intere, static_cast<float>(millesimi / 1000.0)); });
-        messaggioScadenza = MessaggioScadenza(*meta.scadenza, quota);
         if (quota) passata = std::move(quota->passata);
         if (passata.interrotta) return esito;
         riferimento = passata.fine ? passata.fine->giorni : 0;
@@ -178,14 +170,18 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
     cronovia.totali = passata.totali;
     cronovia.orario = orario;
     cronovia.prezzi = meta.prezzi;
-    if (daAdeguare && riferimento != meta.giorniAdeguamento && altrimenti == SeNonRiesce::Cerca &&
-        messaggioScadenza.isEmpty()) {
+    const bool nonRiesce = daAdeguare && (riferimento != meta.giorniAdeguamento || (tardi && !quota));
+    if (nonRiesce && altrimenti == SeNonRiesce::Cerca) {
         esito.ricerca = CercaGiorni(meta, cronovia.tabella, OrarioCorretto(meta.parametri), progress);
     }
     ConfrontaScadenza(entro, cronovia);
     SegnaRitardi(cronovia);
     esito.cronovia = std::move(cronovia);
-    esito.messaggio = Messaggio(meta.giorniAdeguamento, riferimento, esito.tentativi) + messaggioScadenza;
+    esito.messaggio = Messaggio(meta.giorniAdeguamento, riferimento, esito.tentativi);
+    // A search that ends where the stops would make one late tells of the same stops.
+    if (quota && !(esito.ricerca && esito.ricerca->finoAllaScadenza)) {
+        esito.messaggio += MessaggioQuota(*meta.scadenza, *quota);
+    }
     if (esito.ricerca) esito.messaggio += u' ' + esito.ricerca->testo;
     progress.Advance(0, 0);
     return esito;

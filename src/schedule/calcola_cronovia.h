@@ -37,8 +37,9 @@ enum class SeNonRiesce {
 /// days wanted / days of the pass before, cut to three decimals, until the trip takes that long; before the first pass
 /// its days are guessed from driving and stops. After `kMassimoTentativi` the last pass stays. When it would be late
 /// home, the stops of the stages are all scaled to the longest with which one is in time, if there are any; the closing
-/// message says so. The limits of the return count from when one has to be home. A `Failure` names what
-/// is missing: the start date, the kilometres of stages, the speed of a road type in use, visiting hours.
+/// message says so, and days that are not the ones wanted then count as not reached. The limits of the return count
+/// from when one has to be home. A `Failure` names what is missing: the start date, the kilometres of stages, the speed
+/// of a road type in use, visiting hours.
 EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress,
                              SeNonRiesce altrimenti = SeNonRiesce::Cerca);
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "schedule/ore_fisse.h"
 
-#include <algorithm>
-
 #include "schedule/orologio_indietro.h"
 #include "schedule/rientro.h"
 
@@ -66,9 +64,9 @@ Imbarco ImbarcoPer(const TraghettoAOrario& traghetto, Istante alMolo) {
 
 void ConfrontaScadenza(const std::optional<Istante>& entro, Cronovia& cronovia) {
     if (!entro) return;
-    const auto ultima = std::find_if(cronovia.righe.rbegin(), cronovia.righe.rend(),
-                                     [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
-    if (ultima != cronovia.righe.rend()) cronovia.scadenza = EsitoScadenza{*entro, *entro - MomentoDi(*ultima), 0};
+    if (const auto ultimo = UltimoMomento(cronovia.righe)) {
+        cronovia.scadenza = EsitoScadenza{*entro, *entro - *ultimo, 0};
+    }
 }
 
 void SegnaRitardi(Cronovia& cronovia) {

@@ -22,12 +22,15 @@ constexpr float kMassimoGiorniSosta = 99;  // that a stop can have in an itinera
 struct Prova {
     PropostaGiorni proposta;
     std::vector<Rinvio> rinvii;
+    bool inTempo = true;  // at home
 };
 
 class Provatore {
   public:
     Provatore(const Meta& meta, const TabellaCalcolo& tabella, const OrarioCorretto& orario, Progress& progress)
-        : meta_(meta), tabella_(tabella), orario_(orario), progress_(progress) {}
+        : meta_(meta), tabella_(tabella), orario_(orario), progress_(progress) {
+        if (meta.scadenza) entro_ = meta.scadenza->Momento();
+    }
 
     const Prova& Con(int percento) {
         const auto gia = prove_.find(percento);
@@ -35,13 +38,17 @@ class Provatore {
     }
     [[nodiscard]] int Giorni(int percento) { return Con(percento).proposta.giorni; }
 
-    /// The least per cent that gives more days than that, or as many; one beyond the last when none does.
+    /// Whether such stops give just so many days, and one is home in time.
+    [[nodiscard]] bool Danno(int percento, int giorni) { return Giorni(percento) == giorni && Con(percento).inTempo; }
+
+    /// The least per cent that gives more days than that, or as many, or has one late; one beyond the last when none
+    /// does.
     int Primo(int giorni) {
         int senza = -1;
         int con = kMassimoPercento + 1;
         while (con - senza > 1) {
             const int mezzo = (senza + con) / 2;
-            (Giorni(mezzo) >= giorni ? con : senza) = mezzo;
+            (Giorni(mezzo) >= giorni || !Con(mezzo).inTempo ? con : senza) = mezzo;
         }
         return con;
     }
@@ -49,14 +56,14 @@ class Provatore {
     /// The per cent nearest to all of the stops that gives just so many days, of which `primo` is the first that gives
     /// as many or more. Now and then longer stops make fewer days: a journey of usual length is looked through then.
     std::optional<int> Esatto(int giorni, int primo) {
-        if (primo <= kMassimoPercento && Giorni(primo) == giorni) {
+        if (primo <= kMassimoPercento && Danno(primo, giorni)) {
             const int vicino = std::clamp(100, primo, std::max(primo, Primo(giorni + 1) - 1));
-            return Giorni(vicino) == giorni ? vicino : primo;
+            return Danno(vicino, giorni) ? vicino : primo;
         }
         if (tabella_.righe.size() > kTappeDaProvareTutte) return std::nullopt;
         for (int lontano = 0; lontano <= 100; ++lontano) {
             for (const int percento : {100 - lontano, 100 + lontano}) {
-                if (Giorni(percento) == giorni) return percento;
+                if (Danno(percento, giorni)) return percento;
             }
         }
         return std::nullopt;
@@ -68,7 +75,7 @@ class Provatore {
     // What is typed has whole minutes: those are computed with.
     Prova Simula(int percento) {
         const Centesimi giorno = orario_.VisitaGiorno();
-        Prova prova{{percento, 0, {}}, {}};
+        Prova prova{{percento, 0, {}}, {}, true};
         for (const RigaCalcolo& riga : tabella_.righe) {
             const Centesimi sosta = InCentesimi(riga.sosta, giorno) * (static_cast<float>(percento) / 100.0F);
             prova.proposta.soste.push_back(InDurata(std::min(sosta, giorno * kMassimoGiorniSosta), giorno));
@@ -78,6 +85,7 @@ class Provatore {
         interrotto_ = interrotto_ || passata.interrotta;
         prova.proposta.giorni = passata.fine ? passata.fine->giorni : 0;
         prova.rinvii = passata.rinvii;
+        prova.inTempo = passata.InTempo(entro_);
         return prova;
     }
 
@@ -85,6 +93,7 @@ class Provatore {
     const TabellaCalcolo& tabella_;
     const OrarioCorretto& orario_;
     Progress& progress_;
+    std::optional<Istante> entro_;
     std::map<int, Prova> prove_;
     bool interrotto_ = false;
 };
@@ -98,6 +107,8 @@ QString Al(int percento) {
 }
 
 QString ConLeSoste(int percento) { return percento == 0 ? u"senza soste"_s : u"con le soste "_s + Al(percento); }
+
+QString NonInTempo(const Meta& meta) { return u"non si è a casa entro "_s + Testo(meta.scadenza->Ora()) + u'.'; }
 
 QString PrimaMaiuscola(QString testo) { return testo.replace(0, 1, testo.first(1).toUpper()); }
 
@@ -134,11 +145,10 @@ QString GiornoInPiu(const Prova& sotto, const Prova& sopra, NumeroGiorno inizio,
 }
 
 // What takes its days whatever the stops are.
-QString NonSiAccorciano(const Prova& prova, const Meta& meta, const TabellaCalcolo& tabella,
-                        const OrarioCorretto& orario) {
+QString NonSiAccorciano(const Prova& prova, const TabellaCalcolo& tabella, const OrarioCorretto& orario) {
     std::vector<Tappa> tappe;
     int fini = 0;
-    int fissati = meta.scadenza ? 1 : 0;
+    int fissati = 0;
     for (const RigaCalcolo& riga : tabella.righe) {
         tappe.push_back(riga.tappa);
         if (riga.fineGiorno) ++fini;
@@ -170,15 +180,23 @@ std::optional<RicercaGiorni> CercaGiorni(const Meta& meta, const TabellaCalcolo&
         ricerca.esatta = prova.proposta;
         ricerca.testo =
             PrimaMaiuscola(ConLeSoste(prova.proposta.percento)) + u' ' + GiorniSono(prova.proposta.giorni) + u'.';
+    } else if (primo == 0 && !provatore.Con(0).inTempo) {
+        ricerca.testo = u"Anche senza soste "_s + NonInTempo(meta) + NonSiAccorciano(provatore.Con(0), tabella, orario);
     } else if (primo == 0) {
         ricerca.sopra = provatore.Con(0).proposta;
         ricerca.testo = u"Anche senza soste "_s + GiorniSono(ricerca.sopra->giorni) + u'.' +
-                        NonSiAccorciano(provatore.Con(0), meta, tabella, orario);
+                        NonSiAccorciano(provatore.Con(0), tabella, orario);
     } else if (primo > kMassimoPercento) {
         ricerca.sotto = provatore.Con(kMassimoPercento).proposta;
         ricerca.testo = (tabella.totaleSoste > 0_cent ? u"Anche con le soste al %1% "_s.arg(kMassimoPercento)
                                                       : u"Non ci sono soste da allungare: "_s) +
                         GiorniSono(ricerca.sotto->giorni) + u'.';
+    } else if (!provatore.Con(primo).inTempo) {
+        const Prova& sotto = provatore.Con(primo - 1);
+        ricerca.sotto = sotto.proposta;
+        ricerca.finoAllaScadenza = true;
+        ricerca.testo = PrimaMaiuscola(ConLeSoste(primo - 1)) + u' ' + GiorniSono(sotto.proposta.giorni) + u": "_s +
+                        Al(primo) + u' ' + NonInTempo(meta) + NonSiAccorciano(sotto, tabella, orario);
     } else {
         const Prova& sotto = provatore.Con(primo - 1);
         const Prova& sopra = provatore.Con(primo);
@@ -188,7 +206,7 @@ std::optional<RicercaGiorni> CercaGiorni(const Meta& meta, const TabellaCalcolo&
         ricerca.testo = PrimaMaiuscola(ConLeSoste(primo - 1)) + u' ' + GiorniSono(sotto.proposta.giorni) +
                         u", %1 sono %2"_s.arg(Al(primo)).arg(sopra.proposta.giorni) +
                         (inPiu.isEmpty() ? u"."_s : u": il giorno in più è %1."_s.arg(inPiu)) +
-                        NonSiAccorciano(sotto, meta, tabella, orario);
+                        NonSiAccorciano(sotto, tabella, orario);
     }
     if (provatore.Interrotto()) return std::nullopt;
     return ricerca;

@@ -27,11 +27,12 @@ struct RicercaGiorni {
     std::optional<PropostaGiorni> esatta;  ///< the days wanted, with the stops changed as little as possible
     std::optional<PropostaGiorni> sotto;   ///< else the most days below them; nothing when there are none
     std::optional<PropostaGiorni> sopra;   ///< and the least above, with one per cent more
+    bool finoAllaScadenza = false;         ///< `sotto` are all that one can have and be home in time
     QString testo;                         ///< both in the words of people, and what cannot shrink
 };
 
-/// Looks for the days that `meta` wants, with whole per cents of the stops from 0 to `kMassimoPercento`. Nothing when
-/// the person stopped it.
+/// Looks for the days that `meta` wants, with whole per cents of the stops from 0 to `kMassimoPercento`. Where one has
+/// to be home by an hour, stops with which one would be late count as too long. Nothing when the person stopped it.
 std::optional<RicercaGiorni> CercaGiorni(const Meta& meta, const TabellaCalcolo& tabella, const OrarioCorretto& orario,
                                          Progress& progress);
 

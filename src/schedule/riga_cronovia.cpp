@@ -1,12 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "schedule/riga_cronovia.h"
 
+#include <algorithm>
+
 #include "calendar/durata.h"
 #include "calendar/testo.h"
 
 namespace cronovia {
 
 std::array<QString, 7> TestiFine::Elenco() const { return {giorno, mese, anno, ore, minuti, giornoSettimana, giorni}; }
+
+std::optional<Istante> UltimoMomento(std::span<const RigaCronovia> righe) {
+    const auto ultima =
+        std::find_if(righe.rbegin(), righe.rend(), [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
+    return ultima == righe.rend() ? std::nullopt : std::optional(Istante{ultima->data, ultima->ora});
+}
 
 bool InRitardo(const Cronovia& cronovia, const RigaCronovia& riga) {
     return riga.genere == GenereRiga::Attesa && cronovia.ore[static_cast<std::size_t>(riga.voce)].ritardo > 0_cent;

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "calendar/date.h"
@@ -67,6 +68,9 @@ struct RigaCronovia {
     Durata sosta;       ///< the stop before this pass scaled it
     std::optional<LimiteRitorno> limite;
 };
+
+/// The last moment of rows; nothing when none has one.
+std::optional<Istante> UltimoMomento(std::span<const RigaCronovia> righe);
 
 /// What time is spent on.
 enum class GenereFascia : std::uint8_t { Marcia, Visita, Traghetto, Pranzo, Cena, Riposo, Attesa };

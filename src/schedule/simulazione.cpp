@@ -433,6 +433,11 @@ class Simulazione {
 
 }  // namespace
 
+bool Passata::InTempo(const std::optional<Istante>& entro) const {
+    const auto ultimo = UltimoMomento(righe);
+    return !entro || !ultimo || *ultimo <= *entro;
+}
+
 Passata SimulaPassata(const RichiestaPassata& richiesta, Progress& progress) {
     return Simulazione(richiesta).Esegui(progress);
 }

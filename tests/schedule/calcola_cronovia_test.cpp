@@ -77,12 +77,26 @@ TEST_F(CalcolaCronoviaTest, WhatComesNearestHoldsOnceItIsTyped) {
     for (int i = 0; i < 12; ++i) Aggiungi(i == 0 ? 0 : 150 + i * 17, {0, i % 5, 20});
     const std::vector<Tappa> digitate = tappe_;
     int cercati = 0;
-    for (int voluti = 1; voluti <= 40; ++voluti) {
+    int limitati = 0;
+    for (int caso = 0; caso < 80; ++caso) {
+        const int voluti = caso / 2 + 1;
         tappe_ = digitate;
         meta_.giorniAdeguamento = voluti;
-        const std::optional<RicercaGiorni> ricerca = Calcola().ricerca;
+        meta_.scadenza.reset();
+        if (caso % 2 == 1) meta_.scadenza = Scadenza::Da(OraFissa::Da(20 * 60, *meta_.dataInizio + 16));
+        const EsitoCalcolo esito = Calcola();
+        const auto inTempo = [](const EsitoCalcolo& e) {
+            return !e.cronovia->scadenza || e.cronovia->scadenza->margine >= 0_cent;
+        };
+        EXPECT_TRUE(inTempo(esito)) << voluti;
+        EXPECT_EQ(esito.cronovia->fine->giorni == voluti, esito.messaggio.startsWith(u"Elaborazione conclusa"_s));
+        const std::optional<RicercaGiorni>& ricerca = esito.ricerca;
         if (!ricerca) continue;
         ++cercati;
+        if (ricerca->finoAllaScadenza) {
+            ++limitati;
+            EXPECT_TRUE(ricerca->testo.contains(u"% non si è a casa entro "_s)) << ricerca->testo.toStdString();
+        }
         if (ricerca->sotto && ricerca->sopra) {
             EXPECT_LT(ricerca->sotto->giorni, voluti);
             EXPECT_GT(ricerca->sopra->giorni, voluti);
@@ -93,10 +107,17 @@ TEST_F(CalcolaCronoviaTest, WhatComesNearestHoldsOnceItIsTyped) {
         for (const auto& proposta : {ricerca->esatta, ricerca->sotto, ricerca->sopra}) {
             if (!proposta) continue;
             for (std::size_t i = 0; i < tappe_.size(); ++i) tappe_[i].sosta = proposta->soste[i];
-            EXPECT_EQ(Calcola().cronovia->fine->giorni, proposta->giorni) << voluti << ' ' << proposta->percento;
+            const EsitoCalcolo digitata = Calcola();
+            EXPECT_EQ(digitata.cronovia->fine->giorni, proposta->giorni) << voluti << ' ' << proposta->percento;
+            EXPECT_TRUE(inTempo(digitata)) << voluti << ' ' << proposta->percento;
         }
     }
-    EXPECT_GT(cercati, 5);
+    EXPECT_GT(cercati, 10);
+    EXPECT_GT(limitati, 5);
+    meta_.giorniAdeguamento = 9;
+    meta_.scadenza = Scadenza::Da(OraFissa::Da(9 * 60, *meta_.dataInizio));
+    EXPECT_TRUE(Calcola().messaggio.contains(u" Anche senza soste non si è a casa entro "_s));
+    EXPECT_TRUE(Calcola().messaggio.contains(u" Non si accorciano: "_s));
 }
 
 TEST_F(CalcolaCronoviaTest, CostsAreThoseOfEachDay) {
