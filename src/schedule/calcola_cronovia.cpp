@@ -92,13 +92,13 @@ std::optional<Quota> QuotaInTempo(Istante entro, Simula&& simula) {
     constexpr int kMassimaQuota = 999'000;
     Quota sicura{0, simula(0)};
     if (sicura.passata.interrotta) return sicura;
-    if (!sicura.passata.InTempo(entro)) return std::nullopt;
+    if (!InTempo(sicura.passata.righe, entro)) return std::nullopt;
     int troppo = kMassimaQuota + 1;
     for (int passo = 1000; troppo - sicura.millesimi > 1; passo *= 2) {
         const int prova = std::min(sicura.millesimi + passo, (sicura.millesimi + troppo) / 2);
         Quota quota{prova, simula(prova)};
         if (quota.passata.interrotta) return quota;
-        if (quota.passata.InTempo(entro)) {
+        if (InTempo(quota.passata.righe, entro)) {
             sicura = std::move(quota);
         } else {
             troppo = prova;
@@ -151,7 +151,7 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
 
     const auto entro = meta.scadenza ? std::optional(meta.scadenza->Momento()) : std::nullopt;
     std::optional<Quota> quota;
-    const bool tardi = daAdeguare && !passata.InTempo(entro);
+    const bool tardi = daAdeguare && !InTempo(passata.righe, entro);
     if (tardi) {
         const std::vector<Durata> intere = SosteDellaTabella(cronovia.tabella);
         quota =

@@ -85,7 +85,7 @@ class Provatore {
         interrotto_ = interrotto_ || passata.interrotta;
         prova.proposta.giorni = passata.fine ? passata.fine->giorni : 0;
         prova.rinvii = passata.rinvii;
-        prova.inTempo = passata.InTempo(entro_);
+        prova.inTempo = InTempo(passata.righe, entro_);
         return prova;
     }
 

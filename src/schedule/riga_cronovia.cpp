@@ -16,6 +16,11 @@ std::optional<Istante> UltimoMomento(std::span<const RigaCronovia> righe) {
     return ultima == righe.rend() ? std::nullopt : std::optional(Istante{ultima->data, ultima->ora});
 }
 
+bool InTempo(std::span<const RigaCronovia> righe, const std::optional<Istante>& entro) {
+    const auto ultimo = UltimoMomento(righe);
+    return !entro || !ultimo || *ultimo <= *entro;
+}
+
 bool InRitardo(const Cronovia& cronovia, const RigaCronovia& riga) {
     return riga.genere == GenereRiga::Attesa && cronovia.ore[static_cast<std::size_t>(riga.voce)].ritardo > 0_cent;
 }

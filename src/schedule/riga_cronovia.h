@@ -71,6 +71,8 @@ struct RigaCronovia {
 
 /// The last moment of rows; nothing when none has one.
 std::optional<Istante> UltimoMomento(std::span<const RigaCronovia> righe);
+/// Whether that is not after an hour; without the one or the other nothing is late.
+bool InTempo(std::span<const RigaCronovia> righe, const std::optional<Istante>& entro);
 
 /// What time is spent on.
 enum class GenereFascia : std::uint8_t { Marcia, Visita, Traghetto, Pranzo, Cena, Riposo, Attesa };

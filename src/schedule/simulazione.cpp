@@ -81,7 +81,7 @@ class Simulazione {
         if (tappa.Traghetto()) ++passata_.totali.traghetti;
         const Vincoli* vincoli = tappa.vincoli.operator->();
         const bool conOre = vincoli != nullptr && (vincoli->traghetto || vincoli->arrivo);
-        if (tappa.SenzaSosta() && tappa.km <= 0 && !conOre) {
+        if (SoloNome(indice) && !conOre) {
             NuovaRiga(GenereRiga::Tappa, indice);
             return;
         }
@@ -94,7 +94,7 @@ class Simulazione {
             vincoli != nullptr && vincoli->arrivo ? SostaAOrario(indice, *vincoli->arrivo) : Sosta(indice);
         const bool ultima = indice + 1 == static_cast<int>(richiesta_.tabella.righe.size());
         if (tappa.km <= 0 && !fermata && !conOre && ultima) NuovaRiga(GenereRiga::Tappa, indice);
-        ElencaGuida(indice);
+        if (!SoloNome(indice)) ElencaGuida(indice);
     }
 
     // Waits at the quay and sails, through meals and nights; what is eaten on board counts as eaten.
@@ -150,13 +150,21 @@ class Simulazione {
     // Whether a stop follows the arrival: a visit, or a ferry at whichever hour.
     bool ConSosta(int indice) const {
         const Durata& sosta = passata_.soste[static_cast<std::size_t>(indice)];
-        return (!sosta.Nulla() && richiesta_.fattoreSoste > 0) || Riga(indice).tappa.TraghettoSenzaOrario();
+        const bool traghetto = Riga(indice).tappa.TraghettoSenzaOrario();
+        return !SoloNome(indice) && (traghetto || (!sosta.Nulla() && richiesta_.fattoreSoste > 0));
+    }
+
+    // Without a way there and a stop planned there, its ferry does not count, nor what the guide tells of it.
+    bool SoloNome(int indice) const {
+        const Tappa& tappa = Riga(indice).tappa;
+        return tappa.SenzaSosta() && tappa.km <= 0 && !tappa.vincoli.ConTraghetto();
     }
 
     // It may not depend on the hour of the arrival: who comes earlier would leave later.
     bool VisitaSubito(int indice) const {
         const RigaCalcolo& riga = Riga(indice);
-        return !riga.sostaGuida.Nulla() || InCentesimi(riga.sosta, orario_.VisitaGiorno()) >= orario_.VisitaGiorno();
+        const Centesimi giorno = orario_.VisitaGiorno();
+        return !SoloNome(indice) && (!riga.sostaGuida.Nulla() || InCentesimi(riga.sosta, giorno) >= giorno);
     }
 
     // The row of an hour that others set, and what is late by it.
@@ -195,8 +203,9 @@ class Simulazione {
         return riga;
     }
 
-    // From a wait on every day has its meals: a later arrival that counted those of the day before as its own would go
-    // on earlier than one in time. Those whose hour is still to come are not taken yet.
+    // From a wait or a visit within its own hours on, every day has its meals: a later arrival that counted those of
+    // the day before as its own would go on earlier than one in time. Those whose hour is still to come are not taken
+    // yet.
     void ContaIPasti() {
         atteso_ = true;
         orologio_.pranzoFatto = orologio_.pranzoFatto && orologio_.ora >= p_.oraPranzo;
@@ -357,14 +366,16 @@ class Simulazione {
     }
 
     bool Sosta(int indice) {
+        if (SoloNome(indice)) return false;
         const RigaCalcolo& tabella = Riga(indice);
         const Tappa& tappa = tabella.tappa;
         Durata& sosta = passata_.soste[static_cast<std::size_t>(indice)];
         const Durata prevista = sosta;
-        const EsitoSosta esito =
-            CalcolaLaSosta({sosta, tabella.fineGiorno, tappa.TraghettoSenzaOrario(), richiesta_.fattoreSoste,
-                            tappa.vincoli ? tappa.vincoli->visite : std::nullopt, atteso_},
-                           orario_, orologio_);
+        const auto visite = tappa.vincoli ? tappa.vincoli->visite : std::nullopt;
+        if (visite && ConSosta(indice)) ContaIPasti();
+        const EsitoSosta esito = CalcolaLaSosta(
+            {sosta, tabella.fineGiorno, tappa.TraghettoSenzaOrario(), richiesta_.fattoreSoste, visite, atteso_},
+            orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
         AnnotaSosta(esito, indice);
         const bool cambiaGiorno = esito.orologio.data > orologio_.data;
@@ -425,18 +436,13 @@ class Simulazione {
     const ParametriViaggio& p_;
     int tolleranza_;
     Orologio orologio_;
-    bool atteso_ = false;  // there was a wait
+    bool atteso_ = false;  // there was a wait, or a visit within its own hours
     Istante qui_;          // since when one is here: before the meal, rests or night that an arrival brought
     std::int64_t kmProgressivi_ = 0;
     Passata passata_;
 };
 
 }  // namespace
-
-bool Passata::InTempo(const std::optional<Istante>& entro) const {
-    const auto ultimo = UltimoMomento(righe);
-    return !entro || !ultimo || *ultimo <= *entro;
-}
 
 Passata SimulaPassata(const RichiestaPassata& richiesta, Progress& progress) {
     return Simulazione(richiesta).Esegui(progress);

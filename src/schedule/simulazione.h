@@ -33,9 +33,6 @@ struct Passata {
     NumeroGiorno data;  ///< the clock where the simulation ended
     Centesimi ora;
     bool interrotta = false;  ///< a stop was requested; nothing else counts then
-
-    /// Whether its last moment is not after that one; without any moment it is not, and without an hour neither.
-    [[nodiscard]] bool InTempo(const std::optional<Istante>& entro) const;
 };
 
 /// Walks the stages on a clock that starts with the trip. Every road type in use needs a speed, the visiting hours must

@@ -32,7 +32,7 @@ class OreFisseTest : public testing::Test {
         meta_.oraInizio = Centesimi(Caso(5, 23) * 100);
         meta_.parametri.riposoMinuti = UnaVoltaSu(3) ? 0 : 5 * Caso(1, 4);
         meta_.parametri.riposoOre = Caso(2, 4);
-        meta_.parametri.riposoGiorno = 0;  // these are due by the calendar, wherever one has got to
+        meta_.parametri.riposoGiorno = 0;  // these are due by the calendar: see below
         meta_.parametri.calcoloSoste = CalcoloSoste::SosteItinerario;
         tappe_.clear();
         const int tappe = Caso(2, 9);
@@ -56,18 +56,24 @@ class OreFisseTest : public testing::Test {
         return conData ? std::optional(*meta_.dataInizio + Caso(0, 12)) : std::nullopt;
     }
 
-    // One hour more, at a stage that is returned: to arrive between, or the same ferry on a later day.
-    std::size_t Aggiungi() {
+    // One hour more, at a stage that is returned: to arrive or to visit between, a day for its ferry or a later one.
+    std::size_t Aggiungi(const Cronovia& prima) {
         const auto dove = static_cast<std::size_t>(Caso(0, static_cast<int>(tappe_.size()) - 1));
         Vincoli vincoli = tappe_[dove].vincoli.Valore();
-        if (vincoli.traghetto && vincoli.traghetto->Partenza().Data() && UnaVoltaSu(2)) {
-            const OraFissa partenza = vincoli.traghetto->Partenza();
-            vincoli =
-                Traghetto(*partenza.Data() + Caso(1, 5), partenza.Minuti(), vincoli.traghetto->MinutiNavigazione())
-                    .Valore();
+        const auto preso = std::find_if(prima.ore.begin(), prima.ore.end(), [&](const EsitoOra& ora) {
+            return ora.genere == GenereOra::Partenza && static_cast<std::size_t>(ora.tappa) == dove;
+        });
+        if (preso != prima.ore.end() && UnaVoltaSu(2)) {
+            const OraFissa ora = vincoli.traghetto->Partenza();
+            const NumeroGiorno giorno = ora.Data() ? *ora.Data() + Caso(1, 5) : preso->ora.data + Caso(0, 3);
+            vincoli = Traghetto(giorno, ora.Minuti(), vincoli.traghetto->MinutiNavigazione()).Valore();
+        } else if (UnaVoltaSu(4)) {
+            vincoli.visite = OreDiVisita::Da(Caso(9 * 60, 12 * 60), Caso(14 * 60, 17 * 60 + 30));
         } else {
             const auto nonPrima = OraFissa::Da(Caso(0, 1439), Giorno(UnaVoltaSu(2)));
-            vincoli.arrivo = OreDiArrivo::Da(nonPrima, std::nullopt);
+            const auto nonDopo = OraFissa::Da(Caso(0, 1439), Giorno(UnaVoltaSu(2)));
+            vincoli.arrivo = OreDiArrivo::Da(nonPrima, UnaVoltaSu(2) ? nonDopo : std::nullopt);
+            if (!vincoli.arrivo || UnaVoltaSu(4)) vincoli.arrivo = OreDiArrivo::Da(std::nullopt, nonDopo);
         }
         tappe_[dove].vincoli = vincoli;
         return dove;
@@ -104,12 +110,14 @@ TEST_F(OreFisseTest, NothingIsEarlierForAnHourMore) {
         NuovoViaggio();
         const std::vector<Tappa> senza = tappe_;
         const Cronovia prima = Calcola();
-        const std::size_t dove = Aggiungi();
+        const std::size_t dove = Aggiungi(prima);
+        const VincoliTappa& nuovi = tappe_[dove].vincoli;
+        const bool soloNonDopo = nuovi->arrivo && !nuovi->arrivo->NonPrima();  // tells of lateness, changes nothing
         const auto momenti = Momenti(prima);
         const auto dopo = Momenti(Calcola());
         for (std::size_t i = 0; i < tappe_.size(); ++i) {
             for (const std::size_t che : {0U, 1U}) {
-                if (i < dove || (i == dove && che == 0 && !tappe_[i].vincoli.ConTraghetto())) {
+                if (soloNonDopo || i < dove || (i == dove && che == 0 && !nuovi.ConTraghetto())) {
                     ASSERT_EQ(dopo[i][che], momenti[i][che]) << viaggio << ": stage " << i << " comes before";
                 } else {
                     ASSERT_GE(dopo[i][che], momenti[i][che] - kArrotondamenti) << viaggio << ": stage " << i;
@@ -118,6 +126,45 @@ TEST_F(OreFisseTest, NothingIsEarlierForAnHourMore) {
         }
         tappe_ = senza;
         ASSERT_EQ(TestiDellaCronovia(Calcola()), TestiDellaCronovia(prima)) << viaggio;
+    }
+}
+
+// Where an hour more does make something earlier, and why that stays: to wait at the start is to leave later, and who
+// leaves later is now and then there earlier, without any hour that others set: a meal within minutes of its hour takes
+// the place of a short rest, whole days of rest fall due by the date on which a long stop ended, a ferry lands when a
+// meal has been had on board. Such journeys stay as they are, and who waits goes on like who left at that hour.
+TEST_F(OreFisseTest, WaitingAtTheStartIsLeavingLater) {
+    const auto tappa = [](int km, Durata sosta = {}) {
+        Tappa una;
+        una.localita = u"TAPPA"_s;
+        una.km = km;
+        una.tipo = TipoStrada::Autostrada;
+        una.sosta = sosta;
+        return una;
+    };
+    NuovoViaggio();
+    meta_.parametri = {};
+    meta_.parametri.riposoMinuti = 20;
+    meta_.parametri.riposoDopoGiorni = 1;
+    meta_.parametri.calcoloSoste = CalcoloSoste::SosteItinerario;
+    Tappa mare = tappa(0);
+    mare.vincoli = Traghetto(meta_.dataInizio, 10 * 60, 120);
+    const std::vector<std::tuple<int, int, std::vector<Tappa>>> casi = {
+        {9 * 60 + 5, 9 * 60 + 12, {tappa(0), tappa(300)}},
+        {16 * 60 + 50, 17 * 60 + 10, {tappa(0), tappa(1, {1, 1, 0}), tappa(450)}},
+        {9 * 60 + 25, 9 * 60 + 55, {tappa(0), mare, tappa(75)}}};
+    for (const auto& [parte, attende, tappe] : casi) {
+        const auto arrivo = [&](int partenza) {
+            meta_.oraInizio = InCentesimi({0, 0, partenza}, kGiornoOrologio);
+            return *UltimoMomento(Calcola().righe);
+        };
+        tappe_ = tappe;
+        const Istante dopo = arrivo(attende);
+        EXPECT_TRUE(dopo < arrivo(parte)) << parte;
+        Vincoli vincoli;
+        vincoli.arrivo = OreDiArrivo::Da(OraFissa::Da(attende), std::nullopt);
+        tappe_.front().vincoli = vincoli;
+        EXPECT_TRUE(dopo == arrivo(parte)) << parte;
     }
 }
 
