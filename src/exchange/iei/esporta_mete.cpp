@@ -154,6 +154,7 @@ qint64 ScriviSezione(Archive& archive, Table tabella, const std::vector<QString>
         HeedStop(progress);
         progress.Advance(++fatte, static_cast<double>(codici.size()));
         std::vector<Aggiunte> aggiunte;
+        aggiunte.reserve(aggiunti.size());
         for (const CampiAggiunti& campi : aggiunti) aggiunte.emplace_back(archive, campi, codice);
         for (const Record& record : archive.Select(PerCodice(tabella, codice))) {
             std::vector<QString> valori = record.values;

@@ -31,7 +31,7 @@ std::size_t TappaDa(const RigheItinerario& righe, std::size_t posto) {
 
 QString NomePrima(const RigheItinerario& righe, std::size_t posto) {
     while (posto > 0) {
-        if (const QString luogo = NomeLuogo(righe[--posto]); !luogo.isEmpty()) return luogo;
+        if (QString luogo = NomeLuogo(righe[--posto]); !luogo.isEmpty()) return luogo;
     }
     return {};
 }
