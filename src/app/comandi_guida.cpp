@@ -15,9 +15,17 @@ namespace {
 
 // What would become of the places of a file; nothing when the person stopped it, or knows why it cannot be read.
 std::optional<std::vector<SostaProposta>> SosteDelFile(Postazione& p, const QString& file) {
+    std::optional<TabellaDaSpiegare> tabella;
+    if (!p.Prova([&] { tabella = SosteDaSpiegare(file); })) return std::nullopt;
+    std::optional<PostoColonne> colonne;
+    if (tabella) {
+        colonne = p.volti.chiediColonne(*tabella);
+        if (!colonne) return std::nullopt;
+    }
     std::optional<std::vector<SostaProposta>> soste;
     const bool lette = p.MentreCorre([&] {
-        soste = ProponiSoste(p.sessione.Archivio(), p.luoghi.Repertorio(), LeggiSoste(file), p.volti.avanzamento);
+        soste =
+            ProponiSoste(p.sessione.Archivio(), p.luoghi.Repertorio(), LeggiSoste(file, colonne), p.volti.avanzamento);
     });
     if (lette && !soste) p.Mostra(u"Lettura delle soste interrotta."_s);
     return soste;

@@ -54,6 +54,8 @@ struct Volti {
     std::function<std::optional<std::size_t>(const std::vector<Alternativa>&)> scegliAlternativa = {};
     /// Shows what would become of the places of a file; whether the new ones are to be added.
     std::function<bool(const std::vector<SostaProposta>& soste)> confermaSoste = {};
+    /// Which column of a table of places tells what; nothing when the person does not want to tell.
+    std::function<std::optional<PostoColonne>(const TabellaDaSpiegare& tabella)> chiediColonne = {};
     std::function<void(const QString& argomento)> manuale = {};  ///< opens it at the chapter of that heading
     std::function<void()> preferenze = {};                       ///< asks for them and takes them over
     std::function<void(const QString& cartella)> lavoraIn = {};  ///< the archive is that of another folder from now on

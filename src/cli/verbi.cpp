@@ -254,6 +254,8 @@ std::vector<Verbo> VerbiDellaCronovia() {
           {u"togli"_s, {}, u"Toglie un'annotazione: LOCALITA TIPO DESCRIZIONE."_s},
           {u"importa"_s, u"FILE"_s,
            u"Aggiunge le aree di sosta e i campeggi di un elenco: GPX, KML, KMZ, GeoJSON, CSV."_s},
+          {u"colonne"_s, u"nome=…,latitudine=…,longitudine=…"_s,
+           u"Con --importa: quali colonne di una tabella dicono che cosa, per nome o numero; anche tipo, descrizione, note."_s},
           {u"prova"_s, {}, u"Con --importa: elenca che cosa aggiungerebbe, senza farlo."_s}},
          0,
          6,

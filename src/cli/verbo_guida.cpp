@@ -81,7 +81,11 @@ void ControllaMostra(const Richiesta& richiesta) {
     if (richiesta.argomenti.size() > massimo) {
         throw WrongUsage(u"Il verbo «guida» non vuole l'argomento «%1»."_s.arg(richiesta.argomenti.at(massimo)));
     }
-    if (richiesta.opzioni.contains(u"prova"_s)) throw WrongUsage(u"L'opzione --prova vale solo con --importa."_s);
+    for (const QString& opzione : {u"prova"_s, u"colonne"_s}) {
+        if (richiesta.opzioni.contains(opzione)) {
+            throw WrongUsage(u"L'opzione --%1 vale solo con --importa."_s.arg(opzione));
+        }
+    }
     for (const QString& nome : {u"dettaglio"_s, u"sovrascrivi"_s}) {
         if (!pdf && richiesta.opzioni.contains(nome)) {
             throw WrongUsage(u"L'opzione --%1 vale solo con --pdf."_s.arg(nome));
@@ -224,13 +228,17 @@ void ScriviEsito(const std::vector<SostaProposta>& soste, bool prova, Formato fo
 
 void Importa(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const bool prova = richiesta.opzioni.contains(u"prova"_s);
-    if (!richiesta.argomenti.isEmpty() || richiesta.opzioni.size() > (prova ? 2 : 1)) {
-        throw WrongUsage(u"Con --importa si scrive: guida --importa FILE [--prova]."_s);
+    const bool conColonne = richiesta.opzioni.contains(u"colonne"_s);
+    if (!richiesta.argomenti.isEmpty() || richiesta.opzioni.size() > 1 + (prova ? 1 : 0) + (conColonne ? 1 : 0)) {
+        throw WrongUsage(u"Con --importa si scrive: guida --importa FILE [--colonne nome=…,…] [--prova]."_s);
     }
     Sessione sessione = apri();
     Progress& progress = *richiesta.avanzamento;
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
-    const std::vector<SostaLetta> lette = LeggiSoste(richiesta.opzioni.value(u"importa"_s));
+    const QString file = richiesta.opzioni.value(u"importa"_s);
+    std::optional<PostoColonne> colonne;
+    if (conColonne) colonne = LeggiColonne(richiesta.opzioni.value(u"colonne"_s), PrimaRigaSoste(file));
+    const std::vector<SostaLetta> lette = LeggiSoste(file, colonne);
     auto soste = ProponiSoste(sessione.Archivio(), gazzettino, lette, progress);
     if (!soste) return;
     if (!prova && SosteNuove(*soste) > 0) AggiungiSoste(sessione.Archivio(), *soste);

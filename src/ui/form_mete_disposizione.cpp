@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -13,6 +14,7 @@
 #include "ui/comuni/colori.h"
 #include "ui/comuni/spazi.h"
 #include "ui/form_mete.h"
+#include "ui/guida/frm_colonne.h"
 
 namespace cronovia {
 
@@ -43,6 +45,10 @@ void FormMete::Disponi() {
     scorre->setFrameShape(QFrame::NoFrame);
     scorre->setWidget(centro);
     setCentralWidget(scorre);
+    // A button far to the right that has the focus for a moment draws the view there; the grid is read from its left.
+    connect(qApp, &QApplication::focusChanged, scorre, [this, scorre](QWidget* /*prima*/, QWidget* ora) {
+        if (ora == &griglia_.Vista()) scorre->horizontalScrollBar()->setValue(0);
+    });
 }
 
 // The grid takes the room that is left; the lists lie over it, the entry frame beside it.
@@ -88,6 +94,9 @@ void FormMete::CreaBenvenuto(QGridLayout& area) {
 void FormMete::CompletaMenu() {
     postazione_.volti.manuale = [this](const QString& argomento) { ApriManuale(argomento); };
     postazione_.volti.preferenze = [this] { ScegliPreferenze(); };
+    postazione_.volti.chiediColonne = [this](const TabellaDaSpiegare& tabella) {
+        return ChiediColonne(*this, tabella);
+    };
     postazione_.volti.lavoraIn = [this](const QString& cartella) { Q_EMIT LavoraIn(cartella); };
     for (const Comando comando :
          {Comando::Annulla, Comando::Ripeti, Comando::Taglia, Comando::Copia, Comando::Incolla, Comando::DuplicaRighe,

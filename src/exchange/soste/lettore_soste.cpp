@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <array>
 #include <optional>
+#include <tuple>
 
 #include "calendar/testo.h"
 #include "exchange/navigatori/lettore_navigatore.h"
@@ -14,7 +15,6 @@
 #include "files/celle.h"
 #include "files/lettore_righe.h"
 #include "interaction/failure.h"
-#include "places/nomi.h"
 
 namespace cronovia {
 
@@ -24,42 +24,8 @@ namespace {
 
 constexpr int kMassimeRigheCampo = 100;
 constexpr qsizetype kMassimoMostrato = 40;
-
-enum ColonnaSosta { kNome, kLatitudine, kLongitudine, kTipo, kDescrizione, kNote };
-constexpr std::size_t kColonneSosta = 6;
-
-// Where each column stands in a line; -1 for one that the table lacks.
-using PostoColonne = std::array<int, kColonneSosta>;
-
-// The names that headers go by, folded.
-std::optional<ColonnaSosta> ColonnaDetta(const QString& intestazione) {
-    static const std::array<QStringList, kColonneSosta> nomi = {{
-        {u"nome"_s, u"name"_s, u"titolo"_s, u"title"_s, u"denominazione"_s},
-        {u"lat"_s, u"latitudine"_s, u"latitude"_s, u"y"_s},
-        {u"lon"_s, u"lng"_s, u"long"_s, u"longitudine"_s, u"longitude"_s, u"x"_s},
-        {u"tipo"_s, u"type"_s, u"tipologia"_s, u"categoria"_s, u"category"_s},
-        {u"descrizione"_s, u"description"_s, u"desc"_s},
-        {u"note"_s, u"nota"_s, u"notes"_s, u"commento"_s, u"comment"_s},
-    }};
-    const QString piegata = NomePiegato(intestazione);
-    for (std::size_t i = 0; i < kColonneSosta; ++i) {
-        if (nomi[i].contains(piegata)) return static_cast<ColonnaSosta>(i);
-    }
-    return std::nullopt;
-}
-
-// The columns that a first line names; nothing when it does not say where the places lie.
-std::optional<PostoColonne> DaIntestazione(const QStringList& campi) {
-    PostoColonne posto{};
-    posto.fill(-1);
-    for (int i = 0; i < campi.size(); ++i) {
-        const auto colonna = ColonnaDetta(campi[i]);
-        if (colonna && posto[*colonna] < 0) posto[*colonna] = i;
-    }
-    if (posto[kLatitudine] < 0 || posto[kLongitudine] < 0) return std::nullopt;
-    if (posto[kNome] < 0) std::swap(posto[kNome], posto[kDescrizione]);  // what the only text says is the name
-    return posto;
-}
+constexpr qsizetype kMinimeColonne = 3;
+constexpr std::array kSeparatori = {u'\t', u';', u','};
 
 constexpr PostoColonne kSenzaIntestazione = {2, 1, 0, -1, -1, 3};
 
@@ -76,11 +42,43 @@ class LettoreTabella {
   public:
     LettoreTabella(QIODevice& device, const QString& path) : righe_(device), nome_(QDir::toNativeSeparators(path)) {}
 
+    /// The first line in its cells, and the next one, when the columns have to be told.
+    std::optional<TabellaDaSpiegare> DaSpiegare() {
+        if (!AvanzaPiena()) return std::nullopt;
+        if (Riconosci()) return std::nullopt;
+        TabellaDaSpiegare tabella;
+        tabella.intestazione = InPiuCelle();
+        if (tabella.intestazione.size() < kMinimeColonne) return std::nullopt;
+        if (AvanzaPiena()) tabella.esempio = Campi();
+        tabella.proposte = ColonneDette(tabella.intestazione);
+        const PostoColonne indovinate = ColonneIndovinate(tabella.esempio);
+        for (const ColonnaSosta colonna : {kNome, kLatitudine, kLongitudine}) {
+            if (tabella.proposte[colonna] < 0) tabella.proposte[colonna] = indovinate[colonna];
+        }
+        return tabella;
+    }
+
+    QStringList PrimeCelle() {
+        if (!AvanzaPiena()) NonRiconosciuto();
+        return InPiuCelle();
+    }
+
+    /// As the person told the columns; the first line is a place, or names.
+    std::vector<SostaLetta> Leggi(const PostoColonne& colonne) {
+        if (!AvanzaPiena()) NonRiconosciuto();
+        std::ignore = InPiuCelle();
+        posto_ = colonne;
+        const QStringList prima = Campi();
+        if (LeggiPosizione(prima.value(posto_[kLatitudine]), prima.value(posto_[kLongitudine]))) Aggiungi(prima);
+        while (AvanzaPiena()) Aggiungi(Campi());
+        return std::move(soste_);
+    }
+
     std::vector<SostaLetta> Leggi() {
-        do {
-            if (!Avanza()) NonRiconosciuto();
-        } while (testo_.trimmed().isEmpty());
-        bool altra = Riconosci() ? true : AvanzaPiena();
+        if (!AvanzaPiena()) NonRiconosciuto();
+        const auto primaRiga = Riconosci();
+        if (!primaRiga) NonRiconosciuto();
+        bool altra = *primaRiga == PrimaRiga::Sosta || AvanzaPiena();
         for (; altra; altra = AvanzaPiena()) Aggiungi(Campi());
         return std::move(soste_);
     }
@@ -101,21 +99,36 @@ class LettoreTabella {
         return false;
     }
 
-    // Finds separator and columns by the first line; whether that is a place already.
-    bool Riconosci() {
-        for (const QChar separatore : {u'\t', u';', u','}) {
+    enum class PrimaRiga { Nomi, Sosta };
+
+    // Finds separator and columns by the first line; nothing when it does not tell them.
+    std::optional<PrimaRiga> Riconosci() {
+        for (const QChar separatore : kSeparatori) {
             separatore_ = separatore;
-            SpezzaCelle celle(separatore);
-            const QStringList campi = celle.Aggiungi(testo_) ? celle.Prendi() : testo_.split(separatore);
-            const auto posto = DaIntestazione(campi);
-            posto_ = posto.value_or(kSenzaIntestazione);
-            if (posto) {
-                if (posto_[kNome] < 0) Rifiuta(u"manca la colonna del nome"_s);
-                return false;
-            }
-            if (campi.size() > kSenzaIntestazione[kNome] && LeggiPosizione(campi[1], campi[0])) return true;
+            const QStringList celle = Celle(separatore);
+            posto_ = ColonneDette(celle);
+            if (Bastano(posto_)) return PrimaRiga::Nomi;
+            posto_ = kSenzaIntestazione;
+            if (celle.size() > posto_[kNome] && LeggiPosizione(celle[1], celle[0])) return PrimaRiga::Sosta;
         }
-        NonRiconosciuto();
+        return std::nullopt;
+    }
+
+    // The cells of the first line by the separator that makes most of them.
+    QStringList InPiuCelle() {
+        QStringList piu;
+        for (const QChar separatore : kSeparatori) {
+            const QStringList celle = Celle(separatore);
+            if (celle.size() <= piu.size()) continue;
+            piu = celle;
+            separatore_ = separatore;
+        }
+        return piu;
+    }
+
+    [[nodiscard]] QStringList Celle(QChar separatore) const {
+        SpezzaCelle celle(separatore);
+        return celle.Aggiungi(testo_) ? celle.Prendi() : testo_.split(separatore);
     }
 
     // Of the line, and of those that belong to it since a text in quotes goes on there.
@@ -153,7 +166,8 @@ class LettoreTabella {
     [[noreturn]] void NonRiconosciuto() const {
         throw Failure(
             u"Il file %1 non è un elenco di soste che Cronovia riconosca: una tabella (CSV) ha nella prima riga i nomi "
-            "delle colonne, come nome;lat;lon, oppure in ogni riga longitudine, latitudine e nome."_s.arg(nome_));
+            "delle colonne, come nome;lat;lon, oppure in ogni riga longitudine, latitudine e nome. Altri nomi si "
+            "possono spiegare nella finestra, o con --colonne."_s.arg(nome_));
     }
 
     RigheTesto righe_;
@@ -168,12 +182,22 @@ class LettoreTabella {
 
 }  // namespace
 
-std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path) {
-    return LettoreTabella(device, path).Leggi();
+std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path,
+                                          const std::optional<PostoColonne>& colonne) {
+    LettoreTabella lettore(device, path);
+    return colonne ? lettore.Leggi(*colonne) : lettore.Leggi();
 }
 
+std::optional<TabellaDaSpiegare> SosteDaSpiegare(const QString& path) {
+    if (LeggiNavigatore(path)) return std::nullopt;
+    return LettoreTabella(*ApriInLettura(path), path).DaSpiegare();
+}
+
+QStringList PrimaRigaSoste(const QString& path) { return LettoreTabella(*ApriInLettura(path), path).PrimeCelle(); }
+
 // The points by themselves; where a file has none, those of its route.
-std::vector<SostaLetta> LeggiSoste(const QString& path) {
+std::vector<SostaLetta> LeggiSoste(const QString& path, const std::optional<PostoColonne>& colonne) {
+    if (colonne) return LeggiTabellaSoste(*ApriInLettura(path), path, colonne);
     const auto file = LeggiNavigatore(path);
     if (!file) return LeggiTabellaSoste(*ApriInLettura(path), path);
     const std::vector<PuntoLetto>& punti = file->luoghi.empty() ? file->rotta : file->luoghi;

@@ -4,8 +4,10 @@
 
 #include <QIODevice>
 #include <QString>
+#include <optional>
 #include <vector>
 
+#include "exchange/soste/colonne_soste.h"
 #include "places/posizione.h"
 
 namespace cronovia {
@@ -20,13 +22,28 @@ struct SostaLetta {
 
 inline constexpr std::size_t kMassimeSoste = 50'000;
 
-/// The places of a file, in their order. A `Failure`, which names the line where there is one, when the file cannot be
-/// read, is of no known kind, has a position that is none, or more places than these.
-std::vector<SostaLetta> LeggiSoste(const QString& path);
+/// A table whose first line does not tell its columns.
+struct TabellaDaSpiegare {
+    QStringList intestazione;  ///< the cells of the first line
+    QStringList esempio;       ///< and of the one behind it
+    PostoColonne proposte{};   ///< what can be guessed
+};
+
+/// What the person has to tell before a file can be read; nothing when it can be read, or will be refused.
+std::optional<TabellaDaSpiegare> SosteDaSpiegare(const QString& path);
+
+/// The cells of a table's first line. A `Failure` when the file cannot be read, or is empty.
+QStringList PrimaRigaSoste(const QString& path);
+
+/// The places of a file, in their order; of a table with these columns, when they are given. A `Failure`, which names
+/// the line where there is one, when the file cannot be read, is of no known kind, has a position that is none, or more
+/// places than these.
+std::vector<SostaLetta> LeggiSoste(const QString& path, const std::optional<PostoColonne>& colonne = {});
 
 /// The same of a table with ";", "," or tabs between its fields, which may stand in quotes, also over several lines.
 /// Its first line names the columns, in Italian or English; one without names has longitude, latitude, name, notes.
 /// `path` is its name in messages.
-std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path);
+std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path,
+                                          const std::optional<PostoColonne>& colonne = {});
 
 }  // namespace cronovia
