@@ -7,6 +7,10 @@ set -eu
 root=$(CDPATH='' cd -- "$(dirname -- "$0")/.." && pwd)
 program=$root/build/${CRONOVIA_PRESET:-release}/src/cronovia
 pictures=$root/docs/immagini
+[ -x "$program" ] || {
+    echo "There is no $program: packaging/build.sh ${CRONOVIA_PRESET:-release} builds it." >&2
+    exit 1
+}
 work=$(mktemp -d)
 export DISPLAY=":${CRONOVIA_DISPLAY:-87}" XDG_RUNTIME_DIR="$work" QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 
