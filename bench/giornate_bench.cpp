@@ -116,9 +116,4 @@ BENCHMARK_CAPTURE(TappaInserita, dal_vivo_con_pannello, true, true)->Unit(benchm
 }  // namespace
 }  // namespace cronovia
 
-int main(int argc, char* argv[]) {
-    cronovia::PreparaSchermo();
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}
+int main(int argc, char* argv[]) { return cronovia::MisuraSulloSchermo(argc, argv); }

@@ -75,10 +75,4 @@ BENCHMARK(Schermo)->Arg(100)->Arg(3)->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace cronovia
 
-int main(int argc, char* argv[]) {
-    cronovia::PreparaSchermo();
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char* argv[]) { return cronovia::MisuraSulloSchermo(argc, argv); }

@@ -150,10 +150,4 @@ BENCHMARK(Spostata)->Arg(150)->Arg(10'000)->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace cronovia
 
-int main(int argc, char* argv[]) {
-    cronovia::PreparaSchermo();
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char* argv[]) { return cronovia::MisuraSulloSchermo(argc, argv); }

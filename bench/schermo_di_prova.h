@@ -2,7 +2,9 @@
 // The display that the benchmarks of the window paint on.
 #pragma once
 
-#include <QtGlobal>
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
 
 namespace cronovia {
 
@@ -10,6 +12,15 @@ namespace cronovia {
 inline void PreparaSchermo() {
     const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     if (!display && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+/// The main function of a benchmark that paints.
+inline int MisuraSulloSchermo(int argc, char* argv[]) {
+    PreparaSchermo();
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
 }
 
 }  // namespace cronovia

@@ -61,7 +61,7 @@ constexpr std::array<DescrizioneComando, kComandi> kDescrizioni = {{
     {Comando::FineScambio, u"cmdImExp_1", u"&Fine", nullptr, u"", u"Rinuncia all'import-export in corso", Menu::Nessuno,
      kScambio, &comandi::FineScambio},
     {Comando::Preferenze, u"cmdPreferenze", u"Preferenze", u"Pre&ferenze…", u"Ctrl+,",
-     u"Sceglie grandezza dei testi, colori, calcolo dal vivo e cartella portatile", Menu::File,
+     u"Sceglie testi, colori, calcolo dal vivo, carta, copie e cartella portatile", Menu::File,
      kVuota | kNuova | kAperta | kInserimento | kCronovia | kGuida, &comandi::Preferenze, true},
     {Comando::Esce, u"cmdEsce", u"&Esce", nullptr, u"Ctrl+Q", u"Esce dal form", Menu::File,
      kVuota | kNuova | kAperta | kElencoMete | kCorsa, &comandi::Esce, true},

@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 #include <algorithm>
+#include <variant>
 
 #include "app/comandi_scambio.h"
 #include "app/niente_perso.h"
@@ -15,17 +16,18 @@ namespace {
 
 // What would become of the places of a file; nothing when the person stopped it, or knows why it cannot be read.
 std::optional<std::vector<SostaProposta>> SosteDelFile(Postazione& p, const QString& file) {
-    std::optional<TabellaDaSpiegare> tabella;
-    if (!p.Prova([&] { tabella = SosteDaSpiegare(file); })) return std::nullopt;
+    std::variant<std::vector<SostaLetta>, TabellaDaSpiegare> letto;
+    if (!p.MentreCorre([&] { letto = LeggiOChiediSoste(file); })) return std::nullopt;
     std::optional<PostoColonne> colonne;
-    if (tabella) {
+    if (const auto* tabella = std::get_if<TabellaDaSpiegare>(&letto)) {
         colonne = p.volti.chiediColonne(*tabella);
         if (!colonne) return std::nullopt;
     }
     std::optional<std::vector<SostaProposta>> soste;
     const bool lette = p.MentreCorre([&] {
-        soste =
-            ProponiSoste(p.sessione.Archivio(), p.luoghi.Repertorio(), LeggiSoste(file, colonne), p.volti.avanzamento);
+        if (colonne) letto = LeggiSoste(file, colonne);
+        soste = ProponiSoste(p.sessione.Archivio(), p.luoghi.Repertorio(), std::get<std::vector<SostaLetta>>(letto),
+                             p.volti.avanzamento);
     });
     if (lette && !soste) p.Mostra(u"Lettura delle soste interrotta."_s);
     return soste;

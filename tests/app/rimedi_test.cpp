@@ -86,6 +86,21 @@ TEST_F(RimediTest, WhatARepairSavesIsToldAsItIs) {
     EXPECT_EQ(TestoInOrdine({}), u"L'archivio è in ordine: non c'è niente da riparare."_s);
 }
 
+TEST_F(RimediTest, WhatCannotBeCopiedIsNotTakenForDamaged) {
+    QDir(CopiesFolder(cartella_.Path())).removeRecursively();
+    prova::ScriviFile(CopiesFolder(cartella_.Path()), "a file where the folder should be");
+    Archive archive = Archive::Open(cartella_.Path());
+    archive.KeepDailyCopies([] { return QDateTime::currentDateTime(); }, [](const QString&) {}, [] { return 10; });
+    QString detto;
+    try {
+        archive.KeepCopy(u"prima di importare"_s);
+    } catch (const Failure& failure) {
+        detto = failure.Message();
+    }
+    EXPECT_TRUE(detto.startsWith(u"La copia di sicurezza dell'archivio"_s)) << detto.toStdString();
+    EXPECT_EQ(archive.Damage(), QString());
+}
+
 using prova::PostazioneTest;
 
 TEST_F(PostazioneTest, SavedElsewhereTheWorkGoesOnThere) {

@@ -180,27 +180,9 @@ class LettoreTabella {
     std::vector<SostaLetta> soste_;
 };
 
-}  // namespace
-
-std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path,
-                                          const std::optional<PostoColonne>& colonne) {
-    LettoreTabella lettore(device, path);
-    return colonne ? lettore.Leggi(*colonne) : lettore.Leggi();
-}
-
-std::optional<TabellaDaSpiegare> SosteDaSpiegare(const QString& path) {
-    if (LeggiNavigatore(path)) return std::nullopt;
-    return LettoreTabella(*ApriInLettura(path), path).DaSpiegare();
-}
-
-QStringList PrimaRigaSoste(const QString& path) { return LettoreTabella(*ApriInLettura(path), path).PrimeCelle(); }
-
 // The points by themselves; where a file has none, those of its route.
-std::vector<SostaLetta> LeggiSoste(const QString& path, const std::optional<PostoColonne>& colonne) {
-    if (colonne) return LeggiTabellaSoste(*ApriInLettura(path), path, colonne);
-    const auto file = LeggiNavigatore(path);
-    if (!file) return LeggiTabellaSoste(*ApriInLettura(path), path);
-    const std::vector<PuntoLetto>& punti = file->luoghi.empty() ? file->rotta : file->luoghi;
+std::vector<SostaLetta> SosteDi(const FileNavigatore& file, const QString& path) {
+    const std::vector<PuntoLetto>& punti = file.luoghi.empty() ? file.rotta : file.luoghi;
     const QString nome = QDir::toNativeSeparators(path);
     if (punti.empty()) throw Failure(u"Nel file %1 non c'è nessun luogo."_s.arg(nome));
     if (punti.size() > kMassimeSoste) {
@@ -213,6 +195,28 @@ std::vector<SostaLetta> LeggiSoste(const QString& path, const std::optional<Post
         soste.push_back({punto.nome, punto.tipo, SenzaMarche(punto.note), punto.posizione});
     }
     return soste;
+}
+
+}  // namespace
+
+std::vector<SostaLetta> LeggiTabellaSoste(QIODevice& device, const QString& path,
+                                          const std::optional<PostoColonne>& colonne) {
+    LettoreTabella lettore(device, path);
+    return colonne ? lettore.Leggi(*colonne) : lettore.Leggi();
+}
+
+QStringList PrimaRigaSoste(const QString& path) { return LettoreTabella(*ApriInLettura(path), path).PrimeCelle(); }
+
+std::vector<SostaLetta> LeggiSoste(const QString& path, const std::optional<PostoColonne>& colonne) {
+    if (colonne) return LeggiTabellaSoste(*ApriInLettura(path), path, colonne);
+    const auto file = LeggiNavigatore(path);
+    return file ? SosteDi(*file, path) : LeggiTabellaSoste(*ApriInLettura(path), path);
+}
+
+std::variant<std::vector<SostaLetta>, TabellaDaSpiegare> LeggiOChiediSoste(const QString& path) {
+    if (const auto file = LeggiNavigatore(path)) return SosteDi(*file, path);
+    if (auto tabella = LettoreTabella(*ApriInLettura(path), path).DaSpiegare()) return *std::move(tabella);
+    return LeggiTabellaSoste(*ApriInLettura(path), path);
 }
 
 }  // namespace cronovia

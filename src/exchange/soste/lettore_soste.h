@@ -5,6 +5,7 @@
 #include <QIODevice>
 #include <QString>
 #include <optional>
+#include <variant>
 #include <vector>
 
 #include "exchange/soste/colonne_soste.h"
@@ -29,9 +30,6 @@ struct TabellaDaSpiegare {
     PostoColonne proposte{};   ///< what can be guessed
 };
 
-/// What the person has to tell before a file can be read; nothing when it can be read, or will be refused.
-std::optional<TabellaDaSpiegare> SosteDaSpiegare(const QString& path);
-
 /// The cells of a table's first line. A `Failure` when the file cannot be read, or is empty.
 QStringList PrimaRigaSoste(const QString& path);
 
@@ -39,6 +37,9 @@ QStringList PrimaRigaSoste(const QString& path);
 /// the line where there is one, when the file cannot be read, is of no known kind, has a position that is none, or more
 /// places than these.
 std::vector<SostaLetta> LeggiSoste(const QString& path, const std::optional<PostoColonne>& colonne = {});
+
+/// The same, or what the person has to tell before the file can be read.
+std::variant<std::vector<SostaLetta>, TabellaDaSpiegare> LeggiOChiediSoste(const QString& path);
 
 /// The same of a table with ";", "," or tabs between its fields, which may stand in quotes, also over several lines.
 /// Its first line names the columns, in Italian or English; one without names has longitude, latitude, name, notes.

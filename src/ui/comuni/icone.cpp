@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QSvgRenderer>
@@ -30,7 +29,7 @@ QColor ColoreIcona(QIcon::Mode modo, PostoIcona posto) {
     return colori.color(inMenu ? QPalette::WindowText : QPalette::ButtonText);
 }
 
-class MotoreIcone : public QIconEngine {
+class MotoreIcone : public MotoreDipinto {
   public:
     MotoreIcone(QByteArray disegno, PostoIcona posto) : disegno_(std::move(disegno)), posto_(posto) {}
 
@@ -38,14 +37,6 @@ class MotoreIcone : public QIconEngine {
         QByteArray colorato = disegno_;
         colorato.replace(kColoreDelDisegno, ColoreIcona(mode, posto_).name().toLatin1());
         QSvgRenderer(colorato).render(painter, rect);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new MotoreIcone(disegno_, posto_); }
@@ -56,6 +47,14 @@ class MotoreIcone : public QIconEngine {
 };
 
 }  // namespace
+
+QPixmap MotoreDipinto::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return pixmap;
+}
 
 QIcon IconaDisegnata(const QString& nome, PostoIcona posto) {
     QFile file(u":/icone/comandi/%1.svg"_s.arg(nome));

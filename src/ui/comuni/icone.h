@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QIcon>
+#include <QIconEngine>
+#include <QPixmap>
 
 #include "app/stato_comandi.h"
 
@@ -10,6 +12,12 @@ namespace cronovia {
 
 /// Where a sign stands: what is chosen in a menu has another ground.
 enum class PostoIcona { Menu, Pulsante };
+
+/// What paints a sign at any size, on a ground that can be seen through.
+class MotoreDipinto : public QIconEngine {
+  public:
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
+};
 
 /// A drawing of the program, by its name; none when there is no such drawing.
 QIcon IconaDisegnata(const QString& nome, PostoIcona posto);

@@ -2,10 +2,11 @@
 #include "ui/griglia/icone_righe.h"
 
 #include <QApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+
+#include "ui/comuni/icone.h"
 
 namespace cronovia {
 
@@ -98,7 +99,7 @@ void Disegna(Segno segno, QPainter& p) {
 }
 
 // Draws at any size, so that the signs stay sharp on every screen, in the colour that text has now.
-class MotoreSegni : public QIconEngine {
+class MotoreSegni : public MotoreDipinto {
   public:
     explicit MotoreSegni(Segno segno) : segno_(segno) {}
 
@@ -112,14 +113,6 @@ class MotoreSegni : public QIconEngine {
         painter->setBrush(Qt::NoBrush);
         Disegna(segno_, *painter);
         painter->restore();
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new MotoreSegni(segno_); }
