@@ -94,6 +94,7 @@ bool TavoloGuida::SalvaRiga(CampiVoce campi) {
     if (!riga.voce) {
         CampiVoce prossima = std::move(campi);
         prossima.descrizione.clear();
+        prossima.tipo = TipoComeInElenco(tipi_, prossima.tipo);
         Mostra(prossima);
     }
     if (persa) {

@@ -111,9 +111,10 @@ void Aggiungi(const ApriSessione& apri, const Richiesta& richiesta, QTextStream&
 // A name means itself alone here: with wildcards the first entry of another locality would be meant.
 VoceGuida TrovaVoce(Archive& archivio, const std::vector<TipoGuida>& tipi, const Annotazione& detta) {
     const NamePattern localita = NamePattern::Exactly(detta.localita);
+    const QString tipo = TipoComeInElenco(tipi, detta.campi.tipo);
     for (const Record& record : archivio.Select({Table::GuidaCitta, {{guida::Localita, localita}}})) {
         VoceGuida voce = VoceDelRecord(record, tipi);
-        if (voce.tipo == detta.campi.tipo && voce.descrizione == detta.campi.descrizione) return voce;
+        if (voce.tipo == tipo && voce.descrizione == detta.campi.descrizione) return voce;
     }
     RifiutaMancante(detta);
 }

@@ -4,6 +4,7 @@
 #include <QSet>
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <tuple>
 
 #include "calendar/testo.h"
@@ -109,7 +110,21 @@ void RipristinaTipiGuida(Archive& archive, Progress& progress) {
     InserisciTipiPredefiniti(archive);
 }
 
-int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, QStringView descrizione) {
+QString TipoComeInElenco(const std::vector<TipoGuida>& tipi, const QString& scritto) {
+    const auto cerca = [&](const auto& vale) {
+        const auto tipo =
+            std::find_if(tipi.begin(), tipi.end(), [&](const TipoGuida& t) { return vale(t.descrizione); });
+        return tipo == tipi.end() ? std::nullopt : std::optional(tipo->descrizione);
+    };
+    if (cerca([&](const QString& descrizione) { return descrizione == scritto; })) return scritto;
+    return cerca([&, detto = scritto.simplified()](const QString& descrizione) {
+               return descrizione.simplified().compare(detto, Qt::CaseInsensitive) == 0;
+           })
+        .value_or(scritto);
+}
+
+int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, const QString& scritto) {
+    const QString descrizione = TipoComeInElenco(tipi, scritto);
     for (auto tipo = tipi.rbegin(); tipo != tipi.rend(); ++tipo) {
         if (tipo->descrizione == descrizione) return ValoreNumerico(tipo->codice);
     }

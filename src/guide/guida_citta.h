@@ -32,8 +32,12 @@ void CompletaTipiGuida(Archive& archive);
 /// Puts the nine standard types in the place of the stored ones, within a transaction of the caller.
 void RipristinaTipiGuida(Archive& archive, Progress& progress);
 
-/// Numeric code of the type with that description, the highest of several; -1 when there is none.
-int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, QStringView descrizione);
+/// The description, as the list spells it, of the type that a person has written: capitals and blanks may differ when
+/// no type is spelt that very way. What was written when it is no type's.
+QString TipoComeInElenco(const std::vector<TipoGuida>& tipi, const QString& scritto);
+
+/// Numeric code of the type that was written, the highest of several that are spelt alike; -1 when there is none.
+int CodiceTipoGuida(const std::vector<TipoGuida>& tipi, const QString& scritto);
 
 /// Description of a type by its code; empty when there is none.
 QString DescrizioneTipoGuida(const std::vector<TipoGuida>& tipi, QStringView codice);

@@ -32,8 +32,8 @@ TEST_F(AnnotazioniTest, WhatCannotBecomeAnEntry) {
     const std::vector<std::pair<CampiVoce, QString>> casi = {
         {{u"  "_s, u"Boh"_s, 0, 0}, u"Errore! Manca la descrizione!!!"_s},
         {{u"Duomo"_s, u"Boh"_s, 0, 0}, u"Errore! Manca la tipologia!!!"_s},
-        {{u"Duomo"_s, u"ottimo"_s, 1, 0}, u"Errore! Manca la tipologia!!!"_s},
-        {{u"Duomo"_s, u"Vedibile"_s, 0, 0}, u"Errore! Manca il tempo stimato!!!"_s},
+        {{u"Duomo"_s, u" "_s, 1, 0}, u"Errore! Manca la tipologia!!!"_s},
+        {{u"Duomo"_s, u" vedibile "_s, 0, 0}, u"Errore! Manca il tempo stimato!!!"_s},
         {{QString(97, u'x'), u"Gpl"_s, 0, 0}, u"La descrizione è troppo lunga: al massimo 96 caratteri."_s},
     };
     for (const auto& [campi, errore] : casi) {
