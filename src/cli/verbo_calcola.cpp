@@ -9,6 +9,7 @@
 #include "cli/verbi.h"
 #include "print/tabella_testo.h"
 #include "schedule/testi_giornata.h"
+#include "schedule/testi_ore.h"
 
 namespace cronovia {
 
@@ -80,6 +81,10 @@ void ScriviTesto(const Meta& meta, const EsitoCalcolo& esito, QTextStream& uscit
 QString Data(Istante momento) { return TestoData(momento.data); }
 QString OraDi(Istante momento) { return TestoOreLunghe(momento.ora); }
 
+const QString& LocalitaDi(const Cronovia& cronovia, int tappa) {
+    return cronovia.tabella.righe[static_cast<std::size_t>(tappa)].tappa.localita;
+}
+
 void ScriviOra(const EsitoOra& ora, const Cronovia& cronovia, ScrittoreJson& json) {
     constexpr std::array<QStringView, 3> kGeneri = {u"partenza", u"non_prima", u"non_dopo"};
     const auto testo = [&](QStringView nome, const QString& valore) {
@@ -89,10 +94,10 @@ void ScriviOra(const EsitoOra& ora, const Cronovia& cronovia, ScrittoreJson& jso
     const bool inRitardo = ora.ritardo > 0_cent;
     json.ApreOggetto();
     testo(u"attesa", TestoOreLunghe(ora.attesa));
-    if (inRitardo) testo(u"da", cronovia.tabella.righe[static_cast<std::size_t>(ora.daTappa)].tappa.localita);
+    if (inRitardo) testo(u"da", LocalitaDi(cronovia, ora.daTappa));
     testo(u"data", Data(ora.ora));
     testo(u"genere", kGeneri[static_cast<std::size_t>(ora.genere)].toString());
-    testo(u"localita", cronovia.tabella.righe[static_cast<std::size_t>(ora.tappa)].tappa.localita);
+    testo(u"localita", LocalitaDi(cronovia, ora.tappa));
     if (ora.margine) testo(u"margine", TestoOreLunghe(*ora.margine));
     testo(u"ora", OraDi(ora.ora));
     json.Nome(u"perso");
@@ -120,7 +125,7 @@ void ScriviScadenza(const Cronovia& cronovia, ScrittoreJson& json) {
     json.ApreOggetto();
     if (inRitardo) {
         json.Nome(u"da");
-        json.Testo(cronovia.tabella.righe[static_cast<std::size_t>(scadenza.daTappa)].tappa.localita);
+        json.Testo(LocalitaDi(cronovia, scadenza.daTappa));
     }
     json.Nome(u"data");
     json.Testo(Data(scadenza.entro));
@@ -135,6 +140,25 @@ void ScriviScadenza(const Cronovia& cronovia, ScrittoreJson& json) {
         json.Testo(TestoOreLunghe(0_cent - scadenza.margine));
     }
     json.ChiudeOggetto();
+}
+
+// When one has to be home is told as the hours of stages are, below the rows and without a number.
+RigaGriglia RigaScadenza(const EsitoScadenza& scadenza, const Cronovia& cronovia) {
+    RigaGriglia testi;
+    testi[Colonna::Tappa] = TestoBreve(scadenza);
+    testi[Colonna::GiornoSettimana] = GiornoSettimana(scadenza.entro.data);
+    testi[Colonna::Data] = Data(scadenza.entro);
+    testi[Colonna::Ora] = OraDi(scadenza.entro);
+    testi[Colonna::Note] = u"A casa entro"_s;
+    if (scadenza.margine < 0_cent)
+        testi[Colonna::Note] += u", in ritardo da "_s + LocalitaDi(cronovia, scadenza.daTappa);
+    return testi;
+}
+
+void ScriviTabellare(const Cronovia& cronovia, QTextStream& uscita) {
+    std::vector<RigaGriglia> righe = TestiDellaCronovia(cronovia);
+    if (cronovia.scadenza) righe.push_back(RigaScadenza(*cronovia.scadenza, cronovia));
+    ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), righe), uscita);
 }
 
 // Each row is written when its texts are made: a long trip is never held twice.
@@ -178,7 +202,7 @@ void EseguiCalcola(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
         ScriviTesto(aperta.meta, esito, uscita);
         if (tabella) uscita << RigaTabellaScritta(sessione.Cartella());
     } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TestiDellaGriglia(Intestazioni(Vista::Cronovia), TestiDellaCronovia(cronovia)), uscita);
+        ScriviTabellare(cronovia, uscita);
     } else {
         ScriviJson(aperta.meta, esito, uscita);
     }

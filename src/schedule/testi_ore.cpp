@@ -48,14 +48,18 @@ QString Testo(const EsitoOra& ora, const Cronovia& cronovia) {
     return testo;
 }
 
+QString TestoBreve(const EsitoScadenza& scadenza) {
+    if (scadenza.margine >= 0_cent) return ConOre(u"margine"_s, scadenza.margine);
+    return ConOre(u"ritardo"_s, 0_cent - scadenza.margine);
+}
+
 QString Testo(const EsitoScadenza& scadenza, const Cronovia& cronovia) {
     const QString ora = TestoOrologio(scadenza.entro.ora);
     const QString entro =
         u"A casa entro %1 %2 %3: "_s.arg(GiornoSettimana(scadenza.entro.data).toLower(), TestoData(scadenza.entro.data),
                                          ora.isEmpty() ? u"00:00"_s : ora);
-    if (scadenza.margine >= 0_cent) return entro + ConOre(u"margine"_s, scadenza.margine);
-    return entro + ConOre(u"ritardo"_s, 0_cent - scadenza.margine) + u", da "_s +
-           TappaDi(cronovia, scadenza.daTappa).localita;
+    if (scadenza.margine >= 0_cent) return entro + TestoBreve(scadenza);
+    return entro + TestoBreve(scadenza) + u", da "_s + TappaDi(cronovia, scadenza.daTappa).localita;
 }
 
 }  // namespace cronovia

@@ -15,6 +15,9 @@ QString TestoBreve(const EsitoOra& ora);
 /// da SIENA".
 QString Testo(const EsitoOra& ora, const Cronovia& cronovia);
 
+/// How it stands to when one has to be home: "margine 00:45", "ritardo 02:10".
+QString TestoBreve(const EsitoScadenza& scadenza);
+
 /// "A casa entro dom 11/07/2027 20:00: margine 00:45", "... : ritardo 02:10, da SIENA".
 QString Testo(const EsitoScadenza& scadenza, const Cronovia& cronovia);
 
