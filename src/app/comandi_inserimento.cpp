@@ -69,8 +69,8 @@ bool SelezionaRiga(Postazione& p, int riga) {
     return true;
 }
 
-bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga) {
-    if (!p.Prova([&] { p.documento.Modifica(nome, std::move(nuove), riga); })) return false;
+bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga, CambiPosizioni posizioni) {
+    if (!p.Prova([&] { p.documento.Modifica(nome, std::move(nuove), riga, std::move(posizioni)); })) return false;
     SegueLaRiga(p);
     return true;
 }

@@ -44,7 +44,8 @@ void Fine(Postazione& p);
 /// The kilometres of the stage that the fields mean.
 [[nodiscard]] int KmInseriti(const Postazione& p, const CampiTappa& campi);
 
-/// Replaces the stages in one step and goes to a row. Tells what went wrong; false then.
-bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga);
+/// Replaces the stages in one step, which takes the positions that it has changed with it, and goes to a row. Tells
+/// what went wrong; false then.
+bool Modifica(Postazione& p, const QString& nome, RigheItinerario nuove, int riga, CambiPosizioni posizioni = {});
 
 }  // namespace cronovia::comandi

@@ -37,14 +37,17 @@ std::optional<PercorsoNavigatore> PercorsoScelto(Postazione& p) {
     return percorso;
 }
 
-// Whether the person wants it; what the file says of its places is kept then.
-bool Confermato(Postazione& p, const PercorsoNavigatore& percorso, const QString& altro) {
+// Whether the person wants it; what the file says of its places is kept then, and what that changed comes back. Nothing
+// when it is not wanted, or cannot be kept.
+std::optional<CambiPosizioni> Confermato(Postazione& p, const PercorsoNavigatore& percorso, const QString& altro) {
     QStringList testi = {RiassuntoPercorso(percorso.tappe), TestoKmStimati(percorso.tappe), altro};
     testi.removeAll(QString());
     if (!p.Chiede(testi.join(u'\n') + u"\n\nVuoi riportarle nell'itinerario?"_s, u"Import del percorso"_s))
-        return false;
-    return percorso.posizioni.empty() ||
-           p.MentreScrive({}, [&] { ConfermaPosizioni(p.sessione.Archivio(), percorso); });
+        return std::nullopt;
+    CambiPosizioni cambi;
+    if (percorso.posizioni.empty()) return cambi;
+    const bool tenute = p.MentreScrive({}, [&] { cambi = ConfermaPosizioni(p.sessione.Archivio(), percorso); });
+    return tenute ? std::optional(std::move(cambi)) : std::nullopt;
 }
 
 }  // namespace
@@ -53,9 +56,11 @@ void AltriPacchetti(Postazione& p) {
     if (NumeroTappe(p.documento.Righe()) > 0) return p.Mostra(CiSonoTappe());
     if (!TappaNonPersa(p)) return;
     std::optional<PercorsoNavigatore> percorso = PercorsoScelto(p);
-    if (!percorso || !Confermato(p, *percorso, {})) return;
+    if (!percorso) return;
+    std::optional<CambiPosizioni> posizioni = Confermato(p, *percorso, {});
+    if (!posizioni) return;
     const auto prossima = static_cast<int>(percorso->tappe.size()) + 1;
-    Modifica(p, u"import del percorso"_s, std::move(percorso->tappe), prossima);
+    Modifica(p, u"import del percorso"_s, std::move(percorso->tappe), prossima, std::move(*posizioni));
 }
 
 void ImportaTratto(Postazione& p) {
@@ -72,8 +77,10 @@ void ImportaTratto(Postazione& p) {
         inserito = InserisciPercorso({p.sessione.Archivio(), p.luoghi.Repertorio(), righe, libera ? riga : riga + 1,
                                       *percorso, p.documento.Campi().nazione});
     });
-    if (!possibile || !Confermato(p, *percorso, TestoInserimento(inserito))) return;
-    ConcludiSpostamento(p, u"import di un tratto"_s, std::move(inserito.esito));
+    if (!possibile) return;
+    std::optional<CambiPosizioni> posizioni = Confermato(p, *percorso, TestoInserimento(inserito));
+    if (!posizioni) return;
+    ConcludiSpostamento(p, u"import di un tratto"_s, std::move(inserito.esito), std::move(*posizioni));
 }
 
 }  // namespace cronovia::comandi

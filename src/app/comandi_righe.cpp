@@ -89,8 +89,8 @@ void Toglie(Postazione& p, const std::optional<Tratto>& tratto) {
 
 }  // namespace
 
-void ConcludiSpostamento(Postazione& p, const QString& nome, EsitoSpostamento esito) {
-    if (!Modifica(p, nome, std::move(esito.righe), esito.tratto.a)) return;
+void ConcludiSpostamento(Postazione& p, const QString& nome, EsitoSpostamento esito, CambiPosizioni posizioni) {
+    if (!Modifica(p, nome, std::move(esito.righe), esito.tratto.a, std::move(posizioni))) return;
     if (auto* inserimento = p.Su<schermata::Inserimento>();
         inserimento != nullptr && esito.tratto.da < esito.tratto.a) {
         inserimento->ancora = esito.tratto.da;

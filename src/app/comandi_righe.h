@@ -11,7 +11,7 @@ namespace cronovia::comandi {
 /// The rows selected in the entry of stages, the current one among them.
 [[nodiscard]] Tratto RigheScelte(const Postazione& p);
 /// Such a change, made: the rows that it was about are selected then, and the schedule in front is computed anew.
-void ConcludiSpostamento(Postazione& p, const QString& nome, EsitoSpostamento esito);
+void ConcludiSpostamento(Postazione& p, const QString& nome, EsitoSpostamento esito, CambiPosizioni posizioni = {});
 /// Goes to a row, and selects all from where the selection begins.
 void SceglieFino(Postazione& p, int riga);
 

@@ -233,19 +233,20 @@ Passo Documento::PassoVerso(const QString& nome, Stato prima) {
             Ambito::Viaggio,
             [this, prima = std::move(prima)](const Passo& passo) {
                 Stato presente = StatoPresente(prima.giorniESoste.has_value());
+                presente.posizioni = AnnullaPosizioni(sessione_.Archivio(), prima.posizioni);
                 Mostra(prima);
                 return std::optional(PassoVerso(passo.nome, std::move(presente)));
             },
             {}};
 }
 
-void Documento::Modifica(const QString& nome, RigheItinerario nuove, int riga) {
+void Documento::Modifica(const QString& nome, RigheItinerario nuove, int riga, CambiPosizioni posizioni) {
     nuove.resize(static_cast<std::size_t>(NumeroTappe(nuove)));
-    if (nuove == righe_) {
+    if (nuove == righe_ && posizioni.empty()) {
         SelezionaRiga(riga);
         return;
     }
-    Stato prima{righe_, rigaCorrente_};
+    Stato prima{righe_, rigaCorrente_, {}, std::move(posizioni)};
     Mostra({std::move(nuove), riga});
     storia_.Ricorda(PassoVerso(nome, std::move(prima)));
 }

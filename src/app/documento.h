@@ -11,6 +11,7 @@
 #include "app/storia.h"
 #include "itinerary/itinerari.h"
 #include "itinerary/modifiche.h"
+#include "places/confermate.h"
 #include "schedule/alternative.h"
 #include "schedule/giornate.h"
 #include "trips/mete.h"
@@ -90,8 +91,8 @@ class Documento {
     /// Goes to a row; beyond the last stage, to the first one behind it.
     void SelezionaRiga(int riga);
     /// Replaces the stages as one step that can be taken back, and goes to a row. Free rows behind the last stage go;
-    /// what changes nothing is no step.
-    void Modifica(const QString& nome, RigheItinerario nuove, int riga);
+    /// what changes nothing is no step. Positions that were changed along with them are taken back with them.
+    void Modifica(const QString& nome, RigheItinerario nuove, int riga, CambiPosizioni posizioni = {});
     [[nodiscard]] Storia& Modifiche() { return storia_; }
     [[nodiscard]] const Storia& Modifiche() const { return storia_; }
 
@@ -134,6 +135,7 @@ class Documento {
         RigheItinerario righe;
         int rigaCorrente = 1;
         std::optional<std::pair<int, CalcoloSoste>> giorniESoste = {};  // wanted, where the step is about them too
+        CambiPosizioni posizioni = {};                                  // to be taken back on the way there
     };
     // A schedule with its days, and what it was computed from.
     struct Passata {

@@ -6,6 +6,7 @@
 #include <QString>
 #include <map>
 #include <optional>
+#include <vector>
 
 #include "places/posizione.h"
 #include "store/archive.h"
@@ -25,10 +26,22 @@ class PosizioniConfermate {
     std::map<QString, Posizione> perLocalita_;
 };
 
-/// Gives a locality its position, instead of the one it had.
-void ConfermaPosizione(Archive& archive, const QString& localita, const Posizione& posizione);
+/// What a locality had before and has since, as it is stored; nothing where it has none.
+struct CambioPosizione {
+    QString localita;
+    std::optional<Posizione> prima;
+    std::optional<Posizione> dopo;
+};
+using CambiPosizioni = std::vector<CambioPosizione>;
+
+/// Gives a locality its position, instead of the one it had; nothing is written when that is the same.
+CambioPosizione ConfermaPosizione(Archive& archive, const QString& localita, const Posizione& posizione);
 
 /// Takes it away; whether there was one.
 bool DimenticaPosizione(Archive& archive, const QString& localita);
+
+/// Takes changes back, the last one first, whole or not at all; a locality that has got another position since keeps
+/// it. Returns the changes that this was, which can be taken back in their turn.
+CambiPosizioni AnnullaPosizioni(Archive& archive, const CambiPosizioni& cambi);
 
 }  // namespace cronovia

@@ -2,6 +2,8 @@
 // What entering a stage offers: names, distances, hints; and the sun over the days.
 #include <gtest/gtest.h>
 
+#include "app/comandi_luoghi.h"
+#include "app/comandi_percorso.h"
 #include "app/luoghi_del_viaggio.h"
 #include "itinerary/suggerimenti.h"
 #include "schedule/sole_giornate.h"
@@ -22,6 +24,16 @@ class LuoghiTest : public prova::PostazioneTest {
     }
     int Diretta(int riga, const QString& localita) {
         return qRound(luoghi_.Diretta(Archivio(), Viaggio(), riga, localita).value_or(-1));
+    }
+    /// Where people or files say that localities lie.
+    QString Confermate(const QStringList& nomi) {
+        QStringList dove;
+        const PosizioniConfermate confermate(Archivio());
+        for (const QString& nome : nomi) {
+            const auto posizione = confermate.Di(nome);
+            dove += nome + (posizione ? u" %1"_s.arg(posizione->latitudine) : QString());
+        }
+        return dove.join(u", "_s);
     }
     Archive& Archivio() { return postazione_->sessione.Archivio(); }
 
@@ -52,6 +64,31 @@ TEST_F(LuoghiTest, AreProposedAndMeasured) {
     ConfermaPosizione(Archivio(), u"MILLEFONTI"_s, {45.03, 7.67});
     EXPECT_TRUE(luoghi_.Posizioni(Archivio(), Viaggio().Righe(), {})[0].Certa());
     EXPECT_NEAR(Diretta(2, u"MILANO"_s), 129, 5);
+}
+
+TEST_F(LuoghiTest, GoAndComeBackWithTheRouteThatBroughtThem) {
+    const QStringList nomi = {u"TORINO"_s, u"ASTI"_s, u"ALBA"_s, u"BRA"_s};
+    NuovaMeta(u"UNO"_s);
+    comandi::Itinerario(*postazione_);
+    ConfermaPosizione(Archivio(), u"ASTI"_s, {44.5, 8.5});
+    file_ = cartella_.Path() + u"/giro.itn"_s;
+    prova::ScriviFile(file_,
+                      "769000|4507000|Torino|4|\n820000|4490000|Asti|1|\n803000|4470000|Alba|1|\n"
+                      "820000|4491000|Asti|1|\n785000|4469000|Bra|2|\n");
+    copione_.Domanda(
+        u"Tappe riconosciute: 5, da TORINO a BRA.\nChilometri: 180; traghetti: 0.\nI chilometri di 4 tappe sono stimati in linea d'aria: controllali.\n\nVuoi riportarle nell'itinerario?"_s,
+        u"Import del percorso"_s, Answer::Yes);
+    comandi::AltriPacchetti(*postazione_);
+    EXPECT_EQ(Confermate(nomi), u"TORINO 45.07, ASTI 44.91, ALBA 44.7, BRA 44.69"_s);
+    // What was put elsewhere since stays there.
+    comandi::MettiLuogo(*postazione_, u"ALBA"_s, {44.6, 8.1});
+    comandi::Annulla(*postazione_);
+    EXPECT_EQ(Righe(), QString());
+    EXPECT_EQ(Confermate(nomi), u"TORINO, ASTI 44.5, ALBA 44.6, BRA"_s);
+    comandi::Ripeti(*postazione_);
+    EXPECT_EQ(Confermate(nomi), u"TORINO 45.07, ASTI 44.91, ALBA 44.6, BRA 44.69"_s);
+    comandi::Annulla(*postazione_);
+    EXPECT_EQ(Confermate(nomi), u"TORINO, ASTI 44.5, ALBA 44.6, BRA"_s);
 }
 
 TEST_F(LuoghiTest, GiveHintsForDistancesThatCannotBe) {

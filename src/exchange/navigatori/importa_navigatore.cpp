@@ -11,7 +11,6 @@
 #include "exchange/percorsi/importa_percorso.h"
 #include "interaction/failure.h"
 #include "itinerary/posizioni.h"
-#include "places/confermate.h"
 
 namespace cronovia {
 
@@ -203,10 +202,15 @@ std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Gazzett
     return PercorsoNavigatore{std::move(*tappe), {}};
 }
 
-void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso) {
+CambiPosizioni ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso) {
+    CambiPosizioni cambi;
     Transaction transaction(archive);
-    for (const auto& [localita, posizione] : percorso.posizioni) ConfermaPosizione(archive, localita, posizione);
+    for (const auto& [localita, posizione] : percorso.posizioni) {
+        CambioPosizione cambio = ConfermaPosizione(archive, localita, posizione);
+        if (cambio.prima != cambio.dopo) cambi.push_back(std::move(cambio));
+    }
     transaction.Commit();
+    return cambi;
 }
 
 QString TestoKmStimati(std::span<const Tappa> tappe) {

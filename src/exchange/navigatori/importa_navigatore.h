@@ -10,6 +10,7 @@
 #include "exchange/navigatori/lettore_navigatore.h"
 #include "interaction/progress.h"
 #include "itinerary/modifiche.h"
+#include "places/confermate.h"
 #include "places/gazzettino.h"
 #include "store/archive.h"
 
@@ -36,8 +37,8 @@ std::optional<PercorsoNavigatore> LeggiPercorsoNavigatore(const QString& path, G
 /// The same of a file of whichever program; nothing when it is none that is known.
 std::optional<PercorsoNavigatore> LeggiOgniPercorso(const QString& path, Gazzettino& gazzettino, Progress& progress);
 
-/// The localities lie where the file says, from now on and for all trips.
-void ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso);
+/// The localities lie where the file says, from now on and for all trips; what that changed.
+CambiPosizioni ConfermaPosizioni(Archive& archive, const PercorsoNavigatore& percorso);
 
 /// The kind of road that a leg of that length mostly takes.
 TipoStrada TipoPerKm(int km);
