@@ -44,7 +44,8 @@ QString RigaDellaGuida(const RigaGriglia& riga, int rientro) {
 }
 
 void ScriviGiorni(const Meta& meta, const Cronovia& cronovia, QTextStream& uscita) {
-    const std::vector<RigaGriglia> righe = TestiDellaCronovia(cronovia);
+    std::vector<RigaGriglia> righe;
+    for (std::size_t i = 0; i < cronovia.righe.size(); ++i) righe.push_back(TestiMostrati(cronovia, i));
     const TabellaTesti tabella = ColonneDelGiorno(righe, cronovia);
     const std::vector<int> larghezze = LarghezzeColonne(tabella);
     for (const Giornata& giornata : Giornate(cronovia, *meta.dataInizio)) {

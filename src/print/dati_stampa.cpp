@@ -29,7 +29,7 @@ std::vector<RigaStampata> Righe(const Cronovia& cronovia) {
         const RigaCronovia& dopo = cronovia.righe[std::min(i + 1, cronovia.righe.size() - 1)];
         const auto limite = riga.limite ? std::optional(Testi(*riga.limite)) : std::nullopt;
         righe.push_back({riga.genere, riga.eventi.riposo, riga.eventi.notte || riga.eventi.notteTardiva,
-                         ConSosta(cronovia, dopo), limite, TestiDellaRiga(cronovia, i), riga.tappa, 0,
+                         ConSosta(cronovia, dopo), limite, TestiMostrati(cronovia, i), riga.tappa, 0,
                          InRitardo(cronovia, riga)});
     }
     return righe;

@@ -38,6 +38,8 @@ constexpr std::array<Intestazione, kColonne> kIntestazioni = {{
     {u"Limite ritorno", u"Limite per ritorno", u"Limite ritorno"},
 }};
 
+constexpr QChar kStimati = u'~';  // before kilometres that are a guess
+
 // Long enough that the hours of a leg need no days.
 constexpr Centesimi kGiornoDelleTratte = 9900_cent;
 
@@ -141,7 +143,7 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
     testi[Colonna::Tappa] = tappa.localita;
     testi[Colonna::NumeroStrada] = tappa.numStrada;
     testi[Colonna::Km] = tappa.kmDaIndicare ? u"da indicare"_s
-                         : tappa.kmStimati  ? u'~' + Raggruppa(tappa.km)
+                         : tappa.kmStimati  ? kStimati + Raggruppa(tappa.km)
                                             : RaggruppaNonZero(tappa.km);
     testi[Colonna::TipoStrada] = LetteraStrada(tappa);
     if (tappa.km != 0) testi[Colonna::KmProgressivi] = Raggruppa(tempi.kmProgressivi);
@@ -182,6 +184,14 @@ RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione) {
         const TestiLimite limite = Testi(*riga.limite);
         testi[Colonna::LimiteRitorno] = limite.segno + limite.giorno + u'-' + limite.ora;
     }
+    return testi;
+}
+
+RigaGriglia TestiMostrati(const Cronovia& cronovia, std::size_t posizione) {
+    RigaGriglia testi = TestiDellaRiga(cronovia, posizione);
+    const auto tappa = static_cast<std::size_t>(cronovia.righe[posizione].tappa);
+    const bool stimati = cronovia.tabella.righe[tappa].tappa.kmStimati;
+    if (stimati && !testi[Colonna::Km].isEmpty()) testi[Colonna::Km].prepend(kStimati);
     return testi;
 }
 

@@ -52,6 +52,10 @@ RigaGriglia TestiDellaTappa(int numero, const Tappa& tappa, const TempiTappa& te
 /// The texts of a row of the schedule, by its position from 0, which must be one of its rows.
 RigaGriglia TestiDellaRiga(const Cronovia& cronovia, std::size_t posizione);
 
+/// The same for people, on screen and paper: "~" before kilometres that are a guess. Other programs get them as
+/// numbers.
+RigaGriglia TestiMostrati(const Cronovia& cronovia, std::size_t posizione);
+
 /// A return limit in its three parts, of which `Colonna::LimiteRitorno` is made.
 struct TestiLimite {
     QChar segno;     ///< '>' to drive on, '<' to turn back

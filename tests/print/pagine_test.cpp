@@ -105,7 +105,7 @@ DatiStampa Tipi() {
         RigaGriglia& testi = dati.righe[i].testi;
         testi[Colonna::Numero] = u"9999"_s;
         testi[Colonna::NumeroStrada] = i == 12 ? largo : u"A22/A13/SS12bis"_s;
-        testi[Colonna::Km] = u"999"_s;
+        testi[Colonna::Km] = i == 4 ? u"~999"_s : u"999"_s;
         testi[Colonna::TipoStrada] = u"A"_s;
         testi[Colonna::KmProgressivi] = u"12.345"_s;
         testi[Colonna::Tempo] = u"12:34"_s;

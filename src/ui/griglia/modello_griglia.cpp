@@ -172,7 +172,7 @@ int ModelloGriglia::columnCount(const QModelIndex& parent) const {
 }
 
 RigaGriglia ModelloGriglia::Testi(int riga) const {
-    if (cronovia_) return TestiDellaRiga(*cronovia_, static_cast<std::size_t>(*mostrate_.Riga(riga)));
+    if (cronovia_) return TestiMostrati(*cronovia_, static_cast<std::size_t>(*mostrate_.Riga(riga)));
     const auto indice = static_cast<std::size_t>(riga);
     if (indice >= righe_.size()) return {};
     if (righe_[indice].localita.isEmpty()) return {{QString::number(riga + 1)}};
