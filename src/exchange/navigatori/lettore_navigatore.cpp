@@ -327,26 +327,32 @@ bool LeggiXml(QIODevice& device, Raccolta& raccolta) {
 
 bool LeggiGeoJson(QIODevice& device, Raccolta& raccolta) {
     QJsonParseError errore;
-    const QJsonDocument documento = QJsonDocument::fromJson(device.readAll(), &errore);
+    const std::unique_ptr<QIODevice> utf8 = ComeUtf8(device);
+    const QJsonDocument documento = QJsonDocument::fromJson((utf8 ? *utf8 : device).readAll(), &errore);
     if (errore.error != QJsonParseError::NoError) raccolta.Guasto(u"è rovinato"_s);
     if (!documento.object().contains(u"type")) return false;
     LettoreGeoJson(raccolta).Oggetto(documento.object(), {});
     return true;
 }
 
-bool Riconosciuto(const QString& path, QIODevice& file, Raccolta& raccolta) {
+// The first visible bytes. Those of UTF-16 are those of plain text but for its mark and zeros.
+QByteArray Inizio(QIODevice& file) {
     QByteArray inizio = file.peek(kByteDaGuardare);
+    for (const char* segno : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
+        if (inizio.startsWith(segno)) inizio.remove(0, qstrlen(segno));
+    }
+    return inizio.replace('\0', QByteArrayView()).trimmed();
+}
+
+bool Riconosciuto(const QString& path, QIODevice& file, Raccolta& raccolta) {
+    const QByteArray inizio = Inizio(file);
     if (inizio.startsWith("PK\x03\x04")) {
         QByteArray dati = Spacchettato(path, raccolta);
         QBuffer buffer(&dati);
         buffer.open(QIODevice::ReadOnly);
         return LeggiXml(buffer, raccolta);
     }
-    if (inizio.startsWith("\xEF\xBB\xBF")) inizio.remove(0, 3);
-    inizio = inizio.trimmed();
-    if (inizio.startsWith('<') || inizio.startsWith("\xFF\xFE<") || inizio.startsWith("\xFE\xFF")) {
-        return LeggiXml(file, raccolta);
-    }
+    if (inizio.startsWith('<')) return LeggiXml(file, raccolta);
     if (inizio.startsWith('{')) return LeggiGeoJson(file, raccolta);
     return LeggiItn(file, raccolta);
 }

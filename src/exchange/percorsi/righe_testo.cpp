@@ -65,12 +65,6 @@ std::optional<QStringConverter::Encoding> Utf16(QIODevice& device) {
     return std::nullopt;
 }
 
-std::unique_ptr<QIODevice> ComeUtf8(QIODevice& device) {
-    const auto codifica = Utf16(device);
-    if (!codifica) return nullptr;
-    return std::make_unique<DaUtf16>(device, *codifica);
-}
-
 QString Decodifica(QByteArrayView byte) {
     QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     QString testo = utf8.decode(byte);
@@ -87,6 +81,12 @@ QString Pulisci(QString testo) {
 }
 
 }  // namespace
+
+std::unique_ptr<QIODevice> ComeUtf8(QIODevice& device) {
+    const auto codifica = Utf16(device);
+    if (!codifica) return nullptr;
+    return std::make_unique<DaUtf16>(device, *codifica);
+}
 
 RigheTesto::RigheTesto(QIODevice& device) : utf8_(ComeUtf8(device)), righe_(utf8_ ? *utf8_ : device) {}
 

@@ -10,6 +10,10 @@
 
 namespace cronovia {
 
+/// A device whose text is UTF-16, told as below, as UTF-8 from where it stands, which it must outlive; null for any
+/// other.
+std::unique_ptr<QIODevice> ComeUtf8(QIODevice& device);
+
 /// UTF-16 in both byte orders, told by its mark or by its bytes; else each line is UTF-8 when it can be, else
 /// Windows-1252. Needs a bounded amount of memory whatever the file holds.
 class RigheTesto {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QRegularExpression>
+#include <QStringConverter>
 
 #include "exchange/iei/importa_mete.h"
 #include "exchange/navigatori/esporta_percorso.h"
@@ -47,8 +48,8 @@ struct CasoNavigatore {
     const char* atteso;
 };
 
-QByteArray Utf16(const QString& testo) {
-    return "\xFF\xFE" + QByteArray(reinterpret_cast<const char*>(testo.utf16()), 2 * testo.size());
+QByteArray Utf16(const QString& testo, QStringConverter::Encoding ordine = QStringConverter::Utf16LE) {
+    return QStringEncoder(ordine, QStringConverter::Flag::WriteBom).encode(testo);
 }
 
 const QString kDati = QStringLiteral(CRONOVIA_TEST_DATA "/navigatori/");
@@ -97,6 +98,14 @@ TEST_F(Navigatore, BecomesStages) {
          Utf16(u"<gpx><rte><rtept lat='45.07' lon='7.69'><name>città\n di  forlì</name><cmt>b</cmt></rtept>"
                "<rtept lat='44.9' lon='8.2'><name>Asti</name><sym>Flag</sym></rtept></rte></gpx>"_s),
          "CITTÀ DI FORLÌ, ASTI 60 P"},
+        {"GeoJSON in UTF-16",
+         Utf16(u"\n{\"type\":\"FeatureCollection\",\"features\":[{\"type\":\"Feature\",\"properties\":{\"name\":"
+               "\"Forlì\"},\"geometry\":{\"type\":\"Point\",\"coordinates\":[7.69,45.07]}},{\"type\":\"Feature\","
+               "\"geometry\":{\"type\":\"LineString\",\"coordinates\":[[7.69,45.07],[8.2,44.9]]}}]}"_s),
+         "FORLÌ, ASTI 60 P"},
+        {"ITN in the other UTF-16",
+         Utf16(u"769000|4507000|Forlì|4|\r\n820000|4490000|Asti|2|\r\n"_s, QStringConverter::Utf16BE),
+         "FORLÌ, ASTI 60 P"},
         {"one point is no route: the places count",
          "<gpx><rte><rtept lat='45.07' lon='7.69'/></rte><wpt lat='45.07' lon='7.69'><name>Uno</name></wpt>"
          "<wpt lat='44.9' lon='8.2'><name>Due</name></wpt></gpx>",
