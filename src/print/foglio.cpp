@@ -26,6 +26,12 @@ double Ascissa(const TestoColonna& testo, double larghezza) {
     return testo.x1;
 }
 
+TestoCollocato Collocato(const TestoColonna& testo, Misure& misure) {
+    const double larghezza = misure.Larghezza(testo.testo, testo.carattere);
+    return {testo.testo, testo.carattere, Ascissa(testo, larghezza), testo.y - misure.Discesa(testo.carattere),
+            larghezza};
+}
+
 // A beginning of the text with at most so many units; half of a character beyond the first 65,536 is none.
 QString Inizio(const QString& testo, qsizetype unita) {
     const bool spezzato = unita > 0 && unita < testo.size() && testo[unita].isLowSurrogate();
@@ -46,7 +52,7 @@ qsizetype Massimo(qsizetype troppo, const Vale& vale) {
 }  // namespace
 
 Foglio::Foglio(const QString& titolo, PieDiPagina piede, const QString& lavoro)
-    : documento_{titolo, {}, lavoro, {}, piede.carta}, piede_(std::move(piede)) {}
+    : documento_{titolo, {}, lavoro, {}, {}, piede.carta}, piede_(std::move(piede)) {}
 
 void Foglio::ApriPagina(double rigaStampa) {
     documento_.pagine.emplace_back();
@@ -61,15 +67,10 @@ QString Foglio::Tagliato(const QString& testo, const Carattere& carattere, doubl
     return unita == 0 ? QString() : Inizio(testo, unita).trimmed() + puntini;
 }
 
-TestoCollocato Foglio::Colloca(const TestoColonna& testo) {
-    const double larghezza = Larghezza(testo.testo, testo.carattere);
-    return {testo.testo, testo.carattere, Ascissa(testo, larghezza), BaseDaRiga(testo.y, testo.carattere), larghezza};
-}
-
 void Foglio::StampaTesto(const TestoColonna& testo) {
     TestoColonna scritto = testo;
     scritto.testo = Tagliato(testo.testo.trimmed(), testo.carattere, testo.x2 - testo.x1 + kEccedenza);
-    if (!scritto.testo.isEmpty()) PaginaCorrente().testi.push_back(Colloca(scritto));
+    if (!scritto.testo.isEmpty()) PaginaCorrente().testi.push_back(Collocato(scritto, misure_));
 }
 
 void Foglio::StampaAdattato(const TestoColonna& testo) {
@@ -94,7 +95,8 @@ void Foglio::StampaAdattato(const TestoColonna& testo) {
 }
 
 void Foglio::StampaNumeroPagina(TestoColonna colonna) {
-    numeri_.push_back({std::move(colonna), documento_.pagine.size() - 1, PaginaCorrente().testi.size()});
+    documento_.numeri.push_back({documento_.pagine.size() - 1, PaginaCorrente().testi.size(), std::move(colonna)});
+    PaginaCorrente().testi.emplace_back();
 }
 
 // Widths grow with the size as a straight line.
@@ -125,13 +127,18 @@ void Foglio::StampaFinePagina(double sinistra, double destra) {
 }
 
 Stampato Foglio::Concluso() {
-    for (Numero& numero : numeri_) {
-        numero.colonna.testo =
-            u"Pagina %1 di %2"_s.arg(QString::number(numero.pagina + 1), QString::number(documento_.pagine.size()));
-        auto& testi = documento_.pagine[numero.pagina].testi;
-        testi.insert(testi.begin() + static_cast<std::ptrdiff_t>(numero.testo), Colloca(numero.colonna));
-    }
+    NumeraPagine(documento_);
     return std::move(documento_);
+}
+
+void NumeraPagine(Stampato& documento) {
+    Misure misure;
+    const QString totale = QString::number(documento.pagine.size());
+    for (const NumeroPagina& numero : documento.numeri) {
+        TestoColonna colonna = numero.colonna;
+        colonna.testo = u"Pagina %1 di %2"_s.arg(QString::number(numero.pagina + 1), totale);
+        documento.pagine[numero.pagina].testi[numero.testo] = Collocato(colonna, misure);
+    }
 }
 
 }  // namespace cronovia

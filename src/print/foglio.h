@@ -27,19 +27,6 @@ inline constexpr double kRientroCentro = 1;
 /// How far a text may reach over its column.
 inline constexpr double kEccedenza = 2;
 
-/// Where a text stands in its column.
-enum class Allineamento { Sinistra, Centro, Destra };
-
-/// A text for a column: its bottom line and the two borders of the column.
-struct TestoColonna {
-    QString testo;
-    double y = 0;  ///< millimetres, as the borders
-    double x1 = 0;
-    double x2 = 0;
-    Carattere carattere;
-    Allineamento allineamento = Allineamento::Sinistra;
-};
-
 /// What all pages have: what stands under each, and the sheet.
 struct PieDiPagina {
     QDate oggi;
@@ -119,20 +106,14 @@ class Foglio {
   private:
     static constexpr double kNessunaPagina = 800;
     Pagina& PaginaCorrente() { return documento_.pagine.back(); }
-    TestoCollocato Colloca(const TestoColonna& testo);
-
-    // Where the number of a page belongs, and among its texts.
-    struct Numero {
-        TestoColonna colonna;
-        std::size_t pagina = 0;
-        std::size_t testo = 0;
-    };
 
     Stampato documento_;
     PieDiPagina piede_;
     Misure misure_;
-    std::vector<Numero> numeri_;
     double rigaStampa_ = kNessunaPagina;
 };
+
+/// Writes their numbers on the pages, counted through the whole document: "Pagina 2 di 10".
+void NumeraPagine(Stampato& documento);
 
 }  // namespace cronovia

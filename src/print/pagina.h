@@ -97,6 +97,26 @@ struct Segnalibro {
     double y = 0;            ///< the upper edge of what it names
 };
 
+/// Where a text stands in its column.
+enum class Allineamento { Sinistra, Centro, Destra };
+
+/// A text for a column: its bottom line and the two borders of the column.
+struct TestoColonna {
+    QString testo;
+    double y = 0;  ///< millimetres, as the borders
+    double x1 = 0;
+    double x2 = 0;
+    Carattere carattere;
+    Allineamento allineamento = Allineamento::Sinistra;
+};
+
+/// Where a page says which one it is.
+struct NumeroPagina {
+    std::size_t pagina = 0;
+    std::size_t testo = 0;  ///< position among its texts
+    TestoColonna colonna;   ///< without its text
+};
+
 /// The sheet that the pages are laid out for, upright, in millimetres: A4.
 inline constexpr QSizeF kFoglioDelModello{210, 297};
 
@@ -106,6 +126,7 @@ struct Stampato {
     std::vector<Pagina> pagine;
     QString lavoro = {};                      ///< what painting it is called while it goes on; the title when empty
     std::vector<Segnalibro> segnalibri = {};  ///< in the order of the pages
+    std::vector<NumeroPagina> numeri = {};    ///< of the pages that say it
     QSizeF carta = kFoglioDelModello;         ///< the sheet that it is printed on, in millimetres
 };
 

@@ -21,6 +21,8 @@ namespace {
 // Puts a part before a document, whose title stays; its own bookmarks give way to one.
 void Premetti(Stampato parte, const QString& segnalibro, Stampato& documento) {
     for (Segnalibro& altro : documento.segnalibri) altro.pagina += parte.pagine.size();
+    for (NumeroPagina& numero : documento.numeri) numero.pagina += parte.pagine.size();
+    documento.numeri.insert(documento.numeri.begin(), parte.numeri.begin(), parte.numeri.end());
     documento.segnalibri.insert(documento.segnalibri.begin(), {segnalibro, 0, 0});
     documento.pagine.insert(documento.pagine.begin(), std::make_move_iterator(parte.pagine.begin()),
                             std::make_move_iterator(parte.pagine.end()));
@@ -32,6 +34,10 @@ void Aggiungi(Stampato parte, Stampato& documento) {
         altro.pagina += documento.pagine.size();
         documento.segnalibri.push_back(std::move(altro));
     }
+    for (NumeroPagina& numero : parte.numeri) {
+        numero.pagina += documento.pagine.size();
+        documento.numeri.push_back(std::move(numero));
+    }
     documento.pagine.insert(documento.pagine.end(), std::make_move_iterator(parte.pagine.begin()),
                             std::make_move_iterator(parte.pagine.end()));
 }
@@ -41,14 +47,12 @@ void Aggiungi(Stampato parte, Stampato& documento) {
 Stampato StampaLeScelte(const DatiStampa& dati, const PieDiPagina& piede, PagineScelte scelte, Progress& progress) {
     std::optional<Stampato> mappe;
     if (dati.mappa) mappe = StampaMappe(dati, scelte.giornate, piede, progress);
-    if (!scelte.cronovia) {
-        Stampato documento = StampaGiornate(dati, piede, progress);
-        if (mappe) Aggiungi(std::move(*mappe), documento);
-        return documento;
-    }
-    Stampato documento = StampaCronovia(dati, piede, progress);
-    if (mappe) Premetti(std::move(*mappe), u"Mappa"_s, documento);
-    if (scelte.giornate) Premetti(StampaGiornate(dati, piede, progress), u"Giornate"_s, documento);
+    Stampato documento =
+        scelte.cronovia ? StampaCronovia(dati, piede, progress) : StampaGiornate(dati, piede, progress);
+    if (mappe && scelte.cronovia) Premetti(std::move(*mappe), u"Mappa"_s, documento);
+    if (mappe && !scelte.cronovia) Aggiungi(std::move(*mappe), documento);
+    if (scelte.cronovia && scelte.giornate) Premetti(StampaGiornate(dati, piede, progress), u"Giornate"_s, documento);
+    if (dati.mappa) NumeraPagine(documento);
     return documento;
 }
 

@@ -18,8 +18,8 @@ struct PagineScelte {
     bool giornate = false;
 };
 
-/// The pages that were chosen in one document: the days, the maps if the data have one, the schedule. Each part counts
-/// its own pages.
+/// The pages that were chosen in one document: the days, the maps if the data have one, the schedule. With maps all
+/// pages are counted through, else each part counts its own.
 Stampato StampaLeScelte(const DatiStampa& dati, const PieDiPagina& piede, PagineScelte scelte, Progress& progress);
 
 /// A print run; `dati` must outlive it.

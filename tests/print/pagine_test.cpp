@@ -69,6 +69,13 @@ void NienteSiTocca(const Pagina& pagina) {
     }
 }
 
+// How often a page says which one of the whole document it is.
+auto Numeri(const Stampato& documento, std::size_t pagina) {
+    const QString numero = u"Pagina %1 di %2"_s.arg(pagina + 1).arg(documento.pagine.size());
+    const auto& testi = documento.pagine[pagina].testi;
+    return std::count_if(testi.begin(), testi.end(), [&](const TestoCollocato& t) { return t.testo == numero; });
+}
+
 // Rows of every kind, and what a person can have written into them.
 DatiStampa Tipi() {
     const QString largo(30, u'W');
@@ -160,10 +167,11 @@ TEST(Pagine, AreAsReviewed) {
     EXPECT_EQ(insieme.segnalibri.back().pagina, insieme.pagine.size() - 1);
     // Maps stand between the days and the schedule; where no place is known, a sentence in their place.
     DatiStampa conMappa = prova::ConMappa();
-    const auto segnalibri = StampaLeScelte(conMappa, prova::kPiede, {true, true}, progress).segnalibri;
-    EXPECT_EQ(segnalibri.at(1).titolo, u"Mappa"_s);
-    EXPECT_EQ(segnalibri.at(1).pagina, 1U);
-    EXPECT_EQ(segnalibri.at(2).pagina, 3U);
+    const Stampato tutto = StampaLeScelte(conMappa, prova::kPiede, {true, true}, progress);
+    EXPECT_EQ(tutto.segnalibri.at(1).titolo, u"Mappa"_s);
+    EXPECT_EQ(tutto.segnalibri.at(1).pagina, 1U);
+    EXPECT_EQ(tutto.segnalibri.at(2).pagina, 3U);
+    for (std::size_t i = 0; i < tutto.pagine.size(); ++i) EXPECT_EQ(Numeri(tutto, i), 1) << "page " << i;
     conMappa.mappa = std::make_shared<const MappaStampata>();
     const Stampato senza = StampaLeScelte(conMappa, prova::kPiede, {true, false}, progress);
     EXPECT_TRUE(senza.pagine.front().carte.empty());
@@ -199,16 +207,13 @@ TEST(Pagine, KeepAStageTogetherAndCutNothing) {
     const Stampato documento = prova::Stampa(dati);
     std::map<QString, std::size_t> pagine;  // by the number of the row
     for (std::size_t i = 0; i < documento.pagine.size(); ++i) {
-        const QString numero = u"Pagina %1 di %2"_s.arg(i + 1).arg(documento.pagine.size());
-        int numeri = 0;
         for (const TestoCollocato& testo : documento.pagine[i].testi) {
             EXPECT_FALSE(testo.testo.endsWith(u'…')) << testo.testo.toStdString();
-            if (testo.testo == numero) ++numeri;
             if (testo.x + testo.larghezza < kBordiCronovia[1] && testo.carattere.dimensione == 8) {
                 EXPECT_TRUE(pagine.try_emplace(testo.testo, i).second);
             }
         }
-        EXPECT_EQ(numeri, 1);
+        EXPECT_EQ(Numeri(documento, i), 1);
     }
     for (std::size_t i = 1; i < dati.righe.size(); ++i) {
         if (dati.righe[i].tappa != dati.righe[i - 1].tappa || dati.righe[i].giorno != dati.righe[i - 1].giorno)
