@@ -2,6 +2,7 @@
 // What an archive of many trips, each of 28 stages, costs beside the work: its opening with the check, a copy of it.
 #include <benchmark/benchmark.h>
 
+#include <QDateTime>
 #include <QFile>
 
 #include "itinerary/itinerari.h"

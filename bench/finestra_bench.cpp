@@ -3,6 +3,7 @@
 // Run without arguments; it starts itself for each window.
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>

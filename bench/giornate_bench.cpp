@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDateTime>
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QDateTime>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <array>

@@ -2,7 +2,9 @@
 // The earlier release's files made of anything. The input is cut into the file of trips, that of the stages of trip 1
 // and the guide, after as many bytes as its first four say. What must hold: nothing crashes, a refusal leaves archive
 // and folder as they were, and the same files once more change nothing.
+#include <QDateTime>
 #include <QDir>
+#include <QIODevice>
 #include <QTemporaryDir>
 
 #include "archivio_di_prova.h"

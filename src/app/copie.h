@@ -2,13 +2,14 @@
 // The copies of the archive as people choose among them, and putting one into its place.
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <optional>
 #include <vector>
 
 #include "store/copies.h"
+
+class QDateTime;
 
 namespace cronovia {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/documento.h"
 
+#include <QDateTime>
 #include <algorithm>
 #include <tuple>
 #include <utility>

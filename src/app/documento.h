@@ -2,7 +2,6 @@
 // The open trip: its fields, stages and schedule, what was loaded, and the changes since.
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 #include <optional>
 
@@ -15,6 +14,8 @@
 #include "schedule/alternative.h"
 #include "schedule/giornate.h"
 #include "trips/mete.h"
+
+class QDateTime;
 
 namespace cronovia {
 

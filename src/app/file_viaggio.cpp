@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/file_viaggio.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <algorithm>
 #include <array>

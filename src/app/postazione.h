@@ -2,7 +2,6 @@
 // What every command works on: the archive, the open trip, the screen in front, and the faces to ask and tell.
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -17,6 +16,8 @@
 #include "app/stato_comandi.h"
 #include "exchange/soste/importa_soste.h"
 #include "interaction/interaction.h"
+
+class QDateTime;
 
 namespace cronovia {
 

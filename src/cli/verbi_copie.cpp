@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // verifica, copie, ripristina.
+#include <QDateTime>
 #include <QFileInfo>
 #include <QMap>
 #include <functional>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "places/gazzettino.h"
 
+#include <QIODevice>
 #include <QStringList>
 #include <QtEndian>
 #include <algorithm>

@@ -2,7 +2,6 @@
 // The archive: one database file with all trips, itineraries and the city guide.
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 #include <QStringView>
 #include <cstdint>
@@ -16,6 +15,8 @@
 #include "interaction/progress.h"
 #include "store/name_pattern.h"
 #include "store/schema.h"
+
+class QDateTime;
 
 namespace cronovia {
 

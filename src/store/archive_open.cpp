@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

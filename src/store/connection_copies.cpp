@@ -3,6 +3,7 @@
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <utility>
 

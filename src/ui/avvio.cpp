@@ -2,6 +2,7 @@
 #include "ui/avvio.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>

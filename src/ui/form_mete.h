@@ -2,6 +2,7 @@
 // The main window: places the screens and panels, has commands run, and shows the state after each.
 #pragma once
 
+#include <QDateTime>
 #include <QMainWindow>
 #include <QTimer>
 #include <array>

@@ -3,6 +3,9 @@
 #include <SQLiteCpp/Database.h>
 
 #include "app/comandi_percorso.h"
+
+#include <QDateTime>
+
 #include "support/postazione.h"
 
 namespace cronovia {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The guide screen, the guide's visits, and copying from a trip that changes meanwhile, without a window.
 #include "support/archivio.h"
+
+#include <QDateTime>
+
 #include "support/postazione.h"
 
 namespace cronovia {

@@ -2,6 +2,8 @@
 // What a recovery file gives back.
 #include "app/recupero.h"
 
+#include <QDateTime>
+
 #include <gtest/gtest.h>
 
 #include "support/prova.h"

@@ -2,6 +2,8 @@
 // What is offered when an archive cannot be opened.
 #include "app/rimedi.h"
 
+#include <QDateTime>
+
 #include "app/riparazione.h"
 #include "store/archive.h"
 #include "support/archivio.h"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/sessione.h"
 
+#include <QDateTime>
+
 #include <gtest/gtest.h>
 
 #include "exchange/iei/importa_mete.h"

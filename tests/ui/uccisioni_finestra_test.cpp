@@ -2,6 +2,7 @@
 // The window killed at any moment while somebody types: what was typed more than two seconds before is not lost. Some
 // kills per run of the tests; CRONOVIA_UCCISIONI names another number.
 #include <QDateTime>
+#include <QIODevice>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>

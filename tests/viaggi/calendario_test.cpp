@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <libical/ical.h>
 
+#include <QDateTime>
 #include <QSet>
 #include <QTimeZone>
 #include <memory>

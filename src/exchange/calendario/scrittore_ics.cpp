@@ -2,6 +2,7 @@
 #include "exchange/calendario/scrittore_ics.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <cmath>
 
 #include "calendar/testo.h"

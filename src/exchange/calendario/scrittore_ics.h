@@ -3,10 +3,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QDateTime>
 #include <span>
 
 #include "exchange/calendario/eventi_viaggio.h"
+
+class QDateTime;
 
 namespace cronovia {
 

@@ -2,7 +2,6 @@
 // The trips that an exchange file holds.
 #pragma once
 
-#include <QIODevice>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -11,6 +10,8 @@
 #include "exchange/iei/lettore_iei.h"
 #include "interaction/progress.h"
 #include "trips/mete.h"
+
+class QIODevice;
 
 namespace cronovia {
 

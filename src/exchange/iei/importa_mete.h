@@ -2,7 +2,6 @@
 // Import: the trips of an exchange file, with their stages, and its city guide join the archive.
 #pragma once
 
-#include <QIODevice>
 #include <QString>
 #include <map>
 #include <optional>
@@ -13,6 +12,8 @@
 #include "exchange/iei/lettore_iei.h"
 #include "interaction/progress.h"
 #include "store/archive.h"
+
+class QIODevice;
 
 namespace cronovia {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exchange/iei/lettore_iei.h"
 
+#include <QIODevice>
 #include <algorithm>
 #include <utility>
 

@@ -3,7 +3,6 @@
 // Every value ends with the section's separator byte, so that the byte tells the section of a line.
 #pragma once
 
-#include <QIODevice>
 #include <QString>
 #include <array>
 #include <map>
@@ -15,6 +14,8 @@
 #include "files/lettore_righe.h"
 #include "interaction/progress.h"
 #include "store/schema.h"
+
+class QIODevice;
 
 namespace cronovia {
 

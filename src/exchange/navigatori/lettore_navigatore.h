@@ -2,12 +2,13 @@
 // Routes of navigators and web planners: GPX 1.0 and 1.1, KML and KMZ, ITN, GeoJSON, told by what the file holds.
 #pragma once
 
-#include <QIODevice>
 #include <QString>
 #include <optional>
 #include <vector>
 
 #include "places/posizione.h"
+
+class QIODevice;
 
 namespace cronovia {
 

@@ -2,13 +2,14 @@
 // Import of a route that another program has computed: the stages of a new itinerary.
 #pragma once
 
-#include <QIODevice>
 #include <QString>
 #include <optional>
 #include <span>
 
 #include "interaction/progress.h"
 #include "itinerary/modifiche.h"
+
+class QIODevice;
 
 namespace cronovia {
 

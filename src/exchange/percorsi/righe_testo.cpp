@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exchange/percorsi/righe_testo.h"
 
+#include <QIODevice>
 #include <QStringConverter>
 #include <algorithm>
 #include <optional>

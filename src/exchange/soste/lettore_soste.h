@@ -2,7 +2,6 @@
 // Lists of places where a camper can stand, as their collectors hand them out.
 #pragma once
 
-#include <QIODevice>
 #include <QString>
 #include <optional>
 #include <variant>
@@ -10,6 +9,8 @@
 
 #include "exchange/soste/colonne_soste.h"
 #include "places/posizione.h"
+
+class QIODevice;
 
 namespace cronovia {
 

@@ -4,10 +4,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QIODevice>
 #include <QStringList>
 
 #include "itinerary/modifiche.h"
+
+class QIODevice;
 
 namespace cronovia {
 

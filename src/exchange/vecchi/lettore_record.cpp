@@ -2,6 +2,7 @@
 #include "exchange/vecchi/lettore_record.h"
 
 #include <QDir>
+#include <QIODevice>
 #include <algorithm>
 #include <numeric>
 

@@ -3,10 +3,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QIODevice>
 #include <QString>
 #include <algorithm>
 #include <vector>
+
+class QIODevice;
 
 namespace cronovia {
 

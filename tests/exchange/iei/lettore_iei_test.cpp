@@ -2,6 +2,8 @@
 // Reading exchange files of every kind of health.
 #include "exchange/iei/lettore_iei.h"
 
+#include <QIODevice>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

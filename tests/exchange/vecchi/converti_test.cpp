@@ -2,6 +2,8 @@
 // The earlier release's files joining an archive: what becomes of each field, what is left alone, what is refused.
 #include "exchange/vecchi/converti.h"
 
+#include <QDateTime>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
