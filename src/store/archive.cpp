@@ -3,14 +3,13 @@
 
 #include <SQLiteCpp/Exception.h>
 
-#include <QHash>
 #include <algorithm>
-#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <utility>
 
 #include "store/connection.h"
+#include "store/many_patterns.h"
 #include "store/schema_check.h"
 
 namespace cronovia {
@@ -126,78 +125,6 @@ void BindValues(SQLite::Statement& statement, const TableDefinition& table, std:
     }
 }
 
-// A stretch of the keys' order, both ends included, and the patterns that may match what lies in it.
-struct Stretch {
-    std::string from;
-    std::string to;
-    std::vector<std::size_t> patterns;
-};
-
-// The text as the order of the keys sees it.
-std::string OrderKey(const QString& text) {
-    std::string key = text.toStdString();
-    for (char& c : key) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 'a' - 'A');
-    }
-    return key;
-}
-
-// Stretches that overlap become one: no row lies in two, however many names begin alike.
-std::vector<Stretch> StretchesOf(std::span<const NamePattern> patterns) {
-    std::vector<Stretch> all;
-    for (std::size_t i = 0; i < patterns.size(); ++i) {
-        for (const NamePattern::Range& range : patterns[i].Ranges()) {
-            std::string from = OrderKey(range.from);
-            std::string to = range.single ? from : OrderKey(range.to);
-            all.push_back({std::move(from), std::move(to), {i}});
-        }
-    }
-    std::sort(all.begin(), all.end(), [](const Stretch& a, const Stretch& b) { return a.from < b.from; });
-    std::vector<Stretch> merged;
-    for (Stretch& stretch : all) {
-        if (merged.empty() || merged.back().to < stretch.from) {
-            merged.push_back(std::move(stretch));
-            continue;
-        }
-        merged.back().to = std::max(merged.back().to, stretch.to);
-        merged.back().patterns.push_back(stretch.patterns.front());
-    }
-    // A letter in both cases gives its pattern two stretches, which may have become one.
-    for (Stretch& stretch : merged) {
-        std::sort(stretch.patterns.begin(), stretch.patterns.end());
-        stretch.patterns.erase(std::unique(stretch.patterns.begin(), stretch.patterns.end()), stretch.patterns.end());
-    }
-    return merged;
-}
-
-// Which of the patterns match a text, remembered: many rows have the same.
-class Matcher {
-  public:
-    explicit Matcher(std::span<const NamePattern> patterns) : patterns_(patterns) {}
-
-    const std::vector<std::size_t>& Matching(const QString& text, const std::vector<std::size_t>& candidates) {
-        if (last_ && text.constData() == last_->constData()) return matching_;
-        last_ = text;
-        matching_ = Known(text, candidates);
-        return matching_;
-    }
-
-  private:
-    const std::vector<std::size_t>& Known(const QString& text, const std::vector<std::size_t>& candidates) {
-        const auto known = known_.constFind(text);
-        if (known != known_.constEnd()) return *known;
-        std::vector<std::size_t> matching;
-        std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(matching),
-                     [&](std::size_t i) { return patterns_[i].Matches(text); });
-        return *known_.insert(text, matching);
-    }
-
-    std::span<const NamePattern> patterns_;
-    QHash<QString, std::vector<std::size_t>> known_;
-    std::optional<QString> last_;  // held, so that the same characters at the same place are the same text
-    std::vector<std::size_t> matching_;
-};
-
 }  // namespace
 
 // Base letters without case or accents.
@@ -310,10 +237,7 @@ void Archive::ForEachMatch(Table table, int field, std::span<const NamePattern> 
             statement.reset();
         }
     });
-    std::vector<std::size_t> anywhere;  // patterns without a literal beginning
-    for (std::size_t i = 0; i < patterns.size(); ++i) {
-        if (patterns[i].Ranges().empty()) anywhere.push_back(i);
-    }
+    const std::vector<std::size_t> anywhere = WithoutBeginning(patterns);
     if (anywhere.empty()) return;
     Matcher matcher(patterns);
     ForEach(table, [&](const Record& record) { hand(matcher.Matching(record[field], anywhere), Record(record)); });
