@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "schedule/ore_fisse.h"
+#include "schedule/registro.h"
 #include "schedule/sosta.h"
 
 namespace cronovia {
@@ -69,20 +70,13 @@ class Simulazione {
 
     const RigaCalcolo& Riga(int tappa) const { return richiesta_.tabella.righe[static_cast<std::size_t>(tappa)]; }
 
-    RigaCronovia& NuovaRiga(GenereRiga genere, int tappa) {
-        RigaCronovia& riga = passata_.righe.emplace_back();
-        riga.genere = genere;
-        riga.tappa = tappa;
-        return riga;
-    }
-
     void PercorriTappa(int indice) {
         const Tappa& tappa = Riga(indice).tappa;
         if (tappa.Traghetto()) ++passata_.totali.traghetti;
         const Vincoli* vincoli = tappa.vincoli.operator->();
         const bool conOre = vincoli != nullptr && (vincoli->traghetto || vincoli->arrivo);
         if (SoloNome(indice) && !conOre) {
-            NuovaRiga(GenereRiga::Tappa, indice);
+            registro_.NuovaRiga(GenereRiga::Tappa, indice);
             return;
         }
         if (vincoli != nullptr && vincoli->traghetto) {
@@ -93,8 +87,8 @@ class Simulazione {
         const bool fermata =
             vincoli != nullptr && vincoli->arrivo ? SostaAOrario(indice, *vincoli->arrivo) : Sosta(indice);
         const bool ultima = indice + 1 == static_cast<int>(richiesta_.tabella.righe.size());
-        if (tappa.km <= 0 && !fermata && !conOre && ultima) NuovaRiga(GenereRiga::Tappa, indice);
-        if (!SoloNome(indice)) ElencaGuida(indice);
+        if (tappa.km <= 0 && !fermata && !conOre && ultima) registro_.NuovaRiga(GenereRiga::Tappa, indice);
+        if (!SoloNome(indice)) registro_.ElencaGuida(indice, static_cast<int>(Riga(indice).voci->size()));
     }
 
     // Waits at the quay and sails, through meals and nights; what is eaten on board counts as eaten.
@@ -107,8 +101,8 @@ class Simulazione {
         if (imbarco.ritardo > 0_cent && !imbarco.perso) esito.ora = traghetto.Partenza().Il(imbarco.partenza.data);
         Aspetta(esito, std::max(indice - 1, 0), imbarco.partenza);
 
-        RigaCronovia& riga = NuovaRiga(GenereRiga::Traghetto, indice);
-        AnnotaFino(GenereFascia::Traghetto, imbarco.partenza, sbarco, 0_cent, kGiornoOrologio);
+        RigaCronovia& riga = registro_.NuovaRiga(GenereRiga::Traghetto, indice);
+        registro_.AnnotaFino(GenereFascia::Traghetto, imbarco.partenza, sbarco, 0_cent, kGiornoOrologio);
         riga.cambiaGiorno = sbarco.data > imbarco.partenza.data;
         orologio_.Va(sbarco);
         riga.data = orologio_.data;
@@ -134,7 +128,7 @@ class Simulazione {
             if (*esito.margine < 0_cent) esito.ritardo = 0_cent - *std::exchange(esito.margine, std::nullopt);
         }
         const bool attesaConVisita = presto() && VisitaSubito(indice);
-        if (ore.NonDopo() && (attesaConVisita || !presto())) NuovaOra(esito, indice, qui_);
+        if (ore.NonDopo() && (attesaConVisita || !presto())) registro_.NuovaOra(esito, indice, qui_, orologio_.data);
         if (attesaConVisita) {
             esito.ritardo = 0_cent;
             esito.margine.reset();
@@ -167,33 +161,15 @@ class Simulazione {
         return !SoloNome(indice) && (!riga.sostaGuida.Nulla() || InCentesimi(riga.sosta, giorno) >= giorno);
     }
 
-    // The row of an hour that others set, and what is late by it.
-    RigaCronovia& NuovaOra(EsitoOra esito, int tappa, Istante momento) {
-        if (esito.ritardo > 0_cent) {
-            const auto genere = esito.perso                           ? GenereRinvio::TraghettoPerso
-                                : esito.genere == GenereOra::Partenza ? GenereRinvio::ImbarcoInRitardo
-                                                                      : GenereRinvio::OraMancata;
-            passata_.rinvii.push_back({genere, orologio_.data, esito.tappa, esito.ritardo, 0});
-        }
-        esito.riga = static_cast<int>(passata_.righe.size());
-        RigaCronovia& riga = NuovaRiga(GenereRiga::Attesa, tappa);
-        riga.voce = static_cast<int>(passata_.ore.size());
-        riga.data = momento.data;
-        riga.ora = momento.ora;
-        riga.cambiaGiorno = orologio_.data > momento.data;
-        passata_.ore.push_back(esito);
-        return riga;
-    }
-
     // Lets the time until a later moment go by. The driving begins anew after it only when it is as long as a rest,
     // and a rest of days is not due any more only when it is as long as that one.
     RigaCronovia& Aspetta(EsitoOra esito, int tappa, Istante fino) {
         const Istante inizio = orologio_.Momento();
         esito.attesa = std::max(fino - inizio, 0_cent);
         if (esito.attesa > 0_cent) ContaIPasti();
-        RigaCronovia& riga = NuovaOra(esito, tappa, fino);
+        RigaCronovia& riga = registro_.NuovaOra(esito, tappa, fino, orologio_.data);
         riga.cambiaGiorno = fino.data > inizio.data;
-        AnnotaFino(GenereFascia::Attesa, inizio, fino, p_.oraColazione, p_.oraNotte);
+        registro_.AnnotaFino(GenereFascia::Attesa, inizio, fino, p_.oraColazione, p_.oraNotte);
         orologio_.Va(fino);
         if (riga.cambiaGiorno || esito.attesa >= orario_.Riposo()) orologio_.inizioGuida = orologio_.ora;
         const bool comeRiposo =
@@ -234,7 +210,7 @@ class Simulazione {
         fatto = fatto || passato;
         if (!inCorso) return false;
         const Centesimi inizio = std::exchange(orologio_.ora, pasto + durata);
-        Annota(genere, inizio);
+        registro_.Annota(genere, orologio_.data, inizio, orologio_.ora);
         orologio_.inizioGuida = orologio_.ora;
         return true;
     }
@@ -249,14 +225,14 @@ class Simulazione {
         orologio_.ora += pezzo.tempo;
         kmProgressivi_ += pezzo.km;
         passata_.totali.Aggiunge(tipo, pezzo.km, pezzo.tempo);
-        RigaCronovia& riga = NuovaRiga(GenereRiga::Marcia, indice);
+        RigaCronovia& riga = registro_.NuovaRiga(GenereRiga::Marcia, indice);
         riga.verso = pezzo.km < resto;
         riga.km = pezzo.km;
         riga.kmProgressivi = kmProgressivi_;
         riga.tempo = pezzo.tempo;
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;
-        Annota(GenereFascia::Marcia, inizio);
+        registro_.Annota(GenereFascia::Marcia, orologio_.data, inizio, orologio_.ora);
         qui_ = orologio_.Momento();
         const Orologio arrivo = orologio_;
         const std::size_t fasce = passata_.fasce.size();
@@ -311,9 +287,9 @@ class Simulazione {
         passata_.rinvii.push_back({GenereRinvio::GiorniDiRiposo, orologio_.data, tappa, {}, p_.riposoGiorno});
         orologio_.data += p_.riposoGiorno;
         orologio_.ultimoRiposo = orologio_.data;
-        const auto qui = std::find_if(passata_.righe.rbegin(), passata_.righe.rend(),
-                                      [](const RigaCronovia& riga) { return riga.genere != GenereRiga::Guida; });
-        if (qui != passata_.righe.rend()) qui->riposoDopo = true;
+        if (RigaCronovia* qui = registro_.Ultima([](GenereRiga genere) { return genere != GenereRiga::Guida; })) {
+            qui->riposoDopo = true;
+        }
     }
 
     void PastiENotte(Eventi& eventi) {
@@ -327,7 +303,7 @@ class Simulazione {
         if (!QuasiUguale(pasto, orologio_.ora, tolleranza_)) return false;
         const Centesimi inizio = orologio_.ora;
         orologio_.ora += durata;
-        Annota(genere, inizio);
+        registro_.Annota(genere, orologio_.data, inizio, orologio_.ora);
         orologio_.inizioGuida = orologio_.ora;
         fatto = true;
         return true;
@@ -340,9 +316,7 @@ class Simulazione {
 
     // A dinner or several rests ended well past the night hour: the night is taken there, before driving on.
     void NotteTardiva() {
-        const auto ultima = std::find_if(passata_.righe.rbegin(), passata_.righe.rend(),
-                                         [](const RigaCronovia& riga) { return ConMomento(riga.genere); });
-        if (ultima != passata_.righe.rend()) {
+        if (RigaCronovia* ultima = registro_.Ultima(ConMomento)) {
             ultima->eventi.notteTardiva = true;
             ultima->cambiaGiorno = true;
             const Centesimi ritardo = orologio_.ora - p_.oraNotte;
@@ -360,7 +334,7 @@ class Simulazione {
         const float volte = std::floor((orologio_.ora - orologio_.inizioGuida).Valore() / OreDiGuida().Valore());
         const Centesimi inizio = orologio_.ora;
         orologio_.ora += orario_.Riposo() * volte;
-        Annota(GenereFascia::Riposo, inizio);
+        registro_.Annota(GenereFascia::Riposo, orologio_.data, inizio, orologio_.ora);
         orologio_.inizioGuida += OreDiGuida() * volte;
         return volte > 0;
     }
@@ -377,13 +351,13 @@ class Simulazione {
             {sosta, tabella.fineGiorno, tappa.TraghettoSenzaOrario(), richiesta_.fattoreSoste, visite, atteso_},
             orario_, orologio_);
         if (esito.motivo == Motivo::Nessuno) return false;
-        AnnotaSosta(esito, indice);
+        registro_.AnnotaSosta(esito, indice, tappa.TraghettoSenzaOrario(), orologio_.data);
         const bool cambiaGiorno = esito.orologio.data > orologio_.data;
         orologio_ = esito.orologio;
         orologio_.inizioGuida = orologio_.ora;
         qui_ = orologio_.Momento();
         sosta = esito.sosta;
-        RigaCronovia& riga = NuovaRiga(GenereRiga::Sosta, indice);
+        RigaCronovia& riga = registro_.NuovaRiga(GenereRiga::Sosta, indice);
         riga.sosta = prevista;
         riga.fineGiorno = tabella.fineGiorno;
         riga.cambiaGiorno = cambiaGiorno;
@@ -391,44 +365,6 @@ class Simulazione {
         riga.data = orologio_.data;
         riga.ora = orologio_.ora;
         return true;
-    }
-
-    // The time since `inizio`, spent on the last row.
-    void Annota(GenereFascia genere, Centesimi inizio) {
-        const auto riga = static_cast<int>(passata_.righe.size()) - 1;
-        passata_.fasce.push_back({genere, riga, orologio_.data, inizio, orologio_.ora});
-    }
-
-    // The time between two moments, spent on the last row: each day from an hour to another.
-    void AnnotaFino(GenereFascia genere, Istante da, Istante a, Centesimi mattina, Centesimi sera) {
-        const auto riga = static_cast<int>(passata_.righe.size()) - 1;
-        for (NumeroGiorno giorno = da.data; giorno <= a.data; giorno += 1) {
-            const Centesimi inizio = giorno == da.data ? da.ora : mattina;
-            const Centesimi fine = giorno == a.data ? a.ora : std::max(sera, inizio);
-            if (fine > inizio) passata_.fasce.push_back({genere, riga, giorno, inizio, fine});
-        }
-    }
-
-    // What a stop, whose row comes next, spends its time on and puts off.
-    void AnnotaSosta(const EsitoSosta& esito, int indice) {
-        for (Fascia fascia : esito.fasce) {
-            fascia.riga = static_cast<int>(passata_.righe.size());
-            passata_.fasce.push_back(fascia);
-        }
-        if (esito.ritardo > 0_cent) {
-            const bool traghetto = Riga(indice).tappa.TraghettoSenzaOrario();
-            passata_.rinvii.push_back({traghetto ? GenereRinvio::TraghettoPerso : GenereRinvio::ArrivoTardivo,
-                                       orologio_.data, indice, esito.ritardo, 0});
-        }
-        if (esito.giorni > 1) {
-            passata_.rinvii.push_back(
-                {GenereRinvio::SostaSuPiuGiorni, esito.fasce.front().data, indice, {}, esito.giorni});
-        }
-    }
-
-    void ElencaGuida(int indice) {
-        const auto voci = static_cast<int>(Riga(indice).voci->size());
-        for (int voce = 0; voce < voci; ++voce) NuovaRiga(GenereRiga::Guida, indice).voce = voce;
     }
 
     const RichiestaPassata& richiesta_;
@@ -440,6 +376,7 @@ class Simulazione {
     Istante qui_;          // since when one is here: before the meal, rests or night that an arrival brought
     std::int64_t kmProgressivi_ = 0;
     Passata passata_;
+    Registro registro_{passata_};
 };
 
 }  // namespace
