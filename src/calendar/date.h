@@ -9,7 +9,7 @@
 
 namespace cronovia {
 
-/// A day of the calendar.
+/// A day of the calendar: months count from 1, the year has all its digits. Nothing keeps it to days that exist.
 struct Gma {
     int giorno = 0;
     int mese = 0;

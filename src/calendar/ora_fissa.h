@@ -50,8 +50,8 @@ class OraFissa {
 
 inline constexpr int kMinutiDelGiorno = 24 * 60;
 
-/// The minutes of "hhmm" or "h:mm", up to 99 hours; nothing for any other text. The form that is stored, "hhmm", and
-/// the one that people read, "hh:mm".
+/// The minutes of "hhmm" or "h:mm", up to 99 hours; nothing for any other text. And so many minutes in the form that
+/// is stored, "hhmm", and in the one that people read, "hh:mm".
 std::optional<int> LeggiMinuti(QStringView testo);
 QString TestoMinutiMemorizzati(int minuti);
 QString TestoMinuti(int minuti);

@@ -51,7 +51,8 @@ QString PrimoMaiuscolo(QStringView testo);
 /// The text as a name pattern: each ' " = \ > < becomes the one-character wildcard "?".
 QString ComeModello(QStringView testo);
 
-/// The whole number with which the text begins (blanks passed over, a sign allowed); 0 when it begins with none.
+/// The whole number with which the text begins; 0 when it begins with none. Blanks are passed over, between digits too,
+/// a sign is allowed; what no `int` holds is the largest one.
 int ValoreNumerico(QStringView testo);
 
 /// "1.234.567": thousands separated by ".".

@@ -18,7 +18,7 @@ class FileIntero {
     /// For who writes through a device; what goes wrong there turns up in `Completa`.
     [[nodiscard]] QIODevice& Dispositivo() { return file_; }
     void Scrivi(const QByteArray& byte);
-    /// All that was written is on the disk.
+    /// Hands all that was written to the disk, and finds out whether it had room.
     void Completa();
     /// `Completa`, then lays the file in its place.
     void Chiudi();
@@ -30,11 +30,12 @@ class FileIntero {
     QSaveFile file_;
 };
 
-/// A `Failure` when the path is a folder or the like, or a file that may not be replaced; an archive never may.
+/// A `Failure` when the path is a folder or the like, or a file: unless `sovrascrivi`, but an archive is never
+/// replaced.
 void RifiutaFileEsistente(const QString& path, bool sovrascrivi);
 
-/// A name of a file that every system takes, without ending: what it cannot hold is "-", `altrimenti` when nothing is
-/// left.
+/// A name of a file, without ending and of at most 60 characters: what a system may not take in it is "-", `altrimenti`
+/// when nothing is left.
 QString NomeDiFile(const QString& testo, QStringView altrimenti);
 
 /// Whether both lead to one file, that is there or would be: by other spelling, over links, as another name of it.

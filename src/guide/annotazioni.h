@@ -15,7 +15,7 @@ namespace cronovia {
 struct CampiVoce {
     QString descrizione;
     QString tipo;  ///< description of its type
-    int ore = 0;
+    int ore = 0;   ///< of the visit; with the minutes 0 when it has no time
     int minuti = 0;
 
     friend bool operator==(const CampiVoce&, const CampiVoce&) = default;

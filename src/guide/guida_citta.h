@@ -47,11 +47,12 @@ struct VoceGuida {
     std::int64_t id = 0;
     QString localita;
     QString codice;  ///< of its type
-    QString tipo;    ///< description of its type
+    QString tipo;    ///< description of its type; empty when there is none of that code
     QString descrizione;
     Durata tempo;  ///< time of the visit
 };
 
+/// Entries in the order of their types' codes, then of their descriptions.
 using VociGuida = std::vector<VoceGuida>;
 
 /// The entry that a row of the guide holds.

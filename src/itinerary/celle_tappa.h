@@ -16,6 +16,7 @@ namespace cronovia {
 namespace cella {
 enum Cella { Localita, Strada, Km, Tipo, Sosta, FineGiorno, KmStimati, Vincoli };
 }  // namespace cella
+/// How many cells there are.
 inline constexpr int kCelle = int{cella::Vincoli} + int{vincoli::kCampi} - kPrimoDato;
 
 /// The names of a cell: the heading of its column first, then what else it is called.

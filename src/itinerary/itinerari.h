@@ -18,7 +18,7 @@ namespace cronovia {
 /// The rows of a trip's itinerary in travel order, as they are stored.
 std::vector<Record> RecordDellItinerario(Archive& archive, const QString& codiceMeta);
 
-/// The stages of a trip in travel order, without the guide's visit times.
+/// The stages of a trip in travel order, without the guide's visit times; rows without locality are left out.
 std::vector<Tappa> TappeMemorizzate(Archive& archive, const QString& codiceMeta);
 /// The stages of a trip in travel order. `guida`'s visit times stand at the first stage of their locality.
 std::vector<Tappa> CaricaTappeItinerario(Archive& archive, const QString& codiceMeta, const OrarioCorretto& orario,

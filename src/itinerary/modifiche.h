@@ -24,8 +24,8 @@ std::optional<int> PrimaDaIndicare(std::span<const Tappa> righe);
 /// What the entry fields hold.
 struct CampiTappa {
     QString localita;
-    QString numStrada;
-    int km = 0;  ///< as typed: of the stage, or progressive ones (`KmDellaTappa`)
+    QString numStrada;  ///< road numbers
+    int km = 0;         ///< as typed: of the stage, or progressive ones (`KmDellaTappa`)
     std::optional<TipoStrada> tipo;
     Durata sosta;  ///< days are visiting days
     bool fineGiorno = false;
@@ -37,11 +37,11 @@ struct CampiTappa {
     friend bool operator==(const CampiTappa&, const CampiTappa&) = default;
 };
 
-/// The fields as a row shows them: a free row proposes the road of the row above, but no ferry; a row without type
-/// counts as local.
+/// The fields as a row shows them: one without road proposes that of the row above, but no ferry; one without type
+/// counts as local, but for the first row.
 CampiTappa CampiDellaRiga(std::span<const Tappa> righe, int riga);
 
-/// Progressive kilometres of the row above, 0 where it has none.
+/// Progressive kilometres of the row above; 0 where that row has no kilometres of its own.
 std::int64_t KmPrecedenti(std::span<const Tappa> righe, const RiepilogoItinerario& riepilogo, int riga);
 
 /// From row 3 on, kilometres beyond `precedenti` are progressive ones, when those exceed 100: the difference counts.
@@ -50,7 +50,8 @@ int KmDellaTappa(int km, std::int64_t precedenti, int riga);
 /// Why the fields cannot become row `riga`, in the order in which the person reads it; empty when they can.
 std::vector<Message> ControllaTappa(const CampiTappa& campi, int riga);
 
-/// Writes a stage into a row, beyond the last row too, with free rows between; without kilometres it has no road type.
+/// Writes a stage into a row, beyond the last row too, with free rows between; what is set for the row's stage stays.
+/// Without kilometres, known or to be told, it has no road type.
 RigheItinerario InserisceTappa(RigheItinerario righe, int riga, const CampiTappa& campi);
 
 /// Sets what others set for the stage of a row; nothing changes for a free row.

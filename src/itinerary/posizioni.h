@@ -24,8 +24,8 @@ QStringList LocalitaSenzaPosizione(std::span<const Tappa> tappe, std::span<const
 /// How many times longer a road of that type is than the straight way; 1.3 for an unknown one.
 double FattoreStrada(std::optional<TipoStrada> tipo);
 
-/// The kilometres of road that a straight way stands for, as one would guess them: to 5 km from 20 km on, to 10 km from
-/// 100 km on.
+/// The kilometres of road that a straight way stands for, as one would guess them: to 1 km, to 5 km from 20 km on, to
+/// 10 km from 100 km on; at least 1.
 int KmStimati(double distanzaKm, std::optional<TipoStrada> tipo);
 
 }  // namespace cronovia

@@ -14,7 +14,7 @@
 
 namespace cronovia {
 
-/// Totals by road type; the last element is all types together.
+/// Totals by road type, in kilometres and hours; the last element is all types together.
 struct Totali {
     std::array<std::int64_t, kTipiStrada + 1> km{};
     std::array<Centesimi, kTipiStrada + 1> tempo{};  ///< driving alone
@@ -26,7 +26,8 @@ struct Totali {
 /// The place of all types together.
 inline constexpr std::size_t kTuttiITipi = kTipiStrada;
 
-/// The totals as their boxes show them; empty where there is nothing. Times are "gg:hh:mm" with days of driving.
+/// The totals as their boxes show them; kilometres and times are empty where there are none. Times are "gg:hh:mm" with
+/// days of driving, as many digits of them as it takes.
 struct TestiTotali {
     std::array<QString, kTipiStrada + 1> km;
     std::array<QString, kTipiStrada + 1> tempo;

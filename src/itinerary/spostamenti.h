@@ -35,7 +35,7 @@ EsitoSpostamento InserisciRighe(const RigheItinerario& righe, int dove, const Ri
 QString LuogoPrecedente(const RigheItinerario& righe, int riga);
 
 /// Puts a place on the way to the stage of a row, so many kilometres from its beginning; the rest is left to the stage,
-/// of the same road. Nothing when the leg is no longer than that.
+/// of the same road. Nothing for the departure, without such kilometres, and when the leg is no longer than that.
 std::optional<RigheItinerario> DividiTappa(RigheItinerario righe, int riga, const QString& localita, int km);
 
 }  // namespace cronovia

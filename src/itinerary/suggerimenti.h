@@ -9,6 +9,7 @@
 
 namespace cronovia {
 
+/// What a stage as it is typed will not do.
 enum class Suggerimento {
     TraghettoSenzaTempo,   ///< a ferry without kilometres and stop takes no time
     FineGiornoSenzaSosta,  ///< the day's end does nothing without a stop or a ferry

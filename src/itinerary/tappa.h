@@ -32,6 +32,7 @@ struct Tappa {
     [[nodiscard]] bool TraghettoSenzaOrario() const { return !vincoli.ConTraghetto() && Traghetto(); }
     /// The kilometres that are driven: a ferry with its own hours has none.
     [[nodiscard]] int KmGuidati() const { return vincoli.ConTraghetto() ? 0 : km; }
+    /// The road that its speed is that of.
     [[nodiscard]] TipoStrada TipoEffettivo() const { return tipo.value_or(TipoStrada::Locale); }
     /// Nothing is planned here, neither a stop nor the day's end.
     [[nodiscard]] bool SenzaSosta() const { return sosta.Nulla() && !fineGiorno; }
@@ -48,7 +49,7 @@ QString LetteraTipoStrada(std::optional<TipoStrada> tipo);
 /// The letter of the road that a stage's kilometres count for; that of its own type without kilometres.
 QString LetteraStrada(const Tappa& tappa);
 
-/// The localities that the stages name, in their order.
+/// The localities that the stages name, in their order and as often as they do.
 std::vector<QString> LocalitaDelleTappe(std::span<const Tappa> tappe);
 
 /// The planned stop as the itinerary shows it: "gg:hh:mm", with a leading "*" when the day ends.

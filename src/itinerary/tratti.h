@@ -22,7 +22,7 @@ struct ItinerarioConTratto {
 /// added and the last stage is.
 ItinerarioConTratto Ritorno(std::span<const Tappa> righe);
 
-/// Rows of the trip that is copied from, `da` first; `da` beyond `a` is the stretch driven the other way.
+/// Consecutive rows of an itinerary, `da` first; `da` beyond `a` is the stretch driven the other way.
 struct Tratto {
     int da = 1;
     int a = 1;  ///< included
@@ -34,10 +34,10 @@ struct Tratto {
 /// which stands for an end that is not assigned.
 Tratto TrattoEvidenziato(std::optional<int> inizio, std::optional<int> fine, int corrente);
 
-/// Puts a stretch after the stage of row `riga`, or before it when that row is free. A leg driven the other way has the
-/// road and kilometres of the stage that follows in the source; behind its last stage there is none. Stops, with the
-/// ends of days and what others set, come along with `conSoste`, but for dates and for the ferries of a leg driven the
-/// other way. The first new row is the current one.
+/// Puts a stretch of `sorgente`, which must have its rows, after the stage of row `riga`, or before it when that row is
+/// free. A leg driven the other way has the road and kilometres of the stage that follows in the source; behind its
+/// last stage there is none. Stops, with the ends of days and what others set, come along with `conSoste`, but for
+/// dates and for the ferries of a leg driven the other way. The first new row is the current one.
 ItinerarioConTratto CopiaTratto(RigheItinerario righe, int riga, std::span<const Tappa> sorgente, Tratto tratto,
                                 bool conSoste);
 

@@ -19,7 +19,7 @@ namespace cronovia {
 /// A ferry with its own hours.
 class TraghettoAOrario {
   public:
-    static constexpr int kMassimaNavigazione = 9 * kMinutiDelGiorno;
+    static constexpr int kMassimaNavigazione = 9 * kMinutiDelGiorno;  ///< in minutes
 
     /// Nothing when the sailing takes no time or more than 9 days, or boarding begins a day before or earlier.
     static std::optional<TraghettoAOrario> Da(const OraFissa& partenza, int minutiNavigazione, int minutiImbarco);
@@ -31,6 +31,7 @@ class TraghettoAOrario {
     [[nodiscard]] Centesimi Navigazione() const;
     /// How long before the departure one has to be there.
     [[nodiscard]] Centesimi Imbarco() const;
+    /// The same on any day.
     [[nodiscard]] TraghettoAOrario SenzaData() const;
 
     friend bool operator==(const TraghettoAOrario&, const TraghettoAOrario&) = default;
@@ -50,6 +51,7 @@ class OreDiArrivo {
     /// Nothing without an hour, or when none lies between them.
     static std::optional<OreDiArrivo> Da(std::optional<OraFissa> nonPrima, std::optional<OraFissa> nonDopo);
 
+    /// The hours themselves; one of them at least is set.
     [[nodiscard]] const std::optional<OraFissa>& NonPrima() const { return nonPrima_; }
     [[nodiscard]] const std::optional<OraFissa>& NonDopo() const { return nonDopo_; }
 
@@ -89,7 +91,7 @@ template <vincoli::Field kCampo>
 class Appunto {
   public:
     Appunto() = default;
-    /// Nothing when it is too long. Blanks at its rim go.
+    /// Nothing when it is too long, or has such characters. Blanks at its rim go.
     static std::optional<Appunto> Da(const QString& testo);
 
     [[nodiscard]] const QString& Testo() const { return testo_; }
@@ -102,8 +104,9 @@ class Appunto {
 /// An amount of money, from 0,00 to 99999,99.
 class Prezzo {
   public:
+    /// Nothing beyond these limits.
     static std::optional<Prezzo> Da(int centesimiDiEuro);
-    /// "45", "45,5", "45.50", "1.234,50".
+    /// Of "45", "45,5", "45.50" or "1.234,50"; nothing for any other text.
     static std::optional<Prezzo> Leggi(const QString& testo);
 
     [[nodiscard]] int CentesimiDiEuro() const { return centesimi_; }
@@ -139,6 +142,7 @@ class VincoliTappa {
     /// Nothing of it is the same as none.
     VincoliTappa(Vincoli vincoli);  // NOLINT(google-explicit-constructor)
 
+    /// Whether there is any; what there is, null where there is none.
     explicit operator bool() const { return vincoli_ != nullptr; }
     const Vincoli* operator->() const { return vincoli_.get(); }
     /// What there is; nothing set where there is none.

@@ -8,10 +8,11 @@ namespace cronovia {
 
 /// A field of `Vincoli` that has to be another one.
 struct DifettoVincoli {
-    int campo = 0;
-    QString messaggio;
+    int campo = 0;      ///< a `vincoli::Field`
+    QString messaggio;  ///< for the person
 };
 
+/// What such texts come to.
 struct VincoliDigitati {
     VincoliTappa vincoli;                   ///< nothing set when there is something wrong
     std::optional<DifettoVincoli> difetto;  ///< the first one, in the order of the fields

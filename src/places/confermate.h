@@ -13,9 +13,10 @@
 
 namespace cronovia {
 
-/// All of an archive, as of one moment.
+/// All of an archive, as of one moment. Of a name as much counts as an itinerary stores, 29 characters.
 class PosizioniConfermate {
   public:
+    /// None; those of the archive, but for rows that tell no position.
     PosizioniConfermate() = default;
     explicit PosizioniConfermate(Archive& archive);
 

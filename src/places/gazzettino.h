@@ -30,7 +30,7 @@ struct Luogo {
     Posizione posizione;
     QString nazione;  ///< its code of two letters
     double peso = 0;  ///< how big it is: the binary logarithm of its people
-    int numero = 0;   ///< which one it is
+    int numero = 0;   ///< which one it is, from 0
     ModoNome modo = ModoNome::Proprio;
 };
 
@@ -38,27 +38,28 @@ struct Luogo {
 /// knows no place.
 class Gazzettino {
   public:
+    /// `file` is its path.
     explicit Gazzettino(QString file) : file_(std::move(file)) {}
 
     [[nodiscard]] const QString& File() const { return file_.NomeFile(); }
-    /// Whether there is a file of places.
+    /// Whether there is a file of places that can be read.
     bool Disponibile();
     /// How many places and names it knows.
     int Luoghi();
     int Nomi();
 
     /// Those that are called so, written in any way; each once, with the best of its names. Where nobody is called
-    /// exactly so, those whose name goes on with another word.
+    /// exactly so, those whose name goes on with another word. The bigger ones first, 48 at most.
     std::vector<Luogo> Chiamati(QStringView nome);
 
-    /// Places one of whose names begins so, the best ones first: those of these countries, then the bigger ones. None
-    /// for fewer than two letters.
+    /// At most so many places one of whose names begins so, the best ones first: by size, and by how well the name
+    /// fits; one of these countries comes before another one eight times its size. None for fewer than two letters.
     std::vector<Luogo> CheIniziano(QStringView inizio, int massimo, const QStringList& nazioni);
 
-    /// The place that is nearest, if it lies within so many kilometres; parts of a town give way to it.
+    /// The place that is nearest, if it lies within so many kilometres; parts of a town do not count.
     std::optional<Luogo> PiuVicino(const Posizione& posizione, double entroKm);
 
-    /// All names in their order, for who looks at the whole file.
+    /// All names in their order, with the `numero` of their place, for who looks at the whole file.
     void PerOgniNome(const std::function<void(const QString& nome, int luogo)>& visita);
 
   private:

@@ -16,8 +16,8 @@ QString NomePiegato(QStringView nome);
 /// "MESSINA (PORTO)" also "MESSINA". Folded.
 QStringList FormePiegate(QStringView nome);
 
-/// The countries that an Italian text names, as codes of two letters: "NORVEGIA" is "NO", "FRANCIA E SPAGNA" "FR",
-/// "ES".
+/// The countries that an Italian text names, as codes of two letters in no order: "NORVEGIA" is "NO", "FRANCIA E
+/// SPAGNA" are "ES" and "FR".
 QStringList CodiciNazioni(QStringView testo);
 
 /// The Italian name of a country; the code itself where there is none.

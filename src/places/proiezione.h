@@ -14,7 +14,7 @@ struct PuntoMappa {
 
 /// Lambert's conformal conic projection of the sphere with the parallels 38° and 66° north and the meridian 12° east,
 /// which keeps shapes from Sicily to the North Cape: J. P. Snyder, Map Projections, 1987, formulas 15-1 to 15-5.
-/// Latitudes below -60° count as that. `Ricava` is the way back.
+/// Latitudes below -60° or above 89.9° count as that. `Ricava` is the way back.
 PuntoMappa Proietta(const Posizione& posizione);
 Posizione Ricava(const PuntoMappa& punto);
 

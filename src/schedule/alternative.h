@@ -20,8 +20,8 @@ struct Alternativa {
     std::optional<Istante> fine;  ///< of the schedule; nothing without any moment
     Centesimi guidaMassima;       ///< the longest driving of a day
     std::optional<int> visite;    ///< time of visits, in per cent of the longer stops; nothing without any
-    std::optional<Centesimi>
-        ritardo;           ///< the longest, of hours that others set and of coming home; nothing without any
+    /// The longest, past hours that others set and past coming home; nothing without any such hour.
+    std::optional<Centesimi> ritardo;
     bool attuale = false;  ///< as the trip is set now
 
     /// It takes the days wanted.
@@ -29,7 +29,7 @@ struct Alternativa {
 };
 
 /// Each stop policy with as many days as it needs, then the trip's own policy with each number of days from the least
-/// to one and a half times those that it needs. A `Failure` where the trip cannot be computed.
+/// to one and a half times those that it needs. A `Failure` where the trip cannot be computed; throws `Stopped`.
 std::vector<Alternativa> Alternative(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida,
                                      Progress& progress);
 

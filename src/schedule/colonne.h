@@ -13,21 +13,23 @@
 
 namespace cronovia {
 
+/// A column, in the order in which they stand.
 enum class Colonna {
     Numero,        ///< of the row, from 1
     Tappa,         ///< locality; in the schedule "verso: X" on the way there, "a: X" at a stop, " > text" of the guide,
                    ///< "attesa 01:10", "ritardo 00:25" or "margine 00:30" of an hour that others set
     NumeroStrada,  ///< road numbers, as typed
-    Km,            ///< of the stage or piece, "1.234"; empty for 0, "da indicare" where they are not known
+    Km,            ///< of the stage or piece, "1.234"; "~130" for a guess, empty for 0, "da indicare" where not known
     TipoStrada,    ///< letter of the road's type
     KmProgressivi,    ///< from the start, "12.345"
     Tempo,            ///< driving time, "hh:mm", hours beyond 24 too
     Sosta,            ///< "gg:hh:mm" in visiting days, a leading "*" when the day ends; "hh:mm" of a guide entry
     Guida,            ///< of the itinerary alone: visit times of the guide, "gg:hh:mm"
-    GiornoSettimana,  ///< "Lun"; this and what follows is of the schedule alone
+    GiornoSettimana,  ///< "Lun"; this and what follows, but for the notes, is of the schedule alone
     Data,             ///< "gg/mm/aaaa", when the row ends
     Ora,              ///< "hh:mm", empty at midnight; a leading "* " when whole rest days follow
-    Note,             ///< meals, night, rests; the kind of a stop; the type of a guide entry; which hour others set
+    Note,             ///< meals, night, rests; the kind of a stop; the type of a guide entry; which hour others set;
+                      ///< in the itinerary what is set for the stage
     LimiteRitorno,    ///< ">gg/mm-hh:mm" to drive on, "<gg/mm-hh:mm" to turn back
 };
 inline constexpr std::size_t kColonne = 14;

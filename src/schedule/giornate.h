@@ -11,7 +11,7 @@
 
 namespace cronovia {
 
-/// What something costs, in cents.
+/// What something costs, in cents: fuel, tolls, nights, ferries, tickets.
 struct Costi {
     int carburante = 0;
     int pedaggi = 0;
@@ -31,21 +31,21 @@ struct Giornata {
     QString notte;      ///< locality of the night, in the same way; where the journey ends on the last day
     std::optional<Centesimi> partenza;  ///< when the first driving begins; nothing on a day without
     std::optional<Centesimi> arrivo;    ///< when the last driving ends
-    int km = 0;
-    Centesimi guida;      ///< driving time
-    Centesimi visite;     ///< time of stops, without ferries
-    Centesimi traghetto;  ///< time on ferries
-    Centesimi attesa;     ///< time waited, between breakfast and night, for hours that others set
-    bool pranzo = false;  ///< a lunch is taken on the way; the one of a stop is part of it
+    int km = 0;                         ///< of the pieces that end on this day
+    Centesimi guida;                    ///< driving time
+    Centesimi visite;                   ///< time of stops, without ferries
+    Centesimi traghetto;                ///< time on ferries
+    Centesimi attesa;                   ///< time waited, between breakfast and night, for hours that others set
+    bool pranzo = false;                ///< a lunch is taken on the way; the one of a stop is part of it
     bool cena = false;
     int riposi = 0;                 ///< short rests
     bool riposo = false;            ///< a whole day of rest
     bool inViaggio = false;         ///< the night is "verso X"
     bool notteInTraghetto = false;  ///< the ferry goes on the next morning
     bool ultima = false;            ///< the journey ends on this day
-    std::vector<int>
-        righe;  ///< positions of the schedule's rows that end on this day, with the guide entries below them
-    std::vector<Rinvio> rinvii;
+    /// Positions of the schedule's rows that end on this day, with the guide entries below them.
+    std::vector<int> righe;
+    std::vector<Rinvio> rinvii;       ///< those that turn out on this day
     std::optional<Costi> costi = {};  ///< nothing when nothing has a price
 };
 

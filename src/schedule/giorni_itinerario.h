@@ -15,7 +15,7 @@ namespace cronovia {
 /// Days that begin on the way to a stage or at its stop.
 struct CambioGiorno {
     int riga = 0;         ///< of the itinerary, from 1
-    int da = 0;           ///< number of the first of these days
+    int da = 0;           ///< number of the first of these days, from 1
     int a = 0;            ///< and of the last
     bool dentro = false;  ///< the first one begins after the leg to the stage has begun, not before it
 
@@ -27,6 +27,7 @@ struct CambioGiorno {
 class GiorniItinerario {
   public:
     GiorniItinerario() = default;
+    /// `giornate` are the days of the schedule, `righe` those of the itinerary with its free rows.
     GiorniItinerario(const Cronovia& cronovia, const std::vector<Giornata>& giornate, std::span<const Tappa> righe);
 
     /// Each row at most once, in travel order.

@@ -31,8 +31,8 @@ struct LuogoSullaMappa {
 
 /// The straight way from one place to the next.
 struct TrattaSullaMappa {
-    int riga = 0;  ///< of the place that it leads to
-    int giornata = kSenzaGiornata;
+    int riga = 0;                   ///< of the place that it leads to
+    int giornata = kSenzaGiornata;  ///< on which it is driven, from 0
     bool traghetto = false;
     PuntoMappa da;
     PuntoMappa a;
@@ -46,6 +46,7 @@ struct RiquadroMappa {
     [[nodiscard]] double Larghezza() const { return max.x - min.x; }
     [[nodiscard]] double Altezza() const { return max.y - min.y; }
     [[nodiscard]] PuntoMappa Centro() const { return {(min.x + max.x) / 2, (min.y + max.y) / 2}; }
+    /// Whether they have a point in common.
     [[nodiscard]] bool Contiene(const PuntoMappa& punto) const;
     [[nodiscard]] bool Tocca(const RiquadroMappa& altro) const;
 };
@@ -66,7 +67,7 @@ struct MappaViaggio {
     /// Where a row of the itinerary lies; null when that is not known.
     [[nodiscard]] const LuogoSullaMappa* Luogo(int riga) const;
     /// The part of the plane with all places, or with those of a day and the way to them; at least 30 kilometres
-    /// wide. Nothing without any.
+    /// wide and high. Nothing without any.
     [[nodiscard]] std::optional<RiquadroMappa> Riquadro() const;
     [[nodiscard]] std::optional<RiquadroMappa> Riquadro(int giornata) const;
     /// What is driven on a day: its legs, the places where they begin and end, and those reached on it.

@@ -61,11 +61,11 @@ struct RigaCronovia {
     int tappa = 0;  ///< position of the stage in the calculation table; a wait at the quay is at the stage before
     int voce = 0;   ///< position of the entry in the stage's guide entries, or of the hour in the schedule's
     int km = 0;     ///< of this piece
-    std::int64_t kmProgressivi = 0;
-    Centesimi tempo;    ///< driving time of this piece
-    NumeroGiorno data;  ///< day on which the piece, or the stop, ends
-    Centesimi ora;      ///< and its hour
-    Durata sosta;       ///< the stop before this pass scaled it
+    std::int64_t kmProgressivi = 0;  ///< from the start to the end of this piece
+    Centesimi tempo;                 ///< driving time of this piece
+    NumeroGiorno data;               ///< day on which the piece, or the stop, ends
+    Centesimi ora;                   ///< and its hour
+    Durata sosta;                    ///< the stop before this pass scaled it
     std::optional<LimiteRitorno> limite;
 };
 
@@ -98,6 +98,7 @@ enum class GenereRinvio : std::uint8_t {
     ImbarcoInRitardo,  ///< the same of a ferry of one day, which is taken to wait
 };
 
+/// One thing that happens later.
 struct Rinvio {
     GenereRinvio genere = GenereRinvio::ArrivoTardivo;
     NumeroGiorno data;  ///< the day on which it turns out; of rest days the first
@@ -160,9 +161,9 @@ bool InRitardo(const Cronovia& cronovia, const RigaCronovia& riga);
 /// The trip's end as its boxes show it; empty texts without any driving.
 struct TestiFine {
     QString giorno;  ///< "05"
-    QString mese;
-    QString anno;  ///< "2027"
-    QString ore;
+    QString mese;    ///< "07"
+    QString anno;    ///< "2027"
+    QString ore;     ///< "18"; it and the minutes are empty at midnight
     QString minuti;
     QString giornoSettimana;  ///< "Lun"
     QString giorni;           ///< of the whole trip, "10"

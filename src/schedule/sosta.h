@@ -17,13 +17,13 @@ namespace cronovia {
 struct Orologio {
     NumeroGiorno data;
     Centesimi ora;
-    bool pranzoFatto = false;  ///< lunch of the day taken, or not to be taken
-    bool cenaFatta = false;
+    bool pranzoFatto = false;   ///< lunch of the day taken, or not to be taken
+    bool cenaFatta = false;     ///< and dinner
     Centesimi inizioGuida;      ///< when the continuous driving began
     NumeroGiorno ultimoRiposo;  ///< day from which the rest days count
 
     [[nodiscard]] Istante Momento() const { return {data, ora}; }
-    /// The next morning: nothing eaten, nothing driven.
+    /// The next day at that hour, nothing eaten; when the driving began is for the caller to set.
     void NuovoGiorno(Centesimi ripresa);
     /// To a later moment; a new day has no meals yet.
     void Va(Istante momento);

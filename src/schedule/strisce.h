@@ -23,9 +23,9 @@ enum class GenerePezzo : std::uint8_t {
     GiornoDiRiposo,
     Attesa
 };
-inline constexpr int kGeneriPezzo = 9;
+inline constexpr int kGeneriPezzo = 9;  ///< how many kinds there are
 
-/// A bar: hours of one day, from 0 to 24.
+/// A bar: from an hour of one day to another one, of 0 to 24.
 struct PezzoDelGiorno {
     GenerePezzo genere = GenerePezzo::Marcia;
     Centesimi da;
@@ -35,11 +35,11 @@ struct PezzoDelGiorno {
 
     static constexpr int kSenzaRiga = -1;  ///< nights and days of rest have none
 };
+/// The bars of a day.
 using StrisciaDelGiorno = std::vector<PezzoDelGiorno>;
 
 /// The bars of each day, in the order of time and side by side; what lies between two of them is free, or a wait for
-/// the visiting hours. The
-/// nights are those between two days of the journey, from the night hour to breakfast.
+/// the visiting hours. The nights are those between two days of the journey, from the night hour to breakfast.
 std::vector<StrisciaDelGiorno> Strisce(const Cronovia& cronovia, const std::vector<Giornata>& giornate);
 
 /// How a bar is filled, so that kinds differ without colours too.

@@ -15,11 +15,11 @@ namespace cronovia {
 
 /// One stage as the simulation sees it. Days of stops are visiting days.
 struct RigaCalcolo {
-    Tappa tappa;             ///< `tappa.guida` is the guide time found for this calculation
-    Durata sostaItinerario;  ///< what the policy retains of the itinerary's stop
-    Durata sostaGuida;       ///< what it retains of the guide's visit times
-    Durata sosta;            ///< both together
-    bool fineGiorno = false;
+    Tappa tappa;                            ///< `tappa.guida` is the guide time found for this calculation
+    Durata sostaItinerario;                 ///< what the policy retains of the itinerary's stop
+    Durata sostaGuida;                      ///< what it retains of the guide's visit times
+    Durata sosta;                           ///< both together
+    bool fineGiorno = false;                ///< the day ends here, where the policy leaves that
     std::shared_ptr<const VociGuida> voci;  ///< guide entries to list at this stage; never null
 };
 

@@ -22,7 +22,7 @@ namespace cronovia {
 
 /// One row of a table: all its fields as texts, in the table's order. A yes/no field is "1" or "0".
 struct Record {
-    std::int64_t id = 0;
+    std::int64_t id = 0;  ///< 0 before it is stored
     std::vector<QString> values;
 
     /// The value of a field, by its position in the table.
@@ -75,7 +75,7 @@ class Archive {
     /// A sentence about its damage; empty as far as is known. While it is damaged nothing can be written, and what is
     /// read may be incomplete.
     [[nodiscard]] const QString& Damage() const;
-    /// Whether it was small enough for that at its opening, or it was done since.
+    /// Whether its pages and indexes were checked: at its opening, if it was small enough, or since.
     [[nodiscard]] bool WasChecked() const { return confirmed_.has_value(); }
     /// Checks its pages and indexes, unless that was done since it was written to; a `Failure` when it is damaged. For
     /// those who hand on much of what they read.

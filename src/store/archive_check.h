@@ -27,7 +27,8 @@ enum class CheckDepth {
     Whole,    ///< the widths of the fields, and rows that need others
 };
 
-/// Looks through a database; an error of the database on the way is a finding too. No finding: all is in order.
+/// Looks through a database; no finding: all is in order. An error of the database that tells of damage is a finding
+/// too, any other one is thrown. The values of a file that `UpdateTables` would change are not looked at.
 std::vector<Finding> CheckDatabase(SQLite::Database& database, CheckDepth depth);
 
 /// Whether what is read may be wrong.

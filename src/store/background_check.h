@@ -13,12 +13,13 @@ namespace cronovia {
 /// write wait meanwhile, so it does not last longer than they do.
 class BackgroundCheck {
   public:
+    /// Of the archive file.
     explicit BackgroundCheck(QString path) : path_(std::move(path)) {}
 
-    /// What it came to: whether the file is damaged; nothing when it was stopped, or took too long.
+    /// What it came to: whether the file is damaged; nothing when it took too long, or the file could not be asked.
     using Ended = std::function<void(std::optional<bool>)>;
 
-    /// Begins, unless it is on; `ended` is called from its thread, not when it was stopped.
+    /// Begins, once until `Stop`; `ended` is called from its thread, not when it was stopped.
     void Start(Ended ended);
     /// Returns once it has let the file go.
     void Stop();

@@ -53,9 +53,10 @@ inline void BindText(SQLite::Statement& statement, int index, QStringView text) 
     statement.bind(index, std::string(utf8.constData(), static_cast<std::size_t>(utf8.size())));
 }
 
+/// A database file under way, with the statements prepared for it, and the copies that are kept of it.
 class Archive::Connection {
   public:
-    /// Opens the file, which is made when it is missing. Throws what the database throws.
+    /// Opens the file for reading and writing. Throws what the database throws, also when there is none.
     explicit Connection(const QString& path);
 
     /// The file, for messages.

@@ -25,7 +25,7 @@ QString LayCopy(SQLite::Database& source, const std::function<QString(int)>& nam
 /// A copy in the folder of the copies.
 struct ArchiveCopy {
     QString path;
-    QDateTime when;
+    QDateTime when;  ///< by its name
     QString reason;  ///< before what it was laid: "prima di importare"; empty for the one of each day
 };
 
@@ -45,8 +45,8 @@ QString LayAmongCopies(SQLite::Database& source, const QString& folder, const QD
 /// `copies` has the newest one first.
 std::vector<ArchiveCopy> CopiesToRemove(const std::vector<ArchiveCopy>& copies, const QDate& today, int newest);
 
-/// How many rows the tables of an archive file have, in their order; nothing for a table that is not there. A `Failure`
-/// when the file cannot be read.
+/// How many rows the tables of an archive file have, of `AllTables` and in its order; nothing for one that is not
+/// there. A `Failure` when the file cannot be read.
 std::vector<std::optional<std::int64_t>> RowsIn(const QString& path);
 
 /// Lays the archive file of a data folder, whatever it holds, out of the way: in order among the copies, else as it is

@@ -28,7 +28,7 @@ class NamePattern {
     /// Whether the whole text is one that the pattern stands for.
     [[nodiscard]] bool Matches(QStringView text) const;
 
-    /// The pattern of the texts that begin with one of this pattern's and end with one of `next`.
+    /// The pattern of a text of this one with a text of `next` right behind it.
     [[nodiscard]] NamePattern Then(const NamePattern& next) const;
 
     /// The pattern of the same texts written from their end to their beginning.

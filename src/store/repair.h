@@ -26,19 +26,20 @@ struct RepairedTable {
 
 /// A repaired file that waits to be put in place; it goes with the object.
 struct Repair {
+    /// How it came about.
     enum class Way {
         Indexes,  ///< the rows were in order, only indexes were not
         Rows,     ///< read row by row into a new file
         Copy,     ///< the file cannot be read: it is the last good copy
     };
     Way way = Way::Indexes;
-    QString path;
-    std::vector<RepairedTable> tables;
-    QStringList rebuilt;                  ///< names of lost trips, made anew for the stages that are left of them
-    QStringList doubts;                   ///< texts of which the file says two things: "«ALBA» o «ALBB»"
-    std::optional<ArchiveCopy> lastGood;  ///< the newest copy that is in order
-    std::shared_ptr<QTemporaryDir> place;
-    QDateTime written;  ///< when the damaged file was written last
+    QString path;                       ///< of the repaired file
+    std::vector<RepairedTable> tables;  ///< in the order of their numbers
+    QStringList rebuilt;                ///< names of lost trips, made anew for the stages that are left of them
+    QStringList doubts;                 ///< texts of which the file says two things: "«ALBA» o «ALBB»"; 20 at most
+    std::optional<ArchiveCopy> lastGood;   ///< the newest copy that is in order
+    std::shared_ptr<QTemporaryDir> place;  ///< the folder that the file lies in
+    QDateTime written;                     ///< when the damaged file was written last
 };
 
 /// Repairs a copy of a data folder's archive; the archive stays as it is. First the indexes alone, then row by row with

@@ -20,7 +20,8 @@ namespace cronovia {
 /// the database throws when not even the list of tables can be read.
 void SalvageRows(SQLite::Database& damaged, SQLite::Database& target);
 
-/// What the indexes of a damaged table say otherwise than the rows saved from it.
+/// What the indexes of a damaged table say otherwise than the rows saved from it; of a missing row, what most of those
+/// that can be read say.
 struct IndexWitness {
     using Values = std::map<int, QString>;     // by the position of the field
     std::map<std::int64_t, Values> missing;    ///< rows that are not among those saved, with the values known of them

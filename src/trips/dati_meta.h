@@ -20,8 +20,8 @@ struct DatoMeta {
 std::vector<DatoMeta> DatiDellaMeta(const Meta& meta);
 
 /// The trip with that field changed; its hours are not put in order. A `Failure` names the field, and what it can be,
-/// when there is none of that name, or it cannot be that. The two fields of being home go by one at a time: the hour is
-/// told before its day, or with none the end of that day is meant; an empty text takes both away.
+/// when there is none of that name, or it cannot be that. Of the two fields of being home the day comes first, and
+/// means its end until the hour is told; an empty text in either takes both away.
 Meta ConDato(Meta meta, const DatoMeta& dato);
 
 }  // namespace cronovia

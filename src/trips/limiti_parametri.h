@@ -8,10 +8,10 @@
 
 namespace cronovia {
 
-/// The first and the last hour that a time can have; its minutes are quarters.
+/// The first and the last hour that a time can have, with any quarter of it.
 struct LimitiOrario {
-    mete::Field campo;
-    Centesimi ParametriViaggio::*valore;
+    mete::Field campo;                    ///< where it is stored
+    Centesimi ParametriViaggio::*valore;  ///< and held
     int primaOra;
     int ultimaOra;
 };
@@ -27,7 +27,8 @@ inline constexpr std::array<LimitiOrario, 9> kLimitiOrari = {{
     {mete::OreTraghetti, &ParametriViaggio::oreTraghetti, 1, 24},
 }};
 
-/// The lengths of a short rest, in minutes; the most hours between two of them; days of rest, and between them.
+/// The lengths of a short rest, in minutes; the most hours between two of them; the most days of rest, and between
+/// them.
 inline constexpr std::array<int, 8> kMinutiDiRiposo = {0, 5, 10, 15, 20, 30, 45, 60};
 inline constexpr int kMassimeOreTraRiposi = 8;
 inline constexpr int kMassimiGiorniDiRiposo = 5;

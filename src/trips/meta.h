@@ -29,8 +29,8 @@ enum class CalcoloSoste {
     SosteItinerario = 1,  ///< those of the itinerary
     SosteGuida,           ///< the visit times of the guide
     SostaMaggiore,        ///< the longer of the two
-    SostaMinore,          ///< the shorter of the two
-    NessunaSosta,
+    SostaMinore,          ///< the shorter of the two; the itinerary's where the guide has none
+    NessunaSosta,         ///< none
 };
 
 /// Travel parameters; the initial values are the standard defaults. Times of day and durations are whole hundredths of
@@ -63,6 +63,7 @@ class Scadenza {
     /// "ddmmyyyy" and "hhmm", or as people write them; nothing when they are none.
     static std::optional<Scadenza> Leggi(QStringView data, QStringView ora);
 
+    /// Its hour, which has a day; the same as a moment.
     [[nodiscard]] const OraFissa& Ora() const { return ora_; }
     [[nodiscard]] Istante Momento() const { return ora_.Il({}); }
     friend bool operator==(const Scadenza&, const Scadenza&) = default;
@@ -75,9 +76,9 @@ class Scadenza {
 
 /// A trip ("mèta"), as typed or stored: nothing in it is corrected yet.
 struct Meta {
-    QString codice;    ///< six digits; empty for a trip not saved yet
-    QString localita;  ///< the destination, which no other trip has
-    QString nazione;
+    QString codice;                          ///< six digits; empty for a trip not saved yet
+    QString localita;                        ///< the destination, which no other trip has
+    QString nazione;                         ///< one or several, as people write them
     std::optional<NumeroGiorno> dataInizio;  ///< nothing when the stored text is no date
     PartiData partiInizio;                   ///< what that text tells all the same; none when it is a date
     Centesimi oraInizio;                     ///< time of day at which the journey begins

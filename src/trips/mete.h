@@ -24,7 +24,7 @@ std::vector<QString> ValoriAggiunti(const Meta& meta);
 /// Stores that row in the place of the one before; within a transaction of the caller. Saving a trip does.
 void ScriviAggiunti(Archive& archive, const Meta& meta);
 
-/// The code for a new trip: 1 when there is none, the lowest free number else, in six digits. `codici` in any order.
+/// The code for a new trip: the lowest number that is none of `codici`, in six digits. A `Failure` when all are taken.
 QString NuovoCodiceMeta(std::span<const QString> codici);
 
 /// All codes in use, in rising order.
@@ -36,7 +36,7 @@ QString CodiceLibero(Archive& archive);
 /// What saving a trip will do.
 struct Salvataggio {
     bool nuova = false;  ///< a new trip; else the stored one with `codice` is changed
-    QString codice;
+    QString codice;      ///< of the trip that is written
 };
 
 /// A trip with a code is changed. One without is new, unless a trip with its destination is stored: then that one is

@@ -21,6 +21,7 @@ class OrarioCorretto {
     /// the limits change may change again, with its day lengths, when its result is corrected once more.
     explicit OrarioCorretto(const ParametriViaggio& digitati);
 
+    /// The corrected ones.
     [[nodiscard]] const ParametriViaggio& Parametri() const { return parametri_; }
     /// Driving time of one day, from breakfast to night without the meals: the day length of driving totals.
     [[nodiscard]] Centesimi GuidaGiorno() const { return guidaGiorno_; }

@@ -11,14 +11,14 @@ namespace cronovia {
 
 /// Whole numbers of small parts, so that sums of money are exact. What is not told costs nothing.
 struct PrezziViaggio {
-    std::optional<int> kmLitro;     ///< hundredths of a kilometre that a litre lasts; never 0
+    std::optional<int> kmLitro;     ///< hundredths of a kilometre that a litre lasts: from 50 to 9999
     std::optional<int> carburante;  ///< of a litre, in thousandths of a euro
     std::optional<int> pedaggio;    ///< of a kilometre of motorway, in thousandths of a euro
     std::optional<int> notte;       ///< of a night, in hundredths of a euro
 
     friend bool operator==(const PrezziViaggio&, const PrezziViaggio&) = default;
 };
-inline constexpr std::size_t kPrezziViaggio = 4;
+inline constexpr std::size_t kPrezziViaggio = 4;  ///< how many they are
 
 /// As they are stored and typed, in the order of the members: "9,5", "1,859"; empty for what is not told.
 std::array<QString, kPrezziViaggio> TestiDeiPrezzi(const PrezziViaggio& prezzi);
