@@ -6,6 +6,7 @@
 
 namespace cronovia {
 
+/// The folders that may hold them.
 struct LuoghiPossibili {
     QString richiesta;  ///< named by the person; empty when none was
     QString programma;  ///< folder of the program

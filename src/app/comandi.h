@@ -10,6 +10,7 @@ namespace cronovia {
 
 /// The menus, from left to right; `Nessuno` is for what lives in a frame that is chosen from.
 enum class Menu { File, Modifica, Itinerario, Cronovia, Guida, Vista, Aiuto, Nessuno };
+/// How many menus there are.
 inline constexpr std::size_t kMenu = static_cast<std::size_t>(Menu::Nessuno);
 
 /// One command, in words and as a procedure. It has a button where a screen places one.

@@ -21,7 +21,7 @@ void Confronta(Postazione& p);
 /// Asks when one has to be home, and for the prices of the trip.
 void ACasaEntro(Postazione& p);
 
-/// Computes the schedule when none is on screen; with one, the choices of its printout come in front, also from the
+/// Computes the schedule when none is on screen; then the choices of its printout come in front, also from the
 /// printers.
 void Stampa(Postazione& p);
 

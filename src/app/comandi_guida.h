@@ -19,7 +19,8 @@ void CercaInGuida(Postazione& p);
 void StampaGuida(Postazione& p);
 /// Asks the same before it deletes the entry of the current row.
 void CancellaRigaGuida(Postazione& p);
-/// Asks the same. The itinerary comes back as it is stored, with the visits that the guide now has.
+/// Asks the same. The trip is in front again with the visits that the guide now has: as it is stored, but for what of
+/// it is typed and not saved.
 void FineGuida(Postazione& p);
 
 /// Adds the places to stay of a file that the person names to the guide, after showing what would become of them.

@@ -36,8 +36,8 @@ void TogliGiornata(Postazione& p, int giornata);
 void FineGiornata(Postazione& p, int giornata);
 void FineGiornataCorrente(Postazione& p);
 
-/// The rows selected as text for spreadsheets; for this window also what no text tells of them.
-/// In the schedule its rows.
+/// Puts the rows selected on the clipboard as text for spreadsheets, for this window also what no text tells of them;
+/// in the schedule what `CopiaCronovia` does. `Taglia` takes them away too.
 void Copia(Postazione& p);
 void Taglia(Postazione& p);
 /// Stages as text, before the current row; all of them or none.

@@ -22,10 +22,10 @@ void SulloScambio(Postazione& p, const std::function<void(TavoloScambio&)>& coma
 /// Move all trips of one list behind those of the other.
 void ScambiaTutteDaPrima(Postazione& p);
 void ScambiaTutteDaSeconda(Postazione& p);
-/// Exports or imports the trips that are chosen, after a question. An import that added something closes the
-/// screen: the single trip that came in is open then, else the one that was.
+/// Exports or imports the trips that are chosen, after a question. An import that was not stopped closes the screen,
+/// whatever it added: the single trip that came in is open then, else the one that was.
 void ImExp(Postazione& p);
-/// Leaves the screen with nothing done. No trip is open afterwards.
+/// Leaves the screen with nothing done. The trip that was open is in front again, as it is stored.
 void FineScambio(Postazione& p);
 
 /// The step of an import from a file that has just been done, while that trip was open.

@@ -32,7 +32,7 @@ std::vector<CopiaInElenco> ElencoCopie(const QString& cartella);
 QString TrovaCopia(const QString& cartella, const QString& chiamata);
 
 /// What an archive would be with a copy in its place, as lines of text: which trips come back, go, become others. Never
-/// empty.
+/// empty. A `Failure` when the copy is none that can be relied on.
 QString CosaCambierebbe(const QString& cartella, const QString& copia);
 
 /// Puts a copy into the archive's place, which becomes a copy itself, or, when it is damaged, a file beside it.

@@ -29,9 +29,11 @@ class Documento {
     Documento& operator=(const Documento&) = delete;
 
     // What is open.
+    /// The fields of the trip as they are now, saved or not.
     [[nodiscard]] const Meta& Campi() const { return campi_; }
     /// The timetable of these fields.
     [[nodiscard]] const OrarioCorretto& Orario() const { return orario_; }
+    /// Its stages with their free rows.
     [[nodiscard]] const RigheItinerario& Righe() const { return righe_; }
     /// Leg times and totals of the stages, as many legs as stages.
     [[nodiscard]] const RiepilogoItinerario& Riepilogo() const { return riepilogo_; }
@@ -86,7 +88,8 @@ class Documento {
     /// does not hold any more.
     void ImpostaCampi(const Meta& campi);
     void ImpostaParametri(const ParametriViaggio& parametri);
-    /// Put hours that disagree right, after one was changed; and all that depends on the start of the trip.
+    /// Put hours that disagree in order; and each within its own limits too, as calculations take it. What is put right
+    /// so is no change of the person's.
     void ControllaOrari();
     void AggiornaOrari();
     /// Goes to a row; beyond the last stage, to the first one behind it.
@@ -94,18 +97,20 @@ class Documento {
     /// Replaces the stages as one step that can be taken back, and goes to a row. Free rows behind the last stage go;
     /// what changes nothing is no step. Positions that were changed along with them are taken back with them.
     void Modifica(const QString& nome, RigheItinerario nuove, int riga, CambiPosizioni posizioni = {});
+    /// The steps that can be taken back, of whichever kind.
     [[nodiscard]] Storia& Modifiche() { return storia_; }
     [[nodiscard]] const Storia& Modifiche() const { return storia_; }
 
     // Computing.
-    /// The reason why the schedule is as it is, or empty; no schedule is there afterwards when it was stopped.
+    /// Returns the closing message, empty when there is nothing to tell; no schedule is there afterwards when it was
+    /// stopped.
     QString Calcola(Progress& progress);
     /// What came nearest to the days wanted, when the last calculation did not reach them and nothing changed since.
     [[nodiscard]] const std::optional<RicercaGiorni>& Ricerca() const { return ricerca_; }
     /// Types the stops of such a proposal into the itinerary, where they alone count then and no days are wanted: one
     /// step that can be taken back.
     void Adotta(const PropostaGiorni& proposta);
-    /// What the trip would come to with other stops or days.
+    /// What the trip would come to with other stops or days. Throws `Stopped`.
     std::vector<Alternativa> Confronta(Progress& progress);
     /// Computes the last schedule anew when it is not true any more, without putting it in front.
     void CalcolaDalVivo();
@@ -115,6 +120,7 @@ class Documento {
     void Ricomponi();
 
     // Saving.
+    /// What saving the fields would do now.
     [[nodiscard]] Salvataggio DecidiSalvataggio() { return cronovia::DecidiSalvataggio(sessione_.Archivio(), campi_); }
     // All of it is a `MetaCambiata` when the stored trip is no longer what it was when it was loaded.
     /// Saves the fields and loads the trip anew, which may have got another code. Refused too when that would now be
@@ -127,7 +133,8 @@ class Documento {
     /// Saves fields and stages in the place of what is stored since, as the person was shown it; as a new trip when the
     /// open one is gone. Refused when it is another thing by now, and when a new trip's destination is stored already.
     EsitoMemorizzazione Sovrascrivi(const MetaCambiata& vista, Progress& progress);
-    /// Delete the stored stages, and the stored trip with them; what is open stays as it is until it is loaded anew.
+    /// Delete the stored stages, and the stored trip with them, after a copy was kept; what is open stays as it is
+    /// until it is loaded anew.
     void CancellaTappe(Progress& progress);
     MetaCancellata Cancella(Progress& progress);
 

@@ -22,16 +22,16 @@ struct ViaggioDaScrivere {
 
 /// What was written, and what is to be said of it.
 struct FileScritto {
-    QByteArray contenuto;
-    QString avviso = {};  ///< a sentence on what was left out; empty when nothing was
+    QByteArray contenuto;  ///< of the whole file
+    QString avviso = {};   ///< a sentence on what was left out; empty when nothing was
 };
 
 /// A kind of file.
 struct FormatoViaggio {
-    QStringView opzione;      ///< of `esporta`, and the ending of the file's name: "html"
-    QStringView nome;         ///< "Pagina per il telefono"
-    QStringView descrizione;  ///< of the option
-    FileScritto (*scrivi)(const ViaggioDaScrivere&);
+    QStringView opzione;                              ///< of `esporta`, and the ending of the file's name: "html"
+    QStringView nome;                                 ///< "Pagina per il telefono"
+    QStringView descrizione;                          ///< of the option
+    FileScritto (*scrivi)(const ViaggioDaScrivere&);  ///< may throw a `Failure`
 };
 
 /// All kinds, in the order of the help.
@@ -43,7 +43,7 @@ const FormatoViaggio& FormatoDi(QStringView opzione);
 QString NomeFileViaggio(const FormatoViaggio& formato, const Meta& meta);
 
 /// Writes the file, whole or not at all, and tells in a sentence or two where it is. A `Failure` when the archive is
-/// damaged, the path belongs to it, or a file is there that may not be replaced.
+/// damaged, the path belongs to it, a file is there that may not be replaced, or there is nothing to write.
 QString ScriviFileViaggio(const ViaggioDaScrivere& viaggio, const FormatoViaggio& formato, const QString& path,
                           bool sovrascrivi);
 

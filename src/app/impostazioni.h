@@ -23,8 +23,9 @@ std::vector<CartaDaStampa> CarteOfferte();
 inline constexpr int kMinimoCopie = 3;
 inline constexpr int kMassimoCopie = 100;
 
+/// What was chosen.
 struct Impostazioni {
-    int copie = 10;
+    int copie = 10;       ///< how many of the newest copies stay
     CartaDaStampa carta;  ///< one of those that are offered
 };
 

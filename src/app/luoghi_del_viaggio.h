@@ -39,8 +39,8 @@ class LuoghiDelViaggio {
     /// there; nothing where one of them is not known.
     std::optional<double> Diretta(Archive& archive, const Documento& documento, int riga, const QString& localita);
 
-    /// What a name that begins so can become: stages of this trip and of others, the guide, places, each once. None
-    /// for fewer than two letters.
+    /// What a name that begins so can become: stages of this trip, from three letters on those of other trips and the
+    /// guide, places, each once. None for fewer than two letters.
     std::vector<PropostaNome> Proposte(Archive& archive, const Documento& documento, const QString& inizio,
                                        int massimo);
 

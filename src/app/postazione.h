@@ -27,25 +27,25 @@ enum class FileChiesto { Import, Export, Percorso, Cartella, Soste };
 /// A place on the way to a stage, and its kilometres from where that leg begins.
 struct Divisione {
     QString localita;
-    int km = 0;
+    int km = 0;  ///< less than the leg has
 };
 
 /// The window as the commands see it; tests put scripts in its place.
 struct Volti {
     Interaction& interazione;
     Progress& avanzamento;
-    std::function<QDateTime()> adesso;
-    std::function<void()> mostra;                         ///< shows the state in the middle of a command
-    std::function<QString(FileChiesto)> scegliFile = {};  ///< an empty path when the person wants none
-    std::function<void()> chiudi = {};                    ///< closes the window
-    std::function<void()> ferma = {};                     ///< has `avanzamento` request the stop
-    std::function<QString()> leggiAppunti = {};           ///< the text of the clipboard; puts one there
-    std::function<void(const QString&)> scriviAppunti = {};
+    std::function<QDateTime()> adesso;                       ///< the clock
+    std::function<void()> mostra;                            ///< shows the state in the middle of a command
+    std::function<QString(FileChiesto)> scegliFile = {};     ///< an empty path when the person wants none
+    std::function<void()> chiudi = {};                       ///< closes the window
+    std::function<void()> ferma = {};                        ///< has `avanzamento` request the stop
+    std::function<QString()> leggiAppunti = {};              ///< the text of the clipboard
+    std::function<void(const QString&)> scriviAppunti = {};  ///< puts one there
     /// Where to part the leg that leads from a place to a stage; nothing when the person does not want to.
     std::function<std::optional<Divisione>(const QString& da, const Tappa& tappa)> chiediDivisione = {};
     std::function<void()> anteprima = {};  ///< shows the pages that the screen in front would print
     std::function<void()> stampa = {};     ///< prints them on the printer chosen
-    ScegliCopia scegliCopia = {};
+    ScegliCopia scegliCopia = {};          ///< which copy of the archive is to be put back
     /// Where a journey is to be written, the name being a proposal; an empty path when the person does not want it.
     std::function<QString(const FormatoViaggio& formato, const QString& nome)> scegliFileViaggio = {};
     /// What others set for a stage; a trip's deadline and prices. Nothing when the person leaves them as they are.
@@ -77,10 +77,10 @@ struct Postazione {
     LuoghiDelViaggio luoghi{FileDelProgramma(QStringLiteral("luoghi.dat"))};
     QString avviso = {};  ///< told beside the work, until the next command
     Recupero recupero{sessione.Cartella()};
-    Schermata schermata;
-    Attivita attivita = Attivita::Nessuna;
+    Schermata schermata;                    ///< in front
+    Attivita attivita = Attivita::Nessuna;  ///< what goes on while a command has not ended
     struct {
-        QString testo;
+        QString testo;  ///< as the clipboard got them
         RigheItinerario tappe;
         QString prima;                             ///< the place before them; empty before the departure
     } copiate;                                     ///< the stages that were copied last
@@ -103,14 +103,17 @@ struct Postazione {
     [[nodiscard]] bool InInserimento() const { return Su<schermata::Inserimento>() || Su<schermata::Copia>(); }
     /// The step of the printout that is chosen on the screen in front; null when there is none.
     [[nodiscard]] schermata::PassoStampa* PassoDiStampa();
+    /// Whether there is one.
     [[nodiscard]] bool StampaAperta() const;
     /// What is told beside the work; a damaged archive's sentence stays there, and what the schedule in front costs.
     [[nodiscard]] QString DaAvvisare() const;
     /// A run that can be stopped is on.
     [[nodiscard]] bool InCorsa() const { return attivita == Attivita::Corsa; }
+    /// The conversion of the earlier release's data is offered.
     [[nodiscard]] bool ConverteOfferto() const;
     /// There is no trip, and none was begun: nothing can be typed.
     [[nodiscard]] bool SenzaMete() const;
+    /// Which commands can be used now.
     [[nodiscard]] StatoComandi Comandi() const;
 
     /// Names of the changes that undo and redo are about on the screen in front; nothing when there is none.
@@ -127,8 +130,9 @@ struct Postazione {
     bool MentreCorre(const std::function<void()>& azione);
     /// The trip screen comes in front, with what is open.
     void MettiSchermoDelViaggio();
-    /// The same with the stored trip that is current.
+    /// The same after the trip was loaded as `Documento::Ricarica` does.
     void VaiAlViaggio();
+    /// Tells something; asks, true on Yes.
     void Mostra(const QString& testo, const QString& titolo = {}, Icon icona = Icon::Exclamation);
     [[nodiscard]] bool Chiede(const QString& testo, const QString& titolo);
     /// The same before something is lost: Enter means no.

@@ -16,9 +16,9 @@ namespace cronovia {
 
 /// An entry of the guide that is being typed, in the row of an entry or of a locality.
 struct VoceSospesa {
-    QString localita;
-    QString mostrata;  ///< description of the entry that is changed; empty: a new one
-    CampiVoce scritti;
+    QString localita;   ///< of that row
+    QString mostrata;   ///< description of the entry that is changed; empty: a new one
+    CampiVoce scritti;  ///< as they were typed
 
     friend bool operator==(const VoceSospesa&, const VoceSospesa&) = default;
 };
@@ -31,7 +31,7 @@ struct LavoroSospeso {
     RigheItinerario righe;            ///< the stages as they are now, without visit times
     int riga = 1;                     ///< the current row
     std::optional<CampiTappa> tappa;  ///< typed for that row and not written into it
-    std::optional<VoceSospesa> voce;
+    std::optional<VoceSospesa> voce;  ///< typed for the guide and not saved
 
     friend bool operator==(const LavoroSospeso&, const LavoroSospeso&) = default;
 };
@@ -42,6 +42,7 @@ QStringList Differenze(const LavoroSospeso& lavoro);
 /// The files of one data folder. A window writes to one of its own, and holds it, so that no other one's goes.
 class Recupero {
   public:
+    /// Writes nothing yet.
     explicit Recupero(const QString& cartella) : cartella_(cartella) {}
 
     /// Writes the file when the work is another than it was, and deletes it when there is none. A `Failure` when it
@@ -50,9 +51,10 @@ class Recupero {
 
     /// Paths of the files that were left behind; one that a window holds was not, though it may be too busy to answer.
     [[nodiscard]] QStringList Rimasti() const;
+    /// What a file holds.
     struct Trovato {
         LavoroSospeso lavoro;
-        QDateTime scritto;
+        QDateTime scritto;  ///< when
     };
     /// Reads one. A `Failure` when it is torn or not one of ours; it is laid aside then under another name.
     [[nodiscard]] Trovato Leggi(const QString& file) const;

@@ -21,8 +21,8 @@ using ScegliCopia = std::function<std::optional<QString>(const std::vector<Copia
 struct RichiestaRimedio {
     const QString& cartella;  ///< the data folder
     Interaction& interazione;
-    const ScegliCopia& scegliCopia;
-    QDateTime adesso;  ///< names the file that the damaged archive is laid aside in
+    const ScegliCopia& scegliCopia;  ///< called with one copy at least
+    QDateTime adesso;                ///< names the file that the damaged archive is laid aside in
 };
 
 /// Puts a copy that the person chooses into the archive's place, after telling what would change; repairs it, after

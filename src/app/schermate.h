@@ -17,6 +17,7 @@ namespace cronovia::schermata {
 
 /// The trip's fields and its itinerary.
 struct Viaggio {
+    /// Which trip is in front.
     enum class Fase {
         Vuota,   ///< the archive has no trip, none was begun
         Nuova,   ///< a new trip is filled in
@@ -53,12 +54,12 @@ struct Cronovia {
 enum class PassoStampa {
     Scelte,     ///< what is to be printed
     Stampante,  ///< on what
-    InCorso,
+    InCorso,    ///< it is printed
 };
 
 /// Printing the schedule.
 struct Stampa {
-    Cronovia da;
+    Cronovia da;  ///< where it leads back to
     PassoStampa passo = PassoStampa::Scelte;
     bool pagine = true;  ///< more is to be printed than the forms of the logbook
 };

@@ -20,17 +20,17 @@ namespace cronovia {
 
 /// A trip with its itinerary, as it is stored.
 struct MetaAperta {
-    Meta meta;              ///< `giorniAdeguamento` raised to the least days
-    OrarioCorretto orario;  ///< of its parameters
-    std::vector<Tappa> tappe;
+    Meta meta;                 ///< `giorniAdeguamento` raised to the least days
+    OrarioCorretto orario;     ///< of its parameters
+    std::vector<Tappa> tappe;  ///< with the guide's visit times
     RiepilogoItinerario riepilogo;
     Meta memorizzata = {};  ///< as the archive holds it
 };
 
 /// What a single calculation does differently from the stored trip.
 struct OpzioniCalcolo {
-    std::optional<int> giorni;  ///< days wanted, 0 = as many as needed
-    std::optional<CalcoloSoste> soste;
+    std::optional<int> giorni;          ///< days wanted, 0 = as many as needed
+    std::optional<CalcoloSoste> soste;  ///< which stops count
 };
 
 /// A trip with its schedule.
@@ -58,11 +58,13 @@ class Sessione {
     /// A `Failure` when the archive is damaged: for those who write down what they read.
     void RifiutaSeDanneggiato() const;
 
+    /// What is open, and the data folder that it lies in.
     Archive& Archivio() { return archive_; }
     [[nodiscard]] const Archive& Archivio() const { return archive_; }
     [[nodiscard]] const QString& Cartella() const { return cartella_; }
 
-    /// Goes on in another folder, which has no archive yet, with a copy of this one, which may be gone from its place.
+    /// Goes on in another folder with a copy of this archive, which may be gone from its place. A `Failure`, and all as
+    /// it was, when that folder has an archive already or cannot be written.
     void TrasferisciIn(const QString& cartella);
 
     /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.
@@ -77,7 +79,8 @@ class Sessione {
     /// A trip to be filled in: the personal defaults, starting now.
     Meta MetaProposta(const QDateTime& adesso);
 
-    /// Saves a new trip with the personal defaults, which starts at `inizio`; returns its code.
+    /// Saves a new trip with the personal defaults, which starts at `inizio`, as `InserisciMeta` does; names become
+    /// capitals. Returns its code.
     QString NuovaMeta(const QString& localita, const QString& nazione, const QDateTime& inizio);
 
   private:

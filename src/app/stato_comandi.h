@@ -96,6 +96,7 @@ enum class Comando {
     Tasti,
     Informazioni
 };
+/// How many commands there are.
 inline constexpr std::size_t kComandi = static_cast<std::size_t>(Comando::Informazioni) + 1;
 
 /// Moments in which commands can be used, as bits: several hold at once.
@@ -135,7 +136,7 @@ inline constexpr Momenti kMeteScelte = 1U << 28;   ///< the one whose trips the 
 
 /// What goes on at this moment.
 enum class Attivita {
-    Nessuna,
+    Nessuna,    ///< any command may begin
     Scrittura,  ///< the archive is written to: nothing else can begin
     Corsa,      ///< a run that can be stopped
 };
@@ -151,7 +152,7 @@ struct Fatti {
 
 /// The commands at one moment.
 struct StatoComandi {
-    std::bitset<kComandi> abilitati;
+    std::bitset<kComandi> abilitati;     ///< by `Comando`
     std::map<Comando, QString> scritte;  ///< captions that are not those of the table
 
     [[nodiscard]] bool Abilitato(Comando comando) const { return abilitati[static_cast<std::size_t>(comando)]; }

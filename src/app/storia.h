@@ -27,7 +27,7 @@ struct Passo {
     /// has changed nothing and may be tried again, but for a `PassoPerduto`.
     using Disfa = std::function<std::optional<Passo>(const Passo&)>;
 
-    QString nome;
+    QString nome;  ///< what undo and redo call it, "spostamento di ROMA"
     Ambito ambito = Ambito::Viaggio;
     Disfa disfa;
     std::optional<Archive::Mark> archivio;  ///< the archive right after a step that needs it to be unchanged

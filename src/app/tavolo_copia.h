@@ -23,6 +23,7 @@ class TavoloCopia {
     [[nodiscard]] const std::vector<MetaInElenco>& Mete() const { return mete_; }
     /// The stages of the trip chosen; nothing while the trips are listed.
     [[nodiscard]] const std::optional<RigheItinerario>& Tappe() const { return tappe_; }
+    /// The row of the list, or of the stages, that is current, from 1.
     [[nodiscard]] int RigaCopia() const { return rigaCopia_; }
     /// Rows of the assigned first and last stage.
     [[nodiscard]] const std::array<std::optional<int>, 2>& Assegnate() const { return assegnate_; }
@@ -36,6 +37,7 @@ class TavoloCopia {
     void ScegliMeta(int riga);
     /// Makes the list anew while it is shown.
     void Aggiorna();
+    /// Goes to a row of what is listed, the nearest one that there is.
     void SelezionaRiga(int riga);
     /// The current row becomes the first (0) or last (1) stage.
     void Assegna(std::size_t estremo) { assegnate_.at(estremo) = rigaCopia_; }

@@ -17,9 +17,11 @@ namespace cronovia {
 /// Commands write to the archive at once. What goes wrong in it is a `Failure`, and the state stays as it was.
 class TavoloGuida {
   public:
+    /// The list as it was at one moment.
     using Righe = std::shared_ptr<const std::vector<RigaGuida>>;
 
-    /// Lays out the guide of a trip, which has stored stages. Its changes are steps of the history, which outlives it.
+    /// Lays out the guide of a trip; a `Failure` when it has no stored stages. Its changes are steps of the history,
+    /// which outlives it.
     TavoloGuida(Archive& archive, Interaction& interaction, const QString& codiceMeta, Storia& storia);
     TavoloGuida(const TavoloGuida&) = delete;
     TavoloGuida& operator=(const TavoloGuida&) = delete;
@@ -29,13 +31,16 @@ class TavoloGuida {
     [[nodiscard]] const Righe& Elenco() const { return elenco_; }
     /// The stages were deleted meanwhile: there is nothing left to list.
     [[nodiscard]] bool SenzaTappe() const { return senzaTappe_; }
+    /// From 1; what stands there.
     [[nodiscard]] int RigaCorrente() const { return rigaCorrente_; }
     [[nodiscard]] const RigaGuida& Corrente() const { return (*elenco_)[static_cast<std::size_t>(rigaCorrente_ - 1)]; }
+    /// On offer for its entries.
     [[nodiscard]] const std::vector<TipoGuida>& Tipi() const { return tipi_; }
     /// What the fields are to hold.
     [[nodiscard]] const CampiVoce& Campi() const { return campi_; }
     [[nodiscard]] Archive& Archivio() const { return archive_; }
     [[nodiscard]] const QString& CodiceMeta() const { return codiceMeta_; }
+    /// The localities are listed over it.
     [[nodiscard]] bool ElencoLocalitaVisibile() const { return cerca_; }
 
     /// What the fields hold now: not saved, and `Modificata` while it differs from what they were to hold.

@@ -17,6 +17,7 @@ enum class ModoScambio { Export, Import };
 /// from list 1 to list 0.
 class TavoloScambio {
   public:
+    /// Trips in the order in which they are shown.
     using Lista = std::vector<MetaInElenco>;
 
     /// For an import `file` is the one that the trips are in, `stato` its state before they were read.
@@ -34,10 +35,11 @@ class TavoloScambio {
 
     /// Moves the trip of a row, counted from 0, behind the last one of the other list; a free row moves nothing.
     void TrasferisceMeta(int lista, int riga);
+    /// The same with all trips of a list.
     void TrasferisceTutte(int lista);
 
-    /// The name that an export's file is offered: of the first trip that is chosen, without what a file name may not
-    /// hold.
+    /// The name that an export's file is offered: of the first trip that is chosen, with "_" for what a file name may
+    /// not hold; empty while none is.
     [[nodiscard]] QString FileProposto() const;
 
     /// Headings of the two lists, captions of the buttons that empty them, caption of the run; lists count from 0.

@@ -18,11 +18,13 @@ namespace cronovia {
 /// members of an object in the order of the alphabet, and closes what it opened.
 class ScrittoreJson {
   public:
+    /// The stream must outlive it; what is written last comes out when the object ends.
     explicit ScrittoreJson(QTextStream& uscita) : uscita_(uscita) {}
     ScrittoreJson(const ScrittoreJson&) = delete;
     ScrittoreJson& operator=(const ScrittoreJson&) = delete;
     ~ScrittoreJson();
 
+    /// Opens a value that holds others; closes the one opened last.
     void ApreOggetto() { Apre(u'{'); }
     void ChiudeOggetto() { Chiude(u'}'); }
     void ApreArray() { Apre(u'['); }
@@ -30,6 +32,7 @@ class ScrittoreJson {
 
     /// Before the value of a member.
     void Nome(QStringView nome);
+    /// A value: a string, a number, true or false, null.
     void Testo(QStringView testo);
     void Numero(int numero);
     void Logico(bool vero);

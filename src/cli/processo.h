@@ -13,6 +13,7 @@ namespace cronovia {
 /// The words of a process's line, the program's name first.
 QStringList Riga(int argc, char* argv[]);
 
+/// Makes the application that a process needs, with graphics or without; `argc` and `argv` outlive it.
 using CreaApplicazione = std::unique_ptr<QCoreApplication> (*)(int& argc, char* argv[]);
 
 /// Runs the line within an application made for it, between standard output and standard error; returns the exit code.

@@ -18,11 +18,11 @@ struct Terminale {
     bool errori = false;
     bool colori = false;
 
-    /// Those of this process; no colours when NO_COLOR is set to anything, or TERM says that there are none.
+    /// Those of this process; no colours when NO_COLOR is set to anything, or TERM does not say that there are some.
     static Terminale DelProcesso();
 };
 
-/// Asks on a terminal, "s" or "sì" for yes; nothing when nobody can answer.
+/// Asks on a terminal, "s", "si" or "sì" for yes, all else for no; nothing when nobody can answer.
 std::optional<bool> Chiedi(const Terminale& terminale, const QString& domanda, QTextStream& errori);
 
 /// Tells what lasts longer than a second how far it is, on one line that goes when it has ended.

@@ -9,13 +9,14 @@
 
 namespace cronovia {
 
+/// For people; for programs.
 enum class Formato { Testo, Tsv, Json };
 
 /// Rows of texts under headers.
 struct TabellaTesti {
     QStringList intestazioni;
-    std::vector<QStringList> righe;
-    QList<int> aDestra;  ///< columns whose texts stand at the right
+    std::vector<QStringList> righe;  ///< as many texts as headers each
+    QList<int> aDestra;              ///< columns whose texts stand at the right
 };
 
 /// A text that stands out, and one that tells of an error, where colours can be shown.
@@ -24,7 +25,7 @@ QString Errore(const QString& testo);
 /// The text with its colours, or without.
 QString ConRilievi(QString testo, bool colori);
 
-/// Width of each column: that of its longest text, headers included.
+/// Width of each column: that of its longest text, headers included; 0 when no row has a text in it.
 std::vector<int> LarghezzeColonne(const TabellaTesti& tabella);
 
 /// One row, its texts in columns two blanks apart; columns of width 0 are left out, no blank stands at the end.

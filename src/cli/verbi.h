@@ -19,8 +19,10 @@ namespace cronovia {
 /// A command line that cannot be understood; carries one Italian sentence.
 class WrongUsage : public std::runtime_error {
   public:
+    /// Takes that sentence.
     explicit WrongUsage(const QString& message) : std::runtime_error(message.toStdString()), message_(message) {}
 
+    /// The sentence.
     [[nodiscard]] const QString& Message() const { return message_; }
 
   private:
@@ -29,10 +31,10 @@ class WrongUsage : public std::runtime_error {
 
 /// An option of a verb; without `valore` it is a mere switch.
 struct Opzione {
-    QString nome;
-    QString valore;
+    QString nome;    ///< without the dashes before it
+    QString valore;  ///< what the help calls its value
     QString descrizione;
-    bool obbligatoria = false;
+    bool obbligatoria = false;  ///< the line is wrong without it
 };
 
 struct Richiesta;
@@ -40,6 +42,7 @@ struct Richiesta;
 /// Opens the archive. A verb calls it once its options are read: a line that cannot be understood makes no archive.
 using ApriSessione = std::function<Sessione()>;
 
+/// Does what a verb does, writes its answer to `uscita`; a `Failure` or `WrongUsage` when it cannot.
 using ProceduraVerbo = void (*)(const ApriSessione&, const Richiesta&, QTextStream& uscita);
 
 /// What draws the pages of the schedule, of the guide and of the days. It needs libraries that all other verbs do
@@ -52,10 +55,10 @@ struct Stampe {
 
 /// What a verb was called with.
 struct Richiesta {
-    QStringList argomenti;
+    QStringList argomenti;           ///< behind the verb, without the options
     QMap<QString, QString> opzioni;  ///< the options given; a switch with an empty value
     Formato formato = Formato::Testo;
-    Stampe stampe;
+    Stampe stampe;                    ///< empty where nothing can be drawn
     QString cartella;                 ///< the data folder, for who does not open the archive as the others do
     Progress* avanzamento = nullptr;  ///< never null while a verb runs
     /// Asks the person; nothing when nobody can answer.
@@ -76,6 +79,7 @@ std::vector<DatoNominato> DatiNominati(const QStringList& argomenti, qsizetype p
 /// `WrongUsage` when an argument, of which `cosa` is the name, holds control characters.
 void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo);
 
+/// One verb, for the help and for running it.
 struct Verbo {
     QString nome;
     QString argomenti;  ///< as the help shows them

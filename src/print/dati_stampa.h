@@ -35,8 +35,8 @@ struct RigaStampata {
 /// A day of the schedule.
 struct GiornoStampato {
     Giornata giornata;
-    QStringList rinvii;  ///< why something is later
-    StrisciaDelGiorno striscia;
+    QStringList rinvii;          ///< why something is later
+    StrisciaDelGiorno striscia;  ///< its 24 hours as bars
 };
 
 /// The journey on maps, and what they show around it.
@@ -52,7 +52,7 @@ struct DatiStampa {
     OrarioCorretto orario;  ///< as the calculation took it
     std::vector<RigaStampata> righe;
     std::vector<GiornoStampato> giorni;
-    TestiFine fine;
+    TestiFine fine;            ///< of the journey
     TestiTotali totali;        ///< of the schedule, by road type
     int traghettiAOrario = 0;  ///< of its ferries, those with their own hours
     QString scadenza = {};     ///< how the end stands to when one has to be home; empty when nothing is set

@@ -20,7 +20,7 @@ inline constexpr double kUltimaRiga = 280;
 inline constexpr double kDimensioneMinima = 6.5;
 inline constexpr double kPassoDimensione = 0.5;
 
-/// How far before its border a text at the right ends.
+/// How far before its border a text at the right ends; this and the next two in millimetres.
 inline constexpr double kRientroDestra = 3;
 /// How far left of the middle a centred text stands.
 inline constexpr double kRientroCentro = 1;

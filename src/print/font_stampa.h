@@ -25,6 +25,7 @@ inline constexpr double kUnitaMillimetro = 72.0 * kUnitaPunto / 25.4;
 /// a QGuiApplication, as all that measures or paints does.
 class FontStampa {
   public:
+    /// Looks for it among those that are installed.
     FontStampa();
 
     /// The font with its size in `kUnitaPunto`, as pixels.
@@ -44,13 +45,14 @@ struct TestoComposto {
 /// shape every text, as every size, takes many times as long.
 class StileStampa {
   public:
+    /// Of a font whose size is set in pixels.
     explicit StileStampa(const QFont& font);
 
     /// Whether a text can be put together; else it needs shaping: signs above letters, other scripts, pictures.
     bool Componibile(QStringView testo);
     /// How far a text takes the pen, in parts of the font's size; blanks at its ends with it.
     double Larghezza(const QString& testo);
-    /// The glyphs of a text that can be put together.
+    /// The glyphs of a text that can be put together, in a size in points.
     TestoComposto Componi(QStringView testo, double dimensione);
     /// From the baseline to the bottom of a line, which has the leading below it, in parts of the size.
     [[nodiscard]] double Discesa() const { return discesa_; }

@@ -51,7 +51,7 @@ struct Linea {
 struct Riquadro {
     QRectF area;
     Filetto filetto = Filetto::Sottile;
-    bool sfondo = false;
+    bool sfondo = false;  ///< filled; `filetto` does not count then
 };
 
 /// A bar in the look of a kind of time.
@@ -68,10 +68,10 @@ inline constexpr double kPixelCarta = 0.22;
 
 /// A map without its names, which are texts of the page.
 struct Carta {
-    QPointF angolo;                 ///< its upper left corner
-    Inquadratura vista;             ///< in pixels of `kPixelCarta`
-    int giornata = kSenzaGiornata;  ///< the day that it is about
-    std::shared_ptr<const MappaStampata> mappa;
+    QPointF angolo;                              ///< its upper left corner
+    Inquadratura vista;                          ///< in pixels of `kPixelCarta`
+    int giornata = kSenzaGiornata;               ///< the day that it is about
+    std::shared_ptr<const MappaStampata> mappa;  ///< never null
 };
 
 /// A picture in its place.

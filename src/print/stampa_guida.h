@@ -27,8 +27,8 @@ struct LocalitaStampata {
 /// What the printout is made from: a snapshot.
 struct DatiStampaGuida {
     OpzioniStampaGuida opzioni;
-    QString destinazione;  ///< of the trip; empty without one
-    std::vector<LocalitaStampata> localita;
+    QString destinazione;                    ///< of the trip; empty without one
+    std::vector<LocalitaStampata> localita;  ///< in the order in which they are printed
 };
 
 /// The localities of a trip's stored itinerary in travel order, one that is passed twice twice; or all localities in

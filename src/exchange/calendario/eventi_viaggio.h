@@ -14,8 +14,8 @@ namespace cronovia {
 
 /// One event, in words.
 struct Evento {
-    QString chiave;  ///< what it is about, the same as long as the journey has it; no two events have one
-    QString titolo;
+    QString chiave;       ///< what it is about, the same as long as the journey has it; no two events have one
+    QString titolo;       ///< on one line
     QString luogo;        ///< empty where one is on the way
     QString descrizione;  ///< several lines, or empty
     Istante inizio;

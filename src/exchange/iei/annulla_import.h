@@ -14,17 +14,17 @@ struct TracciaImport {
     /// The rows that one table got.
     struct Righe {
         Table tabella = Table::MeteVandro;
-        std::int64_t dopo = 0;  ///< the rows have greater ids than this
-        std::int64_t ultima = 0;
+        std::int64_t dopo = 0;    ///< the rows have greater ids than this
+        std::int64_t ultima = 0;  ///< and none a greater one than this
     };
     std::vector<Righe> aggiunte;
-    Archive::Mark stato;
+    Archive::Mark stato;  ///< right after it
 };
 
 /// Deletes the rows of an import, whole or not at all. A `Failure` when anything was written to the archive since.
 void AnnullaImport(Archive& archive, const TracciaImport& traccia);
 
-/// Notes the rows that are added within a transaction of the caller, between construction and `Fine`.
+/// Notes the rows that trips, stages and guide get within a transaction of the caller, between construction and `Fine`.
 class OsservaAggiunte {
   public:
     /// From here on.

@@ -56,13 +56,13 @@ struct EsitoImport {
     TracciaImport traccia;  ///< to take it back by
 };
 
-/// Adds what the archive has not yet, whole or not at all. A trip whose destination is stored, by the rules of name
-/// matching, is left out with its stages; so is a guide entry whose locality and description are stored, and one at
-/// whose locality no stage ends. Empty values and fields that the file lacks are stored as one blank, values too wide
-/// for their field with the characters that fit. A date is put into its month, a stop that is none is left out, and so
-/// is a trip whose stages cannot be numbered with four digits. Codes that are taken, or that have not six digits, are
-/// replaced. A `Failure` when the file is no exchange file, when it changed since its trips were listed, or when a code
-/// is not in it.
+/// Adds what the archive has not yet, whole or not at all, after a copy of it was kept. A trip whose destination is
+/// stored, by the rules of name matching, is left out with its stages; so is a guide entry whose locality and
+/// description are stored, and one at whose locality no stage ends. Empty values and fields that the file lacks are
+/// stored as one blank, values too wide for their field with the characters that fit. A date is put into its month, a
+/// stop that is none is left out, and so is a trip whose stages cannot be numbered with four digits. Codes that are
+/// taken, or that have not six digits, are replaced. A `Failure` when the file is no exchange file, when it changed
+/// since its trips were listed, or when a code is not in it.
 EsitoImport ImportaMete(const RichiestaImport& richiesta, Progress& progress);
 
 /// The same from a device that can be read twice; without a state the path is only its name in messages.

@@ -28,6 +28,7 @@ struct CampiAggiunti {
     Table tabella;
     int primo;
 };
+/// Those of a section; none for the guide.
 std::span<const CampiAggiunti> AggiuntiAllaSezione(Table tabella);
 
 /// One record of an exchange file.
@@ -40,12 +41,12 @@ struct RigaIei {
 
 /// What a reader found and could not take as it stood.
 struct ScartiLettura {
-    qint64 righePrimaDelleSezioni = 0;
-    qint64 righeNonCapite = 0;  ///< of a section whose field names were not met before
-    qint64 righeTroppoLunghe = 0;
-    qint64 righeIncomplete = 0;  ///< records with fewer values than field names; they are taken
-    qint64 caratteriTolti = 0;   ///< double quotes and control characters
-    qint64 valoriInPiu = 0;      ///< beyond the field names, or beyond the hundredth
+    qint64 righePrimaDelleSezioni = 0;  ///< before the first line with a section's byte
+    qint64 righeNonCapite = 0;          ///< of a section whose field names were not met before
+    qint64 righeTroppoLunghe = 0;       ///< passed over
+    qint64 righeIncomplete = 0;         ///< records with fewer values than field names; they are taken
+    qint64 caratteriTolti = 0;          ///< double quotes and control characters
+    qint64 valoriInPiu = 0;             ///< beyond the field names, or beyond the hundredth
 };
 
 /// What a reading is about.
@@ -58,6 +59,7 @@ struct Lettura {
 /// Reads the records of an exchange file one by one, in a bounded amount of memory whatever the file holds.
 class LettoreIei {
   public:
+    /// Reads from where the device stands; device and progress must outlive it.
     LettoreIei(QIODevice& device, Lettura lettura, Progress& progress);
 
     /// Reads the next record; false at the end. A `Failure` when the device cannot be read, `Stopped` on a stop.
@@ -67,6 +69,7 @@ class LettoreIei {
     [[nodiscard]] bool Conosce(Table tabella) const { return !Mappa(tabella).empty(); }
     /// Whether the field is among those of the section's present head.
     [[nodiscard]] bool HaCampo(Table tabella, int campo) const;
+    /// Of what was read so far.
     [[nodiscard]] const ScartiLettura& Scarti() const { return scarti_; }
 
   private:

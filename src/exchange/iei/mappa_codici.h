@@ -12,9 +12,9 @@ namespace cronovia {
 
 /// What became of a trip of the file.
 enum class StatoMeta {
-    NonScelta,  ///< the import does not take it
-    InAttesa,   ///< its record was not met yet
-    Inserita,
+    NonScelta,   ///< the import does not take it
+    InAttesa,    ///< its record was not met yet
+    Inserita,    ///< it is in the archive
     Scartata,    ///< its destination was stored already
     TroppoLunga  ///< has more stages than a trip can have
 };
@@ -33,8 +33,9 @@ class MappaCodici {
     void Aggiungi(const QString& codiceNelFile);
 
     /// Chooses the trips to import, all of them when `scelti` is empty, and gives each its code: its own when it has
-    /// six digits and is free, else the next free one above the highest in the archive. A `Failure` when a chosen code
-    /// is not in the file, or when no code is free.
+    /// six digits and is free, else the next free one above the highest in the archive, from 1 on behind the last of
+    /// all. Leading zeros of a chosen code may be left out. A `Failure` when one is not in the file, or when no code is
+    /// free.
     void Scegli(const std::vector<QString>& scelti, Archive& archive);
 
     /// Nothing when the file has no trip with that code.

@@ -18,7 +18,7 @@ struct Colonne {
     static constexpr int kMassimo = 100;
 };
 
-/// Splits a line at its separator, which is the first of the bytes FF, FE, FD, FC, Tab, "," ";" and "!" that it holds.
+/// Splits a line at its separator: of the bytes FF, FE, FD, FC, Tab, "," ";" and "!" the first that it holds anywhere.
 /// Each value is followed by the separator, the last one may go without. A line without a separator is one value.
 Colonne SeparaColonne(QByteArrayView riga);
 

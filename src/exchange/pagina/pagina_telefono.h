@@ -16,7 +16,7 @@ struct DatiPagina {
     const Cronovia& cronovia;
     std::span<const Tappa> tappe;               ///< from which it was computed
     std::span<const PosizioneTappa> posizioni;  ///< of the stages; without any there are no maps
-    const Coste& coste;
+    const Coste& coste;                         ///< empty ones leave the way alone on the maps
 };
 
 /// The page of a trip and its schedule as HTML in UTF-8: the trip in short with its map, then a card for each day with

@@ -13,6 +13,7 @@ namespace cronovia {
 /// anything.
 class ScrittoreHtml {
   public:
+    /// A name and its value.
     using Attributo = std::pair<QStringView, QString>;
     using Attributi = std::initializer_list<Attributo>;
 
@@ -23,6 +24,7 @@ class ScrittoreHtml {
     void Elemento(const QString& nome, const QString& testo, Attributi attributi = {});
     /// An element of HTML that has no inside and no end.
     void Vuoto(const QString& nome, Attributi attributi = {});
+    /// Text that is none but text, whatever it holds.
     void Testo(const QString& testo);
     /// Text that is markup, of this program's own.
     void Grezzo(QStringView testo) { html_ += testo; }

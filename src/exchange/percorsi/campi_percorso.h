@@ -12,7 +12,7 @@ namespace cronovia {
 /// The fields of one line, numbered from 1 to 20. Missing ones are empty, those beyond are left out.
 class CampiPercorso {
   public:
-    static constexpr int kMassimo = 20;
+    static constexpr int kMassimo = 20;  ///< the number of the last one
 
     /// The field of a number from 1 to 20.
     [[nodiscard]] const QString& operator[](int numero) const { return campi_[static_cast<std::size_t>(numero)]; }

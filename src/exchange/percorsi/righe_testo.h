@@ -29,6 +29,7 @@ class RigheTesto {
 
     /// The line: any blank or control character but Tab is one blank, letters are composed. Empty when it is too long.
     [[nodiscard]] const QString& Testo() const { return testo_; }
+    /// Whether it was longer than `LettoreRighe::kMassimo` bytes.
     [[nodiscard]] bool TroppoLunga() const { return righe_.TroppoLunga(); }
 
   private:

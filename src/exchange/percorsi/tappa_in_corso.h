@@ -20,10 +20,11 @@ struct StradaLetta {
 struct TappaLetta {
     QString localita;                 ///< upper case, without "vicino a"; never empty
     std::vector<StradaLetta> strade;  ///< to reach it, in the order in which they were met, each once
-    bool traghetto = false;
-    int km = 0;  ///< from the previous stage
+    bool traghetto = false;           ///< reached by one
+    int km = 0;                       ///< from the previous stage
 };
 
+/// Takes the stages one by one, as they are reached.
 using DestinazioneTappe = std::function<void(const TappaLetta&)>;
 
 /// Collects roads, ferries and kilometres until a place is reached.
@@ -36,7 +37,7 @@ class TappaInCorso {
     /// Stages go to the destination, in their order.
     explicit TappaInCorso(DestinazioneTappe destinazione) : destinazione_(std::move(destinazione)) {}
 
-    /// Notes a road of the stage under way, with its kilometres; one that was met before counts once.
+    /// Notes a road of the stage under way, with its kilometres; one that was met before stays with those it had.
     void Percorre(const QString& strada, int km);
     /// The stage under way is reached by a ferry.
     void SiImbarca() { tappa_.traghetto = true; }

@@ -11,7 +11,7 @@ namespace cronovia {
 
 /// What a column tells; the table has others too, which are passed over.
 enum ColonnaSosta { kNome, kLatitudine, kLongitudine, kTipo, kDescrizione, kNote };
-inline constexpr std::size_t kColonneSosta = 6;
+inline constexpr std::size_t kColonneSosta = 6;  ///< how many they are
 
 /// Where each one stands in a line, from 0; -1 for one that the table lacks.
 using PostoColonne = std::array<int, kColonneSosta>;
@@ -19,10 +19,11 @@ using PostoColonne = std::array<int, kColonneSosta>;
 /// "nome", "latitudine", … as the person names them.
 QString NomeColonna(ColonnaSosta colonna);
 
-/// The columns by the names that a first line gives them, in Italian or English.
+/// The columns by the names that a first line gives them, in Italian or English; without a name the description is it.
 PostoColonne ColonneDette(const QStringList& intestazione);
 
-/// The columns by what stands in a line: the first two numbers that may be degrees of Europe, then the first text.
+/// The columns by what stands in a line: the first two numbers side by side that may be degrees of Europe, in either
+/// order, and the first text as the name.
 PostoColonne ColonneIndovinate(const QStringList& celle);
 
 /// Whether each place gets a name and a position.

@@ -17,11 +17,12 @@ namespace cronovia {
 /// A place as a file tells of it, each text on one line; those that the file lacks are empty.
 struct SostaLetta {
     QString nome;
-    QString tipo;
+    QString tipo;  ///< what kind of place it is, in the file's words
     QString note;
     Posizione posizione;
 };
 
+/// The most places that a file may have.
 inline constexpr std::size_t kMassimeSoste = 50'000;
 
 /// A table whose first line does not tell its columns.

@@ -22,7 +22,8 @@ struct TappeLette {
 };
 
 /// The stages of JSON, or of a table whose first line names the columns, parted by tabs, ";" or ",". A `Failure` names
-/// the line and the column that cannot be read. What `itinerario` wrote gives the stages that it was written from.
+/// the line and the column that cannot be read; another one tells of no stages at all, or of too large a file. What
+/// `itinerario` wrote gives the stages that it was written from.
 TappeLette LeggiTabellaTappe(QIODevice& device);
 
 }  // namespace cronovia

@@ -15,7 +15,7 @@ namespace cronovia {
 struct RichiestaConversione {
     Archive& archive;
     QString cartella;  ///< of the old files; their copies stay in a folder in it
-    QDateTime adesso;
+    QDateTime adesso;  ///< names that folder
 };
 
 /// What a conversion did.
@@ -29,8 +29,8 @@ struct EsitoConversione {
     qint64 tappeSaltate = 0;  ///< stages left out as they name no locality in capital letters
     /// A field of a trip that could not be read and got its default.
     struct CampoSostituito {
-        QString meta;
-        QString campo;
+        QString meta;   ///< its destination
+        QString campo;  ///< in the words of people
     };
     std::vector<CampoSostituito> campiSostituiti;
     /// A stored trip in whose place one of the same number came, or one that is none of the old files but got stages
@@ -49,7 +49,7 @@ struct EsitoConversione {
         QString perche;
     };
     std::vector<FileLasciato> lasciati;  ///< not converted, or not removed, or missing
-    QString cartellaCopie;
+    QString cartellaCopie;               ///< path of the folder with the copies of the old files
 };
 
 /// Trips, stages and guide entries are added, or change those stored under the same code, sequence, locality and

@@ -13,8 +13,8 @@ namespace cronovia {
 
 /// The fields, in characters of one byte, stand at the beginning of a record; the rest of it carries nothing.
 struct FormaRecord {
-    int lunghezza = 0;
-    std::vector<int> campi;
+    int lunghezza = 0;       ///< of a record, in bytes
+    std::vector<int> campi;  ///< length of each, in order
 
     /// Characters of all fields together.
     [[nodiscard]] int LunghezzaCampi() const;
@@ -50,6 +50,7 @@ class LettoreRecord {
     [[nodiscard]] bool Troncato() const { return troncato_; }
     /// Whole records of the device, those read included.
     [[nodiscard]] qint64 NumeroRecord() const { return numero_; }
+    /// Those read.
     [[nodiscard]] qint64 Letti() const { return letti_; }
 
   private:

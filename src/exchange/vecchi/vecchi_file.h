@@ -23,6 +23,7 @@ QString NomeVecchieTappe(const QString& codiceMeta);
 /// that did not come so far is gone on with, unless it holds copies of other files under the same names.
 class VecchiFile {
   public:
+    /// The files that the data folder holds now; `adesso` names the folder of their copies.
     VecchiFile(const QString& cartella, const QDateTime& adesso);
     VecchiFile(const VecchiFile&) = delete;
     VecchiFile& operator=(const VecchiFile&) = delete;
@@ -33,7 +34,7 @@ class VecchiFile {
 
     /// Copies a file found and returns the path of its copy. A `Failure` when it cannot be read or the copy written.
     QString Copia(const QString& path);
-    /// Takes a copy back.
+    /// Takes a copy back; the folder goes with the last one.
     void Togli(const QString& copia);
 
     /// Where a copy of the database can be laid, under a name that is free.

@@ -14,7 +14,7 @@ namespace cronovia {
 
 /// What a record turned out to be.
 enum class StatoRecord {
-    Valido,
+    Valido,   ///< can be taken over
     Vuoto,    ///< left free by the earlier release
     Saltato,  ///< deleted by the earlier release, or of no locality
     Guasto,   ///< cannot be what it should
@@ -28,7 +28,7 @@ QString CodiceVecchiaMeta(const RecordFisso& record);
 
 /// The first fields of `MeteVandro`, from the code to `FineVisita`.
 struct VecchiaMeta {
-    std::vector<QString> valori;
+    std::vector<QString> valori;          ///< one blank for an empty one
     std::vector<mete::Field> sostituiti;  ///< could not be read and have the value of `predefiniti`
 };
 /// Those of a valid record. `predefiniti` are all fields of a trip that nobody has changed yet.
@@ -49,7 +49,7 @@ StatoRecord StatoVecchiaVoce(const RecordFisso& record);
 /// All fields of `GuidaCitta`, as a valid record has them.
 std::vector<QString> ValoriVecchiaVoce(const RecordFisso& record);
 
-/// A visit time as "hh:mm": "0130", "130" and "1:30" are all "01:30".
+/// A visit time as "hh:mm": "0130", "130" and "1:30" are all "01:30"; what is none is "00:00".
 QString TempoVisita(const QString& vecchio);
 
 }  // namespace cronovia
