@@ -29,6 +29,7 @@ class AspettoFinestra {
     /// Keeps what has changed. Done now and then while the window is open too: whoever ends it by force finds it again.
     void Ricorda();
 
+    /// The file, for what else is kept in it.
     [[nodiscard]] QSettings& Impostazioni() { return impostazioni_; }
 
   private:

@@ -14,6 +14,7 @@ class Benvenuto : public QFrame {
     Benvenuto();
 
   Q_SIGNALS:
+    /// The person wants to begin: with a trip of their own; with those of an exchange file.
     void NuovoViaggio();
     void Importa();
     /// The exchange file of an example.

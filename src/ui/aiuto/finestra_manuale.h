@@ -12,6 +12,7 @@ namespace cronovia {
 /// docs/manuale.md with a list of its chapters; that of the keys is completed by the table of the commands.
 class FinestraManuale : public QDialog {
   public:
+    /// Hidden at first; it goes with the window.
     explicit FinestraManuale(QWidget& finestra);
 
     /// Comes to the front with the chapter of that heading; at the beginning when there is none.

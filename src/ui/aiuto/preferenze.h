@@ -11,11 +11,13 @@ class QWidget;
 
 namespace cronovia {
 
+/// Those of all windows.
 enum class Colori { ComeIlSistema, Chiari, Scuri };
 
+/// What can be chosen.
 struct Preferenze {
     bool dalVivo = false;  ///< the schedule is computed anew after each change
-    int testo = 100;       ///< size of all texts, in per cent of the desktop's; from the next start on
+    int testo = 100;       ///< size of all texts, in per cent of the desktop's: 100 to 200; from the next start on
     Colori colori = Colori::ComeIlSistema;
     Impostazioni comuni = {};  ///< with the command line
 };

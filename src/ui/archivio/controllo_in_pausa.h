@@ -15,10 +15,12 @@ class ControlloInPausa : public QObject {
     Q_OBJECT
 
   public:
-    /// Looks through the file once; what comes in from keyboard or mouse stops it, to begin anew in the next pause.
+    /// Looks through the file once, and goes when that has ended; what comes in from keyboard or mouse stops it, to
+    /// begin anew in the next pause.
     ControlloInPausa(const QString& archivio, QObject* parent);
 
   Q_SIGNALS:
+    /// That is what it found out.
     void Danneggiato();
 
   protected:

@@ -24,6 +24,7 @@ class Azioni : public QObject {
     QPushButton* NuovoPulsante(Comando comando);
     /// That button; the command must have one.
     [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
+    /// Its action; each command has one.
     [[nodiscard]] QAction& Di(Comando comando) const { return *azioni_[static_cast<std::size_t>(comando)]; }
     /// For what is no command of the table: panels shown and hidden, instructions.
     [[nodiscard]] QMenu& MenuDi(Menu menu) const { return *menu_[static_cast<std::size_t>(menu)]; }

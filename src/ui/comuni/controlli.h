@@ -62,7 +62,7 @@ QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);
 void Blocca(const QWidget& riquadro, bool bloccato);
 void LasciaAbilitato(QWidget& controllo);
 
-/// Wide enough for so many characters of the control's font.
+/// Just as wide as so many digits of the control's font, and `bordo` pixels.
 void LarghezzaPer(QWidget& controllo, int caratteri, int bordo);
 
 }  // namespace cronovia

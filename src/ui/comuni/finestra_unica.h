@@ -8,13 +8,15 @@
 
 namespace cronovia {
 
-/// The name by which the windows of one person on one folder find each other, however the folder is written.
+/// The name by which the windows of one person on one folder find each other, however the folder is written. Makes the
+/// folder when there is none.
 QString NomeDellaFinestra(const QString& cartella);
 
 class FinestraUnica : public QObject {
     Q_OBJECT
 
   public:
+    /// Hears nobody yet.
     explicit FinestraUnica(QObject* parent = nullptr);
 
     /// Has the window that is open on the folder come to the front, and import a file when one is named; false when

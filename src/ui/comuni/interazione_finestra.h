@@ -10,6 +10,7 @@ namespace cronovia {
 
 class InterazioneFinestra : public Interaction {
   public:
+    /// The window must outlive it.
     explicit InterazioneFinestra(QWidget& finestra) : finestra_(finestra) {}
 
     void Show(const Message& message) override;

@@ -16,7 +16,7 @@ namespace cronovia {
 /// A field and what stands before it; the first caption of a row is that of the row.
 struct CampoModulo {
     int valore = 0;  ///< position of its text among the values
-    QString nome;
+    QString nome;    ///< of its control
     QString scritta;
     int massimo = 0;    ///< characters that it takes
     int caratteri = 0;  ///< that are seen; 0: as many as there is room for
@@ -25,16 +25,18 @@ struct CampoModulo {
     int righe = 1;         ///< more: a long text on so many lines, of which `massimo` and `caratteri` are of no account
 };
 
+/// Fields in one frame, row by row.
 struct GruppoModulo {
     QString titolo;
     std::vector<std::vector<CampoModulo>> righe;
 };
 
+/// What is asked for.
 struct RichiestaModulo {
     QString titolo;
     QString testo = {};  ///< above all fields
     std::vector<GruppoModulo> gruppi;
-    std::vector<QString> valori;
+    std::vector<QString> valori;  ///< what the fields hold at first
     /// The field that has to be another one, by its `valore`, and why.
     std::function<std::optional<std::pair<int, QString>>(const std::vector<QString>&)> difetto;
 };

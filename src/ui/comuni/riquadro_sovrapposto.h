@@ -14,11 +14,13 @@ class RiquadroSovrapposto : public QFrame {
     Q_OBJECT
 
   public:
+    /// Hidden at first; `nome` is that of the frame, `scritta` its caption.
     RiquadroSovrapposto(const QString& nome, const QString& scritta);
 
     /// On show while it is `aperto`; in use then unless another frame lies over it, and with the focus once it is.
     void Mostra(bool aperto, bool inUso);
 
+    /// On what `PrimoControllo` says.
     void Fuoco() { PrimoControllo().setFocus(); }
 
   protected:

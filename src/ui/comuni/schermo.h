@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the window asks of each screen. One answers for itself alone: nothing while another is in front.
+// What the window asks of each screen. One answers for itself alone: nothing while another is in front. What a screen,
+// a frame or a panel is handed by reference outlives it.
 #pragma once
 
 #include <QKeyEvent>

@@ -17,6 +17,7 @@ class FrmTratto : public QGroupBox {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmTratto(Azioni& azioni);
 
     /// Shows the stages assigned.

@@ -19,6 +19,7 @@ class SchermoCopia : public QObject, public Schermo {
     /// `inserimento` gives way while a stretch is chosen.
     SchermoCopia(Postazione& postazione, Azioni& azioni, QWidget& inserimento, Esegui esegui);
 
+    /// Its two frames, for the window to place.
     [[nodiscard]] FrmLista& Lista() const { return *lista_; }
     [[nodiscard]] FrmTratto& RiquadroTratto() const { return *tratto_; }
     /// Whether stops come along goes to the screen's state.

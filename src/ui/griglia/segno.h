@@ -8,8 +8,8 @@ namespace cronovia {
 enum class Segno {
     Nessuno,
     FineGiorno,  ///< a night or a change of day falls in the row or right behind it
-    Pasto,
-    Riposo,  ///< whole rest days follow
+    Pasto,       ///< a meal is taken behind the piece
+    Riposo,      ///< whole rest days follow
     Sosta,
     Guida,
     Fissato,         ///< hours, notes or prices are set for the stage

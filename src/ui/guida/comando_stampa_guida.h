@@ -21,6 +21,7 @@ class ComandoStampaGuida : public QObject, public Schermo {
     void Mostra();
     bool FuocoDopo(Comando /*comando*/, bool /*appenaAperto*/) override { return false; }
     bool Tasto(const QKeyEvent& tasto) override;
+    /// Shows the pages that are chosen; prints them where that was chosen.
     void MostraAnteprima();
     void Stampa();
 

@@ -17,6 +17,7 @@ class FrmGuida : public QGroupBox {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmGuida(Azioni& azioni);
 
     /// The types on offer; what is typed stays.
@@ -26,8 +27,7 @@ class FrmGuida : public QGroupBox {
     /// What the fields hold, as it was typed.
     [[nodiscard]] CampiVoce Campi() const;
     void FuocoSullaDescrizione();
-    /// On what an entry that was refused lacks.
-    /// Nothing is selected: what was typed is put right.
+    /// On what an entry that was refused lacks. Nothing is selected: what was typed is put right.
     void FuocoSulCampo(guida::Field campo);
 
   private:

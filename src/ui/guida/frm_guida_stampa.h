@@ -15,6 +15,7 @@ class FrmGuidaStampa : public RiquadroSovrapposto {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmGuidaStampa(Azioni& azioni);
 
     /// What is chosen at the moment.

@@ -20,6 +20,7 @@ class FrmInputBox : public QGroupBox {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmInputBox(Azioni& azioni);
 
     /// Puts a row, counted from 1, and its fields into the controls that show something else; without a type that of

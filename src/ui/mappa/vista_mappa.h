@@ -16,6 +16,7 @@ class VistaMappa : public QWidget {
   public:
     explicit VistaMappa(QWidget* parent = nullptr);
 
+    /// Draws these below every journey.
     void MostraCoste(const Coste& coste);
     /// Another journey is shown whole; of the same one the part in view stays.
     void Mostra(MappaViaggio mappa, bool altroViaggio);
@@ -25,6 +26,7 @@ class VistaMappa : public QWidget {
     void Segna(int riga, int giornata);
     [[nodiscard]] int RigaSegnata() const { return riga_; }
 
+    /// Shows the whole journey, also when it changes or the widget; the current day, if there is one.
     void Adatta();
     void AdattaAllaGiornata();
     /// Nearer or farther, around the middle.
@@ -38,6 +40,7 @@ class VistaMappa : public QWidget {
     QSize sizeHint() const override { return {420, 420}; }
 
   Q_SIGNALS:
+    /// The person wants to see a row of the itinerary, from 1.
     void RigaScelta(int riga);
 
   protected:

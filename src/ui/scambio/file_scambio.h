@@ -22,6 +22,7 @@ class RicezioneFile : public QObject {
     Q_OBJECT
 
   public:
+    /// Belongs to the window.
     explicit RicezioneFile(QWidget& finestra);
 
   Q_SIGNALS:

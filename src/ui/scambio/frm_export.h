@@ -17,6 +17,7 @@ class FrmExport : public QFrame {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmExport(Azioni& azioni);
 
     /// While a run is on, nothing in the frame can be used.

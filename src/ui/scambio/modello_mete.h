@@ -15,6 +15,7 @@ class ModelloMete : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// Its columns; the last one is how many there are.
     enum Colonna { Num, Meta, Nazione, RecordMeta, kColonneMete };
 
     /// A list that differs by one trip leaves the view where it is.

@@ -46,6 +46,7 @@ class ComandoStampa : public QObject, public Schermo {
     void Mostra();
     bool FuocoDopo(Comando comando, bool appenaAperto) override;
     bool Tasto(const QKeyEvent& tasto) override;
+    /// Shows the pages that are chosen; prints them where that was chosen.
     void MostraAnteprima();
     void Stampa();
     /// Whether printouts go with the map; remembered from one session to the next.

@@ -13,6 +13,7 @@ class FrmSelStampa : public RiquadroSovrapposto {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmSelStampa(Azioni& azioni);
 
     /// Name of the current entry; empty without one.

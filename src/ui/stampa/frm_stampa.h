@@ -13,6 +13,7 @@ class FrmStampa : public RiquadroSovrapposto {
     Q_OBJECT
 
   public:
+    /// Has the buttons of its commands made.
     explicit FrmStampa(Azioni& azioni);
 
     /// What is ticked: the schedule, the days, the forms of the logbook.

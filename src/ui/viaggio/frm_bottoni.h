@@ -15,6 +15,7 @@ namespace cronovia {
 
 class FrmBottoni : public QFrame {
   public:
+    /// Has the buttons of its commands made.
     explicit FrmBottoni(Azioni& azioni);
 
     /// The conversion of old data is shown while it is on offer.

@@ -20,6 +20,7 @@ class FrmMeteTempi : public QGroupBox {
     /// Hours with minutes, in the order of `cmbOra_0` to `cmbOra_8`.
     static constexpr std::size_t kOrari = 9;
 
+    /// Has the buttons of its commands made.
     explicit FrmMeteTempi(Azioni& azioni);
 
     /// A value that is not on offer is shown for this trip alone.
