@@ -192,9 +192,9 @@ void Documento::Correggi(const ParametriViaggio& parametri) {
     if (intatti) caricati_.parametri = parametri;
 }
 
-void Documento::ControllaOrari() { Correggi(InOrdine(campi_.parametri)); }
+void Documento::OrdinaOrari() { Correggi(InOrdine(campi_.parametri)); }
 
-void Documento::AggiornaOrari() { Correggi(ParametriViaggio(orario_.Parametri())); }
+void Documento::CorreggiOrari() { Correggi(ParametriViaggio(orario_.Parametri())); }
 
 void Documento::RicalcolaTempi() {
     riepilogo_ = CalcolaKmTempiItinerario(righe_, orario_, campi_.giorniAdeguamento);
@@ -283,7 +283,7 @@ QString Documento::Calcola(Progress& progress) {
     guida.Anticipa(LocalitaDelleTappe(righe_));
     momento.reset();  // others can write while it is computed
     EsitoCalcolo esito = CalcolaCon(guida, progress, SeNonRiesce::Cerca);
-    AggiornaOrari();
+    CorreggiOrari();
     cronovia_ = std::move(esito.cronovia);
     Decade();
     ricerca_ = std::move(esito.ricerca);
@@ -338,7 +338,7 @@ void Documento::Concludi(Transaction& transaction, const QString& codice) {
     transaction.Commit();
     Metti(std::move(salvata));
     codice_ = codice;
-    AggiornaOrari();
+    CorreggiOrari();
 }
 
 void Documento::SalvaCampi(const Salvataggio& deciso) {

@@ -90,8 +90,8 @@ class Documento {
     void ImpostaParametri(const ParametriViaggio& parametri);
     /// Put hours that disagree in order; and each within its own limits too, as calculations take it. What is put right
     /// so is no change of the person's.
-    void ControllaOrari();
-    void AggiornaOrari();
+    void OrdinaOrari();
+    void CorreggiOrari();
     /// Goes to a row; beyond the last stage, to the first one behind it.
     void SelezionaRiga(int riga);
     /// Replaces the stages as one step that can be taken back, and goes to a row. Free rows behind the last stage go;

@@ -64,7 +64,7 @@ struct RigaCronovia {
     std::int64_t kmProgressivi = 0;  ///< from the start to the end of this piece
     Centesimi tempo;                 ///< driving time of this piece
     NumeroGiorno data;               ///< day on which the piece, or the stop, ends
-    Centesimi ora;                   ///< and its hour
+    Centesimi ora;                   ///< and its hour, which may lie beyond 24
     Durata sosta;                    ///< the stop before this pass scaled it
     std::optional<LimiteRitorno> limite;
 };

@@ -16,7 +16,7 @@ namespace cronovia {
 /// The travelling clock.
 struct Orologio {
     NumeroGiorno data;
-    Centesimi ora;
+    Centesimi ora;              ///< of that day; while one drives or eats into the night also beyond its 24 hours
     bool pranzoFatto = false;   ///< lunch of the day taken, or not to be taken
     bool cenaFatta = false;     ///< and dinner
     Centesimi inizioGuida;      ///< when the continuous driving began

@@ -52,13 +52,13 @@ void SchermoViaggio::Collega() {
     connect(velocita_, &FrmMeteVelocita::Cambiata, this, &SchermoViaggio::Cambiata);
     connect(tempi_, &FrmMeteTempi::Cambiata, this, &SchermoViaggio::Cambiata);
     connect(periodo_, &FrmMetePeriodo::InizioCambiato, this,
-            [this] { esegui_([this] { postazione_.documento.AggiornaOrari(); }); });
+            [this] { esegui_([this] { postazione_.documento.CorreggiOrari(); }); });
     connect(periodo_, &FrmMetePeriodo::AnnoRifiutato, this, [this] {
         esegui_([this] { postazione_.Mostra(MessaggioData()); });
         periodo_->FuocoSullAnno();
     });
     connect(tempi_, &FrmMeteTempi::OrarioLasciato, this,
-            [this] { esegui_([this] { postazione_.documento.ControllaOrari(); }); });
+            [this] { esegui_([this] { postazione_.documento.OrdinaOrari(); }); });
     connect(cmbRicerca_, &ElencoScelta::Scelta, this, [this](const QVariant& codice) {
         esegui_([&] { comandi::ScegliMeta(postazione_, codice.toString()); });
         if (!postazione_.Su<schermata::ElencoMete>()) Q_EMIT ElencoChiuso();
@@ -90,7 +90,7 @@ bool SchermoViaggio::RifiutaIlCampo() { return periodo_->RifiutaAnno(); }
 bool SchermoViaggio::ConcludiIlCampo() {
     if (!tempi_->OrarioInCorso()) return false;
     const ParametriViaggio prima = postazione_.documento.Campi().parametri;
-    postazione_.documento.ControllaOrari();
+    postazione_.documento.OrdinaOrari();
     return postazione_.documento.Campi().parametri != prima;
 }
 
