@@ -6,6 +6,8 @@
 
 #include "calendar/digitati.h"
 #include "calendar/durata.h"
+#include "calendar/ora_fissa.h"
+#include "calendar/testo.h"
 
 namespace cronovia {
 
@@ -62,8 +64,19 @@ class LettoreDigitati {
         }
     }
 
+    // Two digits alone may be hours as well as minutes: 20 hours are no small mistake for 20 minutes.
+    bool OreOMinuti(int campo) {
+        const QString& testo = Testo(campo);
+        const int numero = testo.size() <= 2 && std::all_of(testo.begin(), testo.end(), &Cifra) ? testo.toInt() : 0;
+        if (numero == 0) return false;
+        Rifiuta(campo, u"«%1» sono ore o minuti? Scrivi %2 oppure %3."_s.arg(testo, TestoMinuti(numero * 60),
+                                                                             TestoMinuti(numero)));
+        return true;
+    }
+
     void FormaOra(int campo) {
         QString& testo = Testo(campo);
+        if (campo == vincoli::Imbarco && OreOMinuti(campo)) return;
         const std::optional<int> minuti = LeggiMinutiDigitati(testo);
         const bool chiusura = campo == vincoli::VisiteA && minuti == kMinutiDelGiorno;
         if (!minuti || (*minuti >= kMinutiDelGiorno && !chiusura)) return Rifiuta(campo, NonOra(testo));
@@ -71,6 +84,7 @@ class LettoreDigitati {
     }
 
     void FormaNavigazione(QString& testo) {
+        if (OreOMinuti(vincoli::Navigazione)) return;
         const qsizetype giorni = testo.count(u':') == 2 ? testo.indexOf(u':') : -1;
         const std::optional<int> primi = giorni > 0 ? LeggiMinutiDigitati(testo.first(giorni)) : std::optional(0);
         const std::optional<int> minuti = LeggiMinutiDigitati(testo.sliced(giorni + 1));
