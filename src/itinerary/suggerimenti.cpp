@@ -28,6 +28,13 @@ std::vector<Suggerimento> SuggerimentiTappa(const CampiTappa& campi, int riga, c
     return suggerimenti;
 }
 
+QString SuggerimentoProgressivi(int digitati, int kmDellaTappa) {
+    if (digitati == kmDellaTappa) return {};
+    return u"Con «Km. progress.» la tappa è di %1 km: da %2 a %3."_s.arg(kmDellaTappa)
+        .arg(digitati - kmDellaTappa)
+        .arg(digitati);
+}
+
 // Names lie at the middle of their towns: a few kilometres make no hint.
 QString SuggerimentoDistanza(const CampiTappa& campi, double direttaKm) {
     constexpr double kTolleranzaKm = 5;

@@ -24,6 +24,9 @@ std::vector<Suggerimento> SuggerimentiTappa(const CampiTappa& campi, int riga, c
 /// As the person reads it.
 QString Testo(Suggerimento suggerimento);
 
+/// What a stage gets of progressive kilometres, as the person reads it; empty when those typed are its own.
+QString SuggerimentoProgressivi(int digitati, int kmDellaTappa);
+
 /// What is odd about kilometres beside the straight way of their leg, as the person reads it: they cannot be fewer, and
 /// are rarely more than three times as many. Empty for nothing, without kilometres, and for a ferry.
 QString SuggerimentoDistanza(const CampiTappa& campi, double direttaKm);

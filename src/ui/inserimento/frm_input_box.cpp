@@ -40,6 +40,7 @@ FrmInputBox::FrmInputBox(Azioni& azioni) : QGroupBox(u"Inserimento itinerario:"_
     auto* layout = Spaziato(new QVBoxLayout(this), Spazi::Riquadro);
     layout->addWidget(CreaCampi());
     layout->addWidget(CreaComandi(azioni));
+    layout->addWidget(lblSuggerimenti_);  // below: the buttons stay where one aims at them
     layout->addStretch();
 }
 
@@ -87,7 +88,8 @@ QWidget* FrmInputBox::CreaCampi() {
     auto* tipo = Spaziato(new QHBoxLayout, Spazi::Riga);
     tipo->addWidget(cmbTipoStrada_);
     tipo->addStretch();
-    tipo->addWidget(NuovoAiuto(AiutoInserimento()));
+    QPushButton* aiuto = NuovoAiuto(AiutoInserimento());
+    tipo->addWidget(aiuto);
     auto* km = Spaziato(new QHBoxLayout, Spazi::Riga);
     km->addWidget(txtKm_);
     km->addWidget(chkKm_);
@@ -103,7 +105,6 @@ QWidget* FrmInputBox::CreaCampi() {
     lblSuggerimenti_->setObjectName(u"lblSuggerimenti"_s);
     lblSuggerimenti_->setWordWrap(true);
     lblSuggerimenti_->hide();
-    layout->addRow(lblSuggerimenti_);
     for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) {
         connect(casella, &QLineEdit::textChanged, this, &FrmInputBox::Cambiata);
     }
@@ -113,6 +114,7 @@ QWidget* FrmInputBox::CreaCampi() {
         connect(elenco, &QComboBox::currentTextChanged, this, &FrmInputBox::Cambiata);
     }
     for (QCheckBox* spunta : {chkEndDay_, chkKm_}) connect(spunta, &QCheckBox::toggled, this, &FrmInputBox::Cambiata);
+    QWidget::setTabOrder(chkEndDay_, aiuto);  // what is typed goes from field to field
     return campi;
 }
 

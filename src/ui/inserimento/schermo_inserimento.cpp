@@ -108,10 +108,12 @@ void SchermoInserimento::MostraSuggerimenti() {
     if (!postazione_.InInserimento()) return;
     const Documento& documento = postazione_.documento;
     CampiTappa campi = riquadro_->Campi();
+    const int digitati = campi.km;
     campi.km = comandi::KmInseriti(postazione_, campi);
     const auto posto = static_cast<std::size_t>(documento.RigaCorrente() - 1);
     const bool aOrario = posto < documento.Righe().size() && documento.Righe()[posto].vincoli.ConTraghetto();
     QStringList testi;
+    if (const QString tratta = SuggerimentoProgressivi(digitati, campi.km); !tratta.isEmpty()) testi += tratta;
     for (const Suggerimento suggerimento : SuggerimentiTappa(
              campi, documento.RigaCorrente(), documento.Campi().parametri, documento.Riepilogo().guidaGiorno)) {
         const bool falso = aOrario && suggerimento == Suggerimento::TraghettoSenzaTempo;  // it has hours of its own
