@@ -40,6 +40,7 @@ class TestiMostrati {
   private:
     // By the names that properties have whatever the class, so that a new one is looked at too.
     static void Oggetto(const QObject& oggetto) {
+        if (oggetto.inherits("QTipLabel")) return Istruzione(oggetto, oggetto.property("text").toString());
         for (const char* nome : {"toolTip", "statusTip", "whatsThis"}) {
             Istruzione(oggetto, oggetto.property(nome).toString());
         }

@@ -14,6 +14,7 @@
 
 #include "calendar/testo.h"
 #include "ui/comuni/colori.h"
+#include "ui/comuni/elenco_numeri.h"
 #include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
@@ -152,7 +153,7 @@ class CasellaLunga : public QPlainTextEdit {
 }  // namespace
 
 QComboBox* NuovoElenco(const QString& nome, const QStringList& voci, const QString& istruzione) {
-    auto* elenco = new QComboBox;
+    auto* elenco = new ElencoNumeri;
     Presenta(*elenco, nome, istruzione);
     elenco->addItems(voci);
     elenco->setFocusPolicy(Qt::StrongFocus);
