@@ -38,6 +38,18 @@ QStringList NumeriDiRiposo() {
     return numeri;
 }
 
+// A line of a sentence, as "ogni 02 h" is. Who hears it gets all its words from one label.
+void AggiungiRiposo(QGridLayout& layout, int riga, const QString& prima, QComboBox& elenco, const QString& dopo) {
+    auto* parole = Spaziato(new QHBoxLayout, Spazi::Riga);
+    if (!prima.isEmpty()) parole->addWidget(NuovaScritta(prima));
+    parole->addWidget(&elenco);
+    QLabel* etichetta = NuovaEtichetta(dopo, elenco);
+    etichetta->setAccessibleName((prima + u' ' + dopo).trimmed());
+    parole->addWidget(etichetta);
+    parole->addStretch();
+    layout.addLayout(parole, riga, 5);
+}
+
 }  // namespace
 
 FrmMeteTempi::FrmMeteTempi(Azioni& azioni) : QGroupBox(u"Tempi tecnici giornalieri/Riposi/Visite:"_s) {
@@ -100,15 +112,11 @@ void FrmMeteTempi::CreaRiposi(QGridLayout& layout) {
     cmbRipG_ = CreaRiposo(u"cmbRipG"_s, Numeri(0, kMassimiGiorniDiRiposo, 2), u"Giorni interi di riposo"_s);
     cmbRipGG_ =
         CreaRiposo(u"cmbRipGG"_s, Numeri(0, kMassimiGiorniTraRiposi, 2), u"Giorni di viaggio dopo i quali si riposa"_s);
-    layout.addWidget(NuovaScritta(u"Riposi"_s), 0, 5, 1, 2);
-    const std::array<std::pair<QComboBox*, QString>, 4> righe = {
-        {{cmbRipM_, u"minuti"_s}, {cmbRipH_, u"ogni h"_s}, {cmbRipG_, u"giorni"_s}, {cmbRipGG_, u"ogni gg"_s}}};
-    int riga = 1;
-    for (const auto& [elenco, testo] : righe) {
-        layout.addWidget(elenco, riga, 5);
-        layout.addWidget(NuovaEtichetta(testo, *elenco), riga, 6);
-        ++riga;
-    }
+    layout.addWidget(NuovaScritta(u"Riposi"_s), 0, 5);
+    AggiungiRiposo(layout, 1, {}, *cmbRipM_, u"minuti"_s);
+    AggiungiRiposo(layout, 2, u"ogni"_s, *cmbRipH_, u"h"_s);
+    AggiungiRiposo(layout, 3, {}, *cmbRipG_, u"giorni"_s);
+    AggiungiRiposo(layout, 4, u"ogni"_s, *cmbRipGG_, u"gg"_s);
 }
 
 void FrmMeteTempi::CreaDefault(Azioni& azioni, QGridLayout& layout) {
@@ -118,7 +126,7 @@ void FrmMeteTempi::CreaDefault(Azioni& azioni, QGridLayout& layout) {
     }
     riga->addStretch();
     riga->addWidget(NuovoAiuto(AiutoTempi()));
-    layout.addLayout(riga, 6, 0, 1, 7);
+    layout.addLayout(riga, 6, 0, 1, 6);
 }
 
 bool FrmMeteTempi::OrarioInCorso() const {
