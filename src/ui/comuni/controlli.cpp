@@ -75,9 +75,7 @@ class EtichettaLetta : public QObject {
         const auto vicine = controllo.parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
         const auto sua = [&](const QLabel* etichetta) { return etichetta->buddy() == &controllo; };
         if (std::any_of(vicine.begin(), vicine.end(), sua)) return;
-        QLabel* etichetta = NuovaEtichetta(controllo.accessibleName(), controllo);
-        etichetta->setParent(controllo.parentWidget());
-        etichetta->hide();
+        EtichettaNascosta(controllo.accessibleName(), controllo);
     }
 };
 
@@ -255,6 +253,12 @@ QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo) {
     QLabel* etichetta = NuovaScritta(testo);
     etichetta->setBuddy(&controllo);
     return etichetta;
+}
+
+void EtichettaNascosta(const QString& testo, QWidget& controllo) {
+    QLabel* etichetta = NuovaEtichetta(testo, controllo);
+    etichetta->setParent(controllo.parentWidget());
+    etichetta->hide();
 }
 
 void LasciaAbilitato(QWidget& controllo) { controllo.setProperty(kNonBlocca, true); }

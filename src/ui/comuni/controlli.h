@@ -57,6 +57,8 @@ void DisponiRighe(QTableView& tabella);
 
 /// A label that leads to its control by its mnemonic and names it.
 QLabel* NuovaEtichetta(const QString& testo, QWidget& controllo);
+/// One that is not seen, for a control that has a parent: only who hears the control gets its name.
+void EtichettaNascosta(const QString& testo, QWidget& controllo);
 
 /// Disables all that a frame holds, or enables it, but for what is always as it is: its help, buttons of commands.
 void Blocca(const QWidget& riquadro, bool bloccato);

@@ -2,7 +2,7 @@
 #include "ui/comuni/lettura.h"
 
 #include <QAbstractItemView>
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QStringList>
 
 namespace cronovia {
@@ -25,7 +25,31 @@ void Inoltra(QAccessibleEvent* evento) {
     QAccessible::installUpdateHandler(&Inoltra);
 }
 
+constexpr const char* kGenere = "genereLetto";
+
+// One whole: what it is made of is nothing to be gone to.
+class UnoSolo : public QAccessibleWidget {
+  public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    [[nodiscard]] int childCount() const override { return 0; }
+    [[nodiscard]] QAccessibleInterface* child(int /*indice*/) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface* /*figlio*/) const override { return -1; }
+};
+
+QAccessibleInterface* DelGenere(const QString& /*classe*/, QObject* oggetto) {
+    const QVariant genere = oggetto->property(kGenere);
+    if (!genere.isValid()) return nullptr;
+    return new UnoSolo(qobject_cast<QWidget*>(oggetto), static_cast<QAccessible::Role>(genere.toInt()));
+}
+
 }  // namespace
+
+void LettoCome(QWidget& controllo, QAccessible::Role genere, const QString& nome) {
+    QAccessible::installFactory(&DelGenere);
+    controllo.setProperty(kGenere, static_cast<int>(genere));
+    controllo.setAccessibleName(nome);
+}
 
 void DiceSoloIlFuocoVero() { QAccessible::installUpdateHandler(&Inoltra); }
 

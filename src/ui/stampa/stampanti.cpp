@@ -2,9 +2,12 @@
 #include "ui/stampa/stampanti.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QGraphicsView>
+#include <QLineEdit>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -14,6 +17,8 @@
 #include "interaction/failure.h"
 #include "print/file_pdf.h"
 #include "print/pittore.h"
+#include "ui/comuni/controlli.h"
+#include "ui/comuni/lettura.h"
 #include "ui/comuni/testo_mostrato.h"
 
 namespace cronovia {
@@ -31,6 +36,19 @@ void SoloDaVedere(const QPrintPreviewDialog& anteprima) {
             azione->setEnabled(false);
             azione->setVisible(false);
         }
+    }
+}
+
+// What the toolbar and the pages do not say of themselves to those who hear them.
+void Nomina(const QPrintPreviewDialog& anteprima) {
+    for (QComboBox* elenco : anteprima.findChildren<QComboBox*>()) EtichettaNascosta(u"Ingrandimento"_s, *elenco);
+    for (QLineEdit* casella : anteprima.findChildren<QLineEdit*>()) {
+        const bool sola = qobject_cast<QComboBox*>(casella->parentWidget()) == nullptr;
+        casella->setAccessibleName(sola ? u"Pagina"_s : u"Ingrandimento"_s);
+    }
+    for (QGraphicsView* pagine : anteprima.findChildren<QGraphicsView*>()) {
+        LettoCome(*pagine, QAccessible::Canvas, u"Pagine da stampare"_s);
+        pagine->setFocus();  // so that keys move them from the start
     }
 }
 
@@ -83,6 +101,7 @@ void MostraAnteprima(const Stampato& documento, QWidget& finestra, Interaction& 
     MostraTitolo(anteprima, u"Anteprima di stampa - "_s + documento.titolo);
     anteprima.resize(finestra.size());
     SoloDaVedere(anteprima);
+    Nomina(anteprima);
     QObject::connect(&anteprima, &QPrintPreviewDialog::paintRequested, &anteprima, [&](QPrinter* stampante) {
         try {
             Progress progress;
