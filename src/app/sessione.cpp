@@ -85,7 +85,7 @@ MetaAperta Sessione::ApriMeta(const QString& codice) {
 MetaAperta Sessione::ApriMeta(const QString& codice, LettoreGuida& guida) {
     const QString completo = CodiceCompleto(codice);
     std::optional<Meta> meta = CaricaMeta(archive_, completo);
-    if (!meta) throw Failure(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
+    if (!meta) throw MetaAssente(u"Non esiste nessuna mèta con il codice %1."_s.arg(completo));
     MetaAperta aperta;
     aperta.memorizzata = *meta;
     aperta.meta = std::move(*meta);

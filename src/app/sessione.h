@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "interaction/failure.h"
 #include "interaction/progress.h"
 #include "itinerary/riepilogo.h"
 #include "itinerary/tappa.h"
@@ -37,6 +38,12 @@ struct OpzioniCalcolo {
 struct MetaCalcolata {
     MetaAperta aperta;
     EsitoCalcolo esito;
+};
+
+/// There is no trip of the code that was asked for.
+class MetaAssente : public Failure {
+  public:
+    using Failure::Failure;
 };
 
 /// What keeping copies needs: a clock, and who is told, in a sentence, that the copy of a day could not be kept.

@@ -2,6 +2,7 @@
 #include "cli/verbi.h"
 
 #include <QDir>
+#include <algorithm>
 #include <utility>
 
 #include "app/file_viaggio.h"
@@ -34,7 +35,12 @@ std::vector<DatoNominato> DatiNominati(const QStringList& argomenti, qsizetype p
         RifiutaCaratteriDiControllo(u"Un valore"_s, argomento);
         const qsizetype uguale = argomento.indexOf(u'=');
         if (uguale < 1) throw WrongUsage(u"«%1» non è nella forma nome=valore."_s.arg(argomento));
-        dati.push_back({argomento.first(uguale).trimmed(), argomento.sliced(uguale + 1).trimmed()});
+        DatoNominato dato{argomento.first(uguale).trimmed(), argomento.sliced(uguale + 1).trimmed()};
+        const bool ripetuto = std::any_of(dati.begin(), dati.end(), [&](const DatoNominato& altro) {
+            return altro.nome.compare(dato.nome, Qt::CaseInsensitive) == 0;
+        });
+        if (ripetuto) throw WrongUsage(u"«%1» è detto due volte."_s.arg(dato.nome));
+        dati.push_back(std::move(dato));
     }
     return dati;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // importa, esporta, converte.
 #include <QDateTime>
-
+#include <QFileInfo>
 #include <algorithm>
 
 #include "app/cartella_dati.h"
@@ -101,6 +101,33 @@ void EsportaPerNavigatore(const ApriSessione& apri, const Richiesta& richiesta, 
     uscita << TestoEsito(EsportaPercorso(percorso)) << '\n';
 }
 
+// A name that ends as another kind of file does would deceive whoever opens it.
+void RifiutaAltraEstensione(const QString& file, const QString& formato) {
+    QStringList note = {u"gpx"_s, u"kml"_s, u"itn"_s};
+    for (const FormatoViaggio& uno : FormatiViaggio()) note += uno.opzione.toString();
+    const QString estensione = QFileInfo(file).suffix().toLower();
+    if (estensione == formato || !note.contains(estensione)) return;
+    throw WrongUsage(u"Il file «%1» finisce in .%2, ma sarebbe scritto %3: %4."_s.arg(
+        file, estensione, formato.isEmpty() ? u"come file di scambio"_s : u"con --"_s + formato,
+        formato.isEmpty() ? u"aggiungi --%1"_s.arg(estensione) : u"cambia il nome o l'opzione"_s));
+}
+
+void ControllaEsporta(const Richiesta& richiesta, const FormatoViaggio* viaggio,
+                      std::optional<FormatoPercorso> percorso) {
+    if (viaggio != nullptr && percorso) {
+        throw WrongUsage(u"Le opzioni --%1 e --%2 non vanno insieme."_s.arg(viaggio->opzione, Estensione(*percorso)));
+    }
+    if (richiesta.opzioni.contains(u"giornate"_s) && (viaggio == nullptr || viaggio->opzione != u"ics")) {
+        throw WrongUsage(u"L'opzione --giornate vale solo con --ics."_s);
+    }
+    const bool perGiorno = richiesta.opzioni.contains(u"per-giorno"_s);
+    if (perGiorno && !percorso) throw WrongUsage(u"L'opzione --per-giorno vale solo con --gpx, --kml o --itn."_s);
+    if (perGiorno) return;  // into a folder
+    QString formato = percorso ? Estensione(*percorso) : QString();
+    if (viaggio != nullptr) formato = viaggio->opzione.toString();
+    RifiutaAltraEstensione(richiesta.argomenti.first(), formato);
+}
+
 }  // namespace
 
 void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
@@ -114,17 +141,9 @@ void EseguiImporta(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
 void EseguiEsporta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     const FormatoViaggio* const viaggio = FormatoChiesto(richiesta);
     const std::optional<FormatoPercorso> percorso = FormatoRichiesto(richiesta);
-    if (viaggio != nullptr && percorso) {
-        throw WrongUsage(u"Le opzioni --%1 e --%2 non vanno insieme."_s.arg(viaggio->opzione, Estensione(*percorso)));
-    }
-    if (richiesta.opzioni.contains(u"giornate"_s) && (viaggio == nullptr || viaggio->opzione != u"ics")) {
-        throw WrongUsage(u"L'opzione --giornate vale solo con --ics."_s);
-    }
+    ControllaEsporta(richiesta, viaggio, percorso);
     if (viaggio != nullptr) return EsportaViaggio(apri, richiesta, *viaggio, uscita);
     if (percorso) return EsportaPerNavigatore(apri, richiesta, *percorso, uscita);
-    if (richiesta.opzioni.contains(u"per-giorno"_s)) {
-        throw WrongUsage(u"L'opzione --per-giorno vale solo con --gpx, --kml o --itn."_s);
-    }
     Sessione sessione = apri();
     std::vector<QString> codici = CodiciRichiesti(richiesta);
     for (QString& codice : codici) codice = CodiceCompleto(codice);

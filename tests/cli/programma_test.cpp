@@ -20,7 +20,7 @@ TEST(Programma, AResultThatCannotBeWrittenIsNoSuccess) {
                    {u"--cartella"_s, programma.Cartella().Path(), u"calcola"_s, u"3"_s});
     ASSERT_TRUE(processo.waitForFinished());
     EXPECT_EQ(processo.exitCode(), 1);
-    EXPECT_EQ(QString::fromUtf8(processo.readAllStandardError()), u"Il risultato non si può scrivere.\n"_s);
+    EXPECT_EQ(QString::fromUtf8(processo.readAllStandardError()), u"Il risultato non si può scrivere: il disco è pieno, o nessuno lo legge. Ciò che il verbo doveva cambiare è cambiato.\n"_s);
 }
 
 TEST(Programma, WhatDrawsIsMissedOnlyByWhatDraws) {
