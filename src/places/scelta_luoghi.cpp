@@ -56,7 +56,8 @@ std::vector<Candidato> CandidatiPer(const QString& localita, const PosizioniConf
 
 // How badly a straight distance fits the way between two nodes. A road may wind a lot, but is never the shorter one.
 double Scarto(double diretta, const Nodo& da, const Nodo& a) {
-    if (a.tratteIgnote > da.tratteIgnote) return std::min(diretta / 150, kMassimoScarto);
+    constexpr double kVicinanza = 300;  // while nothing tells how far: a town is meant before a nearer namesake abroad
+    if (a.tratteIgnote > da.tratteIgnote) return std::min(diretta / kVicinanza, kMassimoScarto);
     const double attesa = a.attesa - da.attesa;
     const double strada = a.strada - da.strada;
     const double larghezza = diretta < attesa ? 0.3 * attesa + 4 : 0.1 * attesa + 2.5;

@@ -267,6 +267,8 @@ TEST_F(SceltaTest, TellsNamesakesApart) {
     EXPECT_LT(DistanzaKm(*Scegli({{u"BERLINO"_s, 0}, {u"FRANKFURT"_s, 100, 1.2}}).back().posizione, {52.34, 14.55}),
               15);
     EXPECT_LT(DistanzaKm(*Scegli({{u"COLONIA"_s, 0}, {u"FRANKFURT"_s, 190, 1.2}}).back().posizione, {50.11, 8.68}), 15);
+    // Before its kilometres are typed: Beroun in Bohemia, which is Verona too, lies nearer.
+    EXPECT_EQ(Scegli({{u"VERONA"_s, 0}, {u"NORIMBERGA"_s, {}}}).front().nazione, u"IT"_s);
     EXPECT_EQ(paese(u"NIZZA"_s, 20, u"MONACO"_s), u"MC"_s);
     EXPECT_EQ(paese(u"NORIMBERGA"_s, 170, u"MONACO"_s), u"DE"_s);
 }
