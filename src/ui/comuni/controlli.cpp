@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/comuni/controlli.h"
 
+#include <QClipboard>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLayout>
@@ -120,6 +122,25 @@ class AnnullaDellaFinestra : public QObject {
     }
 };
 
+// Rows on the clipboard are no text for one box: their command takes them.
+class RigheAlComando : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+        if (evento->type() != QEvent::ShortcutOverride && evento->type() != QEvent::KeyPress) return false;
+        if (!static_cast<const QKeyEvent&>(*evento).matches(QKeySequence::Paste) || !Righe()) return false;
+        evento->ignore();
+        return true;
+    }
+
+  private:
+    static bool Righe() {
+        const QString testo = QGuiApplication::clipboard()->text();
+        return testo.contains(u'\t') || testo.trimmed().contains(u'\n');
+    }
+};
+
 // A box deletes what is selected before it refuses a key; here the key is refused first.
 class RifiutaTasti : public QObject {
   public:
@@ -209,6 +230,8 @@ QPlainTextEdit* NuovaCasellaLunga(const QString& nome, int righe, const QString&
 }
 
 void LasciaAnnullare(QLineEdit& casella) { casella.installEventFilter(new AnnullaDellaFinestra(&casella)); }
+
+void LasciaIncollareRighe(QLineEdit& casella) { casella.installEventFilter(new RigheAlComando(&casella)); }
 
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione) {
     QLineEdit* casella = NuovaCasella(nome, 40, istruzione);

@@ -44,6 +44,9 @@ QPlainTextEdit* NuovaCasellaLunga(const QString& nome, int righe, const QString&
 /// Leaves the keys of undo and redo to the window while a box has nothing of its own to undo.
 void LasciaAnnullare(QLineEdit& casella);
 
+/// Leaves the key of pasting to the window while rows of a table are on the clipboard.
+void LasciaIncollareRighe(QLineEdit& casella);
+
 /// A box that shows a result and takes no focus.
 QLineEdit* NuovoRisultato(const QString& nome, int cifre, const QString& istruzione);
 

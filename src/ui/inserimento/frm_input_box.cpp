@@ -59,7 +59,10 @@ QWidget* FrmInputBox::CreaCampi() {
                           "su [?]"_s);
     ScriviMaiuscolo(*txtTappa_);
     ScriviMaiuscolo(*txtNumStrada_);
-    for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) LasciaAnnullare(*casella);
+    for (QLineEdit* casella : {txtTappa_, txtNumStrada_, txtKm_}) {
+        LasciaAnnullare(*casella);
+        LasciaIncollareRighe(*casella);
+    }
     cmbTipoStrada_ = NuovoElenco(u"cmbTipoStrada"_s, {u"Autostrada"_s, u"SuperStrada"_s, u"Principale"_s, u"Locale"_s},
                                  u"Tipo di strada"_s);
     auto* soste = Spaziato(new QHBoxLayout, Spazi::Unito);
@@ -192,8 +195,8 @@ void FrmInputBox::MostraStima(std::optional<int> km) {
 
 void FrmInputBox::MostraSegnaposto() {
     QStringList parti;
+    if (stima_) parti += u"circa %1 km"_s.arg(*stima_);  // first: the box may be too narrow for both
     if (kmDaIndicare_) parti += u"da indicare"_s;
-    if (stima_) parti += u"circa %1 km"_s.arg(*stima_);
     txtKm_->setPlaceholderText(parti.join(u", "_s));
 }
 
