@@ -21,10 +21,10 @@ std::vector<GruppoModulo> GruppiDelRientro() {
                 u"gg/mm/aaaa"_s},
                {kOra, u"txtRientroOra"_s, u"alle ore"_s, 5, 6, u"Ora entro cui bisogna essere a casa"_s, u"hh:mm"_s}}}},
             {u"Costi"_s,
-             {prezzo(0, u"txtKmLitro"_s, u"Consumo: km con un litro"_s, u"9,5"_s),
-              prezzo(1, u"txtPrezzoCarburante"_s, u"Carburante: euro al litro"_s, u"1,859"_s),
-              prezzo(2, u"txtPedaggioKm"_s, u"Pedaggio: euro per km di autostrada"_s, u"0,078"_s),
-              prezzo(3, u"txtPrezzoNotti"_s, u"Notte: euro per ogni notte"_s, u"25,00"_s)}}};
+             {prezzo(0, u"txtKmLitro"_s, u"Consumo: km con un litro"_s, u"es. 9,5"_s),
+              prezzo(1, u"txtPrezzoCarburante"_s, u"Carburante: euro al litro"_s, u"es. 1,859"_s),
+              prezzo(2, u"txtPedaggioKm"_s, u"Pedaggio: euro per km di autostrada"_s, u"es. 0,078"_s),
+              prezzo(3, u"txtPrezzoNotti"_s, u"Notte: euro per ogni notte"_s, u"es. 25,00"_s)}}};
 }
 
 struct RientroLetto {
