@@ -44,12 +44,13 @@ QString Titolo(const QString& titolo) { return u".SH "_s + titolo + u'\n'; }
 
 QString PaginaDelVerbo(const Verbo& verbo) {
     QString pagina = Voce(Grassetto(verbo.nome) + Corsivo(verbo.argomenti), verbo.descrizione);
-    if (verbo.opzioni.empty()) return pagina;
+    if (verbo.opzioni.empty() && verbo.dati.empty()) return pagina;
     pagina += u".RS\n"_s;
     for (const Opzione& opzione : verbo.opzioni) {
         pagina += Voce(Grassetto(u"--"_s + opzione.nome) + Corsivo(opzione.valore),
                        opzione.descrizione + (opzione.obbligatoria ? u" Ci vuole sempre."_s : QString()));
     }
+    for (const DatoDetto& dato : verbo.dati) pagina += Voce(Grassetto(dato.nomi), dato.descrizione);
     return pagina + u".RE\n"_s;
 }
 

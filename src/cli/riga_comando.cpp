@@ -78,6 +78,9 @@ void ScriviAiutoDelVerbo(const Verbo& verbo, QTextStream& uscita) {
     for (const Opzione& opzione : verbo.opzioni) {
         uscita << u"  %1\n      %2\n"_s.arg(ConValore(opzione), opzione.descrizione);
     }
+    if (verbo.dati.empty()) return;
+    uscita << u"\nI nomi, con maiuscole o minuscole:\n"_s;
+    for (const DatoDetto& dato : verbo.dati) uscita << u"  %1\n      %2\n"_s.arg(dato.nomi, dato.descrizione);
 }
 
 Formato LeggiFormato(const QString& nome) {

@@ -43,7 +43,7 @@ std::optional<QString> PiuSimile(const QString& parola, const QStringList& note)
     std::optional<QString> simile;
     qsizetype minimo = std::max<qsizetype>(minuscola.size(), kLettereDiUnoSbaglio) / kLettereDiUnoSbaglio + 1;
     for (const QString& nota : note) {
-        const bool inizio = minuscola.size() >= kLettereDiUnInizio && nota.startsWith(minuscola);
+        const bool inizio = minuscola.size() >= kLettereDiUnInizio && nota.toLower().startsWith(minuscola);
         const qsizetype sbagli = inizio ? 0 : Sbagli(minuscola, nota.toLower());
         if (sbagli >= minimo) continue;
         minimo = sbagli;

@@ -7,6 +7,7 @@
 
 #include "app/file_viaggio.h"
 #include "calendar/testo.h"
+#include "cli/dati_detti.h"
 #include "cli/opzioni_calcolo.h"
 #include "print/tabella_testo.h"
 
@@ -95,7 +96,9 @@ std::vector<Verbo> VerbiDellArchivio() {
          1,
          -1,
          true,
-         &EseguiParametri},
+         &EseguiParametri,
+         false,
+         DatiDetti()},
         {u"elimina"_s,
          u"CODICE"_s,
          u"Cancella una mèta con il suo itinerario, dopo averlo chiesto; prima ne resta una copia."_s,
@@ -197,7 +200,9 @@ std::vector<Verbo> VerbiDelViaggio() {
          1,
          -1,
          true,
-         &EseguiTappe},
+         &EseguiTappe,
+         false,
+         DatiDettiDiUnaTappa()},
         {u"percorso"_s,
          u"CODICE FILE"_s,
          u"Riporta in un itinerario vuoto il percorso di un navigatore o di un altro programma (GPX, KML, KMZ, ITN, GeoJSON, testo)."_s,

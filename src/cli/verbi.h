@@ -80,6 +80,12 @@ std::vector<DatoNominato> DatiNominati(const QStringList& argomenti, qsizetype p
 void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo);
 
 /// One verb, for the help and for running it.
+/// Data that a verb takes as nome=valore: their names, and what can be given.
+struct DatoDetto {
+    QString nomi;
+    QString descrizione;
+};
+
 struct Verbo {
     QString nome;
     QString argomenti;  ///< as the help shows them
@@ -90,6 +96,7 @@ struct Verbo {
     bool conFormato = false;   ///< answers in the format wanted
     ProceduraVerbo esegui = nullptr;
     bool conCoordinate = false;  ///< its arguments may be negative numbers, and no options
+    std::vector<DatoDetto> dati = {};
 };
 
 /// All verbs, in the order of the help.

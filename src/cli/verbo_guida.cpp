@@ -266,7 +266,9 @@ void EseguiGuida(const ApriSessione& apri, const Richiesta& richiesta, QTextStre
     } else if (richiesta.formato == Formato::Tsv) {
         ScriviTsv(TestiDeiRecord(Table::GuidaCitta, record), uscita);
     } else if (record.empty()) {
-        uscita << u"Nessuna annotazione nella guida.\n"_s;
+        uscita << (richiesta.argomenti.isEmpty()
+                       ? u"Nessuna annotazione nella guida.\n"_s
+                       : u"Nessuna annotazione nella guida per «%1».\n"_s.arg(richiesta.argomenti.first()));
     } else {
         ScriviAllineata(TabellaDellaGuida(record, tipi), uscita);
     }

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <functional>
 
+#include "cli/simile.h"
 #include "cli/verbi.h"
 #include "exchange/tappe/lettore_tappe.h"
 #include "files/lettore_righe.h"
@@ -23,11 +24,18 @@ namespace {
 // The stages that a change comes to, from those that are stored.
 using CambiaTappe = std::function<RigheItinerario(const RigheItinerario&)>;
 
+QString DatoSconosciuto(const QString& nome) {
+    QStringList noti;
+    for (int i = 0; i < kCelle; ++i) noti += NomiDellaCella(i);
+    const std::optional<QString> simile = PiuSimile(nome, noti);
+    return u"«%1» non è un dato di una tappa%2."_s.arg(nome, simile ? u": forse «%1»"_s.arg(*simile) : QString());
+}
+
 CelleTappa CelleDaiDati(const QStringList& argomenti) {
     CelleTappa celle;
     for (const DatoNominato& dato : DatiNominati(argomenti, 1)) {
         const std::optional<int> cella = CellaDiNome(dato.nome);
-        if (!cella) throw WrongUsage(u"«%1» non è un dato di una tappa."_s.arg(dato.nome));
+        if (!cella) throw WrongUsage(DatoSconosciuto(dato.nome));
         if (celle.contains(*cella)) throw WrongUsage(u"«%1» è detto due volte."_s.arg(dato.nome));
         celle[*cella] = dato.valore;
     }

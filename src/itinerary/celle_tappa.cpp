@@ -93,7 +93,7 @@ class LettoreCelle {
         const QString testo = Testo(cella::Sosta);
         const auto trovata = forma.match(testo);
         if (!trovata.hasMatch() || trovata.captured(3).toInt() > 23 || trovata.captured(4).toInt() > 59) {
-            Rifiuta(cella::Sosta, u"la sosta «%1» non è scritta come gg:hh:mm"_s.arg(testo));
+            Rifiuta(cella::Sosta, u"la sosta «%1» non è scritta come gg:hh:mm o hh:mm, con ore fino a 23"_s.arg(testo));
         }
         tappa.sosta = {trovata.captured(2).toInt(), trovata.captured(3).toInt(), trovata.captured(4).toInt()};
         tappa.fineGiorno = !trovata.captured(1).isEmpty() || FineGiorno();

@@ -73,7 +73,7 @@ QString ValoreMemorizzato(const DatoMeta& dato, std::size_t campo) {
             return Maiuscolo(dato.valore.normalized(QString::NormalizationForm_C));
         case mete::DataInizio: {
             const std::optional<NumeroGiorno> giorno = LeggiDataScritta(dato.valore);
-            if (!giorno) throw Failure(MessaggioData());
+            if (!giorno) RifiutaDato(dato, u"vuole un giorno come 05/06/2027. "_s + MessaggioData().chopped(1));
             return DataMemorizzata(*giorno);
         }
         case mete::OraInizio: {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What no transcript can say of the program.
-#include "programma.h"
+#include <QRegularExpression>
+
 #include "exchange/scambio.h"
+#include "itinerary/celle_tappa.h"
+#include "programma.h"
 
 namespace cronovia {
 namespace {
@@ -20,7 +23,9 @@ TEST(Programma, AResultThatCannotBeWrittenIsNoSuccess) {
                    {u"--cartella"_s, programma.Cartella().Path(), u"calcola"_s, u"3"_s});
     ASSERT_TRUE(processo.waitForFinished());
     EXPECT_EQ(processo.exitCode(), 1);
-    EXPECT_EQ(QString::fromUtf8(processo.readAllStandardError()), u"Il risultato non si può scrivere: il disco è pieno, o nessuno lo legge. Ciò che il verbo doveva cambiare è cambiato.\n"_s);
+    EXPECT_EQ(
+        QString::fromUtf8(processo.readAllStandardError()),
+        u"Il risultato non si può scrivere: il disco è pieno, o nessuno lo legge. Ciò che il verbo doveva cambiare è cambiato.\n"_s);
 }
 
 TEST(Programma, WhatDrawsIsMissedOnlyByWhatDraws) {
@@ -95,6 +100,26 @@ TEST(Programma, APrintoutWithoutRoomLeavesTheOldTable) {
     EXPECT_TRUE(risposta.errori.contains(u"x.pdf non è stato scritto"_s)) << risposta.errori.toStdString();
     EXPECT_EQ(prova::LeggiFile(tabella), prima);
     EXPECT_EQ(programma.Cartella().Contenuto(), (QStringList{u"Copie"_s, u"VandroCronovia.mdb"_s, u"Vandtabl.txt"_s}));
+}
+
+// A name that can be typed and that no help tells is found by nobody.
+TEST(Programma, TheHelpTellsEveryNameOfWhatCanBeChanged) {
+    const Programma programma;
+    EXPECT_EQ(programma.Uscita({u"nuova"_s, u"ROMA"_s, u"ITALIA"_s}), u"000001\n"_s);
+    const QString aiutoMeta = programma.Uscita({u"parametri"_s, u"--help"_s});
+    const QString meta = programma.Uscita({u"parametri"_s, u"1"_s, u"--formato"_s, u"tsv"_s});
+    const QStringList righe = meta.split(u'\n', Qt::SkipEmptyParts).sliced(1);
+    EXPECT_GT(righe.size(), 20);
+    const auto detto = [](const QString& aiuto, const QString& nome) {
+        return aiuto.contains(
+            QRegularExpression(u"^  (.*, )?%1(,.*)?$"_s.arg(nome), QRegularExpression::MultilineOption));
+    };
+    for (const QString& riga : righe) EXPECT_TRUE(detto(aiutoMeta, riga.section(u'\t', 0, 0))) << riga.toStdString();
+    const QString aiutoTappa = programma.Uscita({u"tappe"_s, u"--help"_s});
+    for (int i = cella::Vincoli; i < kCelle; ++i) {
+        const QString nome = NomiDellaCella(i).first();
+        EXPECT_TRUE(detto(aiutoTappa, nome)) << nome.toStdString();
+    }
 }
 
 // What was chosen in the window's preferences: the sheet, and how many copies stay.

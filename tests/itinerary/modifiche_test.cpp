@@ -88,8 +88,10 @@ TEST(Modifiche, StagesGoToASpreadsheetAndComeBack) {
              {u"A\nB\tA1\t5,5"_s, u"riga 2, i chilometri «5,5» non sono un numero da 0 a 999"_s},
              {u"A\t\t1000"_s, u"riga 1, i chilometri «1000» non sono un numero da 0 a 999"_s},
              {u"A\t\t5\tX"_s, u"riga 1, il tipo di strada «X» non è A, S, P o L"_s},
-             {u"A\t\t5\tA\t1:60"_s, u"riga 1, la sosta «1:60» non è scritta come gg:hh:mm"_s},
-             {u"A\t\t5\tA\t0:24:00"_s, u"riga 1, la sosta «0:24:00» non è scritta come gg:hh:mm"_s},
+             {u"A\t\t5\tA\t1:60"_s,
+              u"riga 1, la sosta «1:60» non è scritta come gg:hh:mm o hh:mm, con ore fino a 23"_s},
+             {u"A\t\t5\tA\t0:24:00"_s,
+              u"riga 1, la sosta «0:24:00» non è scritta come gg:hh:mm o hh:mm, con ore fino a 23"_s},
              {lungo, u"riga 1, «"_s + lungo + u"» ha più di 29 caratteri"_s},
              {u"Tappa\tKm.\n\n"_s, u"negli appunti non ci sono tappe"_s}}) {
         EXPECT_EQ(prova::MessaggioDi([&t = testo] { LeggiAppunti(t); }), u"Non si può incollare: "_s + perche + u'.');
