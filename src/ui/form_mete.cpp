@@ -199,6 +199,7 @@ void FormMete::Collega() {
 void FormMete::Raccogli() {
     if (mostrando_) return;
     viaggio_->Raccogli();
+    MostraTitolo();
     inserimento_.MostraSuggerimenti();
     guida_.Raccogli();
     copia_.Raccogli();
@@ -389,8 +390,9 @@ void FormMete::MostraLeGiornate() {
 void FormMete::MostraTitolo() {
     const Documento& documento = postazione_.documento;
     const QString programma = QCoreApplication::applicationName();
-    const bool memorizzata = !documento.Campi().codice.isEmpty();
-    cronovia::MostraTitolo(*this, memorizzata ? documento.Nome() + u" - "_s + programma : programma);
+    if (documento.Campi().codice.isEmpty()) return cronovia::MostraTitolo(*this, programma);
+    const QString daSalvare = documento.Modificato() ? u"*"_s : QString();
+    cronovia::MostraTitolo(*this, documento.Nome() + daSalvare + u" - "_s + programma);
 }
 
 }  // namespace cronovia
