@@ -90,8 +90,8 @@ void ElencoNumeri::Scegli(int indice, bool aperto) {
 }
 
 void ElencoNumeri::DiceCheManca() {
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()),
-                       TestoPiano(u"%1 qui non c'è: si sceglie %2."_s.arg(battute_, NumeriOfferti(*this))), this);
+    const QString testo = u"%1 qui non c'è: si sceglie %2."_s.arg(battute_, NumeriOfferti(*this));
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), TestoPiano(testo), this);
     battute_.clear();
 }
 
