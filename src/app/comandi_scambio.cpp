@@ -7,7 +7,7 @@
 
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
-#include "exchange/iei/annulla_import.h"
+#include "exchange/annulla_import.h"
 #include "exchange/iei/esporta_mete.h"
 #include "exchange/iei/importa_mete.h"
 #include "exchange/vecchi/converti.h"

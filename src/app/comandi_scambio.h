@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/postazione.h"
-#include "exchange/iei/annulla_import.h"
+#include "exchange/annulla_import.h"
 
 namespace cronovia::comandi {
 

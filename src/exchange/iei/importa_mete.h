@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "exchange/iei/annulla_import.h"
+#include "exchange/annulla_import.h"
 #include "exchange/iei/lettore_iei.h"
 #include "interaction/progress.h"
 #include "store/archive.h"

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "exchange/navigatori/lettore_navigatore.h"
+#include "exchange/lettore_navigatore.h"
 #include "interaction/progress.h"
 #include "itinerary/modifiche.h"
 #include "places/confermate.h"

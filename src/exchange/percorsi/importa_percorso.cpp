@@ -8,7 +8,7 @@
 
 #include "calendar/testo.h"
 #include "exchange/percorsi/lettore_percorso.h"
-#include "exchange/percorsi/righe_testo.h"
+#include "files/righe_testo.h"
 #include "interaction/failure.h"
 
 namespace cronovia {

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "exchange/iei/annulla_import.h"
+#include "exchange/annulla_import.h"
 #include "exchange/soste/lettore_soste.h"
 #include "guide/annotazioni.h"
 #include "interaction/progress.h"

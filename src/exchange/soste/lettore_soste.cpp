@@ -10,10 +10,10 @@
 #include <tuple>
 
 #include "calendar/testo.h"
-#include "exchange/navigatori/lettore_navigatore.h"
-#include "exchange/percorsi/righe_testo.h"
+#include "exchange/lettore_navigatore.h"
 #include "files/celle.h"
 #include "files/lettore_righe.h"
+#include "files/righe_testo.h"
 #include "interaction/failure.h"
 
 namespace cronovia {

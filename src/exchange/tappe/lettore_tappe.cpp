@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "exchange/percorsi/righe_testo.h"
 #include "exchange/tappe/tappe_json.h"
 #include "files/celle.h"
+#include "files/righe_testo.h"
 #include "interaction/failure.h"
 #include "itinerary/celle_tappa.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "exchange/percorsi/righe_testo.h"
+#include "files/righe_testo.h"
 
 #include <QIODevice>
 #include <QStringConverter>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "exchange/navigatori/lettore_navigatore.h"
+#include "exchange/lettore_navigatore.h"
 
 #include <minizip/unzip.h>
 
@@ -13,7 +13,7 @@
 #include <memory>
 
 #include "calendar/testo.h"
-#include "exchange/percorsi/righe_testo.h"
+#include "files/righe_testo.h"
 #include "interaction/failure.h"
 
 namespace cronovia {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "exchange/iei/annulla_import.h"
+#include "exchange/annulla_import.h"
 
 #include "interaction/failure.h"
 
