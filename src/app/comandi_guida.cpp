@@ -61,7 +61,7 @@ void VaiAllaRigaGuida(Postazione& p, int riga) {
     TavoloGuida& tavolo = *guida->tavolo;
     const auto ultima = static_cast<int>(tavolo.Elenco()->size());
     const RigaGuida meta = (*tavolo.Elenco())[static_cast<std::size_t>(std::clamp(riga, 1, ultima) - 1)];
-    tavolo.ChiudiElenco();
+    guida->elencoLocalita = false;
     if (!VoceNonPersa(p)) return;
     SullaGuida(p, [&](TavoloGuida& t) { t.VaiAllaRiga(t.RigaDi(meta)); });
 }
@@ -71,7 +71,11 @@ void SalvaRigaGuida(Postazione& p) {
 }
 
 void CercaInGuida(Postazione& p) {
-    SullaGuida(p, [](TavoloGuida& tavolo) { tavolo.Cerca(); });
+    if (auto* guida = p.Su<schermata::Guida>()) guida->elencoLocalita = true;
+}
+
+void ChiudiElencoGuida(Postazione& p) {
+    if (auto* guida = p.Su<schermata::Guida>()) guida->elencoLocalita = false;
 }
 
 void StampaGuida(Postazione& p) {

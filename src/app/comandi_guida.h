@@ -14,8 +14,9 @@ void SullaGuida(Postazione& p, const std::function<void(TavoloGuida&)>& comando)
 void VaiAllaRigaGuida(Postazione& p, int riga);
 /// Saves what the fields hold; tells why it cannot be.
 void SalvaRigaGuida(Postazione& p);
-/// Opens the list of localities; the choice of what to print.
+/// Opens the list of localities, and closes it; the choice of what to print.
 void CercaInGuida(Postazione& p);
+void ChiudiElencoGuida(Postazione& p);
 void StampaGuida(Postazione& p);
 /// Asks the same before it deletes the entry of the current row.
 void CancellaRigaGuida(Postazione& p);

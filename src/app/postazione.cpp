@@ -134,7 +134,7 @@ bool Postazione::ChiedeSePerdere(const QString& testo, const QString& titolo) {
 
 std::optional<Ambito> Postazione::AmbitoInVista() const {
     if (const auto* guida = Su<schermata::Guida>()) {
-        return guida->stampa || guida->tavolo->ElencoLocalitaVisibile() ? std::nullopt : std::optional(Ambito::Guida);
+        return guida->stampa || guida->elencoLocalita ? std::nullopt : std::optional(Ambito::Guida);
     }
     if (const auto* inserimento = Su<schermata::Inserimento>()) {
         return inserimento->elencoTappe ? std::nullopt : std::optional(Ambito::Viaggio);

@@ -68,6 +68,7 @@ struct Stampa {
 struct Guida {
     std::unique_ptr<TavoloGuida> tavolo;     ///< never null; its address does not change while the screen is open
     std::optional<PassoStampa> stampa = {};  ///< of its printout, while that is chosen
+    bool elencoLocalita = false;             ///< the list of localities to go to is open
 };
 
 /// A stretch of another trip is chosen, beside the entry of stages.

@@ -42,7 +42,7 @@ struct MomentiDelloSchermo {
     Momenti operator()(const schermata::Guida& guida) const {
         if (guida.stampa == schermata::PassoStampa::Scelte) return momento::kSceltaStampaGuida;
         if (guida.stampa == schermata::PassoStampa::Stampante) return momento::kStampante;
-        if (guida.tavolo == nullptr || guida.tavolo->ElencoLocalitaVisibile()) return momento::kElencoGuida;
+        if (guida.elencoLocalita) return momento::kElencoGuida;
         return momento::kGuida | (guida.tavolo->Corrente().voce ? momento::kVoce : 0);
     }
     Momenti operator()(const schermata::Copia& copia) const {

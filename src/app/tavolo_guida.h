@@ -40,8 +40,6 @@ class TavoloGuida {
     [[nodiscard]] const CampiVoce& Campi() const { return campi_; }
     [[nodiscard]] Archive& Archivio() const { return archive_; }
     [[nodiscard]] const QString& CodiceMeta() const { return codiceMeta_; }
-    /// The localities are listed over it.
-    [[nodiscard]] bool ElencoLocalitaVisibile() const { return cerca_; }
 
     /// What the fields hold now: not saved, and `Modificata` while it differs from what they were to hold.
     [[nodiscard]] const CampiVoce& Scritti() const { return scritti_; }
@@ -63,9 +61,6 @@ class TavoloGuida {
     void SalvaScritti();
     /// Deletes the entry of the current row; a locality's row stays as it is.
     void CancellaRiga();
-    /// Opens the list of localities; closes it.
-    void Cerca() { cerca_ = true; }
-    void ChiudiElenco() { cerca_ = false; }
 
   private:
     void CreaElenco();
@@ -84,7 +79,6 @@ class TavoloGuida {
     int rigaCorrente_ = 1;
     CampiVoce campi_;
     CampiVoce scritti_;
-    bool cerca_ = false;
     Storia& storia_;
 };
 

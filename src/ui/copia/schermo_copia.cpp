@@ -30,13 +30,13 @@ void SchermoCopia::Collega() {
 
 bool SchermoCopia::FuocoDopo(Comando comando, bool appenaAperto) {
     const bool assegna = comando == Comando::AssegnaInizio || comando == Comando::AssegnaFine;
-    if (!aperto_ || !(appenaAperto || assegna)) return false;
+    if (!postazione_.Su<schermata::Copia>() || !(appenaAperto || assegna)) return false;
     lista_->Fuoco();
     return true;
 }
 
 void SchermoCopia::Comanda(const std::function<void(TavoloCopia&)>& comando) {
-    if (aperto_) esegui_([&] { comandi::SullaCopia(postazione_, comando); });
+    if (postazione_.Su<schermata::Copia>()) esegui_([&] { comandi::SullaCopia(postazione_, comando); });
 }
 
 void SchermoCopia::Raccogli() {
@@ -52,12 +52,12 @@ void SchermoCopia::Mostra() {
     const auto* copia = postazione_.Su<schermata::Copia>();
     const bool tratto = copia != nullptr && copia->tavolo.Tappe();
     if (copia != nullptr) {
-        if (!aperto_) tratto_->Azzera();
         lista_->Mostra(copia->tavolo);
         tratto_->Mostra(copia->tavolo);
+    } else {
+        tratto_->Azzera();  // for the next time
     }
-    aperto_ = copia != nullptr;
-    lista_->setVisible(aperto_);
+    lista_->setVisible(copia != nullptr);
     tratto_->setVisible(tratto);
     inserimento_.setVisible(postazione_.InInserimento() && !tratto);
     inserimento_.setEnabled(!tratto);

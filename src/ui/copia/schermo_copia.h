@@ -40,7 +40,6 @@ class SchermoCopia : public QObject, public Schermo {
     Esegui esegui_;
     FrmLista* lista_;
     FrmTratto* tratto_;
-    bool aperto_ = false;
 };
 
 }  // namespace cronovia

@@ -82,10 +82,6 @@ void SchermoGuida::FuocoSulCampoMancante() {
     riquadro_->FuocoSulCampo(difetto ? difetto->campo : guida::Descrizione);
 }
 
-void SchermoGuida::Comanda(const std::function<void(TavoloGuida&)>& comando) {
-    if (Tavolo()) esegui_([&] { comandi::SullaGuida(postazione_, comando); });
-}
-
 void SchermoGuida::VaiAllaRiga(int riga) {
     if (Tavolo()) esegui_([&] { comandi::VaiAllaRigaGuida(postazione_, riga); });
 }
@@ -119,19 +115,25 @@ bool SchermoGuida::Mostra(int righeMinime) {
         mostrato_ = {tavolo->RigaCorrente(), tavolo->Elenco(), tavolo->Campi()};
     }
     MostraElenco(*tavolo);
-    Abilita(*tavolo);
+    Abilita();
     return true;
 }
 
 // Beside a list to choose from, and beside the choices of the printout, nothing else can be used.
-void SchermoGuida::Abilita(const TavoloGuida& tavolo) {
-    const bool libero = !tavolo.ElencoLocalitaVisibile() && !postazione_.StampaAperta();
+void SchermoGuida::Abilita() {
+    const bool libero = !ConElenco() && !postazione_.StampaAperta();
     griglia_.setEnabled(libero);
     Blocca(*riquadro_, !libero);
 }
 
+// The localities are listed over it.
+bool SchermoGuida::ConElenco() const {
+    const auto* guida = postazione_.Su<schermata::Guida>();
+    return guida != nullptr && guida->elencoLocalita;
+}
+
 void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
-    elenco_.Mostra(tavolo.ElencoLocalitaVisibile(), [&] {
+    elenco_.Mostra(ConElenco(), [&] {
         std::vector<VoceScelta> voci;
         int numero = 0;
         for (const RigaGuida& riga : *tavolo.Elenco()) {
@@ -146,7 +148,7 @@ void SchermoGuida::MostraElenco(const TavoloGuida& tavolo) {
 
 void SchermoGuida::ChiudiElenco() {
     if (!Tavolo()) return;
-    Comanda([](TavoloGuida& t) { t.ChiudiElenco(); });
+    esegui_([this] { comandi::ChiudiElencoGuida(postazione_); });
     riquadro_->FuocoSullaDescrizione();
 }
 
@@ -158,9 +160,9 @@ bool SchermoGuida::Tasto(const QKeyEvent& tasto) {
     const bool esc = tasto.key() == Qt::Key_Escape;
     if (!invio && !esc) return false;
     if (postazione_.StampaAperta()) return false;
-    if (esc && tavolo->ElencoLocalitaVisibile()) {
+    if (esc && ConElenco()) {
         ChiudiElenco();
-    } else if (tavolo->ElencoLocalitaVisibile()) {
+    } else if (ConElenco()) {
         return true;
     } else if (auto* pulsante = qobject_cast<QPushButton*>(riquadro_->window()->focusWidget()); invio && pulsante) {
         pulsante->click();

@@ -35,11 +35,11 @@ class SchermoGuida : public QObject, public Schermo {
     void Collega();
     /// Null while the screen is closed.
     [[nodiscard]] const TavoloGuida* Tavolo() const;
-    void Comanda(const std::function<void(TavoloGuida&)>& comando);
     void VaiAllaRiga(int riga);
+    [[nodiscard]] bool ConElenco() const;
     void MostraElenco(const TavoloGuida& tavolo);
     void ChiudiElenco();
-    void Abilita(const TavoloGuida& tavolo);
+    void Abilita();
     [[nodiscard]] bool CampiCambiati() const;
     void FuocoSulCampoMancante();
 
