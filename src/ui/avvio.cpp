@@ -48,7 +48,7 @@ std::unique_ptr<FormMete> Apri(const QString& dati) {
     const ScegliCopia scegli = [&](const auto& copie) { return ChiediCopia(davanti, copie); };
     for (;;) {
         try {
-            return std::make_unique<FormMete>(dati, &QDateTime::currentDateTime);
+            return std::make_unique<FormMete>(dati, &QDateTime::currentDateTime, StampantiDelSistema());
         } catch (const Failure& failure) {
             const Rimedio rimedio = OffreRimedio({dati, interazione, scegli, QDateTime::currentDateTime()}, failure);
             if (rimedio == Rimedio::Nessuno) throw;

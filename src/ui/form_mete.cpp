@@ -50,7 +50,7 @@ void MettiNegliAppunti(const QString& testo) {
 
 }  // namespace
 
-FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
+FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso, Stampanti stampanti)
     : aspetto_(cartella),
       azioni_(*this),
       avanzamento_(new Avanzamento),
@@ -68,7 +68,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso)
              [this](const auto& comando) { Esegui(comando); }),
       scambio_(postazione_, azioni_, [this](const auto& comando) { Esegui(comando); }) {
     setObjectName(u"formMete"_s);
-    Disponi();
+    Disponi(std::move(stampanti));
     CompletaMenu();
     Collega();
     CreaGiornate();

@@ -48,7 +48,7 @@ class FormMete : public QMainWindow {
 
   public:
     /// Opens the archive of a data folder; a `Failure` when that cannot be done.
-    FormMete(const QString& cartella, std::function<QDateTime()> adesso);
+    FormMete(const QString& cartella, std::function<QDateTime()> adesso, Stampanti stampanti);
     FormMete(const FormMete&) = delete;
     FormMete& operator=(const FormMete&) = delete;
     ~FormMete() override;
@@ -76,9 +76,9 @@ class FormMete : public QMainWindow {
 
   private:
     [[nodiscard]] Volti NuoviVolti(std::function<QDateTime()> adesso);
-    void Disponi();
-    QWidget* CreaAreaGriglia();
-    void CreaStampe(QGridLayout& area);
+    void Disponi(Stampanti stampanti);
+    QWidget* CreaAreaGriglia(Stampanti stampanti);
+    void CreaStampe(QGridLayout& area, Stampanti stampanti);
     void CreaGiornate();
     void CreaMappa();
     void CreaBenvenuto(QGridLayout& area);

@@ -20,10 +20,10 @@ namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-void FormMete::Disponi() {
+void FormMete::Disponi(Stampanti stampanti) {
     auto* centro = new QWidget;
     auto* layout = Spaziato(new QVBoxLayout(centro), Spazi::Riquadro);
-    areaGriglia_ = CreaAreaGriglia();
+    areaGriglia_ = CreaAreaGriglia(std::move(stampanti));
     avviso_->setObjectName(u"lblAvviso"_s);
     avviso_->setWordWrap(true);
     avviso_->hide();
@@ -52,7 +52,7 @@ void FormMete::Disponi() {
 }
 
 // The grid takes the room that is left; the lists lie over it, the entry frame beside it.
-QWidget* FormMete::CreaAreaGriglia() {
+QWidget* FormMete::CreaAreaGriglia(Stampanti stampanti) {
     auto* area = new QWidget;
     area->setObjectName(u"areaGriglia"_s);
     auto* layout = Spaziato(new QGridLayout(area), Spazi::Riga);
@@ -65,15 +65,16 @@ QWidget* FormMete::CreaAreaGriglia() {
     layout->addWidget(&guida_.Riquadro(), 1, 0, 1, 2);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 1);
-    CreaStampe(*layout);
+    CreaStampe(*layout, std::move(stampanti));
     CreaBenvenuto(*layout);
     return area;
 }
 
-void FormMete::CreaStampe(QGridLayout& area) {
-    const Ambiente ambiente{postazione_, interazione_, *avanzamento_, *this,
-                            [this](const auto& comando) { Esegui(comando); }};
-    stampante_ = new FrmSelStampa(azioni_);
+void FormMete::CreaStampe(QGridLayout& area, Stampanti stampanti) {
+    stampante_ = new FrmSelStampa(azioni_, stampanti);
+    const Ambiente ambiente{
+        postazione_,         interazione_, *avanzamento_, *this, [this](const auto& comando) { Esegui(comando); },
+        std::move(stampanti)};
     stampa_ = new ComandoStampa(ambiente, azioni_, *stampante_, area);
     stampaGuida_ = new ComandoStampaGuida(ambiente, azioni_, *stampante_, area);
     area.addWidget(stampante_, 0, 0, Qt::AlignCenter);

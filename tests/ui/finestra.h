@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -38,7 +39,12 @@ class FinestraTest : public testing::Test {
     /// Opens the window, on Saturday 5 June 2027 at that time.
     void Apri(QTime ora = {10, 52}) {
         form_.reset();
-        form_ = std::make_unique<FormMete>(cartella_.Path(), [ora] { return QDateTime({2027, 6, 5}, ora); });
+        form_ = std::make_unique<FormMete>(
+            cartella_.Path(),
+            [ora] {
+                return QDateTime({2027, 6, 5}, ora);
+            },
+            FinteStampanti());
         form_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form_.get()));
         form_->Comincia();
@@ -139,8 +145,18 @@ class FinestraTest : public testing::Test {
 
     CartellaDiProva cartella_;
     std::unique_ptr<FormMete> form_;
+    QStringList stampanti_;  ///< that there are now; the last one is the system's own choice
 
   private:
+    // What one of them prints is a PDF file of its name.
+    Stampanti FinteStampanti() {
+        return {[this] { return stampanti_; }, [this] { return stampanti_.value(stampanti_.size() - 1); },
+                [this](const QString& nome) {
+                    auto carta = std::make_unique<QPrinter>(QPrinter::HighResolution);
+                    carta->setOutputFileName(cartella_.Path() + u'/' + nome + u".pdf"_s);
+                    return carta;
+                }};
+    }
     void GuardaDialogo() {
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialogo == nullptr || !dialogo->isVisible() || dialogo->property("servito").toBool()) return;

@@ -27,7 +27,8 @@
 //   trigger NAME                      an entry of a menu
 //   beside NAME                       a click there, whether that can be used or not
 //   select NAME TEXT                  an entry of a drop-down list, reached with the arrow keys
-//   entry NAME TEXT                   a further entry, as if the list had been shown with it
+//   printers NAME...                  that there are from now on, the last one the system's own choice; what is printed
+//                                     on one is a PDF file of its name in the data folder
 //   drop NAME FILE                    as the desktop does it, which would like to move the file
 //   drop-rows NAME FIRST LAST ROW     rows of the itinerary, before another one
 //   resize W H · drag TABLE COL W     the window; a column by its edge
@@ -505,7 +506,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"select"_s, {2, [this](auto& p) { Scegli(p[0], p[1]); }}},
         {u"drop-rows"_s, {4, [this](auto& p) { LasciaRighe(p); }}},
         {u"drop"_s, {3, [this](auto& p) { Lascia(p[0], p[1], p[2]); }}},
-        {u"entry"_s, {2, [this](auto& p) { Usabile<QListWidget>(p[0]).addItem(p[1]); }}},
+        {u"printers"_s, {0, [this](auto& p) { (stampanti_ = p).removeAll(QString()); }}},
         {u"resize"_s, {2, [this](auto& p) { form_->resize(p[0].toInt(), p[1].toInt()); }}},
         {u"drag"_s, {3, [this](auto& p) { Trascina(p[0], p[1].toInt(), p[2].toInt()); }}},
         {u"expect"_s, {2, [this](auto& p) { Uguale(Dice(p[0]), p[1]); }}},

@@ -42,7 +42,7 @@ std::function<void(const Stampato&)> ChiediUscita(const Ambiente& ambiente, cons
                                                   const QString& titolo) {
     if (!suFile) {
         return [&ambiente, stampante](const Stampato& documento) {
-            StampaSuStampante(documento, stampante, ambiente.interazione, ambiente.avanzamento);
+            StampaSuStampante(documento, stampante, ambiente.stampanti, ambiente.interazione, ambiente.avanzamento);
         };
     }
     const QString path = ChiediFilePdf(ambiente.finestra, titolo);

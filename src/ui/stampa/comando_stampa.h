@@ -11,6 +11,7 @@
 #include "ui/comuni/schermo.h"
 #include "ui/stampa/frm_sel_stampa.h"
 #include "ui/stampa/frm_stampa.h"
+#include "ui/stampa/stampanti.h"
 
 class QGridLayout;
 
@@ -23,6 +24,7 @@ struct Ambiente {
     Progress& avanzamento;
     QWidget& finestra;
     Esegui esegui;
+    Stampanti stampanti;
 };
 
 /// How a printout leaves by the printer that is chosen, or into a file (`suFile`) that the person is asked for; null,

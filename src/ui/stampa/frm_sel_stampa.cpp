@@ -2,16 +2,18 @@
 #include "ui/stampa/frm_sel_stampa.h"
 
 #include <QHBoxLayout>
+#include <utility>
 
 #include "ui/comuni/spazi.h"
-#include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
 
-FrmSelStampa::FrmSelStampa(Azioni& azioni)
-    : RiquadroSovrapposto(u"frmSelStampa"_s, u"Stampante:"_s), lstStampanti_(new QListWidget) {
+FrmSelStampa::FrmSelStampa(Azioni& azioni, Stampanti stampanti)
+    : RiquadroSovrapposto(u"frmSelStampa"_s, u"Stampante:"_s),
+      stampanti_(std::move(stampanti)),
+      lstStampanti_(new QListWidget) {
     lstStampanti_->setObjectName(u"lstStampanti"_s);
     lstStampanti_->setAccessibleName(u"Stampanti"_s);
     lstStampanti_->setMinimumSize(260, 130);
@@ -29,8 +31,8 @@ FrmSelStampa::FrmSelStampa(Azioni& azioni)
 
 void FrmSelStampa::Prepara() {
     lstStampanti_->clear();
-    lstStampanti_->addItems(NomiStampanti());
-    const auto trovate = lstStampanti_->findItems(StampantePredefinita(), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    lstStampanti_->addItems(stampanti_.nomi());
+    const auto trovate = lstStampanti_->findItems(stampanti_.predefinita(), Qt::MatchExactly | Qt::MatchCaseSensitive);
     auto* filePdf = new QListWidgetItem(u"File PDF"_s, lstStampanti_);
     filePdf->setData(Qt::UserRole, true);
     lstStampanti_->setCurrentItem(trovate.value(0, lstStampanti_->item(0)));

@@ -6,6 +6,7 @@
 
 #include "ui/comuni/azioni.h"
 #include "ui/comuni/riquadro_sovrapposto.h"
+#include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 
@@ -14,7 +15,7 @@ class FrmSelStampa : public RiquadroSovrapposto {
 
   public:
     /// Has the buttons of its commands made.
-    explicit FrmSelStampa(Azioni& azioni);
+    FrmSelStampa(Azioni& azioni, Stampanti stampanti);
 
     /// Name of the current entry; empty without one.
     [[nodiscard]] QString Scelta() const;
@@ -27,6 +28,7 @@ class FrmSelStampa : public RiquadroSovrapposto {
     [[nodiscard]] QWidget& PrimoControllo() const override { return *lstStampanti_; }
 
   private:
+    Stampanti stampanti_;
     QListWidget* lstStampanti_;
 };
 

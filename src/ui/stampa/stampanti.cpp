@@ -56,9 +56,11 @@ QString NomeFile(QString titolo) { return titolo.remove(QRegularExpression(u"[\\
 
 }  // namespace
 
-QStringList NomiStampanti() { return QPrinterInfo::availablePrinterNames(); }
-
-QString StampantePredefinita() { return QPrinterInfo::defaultPrinterName(); }
+Stampanti StampantiDelSistema() {
+    return {&QPrinterInfo::availablePrinterNames, &QPrinterInfo::defaultPrinterName, [](const QString& nome) {
+                return std::make_unique<QPrinter>(QPrinterInfo::printerInfo(nome), QPrinter::HighResolution);
+            }};
+}
 
 QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
     const QDir documenti(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
@@ -76,19 +78,18 @@ void StampaSuFile(const Stampato& documento, const QString& path, Progress& prog
     file.Chiudi();
 }
 
-void StampaSuStampante(const Stampato& documento, const QString& stampante, Interaction& interaction,
-                       Progress& progress) {
-    const bool presente = NomiStampanti().contains(stampante);
-    const QString nome = presente ? stampante : QPrinterInfo::defaultPrinterName();
+void StampaSuStampante(const Stampato& documento, const QString& stampante, const Stampanti& stampanti,
+                       Interaction& interaction, Progress& progress) {
+    const bool presente = stampanti.nomi().contains(stampante);
+    const QString nome = presente ? stampante : stampanti.predefinita();
     const QString manca = u"La stampante «%1» non c'è più"_s.arg(stampante);
     if (nome.isEmpty()) throw Failure(manca + u": niente è stato stampato."_s);
     if (!presente) interaction.Show({manca + u": la stampa va su «%1»."_s.arg(nome), {}, Icon::Exclamation});
-    QPrinter carta(QPrinter::HighResolution);
-    carta.setPrinterName(nome);
-    carta.setDocName(documento.titolo);
-    carta.setCreator(u"Cronovia"_s);
-    Dipingi(documento, carta, progress);
-    if (carta.printerState() == QPrinter::Error) {
+    const std::unique_ptr<QPrinter> carta = stampanti.apri(nome);
+    carta->setDocName(documento.titolo);
+    carta->setCreator(u"Cronovia"_s);
+    Dipingi(documento, *carta, progress);
+    if (carta->printerState() == QPrinter::Error) {
         throw Failure(u"La stampa su «%1» non è riuscita."_s.arg(nome));
     }
 }
