@@ -23,8 +23,9 @@ struct DescrizioneComando {
     const char16_t* istruzione;   ///< tip, plain text
     Menu menu;
     Momenti quando;               ///< it can be used in these moments
-    void (*esegui)(Postazione&);  ///< does it; tells by itself what goes wrong
+    void (*esegui)(Postazione&);  ///< does it; tells by itself what goes wrong; null: the window shows or hides a part
     bool stacca = false;          ///< a line parts it from the one above in the menu
+    bool perRighe = false;        ///< its key is that of the rows alone, not of fields
 };
 
 /// In the order of `Comando`.

@@ -90,9 +90,9 @@ StatoComandi StatoDeiComandi(const Fatti& fatti, const Schermata& schermata) {
     } else if (stampa || std::holds_alternative<schermata::Cronovia>(schermata)) {
         stato.scritte[Comando::Calcola] = u"S&blocca"_s;
         stato.scritte[Comando::DuplicaRighe] = u"&Duplica il giorno"_s;
-        stato.scritte[Comando::TogliRighe] = u"To&glie il giorno\tCanc"_s;
-        stato.scritte[Comando::SpostaSu] = u"Sposta s&u il giorno\tAlt+Su"_s;
-        stato.scritte[Comando::SpostaGiu] = u"Sposta giù il giorno\tAlt+Giù"_s;
+        stato.scritte[Comando::TogliRighe] = u"To&glie il giorno"_s;
+        stato.scritte[Comando::SpostaSu] = u"Sposta s&u il giorno"_s;
+        stato.scritte[Comando::SpostaGiu] = u"Sposta giù il giorno"_s;
     }
     if (stampa) stato.scritte[Comando::Stampa] = u"Stampa"_s;  // its letter is that of the print frames
     if (const auto* scambio = std::get_if<schermata::Scambio>(&schermata)) {

@@ -91,6 +91,10 @@ enum class Comando {
     ScegliStampanteGuida,
     AnteprimaGuida,
     RinunciaStampaGuida,
+    // Vista
+    DatiDelViaggio,
+    Giornate,
+    Mappa,
     // Aiuto
     Manuale,
     Tasti,

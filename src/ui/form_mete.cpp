@@ -58,7 +58,7 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso, S
       postazione_(cartella, NuoviVolti(std::move(adesso))),
       cmbRicercaTappa_(new ElencoScelta(u"cmbRicercaTappa"_s, u"Località dell'itinerario"_s)),
       viaggio_(new SchermoViaggio(postazione_, azioni_, [this](const auto& comando) { Esegui(comando); })),
-      testata_(new TestataViaggio(*viaggio_)),
+      testata_(new TestataViaggio(postazione_, *viaggio_)),
       bottoni_(new FrmBottoni(azioni_)),
       griglia_(postazione_, [this](const auto& comando) { Esegui(comando); }),
       inserimento_(postazione_, azioni_, griglia_.Vista(), *cmbRicercaTappa_,
@@ -70,9 +70,9 @@ FormMete::FormMete(const QString& cartella, std::function<QDateTime()> adesso, S
     setObjectName(u"formMete"_s);
     Disponi(std::move(stampanti));
     CompletaMenu();
+    PreparaCalcoloDalVivo();
     Collega();
-    CreaGiornate();
-    CreaMappa();
+    CreaPannelli();
     RendiLeggibile();
     SegueAspetto();
     Mostra();
@@ -358,7 +358,7 @@ void FormMete::Mostra() {
     azioni_.Applica(postazione_.Comandi());
     viaggio_->Mostra(!postazione_.documento.Calcolata() && !postazione_.InCorsa() &&
                      !postazione_.Su<schermata::Scambio>() && !postazione_.StampaAperta() && !postazione_.SenzaMete());
-    testata_->Mostra(postazione_);
+    testata_->Mostra();
     if (!guida_.Mostra(kRigheMinimeGriglia)) griglia_.Mostra();
     copia_.Mostra();
     inserimento_.Mostra();
@@ -382,8 +382,7 @@ void FormMete::Mostra() {
 // What depends on the schedule that is computed while fields are typed into.
 void FormMete::MostraLeGiornate() {
     if (postazione_.attivita == Attivita::Nessuna) postazione_.documento.CalcolaDalVivo();
-    giornate_->Mostra(postazione_);
-    mappa_->Mostra(postazione_);
+    for (Pannello* pannello : pannelli_) pannello->Mostra(postazione_);
     griglia_.SegnaGiorni();
 }
 

@@ -20,12 +20,10 @@
 #include "ui/comuni/schermo.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/copia/schermo_copia.h"
-#include "ui/giornate/pannello_giornate.h"
 #include "ui/griglia/schermo_griglia.h"
 #include "ui/guida/comando_stampa_guida.h"
 #include "ui/guida/schermo_guida.h"
 #include "ui/inserimento/schermo_inserimento.h"
-#include "ui/mappa/pannello_mappa.h"
 #include "ui/scambio/schermo_scambio.h"
 #include "ui/stampa/comando_stampa.h"
 #include "ui/viaggio/frm_bottoni.h"
@@ -79,12 +77,12 @@ class FormMete : public QMainWindow {
     void Disponi(Stampanti stampanti);
     QWidget* CreaAreaGriglia(Stampanti stampanti);
     void CreaStampe(QGridLayout& area, Stampanti stampanti);
-    void CreaGiornate();
-    void CreaMappa();
+    void CreaPannelli();
     void CreaBenvenuto(QGridLayout& area);
     void ApriManuale(const QString& argomento);
     void ScegliPreferenze();
     void CompletaMenu();
+    void PreparaCalcoloDalVivo();
     void Collega();
     void Raccogli();
     void ConcludiIlCampo();
@@ -129,8 +127,6 @@ class FormMete : public QMainWindow {
     QString daAprire_;  // a file that was handed over in the middle of a command
     ComandoStampa* stampa_ = nullptr;
     ComandoStampaGuida* stampaGuida_ = nullptr;
-    PannelloGiornate* giornate_ = nullptr;
-    PannelloMappa* mappa_ = nullptr;
     Benvenuto* benvenuto_ = nullptr;
     FinestraManuale* manuale_ = nullptr;  // made when it is opened first
     QAction* dalVivo_ = new QAction(QStringLiteral("Calcolo &dal vivo"), this);

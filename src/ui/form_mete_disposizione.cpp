@@ -8,17 +8,50 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include "app/comandi_scambio.h"
 #include "ui/comuni/aiuti.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/spazi.h"
 #include "ui/form_mete.h"
+#include "ui/giornate/pannello_giornate.h"
 #include "ui/guida/frm_colonne.h"
+#include "ui/mappa/pannello_mappa.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The panels and the grid follow each other's current row.
+Pannello* NuoveGiornate(Postazione& postazione, Esegui esegui, SchermoGriglia& griglia) {
+    auto* giornate = new PannelloGiornate(postazione, std::move(esegui));
+    QObject::connect(&griglia, &SchermoGriglia::Corrente, giornate, &PannelloGiornate::Segue);
+    QObject::connect(giornate, &PannelloGiornate::RigaScelta, &griglia, &SchermoGriglia::VaiAllaRiga);
+    QObject::connect(giornate, &PannelloGiornate::GiornataScelta, &griglia, &SchermoGriglia::VaiAllaGiornata);
+    QObject::connect(giornate, &PannelloGiornate::RigheChieste, &griglia.Vista(), qOverload<>(&QWidget::setFocus));
+    return giornate;
+}
+
+Pannello* NuovaMappa(Postazione& postazione, Esegui esegui, SchermoGriglia& griglia) {
+    auto* mappa = new PannelloMappa(postazione, std::move(esegui));
+    QObject::connect(&griglia, &SchermoGriglia::TappaCorrente, mappa, &PannelloMappa::Segue);
+    QObject::connect(mappa, &PannelloMappa::RigaScelta, &griglia, &SchermoGriglia::VaiAllaTappa);
+    return mappa;
+}
+
+struct PannelloDellaFinestra {
+    Qt::DockWidgetArea lato;  // until the person puts it elsewhere
+    Pannello* (*crea)(Postazione&, Esegui, SchermoGriglia&);
+};
+
+constexpr std::array<PannelloDellaFinestra, 2> kPannelli = {
+    {{Qt::BottomDockWidgetArea, &NuoveGiornate}, {Qt::RightDockWidgetArea, &NuovaMappa}}};
+
+}  // namespace
 
 void FormMete::Disponi(Stampanti stampanti) {
     auto* centro = new QWidget;
@@ -118,15 +151,7 @@ void FormMete::CompletaMenu() {
     aiuto.insertSeparator(informazioni);
 }
 
-// Grid and panel follow each other's current row.
-void FormMete::CreaGiornate() {
-    giornate_ = new PannelloGiornate(postazione_, [this](const auto& comando) { Esegui(comando); });
-    giornate_->hide();
-    AggiungiPannello(*giornate_, Qt::BottomDockWidgetArea);
-    connect(&griglia_, &SchermoGriglia::Corrente, giornate_, &PannelloGiornate::Segue);
-    connect(giornate_, &PannelloGiornate::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaRiga);
-    connect(giornate_, &PannelloGiornate::GiornataScelta, &griglia_, &SchermoGriglia::VaiAllaGiornata);
-    connect(giornate_, &PannelloGiornate::RigheChieste, &griglia_.Vista(), qOverload<>(&QWidget::setFocus));
+void FormMete::PreparaCalcoloDalVivo() {
     dalVivo_->setObjectName(u"calcoloDalVivo"_s);
     dalVivo_->setCheckable(true);
     azioni_.MenuDi(Menu::Cronovia).addAction(dalVivo_);
@@ -138,16 +163,17 @@ void FormMete::CreaGiornate() {
     connect(&attesaDalVivo_, &QTimer::timeout, this, [this] {
         if (!inCorso_) MostraLeGiornate();
     });
-    connect(giornate_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
 }
 
-void FormMete::CreaMappa() {
-    mappa_ = new PannelloMappa(postazione_, [this](const auto& comando) { Esegui(comando); });
-    mappa_->hide();
-    AggiungiPannello(*mappa_, Qt::RightDockWidgetArea);
-    connect(&griglia_, &SchermoGriglia::TappaCorrente, mappa_, &PannelloMappa::Segue);
-    connect(mappa_, &PannelloMappa::RigaScelta, &griglia_, &SchermoGriglia::VaiAllaTappa);
-    connect(mappa_, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
+// One that comes up is told where the grid is.
+void FormMete::CreaPannelli() {
+    for (const auto& [lato, crea] : kPannelli) {
+        Pannello* pannello = crea(
+            postazione_, [this](const auto& comando) { Esegui(comando); }, griglia_);
+        pannello->hide();
+        AggiungiPannello(*pannello, lato);
+        connect(pannello, &QDockWidget::visibilityChanged, &griglia_, &SchermoGriglia::DiceLaCorrente);
+    }
 }
 
 void FormMete::AggiungiPannello(Pannello& pannello, Qt::DockWidgetArea lato) {
@@ -178,9 +204,7 @@ void FormMete::SegueAspetto() {
     aspetto_.Segue(
         u"datiDelViaggio"_s, [this] { return testata_->Azione().isChecked(); },
         [this](const QVariant& aperti) { testata_->Azione().setChecked(aperti.isNull() || aperti.toBool()); });
-    aspetto_.Segue(
-        u"altezzaGiornate"_s, [this] { return giornate_->Altezza(); },
-        [this](const QVariant& altezza) { giornate_->RicordaAltezza(altezza.toInt()); });
+    for (Pannello* pannello : pannelli_) pannello->SiRicorda(aspetto_);
     aspetto_.Segue(
         u"mappaSuCarta"_s, [this] { return stampa_->ConMappa(); },
         [this](const QVariant& voluta) { stampa_->ConMappa(voluta.toBool()); });

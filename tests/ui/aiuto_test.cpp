@@ -28,7 +28,9 @@ TEST(Manuale, HasAChapterForEachScreenAndAllItsPictures) {
         EXPECT_EQ(testo.textCursor().block().text(), argomento);
         EXPECT_EQ(manuale.findChild<QListWidget*>()->currentItem()->text(), argomento);
     }
-    EXPECT_TRUE(testo.toPlainText().contains(u"Calcola la cronovia del viaggio"_s)) << "the keys";
+    for (const QString& tasto : {u"Calcola la cronovia del viaggio"_s, u"Alt+Up"_s, u"F8"_s, u"Ctrl+M"_s}) {
+        EXPECT_TRUE(testo.toPlainText().contains(tasto)) << tasto.toStdString();
+    }
     int immagini = 0;
     for (QTextBlock blocco = testo.document()->begin(); blocco.isValid(); blocco = blocco.next()) {
         for (auto pezzo = blocco.begin(); !pezzo.atEnd(); ++pezzo) {

@@ -76,6 +76,7 @@
 #include "exchange/scambio.h"
 #include "support/parole.h"
 #include "ui/finestra.h"
+#include "ui/giornate/vista_giornate.h"
 
 namespace cronovia {
 namespace {

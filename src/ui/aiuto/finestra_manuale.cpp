@@ -13,6 +13,7 @@
 
 #include "app/comandi.h"
 #include "app/comandi_aiuto.h"
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 
@@ -26,17 +27,14 @@ constexpr int kLarghezzaTesto = 760;
 
 // As a menu names it, with neither letters to press nor the sign of a dialog.
 QString NomeDelComando(const DescrizioneComando& comando) {
-    QString nome = VoceDiMenu(comando.comando, {}).section(u'\t', 0, 0);
-    return nome.remove(u'&').remove(u'…');
+    return VoceDiMenu(comando.comando, {}).remove(u'&').remove(u'…');
 }
 
 // The keys, as a table of Markdown.
 QString TabellaTasti() {
     QString tabella = u"\n\n| Tasto | Comando | Che cosa fa |\n| --- | --- | --- |\n"_s;
     for (const DescrizioneComando& comando : TabellaComandi()) {
-        const QKeySequence tasto(QString::fromUtf16(comando.scorciatoia), QKeySequence::PortableText);
-        const QString scritto = tasto.isEmpty() ? VoceDiMenu(comando.comando, {}).section(u'\t', 1)
-                                                : tasto.toString(QKeySequence::NativeText);
+        const QString scritto = TastoDi(comando.comando).toString(QKeySequence::NativeText);
         if (scritto.isEmpty()) continue;
         tabella +=
             u"| **%1** | %2 | %3 |\n"_s.arg(scritto, NomeDelComando(comando), QString::fromUtf16(comando.istruzione));

@@ -26,21 +26,34 @@ QString NomeAzione(const char16_t* nomePulsante) {
 
 }  // namespace
 
+QKeySequence TastoDi(Comando comando) {
+    return QKeySequence::fromString(QString::fromUtf16(Descrizione(comando).scorciatoia), QKeySequence::PortableText);
+}
+
+void Presenta(QAction& azione, Comando comando) {
+    const DescrizioneComando& d = Descrizione(comando);
+    azione.setObjectName(NomeAzione(d.nome));
+    azione.setText(VoceDiMenu(comando, {}));
+    azione.setToolTip(TestoPiano(QString::fromUtf16(d.istruzione)));
+    azione.setShortcut(TastoDi(comando));
+    azione.setShortcutContext(d.perRighe ? Qt::WidgetShortcut : Qt::WindowShortcut);
+}
+
 Azioni::Azioni(QMainWindow& finestra) : QObject(&finestra) {
     for (std::size_t i = 0; i < kMenu; ++i) {
         menu_[i] = finestra.menuBar()->addMenu(QString::fromUtf16(kTitoli[i]));
         menu_[i]->setObjectName(u"menu"_s + menu_[i]->title());
         menu_[i]->setToolTipsVisible(true);
     }
-    for (const DescrizioneComando& comando : TabellaComandi()) CreaAzione(comando);
+    for (const DescrizioneComando& comando : TabellaComandi()) {
+        if (comando.esegui != nullptr) CreaAzione(comando);
+    }
     Applica({});
 }
 
 void Azioni::CreaAzione(const DescrizioneComando& comando) {
     auto* azione = new QAction(this);
-    azione->setObjectName(NomeAzione(comando.nome));
-    azione->setToolTip(TestoPiano(QString::fromUtf16(comando.istruzione)));
-    azione->setShortcut(QKeySequence::fromString(QString::fromUtf16(comando.scorciatoia), QKeySequence::PortableText));
+    Presenta(*azione, comando.comando);
     azione->setMenuRole(QAction::NoRole);
     azione->setIcon(IconaDelComando(comando.comando, PostoIcona::Menu));
     connect(azione, &QAction::triggered, this, [this, quale = comando.comando] { Q_EMIT Chiesto(quale); });
@@ -58,6 +71,7 @@ QPushButton* Azioni::NuovoPulsante(Comando comando) {
 
 void Azioni::Applica(const StatoComandi& stato) {
     for (const DescrizioneComando& d : TabellaComandi()) {
+        if (d.esegui == nullptr) continue;
         const bool abilitato = stato.Abilitato(d.comando);
         Di(d.comando).setEnabled(abilitato);
         Di(d.comando).setText(VoceDiMenu(d.comando, stato));

@@ -13,11 +13,17 @@ class QMainWindow;
 
 namespace cronovia {
 
+/// The key of a command, wherever it holds; empty when it has none.
+[[nodiscard]] QKeySequence TastoDi(Comando comando);
+/// Gives an action the words and the key of a command.
+void Presenta(QAction& azione, Comando comando);
+
 class Azioni : public QObject {
     Q_OBJECT
 
   public:
-    /// Fills the menu bar of the window with all commands of the table. They are disabled until `Applica`.
+    /// Fills the menu bar of the window with all commands of the table that have a procedure. They are disabled until
+    /// `Applica`.
     explicit Azioni(QMainWindow& finestra);
 
     /// A button that does the command; whoever asks for it places it. One for each command.
@@ -25,8 +31,9 @@ class Azioni : public QObject {
     /// That button; the command must have one.
     [[nodiscard]] QPushButton& Pulsante(Comando comando) const { return *pulsanti_[static_cast<std::size_t>(comando)]; }
     /// Its action; each command has one.
+    /// The action of a command that has a procedure.
     [[nodiscard]] QAction& Di(Comando comando) const { return *azioni_[static_cast<std::size_t>(comando)]; }
-    /// For what is no command of the table: panels shown and hidden, instructions.
+    /// For what has an action of its own: panels shown and hidden, instructions.
     [[nodiscard]] QMenu& MenuDi(Menu menu) const { return *menu_[static_cast<std::size_t>(menu)]; }
 
     /// Enabled and captions as they are at this moment.

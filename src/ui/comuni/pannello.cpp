@@ -4,11 +4,14 @@
 #include <QAbstractButton>
 #include <QEvent>
 
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/icone.h"
 
 namespace cronovia {
 
 using namespace Qt::StringLiterals;
+
+Pannello::Pannello(Comando comando) : QDockWidget(Scritta(comando, {})) { Presenta(*toggleViewAction(), comando); }
 
 // Those of the style are black in every theme, and are put back when that changes.
 void Pannello::SegniVisibili() {

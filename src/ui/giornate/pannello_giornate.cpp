@@ -9,6 +9,8 @@
 #include <utility>
 
 #include "app/comandi_righe.h"
+#include "ui/aspetto_finestra.h"
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
 #include "ui/giornate/striscia_giornata.h"
@@ -57,13 +59,12 @@ QString PercheVuoto(const Documento& documento) {
 }  // namespace
 
 PannelloGiornate::PannelloGiornate(Postazione& postazione, Esegui esegui)
-    : Pannello(u"Giornate"_s),
+    : Pannello(Comando::Giornate),
       postazione_(postazione),
       esegui_(std::move(esegui)),
       vista_(new VistaGiornate(modello_)),
       avviso_(NuovaScritta()) {
     setObjectName(u"pannelloGiornate"_s);
-    toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     auto* contenuto = new QWidget;
     auto* layout = Spaziato(new QVBoxLayout(contenuto), Spazi::Riquadro);
     avviso_->setObjectName(u"lblGiornate"_s);
@@ -98,12 +99,12 @@ void PannelloGiornate::CreaAzioni() {
     fine_->setCheckable(true);
     connect(vista_, &VistaGiornate::MenuChiesto, this, &PannelloGiornate::MostraFine);
     MostraFine();
-    NuovaAzione(u"giornoSu"_s, u"Sposta s&u"_s, Qt::ALT | Qt::Key_Up,
+    NuovaAzione(u"giornoSu"_s, u"Sposta s&u"_s, TastoDi(Comando::SpostaSu),
                 [](Postazione& p, int giornata) { comandi::SpostaGiornata(p, giornata, -1); });
-    NuovaAzione(u"giornoGiu"_s, u"Sposta &giù"_s, Qt::ALT | Qt::Key_Down,
+    NuovaAzione(u"giornoGiu"_s, u"Sposta &giù"_s, TastoDi(Comando::SpostaGiu),
                 [](Postazione& p, int giornata) { comandi::SpostaGiornata(p, giornata, 1); });
     NuovaAzione(u"duplicaGiorno"_s, u"&Duplica le sue tappe"_s, {}, &comandi::DuplicaGiornata);
-    NuovaAzione(u"togliGiorno"_s, u"&Togli le sue tappe"_s, Qt::Key_Delete, &comandi::TogliGiornata);
+    NuovaAzione(u"togliGiorno"_s, u"&Togli le sue tappe"_s, TastoDi(Comando::TogliRighe), &comandi::TogliGiornata);
 }
 
 QAction* PannelloGiornate::NuovaAzione(const QString& nome, const QString& testo, const QKeySequence& tasto,
@@ -181,6 +182,12 @@ void PannelloGiornate::resizeEvent(QResizeEvent* event) {
     Pannello::resizeEvent(event);
     if (pieno_ == true && isVisible() && SopraOSotto()) altezza_ = height();
     if (pieno_ == false && event->oldSize().width() != width()) LimitaAltezza();
+}
+
+void PannelloGiornate::SiRicorda(AspettoFinestra& aspetto) {
+    aspetto.Segue(
+        u"altezzaGiornate"_s, [this] { return altezza_; },
+        [this](const QVariant& altezza) { altezza_ = altezza.toInt(); });
 }
 
 void PannelloGiornate::Segue(int giornata, int riga) {

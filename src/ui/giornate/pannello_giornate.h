@@ -21,9 +21,8 @@ class PannelloGiornate : public Pannello {
     void Mostra(const Postazione& postazione) override;
     /// Follows the row of the schedule that is current elsewhere, or the day without a row.
     void Segue(int giornata, int riga);
-    /// How high it is while it has days to show, 0 until it had any; that of an earlier window.
-    [[nodiscard]] int Altezza() const { return altezza_; }
-    void RicordaAltezza(int altezza) { altezza_ = altezza; }
+    /// How high it is while it has days to show.
+    void SiRicorda(AspettoFinestra& aspetto) override;
 
   Q_SIGNALS:
     /// The person wants to see a row of the schedule; a day. Both count from 0.
@@ -56,7 +55,7 @@ class PannelloGiornate : public Pannello {
     QAction* fine_ = nullptr;
     int mostrata_ = -1;          // the version of the schedule
     std::optional<bool> pieno_;  // there are days
-    int altezza_ = 0;
+    int altezza_ = 0;            // 0 until it had any
 };
 
 }  // namespace cronovia

@@ -27,10 +27,6 @@ void SchermoGriglia::Collega() {
     });
     connect(vista_, &VistaGriglia::SceltaFino, this,
             [this](int riga) { esegui_([&] { comandi::SceglieFino(postazione_, riga + 1); }); });
-    connect(vista_, &VistaGriglia::Sposta, this, [this](int passo) {
-        Cambia([this, passo] { passo < 0 ? comandi::SpostaSu(postazione_) : comandi::SpostaGiu(postazione_); });
-    });
-    connect(vista_, &VistaGriglia::Togli, this, [this] { Cambia([this] { comandi::TogliScelte(postazione_); }); });
     connect(vista_, &VistaGriglia::Piega, this, &SchermoGriglia::Piega);
     auto* trascina = new Trascinamento(*vista_, [this](const QPoint& punto) { return Presa(punto); });
     connect(trascina, &Trascinamento::Lasciata, this, &SchermoGriglia::Lasciata);
@@ -91,7 +87,7 @@ void SchermoGriglia::Lasciata(const Trascinata& trascinata, int prima) {
 void SchermoGriglia::Mostra() {
     const Documento& documento = postazione_.documento;
     const auto& cronovia = documento.Calcolata();
-    vista_->MostraTappe(modello_);
+    vista_->Mostra(cronovia ? VistaGriglia::Righe::Cronovia : VistaGriglia::Righe::Tappe, modello_);
     if (cronovia && mostrata_ != documento.VersioneCronovia()) {
         const bool prima = modello_.Mostrate().Numero() == 0;
         const int riga = prima ? 0 : vista_->currentIndex().row();
@@ -107,7 +103,6 @@ void SchermoGriglia::Mostra() {
     }
     if (!cronovia) mostrata_.reset();
     vista_->NascondiColonna(static_cast<int>(Colonna::Guida), cronovia.has_value());
-    vista_->ImpostaSelezione(!cronovia);
     if (!cronovia) {
         const Tratto scelte = comandi::RigheScelte(postazione_);
         vista_->SelezionaRighe(scelte.da - 1, scelte.a - 1, documento.RigaCorrente() - 1);

@@ -134,17 +134,12 @@ bool VistaGriglia::PiegaConTasto(const QKeyEvent& event) {
     }
 }
 
-// What is selected moves with Alt and the arrows. A day goes by its line alone, not by one of its rows.
-bool VistaGriglia::CambiaConTasto(const QKeyEvent& event) {
-    if (diGuida_) return false;
-    const bool freccia = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
-    if (freccia && event.modifiers() == Qt::AltModifier) {
-        Q_EMIT Sposta(event.key() == Qt::Key_Up ? -1 : 1);
-        return true;
-    }
-    if (event.key() != Qt::Key_Delete || event.modifiers() != Qt::NoModifier) return false;
-    if (!diTappe_ && !currentIndex().data(kRuoloLinea).toBool()) return false;
-    Q_EMIT Togli();
+// A day goes by its line alone, not by one of its rows: there the key is no command's.
+bool VistaGriglia::event(QEvent* event) {
+    const bool canc =
+        event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete;
+    if (!canc || !ConGiornate() || currentIndex().data(kRuoloLinea).toBool()) return QTableView::event(event);
+    event->accept();
     return true;
 }
 
@@ -152,7 +147,8 @@ bool VistaGriglia::CambiaConTasto(const QKeyEvent& event) {
 void VistaGriglia::mousePressEvent(QMouseEvent* event) {
     attesa_ = nullptr;
     const QModelIndex index = indexAt(event->pos());
-    if (diTappe_ && index.isValid() && event->button() == Qt::LeftButton && event->modifiers() == Qt::ShiftModifier) {
+    if (righe_ == Righe::Tappe && index.isValid() && event->button() == Qt::LeftButton &&
+        event->modifiers() == Qt::ShiftModifier) {
         Q_EMIT SceltaFino(index.row());
         return;
     }
@@ -186,7 +182,8 @@ void VistaGriglia::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void VistaGriglia::keyPressEvent(QKeyEvent* event) {
-    if (PiegaConTasto(*event) || CambiaConTasto(*event)) return event->accept();
+    if (PiegaConTasto(*event)) return event->accept();
+    if (event->modifiers() == Qt::AltModifier) return event->ignore();  // of commands
     int passo = 0;
     switch (event->key()) {
         case Qt::Key_Up:
@@ -210,11 +207,11 @@ void VistaGriglia::keyPressEvent(QKeyEvent* event) {
         default:
             break;
     }
-    if (std::abs(passo) == kTutteLeRighe && !diTappe_ && model() != nullptr) {
+    if (std::abs(passo) == kTutteLeRighe && righe_ != Righe::Tappe) {
         setCurrentIndex(model()->index(passo < 0 ? 0 : model()->rowCount() - 1, 0));
         return;
     }
-    if (passo == 0 || !diTappe_) {
+    if (passo == 0 || righe_ != Righe::Tappe) {
         QTableView::keyPressEvent(event);
         return;
     }
@@ -238,7 +235,7 @@ void VistaGriglia::AdattaLarghezze() {
     QFont grassetto = font();
     grassetto.setBold(true);
     const QFontMetrics misure(grassetto);
-    const std::span<const Larghezza> colonne = diGuida_ ? std::span<const Larghezza>(kGuida) : kTappe;
+    const std::span<const Larghezza> colonne = righe_ == Righe::Guida ? std::span<const Larghezza>(kGuida) : kTappe;
     int totale = 0;
     int resto = viewport()->width();
     int piuLarga = -1;
@@ -291,18 +288,11 @@ void VistaGriglia::Scambia(QAbstractItemModel& modello) {
     delete selezione;
 }
 
-void VistaGriglia::MostraGuida(QAbstractItemModel& guida) {
-    diGuida_ = true;
-    diTappe_ = false;
-    proprie_[1].clear();
-    Scambia(guida);
-    AdattaLarghezze();
-}
-
-void VistaGriglia::MostraTappe(QAbstractItemModel& tappe) {
-    if (!diGuida_) return;
-    diGuida_ = false;
-    Scambia(tappe);
+void VistaGriglia::Mostra(Righe righe, QAbstractItemModel& modello) {
+    righe_ = righe;
+    if (model() == &modello) return;
+    if (righe == Righe::Guida) proprie_[1].clear();
+    Scambia(modello);
     AdattaLarghezze();
 }
 

@@ -14,18 +14,17 @@ class VistaGriglia : public QTableView {
     Q_OBJECT
 
   public:
+    /// What its rows are. Of stages the arrow and page keys move the current one; else they move through the rows.
+    enum class Righe { Tappe, Cronovia, Guida };
+
     explicit VistaGriglia(QWidget* parent = nullptr);
 
-    /// While stages are entered the arrow and page keys move the current stage; else they move through the rows.
-    void ImpostaSelezione(bool diTappe) { diTappe_ = diTappe; }
+    /// Shows the rows of a model, those of the guide with columns of their own.
+    void Mostra(Righe righe, QAbstractItemModel& modello);
     /// Selects a row, counted from 0, and scrolls to it; a row that is not there changes nothing.
     void SelezionaRiga(int riga);
     /// Selects rows from the first to the last of them, one of which becomes the current one.
     void SelezionaRighe(int prima, int ultima, int corrente);
-
-    /// Shows the guide, with columns of its own; shows stages and schedules again.
-    void MostraGuida(QAbstractItemModel& guida);
-    void MostraTappe(QAbstractItemModel& tappe);
 
     /// Does something when the mouse has let the row go, at once when it holds none: a box that comes up while it is
     /// held would have the row selected again afterwards.
@@ -45,15 +44,13 @@ class VistaGriglia : public QTableView {
     void Spostamento(int righe);
     void Estensione(int righe);
     void SceltaFino(int riga);
-    /// The rows that are selected, or the current day, are to go one place up or down; to be taken away.
-    void Sposta(int passo);
-    void Togli();
     /// Another row became the current one; not while the rows are shown anew.
     void RigaCorrente(int riga);
     /// The line of a day, or a row below it, is to be closed or opened; nothing: the other of the two.
     void Piega(int riga, std::optional<bool> chiusa);
 
   protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -64,19 +61,17 @@ class VistaGriglia : public QTableView {
   private:
     using LarghezzeScelte = std::map<int, int>;  // by column
 
-    [[nodiscard]] bool ConGiornate() const { return !diTappe_ && !diGuida_ && model() != nullptr; }
+    [[nodiscard]] bool ConGiornate() const { return righe_ == Righe::Cronovia; }
     bool PiegaConTasto(const QKeyEvent& event);
-    bool CambiaConTasto(const QKeyEvent& event);
     void AdattaLarghezze();
     void AzzeraLarghezze();
-    [[nodiscard]] LarghezzeScelte& Proprie() { return proprie_[diGuida_ ? 1 : 0]; }
+    [[nodiscard]] LarghezzeScelte& Proprie() { return proprie_[righe_ == Righe::Guida ? 1 : 0]; }
     void Scambia(QAbstractItemModel& modello);
     void FaLAttesa();
 
-    bool diTappe_ = false;
+    Righe righe_ = Righe::Tappe;
     bool inAdattamento_ = false;
     bool inSelezione_ = false;
-    bool diGuida_ = false;
     bool mouseTiene_ = false;
     std::function<void()> attesa_;            // until it has let the row go
     std::array<LarghezzeScelte, 2> proprie_;  // that the person chose, of stages and of the guide

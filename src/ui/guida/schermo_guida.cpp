@@ -104,7 +104,7 @@ bool SchermoGuida::Mostra(int righeMinime) {
     const int cima = griglia_.verticalScrollBar()->value();
     const bool prima = griglia_.model() != &modello_;
     if (modello_.Mostra(tavolo->Elenco(), righeMinime) && !prima) griglia_.verticalScrollBar()->setValue(cima);
-    if (prima) griglia_.MostraGuida(modello_);
+    if (prima) griglia_.Mostra(VistaGriglia::Righe::Guida, modello_);
     griglia_.SelezionaRiga(tavolo->RigaCorrente() - 1);
     // What is being typed stays, unless another row has come.
     const bool nuovo = !mostrato_ || mostrato_->riga != tavolo->RigaCorrente() ||

@@ -35,14 +35,13 @@ QString Mancanti(std::span<const Tappa> tappe, std::span<const PosizioneTappa> p
 
 }  // namespace
 
-PannelloMappa::PannelloMappa(Postazione& postazione, Esegui esegui, QWidget* parent)
-    : Pannello(u"Mappa"_s, parent),
+PannelloMappa::PannelloMappa(Postazione& postazione, Esegui esegui)
+    : Pannello(Comando::Mappa),
       postazione_(postazione),
       esegui_(std::move(esegui)),
       vista_(new VistaMappa),
       avviso_(NuovaScritta()) {
     setObjectName(u"pannelloMappa"_s);
-    toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
     auto* contenuto = new QWidget;
     auto* layout = Spaziato(new QVBoxLayout(contenuto), Spazi::Riquadro);
     avviso_->setObjectName(u"lblMappa"_s);

@@ -15,7 +15,7 @@ class PannelloMappa : public Pannello {
     Q_OBJECT
 
   public:
-    PannelloMappa(Postazione& postazione, Esegui esegui, QWidget* parent = nullptr);
+    PannelloMappa(Postazione& postazione, Esegui esegui);
 
     void Mostra(const Postazione& postazione) override;
     /// Follows the row of the itinerary that is current elsewhere, from 1, and its day, from 0 or -1.

@@ -6,6 +6,7 @@
 
 #include "calendar/testo.h"
 #include "schedule/testi_ore.h"
+#include "ui/comuni/azioni.h"
 #include "ui/comuni/colori.h"
 #include "ui/comuni/spazi.h"
 #include "ui/comuni/testo_mostrato.h"
@@ -61,23 +62,24 @@ QString InBreve(const Documento& documento) {
 
 }  // namespace
 
-TestataViaggio::TestataViaggio(QWidget& campi)
-    : campi_(campi),
-      azione_(new QAction(u"Dati del viaggio"_s, this)),
+TestataViaggio::TestataViaggio(const Postazione& postazione, QWidget& campi)
+    : postazione_(postazione),
+      campi_(campi),
+      azione_(new QAction(this)),
       maniglia_(new QToolButton),
       riassunto_(new ScrittaStretta),
       scadenza_(new ScrittaStretta) {
     setObjectName(u"testataViaggio"_s);
-    azione_->setObjectName(u"datiDelViaggio"_s);
+    Presenta(*azione_, Comando::DatiDelViaggio);
     azione_->setCheckable(true);
     azione_->setChecked(true);
-    azione_->setShortcut(Qt::Key_F8);
     maniglia_->setObjectName(u"maniglia"_s);
     maniglia_->setText(azione_->text());
     maniglia_->setAutoRaise(true);
     maniglia_->setFocusPolicy(Qt::NoFocus);
     maniglia_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    MostraIstruzione(*maniglia_, u"Piega o riapre i dati del viaggio, per dare posto a itinerario e cronovia (F8)"_s);
+    MostraIstruzione(*maniglia_, u"%1 (%2)"_s.arg(QString::fromUtf16(Descrizione(Comando::DatiDelViaggio).istruzione),
+                                                  azione_->shortcut().toString(QKeySequence::NativeText)));
     riassunto_->setObjectName(u"lblRiassunto"_s);
     scadenza_->setObjectName(u"lblRiassuntoScadenza"_s);
     QFont grassetto = riassunto_->font();
@@ -92,25 +94,32 @@ TestataViaggio::TestataViaggio(QWidget& campi)
     maniglia_->setFixedHeight(maniglia_->fontMetrics().height() + kSpazio);
     connect(maniglia_, &QToolButton::clicked, azione_, &QAction::toggle);
     connect(azione_, &QAction::toggled, this, &TestataViaggio::Disponi);
-    Disponi(true);
+    Disponi();
 }
 
-void TestataViaggio::Disponi(bool aperta) {
-    const bool inVista = nuova_ || (aperta && !altrove_);
+bool TestataViaggio::Nuova() const {
+    const auto* viaggio = postazione_.Su<schermata::Viaggio>();
+    return viaggio != nullptr && viaggio->fase == schermata::Viaggio::Fase::Nuova;
+}
+
+bool TestataViaggio::Altrove() const {
+    return postazione_.SenzaMete() || postazione_.Su<schermata::Scambio>() != nullptr;
+}
+
+void TestataViaggio::Disponi() {
+    const bool altrove = Altrove();
+    const bool inVista = Nuova() || (azione_->isChecked() && !altrove);
     campi_.setVisible(inVista);
     maniglia_->setArrowType(inVista ? Qt::DownArrow : Qt::RightArrow);
-    riassunto_->setVisible(!inVista && !altrove_);
-    scadenza_->setVisible(!inVista && !altrove_ && !scadenza_->text().isEmpty());
+    riassunto_->setVisible(!inVista && !altrove);
+    scadenza_->setVisible(!inVista && !altrove && !scadenza_->text().isEmpty());
 }
 
-void TestataViaggio::Mostra(const Postazione& postazione) {
-    const auto* viaggio = postazione.Su<schermata::Viaggio>();
-    nuova_ = viaggio != nullptr && viaggio->fase == schermata::Viaggio::Fase::Nuova;
-    altrove_ = postazione.SenzaMete() || postazione.Su<schermata::Scambio>() != nullptr;
-    azione_->setEnabled(!nuova_ && !altrove_);
+void TestataViaggio::Mostra() {
+    azione_->setEnabled(!Nuova() && !Altrove());
     maniglia_->setEnabled(azione_->isEnabled());
-    maniglia_->setVisible(!altrove_);
-    const Documento& documento = postazione.documento;
+    maniglia_->setVisible(!Altrove());
+    const Documento& documento = postazione_.documento;
     riassunto_->Mostra(InBreve(documento));
     const auto& cronovia = documento.Calcolata();
     const bool entro = cronovia && cronovia->scadenza;
@@ -120,7 +129,7 @@ void TestataViaggio::Mostra(const Postazione& postazione) {
         colori.setColor(QPalette::WindowText, ColoreRitardo(colori, QPalette::Window, QPalette::WindowText));
     }
     scadenza_->setPalette(colori);
-    Disponi(azione_->isChecked());
+    Disponi();
 }
 
 }  // namespace cronovia

@@ -17,25 +17,28 @@ class TestataViaggio : public QWidget {
 
   public:
     /// Of these fields, which stand below it.
-    explicit TestataViaggio(QWidget& campi);
+    TestataViaggio(const Postazione& postazione, QWidget& campi);
 
     /// Folds and unfolds, for menu and key: checked while the fields are unfolded.
     [[nodiscard]] QAction& Azione() const { return *azione_; }
     /// Where no fields are needed they are away, and there for a new trip, whatever the person chose.
-    void Mostra(const Postazione& postazione);
+    void Mostra();
     /// The person has to see the fields.
     void Apri() { azione_->setChecked(true); }
 
   private:
-    void Disponi(bool aperta);
+    /// A new trip is being typed.
+    [[nodiscard]] bool Nuova() const;
+    /// The screen in front is not about one trip.
+    [[nodiscard]] bool Altrove() const;
+    void Disponi();
 
+    const Postazione& postazione_;
     QWidget& campi_;
     QAction* azione_;
     QToolButton* maniglia_;
     ScrittaStretta* riassunto_;
     ScrittaStretta* scadenza_;
-    bool nuova_ = false;    // a new trip is being typed
-    bool altrove_ = false;  // the screen in front is not about one trip
 };
 
 }  // namespace cronovia
