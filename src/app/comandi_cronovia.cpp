@@ -106,13 +106,13 @@ void RicalcolaSulPosto(Postazione& p) {
 
 void Confronta(Postazione& p) {
     if (SenzaMeta(p)) return;
-    std::vector<Alternativa> alternative;
-    if (!p.Prova([&] { alternative = p.documento.Confronta(p.volti.avanzamento); })) return;
-    const std::optional<std::size_t> scelta = p.volti.scegliAlternativa(alternative);
+    std::optional<std::vector<Alternativa>> alternative;
+    if (!p.MentreCorre([&] { alternative = p.documento.Confronta(p.volti.avanzamento); }) || !alternative) return;
+    const std::optional<std::size_t> scelta = p.volti.scegliAlternativa(*alternative);
     if (!scelta) return;
     Meta meta = p.documento.Campi();
-    meta.giorniAdeguamento = alternative.at(*scelta).voluti;
-    meta.parametri.calcoloSoste = alternative.at(*scelta).soste;
+    meta.giorniAdeguamento = alternative->at(*scelta).voluti;
+    meta.parametri.calcoloSoste = alternative->at(*scelta).soste;
     p.documento.ImpostaCampi(meta);
     if (p.Su<schermata::Cronovia>()) return RicalcolaSulPosto(p);
     Esegui(p);

@@ -269,7 +269,7 @@ Meta Documento::ConOrarioCorretto() const {
     return corretti;
 }
 
-std::vector<Alternativa> Documento::Confronta(Progress& progress) {
+std::optional<std::vector<Alternativa>> Documento::Confronta(Progress& progress) {
     return Alternative(ConOrarioCorretto(), righe_, Guida(), progress);
 }
 

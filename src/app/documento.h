@@ -110,8 +110,8 @@ class Documento {
     /// Types the stops of such a proposal into the itinerary, where they alone count then and no days are wanted: one
     /// step that can be taken back.
     void Adotta(const PropostaGiorni& proposta);
-    /// What the trip would come to with other stops or days. Throws `Stopped`.
-    std::vector<Alternativa> Confronta(Progress& progress);
+    /// What the trip would come to with other stops or days; nothing when it was stopped.
+    std::optional<std::vector<Alternativa>> Confronta(Progress& progress);
     /// Computes the last schedule anew when it is not true any more, without putting it in front.
     void CalcolaDalVivo();
     /// Why that could not be done; empty when it could, or was not tried since the last change.

@@ -41,19 +41,19 @@ void ScriviAlternativa(const Alternativa& a, ScrittoreJson& json) {
 
 void EseguiConfronta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    Progress progress;
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     LettoreGuida guida(sessione.Archivio());
-    const std::vector<Alternativa> alternative = Alternative(aperta.meta, aperta.tappe, guida, progress);
+    const auto alternative = Alternative(aperta.meta, aperta.tappe, guida, *richiesta.avanzamento);
+    if (!alternative) return;
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);
         json.ApreArray();
-        for (const Alternativa& alternativa : alternative) ScriviAlternativa(alternativa, json);
+        for (const Alternativa& alternativa : *alternative) ScriviAlternativa(alternativa, json);
         json.ChiudeArray();
         return;
     }
     TabellaTesti tabella{IntestazioniAlternative(), {}, {4, 5}};
-    for (const Alternativa& alternativa : alternative) tabella.righe.push_back(TestiAlternativa(alternativa));
+    for (const Alternativa& alternativa : *alternative) tabella.righe.push_back(TestiAlternativa(alternativa));
     if (richiesta.formato == Formato::Tsv) return ScriviTsv(tabella, uscita);
     uscita << TitoloMeta(aperta.meta) << "\n\n";
     if (aperta.tappe.empty()) {

@@ -51,19 +51,42 @@ std::optional<Centesimi> Ritardo(const Cronovia& cronovia) {
     return ritardo;
 }
 
+// What is told of many calculations: how many of them are done, not the passes of each.
+class TraTante : public Progress {
+  public:
+    explicit TraTante(Progress& progress) : progress_(progress) {}
+
+    void Comincia(const QString& titolo, int quante) {
+        progress_.Title(titolo);
+        fatte_ = 0;
+        quante_ = quante;
+    }
+    void UnaFatta() { ++fatte_; }
+    void Advance(double count, double total) override {
+        if (total > 0) progress_.Advance(fatte_ + count / total, quante_);
+    }
+    bool StopRequested() override { return progress_.StopRequested(); }
+
+  private:
+    Progress& progress_;
+    int fatte_ = 0;
+    int quante_ = 0;
+};
+
 }  // namespace
 
-std::vector<Alternativa> Alternative(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida,
-                                     Progress& progress) {
+std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida,
+                                                    Progress& progress) {
     std::vector<Alternativa> alternative;
     std::vector<Centesimi> visite;
+    TraTante corsa(progress);
     const auto aggiungi = [&](CalcoloSoste soste, int voluti) {
-        HeedStop(progress);
         Meta questa = meta;
         questa.parametri.calcoloSoste = soste;
         questa.giorniAdeguamento = voluti;
-        Progress muto;
-        const Cronovia cronovia = *CalcolaCronovia(questa, tappe, guida, muto, SeNonRiesce::Lascia).cronovia;
+        const EsitoCalcolo esito = CalcolaCronovia(questa, tappe, guida, corsa, SeNonRiesce::Lascia);
+        if (!esito.cronovia) return false;
+        const Cronovia& cronovia = *esito.cronovia;
         Alternativa una;
         una.soste = soste;
         una.voluti = voluti;
@@ -74,19 +97,21 @@ std::vector<Alternativa> Alternative(const Meta& meta, std::span<const Tappa> ta
         una.attuale = soste == meta.parametri.calcoloSoste && voluti == meta.giorniAdeguamento;
         visite.push_back(TempoVisite(cronovia));
         alternative.push_back(una);
-        return una.giorni;
+        corsa.UnaFatta();
+        return true;
     };
     int naturali = 0;
+    corsa.Comincia(u"Confronto delle soste"_s, static_cast<int>(kPolitiche.size()));
     for (const CalcoloSoste soste : kPolitiche) {
-        const int giorni = aggiungi(soste, 0);
-        if (soste == meta.parametri.calcoloSoste) naturali = giorni;
+        if (!aggiungi(soste, 0)) return std::nullopt;
+        if (soste == meta.parametri.calcoloSoste) naturali = alternative.back().giorni;
     }
     const Centesimi intere = visite[static_cast<std::size_t>(CalcoloSoste::SostaMaggiore) - 1];
     const int minimi = CalcolaKmTempiItinerario(tappe, OrarioCorretto(meta.parametri), 0).giorniMinimi;
     const int massimi = std::min((std::max(minimi, naturali) * 3 + 1) / 2, kMassimoGiorniAdeguamento);
+    corsa.Comincia(u"Confronto dei giorni"_s, massimi - minimi + 1);
     for (int giorni = minimi; minimi > 0 && giorni <= massimi; ++giorni) {
-        progress.Advance(giorni - minimi, massimi - minimi + 1);
-        aggiungi(meta.parametri.calcoloSoste, giorni);
+        if (!aggiungi(meta.parametri.calcoloSoste, giorni)) return std::nullopt;
     }
     for (std::size_t i = 0; i < alternative.size() && intere > 0_cent; ++i) {
         alternative[i].visite = static_cast<int>(std::lround(visite[i].Valore() / intere.Valore() * 100.0F));
