@@ -40,7 +40,8 @@ void CalcoloConGuida(benchmark::State& state) {
     const Meta meta = MetaGenerata();
     for (auto _ : state) {
         LettoreGuida guida(archivio.archive);
-        benchmark::DoNotOptimize(CalcolaCronovia(meta, tappe, guida, archivio.progress));
+        benchmark::DoNotOptimize(
+            CalcolaCronovia(meta, OrarioCorretto(meta.parametri), tappe, guida, archivio.progress));
     }
 }
 BENCHMARK(CalcoloConGuida)->Arg(100)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMicrosecond);
@@ -52,7 +53,7 @@ void ConfrontoDelleAlternative(benchmark::State& state) {
     const Meta meta = MetaGenerata();
     for (auto _ : state) {
         LettoreGuida guida(archivio.archive);
-        benchmark::DoNotOptimize(Alternative(meta, tappe, guida, archivio.progress));
+        benchmark::DoNotOptimize(Alternative(meta, OrarioCorretto(meta.parametri), tappe, guida, archivio.progress));
     }
 }
 BENCHMARK(ConfrontoDelleAlternative)->Unit(benchmark::kMillisecond);

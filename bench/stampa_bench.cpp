@@ -25,7 +25,8 @@ DatiStampa CronoviaGenerata(int tappe) {
     Meta meta = MetaGenerata();
     meta.localita = u"CAPO NORD"_s;
     meta.nazione = u"NORVEGIA"_s;
-    const EsitoCalcolo esito = CalcolaCronovia(meta, TappeGenerate(tappe), guida, archivio.progress);
+    const EsitoCalcolo esito =
+        CalcolaCronovia(meta, OrarioCorretto(meta.parametri), TappeGenerate(tappe), guida, archivio.progress);
     return PreparaStampa(meta, *esito.cronovia);
 }
 

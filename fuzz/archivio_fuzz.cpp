@@ -57,9 +57,10 @@ void LeggiTutto(const QString& cartella) {
         Pretendi(meta.has_value());
         std::ignore = ElencoDellaGuida(archive, elencata.codice);
         LettoreGuida guida(archive);
-        const auto tappe = CaricaTappeItinerario(archive, elencata.codice, OrarioCorretto(meta->parametri), guida);
+        const OrarioCorretto orario(meta->parametri);
+        const auto tappe = CaricaTappeItinerario(archive, elencata.codice, orario, guida);
         guida.Ricomincia();
-        std::ignore = CalcolaCronovia(*meta, tappe, guida, progress);
+        std::ignore = CalcolaCronovia(*meta, orario, tappe, guida, progress);
     }
 }
 

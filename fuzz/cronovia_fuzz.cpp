@@ -93,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
     LettoreGuida guida(archive);
     Progress progress;
     try {
-        const EsitoCalcolo esito = CalcolaCronovia(meta, tappe, guida, progress);
+        const EsitoCalcolo esito = CalcolaCronovia(meta, OrarioCorretto(meta.parametri), tappe, guida, progress);
         Pretendi(esito.cronovia.has_value() && esito.tentativi <= kMassimoTentativi);
         Guarda(*esito.cronovia, meta, tappe.size());
     } catch (const Failure&) {  // no kilometres, or visits that end before they begin

@@ -25,16 +25,17 @@ bool StessoCalcolo(const Meta& a, const Meta& b) {
 
 void Documento::Metti(MetaAperta aperta) {
     letta_ = Memorizzata(aperta);
-    Metti(aperta.meta, std::move(aperta.tappe));
+    Metti(aperta.meta, aperta.orario, std::move(aperta.tappe));
 }
 
-void Documento::Metti(const Meta& campi, RigheItinerario righe) {
-    ImpostaCampi(campi);
+void Documento::Metti(const Meta& campi, const OrarioCorretto& orario, RigheItinerario righe) {
+    MettiCampi(campi, orario);
     if (const auto giorno = campi_.partiInizio.Giorno()) {
         campi_.dataInizio = giorno;
         campi_.partiInizio = {};
     }
     caricati_ = campi_;
+    orarioCaricato_ = orario_;
     MettiTappe(std::move(righe));
 }
 
@@ -84,7 +85,7 @@ void Documento::Ricarica(const QDateTime& adesso) {
 void Documento::Proponi(const QDateTime& adesso) {
     const Meta proposta = sessione_.MetaProposta(adesso);
     letta_ = {};
-    Metti(proposta, {});
+    Metti(proposta, OrarioCorretto(proposta.parametri), {});
 }
 
 void Documento::RicaricaTappe() {
@@ -93,11 +94,12 @@ void Documento::RicaricaTappe() {
     MettiTappe(std::move(aperta.tappe));
 }
 
-void Documento::Scarta() { Metti(caricati_, caricate_); }
+void Documento::Scarta() { Metti(caricati_, orarioCaricato_, caricate_); }
 
 void Documento::DiventaNuova() {
     campi_.codice.clear();
     caricati_ = Meta();
+    orarioCaricato_ = {};
     letta_ = {};
     MettiTappe({});
     codice_ = RicercaMetaCorrente(sessione_.Archivio());
@@ -112,7 +114,7 @@ void Documento::Riprendi(const LavoroSospeso& lavoro) {
     if (adesso && adesso->meta.localita == letta.localita) {
         Metti(sessione_.ApriMeta(letta.codice));
     } else {
-        Metti(lavoro.caricati, lavoro.letta.tappe);
+        Metti(lavoro.caricati, OrarioCorretto(lavoro.caricati.parametri), lavoro.letta.tappe);
     }
     codice_ = letta.codice.isEmpty() ? RicercaMetaCorrente(archivio) : letta.codice;
     letta_ = lavoro.letta;
@@ -144,16 +146,17 @@ void Documento::Decade() {
 // Fields and stages are still those of the schedule.
 void Documento::Conserva() {
     if (ultima_) {
-        passata_ = {std::move(*ultima_), giornate_, campi_, righe_};
+        passata_ = {std::move(*ultima_), giornate_, campi_, orario_, righe_};
     } else if (cronovia_ && vale_) {
-        passata_ = {*cronovia_, giornate_, campi_, righe_};
+        passata_ = {*cronovia_, giornate_, campi_, orario_, righe_};
     }
 }
 
 // A change that was taken back leaves the schedule as true as it was.
 void Documento::Ritrova() {
     const bool serve = passata_ && !cronovia_ && !ultima_;
-    if (!serve || !StessoCalcolo(passata_->campi, campi_) || passata_->righe != righe_) return;
+    if (!serve || !StessoCalcolo(passata_->campi, campi_)) return;
+    if (passata_->orario != orario_ || passata_->righe != righe_) return;
     ultima_ = std::move(passata_->cronovia);
     giornate_ = std::move(passata_->giornate);
     passata_.reset();
@@ -171,30 +174,43 @@ LettoreGuida& Documento::Guida() {
     return *guida_;
 }
 
-void Documento::ImpostaCampi(const Meta& campi) {
-    if (!StessoCalcolo(campi, campi_)) Decade();
+// Hours that the program put right are no others than those which were typed or stored: nothing is corrected twice.
+OrarioCorretto Documento::OrarioDi(const ParametriViaggio& parametri) const {
+    if (StessiOrari(parametri, campi_.parametri)) return orario_.Con(parametri);
+    if (StessiOrari(parametri, caricati_.parametri)) return orarioCaricato_.Con(parametri);
+    return OrarioCorretto(parametri);
+}
+
+void Documento::MettiCampi(const Meta& campi, const OrarioCorretto& orario) {
+    if (!StessoCalcolo(campi, campi_) || orario != orario_) Decade();
     campi_ = campi;
-    orario_ = OrarioCorretto(campi_.parametri);
+    orario_ = orario;
     Ritrova();
 }
 
+void Documento::ImpostaCampi(const Meta& campi) { MettiCampi(campi, OrarioDi(campi.parametri)); }
+
 void Documento::ImpostaParametri(const ParametriViaggio& parametri) {
-    if (parametri != campi_.parametri) Decade();
-    campi_.parametri = parametri;
-    orario_ = OrarioCorretto(parametri);
-    Ritrova();
+    Meta campi = campi_;
+    campi.parametri = parametri;
+    ImpostaCampi(campi);
 }
 
 // What the program puts right by itself is no change of the person's.
-void Documento::Correggi(const ParametriViaggio& parametri) {
+void Documento::Correggi(const ParametriViaggio& parametri, const OrarioCorretto& orario) {
     const bool intatti = campi_.parametri == caricati_.parametri;
-    ImpostaParametri(parametri);
+    Meta campi = campi_;
+    campi.parametri = parametri;
+    MettiCampi(campi, orario);
     if (intatti) caricati_.parametri = parametri;
 }
 
-void Documento::OrdinaOrari() { Correggi(InOrdine(campi_.parametri)); }
+void Documento::OrdinaOrari() {
+    const ParametriViaggio parametri = InOrdine(campi_.parametri);
+    Correggi(parametri, OrarioDi(parametri));
+}
 
-void Documento::CorreggiOrari() { Correggi(ParametriViaggio(orario_.Parametri())); }
+void Documento::CorreggiOrari() { Correggi(orario_.Parametri(), orario_); }
 
 void Documento::RicalcolaTempi() {
     riepilogo_ = CalcolaKmTempiItinerario(righe_, orario_, campi_.giorniAdeguamento);
@@ -263,18 +279,12 @@ void Documento::Adotta(const PropostaGiorni& proposta) {
     storia_.Ricorda(PassoVerso(u"soste al %1%"_s.arg(proposta.percento), std::move(prima)));
 }
 
-Meta Documento::ConOrarioCorretto() const {
-    Meta corretti = campi_;
-    corretti.parametri = orario_.Parametri();
-    return corretti;
-}
-
 std::optional<std::vector<Alternativa>> Documento::Confronta(Progress& progress) {
-    return Alternative(ConOrarioCorretto(), righe_, Guida(), progress);
+    return Alternative(campi_, orario_, righe_, Guida(), progress);
 }
 
 EsitoCalcolo Documento::CalcolaCon(LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti) {
-    return CalcolaCronovia(ConOrarioCorretto(), righe_, guida, progress, altrimenti);
+    return CalcolaCronovia(campi_, orario_, righe_, guida, progress, altrimenti);
 }
 
 QString Documento::Calcola(Progress& progress) {

@@ -31,7 +31,7 @@ class Documento {
     // What is open.
     /// The fields of the trip as they are now, saved or not.
     [[nodiscard]] const Meta& Campi() const { return campi_; }
-    /// The timetable of these fields.
+    /// The timetable of these fields, corrected as it was typed or stored.
     [[nodiscard]] const OrarioCorretto& Orario() const { return orario_; }
     /// Its stages with their free rows.
     [[nodiscard]] const RigheItinerario& Righe() const { return righe_; }
@@ -150,13 +150,15 @@ class Documento {
         Cronovia cronovia;
         std::vector<Giornata> giornate;
         Meta campi;
+        OrarioCorretto orario;
         RigheItinerario righe;
     };
     [[nodiscard]] Stato StatoPresente(bool conGiorni) const;
     void RicordaCorrente(const QString& codice);
     void RifiutaSeDiversa(const std::optional<MetaMemorizzata>& attesa);
     void Metti(MetaAperta aperta);
-    void Metti(const Meta& campi, RigheItinerario righe);
+    void Metti(const Meta& campi, const OrarioCorretto& orario, RigheItinerario righe);
+    void MettiCampi(const Meta& campi, const OrarioCorretto& orario);
     void MettiTappe(RigheItinerario righe);
     QString ScriviCampi(const Salvataggio& deciso);
     EsitoMemorizzazione ScriviTappe(const QString& codice, Progress& progress);
@@ -167,9 +169,9 @@ class Documento {
     void Conserva();
     void Ritrova();
     LettoreGuida& Guida();
-    [[nodiscard]] Meta ConOrarioCorretto() const;
+    [[nodiscard]] OrarioCorretto OrarioDi(const ParametriViaggio& parametri) const;
     EsitoCalcolo CalcolaCon(LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti);
-    void Correggi(const ParametriViaggio& parametri);
+    void Correggi(const ParametriViaggio& parametri, const OrarioCorretto& orario);
     [[nodiscard]] Passo PassoVerso(const QString& nome, Stato prima);
 
     Sessione& sessione_;
@@ -188,6 +190,7 @@ class Documento {
     QString codice_;
     int rigaCorrente_ = 1;
     Meta caricati_;
+    OrarioCorretto orarioCaricato_;  // theirs
     RigheItinerario caricate_;
     MetaMemorizzata letta_;  // what the archive held then; empty for a new trip
     Storia storia_{[this] { return sessione_.Archivio().OwnChanges(); }};

@@ -109,7 +109,7 @@ EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& o
     Meta meta = aperta.meta;
     meta.giorniAdeguamento = opzioni.giorni.value_or(meta.giorniAdeguamento);
     meta.parametri.calcoloSoste = opzioni.soste.value_or(meta.parametri.calcoloSoste);
-    return CalcolaCronovia(meta, aperta.tappe, guida, progress);
+    return CalcolaCronovia(meta, aperta.orario.Con(meta.parametri), aperta.tappe, guida, progress);
 }
 
 MetaCalcolata Sessione::ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress) {

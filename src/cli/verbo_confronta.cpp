@@ -43,7 +43,7 @@ void EseguiConfronta(const ApriSessione& apri, const Richiesta& richiesta, QText
     Sessione sessione = apri();
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     LettoreGuida guida(sessione.Archivio());
-    const auto alternative = Alternative(aperta.meta, aperta.tappe, guida, *richiesta.avanzamento);
+    const auto alternative = Alternative(aperta.meta, aperta.orario, aperta.tappe, guida, *richiesta.avanzamento);
     if (!alternative) return;
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);

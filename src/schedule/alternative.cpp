@@ -75,7 +75,8 @@ class TraTante : public Progress {
 
 }  // namespace
 
-std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida,
+std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, const OrarioCorretto& orario,
+                                                    std::span<const Tappa> tappe, LettoreGuida& guida,
                                                     Progress& progress) {
     std::vector<Alternativa> alternative;
     std::vector<Centesimi> visite;
@@ -84,7 +85,8 @@ std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, std::span<
         Meta questa = meta;
         questa.parametri.calcoloSoste = soste;
         questa.giorniAdeguamento = voluti;
-        const EsitoCalcolo esito = CalcolaCronovia(questa, tappe, guida, corsa, SeNonRiesce::Lascia);
+        const EsitoCalcolo esito =
+            CalcolaCronovia(questa, orario.Con(questa.parametri), tappe, guida, corsa, SeNonRiesce::Lascia);
         if (!esito.cronovia) return false;
         const Cronovia& cronovia = *esito.cronovia;
         Alternativa una;
@@ -107,7 +109,7 @@ std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, std::span<
         if (soste == meta.parametri.calcoloSoste) naturali = alternative.back().giorni;
     }
     const Centesimi intere = visite[static_cast<std::size_t>(CalcoloSoste::SostaMaggiore) - 1];
-    const int minimi = CalcolaKmTempiItinerario(tappe, OrarioCorretto(meta.parametri), 0).giorniMinimi;
+    const int minimi = CalcolaKmTempiItinerario(tappe, orario, 0).giorniMinimi;
     const int massimi = std::min((std::max(minimi, naturali) * 3 + 1) / 2, kMassimoGiorniAdeguamento);
     corsa.Comincia(u"Confronto dei giorni"_s, massimi - minimi + 1);
     for (int giorni = minimi; minimi > 0 && giorni <= massimi; ++giorni) {

@@ -29,9 +29,10 @@ struct Alternativa {
 };
 
 /// Each stop policy with as many days as it needs, then the trip's own policy with each number of days from the least
-/// to one and a half times those that it needs. Nothing when the person stopped it. A
+/// to one and a half times those that it needs, with the timetable of `orario`. Nothing when the person stopped it. A
 /// `Failure` where the trip cannot be computed.
-std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida,
+std::optional<std::vector<Alternativa>> Alternative(const Meta& meta, const OrarioCorretto& orario,
+                                                    std::span<const Tappa> tappe, LettoreGuida& guida,
                                                     Progress& progress);
 
 /// "Sosta maggiore".

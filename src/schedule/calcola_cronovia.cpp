@@ -12,7 +12,6 @@
 #include "schedule/ore_fisse.h"
 #include "schedule/rientro.h"
 #include "schedule/simulazione.h"
-#include "trips/orario.h"
 
 namespace cronovia {
 
@@ -120,26 +119,27 @@ std::vector<Durata> SosteDellaTabella(const TabellaCalcolo& tabella) {
 
 }  // namespace
 
-EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress,
-                             SeNonRiesce altrimenti) {
-    OrarioCorretto orario(meta.parametri);
+EsitoCalcolo CalcolaCronovia(const Meta& meta, const OrarioCorretto& orario, std::span<const Tappa> tappe,
+                             LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti) {
     RifiutaSeIncalcolabile(meta, orario, tappe);
     const RiepilogoItinerario riepilogo = CalcolaKmTempiItinerario(tappe, orario, meta.giorniAdeguamento);
     Cronovia cronovia;
     cronovia.tabella = PreparaTabellaPerCalcoloCronovia(tappe, orario, guida, progress);
+    cronovia.orario = orario;
 
     const bool daAdeguare = meta.giorniAdeguamento > 0 && riepilogo.totali.km[kTuttiITipi] > 0;
     double riferimento = StimaGiorni(riepilogo.totali, cronovia.tabella.totaleSoste, orario);
     std::vector<Durata> soste = SosteDellaTabella(cronovia.tabella);
     const auto simula = [&](std::span<const Durata> iniziali, float fattore) {
-        return SimulaPassata({cronovia.tabella, iniziali, *meta.dataInizio, meta.oraInizio, orario, fattore}, progress);
+        return SimulaPassata({cronovia.tabella, iniziali, *meta.dataInizio, meta.oraInizio, cronovia.orario, fattore},
+                             progress);
     };
     EsitoCalcolo esito;
     Passata passata;
     do {
         // Hours beyond their limits settle from pass to pass.
-        if (esito.tentativi > 0) orario = OrarioCorretto(orario.Parametri());
-        RifiutaSenzaVisite(orario);
+        if (esito.tentativi > 0) cronovia.orario = cronovia.orario.PassataDopo();
+        RifiutaSenzaVisite(cronovia.orario);
         const float fattore = daAdeguare ? CalcolaFattore(meta.giorniAdeguamento, riferimento) : 1.0F;
         ++esito.tentativi;
         progress.Title(TitoloTentativo(esito.tentativi, riferimento, meta.giorniAdeguamento, fattore));
@@ -161,18 +161,18 @@ EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, Let
         riferimento = passata.fine ? passata.fine->giorni : 0;
     }
 
-    SegnaRientro(passata.righe, cronovia.tabella, entro.value_or(Istante{passata.data, passata.ora}), orario, progress);
+    SegnaRientro(passata.righe, cronovia.tabella, entro.value_or(Istante{passata.data, passata.ora}), cronovia.orario,
+                 progress);
     cronovia.righe = std::move(passata.righe);
     cronovia.fasce = std::move(passata.fasce);
     cronovia.rinvii = std::move(passata.rinvii);
     cronovia.ore = std::move(passata.ore);
     cronovia.fine = passata.fine;
     cronovia.totali = passata.totali;
-    cronovia.orario = orario;
     cronovia.prezzi = meta.prezzi;
     const bool nonRiesce = daAdeguare && (riferimento != meta.giorniAdeguamento || (tardi && !quota));
     if (nonRiesce && altrimenti == SeNonRiesce::Cerca) {
-        esito.ricerca = CercaGiorni(meta, cronovia.tabella, OrarioCorretto(meta.parametri), progress);
+        esito.ricerca = CercaGiorni(meta, cronovia.tabella, orario, progress);
     }
     ConfrontaScadenza(entro, cronovia);
     SegnaRitardi(cronovia);

@@ -12,6 +12,7 @@
 #include "schedule/ricerca_giorni.h"
 #include "schedule/riga_cronovia.h"
 #include "trips/meta.h"
+#include "trips/orario.h"
 
 namespace cronovia {
 
@@ -32,15 +33,15 @@ enum class SeNonRiesce {
     Lascia,  ///< nothing
 };
 
-/// Computes the schedule of a trip with the start, the parameters and `giorniAdeguamento` of `meta`, whose timetable is
-/// corrected here. When days are wanted and the stages have kilometres, all stops are scaled before each pass by
-/// days wanted / days of the pass before, cut to three decimals, until the trip takes that long; before the first pass
-/// its days are guessed from driving and stops. After `kMassimoTentativi` the last pass stays. When it would be late
-/// home, the stops of the stages are all scaled to the longest with which one is in time, if there are any; the closing
-/// message says so, and days that are not the ones wanted then count as not reached. The limits of the return count
-/// from when one has to be home. A `Failure` names what is missing: the start date, the kilometres of stages, the speed
-/// of a road type in use, visiting hours.
-EsitoCalcolo CalcolaCronovia(const Meta& meta, std::span<const Tappa> tappe, LettoreGuida& guida, Progress& progress,
-                             SeNonRiesce altrimenti = SeNonRiesce::Cerca);
+/// Computes the schedule of a trip with the start and `giorniAdeguamento` of `meta` and the parameters of `orario`,
+/// which are those of `meta` corrected. When days are wanted and the stages have kilometres, all stops are scaled
+/// before each pass by days wanted / days of the pass before, cut to three decimals, until the trip takes that long;
+/// before the first pass its days are guessed from driving and stops. After `kMassimoTentativi` the last pass stays.
+/// When it would be late home, the stops of the stages are all scaled to the longest with which one is in time, if
+/// there are any; the closing message says so, and days that are not the ones wanted then count as not reached. The
+/// limits of the return count from when one has to be home. A `Failure` names what is missing: the start date, the
+/// kilometres of stages, the speed of a road type in use, visiting hours.
+EsitoCalcolo CalcolaCronovia(const Meta& meta, const OrarioCorretto& orario, std::span<const Tappa> tappe,
+                             LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti = SeNonRiesce::Cerca);
 
 }  // namespace cronovia

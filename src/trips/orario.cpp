@@ -2,6 +2,7 @@
 #include "trips/orario.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "calendar/durata.h"
@@ -13,6 +14,11 @@ namespace {
 constexpr int kPrimaOraColazione = 0;
 constexpr int kPrimaOraPranzo = 11;
 constexpr int kPrimaOraCena = 18;
+
+constexpr std::array kOreCorrette = {
+    &ParametriViaggio::oraColazione, &ParametriViaggio::oraPranzo,  &ParametriViaggio::durataPranzo,
+    &ParametriViaggio::oraCena,      &ParametriViaggio::durataCena, &ParametriViaggio::oraNotte,
+    &ParametriViaggio::inizioVisita, &ParametriViaggio::fineVisita, &ParametriViaggio::oreTraghetti};
 
 Centesimi ConOra(Centesimi orario, int ora) {
     return InCentesimi({0, ora, InDurata(orario, kGiornoOrologio).minuti}, kGiornoOrologio);
@@ -53,7 +59,14 @@ Centesimi NelleListe(Centesimi orario) {
     return InCentesimi(durata, kGiornoOrologio);
 }
 
+Centesimi RiposoBreve(int minuti) { return Centesimi(std::floor(minuti * 100.0 / 60.0 + 0.5)); }
+
 }  // namespace
+
+bool StessiOrari(const ParametriViaggio& uni, const ParametriViaggio& altri) {
+    return std::all_of(kOreCorrette.begin(), kOreCorrette.end(),
+                       [&](auto orario) { return uni.*orario == altri.*orario; });
+}
 
 ParametriViaggio InOrdine(const ParametriViaggio& digitati) {
     ParametriViaggio p = digitati;
@@ -67,12 +80,17 @@ OrarioCorretto::OrarioCorretto(const ParametriViaggio& digitati) : parametri_(In
     guidaGiorno_ = (p.oraPranzo - p.oraColazione) + (p.oraCena - p.oraPranzo - p.durataPranzo) +
                    (p.oraNotte - p.oraCena - p.durataCena);
     visitaGiorno_ = p.fineVisita - p.inizioVisita;
-    riposo_ = Centesimi(std::floor(p.riposoMinuti * 100.0 / 60.0 + 0.5));
+    riposo_ = RiposoBreve(p.riposoMinuti);
     LimitaOrari(p);
-    for (Centesimi* orario : {&p.oraColazione, &p.oraPranzo, &p.durataPranzo, &p.oraCena, &p.durataCena, &p.oraNotte,
-                              &p.inizioVisita, &p.fineVisita, &p.oreTraghetti}) {
-        *orario = NelleListe(*orario);
-    }
+    for (auto orario : kOreCorrette) p.*orario = NelleListe(p.*orario);
+}
+
+OrarioCorretto OrarioCorretto::Con(const ParametriViaggio& altri) const {
+    OrarioCorretto nuovo = *this;
+    nuovo.parametri_ = altri;
+    for (auto orario : kOreCorrette) nuovo.parametri_.*orario = parametri_.*orario;
+    nuovo.riposo_ = RiposoBreve(altri.riposoMinuti);
+    return nuovo;
 }
 
 }  // namespace cronovia

@@ -11,15 +11,24 @@ namespace cronovia {
 /// minutes stay; again and again until a round changes nothing. Then visits are kept between breakfast and night.
 ParametriViaggio InOrdine(const ParametriViaggio& digitati);
 
-/// The parameters as a calculation takes them; the one way to them is to correct those that were typed or stored.
+/// Whether both have the same hours: of the day, of meals and visits, of a ferry.
+bool StessiOrari(const ParametriViaggio& uni, const ParametriViaggio& altri);
+
+/// The parameters as a calculation takes them; the one way to them is to correct those that were typed or stored. Who
+/// holds a trip does so, once, and hands on the result: whatever computes from it tells the same day lengths.
 class OrarioCorretto {
   public:
     /// Of the standard parameters.
     OrarioCorretto() : OrarioCorretto(ParametriViaggio()) {}
 
-    /// `InOrdine`, then each hour within its own limits. The day lengths are those before the limits; a timetable that
-    /// the limits change may change again, with its day lengths, when its result is corrected once more.
+    /// `InOrdine`, then each hour within its own limits. The day lengths are those before the limits.
     explicit OrarioCorretto(const ParametriViaggio& digitati);
+
+    /// The same hours and day lengths with what else `altri` tells.
+    [[nodiscard]] OrarioCorretto Con(const ParametriViaggio& altri) const;
+    /// As the next pass of a calculation takes it: what the limits put out of order is put in order, and the day
+    /// lengths are those within the limits.
+    [[nodiscard]] OrarioCorretto PassataDopo() const { return OrarioCorretto(parametri_); }
 
     /// The corrected ones.
     [[nodiscard]] const ParametriViaggio& Parametri() const { return parametri_; }
@@ -29,6 +38,7 @@ class OrarioCorretto {
     [[nodiscard]] Centesimi VisitaGiorno() const { return visitaGiorno_; }
     /// The short rest, to the nearest whole hundredth of an hour.
     [[nodiscard]] Centesimi Riposo() const { return riposo_; }
+    friend bool operator==(const OrarioCorretto&, const OrarioCorretto&) = default;
 
   private:
     ParametriViaggio parametri_;

@@ -36,7 +36,7 @@ class CalcolaCronoviaTest : public testing::Test {
 
     EsitoCalcolo Calcola() {
         LettoreGuida guida(archive_);
-        return CalcolaCronovia(meta_, tappe_, guida, progress_);
+        return CalcolaCronovia(meta_, OrarioCorretto(meta_.parametri), tappe_, guida, progress_);
     }
 
     prova::CartellaDiProva cartella_;

@@ -82,7 +82,7 @@ class OreFisseTest : public testing::Test {
     Cronovia Calcola() {
         LettoreGuida guida(archive_);
         Progress progress;
-        return *CalcolaCronovia(meta_, tappe_, guida, progress).cronovia;
+        return *CalcolaCronovia(meta_, OrarioCorretto(meta_.parametri), tappe_, guida, progress).cronovia;
     }
 
     // By stage: when its leg and its stop have ended, in hundredths of an hour; 0 for those without.

@@ -88,6 +88,13 @@ TEST(Orario, DayLengthsAreThoseBeforeTheLimits) {
     EXPECT_EQ(orario.Parametri().oraPranzo, 1600_cent);
     EXPECT_EQ(orario.GuidaGiorno(), 750_cent + 100_cent + 75_cent);
     EXPECT_EQ(orario.VisitaGiorno(), 1350_cent);  // 9:00 to 22:30
+    ParametriViaggio altri;
+    altri.riposoMinuti = 30;
+    const OrarioCorretto con = orario.Con(altri);
+    EXPECT_TRUE(StessiOrari(con.Parametri(), orario.Parametri()) && !StessiOrari(con.Parametri(), altri));
+    EXPECT_EQ(con.VisitaGiorno(), 1350_cent);
+    EXPECT_EQ(con.Parametri().riposoMinuti, 30);
+    EXPECT_EQ(con.Riposo(), 50_cent);
 }
 
 }  // namespace
