@@ -79,7 +79,8 @@ Contenuto ContenutoDi(Archive& archivio) {
 QString RigaDiNomi(const QString& che, const QStringList& nomi) {
     if (nomi.isEmpty()) return {};
     QString riga = u"%1: %2"_s.arg(che, QStringList(nomi.mid(0, kNomiMostrati)).join(u", "_s));
-    if (nomi.size() > kNomiMostrati) riga += u" e altre %1"_s.arg(Raggruppa(nomi.size() - kNomiMostrati));
+    const qsizetype resto = nomi.size() - kNomiMostrati;
+    if (resto > 0) riga += resto == 1 ? u" e un'altra"_s : u" e altre %1"_s.arg(Raggruppa(resto));
     return riga + u".\n"_s;
 }
 
