@@ -82,6 +82,8 @@ TEST_F(PercorsiGuidaTest, EntriesAreAddedChangedDeletedAndUndone) {
     copione_.Messaggio(u"Errore! Manca il tempo stimato!!!"_s);
     EXPECT_FALSE(Salva({u"Colosseo"_s, u"Ottimo"_s, 0, 0}));
     EXPECT_TRUE(Salva({u"Colosseo"_s, u"Ottimo"_s, 2, 30}));
+    copione_.Messaggio(u"L'annotazione «Colosseo» di ROMA c'è già, con la stessa tipologia e lo stesso tempo."_s);
+    EXPECT_FALSE(Salva({u"Colosseo"_s, u"Ottimo"_s, 2, 30}));
     // From the locality's row one goes on adding; type and time stay.
     EXPECT_EQ(Elenco(Tavolo()), u"ASTI: ROMA:00:01:00 Colosseo Trattoria"_s);
     EXPECT_EQ(Tavolo().RigaCorrente(), 2);

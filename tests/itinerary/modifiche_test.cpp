@@ -49,6 +49,7 @@ TEST(Modifiche, RowsMoveAndLoseTheKilometresThatNoLongerHold) {
              {SpostaRighe(giro, {5, 6}, 3), u"A B/A1/90 B/A4/? D/S1/5/* C/A4/? -"_s, {3, 4}, 2},
              {SpostaRighe(giro, {6, 6}, 4), u"A B/A1/90 C/A4/20 D/S1/?/* - B/A4/?"_s, {4, 4}, 2},
              {SpostaRighe(giro, {1, 1}, 3), u"B A//? C/A4/? - B/A4/20 D/S1/5/*"_s, {2, 2}, 2},
+             {SpostaRighe(Righe(u"A B//? C/A4/20"_s), {2, 2}, 1), u"B A//? C/A4/?"_s, {1, 1}, 2},
              {SpostaRighe(giro, {2, 4}, 3), u"A B/A1/90 C/A4/20 - B/A4/20 D/S1/5/*"_s, {2, 4}, 0},
              {SpostaRighe(giro, {6, 9}, 99), u"A B/A1/90 C/A4/20 - B/A4/20 D/S1/5/*"_s, {6, 6}, 0},
              {DuplicaRighe(giro, {5, 5}), u"A B/A1/90 C/A4/20 - B/A4/20 B/A4/? D/S1/5/*"_s, {6, 6}, 1},

@@ -154,6 +154,32 @@ TEST_F(FilePdf, ShowsTheJourneyOnItsMaps) {
     EXPECT_TRUE(traghetto > 25 && traghetto < 65) << traghetto << ": a ferry's line is dashed";
 }
 
+// Bars are told apart without their colours, too: by the pattern of their strokes.
+TEST_F(FilePdf, FillsEachKindOfTimeWithItsPattern) {
+    Stampato documento{u"Barre"_s, {{}}};
+    for (int i = 0; i < kGeneriPezzo; ++i) {
+        documento.pagine[0].barre.push_back({{20, 20.0 + 10 * i, 40, 8}, static_cast<GenerePezzo>(i)});
+    }
+    Scrivi(documento);
+    Poppler(u"pdftoppm"_s, {u"-r"_s, u"254"_s, u"-png"_s, u"-singlefile"_s, path_, path_});
+    const QImage foglio(path_ + u".png"_s);
+    for (const Barra& barra : documento.pagine[0].barre) {
+        const AspettoPezzo& aspetto = Aspetto(barra.genere);
+        const QRectF dentro = barra.area.translated(kMargineFoglio, kMargineFoglio).adjusted(1, 1, -1, -1);
+        const QImage parte = foglio.copy(QRectF(dentro.topLeft() * 10, dentro.size() * 10).toRect());
+        const int fondo = qGray(aspetto.fondo);
+        const int soglia = std::abs(fondo - qGray(aspetto.segno)) / 2;
+        int segnati = 0;
+        for (int i = 0; i < parte.width() * parte.height(); ++i) {
+            const QRgb colore = parte.pixel(i % parte.width(), i / parte.width());
+            segnati += std::abs(qGray(colore) - fondo) > soglia ? 1 : 0;
+        }
+        const double coperto = 1.0 * segnati / (parte.width() * parte.height());
+        EXPECT_EQ(coperto > 0.02, aspetto.trama != Trama::Piena) << aspetto.nome.toUtf8().constData() << ' ' << coperto;
+        EXPECT_LT(coperto, 0.5) << aspetto.nome.toUtf8().constData();
+    }
+}
+
 // A printer that keeps the sheet it has, and paints within its margins.
 TEST_F(FilePdf, OnASheetWithMarginsTextsAreWhereTheyBelong) {
     struct Ostinata : QPdfWriter {

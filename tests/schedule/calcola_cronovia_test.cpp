@@ -78,6 +78,7 @@ TEST_F(CalcolaCronoviaTest, WhatComesNearestHoldsOnceItIsTyped) {
     const std::vector<Tappa> digitate = tappe_;
     int cercati = 0;
     int limitati = 0;
+    int esatte = 0;
     for (int caso = 0; caso < 80; ++caso) {
         const int voluti = caso / 2 + 1;
         tappe_ = digitate;
@@ -93,6 +94,7 @@ TEST_F(CalcolaCronoviaTest, WhatComesNearestHoldsOnceItIsTyped) {
         const std::optional<RicercaGiorni>& ricerca = esito.ricerca;
         if (!ricerca) continue;
         ++cercati;
+        esatte += ricerca->esatta ? 1 : 0;
         if (ricerca->finoAllaScadenza) {
             ++limitati;
             EXPECT_TRUE(ricerca->testo.contains(u"% non si è a casa entro "_s)) << ricerca->testo.toStdString();
@@ -114,6 +116,7 @@ TEST_F(CalcolaCronoviaTest, WhatComesNearestHoldsOnceItIsTyped) {
     }
     EXPECT_GT(cercati, 10);
     EXPECT_GT(limitati, 5);
+    EXPECT_GT(esatte, 3);
     meta_.giorniAdeguamento = 9;
     meta_.scadenza = Scadenza::Da(OraFissa::Da(9 * 60, *meta_.dataInizio));
     EXPECT_TRUE(Calcola().messaggio.contains(u" Anche senza soste non si è a casa entro "_s));

@@ -115,6 +115,9 @@ TEST_P(GuastoTest, IsMendedAndACopyKept) {
     EXPECT_EQ(Elenco(Copia(), kSchema), schema);
     EXPECT_EQ(Elenco(Copia(), "SELECT Localita FROM GuidaCitta"), (QStringList{u"Alba"_s, u"L'Aquila"_s}));
 
+    // By this an earlier release knows that the file is beyond it.
+    EXPECT_EQ(Elenco(file, "PRAGMA user_version"), QStringList{QString::number(kSchemaVersion)});
+
     const QByteArray dopo = prova::LeggiFile(file);
     Apri();
     EXPECT_EQ(prova::LeggiFile(file), dopo);  // mended once and for all
@@ -123,7 +126,7 @@ TEST_P(GuastoTest, IsMendedAndACopyKept) {
 INSTANTIATE_TEST_SUITE_P(
     Archive, GuastoTest,
     ::testing::Values(
-        Guasto{"DROP TABLE Itinerari; DROP TABLE TipoGuida"},
+        Guasto{"DROP TABLE Itinerari; DROP TABLE TipoGuida; PRAGMA user_version = 0; PRAGMA application_id = 0"},
         Guasto{"DROP INDEX GuidaCitta_Localita; CREATE INDEX GuidaCitta_Localita ON GuidaCitta (Descrizione)"},
         Guasto{"DROP INDEX Itinerari_Localita; CREATE INDEX Itinerari_Localita ON Itinerari (Localita COLLATE BINARY)"},
         Guasto{"ALTER TABLE GuidaCitta DROP COLUMN FlagVisto", u""_s},

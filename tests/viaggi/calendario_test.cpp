@@ -139,6 +139,12 @@ TEST_F(Calendario, HoldsTheWholeSchedule) {
     EXPECT_EQ(quanti(u"guida"_s), marce);
     EXPECT_EQ(quanti(u"notte"_s), cronovia.fine->giorni - 1);
     for (std::size_t i = 1; i < eventi.size(); ++i) EXPECT_LE(*eventi[i - 1].fine, eventi[i].inizio) << i;
+    int giorno = 0;
+    for (const Evento& evento : Eventi(u"000003"_s, true)) {
+        if (!evento.tuttoIlGiorno) continue;
+        EXPECT_EQ(evento.inizio.data, *aperta.meta.dataInizio + giorno++);
+    }
+    EXPECT_EQ(giorno, cronovia.fine->giorni);
     EXPECT_EQ(eventi.front().titolo, u"Torino → Cuneo, 98 km, A6 A33"_s);
 }
 

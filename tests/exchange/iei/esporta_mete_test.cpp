@@ -159,6 +159,8 @@ TEST_F(Export, LeavesOutHoursNotesAndPricesThatCannotBe) {
                                     {"TraghettoOra|Navigazione", "99:99|00:08:30", 1},
                                     {"TraghettoOra|Navigazione", "2200|09:00:00", 0},
                                     {"TraghettoOra|Navigazione", "2200|10:00:00", 1},
+                                    {"TraghettoOra|Navigazione|Imbarco", "2200|00:08:30|2359", 0},
+                                    {"TraghettoOra|Navigazione|Imbarco", "2200|00:08:30|2400", 1},
                                     {"TraghettoData", "28062027", 1},
                                     {"NonPrimaOra|NonDopoOra|PrezzoTraghetto", "1600|1500|-3", 2},
                                     {"VisiteDa", "0900", 1},

@@ -116,7 +116,9 @@ TEST(ImportaPercorso, EncodingsOfTheSameText) {
     for (const auto codifica : {QStringConverter::Utf8, QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
         for (const auto segno : {QStringConverter::Flag::Default, QStringConverter::Flag::WriteBom}) {
             QStringEncoder scrittore(codifica, segno);
-            EXPECT_EQ(Righe(Leggi(scrittore.encode(testo))), tappe) << QStringConverter::nameForEncoding(codifica);
+            // As two files in one have it, or a name that was copied from a page.
+            const QString incollato = QString(testo).replace(u"São"_s, u"São\uFEFF"_s, Qt::CaseInsensitive);
+            EXPECT_EQ(Righe(Leggi(scrittore.encode(incollato))), tappe) << QStringConverter::nameForEncoding(codifica);
         }
     }
     EXPECT_EQ(Righe(Leggi(testo.toLatin1())), tappe);

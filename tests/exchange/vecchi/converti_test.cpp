@@ -21,6 +21,11 @@ using prova::Righe;
 using prova::ScriviFile;
 using ::testing::ElementsAre;
 
+// Where the earlier release wrote what: said once more, since a column that slipped would slip here too.
+const FormaRecord kMete{128, {30, 19, 8, 4, 3, 3, 3, 3, 4, 4, 4, 4, 4, 4, 4, 2, 2, 2, 2, 4, 4}};
+const FormaRecord kTappe{64, {24, 3, 1, 6}};
+const FormaRecord kGuida{128, {30, 1, 60, 5, 1}};
+
 // A record from its fields between "|".
 QByteArray RecordVecchio(const FormaRecord& forma, const QByteArray& campi) {
     QByteArray record;
@@ -31,17 +36,17 @@ QByteArray RecordVecchio(const FormaRecord& forma, const QByteArray& campi) {
     return record + QByteArray(forma.lunghezza - record.size(), '\0');
 }
 QByteArray Vecchia(const QByteArray& localita, const QByteArray& numero) {
-    return RecordVecchio(FormaVecchieMete(), localita +
-                                                 "|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|1930|0130|"
-                                                 "2200|" +
-                                                 numero + "|15|02|01|07|0900|1830");
+    return RecordVecchio(kMete, localita +
+                                    "|FRANCIA|26062027|0800|95|75|55|40|0830|1230|0130|1930|0130|"
+                                    "2200|" +
+                                    numero + "|15|02|01|07|0900|1830");
 }
 QByteArray Tappe(const QByteArray& righe) {
     QByteArray file;
-    for (const QByteArray& riga : righe.split('\n')) file += RecordVecchio(FormaVecchieTappe(), riga);
+    for (const QByteArray& riga : righe.split('\n')) file += RecordVecchio(kTappe, riga);
     return file;
 }
-QByteArray Voce(const QByteArray& campi) { return RecordVecchio(FormaVecchiaGuida(), campi); }
+QByteArray Voce(const QByteArray& campi) { return RecordVecchio(kGuida, campi); }
 
 class Conversione : public prova::ConArchivio {
   protected:
@@ -101,9 +106,9 @@ TEST_F(Conversione, DigitsStandInTheirPlacesAndWhatTheyCannotTellGetsItsDefault)
     for (const auto& [scritti, attesi] : casi) {
         const QList<QByteArray> campi = scritti.split('|');
         attese += attesi;
-        mete += RecordVecchio(FormaVecchieMete(), campi[0] + "|I|" + campi[1] + '|' + campi[2] + '|' + campi[3] +
-                                                      "|75|55|40|0830|12 0||" + campi[4] + "|0130|  30|" +
-                                                      QByteArray::number(attese.size()) + "|15");
+        mete += RecordVecchio(kMete, campi[0] + "|I|" + campi[1] + '|' + campi[2] + '|' + campi[3] +
+                                         "|75|55|40|0830|12 0||" + campi[4] + "|0130|  30|" +
+                                         QByteArray::number(attese.size()) + "|15");
     }
     Scrivi(u"VandMete.dat"_s, mete);
     Scrivi(u"vand0001.dat"_s, Tappe("  2|  2\nAIX| 98|A|01\n NIZZA|5|A| 1 230"));
