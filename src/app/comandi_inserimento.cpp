@@ -23,6 +23,25 @@ void SalvaTappe(Postazione& p) {
     if (salvate) SelezionaRiga(p, riga);
 }
 
+struct CambioSoste {
+    QString domanda;
+    QString effetto;
+    QString titolo;
+    QString nome;  // of the step
+};
+
+// All stops at once, when the person says so.
+void CambiaLeSoste(Postazione& p, const CambioSoste& cambio, const std::function<RigheItinerario()>& cambiate) {
+    if (!TappaNonPersa(p)) return;
+    const QString domanda =
+        u"%1\n\nI tempi traghetto e riposi non sono influenzati e la\n"
+        "%2 sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s.arg(cambio.domanda, cambio.effetto);
+    if (!p.ChiedeSePerdere(domanda + p.documento.Nome(), cambio.titolo)) return;
+    RigheItinerario righe;
+    if (!p.Prova([&] { righe = cambiate(); })) return;
+    Modifica(p, cambio.nome, std::move(righe), p.documento.RigaCorrente());
+}
+
 }  // namespace
 
 schermata::Inserimento NuovoInserimento(const Documento& documento) {
@@ -105,15 +124,10 @@ void Cancella(Postazione& p) {
 }
 
 void AzzeraSoste(Postazione& p) {
-    if (!TappaNonPersa(p)) return;
-    if (!p.ChiedeSePerdere(u"Vuoi azzerare le soste indicate nell'itinerario?\n\n"
-                           "I tempi traghetto e riposi non sono influenzati e la\n"
-                           "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s +
-                               p.documento.Nome(),
-                           u"Azzera soste itinerario"_s)) {
-        return;
-    }
-    Modifica(p, u"azzeramento delle soste"_s, cronovia::AzzeraSoste(p.documento.Righe()), p.documento.RigaCorrente());
+    CambiaLeSoste(p,
+                  {u"Vuoi azzerare le soste indicate nell'itinerario?"_s, u"cancellazione"_s,
+                   u"Azzera soste itinerario"_s, u"azzeramento delle soste"_s},
+                  [&] { return cronovia::AzzeraSoste(p.documento.Righe()); });
 }
 
 void Ritorno(Postazione& p) {
@@ -126,20 +140,13 @@ void Ritorno(Postazione& p) {
 }
 
 void Trasferisce(Postazione& p) {
-    if (!TappaNonPersa(p)) return;
-    if (!p.ChiedeSePerdere(u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
-                           "I tempi traghetto e riposi non sono influenzati e la\n"
-                           "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?\n\n"_s +
-                               p.documento.Nome(),
-                           u"Copia soste Guida -> Itinerario"_s)) {
-        return;
-    }
-    RigheItinerario righe;
-    const bool lette = p.Prova([&] {
-        righe =
-            ConSosteDellaGuida(p.sessione.Archivio(), p.documento.Righe(), p.documento.Orario(), p.volti.avanzamento);
-    });
-    if (lette) Modifica(p, u"copia delle soste della guida"_s, std::move(righe), p.documento.RigaCorrente());
+    CambiaLeSoste(p,
+                  {u"Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?"_s, u"modifica"_s,
+                   u"Copia soste Guida -> Itinerario"_s, u"copia delle soste della guida"_s},
+                  [&] {
+                      return ConSosteDellaGuida(p.sessione.Archivio(), p.documento.Righe(), p.documento.Orario(),
+                                                p.volti.avanzamento);
+                  });
     p.volti.avanzamento.Advance(0, 0);
 }
 
