@@ -119,7 +119,7 @@ void Confronta(Postazione& p) {
 }
 
 void ACasaEntro(Postazione& p) {
-    const std::optional<Meta> meta = p.volti.chiediRientro(p.documento.Campi());
+    const std::optional<Meta> meta = p.volti.chiediScadenza(p.documento.Campi());
     if (!meta || *meta == p.documento.Campi()) return;
     p.documento.ImpostaCampi(*meta);
     RicalcolaSulPosto(p);

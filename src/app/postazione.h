@@ -50,7 +50,7 @@ struct Volti {
     std::function<QString(const FormatoViaggio& formato, const QString& nome)> scegliFileViaggio = {};
     /// What others set for a stage; a trip's deadline and prices. Nothing when the person leaves them as they are.
     std::function<std::optional<VincoliTappa>(const Tappa& tappa)> chiediVincoli = {};
-    std::function<std::optional<Meta>(const Meta& meta)> chiediRientro = {};
+    std::function<std::optional<Meta>(const Meta& meta)> chiediScadenza = {};
     /// Which of them, from 0; nothing when the person wants none.
     std::function<std::optional<std::size_t>(const std::vector<Alternativa>&)> scegliAlternativa = {};
     /// Shows what would become of the places of a file; whether the new ones are to be added.

@@ -9,7 +9,7 @@
 #include <memory>
 #include <optional>
 
-#include "app/confronto.h"
+#include "app/meta_memorizzata.h"
 #include "guide/annotazioni.h"
 
 namespace cronovia {

@@ -65,7 +65,7 @@ std::vector<Luogo> PerPeso(const std::map<int, Luogo>& luoghi) {
 
 }  // namespace
 
-const uchar* Gazzettino::Mappa::Byte() {
+const uchar* Gazzettino::FileMappato::Byte() {
     if (file_) return byte_;
     file_ = std::make_unique<QFile>(nome_);
     if (nome_.isEmpty() || !file_->open(QIODevice::ReadOnly)) return nullptr;

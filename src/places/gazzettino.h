@@ -64,9 +64,9 @@ class Gazzettino {
 
   private:
     // The mapped file; a copy or move of the object begins anew.
-    class Mappa {
+    class FileMappato {
       public:
-        explicit Mappa(QString nome) : nome_(std::move(nome)) {}
+        explicit FileMappato(QString nome) : nome_(std::move(nome)) {}
         [[nodiscard]] const QString& NomeFile() const { return nome_; }
         const uchar* Byte();  ///< nothing when there is no such file
         [[nodiscard]] qsizetype Lunghezza() const { return lunghezza_; }
@@ -97,7 +97,7 @@ class Gazzettino {
     QString Nome(int numero);
     Luogo Descrivi(int numero);
 
-    Mappa file_;
+    FileMappato file_;
     bool provato_ = false;
     int luoghi_ = 0;
     int nomi_ = 0;

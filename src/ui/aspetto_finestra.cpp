@@ -45,17 +45,17 @@ void AspettoFinestra::Segue(QMainWindow& finestra) {
 
 void AspettoFinestra::Segue(const QString& nome, std::function<QVariant()> comE,
                             std::function<void(const QVariant&)> rimetti) {
-    voci_.push_back({nome, std::move(comE), std::move(rimetti)});
+    ricordi_.push_back({nome, std::move(comE), std::move(rimetti)});
 }
 
 void AspettoFinestra::Ripristina() {
-    for (const Voce& voce : voci_) voce.rimetti(impostazioni_.value(voce.nome));
+    for (const Ricordo& ricordo : ricordi_) ricordo.rimetti(impostazioni_.value(ricordo.nome));
 }
 
 void AspettoFinestra::Ricorda() {
-    for (const Voce& voce : voci_) {
-        const QVariant valore = voce.comE();
-        if (impostazioni_.value(voce.nome) != valore) impostazioni_.setValue(voce.nome, valore);
+    for (const Ricordo& ricordo : ricordi_) {
+        const QVariant valore = ricordo.comE();
+        if (impostazioni_.value(ricordo.nome) != valore) impostazioni_.setValue(ricordo.nome, valore);
     }
 }
 

@@ -33,14 +33,14 @@ class AspettoFinestra {
     [[nodiscard]] QSettings& Impostazioni() { return impostazioni_; }
 
   private:
-    struct Voce {
+    struct Ricordo {
         QString nome;
         std::function<QVariant()> comE;
         std::function<void(const QVariant&)> rimetti;
     };
 
     QSettings impostazioni_;
-    std::vector<Voce> voci_;
+    std::vector<Ricordo> ricordi_;
 };
 
 }  // namespace cronovia

@@ -29,7 +29,7 @@
 #include "ui/inserimento/scelta_percorso.h"
 #include "ui/scambio/file_scambio.h"
 #include "ui/viaggio/frm_confronto.h"
-#include "ui/viaggio/frm_rientro.h"
+#include "ui/viaggio/frm_scadenza.h"
 
 namespace cronovia {
 
@@ -103,7 +103,7 @@ Volti FormMete::NuoviVolti(std::function<QDateTime()> adesso) {
         [this](const std::vector<CopiaInElenco>& copie) { return ChiediCopia(*this, copie); },
         [this](const FormatoViaggio& formato, const QString& nome) { return ScegliFileViaggio(*this, formato, nome); },
         [this](const Tappa& tappa) { return ChiediVincoli(*this, tappa); },
-        [this](const Meta& meta) { return ChiediRientro(*this, meta); },
+        [this](const Meta& meta) { return ChiediScadenza(*this, meta); },
         [this](const std::vector<Alternativa>& alternative) { return ScegliAlternativa(*this, alternative); },
         [this](const std::vector<SostaProposta>& soste) { return ConfermaSoste(*this, soste); }};
 }

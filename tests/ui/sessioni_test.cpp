@@ -500,7 +500,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-bar"_s,
          {4,
           [this](auto& p) {
-              SullaStriscia(p, [&](auto& vista, QPoint dove) { Uguale(vista.Suggerimento(dove), p[3]); });
+              SullaStriscia(p, [&](auto& vista, QPoint dove) { Uguale(vista.Istruzione(dove), p[3]); });
           }}},
         {u"trigger"_s, {1, [this](auto& p) { Trova<QAction>(p[0]).trigger(); }}},
         {u"beside"_s, {1, [this](auto& p) { QTest::mouseClick(&Trova(p[0]), Qt::LeftButton); }}},

@@ -182,7 +182,7 @@ const PezzoDelGiorno* VistaGiornate::PezzoIn(const QPoint& punto) const {
     return cronovia::PezzoIn(Striscia(visualRect(index)), modello_.Striscia(index.row()), punto);
 }
 
-QString VistaGiornate::Suggerimento(const QPoint& punto) const {
+QString VistaGiornate::Istruzione(const QPoint& punto) const {
     const PezzoDelGiorno* pezzo = PezzoIn(punto);
     return pezzo == nullptr ? QString() : modello_.TestoDel(*pezzo);
 }
@@ -190,7 +190,7 @@ QString VistaGiornate::Suggerimento(const QPoint& punto) const {
 bool VistaGiornate::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QListView::viewportEvent(event);
     const auto& aiuto = *static_cast<QHelpEvent*>(event);
-    const QString testo = Suggerimento(aiuto.pos());
+    const QString testo = Istruzione(aiuto.pos());
     if (testo.isEmpty()) return QListView::viewportEvent(event);
     QToolTip::showText(aiuto.globalPos(), TestoPiano(testo), viewport());
     return true;

@@ -24,7 +24,7 @@ class VistaGiornate : public QListView {
     /// The middle of a day's strip at an hour.
     [[nodiscard]] QPoint Punto(int giornata, Centesimi ora) const;
     /// What is told of the bar at a point; empty where there is none.
-    [[nodiscard]] QString Suggerimento(const QPoint& punto) const;
+    [[nodiscard]] QString Istruzione(const QPoint& punto) const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] int RigaSegnata() const { return segnata_; }
 

@@ -217,7 +217,7 @@ bool ModelloGriglia::InRitardo(int riga) const {
 }
 
 // Why something of a row is later than one would expect, or takes no time.
-QString ModelloGriglia::Suggerimento(int riga, Colonna colonna) const {
+QString ModelloGriglia::Istruzione(int riga, Colonna colonna) const {
     if (colonna == Colonna::Numero) return Significato(SegnoDellaRiga(riga));
     QStringList testi = {Testi(riga)[colonna]};
     if (const Tappa* tappa = TappaDi(riga); tappa != nullptr && colonna == Colonna::NumeroStrada) {
@@ -284,7 +284,7 @@ QVariant ModelloGriglia::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return Visibile(Testi(index.row())[colonna]);
         case Qt::ToolTipRole:
-            return Suggerimento(index.row(), colonna);
+            return Istruzione(index.row(), colonna);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(AllineamentoColonna(colonna));
         case Qt::FontRole:

@@ -52,7 +52,7 @@ class ModelloGriglia : public QAbstractTableModel {
   private:
     [[nodiscard]] RigaGriglia Testi(int riga) const;
     [[nodiscard]] const Tappa* TappaDi(int riga) const;
-    [[nodiscard]] QString Suggerimento(int riga, Colonna colonna) const;
+    [[nodiscard]] QString Istruzione(int riga, Colonna colonna) const;
     [[nodiscard]] QString TestoParlato(int riga, Colonna colonna) const;
     [[nodiscard]] const CambioGiorno* Cambio(int riga) const;
     [[nodiscard]] QVariant DatiDellaLinea(int giornata, Colonna colonna, int role) const;

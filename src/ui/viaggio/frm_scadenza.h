@@ -11,6 +11,6 @@ class QWidget;
 namespace cronovia {
 
 /// The trip with another deadline and other prices; nothing when the person leaves them as they are.
-std::optional<Meta> ChiediRientro(QWidget& finestra, const Meta& meta);
+std::optional<Meta> ChiediScadenza(QWidget& finestra, const Meta& meta);
 
 }  // namespace cronovia

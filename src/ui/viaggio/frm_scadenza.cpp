@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/viaggio/frm_rientro.h"
+#include "ui/viaggio/frm_scadenza.h"
 
 #include "calendar/digitati.h"
 #include "ui/comuni/modulo.h"
@@ -63,7 +63,7 @@ RientroLetto LeggiRientro(Meta meta, const std::vector<QString>& testi) {
 
 }  // namespace
 
-std::optional<Meta> ChiediRientro(QWidget& finestra, const Meta& meta) {
+std::optional<Meta> ChiediScadenza(QWidget& finestra, const Meta& meta) {
     std::vector<QString> valori(kPrimoPrezzo);
     if (meta.scadenza) {
         valori[kData] = TestoData(*meta.scadenza->Ora().Data());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/confronto.h"
+#include "app/meta_memorizzata.h"
 
 #include <QMultiHash>
 #include <utility>
