@@ -5,6 +5,7 @@
     tests/mutazioni.py --numero 150            that many places, drawn over all rooms of src
     tests/mutazioni.py --stanze store,ui/mappa only those rooms, or folders or files of rooms
     tests/mutazioni.py --seme 7                another draw; the same seed draws the same places
+    tests/mutazioni.py --parte 1/2             the first half of the draw; the other in a --cartella of its own
     tests/mutazioni.py --riprova               once more those that survived last time, after tests were added
 
 Works on a copy of the checkout in build/mutazioni, with a build of its own. A fault that does not compile is not counted.
@@ -273,6 +274,7 @@ def main():
     argomenti.add_argument("--numero", type=int, default=150)
     argomenti.add_argument("--seme", type=int, default=1)
     argomenti.add_argument("--stanze", default="", help="rooms or parts of them, separated by commas")
+    argomenti.add_argument("--parte", default="1/1")
     argomenti.add_argument("--riprova", action="store_true")
     argomenti.add_argument("--cartella", type=Path, default=RADICE / "build" / "mutazioni")
     scelte = argomenti.parse_args()
@@ -285,6 +287,8 @@ def main():
         file_esito = file_esito.with_name("riprova.json")
     else:
         da_provare = estrai(list(luoghi(stanze)), scelte.numero, random.Random(scelte.seme))
+    parte, parti = map(int, scelte.parte.split("/"))
+    da_provare = da_provare[parte - 1::parti]
     banco = Banco(scelte.cartella.resolve())
     banco.prepara()
     banco.misura()
