@@ -38,6 +38,7 @@
 //                                     end any more
 //   expect-column TABLE COL CELLS     the cells of a column that are not empty
 //   expect-header TABLE COL TEXT · expect-selected TABLE ROWS · expect-width TABLE COL W · expect-size W H
+//   expect-height NAME H              of a panel
 //   expect-fits TABLE                 its columns share out its width
 //   expect-tip NAME TEXT · expect-tip TABLE ROW COL TEXT      as the person reads it
 //   expect-bar NAME DAY HH:MM TEXT    the same of a bar
@@ -530,6 +531,7 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
         {u"expect-selected"_s, {2, [this](auto& p) { AttesaScelta(p); }}},
         {u"expect-width"_s,
          {3, [this](auto& p) { EXPECT_EQ(Trova<QTableView>(p[0]).columnWidth(p[1].toInt() - 1), p[2].toInt()); }}},
+        {u"expect-height"_s, {2, [this](auto& p) { EXPECT_EQ(Trova(p[0]).height(), p[1].toInt()); }}},
         {u"expect-fits"_s,
          {1,
           [this](auto& p) {
