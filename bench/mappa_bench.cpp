@@ -90,8 +90,8 @@ void SceltaPerUnViaggio(benchmark::State& state) {
     const MetaAperta aperta = sessione.ApriMeta(u"1"_s);
     Gazzettino gazzettino(kFileLuoghi);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(
-            PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione));
+        benchmark::DoNotOptimize(PosizioniDelViaggio(PosizioniConfermate(sessione.Archivio()), gazzettino, aperta.tappe,
+                                                     aperta.meta.nazione));
     }
 }
 BENCHMARK(SceltaPerUnViaggio)->Unit(benchmark::kMillisecond);

@@ -30,8 +30,9 @@ void Esporta(Postazione& p, const FormatoViaggio& formato, const std::function<b
         const QString path = p.volti.scegliFileViaggio(formato, NomeFileViaggio(formato, meta));
         if (path.isEmpty()) return;
         const bool giorni = giorniInteri && giorniInteri();
-        p.Mostra(ScriviFileViaggio({p.sessione, meta, cronovia, p.documento.Righe(), giorni}, formato, path, true),
-                 formato.nome.toString(), Icon::Information);
+        const PosizioniConfermate confermate(p.sessione.Archivio());
+        const ViaggioDaScrivere viaggio{p.sessione, meta, cronovia, p.documento.Righe(), confermate, giorni};
+        p.Mostra(ScriviFileViaggio(viaggio, formato, path, true), formato.nome.toString(), Icon::Information);
     });
 }
 

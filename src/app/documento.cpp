@@ -164,13 +164,16 @@ void Documento::Ritrova() {
     ++versione_;
 }
 
-// What was found in the guide holds until something is written to the archive.
-LettoreGuida& Documento::Guida() {
+// What was found in the guide holds until something is written to the archive. All that these stages need is from one
+// moment; others can write while it is computed with.
+LettoreGuida& Documento::GuidaDelle(std::span<const Tappa> righe) {
+    const ReadSnapshot momento(sessione_.Archivio());
     const Archive::Mark adesso = sessione_.Archivio().PresentMark();
     if (!guida_ || guidaLetta_ != adesso) {
         guida_.emplace(sessione_.Archivio());
         guidaLetta_ = adesso;
     }
+    guida_->Anticipa(LocalitaDelleTappe(righe));
     return *guida_;
 }
 
@@ -231,7 +234,7 @@ void Documento::Mostra(Stato stato) {
         std::tie(campi.giorniAdeguamento, campi.parametri.calcoloSoste) = *stato.giorniESoste;
         ImpostaCampi(campi);
     }
-    RicalcolaVisite(Guida(), stato.righe, orario_);
+    RicalcolaVisite(GuidaDelle(stato.righe), stato.righe, orario_);
     if (stato.righe != righe_) Decade();
     righe_ = std::move(stato.righe);
     RicalcolaTempi();
@@ -280,19 +283,15 @@ void Documento::Adotta(const PropostaGiorni& proposta) {
 }
 
 std::optional<std::vector<Alternativa>> Documento::Confronta(Progress& progress) {
-    return Alternative(campi_, orario_, righe_, Guida(), progress);
+    return Alternative(campi_, orario_, righe_, GuidaDelle(righe_), progress);
 }
 
-EsitoCalcolo Documento::CalcolaCon(LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti) {
-    return CalcolaCronovia(campi_, orario_, righe_, guida, progress, altrimenti);
+EsitoCalcolo Documento::CalcolaCon(Progress& progress, SeNonRiesce altrimenti) {
+    return CalcolaCronovia(campi_, orario_, righe_, GuidaDelle(righe_), progress, altrimenti);
 }
 
 QString Documento::Calcola(Progress& progress) {
-    std::optional<ReadSnapshot> momento(std::in_place, sessione_.Archivio());
-    LettoreGuida& guida = Guida();
-    guida.Anticipa(LocalitaDelleTappe(righe_));
-    momento.reset();  // others can write while it is computed
-    EsitoCalcolo esito = CalcolaCon(guida, progress, SeNonRiesce::Cerca);
+    EsitoCalcolo esito = CalcolaCon(progress, SeNonRiesce::Cerca);
     CorreggiOrari();
     cronovia_ = std::move(esito.cronovia);
     Decade();
@@ -306,7 +305,7 @@ void Documento::CalcolaDalVivo() {
     if (cronovia_ || ultima_ || !impedimento_.isEmpty() || NumeroTappe(righe_) < 2) return;
     Progress progress;
     try {
-        ultima_ = CalcolaCon(Guida(), progress, SeNonRiesce::Lascia).cronovia;
+        ultima_ = CalcolaCon(progress, SeNonRiesce::Lascia).cronovia;
         giornate_ = cronovia::Giornate(*ultima_, *campi_.dataInizio);
     } catch (const Failure& failure) {
         impedimento_ = failure.Message();

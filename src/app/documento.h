@@ -168,9 +168,9 @@ class Documento {
     void Decade();
     void Conserva();
     void Ritrova();
-    LettoreGuida& Guida();
+    LettoreGuida& GuidaDelle(std::span<const Tappa> righe);
     [[nodiscard]] OrarioCorretto OrarioDi(const ParametriViaggio& parametri) const;
-    EsitoCalcolo CalcolaCon(LettoreGuida& guida, Progress& progress, SeNonRiesce altrimenti);
+    EsitoCalcolo CalcolaCon(Progress& progress, SeNonRiesce altrimenti);
     void Correggi(const ParametriViaggio& parametri, const OrarioCorretto& orario);
     [[nodiscard]] Passo PassoVerso(const QString& nome, Stato prima);
 

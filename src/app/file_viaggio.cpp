@@ -22,7 +22,7 @@ namespace {
 
 std::vector<PosizioneTappa> PosizioniDi(const ViaggioDaScrivere& viaggio, std::span<const Tappa> tappe) {
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
-    return PosizioniDelViaggio(viaggio.sessione.Archivio(), gazzettino, tappe, viaggio.meta.nazione);
+    return PosizioniDelViaggio(viaggio.confermate, gazzettino, tappe, viaggio.meta.nazione);
 }
 
 // Without the file of coasts the maps show the way alone.

@@ -13,11 +13,12 @@ namespace cronovia {
 
 /// A journey as others get it.
 struct ViaggioDaScrivere {
-    Sessione& sessione;
+    const Sessione& sessione;
     const Meta& meta;
     const Cronovia& cronovia;
-    std::span<const Tappa> tappe;  ///< from which it was computed
-    bool giorniInteri = false;     ///< in a calendar, each day has an event of its own too
+    std::span<const Tappa> tappe;           ///< from which it was computed
+    const PosizioniConfermate& confermate;  ///< of the archive
+    bool giorniInteri = false;              ///< in a calendar, each day has an event of its own too
 };
 
 /// What was written, and what is to be said of it.

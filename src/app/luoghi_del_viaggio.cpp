@@ -54,7 +54,7 @@ const std::vector<PosizioneTappa>& LuoghiDelViaggio::Posizioni(Archive& archive,
     const Archive::Mark mark = archive.PresentMark();
     const bool stesse = letto_ == mark && nazione_ == nazione && std::ranges::equal(tappe_, tappe);
     if (!stesse) {
-        posizioni_ = PosizioniDelViaggio(archive, gazzettino_, tappe, nazione);
+        posizioni_ = PosizioniDelViaggio(PosizioniConfermate(archive), gazzettino_, tappe, nazione);
         tappe_.assign(tappe.begin(), tappe.end());
         nazione_ = nazione;
         letto_ = mark;
@@ -76,7 +76,8 @@ std::optional<double> LuoghiDelViaggio::Diretta(Archive& archive, const Document
     nuova.localita = localita;
     nuova.kmDaIndicare = true;
     tappe.push_back(nuova);
-    const auto posizioni = PosizioniDelViaggio(archive, gazzettino_, tappe, documento.Campi().nazione);
+    const auto posizioni =
+        PosizioniDelViaggio(PosizioniConfermate(archive), gazzettino_, tappe, documento.Campi().nazione);
     const PosizioneTappa& da = posizioni[posizioni.size() - 2];
     const PosizioneTappa& a = posizioni.back();
     if (!da.Certa() || !a.Certa()) return std::nullopt;

@@ -96,29 +96,28 @@ MetaAperta Sessione::ApriMeta(const QString& codice, LettoreGuida& guida) {
     return aperta;
 }
 
-EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress) {
-    std::optional<ReadSnapshot> momento(std::in_place, archive_);
-    LettoreGuida guida(archive_);
-    guida.Anticipa(LocalitaDelleTappe(aperta.tappe));
-    momento.reset();
-    return Calcola(aperta, opzioni, guida, progress);
-}
-
-EsitoCalcolo Sessione::Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, LettoreGuida& guida,
-                               Progress& progress) {
-    Meta meta = aperta.meta;
-    meta.giorniAdeguamento = opzioni.giorni.value_or(meta.giorniAdeguamento);
-    meta.parametri.calcoloSoste = opzioni.soste.value_or(meta.parametri.calcoloSoste);
-    return CalcolaCronovia(meta, aperta.orario.Con(meta.parametri), aperta.tappe, guida, progress);
-}
-
-MetaCalcolata Sessione::ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress) {
-    std::optional<ReadSnapshot> momento(std::in_place, archive_);
+MetaLetta Sessione::LeggiMeta(const QString& codice, LeggeAnche anche) {
+    const ReadSnapshot momento(archive_);
     LettoreGuida guida(archive_);
     MetaAperta aperta = ApriMeta(codice, guida);
-    momento.reset();
-    EsitoCalcolo esito = Calcola(aperta, opzioni, guida, progress);
-    return {std::move(aperta), std::move(esito)};
+    PosizioniConfermate confermate;
+    if (anche == LeggeAnche::Posizioni) confermate = PosizioniConfermate(archive_);
+    return {std::move(aperta), std::move(guida), std::move(confermate)};
+}
+
+EsitoCalcolo Sessione::Calcola(MetaLetta& letta, const OpzioniCalcolo& opzioni, Progress& progress) {
+    Meta meta = letta.aperta.meta;
+    meta.giorniAdeguamento = opzioni.giorni.value_or(meta.giorniAdeguamento);
+    meta.parametri.calcoloSoste = opzioni.soste.value_or(meta.parametri.calcoloSoste);
+    const MetaAperta& aperta = letta.aperta;
+    return CalcolaCronovia(meta, aperta.orario.Con(meta.parametri), aperta.tappe, letta.guida, progress);
+}
+
+MetaCalcolata Sessione::ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress,
+                                     LeggeAnche anche) {
+    MetaLetta letta = LeggiMeta(codice, anche);
+    EsitoCalcolo esito = Calcola(letta, opzioni, progress);
+    return {std::move(letta.aperta), std::move(esito), std::move(letta.confermate)};
 }
 
 Meta Sessione::MetaProposta(const QDateTime& adesso) {

@@ -12,6 +12,7 @@
 #include "interaction/progress.h"
 #include "itinerary/riepilogo.h"
 #include "itinerary/tappa.h"
+#include "places/confermate.h"
 #include "schedule/calcola_cronovia.h"
 #include "store/archive.h"
 #include "trips/meta.h"
@@ -34,10 +35,21 @@ struct OpzioniCalcolo {
     std::optional<CalcoloSoste> soste;  ///< which stops count
 };
 
+/// What is read with a trip, from the same moment, besides its itinerary and their entries of the guide.
+enum class LeggeAnche { Nulla, Posizioni };
+
+/// A trip with what a face computes and shows of it, all from one moment of the archive.
+struct MetaLetta {
+    MetaAperta aperta;
+    LettoreGuida guida;              ///< has read the entries of its localities; must not outlive the session
+    PosizioniConfermate confermate;  ///< none unless they were asked for
+};
+
 /// A trip with its schedule.
 struct MetaCalcolata {
     MetaAperta aperta;
     EsitoCalcolo esito;
+    PosizioniConfermate confermate;  ///< none unless they were asked for
 };
 
 /// There is no trip of the code that was asked for.
@@ -77,11 +89,15 @@ class Sessione {
     /// A trip with its itinerary; a `Failure` when there is none with that code. "1" is "000001" as well.
     MetaAperta ApriMeta(const QString& codice);
 
-    /// The schedule of a trip that is open, with the guide as it is stored. Others can write while it is computed.
-    EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, Progress& progress);
+    /// The same with all that its schedule, and where its localities lie, is worked out from.
+    MetaLetta LeggiMeta(const QString& codice, LeggeAnche anche = LeggeAnche::Nulla);
 
-    /// Both, from one moment of the archive.
-    MetaCalcolata ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress);
+    /// The schedule of a trip that was read; nothing more is read, and others can write meanwhile.
+    static EsitoCalcolo Calcola(MetaLetta& letta, const OpzioniCalcolo& opzioni, Progress& progress);
+
+    /// Both, one after the other.
+    MetaCalcolata ApriECalcola(const QString& codice, const OpzioniCalcolo& opzioni, Progress& progress,
+                               LeggeAnche anche = LeggeAnche::Nulla);
 
     /// A trip to be filled in: the personal defaults, starting now.
     Meta MetaProposta(const QDateTime& adesso);
@@ -92,8 +108,6 @@ class Sessione {
 
   private:
     MetaAperta ApriMeta(const QString& codice, LettoreGuida& guida);
-    static EsitoCalcolo Calcola(const MetaAperta& aperta, const OpzioniCalcolo& opzioni, LettoreGuida& guida,
-                                Progress& progress);
 
     void Prepara();
     void TieniCopie(Archive& archivio, const QString& cartella) const;

@@ -45,8 +45,9 @@ void EsportaViaggio(const ApriSessione& apri, const Richiesta& richiesta, const 
     }
     const bool giornate = richiesta.opzioni.contains(u"giornate"_s);
     Sessione sessione = apri();
-    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.last(), {}, *richiesta.avanzamento);
-    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe, giornate}, formato,
+    const auto [aperta, esito, confermate] =
+        sessione.ApriECalcola(richiesta.argomenti.last(), {}, *richiesta.avanzamento, LeggeAnche::Posizioni);
+    uscita << ScriviFileViaggio({sessione, aperta.meta, *esito.cronovia, aperta.tappe, confermate, giornate}, formato,
                                 richiesta.argomenti.first(), richiesta.opzioni.contains(u"sovrascrivi"_s))
            << '\n';
 }
@@ -66,11 +67,11 @@ std::optional<FormatoPercorso> FormatoRichiesto(const Richiesta& richiesta) {
 }
 
 // The stages of each day, with the place where it begins.
-std::vector<std::pair<int, int>> TappeDeiGiorni(Sessione& sessione, const MetaAperta& aperta) {
+std::vector<std::pair<int, int>> TappeDeiGiorni(MetaLetta& letta) {
     Progress muto;
-    const EsitoCalcolo esito = sessione.Calcola(aperta, {}, muto);
-    const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *aperta.meta.dataInizio);
-    const GiorniItinerario giorni(*esito.cronovia, giornate, aperta.tappe);
+    const EsitoCalcolo esito = Sessione::Calcola(letta, {}, muto);
+    const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *letta.aperta.meta.dataInizio);
+    const GiorniItinerario giorni(*esito.cronovia, giornate, letta.aperta.tappe);
     std::vector<std::pair<int, int>> tappe;
     for (std::size_t g = 0; g < giornate.size(); ++g) {
         const auto righe = giorni.Righe(static_cast<int>(g));
@@ -86,18 +87,20 @@ void EsportaPerNavigatore(const ApriSessione& apri, const Richiesta& richiesta, 
     }
     Sessione sessione = apri();
     sessione.RifiutaSeDanneggiato();
-    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.at(1));
+    MetaLetta letta = sessione.LeggiMeta(richiesta.argomenti.at(1), LeggeAnche::Posizioni);
+    const MetaAperta& aperta = letta.aperta;
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
     const std::vector<PosizioneTappa> posizioni =
-        PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+        PosizioniDelViaggio(letta.confermate, gazzettino, aperta.tappe, aperta.meta.nazione);
     RichiestaEsportaPercorso percorso{sessione.Archivio(),
+                                      letta.guida,
                                       richiesta.argomenti.first(),
                                       formato,
                                       richiesta.opzioni.contains(u"sovrascrivi"_s),
                                       aperta.meta.localita,
                                       aperta.tappe,
                                       posizioni};
-    if (richiesta.opzioni.contains(u"per-giorno"_s)) percorso.giorni = TappeDeiGiorni(sessione, aperta);
+    if (richiesta.opzioni.contains(u"per-giorno"_s)) percorso.giorni = TappeDeiGiorni(letta);
     uscita << TestoEsito(EsportaPercorso(percorso)) << '\n';
 }
 

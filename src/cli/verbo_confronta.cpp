@@ -41,8 +41,7 @@ void ScriviAlternativa(const Alternativa& a, ScrittoreJson& json) {
 
 void EseguiConfronta(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
-    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
-    LettoreGuida guida(sessione.Archivio());
+    auto [aperta, guida, senza] = sessione.LeggiMeta(richiesta.argomenti.first());
     const auto alternative = Alternative(aperta.meta, aperta.orario, aperta.tappe, guida, *richiesta.avanzamento);
     if (!alternative) return;
     if (richiesta.formato == Formato::Json) {

@@ -149,12 +149,13 @@ void EseguiGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTextS
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
     Progress& progress = *richiesta.avanzamento;
-    const auto [aperta, esito] = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    const auto [aperta, esito, confermate] =
+        sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress, LeggeAnche::Posizioni);
     const std::vector<Giornata> giornate = Giornate(*esito.cronovia, *aperta.meta.dataInizio);
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
     const std::vector<SoleGiornata> soli = SoleDelleGiornate(
         giornate, *esito.cronovia,
-        PosizioniDelViaggio(sessione.Archivio(), gazzettino, TappeCalcolate(*esito.cronovia), aperta.meta.nazione));
+        PosizioniDelViaggio(confermate, gazzettino, TappeCalcolate(*esito.cronovia), aperta.meta.nazione));
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);
         json.ApreArray();

@@ -106,10 +106,10 @@ void EseguiLuoghi(const ApriSessione& apri, const Richiesta& richiesta, QTextStr
         uscita << cambiato << '\n';
         return;
     }
-    const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
+    const auto [aperta, guida, confermate] = sessione.LeggiMeta(richiesta.argomenti.first(), LeggeAnche::Posizioni);
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
     const std::vector<PosizioneTappa> posizioni =
-        PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+        PosizioniDelViaggio(confermate, gazzettino, aperta.tappe, aperta.meta.nazione);
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);
         return ScriviLuoghi(aperta.tappe, posizioni, json);

@@ -28,14 +28,21 @@ PieDiPagina Piede(const Sessione& sessione) {
             LeggiImpostazioni(sessione.Cartella()).carta.misura};
 }
 
+bool ConMappa(const Richiesta& richiesta) { return richiesta.opzioni.contains(u"mappa"_s); }
+
+MetaCalcolata Calcolata(Sessione& sessione, const OpzioniCalcolo& opzioni, const Richiesta& richiesta) {
+    return sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, *richiesta.avanzamento,
+                                 ConMappa(richiesta) ? LeggeAnche::Posizioni : LeggeAnche::Nulla);
+}
+
 // With its map, when the line asks for it.
-DatiStampa Prepara(Sessione& sessione, const MetaCalcolata& calcolata, const Richiesta& richiesta) {
-    const auto& [aperta, esito] = calcolata;
+DatiStampa Prepara(const MetaCalcolata& calcolata, const Richiesta& richiesta) {
+    const auto& [aperta, esito, confermate] = calcolata;
     DatiStampa dati = PreparaStampa(aperta.meta, *esito.cronovia);
-    if (!richiesta.opzioni.contains(u"mappa"_s)) return dati;
+    if (!ConMappa(richiesta)) return dati;
     Gazzettino gazzettino(FileDelProgramma(u"luoghi.dat"_s));
     const std::vector<PosizioneTappa> posizioni =
-        PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+        PosizioniDelViaggio(confermate, gazzettino, aperta.tappe, aperta.meta.nazione);
     dati.mappa =
         PreparaMappa(dati, *esito.cronovia, aperta.tappe, posizioni, LeggiCoste(FileDelProgramma(u"coste.dat"_s)));
     return dati;
@@ -48,10 +55,10 @@ void StampaViaggio(const ApriSessione& apri, const Richiesta& richiesta, QTextSt
     Sessione sessione = apri();
     sessione.RifiutaSeDanneggiato();
     Progress& progress = *richiesta.avanzamento;
-    const MetaCalcolata calcolata = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
+    const MetaCalcolata calcolata = Calcolata(sessione, opzioni, richiesta);
     RifiutaFileEsistente(path, richiesta.opzioni.contains(u"sovrascrivi"_s));
     RifiutaFileTabella(path, sessione.Cartella());
-    const DatiStampa dati = Prepara(sessione, calcolata, richiesta);
+    const DatiStampa dati = Prepara(calcolata, richiesta);
     const Stampato documento = StampaLeScelte(dati, Piede(sessione), {true, false}, progress);
     FileIntero file(path);
     ScriviPdf(documento, file, progress);
@@ -89,8 +96,8 @@ void StampaLeGiornate(const ApriSessione& apri, const Richiesta& richiesta, QTex
     const OpzioniCalcolo opzioni = LeggiOpzioniCalcolo(richiesta);
     Sessione sessione = apri();
     Progress& progress = *richiesta.avanzamento;
-    const MetaCalcolata calcolata = sessione.ApriECalcola(richiesta.argomenti.first(), opzioni, progress);
-    const DatiStampa dati = Prepara(sessione, calcolata, richiesta);
+    const MetaCalcolata calcolata = Calcolata(sessione, opzioni, richiesta);
+    const DatiStampa dati = Prepara(calcolata, richiesta);
     if (dati.giorni.empty()) throw Failure(u"Niente da stampare: l'itinerario non ha ancora tappe."_s);
     ScriviFile(StampaLeScelte(dati, Piede(sessione), {false, true}, progress), path, richiesta, sessione, uscita);
     if (!calcolata.esito.messaggio.isEmpty()) uscita << calcolata.esito.messaggio << '\n';

@@ -53,9 +53,9 @@ QStringList LocalitaSenzaPosizione(std::span<const Tappa> tappe, std::span<const
     return nomi;
 }
 
-std::vector<PosizioneTappa> PosizioniDelViaggio(Archive& archive, Gazzettino& gazzettino, std::span<const Tappa> tappe,
-                                                const QString& nazione) {
-    return ScegliLuoghi(InPassaggi(tappe), PosizioniConfermate(archive), gazzettino, CodiciNazioni(nazione));
+std::vector<PosizioneTappa> PosizioniDelViaggio(const PosizioniConfermate& confermate, Gazzettino& gazzettino,
+                                                std::span<const Tappa> tappe, const QString& nazione) {
+    return ScegliLuoghi(InPassaggi(tappe), confermate, gazzettino, CodiciNazioni(nazione));
 }
 
 }  // namespace cronovia

@@ -13,10 +13,10 @@
 
 namespace cronovia {
 
-/// One for each stage, in their order; see `ScegliLuoghi`. `nazione` is that of the trip. Reads the confirmed positions
-/// of the archive, and the file of places when a locality has none.
-std::vector<PosizioneTappa> PosizioniDelViaggio(Archive& archive, Gazzettino& gazzettino, std::span<const Tappa> tappe,
-                                                const QString& nazione);
+/// One for each stage, in their order; see `ScegliLuoghi`. `nazione` is that of the trip. Reads the file of places when
+/// a locality has no confirmed position.
+std::vector<PosizioneTappa> PosizioniDelViaggio(const PosizioniConfermate& confermate, Gazzettino& gazzettino,
+                                                std::span<const Tappa> tappe, const QString& nazione);
 
 /// Of these stages, the localities of which nobody knows where they lie, each once.
 QStringList LocalitaSenzaPosizione(std::span<const Tappa> tappe, std::span<const PosizioneTappa> posizioni);

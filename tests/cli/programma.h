@@ -5,8 +5,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QStringList>
+#include <array>
 
 #include "support/prova.h"
 
@@ -16,6 +18,15 @@ struct Risposta {
     int codice = -1;  ///< exit code; -1 when the program crashed or never ended
     QString uscita;
     QString errori;
+};
+
+/// What verbs need that are run within the test.
+class ProgrammaQui {
+  private:
+    std::array<char, 9> nome_{"cli_test"};
+    std::array<char*, 2> argomenti_{nome_.data(), nullptr};
+    int quanti_ = 1;
+    QCoreApplication programma_{quanti_, argomenti_.data()};
 };
 
 /// Runs the program in a locale whose characters are ASCII, where a text that is not UTF-8 by itself would suffer.

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What `itinerario` writes `tappe` reads back: every journey, and one with all that others can set for a stage.
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <array>
 
 #include "cli/riga_comando.h"
 #include "programma.h"
@@ -54,10 +52,7 @@ class TappeRilette : public testing::Test {
         }
     }
 
-    std::array<char, 9> nome_{"cli_test"};
-    std::array<char*, 2> argomenti_{nome_.data(), nullptr};
-    int quanti_ = 1;
-    QCoreApplication programma_{quanti_, argomenti_.data()};
+    prova::ProgrammaQui programma_;
     prova::CartellaDiProva cartella_;
     int rilette_ = 0;
 };

@@ -49,8 +49,8 @@ inline DatiStampa DallArchivio(const QString& path, const std::vector<PosizioneT
     Sessione sessione(cartella.Path());
     Progress progress;
     ImportaMete({sessione.Archivio(), path, {}}, progress);
-    const MetaAperta aperta = sessione.ApriMeta(u"1"_s);
-    const Cronovia cronovia = *sessione.Calcola(aperta, {}, progress).cronovia;
+    const auto [aperta, esito, senza] = sessione.ApriECalcola(u"1"_s, {}, progress);
+    const Cronovia& cronovia = *esito.cronovia;
     DatiStampa dati = PreparaStampa(aperta.meta, cronovia);
     if (posizioni.empty()) return dati;
     dati.mappa =

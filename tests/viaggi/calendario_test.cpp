@@ -89,11 +89,10 @@ class Calendario : public testing::Test {
     }
 
     std::vector<Evento> Eventi(const QString& codice, bool giornate) {
-        const MetaAperta aperta = sessione_.ApriMeta(codice);
-        const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
+        const auto [aperta, esito, confermate] = sessione_.ApriECalcola(codice, {}, progress_, LeggeAnche::Posizioni);
         Gazzettino gazzettino(QStringLiteral(CRONOVIA_PLACES "/luoghi.dat"));
-        const auto posizioni = PosizioniDelViaggio(sessione_.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
-        return EventiDelViaggio(cronovia, *aperta.meta.dataInizio, posizioni, giornate);
+        const auto posizioni = PosizioniDelViaggio(confermate, gazzettino, aperta.tappe, aperta.meta.nazione);
+        return EventiDelViaggio(*esito.cronovia, *aperta.meta.dataInizio, posizioni, giornate);
     }
 
     prova::CartellaDiProva cartella_;
@@ -126,8 +125,8 @@ TEST_F(Calendario, GivesEveryEventOfEveryJourney) {
 // Every kind of driving, stop, night and ferry time of the schedule is in it, and nothing lies beside it.
 TEST_F(Calendario, HoldsTheWholeSchedule) {
     ImportaMete({sessione_.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), {}}, progress_);
-    const MetaAperta aperta = sessione_.ApriMeta(u"000003"_s);
-    const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
+    const auto [aperta, esito, senza] = sessione_.ApriECalcola(u"000003"_s, {}, progress_);
+    const Cronovia& cronovia = *esito.cronovia;
     const std::vector<Evento> eventi = Eventi(u"000003"_s, false);
     const auto quanti = [&](const QString& genere) {
         return std::count_if(eventi.begin(), eventi.end(),

@@ -41,7 +41,8 @@ TEST(Luoghi, OfTheExamplesAreFoundWhereTheyLie) {
         Progress muto;
         ImportaMete({sessione.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/") + esempio + u".iei"_s, {}}, muto);
         const MetaAperta aperta = sessione.ApriMeta(codice);
-        const auto posizioni = PosizioniDelViaggio(sessione.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+        const auto posizioni = PosizioniDelViaggio(PosizioniConfermate(sessione.Archivio()), gazzettino, aperta.tappe,
+                                                   aperta.meta.nazione);
         ASSERT_EQ(posizioni.size(), aperta.tappe.size());
         for (std::size_t i = 0; i < posizioni.size(); ++i) {
             const QString& localita = aperta.tappe[i].localita;

@@ -29,16 +29,17 @@ QString Difetti(const QByteArray& pagina) {
 
 class Pagina : public testing::Test {
   protected:
-    MetaAperta Importa(const QString& path, const QString& codice) {
+    MetaLetta Importa(const QString& path, const QString& codice) {
         ImportaMete({sessione_.Archivio(), path, {}}, progress_);
-        return sessione_.ApriMeta(codice);
+        return sessione_.LeggiMeta(codice, LeggeAnche::Posizioni);
     }
-    QString Html(const MetaAperta& aperta) {
+    QString Html(MetaLetta& letta) {
+        const MetaAperta& aperta = letta.aperta;
         Gazzettino gazzettino(QStringLiteral(CRONOVIA_PLACES "/luoghi.dat"));
         const std::vector<PosizioneTappa> posizioni =
-            PosizioniDelViaggio(sessione_.Archivio(), gazzettino, aperta.tappe, aperta.meta.nazione);
+            PosizioniDelViaggio(letta.confermate, gazzettino, aperta.tappe, aperta.meta.nazione);
         const Coste coste = LeggiCoste(QStringLiteral(CRONOVIA_PLACES "/coste.dat"));
-        const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
+        const Cronovia cronovia = *Sessione::Calcola(letta, {}, progress_).cronovia;
         const QByteArray pagina = PaginaTelefono({aperta.meta, cronovia, aperta.tappe, posizioni, coste});
         EXPECT_EQ(Difetti(pagina).toStdString(), "");
         return QString::fromUtf8(pagina);
@@ -56,9 +57,9 @@ TEST_F(Pagina, TellsAllOfTheJourney) {
     }
     for (const QString& codice : {u"000001"_s, u"000002"_s, u"000003"_s}) {
         SCOPED_TRACE(codice.toStdString());
-        const MetaAperta aperta = sessione_.ApriMeta(codice);
-        const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
-        const QString html = Html(aperta);
+        MetaLetta letta = sessione_.LeggiMeta(codice, LeggeAnche::Posizioni);
+        const Cronovia cronovia = *Sessione::Calcola(letta, {}, progress_).cronovia;
+        const QString html = Html(letta);
         EXPECT_LT(html.toUtf8().size(), 400 * 1024);
         EXPECT_FALSE(html.contains(QRegularExpression(u"(src|href)=\"(?!#|geo:)"_s))) << "refers to something outside";
         const QString testo = QString(html).remove(QRegularExpression(u"<title>[^<]*</title>"_s));
@@ -83,7 +84,8 @@ TEST_F(Pagina, TellsAllOfTheJourney) {
 
 TEST_F(Pagina, TakesNothingForMarkup) {
     const QString ostile = u"\"><img src=x onerror=alert(1)>&amp;</style></script>"_s;
-    MetaAperta aperta = Importa(QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), u"000003"_s);
+    MetaLetta letta = Importa(QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), u"000003"_s);
+    MetaAperta& aperta = letta.aperta;
     aperta.meta.localita = ostile;
     const struct {
         QString link;
@@ -105,7 +107,7 @@ TEST_F(Pagina, TakesNothingForMarkup) {
         tappa.localita = u"<b>"_s + ostile + QString::number(i);
         tappa.numStrada = u"<!--"_s;
     }
-    const QString html = Html(aperta);
+    const QString html = Html(letta);
     EXPECT_FALSE(html.contains(u"<img"_s) || html.contains(u"<b>"_s) || html.contains(u"<!--"_s));
     EXPECT_EQ(html.count(u"<a href=\"javascript"_s), 0);
     for (const auto& caso : casi) EXPECT_TRUE(html.contains(caso.atteso)) << caso.atteso.toStdString();

@@ -135,7 +135,7 @@ class Viaggi : public testing::Test {
         testo += RigaTotali(Testi(aperta.riepilogo.totali, aperta.riepilogo.guidaGiorno));
         testo += u"giorni\t%1\n\n"_s.arg(aperta.riepilogo.giorniMinimi);
 
-        const EsitoCalcolo esito = sessione_.Calcola(aperta, {}, progress_);
+        const EsitoCalcolo esito = sessione_.ApriECalcola(codice, {}, progress_).esito;
         const Cronovia& cronovia = *esito.cronovia;
         Coerenti(Giornate(cronovia, *aperta.meta.dataInizio), cronovia);
         SegnanoIGiorni(cronovia, *aperta.meta.dataInizio);
@@ -181,7 +181,7 @@ TEST_F(Viaggi, HaveTheirDays) {
         const MetaAperta aperta =
             Importa(QFile::exists(esempio) ? esempio : cartella.filePath(u"journeys/"_s + viaggio),
                     attese.section(u'\n', 0, 0));
-        const Cronovia cronovia = *sessione_.Calcola(aperta, {}, progress_).cronovia;
+        const Cronovia cronovia = *sessione_.ApriECalcola(aperta.meta.codice, {}, progress_).esito.cronovia;
         QString ottenute = aperta.meta.codice + u'\n';
         const std::vector<Giornata> giornate = Giornate(cronovia, *aperta.meta.dataInizio);
         const std::vector<StrisciaDelGiorno> strisce = Strisce(cronovia, giornate);

@@ -7,7 +7,6 @@
 
 #include "calendar/testo.h"
 #include "files/file_intero.h"
-#include "guide/guida_citta.h"
 #include "interaction/failure.h"
 
 namespace cronovia {
@@ -32,10 +31,7 @@ QString DescrizioneVoce(const VoceGuida& voce) {
 // What of a trip goes into the files.
 class RaccoltaPercorso {
   public:
-    explicit RaccoltaPercorso(const RichiestaEsportaPercorso& richiesta)
-        : richiesta_(richiesta), guida_(richiesta.archive) {
-        guida_.Anticipa(LocalitaDelleTappe(richiesta.tappe));
-    }
+    explicit RaccoltaPercorso(const RichiestaEsportaPercorso& richiesta) : richiesta_(richiesta) {}
 
     PercorsoDaScrivere Tratto(const QString& nome, int prima, int ultima, EsitoEsportaPercorso& esito) {
         PercorsoDaScrivere percorso{nome, {}, {}};
@@ -50,7 +46,7 @@ class RaccoltaPercorso {
             }
             percorso.tappe.push_back({tappa.localita, DescrizioneTappa(tappa), *dove.posizione});
             if (!conGuida.insert(tappa.localita).second) continue;
-            for (const VoceGuida& voce : *guida_.Voci(tappa.localita)) {
+            for (const VoceGuida& voce : *richiesta_.guida.Voci(tappa.localita)) {
                 percorso.guida.push_back({voce.descrizione, DescrizioneVoce(voce), *dove.posizione});
             }
         }
@@ -59,7 +55,6 @@ class RaccoltaPercorso {
 
   private:
     const RichiestaEsportaPercorso& richiesta_;
-    LettoreGuida guida_;
 };
 
 struct FilePercorso {

@@ -9,14 +9,16 @@
 #include <vector>
 
 #include "exchange/navigatori/scrittori_percorso.h"
+#include "guide/guida_citta.h"
 #include "itinerary/posizioni.h"
 
 namespace cronovia {
 
 /// What is to be written, and where.
 struct RichiestaEsportaPercorso {
-    Archive& archive;
-    QString path;  ///< of the file, or with days of the folder, which is made where there is none
+    const Archive& archive;  ///< no file of which is ever replaced
+    LettoreGuida& guida;     ///< of the stages' localities
+    QString path;            ///< of the file, or with days of the folder, which is made where there is none
     FormatoPercorso formato = FormatoPercorso::Gpx;
     bool sovrascrivi = false;  ///< a file that is there is replaced, else refused
     QString nome;              ///< of the trip

@@ -49,7 +49,8 @@ void PrendeLaTratta(Tappa& tappa, const Tappa& delPercorso) {
 class DoveSono {
   public:
     DoveSono(const RichiestaInserisciPercorso& richiesta, const RigheItinerario& righe)
-        : posizioni_(PosizioniDelViaggio(richiesta.archive, richiesta.gazzettino, righe, richiesta.nazione)) {
+        : posizioni_(PosizioniDelViaggio(PosizioniConfermate(richiesta.archive), richiesta.gazzettino, righe,
+                                         richiesta.nazione)) {
         for (const auto& [localita, posizione] : richiesta.percorso.posizioni) delFile_[localita] = posizione;
     }
     [[nodiscard]] std::optional<Posizione> Di(const RigheItinerario& righe, std::size_t posto) const {

@@ -58,11 +58,12 @@ PuntiVicini LocalitaDegliItinerari(Archive& archive, Gazzettino& gazzettino, Pro
     PuntiVicini punti;
     std::set<std::tuple<QString, double, double>> messe;
     const std::vector<MetaInElenco> mete = ElencoMete(archive, QualiMete::ConTappe);
+    const PosizioniConfermate confermate(archive);
     for (std::size_t m = 0; m < mete.size(); ++m) {
         HeedStop(progress);
         progress.Advance(static_cast<double>(m), static_cast<double>(mete.size()));
         const std::vector<Tappa> tappe = TappeMemorizzate(archive, mete[m].codice);
-        const std::vector<PosizioneTappa> dove = PosizioniDelViaggio(archive, gazzettino, tappe, mete[m].nazione);
+        const std::vector<PosizioneTappa> dove = PosizioniDelViaggio(confermate, gazzettino, tappe, mete[m].nazione);
         for (std::size_t t = 0; t < tappe.size(); ++t) {
             if (!dove[t].Certa() || !dove[t].posizione || tappe[t].localita.isEmpty()) continue;
             const Posizione& posizione = *dove[t].posizione;

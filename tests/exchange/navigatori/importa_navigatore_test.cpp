@@ -220,14 +220,15 @@ TEST_F(Esempi, ComeBackFromEachFormat) {
     ASSERT_GE(mete.size(), 3U);
     for (const MetaInElenco& meta : mete) {
         const std::vector<Tappa> tappe = TappeMemorizzate(archive_, meta.codice);
-        const auto posizioni = PosizioniDelViaggio(archive_, gazzettino, tappe, meta.nazione);
+        const auto posizioni = PosizioniDelViaggio(PosizioniConfermate(archive_), gazzettino, tappe, meta.nazione);
+        LettoreGuida guida(archive_);
         QStringList partite;
         for (std::size_t i = 0; i < tappe.size(); ++i) {
             if (posizioni[i].Certa()) partite += tappe[i].localita;
         }
         for (const FormatoPercorso formato : {FormatoPercorso::Gpx, FormatoPercorso::Kml, FormatoPercorso::Itn}) {
             const QString file = cartella_.Path() + u"/via"_s;
-            EsportaPercorso({archive_, file, formato, true, meta.localita, tappe, posizioni});
+            EsportaPercorso({archive_, guida, file, formato, true, meta.localita, tappe, posizioni});
             const auto percorso = LeggiPercorsoNavigatore(file, gazzettino);
             QStringList arrivate;
             for (const Tappa& tappa : percorso->tappe) arrivate += tappa.localita;
