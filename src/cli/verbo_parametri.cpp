@@ -38,13 +38,6 @@ Meta ConIDati(Meta meta, const std::vector<DatoNominato>& dati) {
     return meta;
 }
 
-void RifiutaDestinazionePresente(Archive& archivio, const Meta& meta) {
-    for (const MetaInElenco& altra : ElencoMete(archivio)) {
-        if (altra.codice == meta.codice || altra.localita.compare(meta.localita, Qt::CaseInsensitive) != 0) continue;
-        throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg(altra.localita, altra.codice));
-    }
-}
-
 // Hours that disagree are put in order, as they are in the window.
 Meta ConOrariInOrdine(Meta meta, const Meta& prima, QTextStream& uscita) {
     if (meta.parametri == prima.parametri) return meta;
@@ -64,7 +57,6 @@ void CambiaDati(Sessione& sessione, const Richiesta& richiesta, const std::vecto
     Transaction transaction(sessione.Archivio());
     const MetaAperta aperta = sessione.ApriMeta(richiesta.argomenti.first());
     Meta meta = ConOrariInOrdine(ConIDati(aperta.memorizzata, dati), aperta.memorizzata, uscita);
-    if (meta.localita != aperta.memorizzata.localita) RifiutaDestinazionePresente(sessione.Archivio(), meta);
     SalvaMeta(sessione.Archivio(), meta, {false, meta.codice});
     const int minimi = sessione.ApriMeta(meta.codice).riepilogo.giorniMinimi;
     transaction.Commit();

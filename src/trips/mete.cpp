@@ -38,15 +38,21 @@ void Rifiuta(const std::optional<DifettoMeta>& difetto) {
     if (difetto) throw Failure(difetto->messaggio);
 }
 
-std::optional<Record> StessaLocalita(Archive& archive, const Meta& meta) {
-    return archive.SelectFirst({Table::MeteVandro, {{mete::Localita, NamePattern::ForName(meta.localita.trimmed())}}});
+Search ConLaLocalitaDi(const Meta& meta) {
+    return {Table::MeteVandro, {{mete::Localita, NamePattern::ForName(meta.localita.trimmed())}}};
 }
 
-void RifiutaLocalitaPresente(Archive& archive, const Meta& nuova) {
-    if (const auto gia = StessaLocalita(archive, nuova)) {
-        throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*gia)[mete::Localita].trimmed(),
-                                                                       (*gia)[mete::CodiceMeta]));
-    }
+// When another trip has that destination than the one with the code, of which a new trip has none. A stored trip may
+// keep what it has, whatever an earlier release let in beside it.
+void RifiutaLocalitaAltrui(Archive& archive, const Meta& meta, const QString& codice) {
+    const std::vector<Record> uguali = archive.Select(ConLaLocalitaDi(meta));
+    const auto sua = [&](const Record& record) { return record[mete::CodiceMeta] == codice; };
+    const auto prima = std::find_if(uguali.begin(), uguali.end(), sua);
+    if (prima != uguali.end() && (*prima)[mete::Localita].trimmed() == meta.localita.trimmed()) return;
+    const auto altra = std::find_if_not(uguali.begin(), uguali.end(), sua);
+    if (altra == uguali.end()) return;
+    throw Failure(u"Esiste già la mèta %1 con il codice %2."_s.arg((*altra)[mete::Localita].trimmed(),
+                                                                   (*altra)[mete::CodiceMeta]));
 }
 
 // Within a transaction of the caller. A code that another window took meanwhile is left to it.
@@ -138,14 +144,18 @@ QString CodiceLibero(Archive& archive) {
 
 Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta) {
     Rifiuta(DifettoDellaMeta(meta));
-    if (ValoreNumerico(meta.codice) != 0) return {false, meta.codice};
-    if (const auto gia = StessaLocalita(archive, meta)) return {false, (*gia)[mete::CodiceMeta]};
+    if (ValoreNumerico(meta.codice) != 0) {
+        RifiutaLocalitaAltrui(archive, meta, meta.codice);
+        return {false, meta.codice};
+    }
+    if (const auto gia = archive.SelectFirst(ConLaLocalitaDi(meta))) return {false, (*gia)[mete::CodiceMeta]};
     return {true, CodiceLibero(archive)};
 }
 
 QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvataggio) {
     Rifiuta(DifettoDellaMeta(meta));
     Transaction transaction(archive);
+    RifiutaLocalitaAltrui(archive, meta, salvataggio.nuova ? QString() : salvataggio.codice);
     QString codice = Scrivi(archive, meta, salvataggio);
     transaction.Commit();
     return codice;
@@ -154,7 +164,7 @@ QString SalvaMeta(Archive& archive, const Meta& meta, const Salvataggio& salvata
 QString InserisciMeta(Archive& archive, const Meta& nuova) {
     Rifiuta(DifettoDellaMeta(nuova));
     Transaction transaction(archive);
-    RifiutaLocalitaPresente(archive, nuova);
+    RifiutaLocalitaAltrui(archive, nuova, {});
     QString codice = CodiceLibero(archive);
     Scrivi(archive, nuova, {true, codice});
     transaction.Commit();
@@ -202,7 +212,7 @@ QString RimettiMeta(Archive& archive, const MetaCancellata& cancellata) {
     Transaction transaction(archive);
     QString codice;
     for (Record meta : cancellata.meta) {
-        RifiutaLocalitaPresente(archive, MetaDaRecord(meta));
+        RifiutaLocalitaAltrui(archive, MetaDaRecord(meta), {});
         if (codice.isEmpty()) codice = meta[mete::CodiceMeta];
         if (archive.Exists(PerCodice(codice))) codice = CodiceLibero(archive);
         meta[mete::CodiceMeta] = codice;

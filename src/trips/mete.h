@@ -40,7 +40,8 @@ struct Salvataggio {
 };
 
 /// A trip with a code is changed. One without is new, unless a trip with its destination is stored: then that one is
-/// changed. Refused with the message of `DifettoDellaMeta`, as by all that save.
+/// changed. All that save refuse, as this does, with the message of `DifettoDellaMeta`, and a destination that another
+/// trip has, as the archive matches names; a stored trip may keep the one that it has.
 Salvataggio DecidiSalvataggio(Archive& archive, const Meta& meta);
 
 /// Carries it out, makes the trip the current one and returns its code, another one when a second window took that of
