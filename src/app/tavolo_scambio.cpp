@@ -34,15 +34,6 @@ void TavoloScambio::TrasferisceTutte(int lista) {
     da.clear();
 }
 
-QString TavoloScambio::FileProposto() const {
-    if (Scelte().empty()) return {};
-    QString nome = Scelte().front().localita;
-    for (QChar& c : nome) {
-        if (!c.isPrint() || u"\\/:*?\"<>|."_s.contains(c)) c = u'_';
-    }
-    return nome + u".iei"_s;
-}
-
 QString TavoloScambio::Etichetta(int lista) const {
     if (modo_ == ModoScambio::Export) {
         return lista == 0 ? u"Mète in memoria (da selezionare)"_s : u"Lista delle mète selezionate per l'EXPORT"_s;

@@ -38,10 +38,6 @@ class TavoloScambio {
     /// The same with all trips of a list.
     void TrasferisceTutte(int lista);
 
-    /// The name that an export's file is offered: of the first trip that is chosen, with "_" for what a file name may
-    /// not hold; empty while none is.
-    [[nodiscard]] QString FileProposto() const;
-
     /// Headings of the two lists, captions of the buttons that empty them, caption of the run; lists count from 0.
     [[nodiscard]] QString Etichetta(int lista) const;
     [[nodiscard]] QString ScrittaTutto(int lista) const;

@@ -18,6 +18,7 @@
 #include "app/comandi_scambio.h"
 #include "app/comandi_viaggio.h"
 #include "app/niente_perso.h"
+#include "exchange/iei/esporta_mete.h"
 #include "files/celle.h"
 #include "ui/archivio/controllo_in_pausa.h"
 #include "ui/archivio/frm_copie.h"
@@ -266,7 +267,7 @@ QString FormMete::ScegliFile(FileChiesto quale) {
         case FileChiesto::Import:
             return ScegliFileDaImportare(*this);
         case FileChiesto::Export:
-            return ScegliFileDaEsportare(*this, postazione_.Su<schermata::Scambio>()->tavolo.FileProposto());
+            return ScegliFileDaEsportare(*this, NomeFileExport(postazione_.Su<schermata::Scambio>()->tavolo.Scelte()));
         case FileChiesto::Percorso:
             return ScegliFilePercorso(*this);
         case FileChiesto::Soste:

@@ -62,7 +62,9 @@ std::optional<Stampato> ComandoStampaGuida::Prepara() {
 void ComandoStampaGuida::Stampa() {
     const std::optional<Stampato> documento = Prepara();
     if (!documento) return;
-    const auto uscita = ChiediUscita(ambiente_, stampante_.Scelta(), stampante_.SceltoFilePdf(), documento->titolo);
+    const QString& meta = ambiente_.postazione.documento.Campi().localita;
+    const QString nome = u"Guida Città "_s + (opzioni_->Opzioni().tutte ? QString() : meta);
+    const auto uscita = ChiediUscita(ambiente_, stampante_.Scelta(), stampante_.SceltoFilePdf(), nome);
     if (!uscita) return;
     comandi::StampaInCorso(ambiente_.postazione);
     const bool stampata = ambiente_.postazione.Prova([&] { uscita(*documento); });

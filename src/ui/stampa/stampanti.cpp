@@ -11,7 +11,6 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include "interaction/failure.h"
@@ -52,8 +51,6 @@ void Nomina(const QPrintPreviewDialog& anteprima) {
     }
 }
 
-QString NomeFile(QString titolo) { return titolo.remove(QRegularExpression(u"[\\\\/:*?\"<>|]"_s)).simplified(); }
-
 }  // namespace
 
 Stampanti StampantiDelSistema() {
@@ -67,7 +64,7 @@ QString ChiediFilePdf(QWidget& finestra, const QString& titolo) {
     QFileDialog dialogo(&finestra, u"Stampa su file PDF"_s, documenti.path(), u"File PDF (*.pdf)"_s);
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setDefaultSuffix(u"pdf"_s);
-    dialogo.selectFile(NomeFile(titolo) + u".pdf"_s);
+    dialogo.selectFile(NomeDiFile(titolo, u"Stampa") + u".pdf"_s);
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
 }
 
