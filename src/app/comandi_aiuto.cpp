@@ -44,16 +44,6 @@ QString ArgomentoDelManuale(const Schermata& schermata) {
 
 QString ArgomentoDeiTasti() { return kCapitoloTasti.toString(); }
 
-QStringList ArgomentiDelManuale() {
-    QStringList argomenti;
-    for (const QStringView argomento :
-         {kCapitoloInizio, kCapitoloMeta, kCapitoloTappe, kCapitoloCronovia, kCapitoloStampa, kCapitoloGuida,
-          kCapitoloCopia, kCapitoloScambio, kCapitoloTasti}) {
-        argomenti += argomento.toString();
-    }
-    return argomenti;
-}
-
 QString Riconoscimenti() {
     return u"Cronovia è software libero: licenza GNU GPL, versione 3 o successiva, senza alcuna garanzia.\n\n"
            "Usa Qt (GNU LGPL 3), SQLite (pubblico dominio), SQLiteCpp (MIT) e i caratteri Liberation (SIL OFL 1.1).\n\n"

@@ -11,8 +11,6 @@ namespace cronovia {
 /// The chapter of the manual about what is in front, and that of the keys, by their headings.
 QString ArgomentoDelManuale(const Schermata& schermata);
 QString ArgomentoDeiTasti();
-/// All that may be asked for.
-QStringList ArgomentiDelManuale();
 
 /// Whose work the program and its data stand on, and under which licences; lines.
 QString Riconoscimenti();

@@ -21,10 +21,6 @@ std::optional<int> Parte(QStringView testo, int cifre, int minimo, int massimo) 
 
 }  // namespace
 
-Gma LeggiGma(QStringView data) {
-    return {ValoreNumerico(data.mid(0, 2)), ValoreNumerico(data.mid(2, 2)), ValoreNumerico(data.mid(4))};
-}
-
 QString TestoGma(const Gma& gma) { return Zero(gma.giorno, 2) + Zero(gma.mese, 2) + Zero(gma.anno, 4); }
 
 NumeroGiorno NumeroDelGiorno(const Gma& gma) {
@@ -75,11 +71,6 @@ int GiorniMese(int anno, int mese) {
         default:
             return 28;
     }
-}
-
-QString GiornoSettimana(QStringView data) {
-    if (data.size() != 8) return {};
-    return GiornoSettimana(NumeroDelGiorno(LeggiGma(data)));
 }
 
 QString GiornoSettimana(NumeroGiorno giorno) {

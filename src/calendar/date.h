@@ -41,8 +41,7 @@ class NumeroGiorno {
     int numero_ = 0;
 };
 
-/// The day of a text ddmmyyyy, part by part, whatever its digits tell; and the text of a day.
-Gma LeggiGma(QStringView data);
+/// The text ddmmyyyy of a day.
 QString TestoGma(const Gma& gma);
 
 /// Number of a day, after the formula d + [30.57 m] + [365.25 y - 395.25], less 1 after February and less another one
@@ -56,8 +55,7 @@ QString TestoData(NumeroGiorno giorno);        ///< the day as dd/mm/yyyy
 /// Days in a month, after the Gregorian rule; 28 for a month that does not exist.
 int GiorniMese(int anno, int mese);
 
-/// "Sab", "Dom", "Lun", "Mar", "Mer", "Gio" or "Ven"; the empty text when a date ddmmyyyy has not eight characters.
-QString GiornoSettimana(QStringView data);
+/// "Sab", "Dom", "Lun", "Mar", "Mer", "Gio" or "Ven".
 QString GiornoSettimana(NumeroGiorno giorno);
 
 /// The first and the last day that a journey may have.

@@ -15,8 +15,6 @@ class FileIntero {
     /// Begins the file beside its place.
     explicit FileIntero(const QString& path);
 
-    /// For who writes through a device; what goes wrong there turns up in `Completa`.
-    [[nodiscard]] QIODevice& Dispositivo() { return file_; }
     void Scrivi(const QByteArray& byte);
     /// Hands all that was written to the disk, and finds out whether it had room.
     void Completa();

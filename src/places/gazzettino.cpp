@@ -101,8 +101,6 @@ bool Gazzettino::Pronto() {
 }
 
 bool Gazzettino::Disponibile() { return Pronto(); }
-int Gazzettino::Luoghi() { return Pronto() ? luoghi_ : 0; }
-int Gazzettino::Nomi() { return Pronto() ? nomi_ : 0; }
 
 // The name that begins at `posto`, which goes on to the next one; nothing behind the last one.
 std::optional<Gazzettino::NomeLetto> Gazzettino::Leggi(std::size_t& posto) {
@@ -262,14 +260,6 @@ std::optional<Luogo> Gazzettino::PiuVicino(const Posizione& posizione, double en
     Luogo luogo = Descrivi(vicino);
     luogo.trovato = luogo.nome;
     return DistanzaKm(luogo.posizione, posizione) <= entroKm ? std::optional(luogo) : std::nullopt;
-}
-
-void Gazzettino::PerOgniNome(const std::function<void(const QString&, int)>& visita) {
-    if (!Pronto()) return;
-    Scorri(0, [&](const NomeIntero& intero) {
-        visita(intero.nome, intero.letto.luogo);
-        return true;
-    });
 }
 
 }  // namespace cronovia

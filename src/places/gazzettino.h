@@ -44,9 +44,6 @@ class Gazzettino {
     [[nodiscard]] const QString& File() const { return file_.NomeFile(); }
     /// Whether there is a file of places that can be read.
     bool Disponibile();
-    /// How many places and names it knows.
-    int Luoghi();
-    int Nomi();
 
     /// Those that are called so, written in any way; each once, with the best of its names. Where nobody is called
     /// exactly so, those whose name goes on with another word. The bigger ones first, 48 at most.
@@ -58,9 +55,6 @@ class Gazzettino {
 
     /// The place that is nearest, if it lies within so many kilometres; parts of a town do not count.
     std::optional<Luogo> PiuVicino(const Posizione& posizione, double entroKm);
-
-    /// All names in their order, with the `numero` of their place, for who looks at the whole file.
-    void PerOgniNome(const std::function<void(const QString& nome, int luogo)>& visita);
 
   private:
     // The mapped file; a copy or move of the object begins anew.

@@ -66,11 +66,4 @@ QStringList TestiRinvii(const Giornata& giornata, const Cronovia& cronovia, cons
     return testi;
 }
 
-QString TestoSole(const SoleGiornata& sole) {
-    QStringList parti;
-    if (sole.alba) parti += u"alba "_s + OraSulQuadrante(*sole.alba);
-    if (sole.tramonto) parti += u"tramonto "_s + OraSulQuadrante(*sole.tramonto);
-    return parti.join(u", "_s);
-}
-
 }  // namespace cronovia

@@ -29,7 +29,4 @@ std::vector<Tappa> TappeCalcolate(const Cronovia& cronovia);
 /// The reasons of a day and behind them, when it ends in the dark, "arrivo a ALTA dopo il tramonto (21:07)".
 QStringList TestiRinvii(const Giornata& giornata, const Cronovia& cronovia, const SoleGiornata& sole);
 
-/// "alba 5:41, tramonto 21:07"; what is not known is left out.
-QString TestoSole(const SoleGiornata& sole);
-
 }  // namespace cronovia

@@ -132,11 +132,12 @@ TEST_F(LuoghiTest, TellWhenTheSunHasSet) {
     const auto soli =
         SoleDelleGiornate(giornate, cronovia, luoghi_.Posizioni(Archivio(), TappeCalcolate(cronovia), meta.nazione));
     ASSERT_EQ(soli.size(), giornate.size());
-    EXPECT_EQ(TestoSole(soli[0]), u"alba 8:01, tramonto 16:47"_s);
+    EXPECT_EQ(soli[0].alba, 8 * 60 + 1);
+    EXPECT_EQ(soli[0].tramonto, 16 * 60 + 47);
     EXPECT_EQ(TestiRinvii(giornate[0], cronovia, soli[0]).back(), u"arrivo ad AOSTA dopo il tramonto (16:47)"_s);
     EXPECT_TRUE(soli.back().arrivoAlBuio.isEmpty());
     const auto ignote = SoleDelleGiornate(giornate, cronovia, {});
-    EXPECT_EQ(TestoSole(ignote[0]), QString());
+    EXPECT_FALSE(ignote[0].alba || ignote[0].tramonto);
     EXPECT_TRUE(ignote[0].arrivoAlBuio.isEmpty());
 }
 

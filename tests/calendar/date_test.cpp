@@ -29,7 +29,7 @@ TEST(Date, EveryDayFrom1901To2099IsConsecutiveAndComesBack) {
     }
     EXPECT_EQ(NumeroDelGiorno(Gma{5, 8, 2004}).Numero(), 731813);
     EXPECT_EQ(TestoData(NumeroGiorno(731813)), u"05/08/2004"_s);
-    EXPECT_EQ(GiornoSettimana(u"05082004"), u"Gio"_s);
+    EXPECT_EQ(GiornoSettimana(NumeroGiorno(731813)), u"Gio"_s);
 }
 
 TEST(Date, TextsThatAreNoDayAreRefused) {

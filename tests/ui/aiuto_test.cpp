@@ -7,6 +7,7 @@
 #include <QTextBrowser>
 
 #include "app/comandi_aiuto.h"
+#include "exchange/iei/importa_mete.h"
 #include "print/pagina.h"
 #include "store/copies.h"
 #include "support/prova.h"
@@ -23,11 +24,26 @@ TEST(Manuale, HasAChapterForEachScreenAndAllItsPictures) {
     QWidget finestra;
     FinestraManuale manuale(finestra);
     auto& testo = *manuale.findChild<QTextBrowser*>();
-    for (const QString& argomento : ArgomentiDelManuale()) {
+    const auto siApre = [&](const QString& argomento) {
         manuale.VaiA(argomento);
         EXPECT_EQ(testo.textCursor().block().text(), argomento);
         EXPECT_EQ(manuale.findChild<QListWidget*>()->currentItem()->text(), argomento);
-    }
+    };
+    const QTemporaryDir cartella;
+    Sessione sessione(cartella.path());
+    Progress muto;
+    ImportaMete({sessione.Archivio(), QStringLiteral(CRONOVIA_EXAMPLES "/provenza.iei"), {}}, muto);
+    siApre(ArgomentoDelManuale(schermata::Viaggio()));
+    siApre(ArgomentoDelManuale(schermata::Viaggio{schermata::Viaggio::Fase::Aperta}));
+    siApre(ArgomentoDelManuale(schermata::ElencoMete()));
+    siApre(ArgomentoDelManuale(schermata::Inserimento()));
+    siApre(ArgomentoDelManuale(schermata::Cronovia()));
+    siApre(ArgomentoDelManuale(schermata::Stampa()));
+    siApre(ArgomentoDelManuale(schermata::Guida()));
+    siApre(ArgomentoDelManuale(schermata::Guida{nullptr, schermata::PassoStampa()}));
+    siApre(ArgomentoDelManuale(schermata::Copia{TavoloCopia(sessione), {}}));
+    siApre(ArgomentoDelManuale(schermata::Scambio{TavoloScambio(ModoScambio::Export, {}, {})}));
+    siApre(ArgomentoDeiTasti());
     for (const QString& tasto : {u"Calcola la cronovia del viaggio"_s, u"Alt+Up"_s, u"F8"_s, u"Ctrl+M"_s}) {
         EXPECT_TRUE(testo.toPlainText().contains(tasto)) << tasto.toStdString();
     }

@@ -77,6 +77,7 @@
 #include "exchange/scambio.h"
 #include "support/parole.h"
 #include "ui/finestra.h"
+#include "ui/giornate/striscia_giornata.h"
 #include "ui/giornate/vista_giornate.h"
 
 namespace cronovia {
@@ -219,8 +220,11 @@ class SessioniTest : public prova::FinestraTest, public testing::WithParamInterf
     void SullaStriscia(const QStringList& p, const std::function<void(VistaGiornate&, QPoint)>& azione) {
         auto& vista = Usabile<VistaGiornate>(p[0]);
         const QTime ora = QTime::fromString(p[2], u"H:mm"_s);
-        vista.scrollTo(vista.model()->index(p[1].toInt() - 1, 0));
-        azione(vista, vista.Punto(p[1].toInt() - 1, InCentesimi({0, ora.hour(), ora.minute()}, kGiornoOrologio)));
+        const QModelIndex giornata = vista.model()->index(p[1].toInt() - 1, 0);
+        vista.scrollTo(giornata);
+        const QRect striscia = vista.Striscia(vista.visualRect(giornata));
+        const Centesimi centesimi = InCentesimi({0, ora.hour(), ora.minute()}, kGiornoOrologio);
+        azione(vista, {qRound(AscissaDellOra(striscia, centesimi)), striscia.center().y()});
     }
 
     void Clicca(const QString& nome, const QString& quale) {

@@ -140,11 +140,6 @@ QRect VistaGiornate::Striscia(const QRect& riga) const {
             alta};
 }
 
-QPoint VistaGiornate::Punto(int giornata, Centesimi ora) const {
-    const QRect striscia = Striscia(visualRect(modello_.index(giornata)));
-    return {qRound(AscissaDellOra(striscia, ora)), striscia.center().y()};
-}
-
 void VistaGiornate::Segna(int riga) {
     if (riga == segnata_) return;
     segnata_ = riga;

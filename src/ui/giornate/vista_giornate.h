@@ -21,8 +21,6 @@ class VistaGiornate : public QListView {
 
     /// Where the strip of a row of the list lies that takes this rectangle.
     [[nodiscard]] QRect Striscia(const QRect& riga) const;
-    /// The middle of a day's strip at an hour.
-    [[nodiscard]] QPoint Punto(int giornata, Centesimi ora) const;
     /// What is told of the bar at a point; empty where there is none.
     [[nodiscard]] QString Istruzione(const QPoint& punto) const;
     [[nodiscard]] QSize sizeHint() const override;
