@@ -2,6 +2,7 @@
 // elenca, nuova.
 #include <QDateTime>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "calendar/date.h"
 #include "calendar/durata.h"
@@ -9,7 +10,7 @@
 #include "cli/json.h"
 #include "cli/record_testi.h"
 #include "cli/verbi.h"
-#include "trips/meta.h"
+#include "trips/mete.h"
 
 namespace cronovia {
 
@@ -17,10 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TabellaTesti TabellaDelleMete(const std::vector<Record>& record) {
+TabellaTesti TabellaDelleMete(std::vector<MetaInElenco> mete) {
+    std::ranges::stable_sort(mete, {}, &MetaInElenco::codice);
     TabellaTesti tabella{{u"Codice"_s, u"Mèta"_s, u"Nazione"_s, u"Partenza"_s, u"Giorni"_s}, {}, {4}};
-    for (const Record& riga : record) {
-        const Meta meta = MetaDaRecord(riga);
+    for (const MetaInElenco& meta : mete) {
         const QString data =
             meta.dataInizio ? GiornoSettimana(*meta.dataInizio) + u' ' + TestoData(*meta.dataInizio) : QString();
         const QString ora = TestoOrario(meta.oraInizio);
@@ -48,16 +49,21 @@ QDateTime LeggiInizio(const QString& testo) {
 
 void EseguiElenca(const ApriSessione& apri, const Richiesta& richiesta, QTextStream& uscita) {
     Sessione sessione = apri();
+    if (richiesta.formato == Formato::Testo) {
+        const std::vector<MetaInElenco> mete = ElencoMete(sessione.Archivio());
+        if (mete.empty()) {
+            uscita << u"Nessuna mèta nel database!\n"_s;
+        } else {
+            ScriviAllineata(TabellaDelleMete(mete), uscita);
+        }
+        return;
+    }
     const std::vector<Record> record = sessione.Archivio().Select({Table::MeteVandro, {}}, {mete::CodiceMeta});
     if (richiesta.formato == Formato::Json) {
         ScrittoreJson json(uscita);
         ScriviRecord(Table::MeteVandro, record, json);
-    } else if (richiesta.formato == Formato::Tsv) {
-        ScriviTsv(TestiDeiRecord(Table::MeteVandro, record), uscita);
-    } else if (record.empty()) {
-        uscita << u"Nessuna mèta nel database!\n"_s;
     } else {
-        ScriviAllineata(TabellaDelleMete(record), uscita);
+        ScriviTsv(TestiDeiRecord(Table::MeteVandro, record), uscita);
     }
 }
 

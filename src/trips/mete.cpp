@@ -175,10 +175,10 @@ std::vector<MetaInElenco> ElencoMete(Archive& archive, QualiMete quali) {
     const ReadSnapshot momento(archive);
     std::vector<MetaInElenco> elenco;
     for (const Record& record : archive.Select({Table::MeteVandro, {}}, {mete::Localita})) {
-        MetaInElenco meta{record[mete::CodiceMeta], record[mete::Localita].trimmed(), record[mete::Nazione].trimmed(),
-                          MetaDaRecord(record).dataInizio, false};
+        const Meta meta = MetaDaRecord(record);
         if (quali == QualiMete::Tutte || (!meta.localita.isEmpty() && HaTappe(archive, meta.codice))) {
-            elenco.push_back(std::move(meta));
+            elenco.push_back({meta.codice, meta.localita, meta.nazione, meta.dataInizio, false, meta.oraInizio,
+                              meta.giorniAdeguamento});
         }
     }
     return elenco;

@@ -58,6 +58,8 @@ struct MetaInElenco {
     QString nazione;
     std::optional<NumeroGiorno> dataInizio = {};  ///< nothing when it is not known
     bool presente = false;                        ///< a trip of a file whose destination the archive has already
+    Centesimi oraInizio = {};                     ///< of a trip of the archive, as what follows
+    int giorniAdeguamento = 0;                    ///< wanted, 0 for as many as needed
 
     friend bool operator==(const MetaInElenco&, const MetaInElenco&) = default;
 };
