@@ -3,7 +3,6 @@
 // there (one, as often as the last one says). What must hold: the archive is refused with a sentence, or it opens and
 // is read to its end (every trip of the list, unless damage was told), and then what is computed from it ends too.
 #include <QBuffer>
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <tuple>
@@ -68,8 +67,7 @@ void LeggiTutto(const QString& cartella) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
     static const QByteArray intero = ArchivioConEsempio();
-    static const QString memoria = QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath();
-    const QTemporaryDir cartella(memoria + u"/cronovia-fuzz-XXXXXX"_s);
+    const CartellaInMemoria cartella;
     QByteArray byte = intero;
     Guasta(byte, dati, quanti);
     {

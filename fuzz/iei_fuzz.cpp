@@ -2,8 +2,6 @@
 // Exchange files made of anything: the list of their trips, and the import into an archive. What must hold for each:
 // nothing crashes, every listed trip is taken or known already, and a second import finds them all.
 #include <QBuffer>
-#include <QDir>
-#include <QTemporaryDir>
 
 #include "archivio_di_prova.h"
 #include "exchange/iei/elenco_mete.h"
@@ -37,9 +35,7 @@ qint64 ContaMete(QByteArray& file) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
-    // In memory where the system has such a folder; what an archive costs on disk would be all that is measured.
-    static const QString memoria = QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath();
-    static const QTemporaryDir cartella(memoria + u"/cronovia-fuzz-XXXXXX"_s);
+    static const CartellaInMemoria cartella;
     static Archive archive = Archive::Open(cartella.path());
     QByteArray file(reinterpret_cast<const char*>(dati), static_cast<qsizetype>(quanti));
     Pretendi(SeparaColonne(file).valori.size() <= Colonne::kMassimo);

@@ -3,9 +3,7 @@
 // an empty archive is exported from there again with as much in it, and from the second time on byte for byte; the
 // first import gives the trips the codes of their order.
 #include <QBuffer>
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include "archivio_di_prova.h"
 #include "exchange/iei/esporta_mete.h"
@@ -53,8 +51,7 @@ Esportato Passa(const Esportato& da, Archive& a, const QString& path) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
-    static const QString memoria = QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath();
-    static const QTemporaryDir cartella(memoria + u"/cronovia-fuzz-XXXXXX"_s);
+    static const CartellaInMemoria cartella;
     static Archive primo = Archive::Open(cartella.filePath(u"primo"_s));
     static Archive secondo = Archive::Open(cartella.filePath(u"secondo"_s));
     const QString path = cartella.filePath(u"viaggi.iei"_s);

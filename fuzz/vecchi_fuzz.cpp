@@ -5,7 +5,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QIODevice>
-#include <QTemporaryDir>
 
 #include "archivio_di_prova.h"
 #include "exchange/vecchi/converti.h"
@@ -64,9 +63,7 @@ std::vector<Record> Tutto(Archive& archive) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
-    // In memory where the system has such a folder; what an archive costs on disk would be all that is measured.
-    static const QString memoria = QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath();
-    static const QTemporaryDir temporanea(memoria + u"/cronovia-fuzz-XXXXXX"_s);
+    static const CartellaInMemoria temporanea;
     static Archive archive = Archive::Open(temporanea.path());
     const QDir cartella(temporanea.path());
     const Ingresso ingresso = Taglia(QByteArray(reinterpret_cast<const char*>(dati), static_cast<qsizetype>(quanti)));

@@ -128,6 +128,15 @@ void ScrittoreJson::Consegna() {
     scritto_.clear();
 }
 
+void ScriviOggetto(const QMap<QString, QString>& membri, ScrittoreJson& json) {
+    json.ApreOggetto();
+    for (auto membro = membri.constBegin(); membro != membri.constEnd(); ++membro) {
+        json.Nome(membro.key());
+        json.Testo(membro.value());
+    }
+    json.ChiudeOggetto();
+}
+
 void ScriviRecord(Table tabella, const std::vector<Record>& record, ScrittoreJson& json) {
     const std::vector<FieldDefinition>& campi = Definition(tabella).fields;
     std::vector<std::size_t> ordine(campi.size());

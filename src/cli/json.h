@@ -2,6 +2,7 @@
 // Results as JSON.
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringView>
 #include <QTextStream>
@@ -56,6 +57,9 @@ class ScrittoreJson {
     bool primo_ = true;      // of its array or object
     bool dopoNome_ = false;  // a value on the line of its name
 };
+
+/// Names with their texts as an object.
+void ScriviOggetto(const QMap<QString, QString>& membri, ScrittoreJson& json);
 
 /// Records as objects with their field names; blanks at the rim of a value, which only stand for an empty one, go.
 void ScriviRecord(Table tabella, const std::vector<Record>& record, ScrittoreJson& json);

@@ -36,12 +36,7 @@ void ScriviOggetti(const TabellaTesti& tabella, QTextStream& uscita) {
     for (const QStringList& riga : tabella.righe) {
         QMap<QString, QString> membri;
         for (qsizetype i = 0; i < riga.size(); ++i) membri[tabella.intestazioni.at(i)] = riga.at(i);
-        json.ApreOggetto();
-        for (auto membro = membri.constBegin(); membro != membri.constEnd(); ++membro) {
-            json.Nome(membro.key());
-            json.Testo(membro.value());
-        }
-        json.ChiudeOggetto();
+        ScriviOggetto(membri, json);
     }
     json.ChiudeArray();
 }

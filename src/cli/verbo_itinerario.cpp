@@ -64,12 +64,7 @@ void ScriviTappe(const std::vector<Record>& record, std::span<const Tappa> tappe
                 if (!valori[i].isEmpty()) membri[Definition(Table::Vincoli).fields[i].name] = valori[i];
             }
         }
-        json.ApreOggetto();
-        for (auto membro = membri.constBegin(); membro != membri.constEnd(); ++membro) {
-            json.Nome(membro.key());
-            json.Testo(membro.value());
-        }
-        json.ChiudeOggetto();
+        ScriviOggetto(membri, json);
     }
     json.ChiudeArray();
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // parametri.
-#include <algorithm>
+#include <QMap>
 
 #include "calendar/testo.h"
 #include "cli/json.h"
 #include "cli/verbi.h"
-#include "interaction/failure.h"
 #include "trips/dati_meta.h"
 #include "trips/mete.h"
 #include "trips/orario.h"
@@ -16,17 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void ScriviDati(std::vector<DatoMeta> dati, Formato formato, QTextStream& uscita) {
+void ScriviDati(const std::vector<DatoMeta>& dati, Formato formato, QTextStream& uscita) {
     if (formato == Formato::Json) {
-        std::sort(dati.begin(), dati.end(), [](const DatoMeta& a, const DatoMeta& b) { return a.nome < b.nome; });
+        QMap<QString, QString> membri;
+        for (const DatoMeta& dato : dati) membri[dato.nome] = dato.valore;
         ScrittoreJson json(uscita);
-        json.ApreOggetto();
-        for (const DatoMeta& dato : dati) {
-            json.Nome(dato.nome);
-            json.Testo(dato.valore);
-        }
-        json.ChiudeOggetto();
-        return;
+        return ScriviOggetto(membri, json);
     }
     TabellaTesti tabella{{u"Nome"_s, u"Valore"_s}, {}, {}};
     for (const DatoMeta& dato : dati) tabella.righe.push_back({dato.nome, dato.valore});
