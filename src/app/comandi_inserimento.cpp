@@ -130,11 +130,21 @@ void AzzeraSoste(Postazione& p) {
                   [&] { return cronovia::AzzeraSoste(p.documento.Righe()); });
 }
 
+// The way home begins where the way out has been already.
+QString SenzaRitorno(const RigheItinerario& tappe) {
+    const QString testo = u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s;
+    if (tappe.size() < 2) return testo;
+    return testo +
+           u"\n\nInserisci prima la località da cui riprendi la strada dell'andata, per esempio %1: da lì il ritorno "
+           "si aggiunge da solo."_s.arg(tappe[tappe.size() - 2].localita);
+}
+
 void Ritorno(Postazione& p) {
     if (!TappaNonPersa(p)) return;
     ItinerarioConTratto esito = cronovia::Ritorno(p.documento.Righe());
     if (!esito.trovata) {
-        p.Mostra(u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s);
+        p.Mostra(SenzaRitorno(esito.righe));
+        esito.rigaCorrente = static_cast<int>(esito.righe.size()) + 1;  // what is typed next replaces no stage
     }
     Modifica(p, u"ritorno alla partenza"_s, std::move(esito.righe), esito.rigaCorrente);
 }
