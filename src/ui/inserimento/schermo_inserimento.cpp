@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/inserimento/schermo_inserimento.h"
 
+#include <QShortcut>
 #include <algorithm>
 
 #include "app/comandi_inserimento.h"
@@ -64,6 +65,19 @@ void SchermoInserimento::Collega() {
         FuocoSullaTappa();
     });
     connect(&elenco_, &ElencoScelta::Rinuncia, this, &SchermoInserimento::ChiudiElenco);
+    SpostaDalNome();
+}
+
+// A click on a row leads to its name: from there too the row is moved, while nothing is typed.
+void SchermoInserimento::SpostaDalNome() {
+    for (const Comando comando : {Comando::SpostaSu, Comando::SpostaGiu}) {
+        auto* tasto = new QShortcut(TastoDi(comando), &riquadro_->CasellaTappa());
+        tasto->setContext(Qt::WidgetShortcut);
+        connect(tasto, &QShortcut::activated, this, [this, comando] {
+            const schermata::Inserimento* tappa = postazione_.TappaInScrittura();
+            if (tappa != nullptr && tappa->campi == tappa->letti) azioni_.Di(comando).trigger();
+        });
+    }
 }
 
 void SchermoInserimento::Raccogli() {

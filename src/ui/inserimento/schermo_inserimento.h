@@ -38,6 +38,7 @@ class SchermoInserimento : public QObject, public Schermo {
     void ChiudiElenco();
     void FuocoSullaTappa();
     void FuocoDopoInserisce();
+    void SpostaDalNome();
     std::optional<double> Diretta(const QString& localita);
 
     Postazione& postazione_;
