@@ -50,6 +50,17 @@ std::optional<int> LeggiDecimale(const QString& testo, int decimali) {
     return ValoreNumerico(interi + cifre.leftJustified(decimali, u'0'));
 }
 
+std::optional<int> LeggiEuro(const QString& testo, int decimali) {
+    constexpr QChar kEuro(u'\u20ac');
+    QString somma = testo.trimmed();
+    if (somma.endsWith(kEuro)) {
+        somma.chop(1);
+    } else if (somma.startsWith(kEuro)) {
+        somma.remove(0, 1);
+    }
+    return LeggiDecimale(somma, decimali);
+}
+
 QString TestoDecimale(int numero, int decimali, int minimi) {
     int potenza = 1;
     for (int i = 0; i < decimali; ++i) potenza *= 10;

@@ -20,7 +20,10 @@ std::optional<NumeroGiorno> LeggiDataDigitata(const QString& testo);
 /// refused but with three decimals. Nothing for any other text, nor for more than 9 digits in all.
 std::optional<int> LeggiDecimale(const QString& testo, int decimali);
 
-/// The same number in the words of people: "1.234,50"; of its decimals at least `minimi` are shown.
+/// The same of a sum of money, which the sign of the euro may stand before or behind: "1,95 €".
+std::optional<int> LeggiEuro(const QString& testo, int decimali);
+
+/// Such a number in the words of people: "1.234,50"; of its decimals at least `minimi` are shown.
 QString TestoDecimale(int numero, int decimali, int minimi);
 
 /// An amount of money: "1.234,50 €".

@@ -158,7 +158,7 @@ std::optional<Prezzo> Prezzo::Da(int centesimiDiEuro) {
 }
 
 std::optional<Prezzo> Prezzo::Leggi(const QString& testo) {
-    const std::optional<int> centesimi = LeggiDecimale(testo, 2);
+    const std::optional<int> centesimi = LeggiEuro(testo, 2);
     return centesimi ? Da(*centesimi) : std::nullopt;
 }
 

@@ -42,7 +42,8 @@ PrezziLetti LeggiPrezzi(std::span<const QString> testi) {
     for (std::size_t i = 0; i < kForme.size() && i < testi.size(); ++i) {
         if (testi[i].trimmed().isEmpty()) continue;
         const Forma& forma = kForme[i];
-        const std::optional<int> valore = LeggiDecimale(testi[i], forma.decimali);
+        const bool euro = forma.valore != &PrezziViaggio::kmLitro;
+        const std::optional<int> valore = (euro ? &LeggiEuro : &LeggiDecimale)(testi[i], forma.decimali);
         if (valore && *valore >= forma.minimo && *valore <= forma.massimo) {
             letti.prezzi.*forma.valore = valore;
         } else {
