@@ -132,7 +132,7 @@ void AzzeraSoste(Postazione& p) {
 
 // The way home begins where the way out has been already.
 QString SenzaRitorno(const RigheItinerario& tappe) {
-    const QString testo = u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s;
+    QString testo = u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s;
     if (tappe.size() < 2) return testo;
     return testo +
            u"\n\nInserisci prima la località da cui riprendi la strada dell'andata, per esempio %1: da lì il ritorno "
