@@ -23,6 +23,7 @@
 #include "exchange/iei/importa_mete.h"
 #include "schermo_di_prova.h"
 #include "ui/form_mete.h"
+#include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 namespace {
@@ -69,7 +70,7 @@ class FirstPaint : public QObject {
 };
 
 int ShowProgram(const QString& folder) {
-    FormMete window(folder, &QDateTime::currentDateTime);
+    FormMete window(folder, &QDateTime::currentDateTime, StampantiDelSistema());
     const FirstPaint watcher(window);
     window.show();
     return QApplication::exec();

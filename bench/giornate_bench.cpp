@@ -19,6 +19,7 @@
 #include "itinerary/itinerari.h"
 #include "schermo_di_prova.h"
 #include "ui/form_mete.h"
+#include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 namespace {
@@ -55,7 +56,7 @@ class Finestra {
   public:
     Finestra(int tappe, bool pannello) {
         Riempi(cartella_.path(), tappe);
-        form_ = std::make_unique<FormMete>(cartella_.path(), &QDateTime::currentDateTime);
+        form_ = std::make_unique<FormMete>(cartella_.path(), &QDateTime::currentDateTime, StampantiDelSistema());
         form_->show();
         form_->findChild<QDockWidget*>(u"pannelloGiornate"_s)->setVisible(pannello);
     }

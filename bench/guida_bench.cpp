@@ -15,6 +15,7 @@
 #include "schermo_di_prova.h"
 #include "trips/mete.h"
 #include "ui/form_mete.h"
+#include "ui/stampa/stampanti.h"
 
 namespace cronovia {
 namespace {
@@ -62,7 +63,7 @@ void Premi(QWidget& finestra, const QString& nome) {
 void Schermo(benchmark::State& state) {
     const QTemporaryDir cartella;
     Riempi(cartella.path(), static_cast<int>(state.range(0)));
-    FormMete finestra(cartella.path(), &QDateTime::currentDateTime);
+    FormMete finestra(cartella.path(), &QDateTime::currentDateTime, StampantiDelSistema());
     finestra.show();
     for (auto _ : state) {
         Premi(finestra, u"cmdGuidaCitta"_s);
