@@ -42,6 +42,15 @@ void CambiaLeSoste(Postazione& p, const CambioSoste& cambio, const std::function
     Modifica(p, cambio.nome, std::move(righe), p.documento.RigaCorrente());
 }
 
+// The way home begins where the way out has been already.
+QString SenzaRitorno(const RigheItinerario& tappe) {
+    QString testo = u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s;
+    if (tappe.size() < 2) return testo;
+    return testo +
+           u"\n\nInserisci prima la località da cui riprendi la strada dell'andata, per esempio %1: da lì il ritorno "
+           "si aggiunge da solo."_s.arg(tappe[tappe.size() - 2].localita);
+}
+
 }  // namespace
 
 schermata::Inserimento NuovoInserimento(const Documento& documento) {
@@ -128,15 +137,6 @@ void AzzeraSoste(Postazione& p) {
                   {u"Vuoi azzerare le soste indicate nell'itinerario?"_s, u"cancellazione"_s,
                    u"Azzera soste itinerario"_s, u"azzeramento delle soste"_s},
                   [&] { return cronovia::AzzeraSoste(p.documento.Righe()); });
-}
-
-// The way home begins where the way out has been already.
-QString SenzaRitorno(const RigheItinerario& tappe) {
-    QString testo = u"Nessun ritorno da inserire: la località dell'ultima tappa non è tra quelle già toccate."_s;
-    if (tappe.size() < 2) return testo;
-    return testo +
-           u"\n\nInserisci prima la località da cui riprendi la strada dell'andata, per esempio %1: da lì il ritorno "
-           "si aggiunge da solo."_s.arg(tappe[tappe.size() - 2].localita);
 }
 
 void Ritorno(Postazione& p) {

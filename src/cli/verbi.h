@@ -79,13 +79,13 @@ std::vector<DatoNominato> DatiNominati(const QStringList& argomenti, qsizetype p
 /// `WrongUsage` when an argument, of which `cosa` is the name, holds control characters.
 void RifiutaCaratteriDiControllo(const QString& cosa, const QString& testo);
 
-/// One verb, for the help and for running it.
 /// Data that a verb takes as nome=valore: their names, and what can be given.
 struct DatoDetto {
     QString nomi;
     QString descrizione;
 };
 
+/// One verb, for the help and for running it.
 struct Verbo {
     QString nome;
     QString argomenti;  ///< as the help shows them
@@ -95,8 +95,8 @@ struct Verbo {
     int massimoArgomenti = 0;  ///< -1: any number
     bool conFormato = false;   ///< answers in the format wanted
     ProceduraVerbo esegui = nullptr;
-    bool conCoordinate = false;  ///< its arguments may be negative numbers, and no options
-    std::vector<DatoDetto> dati = {};
+    bool conCoordinate = false;        ///< its arguments may be negative numbers, and no options
+    std::vector<DatoDetto> dati = {};  ///< what it takes as nome=valore, in the order of the help
 };
 
 /// All verbs, in the order of the help.

@@ -14,6 +14,8 @@ namespace cronovia {
 
 /// An itinerary with its free rows, as the grid shows it.
 using RigheItinerario = std::vector<Tappa>;
+/// How many an archive can hold: their sequence has four digits.
+inline constexpr int kMassimoTappe = 9999;
 
 /// Number of the last row that holds a stage; 0 for an empty itinerary.
 int NumeroTappe(std::span<const Tappa> righe);

@@ -13,6 +13,7 @@
 #include "exchange/iei/mappa_codici.h"
 #include "exchange/nomi_presenti.h"
 #include "interaction/failure.h"
+#include "itinerary/modifiche.h"
 #include "itinerary/vincoli.h"
 #include "trips/mete.h"
 
@@ -23,8 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype kMassimoLocalitaRicordate = 10'000;
-
-constexpr int kMassimoTappe = 9999;
 
 // Zeros in front go; what is left is not cut.
 bool SequenzaInQuattroCifre(QString& sequenza) {

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numbers>
 #include <span>
 
@@ -182,15 +183,14 @@ PercorsoNavigatore TappeDelNavigatore(const FileNavigatore& file, Gazzettino& ga
 }
 
 std::optional<PercorsoNavigatore> LeggiPercorsoNavigatore(const QString& path, Gazzettino& gazzettino) {
-    constexpr std::size_t kMassimoTappePercorso = 9999;
     const std::optional<FileNavigatore> file = LeggiNavigatore(path);
     if (!file) return std::nullopt;
     PercorsoNavigatore percorso = TappeDelNavigatore(*file, gazzettino);
     const QString nome = QDir::toNativeSeparators(path);
     if (percorso.tappe.empty()) throw Failure(u"Nel percorso del file %1 non c'è nessuna tappa."_s.arg(nome));
-    if (percorso.tappe.size() > kMassimoTappePercorso) {
+    if (std::ssize(percorso.tappe) > kMassimoTappe) {
         throw Failure(u"Il percorso del file %1 ha più di %2 tappe: un itinerario non può contenerle."_s.arg(
-            nome, Raggruppa(kMassimoTappePercorso)));
+            nome, Raggruppa(kMassimoTappe)));
     }
     return percorso;
 }

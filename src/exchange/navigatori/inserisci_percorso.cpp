@@ -2,6 +2,7 @@
 #include "exchange/navigatori/inserisci_percorso.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 #include "calendar/testo.h"
@@ -14,8 +15,6 @@ namespace cronovia {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::size_t kMassimeRighe = 9999;
 
 QString NomeLuogo(const Tappa& tappa) { return tappa.localita.trimmed(); }
 
@@ -99,9 +98,9 @@ PercorsoInserito InserisciPercorso(const RichiestaInserisciPercorso& richiesta) 
         conSeguente && !nuove.empty() && StessaLocalita(nuove.back(), NomeLuogo(richiesta.righe[dopo]));
     const Tappa ultima = nuove.empty() ? Tappa() : nuove.back();
     if (inserito.ultimaUnita) nuove.pop_back();
-    if (richiesta.righe.size() + nuove.size() > kMassimeRighe) {
+    if (std::ssize(richiesta.righe) + std::ssize(nuove) > kMassimoTappe) {
         throw Failure(u"Con questo percorso l'itinerario avrebbe più di %1 tappe: non può contenerle."_s.arg(
-            Raggruppa(static_cast<std::int64_t>(kMassimeRighe))));
+            Raggruppa(kMassimoTappe)));
     }
     inserito.esito = InserisciRighe(richiesta.righe, richiesta.dove, nuove, inserito.primaUnita ? prima : QString());
     RigheItinerario& righe = inserito.esito.righe;

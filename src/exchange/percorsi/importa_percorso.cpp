@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "calendar/testo.h"
@@ -19,7 +20,6 @@ namespace {
 
 constexpr qint64 kMinimoByte = 151;
 constexpr int kRigheIntestazione = 16;
-constexpr std::size_t kMassimoTappe = 9999;
 constexpr Durata kSostaTraghetto{0, 2, 0};
 
 // Goes to the header, which is among the first lines or nowhere.
@@ -70,7 +70,7 @@ std::optional<RigheItinerario> LeggiPercorso(QIODevice& device, const QString& p
     if (device.size() < kMinimoByte) return std::nullopt;
     RigheItinerario tappe;
     const auto destinazione = [&](const TappaLetta& letta) {
-        if (tappe.size() == kMassimoTappe) {
+        if (std::ssize(tappe) == kMassimoTappe) {
             throw Failure(u"Il percorso del file %1 ha più di %2 tappe: un itinerario non può contenerle."_s.arg(
                 QDir::toNativeSeparators(path), Raggruppa(kMassimoTappe)));
         }

@@ -12,7 +12,7 @@ namespace {
 
 enum Valore { kData, kOra, kPrimoPrezzo };
 
-std::vector<GruppoModulo> GruppiDelRientro() {
+std::vector<GruppoModulo> GruppiDellaScadenza() {
     const auto prezzo = [](int quale, const QString& nome, const QString& scritta, const QString& esempio) {
         return std::vector{CampoModulo{kPrimoPrezzo + quale, nome, scritta, 8, 8, scritta, esempio}};
     };
@@ -27,18 +27,18 @@ std::vector<GruppoModulo> GruppiDelRientro() {
               prezzo(3, u"txtPrezzoNotti"_s, u"Notte: euro per ogni notte"_s, u"es. 25,00"_s)}}};
 }
 
-struct RientroLetto {
+struct ScadenzaLetta {
     Meta meta;
     std::optional<std::pair<int, QString>> difetto = {};
 };
 
-RientroLetto LeggiRientro(Meta meta, const std::vector<QString>& testi) {
+ScadenzaLetta LeggiScadenza(Meta meta, const std::vector<QString>& testi) {
     const QString& data = testi[kData];
     const QString& ora = testi[kOra];
     const std::optional<NumeroGiorno> giorno = LeggiDataDigitata(data);
     const std::optional<int> minuti = LeggiMinutiDigitati(ora);
     const auto rifiuto = [&](int campo, const QString& messaggio) {
-        return RientroLetto{meta, std::pair(campo, messaggio)};
+        return ScadenzaLetta{meta, std::pair(campo, messaggio)};
     };
     meta.scadenza.reset();
     if (!data.isEmpty() || !ora.isEmpty()) {
@@ -70,11 +70,11 @@ std::optional<Meta> ChiediScadenza(QWidget& finestra, const Meta& meta) {
         valori[kOra] = TestoMinuti(meta.scadenza->Ora().Minuti());
     }
     for (const QString& testo : TestiDeiPrezzi(meta.prezzi)) valori.push_back(testo);
-    const auto difetto = [&](const std::vector<QString>& testi) { return LeggiRientro(meta, testi).difetto; };
+    const auto difetto = [&](const std::vector<QString>& testi) { return LeggiScadenza(meta, testi).difetto; };
     const auto testi = ChiediModulo(
         finestra, {u"A casa entro, e costi del viaggio"_s, u"Tutto è facoltativo: lascia vuoto ciò che non ti serve."_s,
-                   GruppiDelRientro(), valori, difetto});
-    return testi ? std::optional(LeggiRientro(meta, *testi).meta) : std::nullopt;
+                   GruppiDellaScadenza(), valori, difetto});
+    return testi ? std::optional(LeggiScadenza(meta, *testi).meta) : std::nullopt;
 }
 
 }  // namespace cronovia
